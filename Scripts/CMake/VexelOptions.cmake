@@ -1,0 +1,31 @@
+# What every target is built with.
+find_program(VEXEL_CCACHE ccache)
+if(VEXEL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
+	# The precompiled header's own time stamps and macros do not change what is compiled from it.
+	set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${VEXEL_CCACHE})
+endif()
+
+add_library(vexel_options INTERFACE)
+target_compile_options(vexel_options INTERFACE -Wall -Wextra -Werror -Wno-unused-parameter -Wnon-virtual-dtor -Woverloaded-virtual
+	-fno-strict-aliasing -fno-semantic-interposition)
+# Reflection reads offsets of members of types with base classes, which both compilers support.
+target_compile_options(vexel_options INTERFACE -Wno-invalid-offsetof)
+if(CMAKE_CXX_COMPILER_ID STREQUAL GNU)
+	# A precompiled header must not depend on where the build stands, or the compiler cache never hits.
+	target_compile_options(vexel_options INTERFACE -fpch-preprocess)
+endif()
+target_compile_definitions(vexel_options INTERFACE $<$<CONFIG:Debug>:UE_BUILD_DEBUG=1>)
+
+if(VEXEL_SANITIZE)
+	add_compile_options(-fsanitize=${VEXEL_SANITIZE} -fno-omit-frame-pointer -g1)
+	add_link_options(-fsanitize=${VEXEL_SANITIZE})
+else()
+	# A shared library that uses a module outside its floors fails to link. Sanitized libraries cannot be linked so strictly,
+	# because the sanitizer's symbols are in the program.
+	set(VEXEL_NO_UNDEFINED -Wl,-z,defs)
+endif()
+
+find_program(VEXEL_MOLD mold)
+if(VEXEL_MOLD)
+	add_link_options(-fuse-ld=mold)
+endif()
