@@ -1,0 +1,18 @@
+#pragma once
+
+#include "Math/Box.h"
+#include "Math/Box2D.h"
+#include "Math/Color.h"
+#include "Math/IntPoint.h"
+#include "Math/IntVector.h"
+#include "Math/Interval.h"
+#include "Math/Matrix.h"
+#include "Math/Plane.h"
+#include "Math/Quat.h"
+#include "Math/RandomStream.h"
+#include "Math/Rotator.h"
+#include "Math/Transform.h"
+#include "Math/UnrealMathUtility.h"
+#include "Math/Vector.h"
+#include "Math/Vector2D.h"
+#include "Math/Vector4.h"

@@ -1,0 +1,3 @@
+#pragma once
+
+#include "Misc/OutputDevice.h"

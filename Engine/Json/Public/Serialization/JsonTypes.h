@@ -1,0 +1,33 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+/** What a JSON value is. */
+enum class EJson
+{
+	None,
+	Null,
+	String,
+	Number,
+	Boolean,
+	Array,
+	Object
+};
+
+/** Tokens of a writer, by which the print policies place blanks and commas. */
+enum class EJsonToken
+{
+	None,
+	Comma,
+	CurlyOpen,
+	CurlyClose,
+	SquareOpen,
+	SquareClose,
+	Colon,
+	String,
+	Number,
+	True,
+	False,
+	Null,
+	Identifier
+};
