@@ -1,0 +1,83 @@
+#include "UObject/Linker.h"
+
+#include "UObject/LinkerLoad.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+
+const FObjectResource* FLinker::FindResource(FPackageIndex Index) const
+{
+	if (Index.IsExport() && ExportMap.IsValidIndex(Index.ToExport()))
+	{
+		return &ExportMap[Index.ToExport()];
+	}
+	return Index.IsImport() && ImportMap.IsValidIndex(Index.ToImport()) ? &ImportMap[Index.ToImport()] : nullptr;
+}
+
+FName FLinker::GetObjectName(FPackageIndex Index) const
+{
+	const FObjectResource* const Resource = FindResource(Index);
+	return Resource ? Resource->ObjectName : FName();
+}
+
+FString FLinker::GetRootName() const
+{
+	return LinkerRoot ? LinkerRoot->GetName() : Summary.PackageName;
+}
+
+FString FLinker::GetPathName(FPackageIndex Index) const
+{
+	TArray<FString> Parts;
+	FPackageIndex Current = Index;
+	const int32 MaxDepth = ExportMap.Num() + ImportMap.Num();
+	for (const FObjectResource* Resource = FindResource(Current); Resource && Parts.Num() <= MaxDepth; Resource = FindResource(Current))
+	{
+		Parts.Insert(Resource->ObjectName.ToString(), 0);
+		Current = Resource->OuterIndex;
+	}
+	if (Index.IsExport())
+	{
+		Parts.Insert(GetRootName(), 0);
+	}
+	// Package.Asset:Inner.Inner
+	FString Path;
+	for (int32 Part = 0; Part < Parts.Num(); ++Part)
+	{
+		Path += Part == 0 ? TEXT("") : Part == 2 ? TEXT(":")
+												 : TEXT(".");
+		Path += Parts[Part];
+	}
+	return Path;
+}
+
+FName FLinker::GetExportClassName(int32 ExportIndex) const
+{
+	const FPackageIndex ClassIndex = ExportMap[ExportIndex].ClassIndex;
+	return ClassIndex.IsNull() ? FName(TEXT("Class")) : GetObjectName(ClassIndex);
+}
+
+FTopLevelAssetPath FLinker::GetExportClassPath(int32 ExportIndex) const
+{
+	const FPackageIndex ClassIndex = ExportMap[ExportIndex].ClassIndex;
+	return ClassIndex.IsNull() ? FTopLevelAssetPath(TEXT("/Script/CoreUObject"), TEXT("Class")) : FTopLevelAssetPath(GetPathName(ClassIndex));
+}
+
+FTopLevelAssetPath FLinker::GetImportClassPath(int32 ImportIndex) const
+{
+	return FTopLevelAssetPath(ImportMap[ImportIndex].ClassPackage, ImportMap[ImportIndex].ClassName);
+}
+
+FLinkerLoad* GetPackageLinker(UPackage* Package, const TCHAR* LongPackageName, uint32 LoadFlags)
+{
+	UPackage* const Loaded = Package || !LongPackageName ? Package : LoadPackage(nullptr, LongPackageName, LoadFlags);
+	return Loaded ? Loaded->GetLinker() : nullptr;
+}
+
+void ResetLoaders(UObject* Object)
+{
+	UPackage* const Package = Object ? Object->GetOutermost() : nullptr;
+	if (FLinkerLoad* const Linker = Package ? Package->GetLinker() : nullptr)
+	{
+		Package->SetLinker(nullptr);
+		delete Linker;
+	}
+}

@@ -1,0 +1,407 @@
+#include "UObject/LinkerLoad.h"
+
+#include "UObject/Class.h"
+#include "UObject/LazyObjectPtr.h"
+#include "UObject/ObjectPtr.h"
+#include "UObject/Package.h"
+#include "UObject/PlaceholderObject.h"
+#include "UObject/SoftObjectPtr.h"
+#include "UObject/UObjectGlobals.h"
+
+namespace
+{
+/** Where classes stand whose own definition is not one that this host can read. */
+constexpr const TCHAR* UnreadableClassesPackage = TEXT("/Script/UnreadableClasses");
+
+/** Sets the range of the file that reads may touch, and puts position and range back. */
+class FReadWindow
+{
+public:
+	FReadWindow(int64& InPosition, int64& InLimit, int64 NewPosition, int64 NewLimit)
+		: Position(InPosition)
+		, Limit(InLimit)
+		, OldPosition(InPosition)
+		, OldLimit(InLimit)
+	{
+		Position = NewPosition;
+		Limit = NewLimit;
+	}
+	~FReadWindow()
+	{
+		Position = OldPosition;
+		Limit = OldLimit;
+	}
+
+private:
+	int64& Position;
+	int64& Limit;
+	int64 OldPosition;
+	int64 OldLimit;
+};
+}
+
+void FLinkerLoad::Seek(int64 InPos)
+{
+	if (InPos < 0 || InPos > Limit)
+	{
+		SetError();
+		return;
+	}
+	Position = InPos;
+}
+
+void FLinkerLoad::Serialize(void* Data, int64 Length)
+{
+	if (Length < 0 || Length > Limit - Position)
+	{
+		SetError();
+	}
+	if (IsError())
+	{
+		FMemory::Memzero(Data, FMath::Max<int64>(Length, 0));
+		return;
+	}
+	FMemory::Memcpy(Data, Bytes.GetData() + Position, Length);
+	Position += Length;
+}
+
+void FLinkerLoad::SetError()
+{
+	ErrorPosition = IsError() ? ErrorPosition : Position;
+	FArchive::SetError();
+}
+
+FArchive& FLinkerLoad::operator<<(FName& Value)
+{
+	int32 Index = 0;
+	int32 Number = 0;
+	FArchive& Ar = *this;
+	const int64 Start = Position;
+	Ar << Index << Number;
+	if (IsError() || !NameMap.IsValidIndex(Index) || Number < 0)
+	{
+		Position = IsError() ? Position : Start;
+		SetError();
+		Value = FName();
+		return *this;
+	}
+	Value = FName(NameMap[Index], Number);
+	return *this;
+}
+
+FArchive& FLinkerLoad::operator<<(UObject*& Value)
+{
+	FPackageIndex Index;
+	FArchive& Ar = *this;
+	const int64 Start = Position;
+	Ar << Index;
+	if (IsError() || (!Index.IsNull() && !FindResource(Index)))
+	{
+		Position = IsError() ? Position : Start;
+		SetError();
+		Value = nullptr;
+		return *this;
+	}
+	Value = IndexToObject(Index);
+	return *this;
+}
+
+FArchive& FLinkerLoad::operator<<(FObjectPtr& Value)
+{
+	UObject* Object = nullptr;
+	*this << Object;
+	Value = FObjectPtr(Object);
+	return *this;
+}
+
+FArchive& FLinkerLoad::operator<<(FLazyObjectPtr& Value)
+{
+	FUniqueObjectGuid Guid;
+	FArchive& Ar = *this;
+	Ar << Guid;
+	Value = Guid;
+	return *this;
+}
+
+FArchive& FLinkerLoad::operator<<(FSoftObjectPath& Value)
+{
+	if (UEVer() < EUnrealEngineObjectUE5Version::ADD_SOFTOBJECTPATH_LIST || SoftObjectPathList.IsEmpty())
+	{
+		Value.SerializePath(*this);
+		return *this;
+	}
+	int32 Index = 0;
+	FArchive& Ar = *this;
+	const int64 Start = Position;
+	Ar << Index;
+	if (IsError() || !SoftObjectPathList.IsValidIndex(Index))
+	{
+		Position = IsError() ? Position : Start;
+		SetError();
+		Value.Reset();
+		return *this;
+	}
+	Value = SoftObjectPathList[Index];
+	return *this;
+}
+
+FArchive& FLinkerLoad::operator<<(FSoftObjectPtr& Value)
+{
+	FSoftObjectPath Path;
+	*this << Path;
+	Value = Path;
+	return *this;
+}
+
+FArchive& FLinkerLoad::operator<<(FWeakObjectPtr& Value)
+{
+	UObject* Object = nullptr;
+	*this << Object;
+	Value = Object;
+	return *this;
+}
+
+TArrayView<const uint8> FLinkerLoad::GetExportBytes(int32 ExportIndex) const
+{
+	const FObjectExport& Export = ExportMap[ExportIndex];
+	return TArrayView<const uint8>(Bytes.GetData() + Export.SerialOffset, static_cast<int32>(Export.SerialSize));
+}
+
+int32 FLinkerLoad::FindExportIndex(const FString& PathName) const
+{
+	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
+	{
+		if (GetExportPathName(Index) == PathName)
+		{
+			return Index;
+		}
+	}
+	return INDEX_NONE;
+}
+
+int32 FLinkerLoad::FindExportOf(const UObject* Object) const
+{
+	return ExportMap.IndexOfByPredicate([Object](const FObjectExport& Export)
+		{ return Export.Object.Get() == Object; });
+}
+
+UObject* FLinkerLoad::IndexToObject(FPackageIndex Index)
+{
+	if (Index.IsExport())
+	{
+		return CreateExport(Index.ToExport());
+	}
+	return Index.IsImport() ? CreateImport(Index.ToImport()) : nullptr;
+}
+
+UClass* FLinkerLoad::FindExportClass(int32 ExportIndex)
+{
+	const FPackageIndex ClassIndex = ExportMap[ExportIndex].ClassIndex;
+	if (ClassIndex.IsNull())
+	{
+		return UClass::StaticClass();
+	}
+	UObject* const Object = IndexToObject(ClassIndex);
+	UClass* const Class = Object && Object->IsA(UClass::StaticClass()) ? static_cast<UClass*>(Object) : nullptr;
+	if (Class)
+	{
+		Preload(Class);
+		return Class;
+	}
+	return UE::CoreUObject::FindOrCreatePlaceholderClass(FTopLevelAssetPath(FName(UnreadableClassesPackage), GetExportClassName(ExportIndex)));
+}
+
+UObject* FLinkerLoad::FindOuterOfExport(int32 ExportIndex)
+{
+	const FPackageIndex OuterIndex = ExportMap[ExportIndex].OuterIndex;
+	return OuterIndex.IsNull() ? LinkerRoot : IndexToObject(OuterIndex);
+}
+
+UObject* FLinkerLoad::MakeExportObject(int32 ExportIndex, UClass* Class, UObject* Outer)
+{
+	const FObjectExport& Export = ExportMap[ExportIndex];
+	const EObjectFlags Flags = static_cast<EObjectFlags>((Export.ObjectFlags & RF_Load) | RF_NeedLoad | RF_NeedPostLoad | RF_WasLoaded);
+	const bool bIsDefaultObject = (Export.ObjectFlags & RF_ClassDefaultObject) != 0;
+	if (bIsDefaultObject && Class->GetDefaultObjectName() == Export.ObjectName)
+	{
+		UObject* const DefaultObject = Class->GetDefaultObject();
+		DefaultObject->SetFlags(Flags);
+		return DefaultObject;
+	}
+	// A part that the outer's constructor made is the one to fill.
+	if (UObject* const Existing = StaticFindObjectFast(nullptr, Outer, Export.ObjectName); Existing && Existing->GetClass() == Class)
+	{
+		Existing->SetFlags(Flags);
+		return Existing;
+	}
+	FStaticConstructObjectParameters Params(Class);
+	Params.Outer = Outer;
+	Params.Name = Export.ObjectName;
+	Params.SetFlags = Flags;
+	// A stand-in's class is abstract, to keep others from making instances; a template lets this one be made.
+	Params.Template = UE::CoreUObject::IsPlaceholder(Class) ? Class->GetDefaultObject() : nullptr;
+	return StaticConstructObject_Internal(Params);
+}
+
+UObject* FLinkerLoad::CreateExport(int32 ExportIndex)
+{
+	if (!ExportMap.IsValidIndex(ExportIndex) || !LinkerRoot)
+	{
+		return nullptr;
+	}
+	if (ExportMap[ExportIndex].Object.Get() || ExportsInCreation.Contains(ExportIndex))
+	{
+		return ExportMap[ExportIndex].Object.Get();
+	}
+	ExportsInCreation.Add(ExportIndex);
+	UClass* const Class = FindExportClass(ExportIndex);
+	if (UObject* const Super = IndexToObject(ExportMap[ExportIndex].SuperIndex))
+	{
+		Preload(Super);
+	}
+	UObject* const Outer = FindOuterOfExport(ExportIndex);
+	// Making the class or the outer may have made this one.
+	if (!ExportMap[ExportIndex].Object.Get() && Class && Outer)
+	{
+		ExportMap[ExportIndex].Object = MakeExportObject(ExportIndex, Class, Outer);
+	}
+	ExportsInCreation.Remove(ExportIndex);
+	if (!ExportMap[ExportIndex].Object.Get())
+	{
+		Errors.Add(FString::Printf(TEXT("export %d (%s) of class %s cannot be made"), ExportIndex, *GetExportPathName(ExportIndex), *GetExportClassPath(ExportIndex).ToString()));
+		MarkKeptBytes();
+	}
+	return ExportMap[ExportIndex].Object.Get();
+}
+
+UObject* FLinkerLoad::FindImportInPackage(int32 ImportIndex, const FString& Path)
+{
+	FPackageIndex Outermost = FPackageIndex::FromImport(ImportIndex);
+	for (int32 Depth = 0; Depth <= ImportMap.Num(); ++Depth)
+	{
+		const FObjectResource* const Resource = FindResource(Outermost);
+		if (!Resource || Resource->OuterIndex.IsNull())
+		{
+			break;
+		}
+		Outermost = Resource->OuterIndex;
+	}
+	const FObjectImport& Import = ImportMap[ImportIndex];
+	const FName PackageName = Import.PackageName.IsNone() ? GetObjectName(Outermost) : Import.PackageName;
+	const FString PackageText = PackageName.ToString();
+	UClass* const AnyClass = nullptr;
+	UObject* Found = StaticFindObject(AnyClass, nullptr, *Path);
+	if (Found || PackageText.StartsWith(TEXT("/Script/")))
+	{
+		return Found;
+	}
+	UPackage* const Package = LoadPackage(nullptr, *PackageText, LOAD_NoWarn | LOAD_Quiet);
+	Found = Package ? StaticFindObject(AnyClass, nullptr, *Path) : nullptr;
+	if (Found || !Package || !Package->GetLinker())
+	{
+		return Found;
+	}
+	// The other package is being loaded at present and has not come to this object.
+	FLinkerLoad* const Other = Package->GetLinker();
+	const int32 ExportIndex = Other->FindExportIndex(Path);
+	return ExportIndex == INDEX_NONE ? nullptr : Other->CreateExport(ExportIndex);
+}
+
+UObject* FLinkerLoad::CreateImport(int32 ImportIndex)
+{
+	if (!ImportMap.IsValidIndex(ImportIndex) || ImportMap[ImportIndex].XObject.Get() || ImportsInCreation.Contains(ImportIndex))
+	{
+		return ImportMap.IsValidIndex(ImportIndex) ? ImportMap[ImportIndex].XObject.Get() : nullptr;
+	}
+	ImportsInCreation.Add(ImportIndex);
+	const FString Path = GetImportPathName(ImportIndex);
+	UObject* Object = FindImportInPackage(ImportIndex, Path);
+	if (!Object)
+	{
+		Object = UE::CoreUObject::FindOrCreatePlaceholder(GetImportClassPath(ImportIndex), Path);
+	}
+	ImportMap[ImportIndex].XObject = Object;
+	ImportsInCreation.Remove(ImportIndex);
+	return Object;
+}
+
+void FLinkerLoad::Preload(UObject* Object)
+{
+	if (!Object || !Object->HasAnyFlags(RF_NeedLoad))
+	{
+		return;
+	}
+	const int32 ExportIndex = FindExportOf(Object);
+	if (ExportIndex != INDEX_NONE)
+	{
+		ReadExport(ExportIndex);
+	}
+	else if (FLinkerLoad* const Other = Object->GetOutermost()->GetLinker(); Other && Other != this)
+	{
+		Other->Preload(Object);
+	}
+}
+
+void FLinkerLoad::ReadExport(int32 ExportIndex)
+{
+	UObject* const Object = ExportMap[ExportIndex].Object.Get();
+	if (!Object || ReadExports.Contains(ExportIndex))
+	{
+		return;
+	}
+	ReadExports.Add(ExportIndex);
+	Object->ClearFlags(RF_NeedLoad);
+	if (UObject* const Outer = Object->GetOuter(); Outer && Outer->HasAnyFlags(RF_ClassDefaultObject))
+	{
+		Preload(Outer);
+	}
+	const int64 Start = ExportMap[ExportIndex].SerialOffset;
+	const int64 End = Start + ExportMap[ExportIndex].SerialSize;
+	const FReadWindow Window(Position, Limit, Start, End);
+	const bool bClassIsUnknown = UE::CoreUObject::IsPlaceholder(Object->GetClass());
+	Object->Serialize(*this);
+	if (IsError() || bClassIsUnknown)
+	{
+		if (IsError() && !bClassIsUnknown)
+		{
+			Errors.Add(FString::Printf(TEXT("export %d (%s) of class %s is damaged at offset %lld"), ExportIndex, *GetExportPathName(ExportIndex), *GetExportClassName(ExportIndex).ToString(), static_cast<long long>(ErrorPosition)));
+			UE_LOG(LogClass, Error, TEXT("%s: %s"), *Filename, *Errors.Last());
+		}
+		ClearError();
+		OpaqueObjects.Add(FWeakObjectPtr(Object));
+		MarkKeptBytes();
+	}
+	else if (Position < End)
+	{
+		UnreadTails.Add(FWeakObjectPtr(Object), TArray<uint8>(Bytes.GetData() + Position, static_cast<int32>(End - Position)));
+		MarkKeptBytes();
+	}
+}
+
+void FLinkerLoad::LoadAllObjects()
+{
+	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
+	{
+		CreateExport(Index);
+	}
+	// Classes and structs first: their instances need them whole.
+	for (const bool bStructs : {true, false})
+	{
+		for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
+		{
+			const UObject* const Object = ExportMap[Index].Object.Get();
+			if (Object && Object->IsA(UField::StaticClass()) == bStructs)
+			{
+				ReadExport(Index);
+			}
+		}
+	}
+	LoadMetaData();
+	for (const FObjectExport& Export : ExportMap)
+	{
+		if (UObject* const Object = Export.Object.Get())
+		{
+			Object->ConditionalPostLoad();
+		}
+	}
+}

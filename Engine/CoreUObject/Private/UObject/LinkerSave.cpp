@@ -1,0 +1,350 @@
+#include "UObject/LinkerSave.h"
+
+#include "UObject/Casts.h"
+#include "UObject/Class.h"
+#include "UObject/LazyObjectPtr.h"
+#include "UObject/LinkerLoad.h"
+#include "UObject/ObjectPtr.h"
+#include "UObject/ObjectRedirector.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/SoftObjectPtr.h"
+
+namespace
+{
+FName GetPlainName(const FName& Name)
+{
+	return FName(Name, NAME_NO_NUMBER_INTERNAL);
+}
+}
+
+FLinkerSave::FLinkerSave(UPackage* Package, const FString& InFilename)
+{
+	LinkerRoot = Package;
+	Filename = InFilename;
+	SetIsSaving(true);
+	SetIsPersistent(true);
+	SetUEVer(GPackageFileUEVersion);
+	Summary.PackageName = Package->GetName();
+	// Entry 0 is None's and the package's own, as readers that list names expect to find both.
+	MapName(NAME_None);
+	MapName(Package->GetFName());
+}
+
+void FLinkerSave::StartFromTablesOf(const FLinkerLoad& Loaded)
+{
+	Origin = &Loaded;
+	NameMap.Empty();
+	NameIndices.Empty();
+	for (const FName& Name : Loaded.NameMap)
+	{
+		if (Name.GetNumber() == 0)
+		{
+			NameIndices.FindOrAdd(Name.GetDisplayIndex(), NameMap.Num());
+		}
+		NameMap.Add(Name);
+	}
+	for (const FObjectImport& Import : Loaded.ImportMap)
+	{
+		FObjectImport& Copy = ImportMap.Add_GetRef(Import);
+		MapName(Copy.ClassPackage);
+		MapName(Copy.ClassName);
+		MapName(Copy.ObjectName);
+		MapName(Copy.PackageName);
+		if (UObject* const Object = Copy.XObject.Get())
+		{
+			ObjectIndices.FindOrAdd(Object, FPackageIndex::FromImport(ImportMap.Num() - 1));
+		}
+	}
+	for (const FObjectExport& Export : Loaded.ExportMap)
+	{
+		ExportMap.Add(Export);
+		if (UObject* const Object = Export.Object.Get())
+		{
+			ObjectIndices.Add(Object, FPackageIndex::FromExport(ExportMap.Num() - 1));
+		}
+	}
+	for (const FSoftObjectPath& Path : Loaded.SoftObjectPathList)
+	{
+		SoftPathIndices.FindOrAdd(Path, SoftObjectPathList.Num());
+		SoftObjectPathList.Add(Path);
+	}
+	Summary.LocalizationId = Loaded.Summary.LocalizationId;
+	for (const FCustomVersion& Version : Loaded.Summary.CustomVersions.GetAllVersions())
+	{
+		SetCustomVersion(Version.Key, Version.Version, Version.GetFriendlyName());
+	}
+}
+
+void FLinkerSave::Seek(int64 InPos)
+{
+	if (InPos < 0 || InPos > Payload.Num())
+	{
+		SetError();
+		return;
+	}
+	Position = InPos;
+}
+
+void FLinkerSave::Serialize(void* Data, int64 Length)
+{
+	if (Length <= 0 || IsError())
+	{
+		return;
+	}
+	if (Position + Length > MAX_int32)
+	{
+		SetError();
+		return;
+	}
+	if (Position + Length > Payload.Num())
+	{
+		Payload.AddUninitialized(static_cast<int32>(Position + Length - Payload.Num()));
+	}
+	FMemory::Memcpy(Payload.GetData() + Position, Data, Length);
+	Position += Length;
+}
+
+void FLinkerSave::UsingCustomVersion(const FGuid& Guid)
+{
+	FArchive::UsingCustomVersion(Guid);
+	Summary.CustomVersions = GetCustomVersions();
+}
+
+int32 FLinkerSave::MapName(const FName& Name)
+{
+	const FName Plain = GetPlainName(Name);
+	if (const int32* const Found = NameIndices.Find(Plain.GetDisplayIndex()))
+	{
+		return *Found;
+	}
+	NameIndices.Add(Plain.GetDisplayIndex(), NameMap.Num());
+	return NameMap.Add(Plain);
+}
+
+bool FLinkerSave::IsSaved(const UObject* Object) const
+{
+	if (!Object->IsIn(LinkerRoot))
+	{
+		return IsValid(Object) && Object->GetOutermost() != GetTransientPackage();
+	}
+	for (const UObject* Outer = Object; Outer; Outer = Outer->GetOuter())
+	{
+		// An object of a class that is not saved could not be made again: a skeleton class's default object.
+		const UClass* const Class = Outer->GetClass();
+		const bool bTransientClass = Class->HasAnyFlags(RF_Transient) && Class->IsIn(LinkerRoot);
+		if (Outer->HasAnyFlags(RF_Transient) || bTransientClass || !IsValid(Outer))
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+FPackageIndex FLinkerSave::MapObject(UObject* Object)
+{
+	if (!Object || !IsSaved(Object))
+	{
+		return FPackageIndex();
+	}
+	if (const FPackageIndex* const Found = ObjectIndices.Find(Object))
+	{
+		return *Found;
+	}
+	return Object->IsIn(LinkerRoot) ? AddExport(Object) : AddImport(Object);
+}
+
+FPackageIndex FLinkerSave::AddExport(UObject* Object)
+{
+	if (const FPackageIndex* const Found = ObjectIndices.Find(Object))
+	{
+		return *Found;
+	}
+	if (!IsSaved(Object) || !Object->IsIn(LinkerRoot))
+	{
+		return FPackageIndex();
+	}
+	if (Object->GetOuter() != LinkerRoot)
+	{
+		AddExport(Object->GetOuter());
+	}
+	if (const FPackageIndex* const Found = ObjectIndices.Find(Object))
+	{
+		return *Found;
+	}
+	const FPackageIndex Index = FPackageIndex::FromExport(ExportMap.Num());
+	ExportMap.AddDefaulted_GetRef().Object = Object;
+	ObjectIndices.Add(Object, Index);
+	return Index;
+}
+
+FPackageIndex FLinkerSave::AddImport(UObject* Object)
+{
+	if (Object == LinkerRoot)
+	{
+		return FPackageIndex();
+	}
+	const FPackageIndex Outer = Object->GetOuter() ? MapObject(Object->GetOuter()) : FPackageIndex();
+	FObjectImport Import;
+	Import.ObjectName = Object->GetFName();
+	Import.ClassName = Object->GetClass()->GetFName();
+	Import.ClassPackage = Object->GetClass()->GetOutermost()->GetFName();
+	Import.OuterIndex = Outer;
+	Import.XObject = Object;
+	MapName(Import.ObjectName);
+	MapName(Import.ClassName);
+	MapName(Import.ClassPackage);
+	const FPackageIndex Index = FPackageIndex::FromImport(ImportMap.Add(Import));
+	ObjectIndices.Add(Object, Index);
+	return Index;
+}
+
+FArchive& FLinkerSave::operator<<(FName& Value)
+{
+	int32 Index = MapName(Value);
+	int32 Number = Value.GetNumber();
+	FArchive& Ar = *this;
+	return Ar << Index << Number;
+}
+
+FArchive& FLinkerSave::operator<<(UObject*& Value)
+{
+	FPackageIndex Index = MapObject(Value);
+	FArchive& Ar = *this;
+	return Ar << Index;
+}
+
+FArchive& FLinkerSave::operator<<(FObjectPtr& Value)
+{
+	return *this << Value.GetRaw();
+}
+
+FArchive& FLinkerSave::operator<<(FLazyObjectPtr& Value)
+{
+	FUniqueObjectGuid Guid = Value.GetUniqueID();
+	FArchive& Ar = *this;
+	return Ar << Guid;
+}
+
+FArchive& FLinkerSave::operator<<(FSoftObjectPath& Value)
+{
+	int32 Index = SoftObjectPathList.Num();
+	if (const int32* const Found = SoftPathIndices.Find(Value))
+	{
+		Index = *Found;
+	}
+	else
+	{
+		SoftPathIndices.Add(Value, Index);
+		SoftObjectPathList.Add(Value);
+	}
+	FArchive& Ar = *this;
+	return Ar << Index;
+}
+
+FArchive& FLinkerSave::operator<<(FSoftObjectPtr& Value)
+{
+	return *this << Value.GetUniqueID();
+}
+
+FArchive& FLinkerSave::operator<<(FWeakObjectPtr& Value)
+{
+	UObject* Object = Value.Get();
+	return *this << Object;
+}
+
+void FLinkerSave::MarkScriptSerializationStart(const UObject* Object)
+{
+	if (ExportInWork != INDEX_NONE && ExportMap[ExportInWork].Object.Get() == Object)
+	{
+		ExportMap[ExportInWork].ScriptSerializationStartOffset = Position - ExportMap[ExportInWork].SerialOffset;
+	}
+}
+
+void FLinkerSave::MarkScriptSerializationEnd(const UObject* Object)
+{
+	if (ExportInWork != INDEX_NONE && ExportMap[ExportInWork].Object.Get() == Object)
+	{
+		ExportMap[ExportInWork].ScriptSerializationEndOffset = Position - ExportMap[ExportInWork].SerialOffset;
+	}
+}
+
+void FLinkerSave::WriteExport(int32 ExportIndex)
+{
+	UObject* const Object = ExportMap[ExportIndex].Object.Get();
+	const int64 Start = Payload.Num();
+	Position = Start;
+	ExportMap[ExportIndex].SerialOffset = Start;
+	const int32 OriginIndex = Origin && ExportIndex < Origin->ExportMap.Num() ? ExportIndex : INDEX_NONE;
+	if (OriginIndex != INDEX_NONE && Origin->IsDeleted(OriginIndex))
+	{
+		WriteDeletedExport(ExportIndex);
+		return;
+	}
+	const bool bKeepBytes = OriginIndex != INDEX_NONE && (!Object || Origin->MustKeepBytes(Object));
+	if (bKeepBytes)
+	{
+		const TArrayView<const uint8> Kept = Origin->GetExportBytes(OriginIndex);
+		Serialize(const_cast<uint8*>(Kept.GetData()), Kept.Num());
+		ExportMap[ExportIndex].SerialSize = Position - Start;
+		return;
+	}
+	FObjectExport Described;
+	Described.Object = Object;
+	Described.SerialOffset = Start;
+	Described.ObjectName = Object->GetFName();
+	Described.ObjectFlags = static_cast<EObjectFlags>(Object->GetFlags() & RF_Load);
+	Described.bIsAsset = Object->IsAsset();
+	Described.ClassIndex = Object->GetClass() == UClass::StaticClass() ? FPackageIndex() : MapObject(Object->GetClass());
+	Described.OuterIndex = MapObject(Object->GetOuter());
+	if (const UStruct* const Struct = Cast<UStruct>(Object))
+	{
+		Described.SuperIndex = MapObject(Struct->GetSuperStruct());
+	}
+	MapName(Described.ObjectName);
+	ExportMap[ExportIndex] = Described;
+	ExportInWork = ExportIndex;
+	Object->Serialize(*this);
+	ExportInWork = INDEX_NONE;
+	if (const TArray<uint8>* const Tail = Origin ? Origin->FindUnreadTail(Object) : nullptr)
+	{
+		Serialize(const_cast<uint8*>(Tail->GetData()), Tail->Num());
+	}
+	ExportMap[ExportIndex].SerialSize = Position - Start;
+}
+
+/** The entry's number is in use by bytes that are kept, so it stays, as a redirector to nothing. */
+void FLinkerSave::WriteDeletedExport(int32 ExportIndex)
+{
+	FObjectExport Redirector;
+	Redirector.ObjectName = ExportMap[ExportIndex].ObjectName;
+	Redirector.OuterIndex = ExportMap[ExportIndex].OuterIndex;
+	Redirector.ClassIndex = MapObject(UObjectRedirector::StaticClass());
+	Redirector.SerialOffset = Position;
+	uint8 Control = 0;
+	FName NoProperties;
+	bool bHasGuid = false;
+	FPackageIndex Destination;
+	FArchive& Ar = *this;
+	Ar << Control << NoProperties;
+	Redirector.ScriptSerializationEndOffset = Position - Redirector.SerialOffset;
+	Ar << bHasGuid << Destination;
+	Redirector.SerialSize = Position - Redirector.SerialOffset;
+	ExportMap[ExportIndex] = Redirector;
+}
+
+bool FLinkerSave::WriteExports(FString& OutError)
+{
+	// Writing one may add others at the end.
+	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
+	{
+		UObject* const Object = ExportMap[Index].Object.Get();
+		WriteExport(Index);
+		if (IsError())
+		{
+			OutError = FString::Printf(TEXT("%s cannot be written"), Object ? *Object->GetPathName() : *GetExportPathName(Index));
+			return false;
+		}
+	}
+	return true;
+}

@@ -1,0 +1,323 @@
+#include "UObject/PlaceholderObject.h"
+
+#include "UObject/Package.h"
+#include "UObject/UObjectHash.h"
+#include "UObject/UObjectIterator.h"
+#include "UObject/UnrealType.h"
+
+namespace
+{
+/** Stand-ins by index and serial number, so that a collected one is never mistaken for its successor. */
+TSet<FWeakObjectPtr>& GetStandIns()
+{
+	static TSet<FWeakObjectPtr>& StandIns = *new TSet<FWeakObjectPtr>;
+	return StandIns;
+}
+
+/** Stand-ins that were made as somebody's outer, of a class that nobody has named yet. */
+TSet<FWeakObjectPtr>& GetUnknownKinds()
+{
+	static TSet<FWeakObjectPtr>& Unknown = *new TSet<FWeakObjectPtr>;
+	return Unknown;
+}
+
+TArray<FString> SplitPath(const FString& Path)
+{
+	TArray<FString> Parts;
+	FString Part;
+	for (const TCHAR Character : Path)
+	{
+		if (Character == '.' || Character == ':')
+		{
+			Parts.Add(MoveTemp(Part));
+			Part.Reset();
+		}
+		else
+		{
+			Part.AppendChar(Character);
+		}
+	}
+	Parts.Add(MoveTemp(Part));
+	return Parts;
+}
+
+/** What a text form of a reference could not hold. A blank may stand in an asset's name, so it may stand here. */
+bool HasUnwritableCharacter(const FString& Part)
+{
+	for (const TCHAR Character : Part)
+	{
+		if (Character < TEXT(' ') || Character == TEXT('"') || Character == TEXT('\'') || Character == TEXT('\\'))
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+bool IsWellFormed(const TArray<FString>& Parts)
+{
+	constexpr int32 MaxDepth = 32;
+	if (Parts.Num() < 2 || Parts.Num() > MaxDepth || !Parts[0].StartsWith(TEXT("/")) || Parts[0].Contains(TEXT("//")))
+	{
+		return false;
+	}
+	for (const FString& Part : Parts)
+	{
+		if (Part.IsEmpty() || Part.Len() >= NAME_SIZE || Part.Equals(TEXT("None"), ESearchCase::IgnoreCase) || HasUnwritableCharacter(Part))
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
+void Remember(UObject* Object)
+{
+	GetStandIns().Add(FWeakObjectPtr(Object));
+}
+
+class FReferenceReplacer final : public FReferenceCollector
+{
+public:
+	explicit FReferenceReplacer(const TMap<UObject*, UObject*>& InReplacements)
+		: Replacements(InReplacements)
+	{
+	}
+
+protected:
+	void HandleObjectReference(UObject*& Object, const UObject* ReferencingObject, const FProperty* ReferencingProperty) override
+	{
+		if (UObject* const* const Replacement = Object ? Replacements.Find(Object) : nullptr)
+		{
+			Object = *Replacement;
+		}
+	}
+
+private:
+	const TMap<UObject*, UObject*>& Replacements;
+};
+
+void FinishStandInClass(UClass* Class, UClass* Super)
+{
+	Class->SetSuperStruct(Super);
+	Class->ClassFlags |= CLASS_Abstract | CLASS_NotPlaceable;
+	Class->ClassWithin = UObject::StaticClass();
+	Class->Bind();
+	Class->StaticLink(true);
+	Class->GetDefaultObject();
+	Remember(Class->GetDefaultObject());
+}
+
+UObject* MakeStandIn(UClass* Class, UObject* Outer, FName Name)
+{
+	if (Class->IsChildOf(UPackage::StaticClass()))
+	{
+		return nullptr;
+	}
+	// A class that cannot be made here, or that is abstract, is stood in for by its nearest class that can.
+	while (Class->HasAnyClassFlags(CLASS_Abstract) && Class->GetSuperClass())
+	{
+		if (UE::CoreUObject::IsPlaceholder(Class))
+		{
+			break;
+		}
+		Class = Class->GetSuperClass();
+	}
+	FStaticConstructObjectParameters Params(Class);
+	Params.Outer = Outer;
+	Params.Name = Name;
+	Params.SetFlags = static_cast<EObjectFlags>(RF_Public);
+	// A template lets an abstract class be made: nothing but its path matters here.
+	Params.Template = Class->GetDefaultObject();
+	UObject* const Object = StaticConstructObject_Internal(Params);
+	if (!Object)
+	{
+		return nullptr;
+	}
+	Remember(Object);
+	if (Object->IsA<UClass>())
+	{
+		FinishStandInClass(static_cast<UClass*>(Object), UObject::StaticClass());
+	}
+	else if (Object->IsA<UStruct>())
+	{
+		static_cast<UStruct*>(Object)->StaticLink(true);
+	}
+	return Object;
+}
+
+UObject* FindOrCreateOuter(const TArray<FString>& Parts)
+{
+	UPackage* Package = FindPackage(nullptr, *Parts[0]);
+	if (!Package)
+	{
+		Package = CreatePackage(*Parts[0]);
+		if (!Package)
+		{
+			return nullptr;
+		}
+		Remember(Package);
+	}
+	UObject* Outer = Package;
+	for (int32 Index = 1; Index + 1 < Parts.Num(); ++Index)
+	{
+		UObject* Next = StaticFindObjectFast(nullptr, Outer, FName(*Parts[Index]));
+		if (!Next)
+		{
+			Next = MakeStandIn(UObject::StaticClass(), Outer, FName(*Parts[Index]));
+			if (!Next)
+			{
+				return nullptr;
+			}
+			GetUnknownKinds().Add(FWeakObjectPtr(Next));
+		}
+		Outer = Next;
+	}
+	return Outer;
+}
+}
+
+namespace UE::CoreUObject
+{
+UObject* FindOrCreatePlaceholder(UClass* Class, const FString& ObjectPath)
+{
+	const TArray<FString> Parts = SplitPath(ObjectPath);
+	if (Parts.Num() == 1 && Class == UPackage::StaticClass() && ObjectPath.StartsWith(TEXT("/")) && ObjectPath.Len() < NAME_SIZE)
+	{
+		UPackage* Package = FindPackage(nullptr, *ObjectPath);
+		if (!Package)
+		{
+			Package = CreatePackage(*ObjectPath);
+			if (Package)
+			{
+				Remember(Package);
+			}
+		}
+		return Package;
+	}
+	if (!IsWellFormed(Parts))
+	{
+		return nullptr;
+	}
+	UObject* const Outer = FindOrCreateOuter(Parts);
+	if (!Outer)
+	{
+		return nullptr;
+	}
+	const FName Name(*Parts.Last());
+	UObject* const Existing = StaticFindObjectFast(nullptr, Outer, Name);
+	const bool bClassBecomesKnown = Existing && Class && GetUnknownKinds().Contains(FWeakObjectPtr(Existing));
+	if (Existing && !bClassBecomesKnown)
+	{
+		return Existing;
+	}
+	const FString DefaultPrefix(DEFAULT_OBJECT_PREFIX);
+	if (!Existing && Parts.Num() == 2 && Parts[1].StartsWith(DefaultPrefix))
+	{
+		// The default object of a missing class comes with the class.
+		FindOrCreatePlaceholderClass(FTopLevelAssetPath(FName(*Parts[0]), FName(*Parts[1].RightChop(DefaultPrefix.Len()))));
+		if (UObject* const Defaults = StaticFindObjectFast(nullptr, Outer, Name))
+		{
+			return Defaults;
+		}
+	}
+	UObject* const Made = MakeStandIn(Class ? Class : UObject::StaticClass(), Outer, Name);
+	if (Made && !Class)
+	{
+		GetUnknownKinds().Add(FWeakObjectPtr(Made));
+	}
+	return Made;
+}
+
+UObject* FindOrCreatePlaceholder(const FTopLevelAssetPath& ClassPath, const FString& ObjectPath)
+{
+	if (ClassPath.IsNull())
+	{
+		return FindOrCreatePlaceholder(static_cast<UClass*>(nullptr), ObjectPath);
+	}
+	UClass* Class = static_cast<UClass*>(StaticFindObject(UClass::StaticClass(), ClassPath));
+	if (!Class)
+	{
+		Class = FindOrCreatePlaceholderClass(ClassPath);
+	}
+	return Class ? FindOrCreatePlaceholder(Class, ObjectPath) : nullptr;
+}
+
+UClass* FindOrCreatePlaceholderClass(const FTopLevelAssetPath& ClassPath, UClass* SuperClass)
+{
+	UObject* const Object = FindOrCreatePlaceholder(UClass::StaticClass(), ClassPath.ToString());
+	UClass* const Class = Object && Object->IsA<UClass>() ? static_cast<UClass*>(Object) : nullptr;
+	if (Class && SuperClass && IsPlaceholder(Class) && Class->GetSuperClass() == UObject::StaticClass() && SuperClass != Class && !SuperClass->IsChildOf(Class))
+	{
+		// Its default object is only a name so far; the better parent's layout needs a new one.
+		if (UObject* const OldDefaults = Class->ClassDefaultObject)
+		{
+			OldDefaults->Rename(nullptr, GetTransientPackageAsObject(), REN_DoNotDirty | REN_NonTransactional | REN_ForceGlobalUnique);
+			OldDefaults->ClearFlags(RF_ClassDefaultObject);
+			Class->ClassDefaultObject = nullptr;
+		}
+		Class->ClassConstructor = nullptr;
+		Class->ClassAddReferencedObjects = nullptr;
+		FinishStandInClass(Class, SuperClass);
+	}
+	return Class;
+}
+
+bool IsPlaceholder(const UObject* Object)
+{
+	return Object && GUObjectArray.GetSerialNumber(static_cast<int32>(Object->GetUniqueID())) != 0 && GetStandIns().Contains(FWeakObjectPtr(Object));
+}
+
+void VacatePlaceholderName(UObject* Placeholder)
+{
+	Placeholder->Rename(*MakeUniqueObjectName(GetTransientPackageAsObject(), Placeholder->GetClass()).ToString(), GetTransientPackageAsObject(), REN_DoNotDirty | REN_NonTransactional | REN_DontCreateRedirectors);
+}
+
+void ReplacePlaceholder(UObject* Placeholder, UObject* RealObject)
+{
+	TArray<UObject*> Children;
+	GetObjectsWithOuter(Placeholder, Children, false);
+	for (UObject* const Child : Children)
+	{
+		if (!StaticFindObjectFast(nullptr, RealObject, Child->GetFName()))
+		{
+			Child->Rename(nullptr, RealObject, REN_DoNotDirty | REN_NonTransactional | REN_DontCreateRedirectors);
+		}
+	}
+	TMap<UObject*, UObject*> Replacements;
+	Replacements.Add(Placeholder, RealObject);
+	ReplaceObjectReferences(Replacements);
+	GetStandIns().Remove(FWeakObjectPtr(Placeholder));
+	GetUnknownKinds().Remove(FWeakObjectPtr(Placeholder));
+	if (UObject* const Package = RealObject->GetOutermost())
+	{
+		GetStandIns().Remove(FWeakObjectPtr(Package));
+	}
+	Placeholder->MarkAsGarbage();
+}
+
+void ReplaceObjectReferences(const TMap<UObject*, UObject*>& Replacements)
+{
+	FReferenceReplacer Replacer(Replacements);
+	for (int32 Index = 0; Index < GUObjectArray.GetObjectArrayNum(); ++Index)
+	{
+		UObject* const Object = static_cast<UObject*>(GUObjectArray.IndexToObjectUnsafe(Index).Object);
+		if (!Object || Object->HasAnyFlags(RF_BeginDestroyed))
+		{
+			continue;
+		}
+		UClass* const Class = Object->GetClass();
+		Class->GetReferenceSchema().Visit(Object, Replacer, Object);
+		if (Class->ClassAddReferencedObjects)
+		{
+			Class->ClassAddReferencedObjects(Object, Replacer);
+		}
+	}
+	FCoreUObjectDelegates::OnObjectsReplaced.Broadcast(Replacements);
+}
+}
+
+bool IsInPlaceholderPackage(const UObject* Object)
+{
+	return Object && UE::CoreUObject::IsPlaceholder(Object->GetOutermost());
+}

@@ -1,0 +1,285 @@
+#include "ContainerPropertyCommon.h"
+#include "UObject/Class.h"
+#include "UObject/PropertyHelper.h"
+#include "UObject/PropertyTag.h"
+#include "UObject/UnknownProperties.h"
+
+namespace
+{
+/** Whether values are saved as differences from a default; undo and the like save them whole. */
+bool SavesDifferences(const FArchive& Ar)
+{
+	return Ar.DoDelta() && Ar.DoIntraPropertyDelta() && !Ar.IsTransacting();
+}
+
+bool HasClassControlByte(const FArchive& Ar, const UStruct* Struct)
+{
+	return Struct->IsA(UClass::StaticClass()) && Ar.UEVer() >= EUnrealEngineObjectUE5Version::PROPERTY_TAG_EXTENSION_AND_OVERRIDABLE_SERIALIZATION;
+}
+
+/** Flags before an object's properties: whether it overrides its archetype's values by operations. */
+void SerializeClassControl(FArchive& Ar)
+{
+	constexpr uint8 OverridableInformation = 0x02;
+	uint8 Control = 0;
+	Ar << Control;
+	if (Control & OverridableInformation)
+	{
+		uint8 OverrideOperation = 0;
+		Ar << OverrideOperation;
+	}
+}
+
+FProperty* FindPropertyForTag(const UStruct* Struct, FName Name, FProperty* Hint)
+{
+	// Values come in the order in which they were written, so the next property is most often the one.
+	for (FProperty* Property = Hint; Property; Property = Property->PropertyLinkNext)
+	{
+		if (Property->GetFName() == Name)
+		{
+			return Property;
+		}
+	}
+	for (FProperty* Property = Struct->PropertyLink; Property != Hint; Property = Property->PropertyLinkNext)
+	{
+		if (Property->GetFName() == Name)
+		{
+			return Property;
+		}
+	}
+	return Struct->CustomFindProperty(Name);
+}
+
+void KeepUnknown(FArchive& Ar, const FPropertyTag& Tag, int64 Start)
+{
+	TArray<uint8> Value;
+	Ar.Seek(Start);
+	Value.SetNumUninitialized(Tag.Size);
+	Ar.Serialize(Value.GetData(), Tag.Size);
+	FUnknownProperties::Add(Ar, Tag, MoveTemp(Value));
+}
+
+/** Reads the value after a tag. False when it has no place here. */
+bool ReadValue(FArchive& Ar, const FPropertyTag& Tag, FProperty* Property, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
+{
+	if (!Property || Tag.ArrayIndex >= Property->ArrayDim)
+	{
+		return false;
+	}
+	if (!Property->ShouldSerializeValue(Ar) && !Property->HasAnyPropertyFlags(CPF_Deprecated))
+	{
+		// A property that is not saved here: what an older host saved of it has no use.
+		return true;
+	}
+	uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Tag.ArrayIndex);
+	const uint8* const Default = SavesDifferences(Ar) ? Property->ContainerPtrToValuePtrForDefaults<uint8>(DefaultsStruct, Defaults, Tag.ArrayIndex) : nullptr;
+	const FSerializedPathScope Scope(Property->GetFName(), Tag.ArrayIndex);
+	switch (Property->ConvertFromType(Tag, Ar, Value, const_cast<UStruct*>(Struct), Default))
+	{
+		case EConvertFromTypeResult::Converted:
+			return true;
+		case EConvertFromTypeResult::UseSerializeItem:
+			Tag.SerializeTaggedProperty(Ar, Property, Value, Default);
+			return true;
+		case EConvertFromTypeResult::CannotConvert:
+			break;
+	}
+	return false;
+}
+
+void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
+{
+	FProperty* Hint = Struct->PropertyLink;
+	while (!Ar.IsError())
+	{
+		FPropertyTag Tag;
+		Ar << Tag;
+		if (Ar.IsError() || Tag.Name.IsNone())
+		{
+			return;
+		}
+		const int64 Start = Ar.Tell();
+		FProperty* const Property = FindPropertyForTag(Struct, Tag.Name, Hint);
+		Hint = Property ? Property : Hint;
+		if (!ReadValue(Ar, Tag, Property, Struct, Data, DefaultsStruct, Defaults))
+		{
+			if (Property)
+			{
+				UE_LOG(LogClass, Warning, TEXT("%s: property %s of %s was saved as %s and cannot become %s; its value is kept as it was"), *Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName(), *Tag.GetType().ToString(), *Property->GetClass()->GetName());
+			}
+			KeepUnknown(Ar, Tag, Start);
+		}
+		if (Ar.IsError())
+		{
+			UE_LOG(LogClass, Error, TEXT("%s: bad value of property %s of %s at offset %lld"), *Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName(), static_cast<long long>(Start));
+			return;
+		}
+		if (Ar.Tell() != Start + Tag.Size)
+		{
+			Ar.Seek(Start + Tag.Size);
+		}
+	}
+}
+
+void WriteSizeOfValue(FArchive& Ar, FPropertyTag& Tag, int64 Start)
+{
+	const int64 End = Ar.Tell();
+	if (Tag.SizeOffset < 0 || End < 0 || Ar.IsError())
+	{
+		return;
+	}
+	Tag.Size = static_cast<int32>(End - Start);
+	Ar.Seek(Tag.SizeOffset);
+	Ar << Tag.Size;
+	Ar.Seek(End);
+}
+
+void WriteUnknownProperties(FArchive& Ar)
+{
+	const TArray<FUnknownProperty>* const Unknown = FUnknownProperties::FindForWriting(Ar);
+	if (!Unknown)
+	{
+		return;
+	}
+	for (const FUnknownProperty& Property : *Unknown)
+	{
+		FPropertyTag Tag = Property.Tag;
+		Ar << Tag;
+		Ar.Serialize(const_cast<uint8*>(Property.Value.GetData()), Property.Value.Num());
+	}
+}
+
+void WriteTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
+{
+	const bool bDoDelta = Ar.DoDelta() && !Ar.IsTransacting();
+	for (FProperty* Property = Struct->PropertyLink; Property; Property = Property->PropertyLinkNext)
+	{
+		if (!Property->ShouldSerializeValue(Ar))
+		{
+			continue;
+		}
+		for (int32 Index = 0; Index < Property->ArrayDim; ++Index)
+		{
+			uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
+			const uint8* const Default = Property->ContainerPtrToValuePtrForDefaults<uint8>(DefaultsStruct, Defaults, Index);
+			if (bDoDelta && Default && Property->Identical(Value, Default, Ar.GetPortFlags() | PPF_DeltaComparison))
+			{
+				continue;
+			}
+			FPropertyTag Tag(Property, Index, Value);
+			Ar << Tag;
+			const int64 Start = Ar.Tell();
+			const FSerializedPathScope Scope(Property->GetFName(), Index);
+			Tag.SerializeTaggedProperty(Ar, Property, Value, SavesDifferences(Ar) ? Default : nullptr);
+			WriteSizeOfValue(Ar, Tag, Start);
+		}
+	}
+	WriteUnknownProperties(Ar);
+	FName End;
+	Ar << End;
+}
+}
+
+void UStruct::SerializeTaggedProperties(FArchive& Ar, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults, const UObject* BreakRecursionIfFullyLoad) const
+{
+	if (IsA(UClass::StaticClass()))
+	{
+		const UObject* const Object = reinterpret_cast<const UObject*>(Data);
+		const FSerializedObjectScope Scope(Object);
+		Ar.MarkScriptSerializationStart(Object);
+		if (HasClassControlByte(Ar, this))
+		{
+			SerializeClassControl(Ar);
+		}
+		(Ar.IsLoading() ? ReadTaggedProperties : WriteTaggedProperties)(Ar, this, Data, DefaultsStruct, Defaults);
+		Ar.MarkScriptSerializationEnd(Object);
+		return;
+	}
+	if (Ar.IsLoading())
+	{
+		ReadTaggedProperties(Ar, this, Data, DefaultsStruct, Defaults);
+		return;
+	}
+	if (Defaults || !IsA(UScriptStruct::StaticClass()))
+	{
+		WriteTaggedProperties(Ar, this, Data, DefaultsStruct, Defaults);
+		return;
+	}
+	// A container's new element has the struct's own defaults, so those are what an element may leave out.
+	const UScriptStruct* const ScriptStruct = static_cast<const UScriptStruct*>(this);
+	void* const Fresh = FMemory::Malloc(FMath::Max(ScriptStruct->GetStructureSize(), 1), FMath::Max(ScriptStruct->GetMinAlignment(), 1));
+	ScriptStruct->InitializeStruct(Fresh);
+	WriteTaggedProperties(Ar, this, Data, this, static_cast<uint8*>(Fresh));
+	ScriptStruct->DestroyStruct(Fresh);
+	FMemory::Free(Fresh);
+}
+
+void UStruct::SerializeBin(FArchive& Ar, void* Data) const
+{
+	// Supers first, each in the order of its declaration.
+	TArray<const UStruct*> Chain;
+	for (const UStruct* Struct = this; Struct; Struct = Struct->GetSuperStruct())
+	{
+		Chain.Insert(Struct, 0);
+	}
+	for (const UStruct* const Struct : Chain)
+	{
+		for (FField* Field = Struct->ChildProperties; Field; Field = Field->Next)
+		{
+			if (const FProperty* const Property = CastField<FProperty>(Field))
+			{
+				Property->SerializeBinProperty(Ar, Data);
+			}
+		}
+	}
+}
+
+void UStruct::SerializeBinEx(FArchive& Ar, void* Data, const void* DefaultData, const UStruct* DefaultStruct) const
+{
+	if (!DefaultData || !DefaultStruct)
+	{
+		SerializeBin(Ar, Data);
+		return;
+	}
+	for (const FProperty* Property = PropertyLink; Property; Property = Property->PropertyLinkNext)
+	{
+		for (int32 Index = 0; Index < Property->ArrayDim; ++Index)
+		{
+			const void* const Default = Property->ContainerPtrToValuePtrForDefaults<void>(DefaultStruct, DefaultData, Index);
+			if (!Property->Identical(Property->ContainerPtrToValuePtr<void>(Data, Index), Default))
+			{
+				Property->SerializeItem(Ar, Property->ContainerPtrToValuePtr<void>(Data, Index), Default);
+			}
+		}
+	}
+}
+
+bool UScriptStruct::UseBinarySerialization(const FArchive& Ar) const
+{
+	const bool bIsImmutable = (StructFlags & STRUCT_Immutable) != 0;
+	return Ar.WantBinaryPropertySerialization() || (bIsImmutable && (Ar.IsLoading() || Ar.IsSaving()) && !Ar.IsTextFormat());
+}
+
+void UScriptStruct::SerializeItem(FArchive& Ar, void* Value, void const* Defaults)
+{
+	const FValueNesting Nesting;
+	if (Nesting.IsTooDeep())
+	{
+		Ar.SetError();
+		return;
+	}
+	ICppStructOps* const Ops = GetCppStructOps();
+	const bool bNative = Ops && Ops->HasSerializer() && Ops->Serialize(Ar, Value);
+	if (!bNative && UseBinarySerialization(Ar))
+	{
+		SerializeBin(Ar, Value);
+	}
+	else if (!bNative)
+	{
+		SerializeTaggedProperties(Ar, static_cast<uint8*>(Value), this, static_cast<uint8*>(const_cast<void*>(Defaults)));
+	}
+	if (Ops && Ops->HasPostSerialize())
+	{
+		Ops->PostSerialize(Ar, Value);
+	}
+}

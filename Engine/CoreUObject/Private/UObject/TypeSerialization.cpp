@@ -1,0 +1,452 @@
+#include "UObject/Class.h"
+#include "UObject/CoreObjectVersion.h"
+#include "UObject/EditorObjectVersion.h"
+#include "UObject/FrameworkObjectVersion.h"
+#include "UObject/MetaData.h"
+#include "UObject/ObjectRedirector.h"
+#include "UObject/ObjectVersion.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
+
+// The forms in which objects and type definitions stand in packages, undo buffers and duplicates.
+
+namespace
+{
+/** An array's length, refused when what is left of the archive could not hold it. */
+bool SerializeCount(FArchive& Ar, int32& Count, int64 MinElementSize)
+{
+	Ar << Count;
+	if (Ar.IsLoading() && (Count < 0 || (Ar.TotalSize() >= 0 && Count > (Ar.TotalSize() - Ar.Tell()) / MinElementSize)))
+	{
+		Ar.SetError();
+		Count = 0;
+		return false;
+	}
+	return !Ar.IsError();
+}
+
+void SerializeEnum(FArchive& Ar, auto& Value)
+{
+	uint32 Number = static_cast<uint32>(Value);
+	Ar << Number;
+	Value = static_cast<std::remove_reference_t<decltype(Value)>>(Number);
+}
+
+void SerializeIdentityForUndo(FArchive& Ar, UObject* Object, FName& Name, UObject*& Outer)
+{
+	Name = Object->GetFName();
+	Outer = Object->GetOuter();
+	Ar << Name;
+	Ar << Outer;
+}
+}
+
+void UObject::Serialize(FArchive& Ar)
+{
+	UClass* Class = GetClass();
+	if (Class->HasAnyFlags(RF_NeedLoad))
+	{
+		Ar.Preload(Class);
+	}
+	if (Ar.IsTransacting())
+	{
+		FName Name;
+		UObject* Outer = nullptr;
+		SerializeIdentityForUndo(Ar, this, Name, Outer);
+		if (Ar.IsLoading() && (Name != GetFName() || Outer != GetOuter()))
+		{
+			LowLevelRename(Name, Outer);
+		}
+	}
+	else if (!Ar.IsLoading() && !Ar.IsSaving())
+	{
+		UObject* Outer = GetOuter();
+		Ar << Outer;
+		Ar << Class;
+	}
+	// Types describe themselves; only kinds of class that were declared with properties have any to write.
+	if (Class != UClass::StaticClass())
+	{
+		SerializeScriptProperties(Ar);
+	}
+	if (Ar.IsTransacting())
+	{
+		bool bGarbage = HasAnyInternalFlags(EInternalObjectFlags::Garbage);
+		Ar << bGarbage;
+		if (Ar.IsLoading())
+		{
+			bGarbage ? MarkAsGarbage() : ClearGarbage();
+		}
+	}
+	else if (Ar.IsPersistent() && !HasAnyFlags(RF_ClassDefaultObject) && (Ar.IsLoading() || Ar.IsSaving()))
+	{
+		FUniqueObjectGuid Guid(this);
+		bool bHasGuid = Guid.IsValid();
+		Ar << bHasGuid;
+		if (bHasGuid)
+		{
+			Ar << Guid;
+		}
+	}
+}
+
+void UObject::SerializeScriptProperties(FArchive& Ar) const
+{
+	Ar.MarkScriptSerializationStart(this);
+	UClass* const Class = GetClass();
+	UObject* const This = const_cast<UObject*>(this);
+	if ((Ar.IsLoading() || Ar.IsSaving()) && !Ar.WantBinaryPropertySerialization())
+	{
+		UObject* const Defaults = GetArchetype();
+		const UStruct* const DefaultsClass = Defaults ? Defaults->GetClass() : nullptr;
+		Class->SerializeTaggedProperties(Ar, reinterpret_cast<uint8*>(This), DefaultsClass, reinterpret_cast<uint8*>(Defaults));
+	}
+	else
+	{
+		Class->SerializeBin(Ar, This);
+	}
+	Ar.MarkScriptSerializationEnd(this);
+}
+
+void UField::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	Ar.UsingCustomVersion(FFrameworkObjectVersion::GUID);
+	if (Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
+	{
+		Ar << Next;
+	}
+}
+
+namespace
+{
+void SerializeChildren(FArchive& Ar, UStruct* Struct)
+{
+	if (Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
+	{
+		Ar << Struct->Children;
+		return;
+	}
+	TArray<UField*> Children;
+	for (UField* Child = Struct->Children; Child; Child = Child->Next)
+	{
+		Children.Add(Child);
+	}
+	int32 Count = Children.Num();
+	SerializeCount(Ar, Count, sizeof(int32));
+	Children.SetNumZeroed(Count);
+	for (UField*& Child : Children)
+	{
+		Ar << Child;
+	}
+	if (Ar.IsLoading())
+	{
+		UField* Next = nullptr;
+		for (int32 Index = Children.Num() - 1; Index >= 0; --Index)
+		{
+			if (Children[Index] && Children[Index]->IsA<UField>())
+			{
+				Children[Index]->Next = Next;
+				Next = Children[Index];
+			}
+		}
+		Struct->Children = Next;
+	}
+}
+
+void SerializeProperties(FArchive& Ar, UStruct* Struct)
+{
+	if (Ar.IsLoading())
+	{
+		Struct->DestroyChildPropertiesAndResetPropertyLinks();
+	}
+	int32 Count = 0;
+	for (const FField* Field = Struct->ChildProperties; Field; Field = Field->Next)
+	{
+		++Count;
+	}
+	SerializeCount(Ar, Count, 1);
+	FField* Field = Struct->ChildProperties;
+	FField** Tail = &Struct->ChildProperties;
+	for (int32 Index = 0; Index < Count && !Ar.IsError(); ++Index)
+	{
+		FField* Current = Ar.IsLoading() ? nullptr : Field;
+		SerializeSingleField(Ar, Current, FFieldVariant(Struct));
+		if (!Ar.IsLoading())
+		{
+			Field = Field->Next;
+		}
+		else if (Current)
+		{
+			*Tail = Current;
+			Tail = &Current->Next;
+			*Tail = nullptr;
+		}
+	}
+}
+}
+
+void UStruct::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	Ar.UsingCustomVersion(FCoreObjectVersion::GUID);
+	UStruct* Super = SuperStruct;
+	Ar << Super;
+	if (Ar.IsLoading())
+	{
+		SetSuperStruct(Super && Super->IsA<UStruct>() && !Super->IsChildOf(this) ? Super : nullptr);
+	}
+	SerializeChildren(Ar, this);
+	if (Ar.CustomVer(FCoreObjectVersion::GUID) >= FCoreObjectVersion::FProperties || !Ar.IsLoading())
+	{
+		SerializeProperties(Ar, this);
+	}
+	Ar << ScriptBytecodeSize;
+	int32 StorageSize = Script.Num();
+	SerializeCount(Ar, StorageSize, 1);
+	if (Ar.IsLoading())
+	{
+		Script.SetNumUninitialized(StorageSize);
+	}
+	Ar.Serialize(Script.GetData(), StorageSize);
+	if (Ar.IsLoading() && !IsA<UClass>())
+	{
+		Link(Ar, true);
+	}
+}
+
+void UScriptStruct::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	const EStructFlags Computed = StructFlags & STRUCT_ComputedFlags;
+	EStructFlags Stored = StructFlags & ~STRUCT_ComputedFlags;
+	SerializeEnum(Ar, Stored);
+	if (Ar.IsLoading())
+	{
+		StructFlags = (Stored & ~STRUCT_ComputedFlags) | Computed;
+		PrepareCppStructOps();
+	}
+}
+
+void UFunction::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	SerializeEnum(Ar, FunctionFlags);
+	if (FunctionFlags & FUNC_Net)
+	{
+		int16 ReplicationOffset = 0;
+		Ar << ReplicationOffset;
+	}
+	if (Ar.UEVer() >= VER_UE4_SERIALIZE_BLUEPRINT_EVENTGRAPH_FASTCALLS_IN_UFUNCTION)
+	{
+		Ar << EventGraphFunction;
+		Ar << EventGraphCallOffset;
+	}
+	if (Ar.IsLoading())
+	{
+		InitializeDerivedMembers();
+	}
+}
+
+void USparseDelegateFunction::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	Ar << OwningClassName;
+	Ar << DelegateName;
+}
+
+void UClass::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	int32 NumFunctions = FuncMap.Num();
+	SerializeCount(Ar, NumFunctions, sizeof(int64));
+	TArray<TPair<FName, UFunction*>> Functions;
+	for (const TPair<FName, TObjectPtr<UFunction>>& Pair : FuncMap)
+	{
+		Functions.Emplace(Pair.Key, Pair.Value.Get());
+	}
+	Functions.SetNum(NumFunctions);
+	for (TPair<FName, UFunction*>& Pair : Functions)
+	{
+		Ar << Pair.Key;
+		Ar << Pair.Value;
+	}
+	if (Ar.IsLoading())
+	{
+		FuncMap.Empty();
+		ClearFunctionMapsCaches();
+		for (const TPair<FName, UFunction*>& Pair : Functions)
+		{
+			if (Pair.Value && Pair.Value->IsA<UFunction>())
+			{
+				FuncMap.Add(Pair.Key, Pair.Value);
+			}
+		}
+	}
+	SerializeEnum(Ar, ClassFlags);
+	Ar << ClassWithin;
+	Ar << ClassConfigName;
+	// Interfaces stood before the generating Blueprint in older packages.
+	const bool bInterfacesLast = Ar.UEVer() >= VER_UE4_UCLASS_SERIALIZE_INTERFACES_AFTER_LINKING;
+	const auto SerializeInterfaces = [this, &Ar]()
+	{
+		int32 Count = Interfaces.Num();
+		SerializeCount(Ar, Count, 3 * sizeof(int32));
+		Interfaces.SetNum(Count);
+		for (FImplementedInterface& Interface : Interfaces)
+		{
+			Ar << Interface;
+		}
+	};
+	if (!bInterfacesLast)
+	{
+		SerializeInterfaces();
+	}
+	Ar << ClassGeneratedBy;
+	if (Ar.IsLoading())
+	{
+		Link(Ar, true);
+		Bind();
+	}
+	if (bInterfacesLast)
+	{
+		SerializeInterfaces();
+	}
+	bool bDeprecatedScriptOrder = false;
+	Ar << bDeprecatedScriptOrder;
+	FName Dummy;
+	Ar << Dummy;
+	if (Ar.UEVer() >= VER_UE4_ADD_COOKED_TO_UCLASS)
+	{
+		Ar << bCooked;
+	}
+	Ar << ClassDefaultObject;
+}
+
+void UEnum::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	Ar.UsingCustomVersion(FCoreObjectVersion::GUID);
+	const bool bOldNames = Ar.IsLoading() && Ar.UEVer() < VER_UE4_TIGHTLY_PACKED_ENUMS;
+	const bool bByteValues = Ar.IsLoading() && Ar.CustomVer(FCoreObjectVersion::GUID) < FCoreObjectVersion::EnumProperties;
+	int32 Count = Names.Num();
+	SerializeCount(Ar, Count, bOldNames ? 8 : 9);
+	Names.SetNum(Count);
+	for (int32 Index = 0; Index < Count; ++Index)
+	{
+		Ar << Names[Index].Key;
+		if (bOldNames)
+		{
+			Names[Index].Value = Index;
+		}
+		else if (bByteValues)
+		{
+			uint8 Value = 0;
+			Ar << Value;
+			Names[Index].Value = Value;
+		}
+		else
+		{
+			Ar << Names[Index].Value;
+		}
+	}
+	uint8 Form = static_cast<uint8>(CppForm);
+	if (Ar.IsLoading() && Ar.UEVer() < VER_UE4_ENUM_CLASS_SUPPORT)
+	{
+		bool bNamespace = false;
+		Ar << bNamespace;
+		Form = bNamespace ? 1 : 0;
+	}
+	else
+	{
+		Ar << Form;
+	}
+	CppForm = static_cast<ECppForm>(std::min<uint8>(Form, 2));
+}
+
+void UObjectRedirector::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	Ar << DestinationObject;
+}
+
+UObjectRedirector::UObjectRedirector(const FObjectInitializer& ObjectInitializer)
+	: UObject(ObjectInitializer)
+{
+}
+
+void UObjectRedirector::AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector)
+{
+	Collector.AddReferencedObject(static_cast<UObjectRedirector*>(InThis)->DestinationObject, InThis);
+	UObject::AddReferencedObjects(InThis, Collector);
+}
+
+namespace
+{
+void SerializeMetaDataValues(FArchive& Ar, TMap<FName, FString>& Values)
+{
+	int32 Count = Values.Num();
+	SerializeCount(Ar, Count, 12);
+	if (Ar.IsLoading())
+	{
+		Values.Empty(Count);
+		for (int32 Index = 0; Index < Count && !Ar.IsError(); ++Index)
+		{
+			FName Key;
+			FString Value;
+			Ar << Key;
+			Ar << Value;
+			Values.Add(Key, MoveTemp(Value));
+		}
+		return;
+	}
+	for (TPair<FName, FString>& Pair : Values)
+	{
+		Ar << Pair.Key;
+		Ar << Pair.Value;
+	}
+}
+}
+
+void UMetaData::Serialize(FArchive& Ar)
+{
+	Super::Serialize(Ar);
+	Ar.UsingCustomVersion(FEditorObjectVersion::GUID);
+	int32 Count = ObjectMetaDataMap.Num();
+	SerializeCount(Ar, Count, 8);
+	if (Ar.IsLoading())
+	{
+		ObjectMetaDataMap.Empty(Count);
+		for (int32 Index = 0; Index < Count && !Ar.IsError(); ++Index)
+		{
+			UObject* Object = nullptr;
+			TMap<FName, FString> Values;
+			Ar << Object;
+			SerializeMetaDataValues(Ar, Values);
+			if (Object)
+			{
+				ObjectMetaDataMap.Add(FWeakObjectPtr(Object), MoveTemp(Values));
+			}
+		}
+	}
+	else
+	{
+		for (TPair<FWeakObjectPtr, TMap<FName, FString>>& Pair : ObjectMetaDataMap)
+		{
+			UObject* Object = Pair.Key.Get();
+			Ar << Object;
+			SerializeMetaDataValues(Ar, Pair.Value);
+		}
+	}
+	if (!Ar.IsLoading() || Ar.CustomVer(FEditorObjectVersion::GUID) >= FEditorObjectVersion::RootMetaDataSupport)
+	{
+		SerializeMetaDataValues(Ar, RootMetaDataMap);
+	}
+	if (Ar.IsLoading() && GetOutermost())
+	{
+		FMetaData& PackageMetaData = GetOutermost()->GetMetaData();
+		PackageMetaData.ObjectMetaDataMap.Append(ObjectMetaDataMap);
+		PackageMetaData.RootMetaDataMap.Append(RootMetaDataMap);
+	}
+}

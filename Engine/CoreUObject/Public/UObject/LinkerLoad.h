@@ -1,0 +1,91 @@
+#pragma once
+
+#include "Serialization/Archive.h"
+#include "UObject/Linker.h"
+#include "UObject/WeakObjectPtr.h"
+
+/**
+ * Reads one package file. Tables first; then objects, each when it is first asked for. Bytes are from outside: every offset
+ * and count is checked, a bad one ends in an error text with its offset. Game thread.
+ */
+class COREUOBJECT_API FLinkerLoad : public FLinker, public FArchive
+{
+public:
+	/** Reads the tables. Null with the reason when they cannot be read. Package may be null to inspect a file only. */
+	static TUniquePtr<FLinkerLoad> Create(const FString& Filename, UPackage* Package, FString& OutError);
+	static TUniquePtr<FLinkerLoad> Create(TArray<uint8>&& Bytes, const FString& Filename, UPackage* Package, FString& OutError);
+
+	/** Creates and reads every export. Errors in single objects are in GetErrors(); their bytes are kept. */
+	void LoadAllObjects();
+	/** The object of an entry, created and read as far as circles allow. Null for null and for what cannot be made. */
+	UObject* IndexToObject(FPackageIndex Index);
+	UObject* CreateExport(int32 ExportIndex);
+	UObject* CreateImport(int32 ImportIndex);
+	/** INDEX_NONE when the file has no such object. */
+	int32 FindExportIndex(const FString& PathName) const;
+	/** Reads an object that has been created. */
+	void Preload(UObject* Object) override;
+
+	/** Each says what and at which offset. */
+	const TArray<FString>& GetErrors() const { return Errors; }
+	TArrayView<const uint8> GetExportBytes(int32 ExportIndex) const;
+
+	/** What an object's class left unread at the end of its bytes; null when it read all. */
+	const TArray<uint8>* FindUnreadTail(const UObject* Object) const { return UnreadTails.Find(FWeakObjectPtr(Object)); }
+	/** Whether an object's bytes must be written back as they are: its class is unknown, or reading them failed. */
+	bool MustKeepBytes(const UObject* Object) const { return OpaqueObjects.Contains(FWeakObjectPtr(Object)); }
+	int32 FindExportOf(const UObject* Object) const;
+	/** Whether the export was made once and its object has been deleted since. */
+	bool IsDeleted(int32 ExportIndex) const { return ReadExports.Contains(ExportIndex) && !ExportMap[ExportIndex].Object.Get(); }
+	/** Whether something of the file is kept as bytes that refer to its tables by index. */
+	bool HasKeptBytes() const { return bHasKeptBytes; }
+	void MarkKeptBytes() { bHasKeptBytes = true; }
+
+	// FArchive
+	FString GetArchiveName() const override { return Filename; }
+	FLinker* GetLinker() override { return this; }
+	int64 Tell() override { return Position; }
+	int64 TotalSize() override { return Limit; }
+	void Seek(int64 InPos) override;
+	void Serialize(void* Data, int64 Length) override;
+	void SetError() override;
+	using FArchive::operator<<;
+	FArchive& operator<<(FName& Value) override;
+	FArchive& operator<<(UObject*& Value) override;
+	FArchive& operator<<(FObjectPtr& Value) override;
+	FArchive& operator<<(FLazyObjectPtr& Value) override;
+	FArchive& operator<<(FSoftObjectPath& Value) override;
+	FArchive& operator<<(FSoftObjectPtr& Value) override;
+	FArchive& operator<<(FWeakObjectPtr& Value) override;
+
+private:
+	FLinkerLoad(TArray<uint8>&& InBytes, const FString& InFilename, UPackage* Package);
+
+	bool LoadTables(FString& OutError);
+	bool LoadNames(FString& OutError);
+	bool LoadSoftObjectPaths(FString& OutError);
+	bool LoadImportsAndExports(FString& OutError);
+	bool CheckExports(FString& OutError) const;
+	void LoadSoftPackageReferences();
+	void LoadMetaData();
+	bool BeginTable(int32 Count, int32 Offset, int64 MinEntryBytes, const TCHAR* What, FString& OutError);
+	UClass* FindExportClass(int32 ExportIndex);
+	UObject* FindOuterOfExport(int32 ExportIndex);
+	UObject* MakeExportObject(int32 ExportIndex, UClass* Class, UObject* Outer);
+	UObject* FindImportInPackage(int32 ImportIndex, const FString& Path);
+	void ReadExport(int32 ExportIndex);
+
+	TArray<uint8> Bytes;
+	int64 Position = 0;
+	/** Reads end here: the file's end, or that of the export being read. */
+	int64 Limit = 0;
+	int64 ErrorPosition = -1;
+	TArray<FString> Errors;
+	/** Exports being created at present, to end circles. */
+	TSet<int32> ExportsInCreation;
+	TSet<int32> ReadExports;
+	TSet<int32> ImportsInCreation;
+	TMap<FWeakObjectPtr, TArray<uint8>> UnreadTails;
+	TSet<FWeakObjectPtr> OpaqueObjects;
+	bool bHasKeptBytes = false;
+};

@@ -1,0 +1,188 @@
+// Package: /Script/Engine
+#pragma once
+
+#include "Kismet/BlueprintFunctionLibrary.h"
+#include "KismetStringLibrary.generated.h"
+
+/** Whether letter case counts. */
+UENUM(BlueprintType)
+namespace ESearchCase
+{
+enum Type : int
+{
+	CaseSensitive,
+	IgnoreCase
+};
+}
+
+/** Texts of the kind that code works on. */
+UCLASS(meta = (BlueprintThreadSafe, ScriptName = "StringLibrary"))
+class ENGINE_API UKismetStringLibrary : public UBlueprintFunctionLibrary
+{
+	GENERATED_BODY()
+
+public:
+	/** Text of a number. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Float)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_DoubleToString(double InDouble);
+
+	/** Text of a number. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Integer)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_IntToString(int32 InInt);
+
+	/** Text of a number. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Integer64)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_Int64ToString(int64 InInt);
+
+	/** Text of a number. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Byte)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_ByteToString(uint8 InByte);
+
+	/** "true" or "false". */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Boolean)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_BoolToString(bool InBool);
+
+	/** Text of a vector. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Vector)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_VectorToString(FVector InVec);
+
+	/** Text of a vector. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Vector2D)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_Vector2dToString(FVector2D InVec);
+
+	/** Text of a rotation. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Rotator)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_RotatorToString(FRotator InRot);
+
+	/** Text of a transform. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Transform)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_TransformToString(const FTransform& InTrans);
+
+	/** Name of an object. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Object)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_ObjectToString(UObject* InObj);
+
+	/** Text of a colour. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (LinearColor)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_ColorToString(FLinearColor InColor);
+
+	/** Text of a name. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Name)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_NameToString(FName InName);
+
+	/** Name of a text. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Name (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FName Conv_StringToName(const FString& InString);
+
+	/** Number at the start of a text, or 0. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Integer (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static int32 Conv_StringToInt(const FString& InString);
+
+	/** Number at the start of a text, or 0. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Float (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static double Conv_StringToDouble(const FString& InString);
+
+	/** The first text, then the second. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Append", Keywords = "+ concat cat", CommutativeAssociativeBinaryOperator = "true"))
+	static FString Concat_StrStr(const FString& A, const FString& B);
+
+	/** True if the texts are equal, letter case included. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Equal Exactly (String)", CompactNodeTitle = "==="))
+	static bool EqualEqual_StrStr(const FString& A, const FString& B);
+
+	/** True if the texts are equal, letter case aside. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Equal, Case Insensitive (String)", CompactNodeTitle = "=="))
+	static bool EqualEqual_StriStri(const FString& A, const FString& B);
+
+	/** True if the texts are not equal, letter case included. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Not Equal Exactly (String)", CompactNodeTitle = "!=="))
+	static bool NotEqual_StrStr(const FString& A, const FString& B);
+
+	/** True if the texts are not equal, letter case aside. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Not Equal, Case Insensitive (String)", CompactNodeTitle = "!="))
+	static bool NotEqual_StriStri(const FString& A, const FString& B);
+
+	/** Number of characters. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (Keywords = "size length"))
+	static int32 Len(const FString& S);
+
+	/** True if there are no characters. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static bool IsEmpty(const FString& InString);
+
+	/** A prefix, a number and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Float)"))
+	static FString BuildString_Double(const FString& AppendTo, const FString& Prefix, double InDouble, const FString& Suffix);
+
+	/** A prefix, a number and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Integer)"))
+	static FString BuildString_Int(const FString& AppendTo, const FString& Prefix, int32 InInt, const FString& Suffix);
+
+	/** A part of a text. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString GetSubstring(const FString& SourceString, int32 StartIndex = 0, int32 Length = 1);
+
+	/** Place of a text in another, or -1. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static int32 FindSubstring(const FString& SearchIn, const FString& Substring, bool bUseCase = false, bool bSearchFromEnd = false, int32 StartPosition = -1);
+
+	/** True if a text stands in another. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static bool Contains(const FString& SearchIn, const FString& Substring, bool bUseCase = false, bool bSearchFromEnd = false);
+
+	/** Code of a character. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static int32 GetCharacterAsNumber(const FString& SourceString, int32 Index = 0);
+
+	/** The parts between separators. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (Keywords = "split"))
+	static TArray<FString> ParseIntoArray(const FString& SourceString, const FString& Delimiter = FString(TEXT(" ")), const bool CullEmptyStrings = true);
+
+	/** The texts with a separator between them. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString JoinStringArray(const TArray<FString>& SourceArray, const FString& Separator = FString(TEXT(" ")));
+
+	/** Upper-case text. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString ToUpper(const FString& SourceString);
+
+	/** Lower-case text. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString ToLower(const FString& SourceString);
+
+	/** Text with every occurrence of one put in place of another. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString Replace(const FString& SourceString, const FString& From, const FString& To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+
+	/** Text without white space at its ends. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString Trim(const FString& SourceString);
+
+	/** True if the text begins with another. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static bool StartsWith(const FString& SourceString, const FString& InPrefix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+
+	/** True if the text ends with another. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static bool EndsWith(const FString& SourceString, const FString& InSuffix, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+
+	/** The first Count characters. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString Left(const FString& SourceString, int32 Count);
+
+	/** The last Count characters. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString Right(const FString& SourceString, int32 Count);
+
+	/** Count characters from a place on. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString Mid(const FString& SourceString, int32 Start, int32 Count);
+
+	/** Text turned end to start. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString Reverse(const FString& SourceString);
+
+	/** True if the text is a number. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static bool IsNumeric(const FString& SourceString);
+};

@@ -1,0 +1,118 @@
+#include "ObjectTestSupport.h"
+
+#include "UObject/ScriptHeaderLoader.h"
+#include "UObject/UnrealType.h"
+
+#include <chrono>
+
+using namespace UE::CoreUObject;
+
+namespace
+{
+FScriptHeaderReport LoadText(const char* Text)
+{
+	FScriptHeaderSource Source;
+	Source.Path = TEXT("Test.h");
+	Source.Text.Append(reinterpret_cast<const uint8*>(Text), static_cast<int32>(std::strlen(Text)));
+	return LoadScriptHeaderSources({Source});
+}
+}
+
+using FScriptHeaders = FObjectTest;
+
+TEST_F(FScriptHeaders, TypesAreLaidOutAtRunTime)
+{
+	const FScriptHeaderReport Report = LoadText(R"(// Package: /Script/HeaderTestA
+#pragma once
+UENUM(BlueprintType)
+enum class EScriptShade : uint8 { Light, Dark UMETA(DisplayName = "Very Dark") };
+USTRUCT(BlueprintType)
+struct FScriptOuter { GENERATED_BODY() UPROPERTY() FScriptInner Inner; UPROPERTY() FString Label; };
+USTRUCT(BlueprintType)
+struct FScriptInner { GENERATED_BODY() UPROPERTY() bool bFlag; UPROPERTY() double Value; UPROPERTY() TArray<FScriptOuter> Nested; };
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FScriptChanged, EScriptShade, Shade);
+UCLASS(BlueprintType)
+class UScriptWidget : public UScriptBase
+{
+	GENERATED_BODY()
+public:
+	UPROPERTY(BlueprintAssignable) FScriptChanged OnChanged;
+	UFUNCTION(BlueprintCallable, Category = "Test") int32 Count(const FScriptOuter& Outer, TSubclassOf<UObject> Class, bool& bFound) const;
+};
+UCLASS(Abstract)
+class UScriptBase : public UReflectedThing { GENERATED_BODY() public: UPROPERTY() FName Tag; };
+)");
+	EXPECT_EQ(Report.Errors, TArray<FString>());
+	UScriptStruct* const Outer = FindObject<UScriptStruct>(nullptr, TEXT("/Script/HeaderTestA.ScriptOuter"));
+	ASSERT_NE(Outer, nullptr);
+	const FProperty* const Label = Outer->FindPropertyByName(TEXT("Label"));
+	ASSERT_NE(Label, nullptr);
+	EXPECT_EQ(Label->GetOffset_ForInternal(), 32);
+	EXPECT_EQ(Outer->GetStructureSize(), 48);
+
+	UClass* const Widget = FindObject<UClass>(nullptr, TEXT("/Script/HeaderTestA.ScriptWidget"));
+	ASSERT_NE(Widget, nullptr);
+	EXPECT_TRUE(Widget->IsChildOf<UReflectedThing>());
+	EXPECT_TRUE(Widget->HasAnyClassFlags(CLASS_Native));
+	const UFunction* const Count = Widget->FindFunctionByName(TEXT("Count"));
+	ASSERT_NE(Count, nullptr);
+	EXPECT_TRUE(Count->HasAllFunctionFlags(FUNC_BlueprintCallable | FUNC_Const | FUNC_HasOutParms));
+	EXPECT_EQ(Count->NumParms, 4);
+	EXPECT_EQ(Count->GetMetaData(TEXT("Category")), TEXT("Test"));
+	const FMulticastDelegateProperty* const OnChanged = FindFProperty<FMulticastDelegateProperty>(Widget, TEXT("OnChanged"));
+	ASSERT_NE(OnChanged, nullptr);
+	EXPECT_EQ(OnChanged->SignatureFunction->GetName(), TEXT("ScriptChanged__DelegateSignature"));
+
+	UReflectedThing* const Instance = NewObject<UReflectedThing>(Package, Widget);
+	ASSERT_NE(Instance, nullptr);
+	EXPECT_EQ(Instance->Number, 7);
+	EXPECT_EQ(Instance->Part->GetOuter(), Instance);
+	*Widget->FindPropertyByName(TEXT("Tag"))->ContainerPtrToValuePtr<FName>(Instance) = TEXT("T");
+}
+
+TEST_F(FScriptHeaders, ErrorsNameFileAndLine)
+{
+	const FScriptHeaderReport Report = LoadText("// Package: /Script/HeaderTestB\n"
+												"UCLASS()\n"
+												"class UScriptGood : public UObject\n"
+												"{\n"
+												"\tGENERATED_BODY()\n"
+												"\tUPROPERTY() FNoSuchType Value;\n"
+												"\tUPROPERTY() int32 Other;\n"
+												"};\n");
+	ASSERT_EQ(Report.Errors.Num(), 1);
+	EXPECT_TRUE(Report.Errors[0].StartsWith(TEXT("Test.h:6:"))) << TCHAR_TO_UTF8(*Report.Errors[0]);
+	const UClass* const Good = FindObject<UClass>(nullptr, TEXT("/Script/HeaderTestB.ScriptGood"));
+	ASSERT_NE(Good, nullptr);
+	EXPECT_NE(Good->FindPropertyByName(TEXT("Other")), nullptr);
+	EXPECT_EQ(LoadText("UCLASS()\nclass UNoPackage : public UObject { GENERATED_BODY() };\n").Errors.Num(), 1);
+}
+
+TEST_F(FScriptHeaders, NativeClassTakesFunctions)
+{
+	const FScriptHeaderReport Report = LoadText("// Package: /Script/ReflectedTestTypes\n"
+												"// Extends native\n"
+												"UCLASS()\n"
+												"class UReflectedPart : public UObject\n"
+												"{\n"
+												"\tGENERATED_BODY()\n"
+												"\tUFUNCTION(BlueprintCallable) void Break();\n"
+												"};\n");
+	EXPECT_EQ(Report.Errors, TArray<FString>());
+	EXPECT_NE(UReflectedStrongPart::StaticClass()->FindFunctionByName(TEXT("Break")), nullptr);
+}
+
+TEST_F(FScriptHeaders, StockLoadsQuickly)
+{
+	const auto Start = std::chrono::steady_clock::now();
+	const FScriptHeaderReport Report = LoadScriptHeaders(TEXT(VEXEL_SOURCE_DIR "/Engine/ScriptApi"));
+	const auto Milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - Start).count();
+	RecordProperty("Milliseconds", static_cast<int>(Milliseconds));
+	EXPECT_GT(Report.NumFunctions, 100);
+	EXPECT_LT(Milliseconds, 2000);
+	// Classes of the Engine module are not linked here, so what extends them is reported; nothing else is.
+	for (const FString& Error : Report.Errors)
+	{
+		EXPECT_TRUE(Error.Contains(TEXT("there is no"))) << TCHAR_TO_UTF8(*Error);
+	}
+}
