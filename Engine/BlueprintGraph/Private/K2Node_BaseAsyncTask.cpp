@@ -1,0 +1,83 @@
+#include "K2Node_BaseAsyncTask.h"
+
+#include "K2Node_CallFunction.h"
+#include "UObject/UnrealType.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+UFunction* UK2Node_BaseAsyncTask::GetFactoryFunction() const
+{
+	return ProxyFactoryClass ? ProxyFactoryClass->FindFunctionByName(ProxyFactoryFunctionName) : nullptr;
+}
+
+bool UK2Node_BaseAsyncTask::HasKnownDefinition() const
+{
+	return GetFactoryFunction() && ProxyClass;
+}
+
+void UK2Node_BaseAsyncTask::AllocateDefaultPins()
+{
+	CreateExecPin();
+	CreateThenPin();
+	const UFunction* const Function = GetFactoryFunction();
+	if (!Function || !ProxyClass)
+	{
+		return;
+	}
+	const UFunction* Signature = nullptr;
+	for (TFieldIterator<FMulticastDelegateProperty> Property(ProxyClass); Property; ++Property)
+	{
+		UEdGraphPin* const Pin = CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, Property->GetFName());
+		Pin->PinToolTip = Property->GetToolTipText().ToString();
+		Pin->PinFriendlyName = Property->GetDisplayNameText();
+		Signature = Signature ? Signature : Property->SignatureFunction;
+	}
+	// The events of a task share one signature, whose parameters are its results.
+	if (Signature)
+	{
+		for (TFieldIterator<FProperty> Parameter(Signature); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+		{
+			FEdGraphPinType Type;
+			if (GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
+			{
+				Type.bIsReference = false;
+				CreatePin(EGPD_Output, Type, Parameter->GetFName());
+			}
+		}
+	}
+	const TSet<FName> Hidden = UK2Node_CallFunction::GetHiddenParameters(Function, GetBlueprint());
+	for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+	{
+		FEdGraphPinType Type;
+		const bool bIsInput = !Parameter->HasAnyPropertyFlags(CPF_ReturnParm) && (!Parameter->HasAnyPropertyFlags(CPF_OutParm) || Parameter->HasAnyPropertyFlags(CPF_ReferenceParm));
+		if (!bIsInput || !GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
+		{
+			continue;
+		}
+		UEdGraphPin* const Pin = CreatePin(EGPD_Input, Type, Parameter->GetFName());
+		Pin->bHidden = Hidden.Contains(Pin->PinName);
+		Pin->bAdvancedView = Parameter->HasAnyPropertyFlags(CPF_AdvancedDisplay);
+		Pin->bDefaultValueIsIgnored = Parameter->HasAllPropertyFlags(CPF_OutParm | CPF_ReferenceParm);
+		GetK2Schema()->SetPinDefaultValue(Pin, Function, *Parameter);
+		GeneratePinTooltip(*Pin, FText::GetEmpty());
+	}
+}
+
+FText UK2Node_BaseAsyncTask::GetNodeTitle(ENodeTitleType::Type TitleType) const
+{
+	const UFunction* const Function = GetFactoryFunction();
+	return Function ? UK2Node_CallFunction::GetUserFacingFunctionName(Function) : FText::FromString(FName::NameToDisplayString(ProxyFactoryFunctionName.ToString(), false));
+}
+
+FText UK2Node_BaseAsyncTask::GetTooltipText() const
+{
+	return FText::FromString(UK2Node_CallFunction::GetDefaultTooltipForFunction(GetFactoryFunction()));
+}
+
+FText UK2Node_BaseAsyncTask::GetMenuCategory() const
+{
+	const UFunction* const Function = GetFactoryFunction();
+	return Function ? UK2Node_CallFunction::GetDefaultCategoryForFunction(Function, FText::GetEmpty()) : FText::GetEmpty();
+}
+
+#undef LOCTEXT_NAMESPACE

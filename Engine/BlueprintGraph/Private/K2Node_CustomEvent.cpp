@@ -1,0 +1,115 @@
+#include "K2Node_CustomEvent.h"
+
+#include "EdGraph/EdGraph.h"
+#include "Engine/Blueprint.h"
+#include "UObject/Class.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+namespace
+{
+bool IsNameTaken(const UK2Node_CustomEvent& Node, const FName Name)
+{
+	const UBlueprint* const Blueprint = Node.GetBlueprint();
+	TArray<UEdGraph*> Graphs;
+	if (Blueprint)
+	{
+		Blueprint->GetAllGraphs(Graphs);
+	}
+	for (const UEdGraph* const Graph : Graphs)
+	{
+		TArray<UK2Node_Event*> Events;
+		Graph->GetNodesOfClass(Events);
+		const bool bIsGraphName = Graph->GetFName() == Name;
+		if (bIsGraphName || Events.ContainsByPredicate([&Node, Name](const UK2Node_Event* Event)
+								{ return Event != &Node && Event->GetFunctionName() == Name; }))
+		{
+			return true;
+		}
+	}
+	const UClass* const Parent = Blueprint ? Blueprint->ParentClass.Get() : nullptr;
+	const bool bIsVariable = Blueprint && Blueprint->NewVariables.ContainsByPredicate([Name](const FBPVariableDescription& Variable)
+											  { return Variable.VarName == Name; });
+	return bIsVariable || (Parent && (Parent->FindFunctionByName(Name) || Parent->FindPropertyByName(Name)));
+}
+}
+
+UK2Node_CustomEvent::UK2Node_CustomEvent(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+	FunctionFlags = FUNC_BlueprintCallable | FUNC_BlueprintEvent | FUNC_Public;
+	bIsEditable = true;
+	bCanRenameNode = true;
+}
+
+bool UK2Node_CustomEvent::IsEditable() const
+{
+	// The parameters of an override are the overridden event's.
+	return Super::IsEditable() && !bOverrideFunction;
+}
+
+bool UK2Node_CustomEvent::CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
+{
+	if (InDesiredDirection == EGPD_Input)
+	{
+		OutErrorMessage = LOCTEXT("AddInputPinErrorCustomEvent", "Cannot add input pins to custom event node!");
+		return false;
+	}
+	return Super::CanCreateUserDefinedPin(InPinType, InDesiredDirection, OutErrorMessage);
+}
+
+void UK2Node_CustomEvent::RenameCustomEventCloseToName(int32 StartIndex)
+{
+	const FString BaseName = CustomFunctionName.IsNone() ? TEXT("CustomEvent") : CustomFunctionName.ToString();
+	FName Name(*BaseName);
+	for (int32 Index = StartIndex; IsNameTaken(*this, Name); ++Index)
+	{
+		Name = FName(*FString::Printf(TEXT("%s_%d"), *BaseName, Index));
+	}
+	CustomFunctionName = Name;
+}
+
+void UK2Node_CustomEvent::OnRenameNode(const FString& NewName)
+{
+	const FName Name(*NewName);
+	if (!NewName.IsEmpty() && !IsNameTaken(*this, Name))
+	{
+		CustomFunctionName = Name;
+		UpdateDelegatePin();
+	}
+}
+
+void UK2Node_CustomEvent::PostPlacedNewNode()
+{
+	if (!bOverrideFunction)
+	{
+		RenameCustomEventCloseToName(0);
+	}
+}
+
+void UK2Node_CustomEvent::PostPasteNode()
+{
+	Super::PostPasteNode();
+	if (IsNameTaken(*this, CustomFunctionName))
+	{
+		RenameCustomEventCloseToName();
+	}
+}
+
+FText UK2Node_CustomEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
+{
+	if (TitleType != ENodeTitleType::FullTitle)
+	{
+		return CustomFunctionName.IsNone() ? LOCTEXT("AddCustomEvent", "Add Custom Event...") : FText::FromName(CustomFunctionName);
+	}
+	const FText Net = GetLocalizedNetString(FunctionFlags, false);
+	return Net.IsEmpty() ? FText::Format(LOCTEXT("CustomEvent_Title", "{0}\nCustom Event"), FText::FromName(CustomFunctionName))
+						 : FText::Format(LOCTEXT("CustomEvent_NetTitle", "{0}\n{1}\nCustom Event"), FText::FromName(CustomFunctionName), Net);
+}
+
+FText UK2Node_CustomEvent::GetTooltipText() const
+{
+	return LOCTEXT("AddCustomEvent_Tooltip", "An event with customizable name and parameters.");
+}
+
+#undef LOCTEXT_NAMESPACE

@@ -1,0 +1,138 @@
+#include "K2Node_Event.h"
+
+#include "EdGraph/EdGraph.h"
+#include "Engine/Blueprint.h"
+#include "UObject/Class.h"
+#include "UObject/UnrealType.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+const FName UK2Node_Event::DelegateOutputName(TEXT("OutputDelegate"));
+
+UK2Node_Event::UK2Node_Event(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, bOverrideFunction(false)
+	, bInternalEvent(false)
+{
+}
+
+UFunction* UK2Node_Event::FindEventSignatureFunction() const
+{
+	return EventReference.GetMemberName().IsNone() ? nullptr : EventReference.ResolveMember<UFunction>(GetBlueprintClassFromNode());
+}
+
+FName UK2Node_Event::GetFunctionName() const
+{
+	return bOverrideFunction ? EventReference.GetMemberName() : CustomFunctionName;
+}
+
+bool UK2Node_Event::HasKnownDefinition() const
+{
+	return EventReference.GetMemberName().IsNone() || FindEventSignatureFunction() != nullptr;
+}
+
+bool UK2Node_Event::IsInterfaceEventNode() const
+{
+	const UClass* const Class = EventReference.GetMemberParentClass(GetBlueprintClassFromNode());
+	return Class && Class->HasAnyClassFlags(CLASS_Interface);
+}
+
+bool UK2Node_Event::IsCompatibleWithGraph(const UEdGraph* TargetGraph) const
+{
+	const UEdGraphSchema* const Schema = TargetGraph->GetSchema();
+	return Super::IsCompatibleWithGraph(TargetGraph) && Schema && Schema->GetGraphType(TargetGraph) == GT_Ubergraph;
+}
+
+void UK2Node_Event::AllocateDefaultPins()
+{
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Delegate, DelegateOutputName);
+	CreateThenPin();
+	if (const UFunction* const Function = FindEventSignatureFunction())
+	{
+		for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+		{
+			const bool bIsInput = Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) || !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
+			FEdGraphPinType Type;
+			if (bIsInput && GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
+			{
+				UEdGraphPin* const Pin = CreatePinWithDefault(EGPD_Output, Type, Parameter->GetFName());
+				GeneratePinTooltip(*Pin, FText::GetEmpty());
+			}
+		}
+	}
+	Super::AllocateDefaultPins();
+	UpdateDelegatePin();
+}
+
+void UK2Node_Event::UpdateDelegatePin()
+{
+	UEdGraphPin* const Pin = FindPin(DelegateOutputName);
+	const UBlueprint* const Blueprint = GetBlueprint();
+	if (!Pin || !Blueprint || !Blueprint->GeneratedClass)
+	{
+		return;
+	}
+	// The function stands in the class that the Blueprint makes, even while it has not been compiled.
+	Pin->PinType.PinSubCategoryMemberReference.MemberParent = Blueprint->GeneratedClass.Get();
+	Pin->PinType.PinSubCategoryMemberReference.MemberName = GetFunctionName();
+}
+
+FText UK2Node_Event::GetLocalizedNetString(uint32 FunctionFlags, bool Calling)
+{
+	if (!(FunctionFlags & FUNC_Net))
+	{
+		return FText::GetEmpty();
+	}
+	if (FunctionFlags & FUNC_NetMulticast)
+	{
+		return LOCTEXT("CustomEvent_ReplicatedMulticast", "Executes On All");
+	}
+	if (FunctionFlags & FUNC_NetServer)
+	{
+		return LOCTEXT("CustomEvent_ReplicatedServer", "Executes On Server");
+	}
+	return FunctionFlags & FUNC_NetClient ? LOCTEXT("CustomEvent_ReplicatedClient", "Executes On Owning Client") : FText::GetEmpty();
+}
+
+FText UK2Node_Event::GetNodeTitle(ENodeTitleType::Type TitleType) const
+{
+	if (!bOverrideFunction && !(CustomFunctionName.IsNone()))
+	{
+		return FText::FromName(CustomFunctionName);
+	}
+	const UFunction* const Function = FindEventSignatureFunction();
+	const FText Name = Function ? UEdGraphSchema_K2::GetFriendlySignatureName(Function)
+								: FText::FromString(FName::NameToDisplayString(EventReference.GetMemberName().ToString(), false));
+	const FText Title = FText::Format(LOCTEXT("EventName", "Event {0}"), Name);
+	if (TitleType == ENodeTitleType::FullTitle && IsInterfaceEventNode())
+	{
+		return FText::Format(LOCTEXT("EventFromInterface", "{0}\nFrom {1}"), Title, FText::FromString(EventReference.GetMemberParentClass()->GetName()));
+	}
+	return Title;
+}
+
+FText UK2Node_Event::GetTooltipText() const
+{
+	const UFunction* const Function = FindEventSignatureFunction();
+	return Function ? Function->GetToolTipText() : GetNodeTitle(ENodeTitleType::ListView);
+}
+
+FText UK2Node_Event::GetKeywords() const
+{
+	const UFunction* const Function = FindEventSignatureFunction();
+	return Function ? Function->GetMetaDataText(FBlueprintMetadata::MD_FunctionKeywords) : FText::GetEmpty();
+}
+
+FText UK2Node_Event::GetMenuCategory() const
+{
+	const UFunction* const Function = FindEventSignatureFunction();
+	const FText Category = Function ? Function->GetMetaDataText(FBlueprintMetadata::MD_FunctionCategory) : FText::GetEmpty();
+	return Category.IsEmpty() ? LOCTEXT("AddEventCategory", "Add Event") : FText::Format(LOCTEXT("AddEventSubCategory", "Add Event|{0}"), Category);
+}
+
+FName UK2Node_Event::GetCornerIcon() const
+{
+	return IsInterfaceEventNode() ? FName(TEXT("Graph.Event.InterfaceEventIcon")) : FName();
+}
+
+#undef LOCTEXT_NAMESPACE

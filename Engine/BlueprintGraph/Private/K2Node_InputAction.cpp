@@ -1,0 +1,37 @@
+#include "K2Node_InputAction.h"
+
+#include "UObject/Class.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+UK2Node_InputAction::UK2Node_InputAction(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, bConsumeInput(true)
+	, bExecuteWhenPaused(false)
+	, bOverrideParentBinding(true)
+{
+}
+
+void UK2Node_InputAction::AllocateDefaultPins()
+{
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Pressed"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Released"));
+	CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Struct, TEXT("Key"), NAME_None, FKey::StaticStruct());
+}
+
+FText UK2Node_InputAction::GetNodeTitle(ENodeTitleType::Type TitleType) const
+{
+	return TitleType == ENodeTitleType::MenuTitle ? FText::FromName(InputActionName) : FText::Format(LOCTEXT("InputAction_Name", "InputAction {0}"), FText::FromName(InputActionName));
+}
+
+FText UK2Node_InputAction::GetTooltipText() const
+{
+	return FText::Format(LOCTEXT("InputAction_Tooltip", "Event for when the keys bound to input action {0} are pressed or released."), FText::FromName(InputActionName));
+}
+
+FText UK2Node_InputAction::GetMenuCategory() const
+{
+	return LOCTEXT("InputAction_Category", "Input|Action Events");
+}
+
+#undef LOCTEXT_NAMESPACE

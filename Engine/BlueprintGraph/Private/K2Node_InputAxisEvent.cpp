@@ -1,0 +1,43 @@
+#include "K2Node_InputAxisEvent.h"
+
+#include "UObject/Class.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+UK2Node_InputAxisEvent::UK2Node_InputAxisEvent(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, bConsumeInput(true)
+	, bExecuteWhenPaused(false)
+	, bOverrideParentBinding(true)
+{
+	EventReference.SetExternalDelegateMember(FName(TEXT("InputAxisHandlerDynamicSignature__DelegateSignature")));
+	bInternalEvent = true;
+}
+
+void UK2Node_InputAxisEvent::Initialize(const FName AxisName)
+{
+	InputAxisName = AxisName;
+	CustomFunctionName = FName(*FString::Printf(TEXT("InpAxisEvt_%s_%s"), *InputAxisName.ToString(), *GetName()));
+}
+
+void UK2Node_InputAxisEvent::AllocateDefaultPins()
+{
+	Super::AllocateDefaultPins();
+	static const FName ValueName(TEXT("AxisValue"));
+	if (!FindPin(ValueName))
+	{
+		CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Real, ValueName, UEdGraphSchema_K2::PC_Float);
+	}
+}
+
+FText UK2Node_InputAxisEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
+{
+	return FText::Format(LOCTEXT("InputAxisEvent_Title", "InputAxis {0}"), FText::FromName(InputAxisName));
+}
+
+FText UK2Node_InputAxisEvent::GetMenuCategory() const
+{
+	return LOCTEXT("InputAxisEvent_Category", "Input|Axis Events");
+}
+
+#undef LOCTEXT_NAMESPACE

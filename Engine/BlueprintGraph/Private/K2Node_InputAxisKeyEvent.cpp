@@ -1,0 +1,43 @@
+#include "K2Node_InputAxisKeyEvent.h"
+
+#include "UObject/Class.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+UK2Node_InputAxisKeyEvent::UK2Node_InputAxisKeyEvent(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, bConsumeInput(true)
+	, bExecuteWhenPaused(false)
+	, bOverrideParentBinding(true)
+{
+	EventReference.SetExternalDelegateMember(FName(TEXT("InputAxisHandlerDynamicSignature__DelegateSignature")));
+	bInternalEvent = true;
+}
+
+void UK2Node_InputAxisKeyEvent::Initialize(const FKey InAxisKey)
+{
+	AxisKey = InAxisKey;
+	CustomFunctionName = FName(*FString::Printf(TEXT("InpAxisKeyEvt_%s_%s"), *AxisKey.ToString(), *GetName()));
+}
+
+void UK2Node_InputAxisKeyEvent::AllocateDefaultPins()
+{
+	Super::AllocateDefaultPins();
+	static const FName ValueName(TEXT("AxisValue"));
+	if (!FindPin(ValueName))
+	{
+		CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Real, ValueName, UEdGraphSchema_K2::PC_Float);
+	}
+}
+
+FText UK2Node_InputAxisKeyEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
+{
+	return FText::Format(LOCTEXT("InputAxisKeyEvent_Title", "{0}"), AxisKey.GetDisplayName());
+}
+
+FText UK2Node_InputAxisKeyEvent::GetMenuCategory() const
+{
+	return LOCTEXT("InputAxisKeyEvent_Category", "Input|Axis Key Events");
+}
+
+#undef LOCTEXT_NAMESPACE

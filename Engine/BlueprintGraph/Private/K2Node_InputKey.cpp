@@ -1,0 +1,51 @@
+#include "K2Node_InputKey.h"
+
+#include "UObject/Class.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+UK2Node_InputKey::UK2Node_InputKey(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, bConsumeInput(true)
+	, bExecuteWhenPaused(false)
+	, bOverrideParentBinding(true)
+	, bControl(false)
+	, bAlt(false)
+	, bShift(false)
+	, bCommand(false)
+{
+}
+
+void UK2Node_InputKey::AllocateDefaultPins()
+{
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Pressed"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Released"));
+	CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Struct, TEXT("Key"), NAME_None, FKey::StaticStruct());
+}
+
+FText UK2Node_InputKey::GetKeyText() const
+{
+	FString Text;
+	Text += bControl ? TEXT("Ctrl+") : TEXT("");
+	Text += bAlt ? TEXT("Alt+") : TEXT("");
+	Text += bShift ? TEXT("Shift+") : TEXT("");
+	Text += bCommand ? TEXT("Cmd+") : TEXT("");
+	return FText::FromString(Text + InputKey.GetDisplayName().ToString());
+}
+
+FText UK2Node_InputKey::GetNodeTitle(ENodeTitleType::Type TitleType) const
+{
+	return GetKeyText();
+}
+
+FText UK2Node_InputKey::GetTooltipText() const
+{
+	return FText::Format(LOCTEXT("InputKey_Tooltip", "Events for when the {0} key is pressed or released."), GetKeyText());
+}
+
+FText UK2Node_InputKey::GetMenuCategory() const
+{
+	return LOCTEXT("KeyEventsCategory", "Input|Keyboard Events");
+}
+
+#undef LOCTEXT_NAMESPACE

@@ -1,0 +1,29 @@
+#include "K2Node_InputVectorAxisEvent.h"
+
+#include "UObject/NoExportTypes.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+UK2Node_InputVectorAxisEvent::UK2Node_InputVectorAxisEvent(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+	EventReference.SetExternalDelegateMember(FName(TEXT("InputVectorAxisHandlerDynamicSignature__DelegateSignature")));
+}
+
+void UK2Node_InputVectorAxisEvent::Initialize(const FKey InAxisKey)
+{
+	AxisKey = InAxisKey;
+	CustomFunctionName = FName(*FString::Printf(TEXT("InpVectorAxisEvt_%s_%s"), *AxisKey.ToString(), *GetName()));
+}
+
+void UK2Node_InputVectorAxisEvent::AllocateDefaultPins()
+{
+	UK2Node_Event::AllocateDefaultPins();
+	static const FName ValueName(TEXT("AxisValue"));
+	if (!FindPin(ValueName))
+	{
+		CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Struct, ValueName, NAME_None, TBaseStructure<FVector>::Get());
+	}
+}
+
+#undef LOCTEXT_NAMESPACE

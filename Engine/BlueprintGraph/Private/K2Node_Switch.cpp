@@ -1,0 +1,88 @@
+#include "K2Node_Switch.h"
+
+#include "UObject/Class.h"
+#include "UObject/UObjectGlobals.h"
+
+#define LOCTEXT_NAMESPACE "K2Node"
+
+UK2Node_Switch::UK2Node_Switch(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+	, bHasDefaultPin(true)
+{
+}
+
+void UK2Node_Switch::SetComparison(const TCHAR* ClassPath, FName InFunctionName)
+{
+	FunctionName = InFunctionName;
+	// The libraries are declared after the first default objects are made, so the class is looked for when it is needed.
+	FunctionClass = FindObject<UClass>(nullptr, ClassPath);
+}
+
+void UK2Node_Switch::AllocateDefaultPins()
+{
+	if (bHasDefaultPin)
+	{
+		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Default"));
+	}
+	CreateExecPin();
+	CreateSelectionPin();
+	CreateFunctionPin();
+	CreateCasePins();
+}
+
+void UK2Node_Switch::CreateFunctionPin()
+{
+	if (FunctionName.IsNone())
+	{
+		return;
+	}
+	UEdGraphPin* const Pin = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, FunctionClass.Get(), FunctionName);
+	Pin->bDefaultValueIsReadOnly = true;
+	Pin->bNotConnectable = true;
+	Pin->bHidden = true;
+	Pin->DefaultObject = FunctionClass ? FunctionClass->GetDefaultObject() : nullptr;
+}
+
+void UK2Node_Switch::CreateCasePins()
+{
+	const TArray<FName>* const Cases = GetNamedCases();
+	for (int32 Index = 0; Cases && Index < Cases->Num(); ++Index)
+	{
+		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, (*Cases)[Index]);
+	}
+}
+
+void UK2Node_Switch::AddPinToSwitchNode()
+{
+	TArray<FName>* const Cases = GetNamedCases();
+	if (!Cases)
+	{
+		return;
+	}
+	Modify();
+	int32 Index = Cases->Num();
+	FName Name;
+	do
+	{
+		Name = FName(*FString::Printf(TEXT("Case_%d"), Index++));
+	} while (Cases->Contains(Name));
+	Cases->Add(Name);
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, Name);
+}
+
+void UK2Node_Switch::RemovePinFromSwitchNode(UEdGraphPin* TargetPin)
+{
+	Modify();
+	if (TArray<FName>* const Cases = GetNamedCases())
+	{
+		Cases->Remove(TargetPin->PinName);
+	}
+	RemovePin(TargetPin);
+}
+
+FText UK2Node_Switch::GetMenuCategory() const
+{
+	return LOCTEXT("Switch_Category", "Utilities|FlowControl|Switch");
+}
+
+#undef LOCTEXT_NAMESPACE

@@ -1,0 +1,180 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "EdGraph/EdGraphNode.h"
+#include "EdGraph/EdGraphPin.h"
+#include "EdGraphSchema_K2.h"
+
+#include "K2Node.generated.h"
+
+class UBlueprint;
+class UEdGraph;
+class UFunction;
+
+/** A member of a struct or class that a node may show as a pin. */
+USTRUCT()
+struct BLUEPRINTGRAPH_API FOptionalPinFromProperty
+{
+	GENERATED_BODY()
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	FName PropertyName;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	FString PropertyFriendlyName;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	FText PropertyTooltip;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	FName CategoryName;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bShowPin : 1;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bCanToggleVisibility : 1;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bPropertyIsCustomized : 1;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bHasOverridePin : 1;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bIsMarkedForAdvancedDisplay : 1;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bIsOverrideEnabled : 1;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bIsSetValuePinVisible : 1;
+
+	UPROPERTY(EditAnywhere, Category = "Hidden")
+	uint8 bIsOverridePinVisible : 1;
+
+	FOptionalPinFromProperty()
+		: bShowPin(true)
+		, bCanToggleVisibility(true)
+		, bPropertyIsCustomized(false)
+		, bHasOverridePin(false)
+		, bIsMarkedForAdvancedDisplay(false)
+		, bIsOverrideEnabled(true)
+		, bIsSetValuePinVisible(true)
+		, bIsOverridePinVisible(true)
+	{
+	}
+};
+
+/** Keeps a node's list of optional pins in step with a struct, and makes pins of those that are shown. */
+struct BLUEPRINTGRAPH_API FOptionalPinManager
+{
+	virtual ~FOptionalPinManager() = default;
+
+	virtual void GetRecordDefaults(FProperty* TestProperty, FOptionalPinFromProperty& Record) const;
+	virtual bool CanTreatPropertyAsOptional(FProperty* TestProperty) const;
+	virtual void CustomizePinData(UEdGraphPin* Pin, FName SourcePropertyName, int32 ArrayIndex, FProperty* Property) const {}
+	virtual void PostInitNewPin(UEdGraphPin* Pin, FOptionalPinFromProperty& Record, int32 ArrayIndex, FProperty* Property, uint8* PropertyAddress, uint8* DefaultPropertyAddress) const;
+
+	/** Lists the struct's members, keeping what the user chose of those that it listed before. */
+	void RebuildPropertyList(TArray<FOptionalPinFromProperty>& Properties, UStruct* SourceStruct);
+	/** StructBasePtr and DefaultsPtr are values of the struct whose members become the pins' values and defaults; each may be null. */
+	void CreateVisiblePins(
+		TArray<FOptionalPinFromProperty>& Properties, UStruct* SourceStruct, EEdGraphPinDirection Direction, class UK2Node* TargetNode, uint8* StructBasePtr = nullptr, uint8* DefaultsPtr = nullptr);
+};
+
+/** A node of a Blueprint graph. */
+UCLASS(abstract)
+class BLUEPRINTGRAPH_API UK2Node : public UEdGraphNode
+{
+	GENERATED_BODY()
+
+public:
+	UK2Node(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	/** How a pin of before a reconstruction corresponds to a new one. */
+	enum ERedirectType
+	{
+		ERedirectType_None,
+		ERedirectType_Name,
+		ERedirectType_Value,
+		ERedirectType_Custom
+	};
+
+	// UEdGraphNode
+	virtual void ReconstructNode() override;
+	virtual void AutowireNewNode(UEdGraphPin* FromPin) override;
+	virtual void PinConnectionListChanged(UEdGraphPin* Pin) override;
+	virtual bool CanCreateUnderSpecifiedSchema(const UEdGraphSchema* Schema) const override;
+	virtual bool CanSplitPin(const UEdGraphPin* Pin) const override;
+	virtual FString GetDocumentationLink() const override { return FString(); }
+
+	/** Makes the pins anew; OldPins are those of before, still with their links. */
+	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) { AllocateDefaultPins(); }
+	virtual void PostReconstructNode() {}
+	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) {}
+	/** Former names under which a pin's links are still found. */
+	virtual void GetRedirectPinNames(const UEdGraphPin& Pin, TArray<FString>& RedirectPinNames) const {}
+	virtual ERedirectType DoPinsMatchForReconstruction(const UEdGraphPin* NewPin, int32 NewPinIndex, const UEdGraphPin* OldPin, int32 OldPinIndex) const;
+	/** A node may refuse a link that the schema would allow, with its reason. */
+	virtual bool IsConnectionDisallowed(const UEdGraphPin* MyPin, const UEdGraphPin* OtherPin, FString& OutReason) const { return false; }
+	/**
+	 * False while the member or type that the node is about is not known to this host. A reconstruction then leaves the pins as
+	 * they were pasted or loaded.
+	 */
+	virtual bool HasKnownDefinition() const { return true; }
+
+	virtual bool IsNodePure() const override { return false; }
+	virtual bool IsNodeSafeToIgnore() const { return false; }
+	virtual bool NodeCausesStructuralBlueprintChange() const { return false; }
+	virtual bool IsNodeRootSet() const { return false; }
+	virtual bool DrawNodeAsEntry() const { return false; }
+	virtual bool DrawNodeAsExit() const { return false; }
+	virtual bool DrawNodeAsVariable() const { return false; }
+	virtual bool ShouldDrawAsBead() const { return false; }
+	virtual bool ShouldShowNodeProperties() const { return false; }
+	virtual bool ReferencesVariable(const FName& InVarName, const UStruct* InScope) const { return false; }
+	virtual void ClearCachedBlueprintData(UBlueprint* Blueprint) {}
+	virtual FText GetToolTipHeading() const { return FText(); }
+	/** The member that the node is about; empty when there is none. */
+	virtual FName GetCornerIcon() const { return FName(); }
+
+	/** The Blueprint that holds the node. */
+	UBlueprint* GetBlueprint() const;
+	bool HasValidBlueprint() const;
+	/** The class that "self" is: the Blueprint's skeleton class while there is one. Null outside a Blueprint. */
+	UClass* GetBlueprintClassFromNode() const;
+	/** The only execution input or output; null when there is none. */
+	UEdGraphPin* GetExecPin() const;
+	UEdGraphPin* GetThenPin() const;
+	const UEdGraphSchema_K2* GetK2Schema() const { return GetDefault<UEdGraphSchema_K2>(); }
+	/** Shows the parameter's name, type and description when a user points at the pin. */
+	static void GeneratePinTooltip(UEdGraphPin& Pin, const FText& Description);
+
+protected:
+	UEdGraphPin* CreateExecPin() { return CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_Execute); }
+	UEdGraphPin* CreateThenPin() { return CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_Then); }
+	/** A pin that starts with the default of its type. */
+	UEdGraphPin* CreatePinWithDefault(EEdGraphPinDirection PinDirection, const FEdGraphPinType& Type, FName Name);
+	UEdGraphPin* CreatePinWithDefault(EEdGraphPinDirection PinDirection, FName Category, FName Name, FName SubCategory = NAME_None, UObject* SubCategoryObject = nullptr);
+	/** The "Target" pin of a member of Class: "self" when the class is the Blueprint's own. */
+	UEdGraphPin* CreateTargetPin(UClass* Class);
+
+	/** The pin of before a reconstruction that has the name and the side; null when there was none. */
+	static UEdGraphPin* FindOldPin(const TArray<UEdGraphPin*>& OldPins, FName Name, EEdGraphPinDirection Direction);
+	/** Gives wildcard pins the types, and the defaults of those types, that they had before a reconstruction. A declared container stays. */
+	void KeepResolvedWildcards(const TArray<UEdGraphPin*>& OldPins);
+	/** Gives the pin values of another type; whether it is a container, a reference or constant stays its own. */
+	static void SetValueType(UEdGraphPin& Pin, const FEdGraphPinType& Type);
+	/** Gives pins that share one type the type of the first link among them, or makes them wildcards when none is linked. */
+	void FollowLinkedType(const TArray<UEdGraphPin*>& SharedPins, bool bFollowContainer = false);
+	/** The class that the pin's link is of, or that its default names; null when neither is known or there is no pin. */
+	static UClass* GetClassOfPin(const UEdGraphPin* Pin);
+
+	void RewireOldPinsToNewPins(TArray<UEdGraphPin*>& InOldPins, TArray<UEdGraphPin*>& InNewPins);
+	virtual void ReconstructSinglePin(UEdGraphPin* NewPin, UEdGraphPin* OldPin, ERedirectType RedirectType);
+
+private:
+	bool ShouldKeepAsOrphan(const UEdGraphPin& OldPin) const;
+	void KeepSubPins(TArray<UEdGraphPin*>& InOldPins, UEdGraphPin& NewPin);
+};

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "K2Node_Event.h"
+
+#include "K2Node_ActorBoundEvent.generated.h"
+
+class AActor;
+class FMulticastDelegateProperty;
+
+/** An event of an actor that stands in the level. */
+UCLASS()
+class BLUEPRINTGRAPH_API UK2Node_ActorBoundEvent : public UK2Node_Event
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY()
+	FName DelegatePropertyName;
+
+	UPROPERTY()
+	TObjectPtr<UClass> DelegateOwnerClass = nullptr;
+
+	UPROPERTY()
+	TObjectPtr<AActor> EventOwner = nullptr;
+
+	FMulticastDelegateProperty* GetTargetDelegateProperty() const;
+	FText GetTargetDelegateDisplayName() const;
+	virtual UFunction* FindEventSignatureFunction() const override;
+	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+};

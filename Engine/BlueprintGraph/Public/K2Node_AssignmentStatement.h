@@ -1,0 +1,21 @@
+#pragma once
+
+#include "K2Node.h"
+
+#include "K2Node_AssignmentStatement.generated.h"
+
+/** Assigns Value to Variable */
+UCLASS()
+class BLUEPRINTGRAPH_API UK2Node_AssignmentStatement : public UK2Node
+{
+	GENERATED_BODY()
+
+public:
+	UEdGraphPin* GetVariablePin() const { return FindPin(TEXT("Variable")); }
+	UEdGraphPin* GetValuePin() const { return FindPin(TEXT("Value")); }
+	virtual void AllocateDefaultPins() override;
+	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
+	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
+	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetMenuCategory() const override;
+};

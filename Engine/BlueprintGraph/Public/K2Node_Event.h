@@ -1,0 +1,59 @@
+#pragma once
+
+#include "Engine/MemberReference.h"
+#include "K2Node_EditablePinBase.h"
+
+#include "K2Node_Event.generated.h"
+
+/** Where execution starts when an event happens. */
+UCLASS()
+class BLUEPRINTGRAPH_API UK2Node_Event : public UK2Node_EditablePinBase
+{
+	GENERATED_BODY()
+
+public:
+	static const FName DelegateOutputName;
+
+	/** The function that this event overrides, or the signature that it has. */
+	UPROPERTY()
+	FMemberReference EventReference;
+
+	UPROPERTY()
+	uint32 bOverrideFunction : 1;
+
+	UPROPERTY()
+	uint32 bInternalEvent : 1;
+
+	/** Name of an event that overrides no function. */
+	UPROPERTY()
+	FName CustomFunctionName;
+
+	/** EFunctionFlags beside those of an event: replication. */
+	UPROPERTY()
+	uint32 FunctionFlags = 0;
+
+	UK2Node_Event(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	/** The function that gives the parameters; null when it is not known. */
+	virtual UFunction* FindEventSignatureFunction() const;
+	/** Name of the function that the compiler makes of the event. */
+	virtual FName GetFunctionName() const;
+	virtual bool IsFunctionEntryCompatible(const class UK2Node_FunctionEntry* EntryNode) const { return false; }
+	bool IsInterfaceEventNode() const;
+	static FText GetLocalizedNetString(uint32 FunctionFlags, bool Calling);
+	virtual bool DrawNodeAsEntry() const override { return true; }
+	virtual bool IsNodeRootSet() const override { return true; }
+	virtual bool NodeCausesStructuralBlueprintChange() const override { return true; }
+	virtual bool IsCompatibleWithGraph(const UEdGraph* TargetGraph) const override;
+	virtual FName GetCornerIcon() const override;
+	virtual void AllocateDefaultPins() override;
+	virtual bool HasKnownDefinition() const override;
+	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetTooltipText() const override;
+	virtual FText GetKeywords() const override;
+	virtual FText GetMenuCategory() const override;
+
+protected:
+	/** Tells the "OutputDelegate" pin which function it stands for. */
+	void UpdateDelegatePin();
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "InputCoreTypes.h"
+#include "K2Node_Event.h"
+
+#include "K2Node_InputAxisKeyEvent.generated.h"
+
+/** The value of an input axis, each frame. */
+UCLASS()
+class BLUEPRINTGRAPH_API UK2Node_InputAxisKeyEvent : public UK2Node_Event
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY()
+	FKey AxisKey;
+
+	UPROPERTY()
+	uint32 bConsumeInput : 1;
+
+	UPROPERTY()
+	uint32 bExecuteWhenPaused : 1;
+
+	UPROPERTY()
+	uint32 bOverrideParentBinding : 1;
+
+	UK2Node_InputAxisKeyEvent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	void Initialize(const FKey InAxisKey);
+	virtual bool HasKnownDefinition() const override { return true; }
+	virtual void AllocateDefaultPins() override;
+	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetMenuCategory() const override;
+};

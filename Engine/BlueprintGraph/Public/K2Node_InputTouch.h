@@ -1,0 +1,28 @@
+#pragma once
+
+#include "K2Node.h"
+
+#include "K2Node_InputTouch.generated.h"
+
+/** Events of a finger that touches the screen. */
+UCLASS()
+class BLUEPRINTGRAPH_API UK2Node_InputTouch : public UK2Node
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY()
+	uint32 bConsumeInput : 1;
+
+	UPROPERTY()
+	uint32 bExecuteWhenPaused : 1;
+
+	UPROPERTY()
+	uint32 bOverrideParentBinding : 1;
+
+	UK2Node_InputTouch(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	virtual void AllocateDefaultPins() override;
+	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetMenuCategory() const override;
+};

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Engine/Blueprint.h"
+#include "UObject/Class.h"
+#include "UObject/ObjectMacros.h"
+
+#include "BlueprintGeneratedClass.generated.h"
+
+class UActorComponent;
+class UInheritableComponentHandler;
+class USimpleConstructionScript;
+class UTimelineTemplate;
+
+/** The class that a Blueprint makes. Its properties, functions and memory layout are built at run time. */
+UCLASS()
+class ENGINE_API UBlueprintGeneratedClass : public UClass
+{
+	GENERATED_BODY()
+
+public:
+	UBlueprintGeneratedClass(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	UPROPERTY()
+	int32 NumReplicatedProperties = 0;
+
+	UPROPERTY()
+	TArray<TObjectPtr<UActorComponent>> ComponentTemplates;
+
+	UPROPERTY()
+	TArray<TObjectPtr<UTimelineTemplate>> Timelines;
+
+	UPROPERTY()
+	TArray<FBPComponentClassOverride> ComponentClassOverrides;
+
+	UPROPERTY()
+	TObjectPtr<USimpleConstructionScript> SimpleConstructionScript = nullptr;
+
+	UPROPERTY()
+	TObjectPtr<UInheritableComponentHandler> InheritableComponentHandler = nullptr;
+
+	UPROPERTY()
+	TObjectPtr<UFunction> UberGraphFunction = nullptr;
+
+	/** Ids of the Blueprint's variables, so that saved values follow a rename. */
+	UPROPERTY()
+	TMap<FName, FGuid> PropertyGuids;
+
+	FName FindPropertyNameFromGuid(const FGuid& PropertyGuid) const;
+	FGuid FindPropertyGuidFromName(const FName InName) const;
+	UActorComponent* FindComponentTemplateByName(const FName& TemplateName) const;
+	UTimelineTemplate* FindTimelineTemplateByVariableName(const FName& TimelineName) const;
+	/** The nearest parent whose class a Blueprint made, and so on up; answers whether none of them has errors. */
+	static bool GetGeneratedClassesHierarchy(const UClass* InClass, TArray<const UBlueprintGeneratedClass*>& OutBPGClasses);
+
+	// UClass
+	/** The class of the last compile: of a skeleton class too. */
+	virtual UClass* GetAuthoritativeClass() override;
+};

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/Object.h"
+#include "UObject/ObjectMacros.h"
+
+#include "InheritableComponentHandler.generated.h"
+
+class UActorComponent;
+
+/** Names a component that a parent Blueprint declares. */
+USTRUCT()
+struct FComponentKey
+{
+	GENERATED_BODY()
+
+	UPROPERTY()
+	TObjectPtr<UClass> OwnerClass = nullptr;
+
+	UPROPERTY()
+	FName SCSVariableName;
+
+	UPROPERTY()
+	FGuid AssociatedGuid;
+};
+
+/** A Blueprint's own template for an inherited component. */
+USTRUCT()
+struct FComponentOverrideRecord
+{
+	GENERATED_BODY()
+
+	UPROPERTY()
+	TObjectPtr<UClass> ComponentClass = nullptr;
+
+	UPROPERTY()
+	TObjectPtr<UActorComponent> ComponentTemplate = nullptr;
+
+	UPROPERTY()
+	FComponentKey ComponentKey;
+};
+
+/** The overrides that a Blueprint makes of its parents' components. */
+UCLASS()
+class ENGINE_API UInheritableComponentHandler : public UObject
+{
+	GENERATED_BODY()
+
+private:
+	UPROPERTY()
+	TArray<FComponentOverrideRecord> Records;
+};

@@ -1,0 +1,257 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Engine/EngineTypes.h"
+#include "Templates/Casts.h"
+#include "Templates/SubclassOf.h"
+#include "UObject/Object.h"
+#include "UObject/ObjectMacros.h"
+
+#include "Actor.generated.h"
+
+class AActor;
+class AController;
+class APawn;
+class UActorComponent;
+class UInputComponent;
+class ULevel;
+class USceneComponent;
+class UWorld;
+
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FActorBeginOverlapSignature, AActor*, OverlappedActor, AActor*, OtherActor);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FActorEndOverlapSignature, AActor*, OverlappedActor, AActor*, OtherActor);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FActorDestroyedSignature, AActor*, DestroyedActor);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FActorEndPlaySignature, AActor*, Actor, EEndPlayReason::Type, EndPlayReason);
+
+/** Something that stands in a level. Made by UWorld::SpawnActor; its place is its root component's. */
+UCLASS(BlueprintType, Blueprintable, config = Engine, meta = (ShortTooltip = "An Actor is an object that can be placed or spawned in the world."))
+class ENGINE_API AActor : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	AActor(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
+	UPROPERTY(EditDefaultsOnly, Category = Tick)
+	FActorTickFunction PrimaryActorTick;
+
+	UPROPERTY(Interp, EditAnywhere, Category = Rendering, BlueprintReadOnly, meta = (DisplayName = "Actor Hidden In Game"))
+	uint8 bHidden : 1;
+
+	UPROPERTY(Category = Replication, EditDefaultsOnly, BlueprintReadOnly)
+	uint8 bReplicates : 1;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Actor)
+	uint8 bCanBeDamaged : 1;
+
+	UPROPERTY(EditAnywhere, Category = Collision)
+	uint8 bGenerateOverlapEventsDuringLevelStreaming : 1;
+
+	/** Seconds; 0 lives until it is destroyed. */
+	UPROPERTY(EditDefaultsOnly, BlueprintReadWrite, Category = Actor)
+	float InitialLifeSpan = 0.0f;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Actor)
+	float CustomTimeDilation = 1.0f;
+
+	UPROPERTY(EditAnywhere, Category = Input)
+	TEnumAsByte<EAutoReceiveInput::Type> AutoReceiveInput = EAutoReceiveInput::Disabled;
+
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Input)
+	int32 InputPriority = 0;
+
+	UPROPERTY(EditAnywhere, Category = Collision, BlueprintReadWrite)
+	ESpawnActorCollisionHandlingMethod SpawnCollisionHandlingMethod = ESpawnActorCollisionHandlingMethod::AlwaysSpawn;
+
+	/** Words that gameplay finds the actor by. */
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, AdvancedDisplay, Category = Actor)
+	TArray<FName> Tags;
+
+	/** Layers of the editor that the actor is in. */
+	UPROPERTY()
+	TArray<FName> Layers;
+
+	UPROPERTY(BlueprintAssignable, Category = "Collision")
+	FActorBeginOverlapSignature OnActorBeginOverlap;
+
+	UPROPERTY(BlueprintAssignable, Category = "Collision")
+	FActorEndOverlapSignature OnActorEndOverlap;
+
+	UPROPERTY(BlueprintAssignable, Category = "Game")
+	FActorDestroyedSignature OnDestroyed;
+
+	UPROPERTY(BlueprintAssignable, Category = "Game")
+	FActorEndPlaySignature OnEndPlay;
+
+protected:
+	UPROPERTY(BlueprintGetter = K2_GetRootComponent, Category = "Transformation")
+	TObjectPtr<USceneComponent> RootComponent = nullptr;
+
+	UPROPERTY()
+	TObjectPtr<AActor> Owner = nullptr;
+
+	UPROPERTY(Transient)
+	TObjectPtr<AActor> ParentComponentActor = nullptr;
+
+	/** Components of the Blueprint, which an instance shares its changes with. */
+	UPROPERTY(TextExportTransient, NonTransactional)
+	TArray<TObjectPtr<UActorComponent>> BlueprintCreatedComponents;
+
+	/** Components that this one actor was given in the editor. */
+	UPROPERTY(Instanced)
+	TArray<TObjectPtr<UActorComponent>> InstanceComponents;
+
+private:
+	/** What the editor calls the actor. */
+	UPROPERTY()
+	FString ActorLabel;
+
+	UPROPERTY()
+	FName FolderPath;
+
+	UPROPERTY(Transient)
+	uint8 bActorIsBeingDestroyed : 1;
+
+public:
+	// Place
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, meta = (DisplayName = "Get Actor Location", ScriptName = "GetActorLocation", Keywords = "position"), Category = "Transformation")
+	FVector K2_GetActorLocation() const { return GetActorLocation(); }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, meta = (DisplayName = "Get Actor Rotation", ScriptName = "GetActorRotation"), Category = "Transformation")
+	FRotator K2_GetActorRotation() const { return GetActorRotation(); }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, meta = (DisplayName = "Get Root Component", ScriptName = "GetRootComponent"), Category = "Transformation", BlueprintInternalUseOnly)
+	USceneComponent* K2_GetRootComponent() const { return RootComponent; }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Transformation")
+	FVector GetActorForwardVector() const;
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Transformation")
+	FVector GetActorRightVector() const;
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Transformation")
+	FVector GetActorUpVector() const;
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Transformation")
+	FVector GetActorScale3D() const;
+
+	UFUNCTION(BlueprintCallable, Category = "Transformation")
+	void SetActorScale3D(FVector NewScale3D);
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Transformation")
+	const FTransform& GetTransform() const { return ActorToWorld(); }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Transformation")
+	float GetDistanceTo(const AActor* OtherActor) const;
+
+	const FTransform& ActorToWorld() const;
+	FTransform GetActorTransform() const { return ActorToWorld(); }
+	FVector GetActorLocation() const { return ActorToWorld().GetLocation(); }
+	FRotator GetActorRotation() const { return ActorToWorld().Rotator(); }
+	bool SetActorLocation(const FVector& NewLocation);
+	bool SetActorRotation(FRotator NewRotation);
+	bool SetActorTransform(const FTransform& NewTransform);
+	bool SetActorLocationAndRotation(FVector NewLocation, FRotator NewRotation);
+	USceneComponent* GetRootComponent() const { return RootComponent; }
+	bool SetRootComponent(USceneComponent* NewRootComponent);
+
+	// State
+
+	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (DisplayName = "Set Actor Hidden In Game", Keywords = "Visible Hidden Show Hide"))
+	virtual void SetActorHiddenInGame(bool bNewHidden) { bHidden = bNewHidden; }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Actor")
+	bool ActorHasTag(FName Tag) const { return Tags.Contains(Tag); }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Actor")
+	AActor* GetOwner() const { return Owner; }
+
+	UFUNCTION(BlueprintCallable, Category = "Actor")
+	virtual void SetOwner(AActor* NewOwner) { Owner = NewOwner; }
+
+	UFUNCTION(BlueprintCallable, Category = "Actor")
+	virtual void SetLifeSpan(float InLifespan) { InitialLifeSpan = InLifespan; }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Actor")
+	virtual float GetLifeSpan() const { return InitialLifeSpan; }
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Actor")
+	bool IsActorBeingDestroyed() const { return bActorIsBeingDestroyed; }
+
+	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (Keywords = "Delete", DisplayName = "Destroy Actor", ScriptName = "DestroyActor"))
+	virtual void K2_DestroyActor();
+
+	bool Destroy(bool bNetForce = false, bool bShouldModifyLevel = true);
+	ULevel* GetLevel() const;
+	virtual UWorld* GetWorld() const override;
+
+	const FString& GetActorLabel(bool bCreateIfNone = true) const;
+	void SetActorLabel(const FString& NewActorLabel, bool bMarkDirty = true);
+	FName GetFolderPath() const { return FolderPath; }
+	void SetFolderPath(const FName& NewFolderPath) { FolderPath = NewFolderPath; }
+
+	// Components
+
+	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Actor", meta = (ComponentClass = "/Script/Engine.ActorComponent", DeterminesOutputType = "ComponentClass"))
+	UActorComponent* GetComponentByClass(TSubclassOf<UActorComponent> ComponentClass) const;
+
+	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (DeterminesOutputType = "ComponentClass", DisplayName = "Get Components by Class", ScriptName = "GetComponentsByClass"))
+	TArray<UActorComponent*> K2_GetComponentsByClass(TSubclassOf<UActorComponent> ComponentClass) const;
+
+	template <class T>
+	T* FindComponentByClass() const
+	{
+		return static_cast<T*>(GetComponentByClass(T::StaticClass()));
+	}
+
+	/** The actor's components: every component that is outered to it. */
+	TArray<UActorComponent*> GetComponents() const;
+	template <class T>
+	void GetComponents(TArray<T*>& OutComponents) const
+	{
+		OutComponents.Reset();
+		for (UActorComponent* const Component : GetComponents())
+		{
+			if (T* const Match = Cast<T>(Component))
+			{
+				OutComponents.Add(Match);
+			}
+		}
+	}
+	/** A component like the template; null without a template. The actor's Blueprint owns it. */
+	UActorComponent* CreateComponentFromTemplate(UActorComponent* Template, const FName& InName = NAME_None);
+	void AddInstanceComponent(UActorComponent* Component);
+	const TArray<TObjectPtr<UActorComponent>>& GetInstanceComponents() const { return InstanceComponents; }
+
+	// Events
+
+	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "BeginPlay"))
+	void ReceiveBeginPlay();
+
+	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "Tick"))
+	void ReceiveTick(float DeltaSeconds);
+
+	UFUNCTION(BlueprintImplementableEvent, meta = (Keywords = "delete", DisplayName = "End Play"))
+	void ReceiveEndPlay(EEndPlayReason::Type EndPlayReason);
+
+	UFUNCTION(BlueprintImplementableEvent, meta = (Keywords = "delete", DisplayName = "Destroyed"))
+	void ReceiveDestroyed();
+
+	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "ActorBeginOverlap"), Category = "Collision")
+	void ReceiveActorBeginOverlap(AActor* OtherActor);
+
+	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "ActorEndOverlap"), Category = "Collision")
+	void ReceiveActorEndOverlap(AActor* OtherActor);
+
+	/** Runs when an instance is placed or changed in the editor. */
+	UFUNCTION(BlueprintImplementableEvent, meta = (BlueprintInternalUseOnly = "true", DisplayName = "Construction Script"))
+	void UserConstructionScript();
+
+	virtual bool IsEditorOnly() const override { return false; }
+	virtual bool IsListedInSceneOutliner() const { return true; }
+	virtual FString GetDefaultActorLabel() const;
+
+private:
+	friend class UWorld;
+};

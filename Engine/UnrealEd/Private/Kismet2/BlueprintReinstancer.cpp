@@ -1,0 +1,278 @@
+#include "BlueprintReinstancer.h"
+
+#include "BlueprintClassBuilder.h"
+#include "Components/SceneComponent.h"
+#include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/SimpleConstructionScript.h"
+#include "GameFramework/Actor.h"
+#include "UObject/PlaceholderObject.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
+#include "UObject/UnrealType.h"
+
+namespace
+{
+constexpr ERenameFlagsType MoveFlags = REN_DontCreateRedirectors | REN_NonTransactional | REN_DoNotDirty | REN_ForceNoResetLoaders;
+
+/** The old class's property that the new one continues: of the same id, else of the same name. */
+const FProperty* FindOldProperty(const UClass& OldClass, const TMap<FName, FGuid>& OldGuids, const FProperty& NewProperty)
+{
+	const UBlueprintGeneratedClass* const NewClass = Cast<UBlueprintGeneratedClass>(NewProperty.GetOwnerClass());
+	const FGuid Guid = NewClass ? NewClass->FindPropertyGuidFromName(NewProperty.GetFName()) : FGuid();
+	if (Guid.IsValid())
+	{
+		for (const TPair<FName, FGuid>& Pair : OldGuids)
+		{
+			const FProperty* const Renamed = Pair.Value == Guid ? OldClass.FindPropertyByName(Pair.Key) : nullptr;
+			if (Renamed)
+			{
+				return Renamed;
+			}
+		}
+	}
+	// A new variable may bear the name that another one, which was renamed, had before.
+	const FGuid* const OldGuid = OldGuids.Find(NewProperty.GetFName());
+	const bool bIsAnothers = OldGuid && NewClass && Guid != *OldGuid && !NewClass->FindPropertyNameFromGuid(*OldGuid).IsNone();
+	return bIsAnothers ? nullptr : OldClass.FindPropertyByName(NewProperty.GetFName());
+}
+
+void CopyValues(const UObject& From, UObject& To, const TMap<FName, FGuid>& OldGuids)
+{
+	for (TFieldIterator<FProperty> It(To.GetClass()); It; ++It)
+	{
+		// The new object made its own parts; their values are copied part by part.
+		const FProperty* const OldProperty = It->ContainsInstancedObjectProperty() ? nullptr : FindOldProperty(*From.GetClass(), OldGuids, **It);
+		if (!OldProperty)
+		{
+			continue;
+		}
+		if (OldProperty->SameType(*It) && OldProperty->ArrayDim == It->ArrayDim)
+		{
+			It->CopyCompleteValue(It->ContainerPtrToValuePtr<void>(&To), OldProperty->ContainerPtrToValuePtr<void>(&From));
+			continue;
+		}
+		FString Text;
+		OldProperty->ExportTextItem_Direct(Text, OldProperty->ContainerPtrToValuePtr<void>(&From), nullptr, nullptr, PPF_None);
+		It->ImportText_Direct(*Text, It->ContainerPtrToValuePtr<void>(&To), &To, PPF_None);
+	}
+	TArray<UObject*> OldParts;
+	GetObjectsWithOuter(&From, OldParts, false);
+	for (const UObject* const OldPart : OldParts)
+	{
+		UObject* const NewPart = StaticFindObjectFast(OldPart->GetClass(), &To, OldPart->GetFName());
+		if (NewPart)
+		{
+			CopyValues(*OldPart, *NewPart, {});
+		}
+	}
+}
+}
+
+namespace
+{
+/** Gives a placed actor's successor its components: anew what the Blueprint adds, and from the old actor what it was given itself. */
+void ConstructActor(AActor& Old, AActor& New)
+{
+	TArray<const UBlueprintGeneratedClass*> Hierarchy;
+	UBlueprintGeneratedClass::GetGeneratedClassesHierarchy(New.GetClass(), Hierarchy);
+	for (int32 Index = Hierarchy.Num() - 1; Index >= 0; --Index)
+	{
+		if (USimpleConstructionScript* const Script = Hierarchy[Index]->SimpleConstructionScript)
+		{
+			Script->ExecuteScriptOnActor(&New);
+		}
+	}
+	const FTransform Place = Old.GetActorTransform();
+	USceneComponent* const OldRoot = Old.GetRootComponent();
+	for (UActorComponent* const Component : Old.GetComponents())
+	{
+		const bool bIsOwn = Component->CreationMethod != EComponentCreationMethod::SimpleConstructionScript;
+		if (bIsOwn && !StaticFindObjectFast(nullptr, &New, Component->GetFName()))
+		{
+			Component->Rename(nullptr, &New, MoveFlags);
+		}
+	}
+	if (!New.GetRootComponent() && OldRoot->GetOwner() == &New)
+	{
+		New.SetRootComponent(OldRoot);
+	}
+	New.SetActorTransform(Place);
+}
+}
+
+FBlueprintCompileReinstancer::FBlueprintCompileReinstancer(UBlueprint& Blueprint, UBlueprintGeneratedClass& Class)
+{
+	AddClassAndDerived(Blueprint, Class);
+}
+
+void FBlueprintCompileReinstancer::AddClassAndDerived(UBlueprint& Blueprint, UBlueprintGeneratedClass& Class)
+{
+	FRebuiltClass& Added = Classes.AddDefaulted_GetRef();
+	Added.Blueprint = &Blueprint;
+	Added.Class = &Class;
+	TArray<UClass*> Derived;
+	GetDerivedClasses(&Class, Derived, false);
+	for (UClass* const DerivedClass : Derived)
+	{
+		UBlueprint* const DerivedBlueprint = UBlueprint::GetBlueprintFromClass(DerivedClass);
+		UBlueprintGeneratedClass* const Generated = Cast<UBlueprintGeneratedClass>(DerivedClass);
+		if (DerivedBlueprint && Generated && !Generated->HasAnyClassFlags(CLASS_NewerVersionExists))
+		{
+			AddClassAndDerived(*DerivedBlueprint, *Generated);
+		}
+	}
+}
+
+void FBlueprintCompileReinstancer::Rebuild(TArray<FString>& OutErrors)
+{
+	for (FRebuiltClass& Rebuilt : Classes)
+	{
+		MoveOldLayoutAway(Rebuilt);
+	}
+	TArray<FString> DerivedErrors;
+	for (int32 Index = 0; Index < Classes.Num(); ++Index)
+	{
+		TArray<FString>& Errors = Index == 0 ? OutErrors : DerivedErrors;
+		BuildClass(Classes[Index], Errors);
+		CreateNewDefaultObject(Classes[Index], Errors);
+	}
+	ReplaceObjects();
+}
+
+void FBlueprintCompileReinstancer::MoveOldLayoutAway(FRebuiltClass& Rebuilt)
+{
+	UBlueprintGeneratedClass& Class = *Rebuilt.Class;
+	Rebuilt.OldPropertyGuids = Class.PropertyGuids;
+	Rebuilt.OldDefaultObject = Class.GetDefaultObject(false);
+	GetObjectsOfClass(&Class, Rebuilt.OldInstances, false);
+
+	UObject* const Transient = GetTransientPackageAsObject();
+	const FName OldName = MakeUniqueObjectName(Transient, Class.GetClass(), FName(*(TEXT("REINST_") + Class.GetName())));
+	UBlueprintGeneratedClass* const OldClass = NewObject<UBlueprintGeneratedClass>(Transient, Class.GetClass(), OldName, RF_Transient);
+	Rebuilt.OldClass = OldClass;
+	const FRebuiltClass* const RebuiltSuper = Classes.FindByPredicate([&Class](const FRebuiltClass& Other)
+		{ return Other.Class == Class.GetSuperClass(); });
+	OldClass->SetSuperStruct(RebuiltSuper ? RebuiltSuper->OldClass : Class.GetSuperClass());
+	OldClass->ClassConstructor = Class.ClassConstructor;
+	OldClass->ClassAddReferencedObjects = Class.ClassAddReferencedObjects;
+	OldClass->ClassFlags = Class.ClassFlags | CLASS_NewerVersionExists;
+	OldClass->ClassCastFlags = Class.ClassCastFlags;
+	OldClass->ClassWithin = Class.ClassWithin;
+	OldClass->ChildProperties = Class.ChildProperties;
+	OldClass->PropertiesSize = Class.PropertiesSize;
+	OldClass->MinAlignment = Class.MinAlignment;
+	Class.ChildProperties = nullptr;
+	for (FField* Field = OldClass->ChildProperties; Field; Field = Field->Next)
+	{
+		Field->Owner = OldClass;
+	}
+	OldClass->Children = Class.Children;
+	for (UField* Child = OldClass->Children; Child; Child = Child->Next)
+	{
+		Child->Rename(nullptr, OldClass, MoveFlags);
+	}
+	OldClass->StaticLink(false);
+
+	if (Rebuilt.OldDefaultObject)
+	{
+		Rebuilt.OldDefaultObject->Rename(*MakeUniqueObjectName(Transient, OldClass).ToString(), Transient, MoveFlags);
+		MoveObjectToClass(*Rebuilt.OldDefaultObject, *OldClass);
+		OldClass->SetDefaultObject(Rebuilt.OldDefaultObject);
+	}
+	for (UObject* const Instance : Rebuilt.OldInstances)
+	{
+		MoveObjectToClass(*Instance, *OldClass);
+	}
+}
+
+void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors)
+{
+	UBlueprint& Blueprint = *Rebuilt.Blueprint;
+	UBlueprintGeneratedClass& Class = *Rebuilt.Class;
+	Class.PurgeClass(false);
+	Class.PropertyGuids.Empty();
+	Class.SetSuperStruct(Blueprint.ParentClass.Get());
+	Class.ClassGeneratedBy = &Blueprint;
+	Class.ClassFlags = CLASS_CompiledFromBlueprint | (Blueprint.bGenerateAbstractClass ? CLASS_Abstract : CLASS_None) |
+		(Blueprint.bDeprecate ? CLASS_Deprecated : CLASS_None) | (Blueprint.BlueprintType == BPTYPE_Interface ? CLASS_Interface | CLASS_Abstract : CLASS_None);
+	Class.Bind();
+	FBlueprintClassBuilder(Blueprint, Class).Build(OutErrors);
+	Class.StaticLink(true);
+	Class.SimpleConstructionScript = Blueprint.SimpleConstructionScript;
+	Class.ComponentTemplates = Blueprint.ComponentTemplates;
+	Class.Timelines = Blueprint.Timelines;
+	Class.InheritableComponentHandler = Blueprint.InheritableComponentHandler;
+}
+
+void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors) const
+{
+	UObject* const NewDefaultObject = Rebuilt.Class->GetDefaultObject();
+	ApplyVariableDefaults(Rebuilt, OutErrors);
+	if (Rebuilt.OldDefaultObject)
+	{
+		CopyValues(*Rebuilt.OldDefaultObject, *NewDefaultObject, GetOldPropertyGuids(Rebuilt));
+	}
+}
+
+TMap<FName, FGuid> FBlueprintCompileReinstancer::GetOldPropertyGuids(const FRebuiltClass& Rebuilt) const
+{
+	TMap<FName, FGuid> Guids;
+	for (const FRebuiltClass& Other : Classes)
+	{
+		if (Rebuilt.Class->IsChildOf(Other.Class))
+		{
+			Guids.Append(Other.OldPropertyGuids);
+		}
+	}
+	return Guids;
+}
+
+void FBlueprintCompileReinstancer::ApplyVariableDefaults(const FRebuiltClass& Rebuilt, TArray<FString>& OutErrors)
+{
+	UObject* const Defaults = Rebuilt.Class->GetDefaultObject();
+	for (const FBPVariableDescription& Variable : Rebuilt.Blueprint->NewVariables)
+	{
+		const FProperty* const Property = Variable.DefaultValue.IsEmpty() ? nullptr : FindFProperty<FProperty>(Rebuilt.Class, Variable.VarName);
+		if (Property &&
+			!Property->ImportText_Direct(*Variable.DefaultValue, Property->ContainerPtrToValuePtr<void>(Defaults), Defaults, PPF_None))
+		{
+			OutErrors.Add(FString::Printf(TEXT("The default value of %s could not be read: %s"), *Variable.VarName.ToString(), *Variable.DefaultValue.Left(128)));
+		}
+	}
+}
+
+void FBlueprintCompileReinstancer::ReplaceObjects()
+{
+	TMap<UObject*, UObject*> Replacements;
+	UObject* const Transient = GetTransientPackageAsObject();
+	for (FRebuiltClass& Rebuilt : Classes)
+	{
+		if (Rebuilt.OldDefaultObject)
+		{
+			Replacements.Add(Rebuilt.OldDefaultObject, Rebuilt.Class->GetDefaultObject());
+		}
+		for (UObject* const Old : Rebuilt.OldInstances)
+		{
+			UObject* const Outer = Old->GetOuter();
+			const FName Name = Old->GetFName();
+			const EObjectFlags Flags = Old->GetMaskedFlags(RF_Public | RF_Standalone | RF_Transactional | RF_Transient | RF_ArchetypeObject);
+			Old->Rename(*MakeUniqueObjectName(Transient, Rebuilt.OldClass).ToString(), Transient, MoveFlags);
+			UObject* const New = NewObject<UObject>(Outer, Rebuilt.Class, Name, Flags);
+			if (AActor* const OldActor = Cast<AActor>(Old); OldActor && OldActor->GetRootComponent())
+			{
+				ConstructActor(*OldActor, *CastChecked<AActor>(New));
+			}
+			CopyValues(*Old, *New, GetOldPropertyGuids(Rebuilt));
+			Replacements.Add(Old, New);
+		}
+	}
+	if (Replacements.Num() > 0)
+	{
+		UE::CoreUObject::ReplaceObjectReferences(Replacements);
+	}
+	for (const TPair<UObject*, UObject*>& Pair : Replacements)
+	{
+		Pair.Key->ClearFlags(RF_Standalone | RF_Public | RF_ClassDefaultObject);
+		Pair.Key->MarkAsGarbage();
+	}
+}

@@ -1,0 +1,4 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Editor/EditorEngine.h"
