@@ -1,0 +1,128 @@
+#include "VexelHttpPayload.h"
+
+#include "Containers/StringConv.h"
+#include "Dom/JsonObject.h"
+#include "Misc/Guid.h"
+#include "VexelJson.h"
+
+namespace
+{
+void AppendUtf8(TArray<uint8>& Bytes, const FString& Text)
+{
+	const FTCHARToUTF8 Utf8(*Text, Text.Len());
+	Bytes.Append(reinterpret_cast<const uint8*>(Utf8.Get()), Utf8.Length());
+}
+
+bool IsUnreserved(uint8 Byte)
+{
+	const bool bLetter = (Byte >= 'a' && Byte <= 'z') || (Byte >= 'A' && Byte <= 'Z');
+	const bool bDigit = Byte >= '0' && Byte <= '9';
+	return bLetter || bDigit || Byte == '-' || Byte == '.' || Byte == '_' || Byte == '~';
+}
+
+void AppendUrlEncoded(FString& Out, const FString& Text)
+{
+	const FTCHARToUTF8 Utf8(*Text, Text.Len());
+	for (int32 Index = 0; Index < Utf8.Length(); ++Index)
+	{
+		const uint8 Byte = uint8(Utf8.Get()[Index]);
+		if (IsUnreserved(Byte))
+		{
+			Out.AppendChar(TCHAR(Byte));
+		}
+		else
+		{
+			Out.Appendf(TEXT("%%%02X"), uint32(Byte));
+		}
+	}
+}
+
+/** A name inside a part's header, which a quote or a line end would break out of. */
+FString ToQuotedName(const FString& Name)
+{
+	return Name.Replace(TEXT("\""), TEXT("%22")).Replace(TEXT("\r"), TEXT("%0D")).Replace(TEXT("\n"), TEXT("%0A"));
+}
+}
+
+FVexelHttpUrlParams& FVexelHttpUrlParams::Add(const FString& Key, const FString& Value)
+{
+	Pairs.Emplace(Key, Value);
+	return *this;
+}
+
+FString FVexelHttpUrlParams::ToUrlEncodedString() const
+{
+	FString Text;
+	for (const TTuple<FString, FString>& Pair : Pairs)
+	{
+		if (!Text.IsEmpty())
+		{
+			Text += TEXT("&");
+		}
+		AppendUrlEncoded(Text, Pair.Get<0>());
+		Text += TEXT("=");
+		AppendUrlEncoded(Text, Pair.Get<1>());
+	}
+	return Text;
+}
+
+FVexelHttpMultipartPayload::FVexelHttpMultipartPayload()
+	: Boundary(TEXT("vexel-") + FGuid::NewGuid().ToString())
+{
+}
+
+void FVexelHttpMultipartPayload::AppendBinaryFile(const FString& FieldName, const FString& FileName, TConstArrayView<uint8> FileBytes)
+{
+	checkf(!bClosed, TEXT("A closed form takes no more parts"));
+	AppendUtf8(Bytes,
+		FString::Printf(TEXT("--%s\r\nContent-Disposition: form-data; name=\"%s\"; filename=\"%s\"\r\nContent-Type: application/octet-stream\r\n\r\n"),
+			*Boundary, *ToQuotedName(FieldName), *ToQuotedName(FileName)));
+	Bytes.Append(FileBytes.GetData(), FileBytes.Num());
+	AppendUtf8(Bytes, TEXT("\r\n"));
+}
+
+void FVexelHttpMultipartPayload::CloseForm()
+{
+	checkf(!bClosed, TEXT("The form is closed already"));
+	AppendUtf8(Bytes, FString::Printf(TEXT("--%s--\r\n"), *Boundary));
+	bClosed = true;
+}
+
+namespace VexelInternal::Http
+{
+bool TPayloadHelper<TSharedPtr<FJsonObject>>::SetRequestData(const TSharedPtr<FJsonObject>& Payload, IRequest& Request)
+{
+	FString Text;
+	if (!Payload || !FVexelJsonConversions::JsonToString(Payload.ToSharedRef(), Text))
+	{
+		return false;
+	}
+	TArray<uint8> Bytes;
+	AppendUtf8(Bytes, Text);
+	Request.SetContent(TEXT("application/json"), MoveTemp(Bytes));
+	return true;
+}
+
+bool TPayloadHelper<TSharedRef<FJsonObject>>::SetRequestData(const TSharedRef<FJsonObject>& Payload, IRequest& Request)
+{
+	return TPayloadHelper<TSharedPtr<FJsonObject>>::SetRequestData(Payload, Request);
+}
+
+bool TPayloadHelper<FVexelHttpUrlParams>::SetRequestData(const FVexelHttpUrlParams& Payload, IRequest& Request)
+{
+	TArray<uint8> Bytes;
+	AppendUtf8(Bytes, Payload.ToUrlEncodedString());
+	Request.SetContent(TEXT("application/x-www-form-urlencoded"), MoveTemp(Bytes));
+	return true;
+}
+
+bool TPayloadHelper<FVexelHttpMultipartPayload>::SetRequestData(const FVexelHttpMultipartPayload& Payload, IRequest& Request)
+{
+	if (!Payload.IsClosed())
+	{
+		return false;
+	}
+	Request.SetContent(TEXT("multipart/form-data; boundary=") + Payload.GetBoundary(), Payload.GetBytes());
+	return true;
+}
+}

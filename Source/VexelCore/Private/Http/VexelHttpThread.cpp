@@ -1,0 +1,142 @@
+#include "Http/VexelHttpThread.h"
+
+#include "HAL/RunnableThread.h"
+#include "Misc/ScopeLock.h"
+
+namespace
+{
+/** Longest sleep of the thread when nothing happens. It is woken for all that matters, so the value is only a safety net. */
+constexpr int PollMilliseconds = 1000;
+constexpr long MaxIdleConnections = 16;
+}
+
+FVexelHttpThread::FVexelHttpThread()
+{
+	static const CURLcode GlobalInit = curl_global_init(CURL_GLOBAL_DEFAULT);
+	checkf(GlobalInit == CURLE_OK, TEXT("libcurl cannot be initialised: %s"), *FString(curl_easy_strerror(GlobalInit)));
+	Multi = curl_multi_init();
+	check(Multi);
+	curl_multi_setopt(Multi, CURLMOPT_MAXCONNECTS, MaxIdleConnections);
+	Thread.Reset(FRunnableThread::Create(this, TEXT("VexelHttpThread")));
+	checkf(Thread, TEXT("The network thread cannot be started"));
+}
+
+FVexelHttpThread::~FVexelHttpThread()
+{
+	Thread->Kill(true);
+	Thread.Reset();
+	curl_multi_cleanup(Multi);
+}
+
+void FVexelHttpThread::Submit(const TSharedRef<FVexelHttpTransfer>& Transfer)
+{
+	{
+		FScopeLock Guard(&SubmittedLock);
+		Submitted.Add(Transfer);
+	}
+	Wake();
+}
+
+void FVexelHttpThread::Wake()
+{
+	curl_multi_wakeup(Multi);
+}
+
+uint32 FVexelHttpThread::Run()
+{
+	while (!bStopping)
+	{
+		StartSubmitted();
+		EndCancelled();
+		int NumRunning = 0;
+		curl_multi_perform(Multi, &NumRunning);
+		EndFinished();
+		curl_multi_poll(Multi, nullptr, 0, PollMilliseconds, nullptr);
+	}
+	EndAll();
+	return 0;
+}
+
+void FVexelHttpThread::Stop()
+{
+	bStopping = true;
+	Wake();
+}
+
+void FVexelHttpThread::StartSubmitted()
+{
+	TArray<TSharedRef<FVexelHttpTransfer>> Starting;
+	{
+		FScopeLock Guard(&SubmittedLock);
+		Swap(Starting, Submitted);
+	}
+	for (const TSharedRef<FVexelHttpTransfer>& Transfer : Starting)
+	{
+		if (Transfer->IsCancelled())
+		{
+			Transfer->FinishCancelled();
+		}
+		else if (Transfer->Prepare())
+		{
+			curl_multi_add_handle(Multi, Transfer->GetHandle());
+			Running.Add(Transfer);
+		}
+	}
+}
+
+void FVexelHttpThread::EndCancelled()
+{
+	for (int32 Index = Running.Num() - 1; Index >= 0; --Index)
+	{
+		const TSharedRef<FVexelHttpTransfer> Transfer = Running[Index];
+		if (Transfer->IsCancelled())
+		{
+			Remove(&*Transfer);
+			Transfer->FinishCancelled();
+		}
+	}
+}
+
+void FVexelHttpThread::EndFinished()
+{
+	int NumLeft = 0;
+	while (CURLMsg* const Message = curl_multi_info_read(Multi, &NumLeft))
+	{
+		if (Message->msg != CURLMSG_DONE)
+		{
+			continue;
+		}
+		// Removing the handle frees the message.
+		const CURLcode Code = Message->data.result;
+		FVexelHttpTransfer* Finished = nullptr;
+		curl_easy_getinfo(Message->easy_handle, CURLINFO_PRIVATE, &Finished);
+		if (const TSharedPtr<FVexelHttpTransfer> Transfer = Remove(Finished))
+		{
+			Transfer->Finish(Code);
+		}
+	}
+}
+
+void FVexelHttpThread::EndAll()
+{
+	StartSubmitted();
+	while (!Running.IsEmpty())
+	{
+		const TSharedPtr<FVexelHttpTransfer> Transfer = Remove(&*Running.Last());
+		Transfer->FinishCancelled();
+	}
+}
+
+TSharedPtr<FVexelHttpTransfer> FVexelHttpThread::Remove(FVexelHttpTransfer* Transfer)
+{
+	const int32 Index = Running.IndexOfByPredicate([&](const TSharedRef<FVexelHttpTransfer>& Other)
+		{ return &*Other == Transfer; });
+	if (Index == INDEX_NONE)
+	{
+		return nullptr;
+	}
+	const TSharedRef<FVexelHttpTransfer> Removed = Running[Index];
+	curl_multi_remove_handle(Multi, Removed->GetHandle());
+	Running.RemoveAtSwap(Index);
+	return Removed;
+}

@@ -1,0 +1,389 @@
+#include "Http/VexelHttpTransfer.h"
+
+#include "Containers/StringConv.h"
+#include "Misc/ScopeLock.h"
+#include "VexelErrorKinds.h"
+#include "VexelTaskManager.h"
+
+#include <cstdlib>
+#include <string>
+
+namespace
+{
+/** Largest body that is taken in; a service that sends more is broken or hostile. */
+constexpr int32 MaxBodyBytes = 1 << 30;
+constexpr int32 MaxHeaderBytes = 256 * 1024;
+constexpr long MaxRedirects = 5;
+constexpr long ConnectTimeoutMilliseconds = 30'000;
+/** What an error message quotes of a body. */
+constexpr int32 MaxQuotedBytes = 1024;
+
+const TCHAR* ToWord(EVexelHttpVerb Verb)
+{
+	switch (Verb)
+	{
+		case EVexelHttpVerb::Get:
+			return TEXT("GET");
+		case EVexelHttpVerb::Post:
+			return TEXT("POST");
+		case EVexelHttpVerb::Put:
+			return TEXT("PUT");
+	}
+	return TEXT("");
+}
+
+long ToMilliseconds(float Seconds)
+{
+	// libcurl takes 0 for no limit.
+	return FMath::Max(1l, long(double(Seconds) * 1000.0));
+}
+
+/** The environment's list of hosts that no proxy is asked for, and this machine itself. */
+std::string GetHostsWithoutProxy()
+{
+	const ANSICHAR* Listed = std::getenv("no_proxy");
+	Listed = Listed ? Listed : std::getenv("NO_PROXY");
+	const std::string Hosts = Listed ? Listed : "";
+	return Hosts == "*" ? Hosts : Hosts + (Hosts.empty() ? "" : ",") + "localhost,127.0.0.1,::1";
+}
+
+FString ToText(TConstArrayView<uint8> Bytes)
+{
+	const FUTF8ToTCHAR Converted(reinterpret_cast<const ANSICHAR*>(Bytes.GetData()), Bytes.Num());
+	return FString::ConstructFromPtrSize(Converted.Get(), Converted.Length());
+}
+}
+
+FVexelHttpTransfer::FVexelHttpTransfer(FVexelHttpTransferSetup&& InSetup)
+	: Setup(MoveTemp(InSetup))
+	, Context(FVexelErrorContext::Capture())
+	, Result(TVexelTaskResult<TSharedRef<FVexelHttpResponse>>::MakePending())
+{
+}
+
+FVexelHttpTransfer::~FVexelHttpTransfer()
+{
+	curl_easy_cleanup(Handle);
+	curl_slist_free_all(HeaderList);
+}
+
+TSharedPtr<FVexelHttpResponse> FVexelHttpTransfer::GetResponse() const
+{
+	FScopeLock Guard(&ResponseLock);
+	return Response;
+}
+
+bool FVexelHttpTransfer::Prepare()
+{
+	Handle = curl_easy_init();
+	if (!Handle)
+	{
+		Fail(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the request could not be set up", *Describe()));
+		return false;
+	}
+	for (const TTuple<FString, FString>& Header : Setup.Headers)
+	{
+		HeaderList = curl_slist_append(HeaderList, TCHAR_TO_UTF8(*(Header.Get<0>() + TEXT(": ") + Header.Get<1>())));
+	}
+	// libcurl would wait for a "100 Continue" that few services send.
+	HeaderList = curl_slist_append(HeaderList, "Expect:");
+	SetOptions();
+	SetBodyOptions();
+	return true;
+}
+
+void FVexelHttpTransfer::SetOptions()
+{
+	curl_easy_setopt(Handle, CURLOPT_URL, TCHAR_TO_UTF8(*Setup.Url));
+	curl_easy_setopt(Handle, CURLOPT_HTTPHEADER, HeaderList);
+	curl_easy_setopt(Handle, CURLOPT_PRIVATE, this);
+	curl_easy_setopt(Handle, CURLOPT_ERRORBUFFER, ErrorBuffer);
+	curl_easy_setopt(Handle, CURLOPT_NOSIGNAL, 1L);
+	curl_easy_setopt(Handle, CURLOPT_NOPROXY, GetHostsWithoutProxy().c_str());
+	curl_easy_setopt(Handle, CURLOPT_USERAGENT, "Vexel");
+	curl_easy_setopt(Handle, CURLOPT_PROTOCOLS_STR, "http,https");
+	curl_easy_setopt(Handle, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
+	curl_easy_setopt(Handle, CURLOPT_FOLLOWLOCATION, 1L);
+	curl_easy_setopt(Handle, CURLOPT_MAXREDIRS, MaxRedirects);
+	curl_easy_setopt(Handle, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_2TLS));
+	// Waiting for a connection that may be shared ends with the TLS handshake. Without TLS it would end with the first answer,
+	// and one slow answer would hold up every other request.
+	curl_easy_setopt(Handle, CURLOPT_PIPEWAIT, Setup.Url.StartsWith(TEXT("https:")) ? 1L : 0L);
+	curl_easy_setopt(Handle, CURLOPT_ACCEPT_ENCODING, "");
+	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYPEER, 1L);
+	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYHOST, 2L);
+	curl_easy_setopt(Handle, CURLOPT_CONNECTTIMEOUT_MS, ConnectTimeoutMilliseconds);
+	curl_easy_setopt(Handle, CURLOPT_WRITEFUNCTION, &FVexelHttpTransfer::OnBody);
+	curl_easy_setopt(Handle, CURLOPT_WRITEDATA, this);
+	curl_easy_setopt(Handle, CURLOPT_HEADERFUNCTION, &FVexelHttpTransfer::OnHeader);
+	curl_easy_setopt(Handle, CURLOPT_HEADERDATA, this);
+	if (Setup.TimeoutSeconds > 0.0f)
+	{
+		curl_easy_setopt(Handle, CURLOPT_TIMEOUT_MS, ToMilliseconds(Setup.TimeoutSeconds));
+	}
+	if (Setup.StallTimeoutSeconds > 0.0f)
+	{
+		curl_easy_setopt(Handle, CURLOPT_LOW_SPEED_LIMIT, 1L);
+		curl_easy_setopt(Handle, CURLOPT_LOW_SPEED_TIME, long(FMath::CeilToInt(Setup.StallTimeoutSeconds)));
+	}
+}
+
+void FVexelHttpTransfer::SetBodyOptions()
+{
+	if (Setup.Verb == EVexelHttpVerb::Post)
+	{
+		const ANSICHAR* const Bytes = Setup.Body.Bytes.IsEmpty() ? "" : reinterpret_cast<const ANSICHAR*>(Setup.Body.Bytes.GetData());
+		curl_easy_setopt(Handle, CURLOPT_POST, 1L);
+		curl_easy_setopt(Handle, CURLOPT_POSTFIELDS, Bytes);
+		curl_easy_setopt(Handle, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(Setup.Body.Bytes.Num()));
+		// A 301 or 302 that turned a POST into a GET would lose the body; a 303 asks for just that.
+		curl_easy_setopt(Handle, CURLOPT_POSTREDIR, long(CURL_REDIR_POST_301 | CURL_REDIR_POST_302));
+	}
+	else if (Setup.Verb == EVexelHttpVerb::Put)
+	{
+		curl_easy_setopt(Handle, CURLOPT_UPLOAD, 1L);
+		curl_easy_setopt(Handle, CURLOPT_INFILESIZE_LARGE, curl_off_t(Setup.Body.Bytes.Num()));
+		curl_easy_setopt(Handle, CURLOPT_READFUNCTION, &FVexelHttpTransfer::OnUpload);
+		curl_easy_setopt(Handle, CURLOPT_READDATA, this);
+		curl_easy_setopt(Handle, CURLOPT_SEEKFUNCTION, &FVexelHttpTransfer::OnSeek);
+		curl_easy_setopt(Handle, CURLOPT_SEEKDATA, this);
+	}
+}
+
+void FVexelHttpTransfer::Release()
+{
+	Setup.Progress = nullptr;
+	Setup.Body.Bytes.Empty();
+	curl_easy_cleanup(Handle);
+	Handle = nullptr;
+	curl_slist_free_all(HeaderList);
+	HeaderList = nullptr;
+}
+
+void FVexelHttpTransfer::Finish(CURLcode Code)
+{
+	long Status = 0;
+	curl_easy_getinfo(Handle, CURLINFO_RESPONSE_CODE, &Status);
+	Release();
+	FVexelErrorContextRestore Restore(Context);
+	// libcurl is content with an answer that ends in the middle of its headers.
+	if (Code != CURLE_OK || !bHeadersComplete)
+	{
+		CompleteOnWorker(MakeTransportError(Code == CURLE_OK ? CURLE_PARTIAL_FILE : Code));
+		return;
+	}
+	const TSharedRef<FVexelHttpResponse> Answer = MakeShared<FVexelHttpResponse>(int32(Status), MoveTemp(Body), MoveTemp(ResponseHeaders));
+	{
+		FScopeLock Guard(&ResponseLock);
+		Response = Answer;
+	}
+	if (Status >= 200 && Status < 300)
+	{
+		CompleteOnWorker(Answer);
+	}
+	else
+	{
+		CompleteOnWorker(MakeStatusError(int32(Status)));
+	}
+}
+
+void FVexelHttpTransfer::FinishCancelled()
+{
+	Release();
+	FVexelErrorContextRestore Restore(Context);
+	CompleteOnWorker(MakeCancelledError());
+}
+
+void FVexelHttpTransfer::Fail(FVexelError Error)
+{
+	CompleteOnWorker(MoveTemp(Error));
+}
+
+FString FVexelHttpTransfer::Describe() const
+{
+	FStringView Address = Setup.Url;
+	int32 Index = INDEX_NONE;
+	for (const TCHAR EndOfPath : {TEXT('?'), TEXT('#')})
+	{
+		if (Address.FindChar(EndOfPath, Index))
+		{
+			Address = Address.Left(Index);
+		}
+	}
+	// A user and a password in front of the host are as secret as a query may be.
+	const int32 SchemeEnd = Address.Find(TEXT("://"));
+	const FStringView Rest = SchemeEnd == INDEX_NONE ? Address : Address.RightChop(SchemeEnd + 3);
+	const FStringView Host = Rest.FindChar(TEXT('/'), Index) ? Rest.Left(Index) : Rest;
+	if (Host.FindLastChar(TEXT('@'), Index))
+	{
+		return FString(ToWord(Setup.Verb)) + TEXT(" ") + FString(Address.LeftChop(Rest.Len())) + FString(Rest.RightChop(Index + 1));
+	}
+	return FString(ToWord(Setup.Verb)) + TEXT(" ") + FString(Address);
+}
+
+size_t FVexelHttpTransfer::OnBody(char* Bytes, size_t Size, size_t Count, void* Transfer)
+{
+	return static_cast<FVexelHttpTransfer*>(Transfer)->AppendBody(
+		TConstArrayView<uint8>(reinterpret_cast<const uint8*>(Bytes), int32(Size * Count)));
+}
+
+size_t FVexelHttpTransfer::OnHeader(char* Bytes, size_t Size, size_t Count, void* Transfer)
+{
+	const FString Line = ToText(TConstArrayView<uint8>(reinterpret_cast<const uint8*>(Bytes), int32(Size * Count)));
+	return static_cast<FVexelHttpTransfer*>(Transfer)->AppendHeader(Line) ? Size * Count : 0;
+}
+
+size_t FVexelHttpTransfer::OnUpload(char* Bytes, size_t Size, size_t Count, void* Transfer)
+{
+	FVexelHttpTransfer* const This = static_cast<FVexelHttpTransfer*>(Transfer);
+	const TArray<uint8>& Upload = This->Setup.Body.Bytes;
+	const int64 NumNow = FMath::Min(int64(Size * Count), int64(Upload.Num()) - This->NumUploaded);
+	FMemory::Memcpy(Bytes, Upload.GetData() + This->NumUploaded, SIZE_T(NumNow));
+	This->NumUploaded += NumNow;
+	return size_t(NumNow);
+}
+
+/** A redirect and a connection that was closed under the request send the body again. */
+int FVexelHttpTransfer::OnSeek(void* Transfer, curl_off_t Offset, int Origin)
+{
+	FVexelHttpTransfer* const This = static_cast<FVexelHttpTransfer*>(Transfer);
+	if (Origin != SEEK_SET || Offset < 0 || Offset > This->Setup.Body.Bytes.Num())
+	{
+		return CURL_SEEKFUNC_CANTSEEK;
+	}
+	This->NumUploaded = Offset;
+	return CURL_SEEKFUNC_OK;
+}
+
+/** Answers how many bytes were taken; fewer than were given ends the transfer. */
+size_t FVexelHttpTransfer::AppendBody(TConstArrayView<uint8> Bytes)
+{
+	if (IsCancelled())
+	{
+		return 0;
+	}
+	if (Bytes.Num() > MaxBodyBytes - Body.Num())
+	{
+		bTooLarge = true;
+		return 0;
+	}
+	Body.Append(Bytes.GetData(), Bytes.Num());
+	long Status = 0;
+	curl_easy_getinfo(Handle, CURLINFO_RESPONSE_CODE, &Status);
+	if (Setup.Progress && Status >= 200 && Status < 300)
+	{
+		FVexelErrorContextRestore Restore(Context);
+		Setup.Progress(Body);
+	}
+	return size_t(Bytes.Num());
+}
+
+size_t FVexelHttpTransfer::AppendHeader(FStringView Line)
+{
+	NumHeaderBytes += Line.Len();
+	if (NumHeaderBytes > MaxHeaderBytes)
+	{
+		bTooLarge = true;
+		return 0;
+	}
+	int32 Colon = INDEX_NONE;
+	if (Line.StartsWith(TEXT("HTTP/")))
+	{
+		bHeadersComplete = false;
+		// A redirect or an interim answer came before this one.
+		ResponseHeaders.Reset();
+		Body.Reset();
+	}
+	else if (Line == TEXT("\r\n") || Line == TEXT("\n"))
+	{
+		bHeadersComplete = true;
+	}
+	else if (Line.FindChar(TEXT(':'), Colon))
+	{
+		ResponseHeaders.Emplace(FString(Line.Left(Colon)), FString(Line.RightChop(Colon + 1)).TrimStartAndEnd());
+	}
+	return 1;
+}
+
+namespace
+{
+/** A completion on its way to a worker. When it is dropped on the way, because the workers end, it takes place there and then. */
+class FCompletion
+{
+public:
+	FCompletion(const TSharedRef<FVexelHttpTransfer>& InTransfer, TVexelExpected<TSharedRef<FVexelHttpResponse>>&& InValue)
+		: Transfer(InTransfer)
+		, Value(MoveTemp(InValue))
+	{
+	}
+	FCompletion(FCompletion&&) = default;
+	~FCompletion() { Run(); }
+
+	void Run()
+	{
+		if (const TSharedPtr<FVexelHttpTransfer> Completed = MoveTemp(Transfer))
+		{
+			Completed->Complete(MoveTemp(Value));
+		}
+	}
+
+private:
+	TSharedPtr<FVexelHttpTransfer> Transfer;
+	TVexelExpected<TSharedRef<FVexelHttpResponse>> Value;
+};
+}
+
+void FVexelHttpTransfer::CompleteOnWorker(TVexelExpected<TSharedRef<FVexelHttpResponse>> Value)
+{
+	FVexelTaskManager::ScheduleFunc(
+		EVexelTaskThread::BackgroundThread, [Completion = FCompletion(AsShared(), MoveTemp(Value))]() mutable
+		{ Completion.Run(); });
+}
+
+void FVexelHttpTransfer::Complete(TVexelExpected<TSharedRef<FVexelHttpResponse>>&& Value)
+{
+	if (IsCancelled())
+	{
+		FVexelErrorContextRestore Restore(Context);
+		Result.Complete(MakeCancelledError());
+		return;
+	}
+	Result.Complete(MoveTemp(Value));
+}
+
+FVexelError FVexelHttpTransfer::MakeCancelledError() const
+{
+	return VEXEL_ERROR_TITLED(FVexelError_HttpCancelled, "Request cancelled", "%s was cancelled", *Describe());
+}
+
+FVexelError FVexelHttpTransfer::MakeStatusError(int32 Status) const
+{
+	const TArray<uint8>& Content = Response->GetContent();
+	const FString Quote = ToText(TConstArrayView<uint8>(Content.GetData(), FMath::Min(Content.Num(), MaxQuotedBytes))).TrimStartAndEnd();
+	const FString Message = FString::Printf(
+		TEXT("%s was answered with HTTP status %d%s%s"), *Describe(), Status, Quote.IsEmpty() ? TEXT("") : TEXT(": "), *Quote);
+	const FString Title = TEXT("Request failed");
+	if (Status == 401)
+	{
+		return FVexelError_HttpUnauthorized(VEXEL_HERE, Title, Message);
+	}
+	if (Status >= 400 && Status < 500)
+	{
+		return FVexelError_HttpStatusClientError(VEXEL_HERE, Title, Message);
+	}
+	return FVexelError_HttpStatus(VEXEL_HERE, Title, Message);
+}
+
+FVexelError FVexelHttpTransfer::MakeTransportError(CURLcode Code) const
+{
+	if (IsCancelled())
+	{
+		return MakeCancelledError();
+	}
+	if (bTooLarge)
+	{
+		return VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the answer is too large", *Describe());
+	}
+	const FString Reason = FString(ErrorBuffer[0] ? ErrorBuffer : curl_easy_strerror(Code));
+	return VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: %s", *Describe(), *Reason);
+}
