@@ -1,0 +1,285 @@
+#include "Auth/VexelAuth.h"
+
+#include "Dom/JsonObject.h"
+#include "Misc/ScopeLock.h"
+#include "VexelClient.h"
+#include "VexelCrypto.h"
+#include "VexelHttp.h"
+#include "VexelJson.h"
+#include "VexelLog.h"
+#include "VexelSecureStorage.h"
+#include "VexelSentry.h"
+#include "VexelTry.h"
+
+namespace
+{
+const FString RefreshTokenKey = TEXT("rt");
+constexpr float RequestTimeoutSeconds = 10.0f;
+
+/** Behind Lock, all of it. */
+struct FAuthData
+{
+	FCriticalSection Lock;
+	FVexelAuth::EState State = FVexelAuth::EState::Offline;
+	FString AccessToken;
+	FString RefreshToken;
+	FDateTime Expiry;
+	FString UserId;
+	FString ClientId;
+	FVexelAuth::FOnAuthStateChanged OnStateChanged;
+};
+
+FAuthData& GetData()
+{
+	static FAuthData Data;
+	return Data;
+}
+
+TSharedRef<FJsonObject> MakeScopeData(const TCHAR* Request, const TCHAR* Initiator)
+{
+	const TSharedRef<FJsonObject> Data = MakeShared<FJsonObject>();
+	Data->SetStringField(TEXT("request"), Request);
+	Data->SetStringField(TEXT("initiator"), Initiator);
+	return Data;
+}
+
+/** The subject claim of a JSON web token. The signature is the service's business: the id addresses and displays, it grants nothing. */
+FString ReadUserId(const FString& AccessToken)
+{
+	TArray<FString> Parts;
+	TArray<uint8> PayloadBytes;
+	TSharedPtr<FJsonObject> Payload;
+	FString UserId;
+	AccessToken.ParseIntoArray(Parts, TEXT("."), false);
+	if (Parts.Num() != 3 || !FVexelCrypto::Base64UrlDecode(Parts[1], PayloadBytes))
+	{
+		return UserId;
+	}
+	const FUTF8ToTCHAR Text(reinterpret_cast<const ANSICHAR*>(PayloadBytes.GetData()), PayloadBytes.Num());
+	if (FVexelJsonConversions::StringToJson(FString::ConstructFromPtrSize(Text.Get(), Text.Length()), Payload))
+	{
+		Payload->TryGetStringField(TEXT("sub"), UserId);
+	}
+	return UserId;
+}
+
+TVexelExpected<FString> ReadClientId(const TSharedRef<FVexelHttpResponse>& Response)
+{
+	const TSharedPtr<FJsonObject> Body = Response->GetContentJson();
+	if (!Body)
+	{
+		return VEXEL_ERROR(FVexelError_Auth_ClientId, "Failed to parse plugin client ID response");
+	}
+	FString ClientId;
+	if (!Body->TryGetStringField(TEXT("clientId"), ClientId) || ClientId.IsEmpty())
+	{
+		return VEXEL_ERROR(FVexelError_Auth_ClientId, "Response does not contain client_id field or it is empty");
+	}
+	return ClientId;
+}
+
+void ReportAuthError(const FVexelError& Cause, const TCHAR* While)
+{
+	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_Auth, Cause, "%s", *Cause.ToShortString());
+	Error.AppendContext(While);
+	FVexelSentry::CaptureError(MoveTemp(Error), VEXEL_HERE);
+}
+}
+
+FTokenResponse FTokenResponse::Parse(const FJsonObject& Object)
+{
+	FTokenResponse Response;
+	double ExpiresIn = 0.0;
+	Object.TryGetStringField(TEXT("access_token"), Response.AccessToken);
+	Object.TryGetStringField(TEXT("refresh_token"), Response.RefreshToken);
+	if (Object.TryGetNumberField(TEXT("expires_in"), ExpiresIn))
+	{
+		Response.ExpiresInSeconds = ExpiresIn;
+	}
+	return Response;
+}
+
+TVexelTaskResult<FString> FVexelAuth::PreloadClientId()
+{
+	FAuthData& Data = GetData();
+	{
+		FScopeLock Guard(&Data.Lock);
+		if (!Data.ClientId.IsEmpty())
+		{
+			return Data.ClientId;
+		}
+	}
+	return Try(FVexelClient::Get()
+				   .GetApiClient()
+				   ->Request(EVexelHttpVerb::Get, TEXT("/api/auth/plugin-client-id"))
+				   .WithTimeout(RequestTimeoutSeconds)
+				   .SendAndAwait())
+		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
+			{ return ReadClientId(Response); })
+		.Then([](const FString& ClientId)
+			{
+				FAuthData& Data = GetData();
+				FScopeLock Guard(&Data.Lock);
+				Data.ClientId = ClientId;
+				return ClientId; })
+		.Catch<FVexelError_Http>([](const FVexelError_Http& Error) -> TVexelExpected<FString>
+			{ return VEXEL_ERROR_CAUSED(FVexelError_Auth_ClientId, Error, "while fetching plugin client ID from server"); });
+}
+
+void FVexelAuth::StartAutoLogin()
+{
+	FVexelErrorContextScope Scope(TEXT("auth"), MakeScopeData(TEXT("login"), TEXT("auto")));
+	FAuthData& Data = GetData();
+	{
+		FScopeLock Guard(&Data.Lock);
+		if (Data.State != EState::Offline)
+		{
+			VEXEL_LOG(Warning, "Attempted to start auto-login while not offline.");
+			return;
+		}
+	}
+	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
+	if (Stored.HasError() || Stored.GetValue().IsEmpty())
+	{
+		VEXEL_LOG(Log, "No valid stored refresh token found for auto-login.");
+		return;
+	}
+	SetState(EState::LoggingIn);
+	InternalRefreshAccessToken(Stored.GetValue()).OnComplete([](const TVexelExpected<void>& Result)
+		{
+			if (!Result.HasError())
+			{
+				return;
+			}
+			const TVexelExpected<void> Deleted = FVexelSecureStorage::DeleteValue(RefreshTokenKey);
+			if (Deleted.HasError())
+			{
+				ReportAuthError(Deleted.GetError(), TEXT("while clearing stored refresh token after failed auto-login"));
+			}
+			ReportAuthError(Result.GetError(), TEXT("while performing auto-login"));
+			SetState(EState::Offline); });
+}
+
+FVexelAuth::EState FVexelAuth::GetState()
+{
+	FAuthData& Data = GetData();
+	FScopeLock Guard(&Data.Lock);
+	return Data.State;
+}
+
+FDelegateHandle FVexelAuth::AddAuthStateChangedCallback(const FOnAuthStateChanged::FDelegate& Callback)
+{
+	FAuthData& Data = GetData();
+	FScopeLock Guard(&Data.Lock);
+	return Data.OnStateChanged.Add(Callback);
+}
+
+void FVexelAuth::RemoveAuthStateChangedCallback(FDelegateHandle Handle)
+{
+	FAuthData& Data = GetData();
+	FScopeLock Guard(&Data.Lock);
+	Data.OnStateChanged.Remove(Handle);
+}
+
+void FVexelAuth::WithAccessToken(TFunctionRef<void(const FString& Token)> Callback)
+{
+	WithAccessTokenAndUser([&](const FString& Token, const FString&)
+		{ Callback(Token); });
+}
+
+void FVexelAuth::WithAccessTokenAndUser(TFunctionRef<void(const FString& Token, const FString& UserId)> Callback)
+{
+	FAuthData& Data = GetData();
+	FString Token;
+	FString UserId;
+	{
+		FScopeLock Guard(&Data.Lock);
+		Token = Data.AccessToken;
+		UserId = Data.UserId;
+	}
+	Callback(Token, UserId);
+}
+
+void FVexelAuth::Shutdown()
+{
+	FAuthData& Data = GetData();
+	FScopeLock Guard(&Data.Lock);
+	Data.State = EState::Offline;
+	Data.AccessToken.Empty();
+	Data.RefreshToken.Empty();
+	Data.UserId.Empty();
+	Data.ClientId.Empty();
+	Data.OnStateChanged.Clear();
+}
+
+TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FString& RefreshToken)
+{
+	return Try(PreloadClientId())
+		.Then([RefreshToken](const FString& ClientId)
+			{
+				FVexelHttpUrlParams Form;
+				Form.Add(TEXT("grant_type"), TEXT("refresh_token")).Add(TEXT("refresh_token"), RefreshToken).Add(TEXT("client_id"), ClientId);
+				return FVexelClient::Get()
+					.GetApiClient()
+					->Request(EVexelHttpVerb::Post, TEXT("/oauth/token"))
+					.WithTimeout(RequestTimeoutSeconds)
+					.WithPayload(Form)
+					.SendAndAwait(); })
+		.Then([](const TSharedRef<FVexelHttpResponse>& Response) -> TVexelExpected<FTokenResponse>
+			{
+				const TSharedPtr<FJsonObject> Body = Response->GetContentJson();
+				if (!Body)
+				{
+					return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Malformed token refresh response");
+				}
+				const FTokenResponse Tokens = FTokenResponse::Parse(*Body);
+				if (!Tokens.IsComplete())
+				{
+					return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Incomplete token data received");
+				}
+				VEXEL_LOG(Log, "OAuth token refresh successful");
+				return Tokens; })
+		.Then([](const FTokenResponse& Tokens)
+			{ return InternalProcessTokenResponse(Tokens); });
+}
+
+TVexelExpected<void> FVexelAuth::InternalProcessTokenResponse(const FTokenResponse& Response)
+{
+	const FString UserId = ReadUserId(Response.AccessToken);
+	if (UserId.IsEmpty())
+	{
+		return VEXEL_ERROR(FVexelError_Auth_TokenProcessing, "Failed to extract user ID from access token");
+	}
+	FAuthData& Data = GetData();
+	{
+		FScopeLock Guard(&Data.Lock);
+		Data.UserId = UserId;
+		Data.AccessToken = Response.AccessToken;
+		Data.RefreshToken = Response.RefreshToken;
+		Data.Expiry = FDateTime::UtcNow() + FTimespan::FromSeconds(*Response.ExpiresInSeconds);
+	}
+	const TVexelExpected<void> Stored = FVexelSecureStorage::StoreValueString(RefreshTokenKey, Response.RefreshToken);
+	if (Stored.HasError())
+	{
+		ReportAuthError(Stored.GetError(), TEXT("while storing refresh token"));
+	}
+	SetState(EState::Online);
+	return TVexelExpected<void>();
+}
+
+void FVexelAuth::SetState(EState NewState)
+{
+	FAuthData& Data = GetData();
+	FOnAuthStateChanged Listeners;
+	{
+		FScopeLock Guard(&Data.Lock);
+		if (Data.State == NewState)
+		{
+			return;
+		}
+		Data.State = NewState;
+		Listeners = Data.OnStateChanged;
+	}
+	// Outside the lock, because listeners ask for tokens.
+	Listeners.Broadcast(NewState);
+}

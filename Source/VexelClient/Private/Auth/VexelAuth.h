@@ -1,0 +1,58 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Delegates/Delegate.h"
+#include "Misc/DateTime.h"
+#include "VexelTaskResult.h"
+
+/** What a token endpoint answers. Complete only with both tokens and a life time. */
+struct FTokenResponse
+{
+	static FTokenResponse Parse(const class FJsonObject& Object);
+
+	bool IsComplete() const { return !AccessToken.IsEmpty() && !RefreshToken.IsEmpty() && ExpiresInSeconds.IsSet(); }
+
+	FString AccessToken;
+	FString RefreshToken;
+	TOptional<double> ExpiresInSeconds;
+};
+
+/** The user's login: one process-wide state behind one lock. Any thread; listeners are called on the thread that changed it. */
+class FVexelAuth
+{
+public:
+	enum class EState : uint8
+	{
+		/** A login may start. */
+		Offline,
+		LoggingIn,
+		Refreshing,
+		Online
+	};
+
+	DECLARE_MULTICAST_DELEGATE_OneParam(FOnAuthStateChanged, EState);
+
+	/** Fetches the plug-in's OAuth client id once and keeps it. */
+	static TVexelTaskResult<FString> PreloadClientId();
+
+	/** Logs in silently from the stored refresh token; without one nothing happens. */
+	static void StartAutoLogin();
+
+	static EState GetState();
+	static bool IsOnline() { return GetState() == EState::Online; }
+
+	static FDelegateHandle AddAuthStateChangedCallback(const FOnAuthStateChanged::FDelegate& Callback);
+	static void RemoveAuthStateChangedCallback(FDelegateHandle Handle);
+
+	/** Calls back with a copy of the access token taken under the lock. */
+	static void WithAccessToken(TFunctionRef<void(const FString& Token)> Callback);
+	static void WithAccessTokenAndUser(TFunctionRef<void(const FString& Token, const FString& UserId)> Callback);
+
+	/** Forgets login, tokens and client id, as at the end of the process. Nothing stored is touched. */
+	static void Shutdown();
+
+private:
+	static TVexelTaskResult<void> InternalRefreshAccessToken(const FString& RefreshToken);
+	static TVexelExpected<void> InternalProcessTokenResponse(const FTokenResponse& Response);
+	static void SetState(EState NewState);
+};

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Blueprint/VexelNodeNameTable.h"
+#include "CoreMinimal.h"
+#include "Dom/JsonObject.h"
+#include "VexelId.h"
+
+class FProperty;
+class UBlueprint;
+class UEdGraph;
+class UEdGraphNode;
+class UEdGraphPin;
+class UObject;
+struct FAssetData;
+struct FBPVariableDescription;
+struct FEdGraphPinType;
+
+/**
+ * The dictionary between editor objects and the ids that the assistant knows them by. A Make function never fails; a Resolve
+ * function answers false, with its out-parameter untouched, where nothing has the id. A plain value. Game thread.
+ */
+class FVexelBlueprintMapping
+{
+public:
+	FVexelBlueprintMapping() = default;
+	virtual ~FVexelBlueprintMapping() = default;
+	FVexelBlueprintMapping(const FVexelBlueprintMapping&) = default;
+	FVexelBlueprintMapping(FVexelBlueprintMapping&&) = default;
+	FVexelBlueprintMapping& operator=(const FVexelBlueprintMapping&) = default;
+	FVexelBlueprintMapping& operator=(FVexelBlueprintMapping&&) = default;
+
+	/** The node names. */
+	virtual TSharedRef<FJsonObject> ToJson() const;
+	/** Replaces the node names by the saved ones, where the object has some. */
+	virtual void FromJson(const TSharedRef<FJsonObject>& Object);
+
+	/** The Blueprint's path name. */
+	TVexelBlueprintId MakeBlueprintReference(const UBlueprint& Blueprint);
+	/** Loads the Blueprint. The path of a level names its level script. */
+	bool ResolveBlueprint(const TVexelBlueprintId& Id, UBlueprint*& OutBlueprint);
+
+	TVexelGraphId MakeGraphReference(const UEdGraph& Graph);
+	/** Looks at event, function, delegate-signature and macro graphs, in this order. */
+	bool ResolveGraphInBlueprint(const TVexelGraphId& Id, const UBlueprint& Blueprint, UEdGraph*& OutGraph);
+
+	/** The name that the node has, or the next free one of its title; bRegister keeps that one for the node. */
+	TVexelNodeId MakeNodeReference(const UEdGraphNode& Node, bool bRegister);
+	bool ResolveNodeInGraph(const TVexelNodeId& Id, const UEdGraph& Graph, UEdGraphNode*& OutNode);
+
+	TVexelPinId MakePinReference(const UEdGraphPin& Pin);
+	bool ResolvePinInNode(const TVexelPinId& Id, const UEdGraphNode& Node, UEdGraphPin*& OutPin);
+
+	/** Empty for a node of a class that has no rule. */
+	TVexelNodeTypeId MakeNodeTypeReference(const UEdGraphNode& Node);
+
+	/** SubCategoryAsset stands in for a type's object that is not loaded; it may be null. */
+	TVexelPropTypeId MakePropTypeReference(const FEdGraphPinType& PinType, const FAssetData* SubCategoryAsset);
+	bool ResolvePropType(const TVexelPropTypeId& Id, FEdGraphPinType& OutPinType);
+
+	/** The same GUID for the same property of the same owner, until the editor closes. All zero without a property or an owner. */
+	FGuid MakePropGuid(const FProperty* Property);
+	FGuid MakePropGuid(const UObject* OwnerObject, const FBPVariableDescription& Variable);
+	FGuid MakePropGuidDirect(const UObject* OwnerObject, const TVexelPropId& PropId);
+
+private:
+	FVexelNodeNameTable NodeNames;
+	/** By "owner path.property name". */
+	TMap<FString, FGuid> PropGuids;
+};

@@ -1,0 +1,34 @@
+#include "Blueprint/VexelNodeNameTable.h"
+
+void FVexelNodeNameTable::Add(const FGuid& NodeGuid, const FString& Name)
+{
+	check(!FindName(NodeGuid) && !HasName(Name));
+	NamesByGuid.Add(NodeGuid, Name);
+	GuidsByName.Add(Name, NodeGuid);
+}
+
+TSharedRef<FJsonObject> FVexelNodeNameTable::ToJson() const
+{
+	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	for (const auto& [Guid, Name] : NamesByGuid)
+	{
+		Object->SetStringField(Guid.ToString(EGuidFormats::Digits), Name);
+	}
+	return Object;
+}
+
+void FVexelNodeNameTable::FromJson(const TSharedRef<FJsonObject>& Object)
+{
+	NamesByGuid.Reset();
+	GuidsByName.Reset();
+	for (const auto& [Key, Value] : Object->Values)
+	{
+		FGuid Guid;
+		FString Name;
+		const bool bRead = FGuid::ParseExact(Key, EGuidFormats::Digits, Guid) && Value && Value->TryGetString(Name) && !Name.IsEmpty();
+		if (bRead && !FindName(Guid) && !HasName(Name))
+		{
+			Add(Guid, Name);
+		}
+	}
+}

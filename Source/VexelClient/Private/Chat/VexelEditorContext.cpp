@@ -1,0 +1,43 @@
+#include "Chat/VexelEditorContext.h"
+
+#include "Dom/JsonObject.h"
+#include "Editor.h"
+#include "Engine/World.h"
+#include "Misc/App.h"
+#include "Subsystems/AssetEditorSubsystem.h"
+
+FVexelEditorContext FVexelEditorContext::Capture()
+{
+	FVexelEditorContext Context;
+	Context.EditorWindowName = FApp::GetProjectName();
+	if (!GEditor)
+	{
+		return Context;
+	}
+	if (const UWorld* const World = GEditor->GetEditorWorldContext().World())
+	{
+		Context.CurrentWorld = World->GetPathName();
+	}
+	if (UAssetEditorSubsystem* const AssetEditors = GEditor->GetEditorSubsystem<UAssetEditorSubsystem>())
+	{
+		for (const UObject* const Asset : AssetEditors->GetAllEditedAssets())
+		{
+			Context.OpenAssets.Add(Asset->GetPathName());
+		}
+	}
+	return Context;
+}
+
+TSharedRef<FJsonObject> FVexelEditorContext::ToJson() const
+{
+	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	Object->SetStringField(TEXT("editor_window_name"), EditorWindowName);
+	Object->SetStringField(TEXT("current_world"), CurrentWorld);
+	TArray<TSharedPtr<FJsonValue>> Assets;
+	for (const FString& Asset : OpenAssets)
+	{
+		Assets.Add(MakeShared<FJsonValueString>(Asset));
+	}
+	Object->SetArrayField(TEXT("open_assets"), Assets);
+	return Object;
+}

@@ -1,0 +1,29 @@
+#include "Data/VexelChatModeInfo.h"
+
+FVexelChatModeInfo::FVexelChatModeInfo(FString InChatMode, FString InDisplayText, bool bInAgentMode)
+	: ChatMode(MoveTemp(InChatMode))
+	, DisplayText(MoveTemp(InDisplayText))
+	, bAgentMode(bInAgentMode)
+{
+}
+
+FVexelChatModeInfo FVexelChatModeInfo::MakeUserMode()
+{
+	return FVexelChatModeInfo(TEXT("user"), TEXT("User"), false);
+}
+
+TSharedRef<FJsonObject> FVexelChatModeInfo::ToJson() const
+{
+	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	Object->SetStringField(TEXT("chat_mode"), ChatMode);
+	Object->SetStringField(TEXT("display_text"), DisplayText);
+	Object->SetBoolField(TEXT("is_agent_mode"), bAgentMode);
+	return Object;
+}
+
+bool FVexelChatModeInfo::FromJson(const TSharedRef<FJsonObject>& Object)
+{
+	Object->TryGetStringField(TEXT("display_text"), DisplayText);
+	Object->TryGetBoolField(TEXT("is_agent_mode"), bAgentMode);
+	return Object->TryGetStringField(TEXT("chat_mode"), ChatMode);
+}

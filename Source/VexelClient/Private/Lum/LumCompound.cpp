@@ -1,0 +1,93 @@
+#include "Lum/LumCompound.h"
+
+#include "Lum/LumErrors.h"
+#include "Lum/LumJsonPropertyCollector.h"
+#include "Lum/LumProperty.h"
+#include "Lum/LumVariable.h"
+
+namespace
+{
+/** Keeps the first property, or the first variable of a scope, that has the id. */
+class FFindingCollector : public ILumPropertyCollector
+{
+public:
+	explicit FFindingCollector(const TVexelPropId& InPropId, const TVexelVarScopeId* InScopeId = nullptr)
+		: PropId(InPropId)
+		, ScopeId(InScopeId)
+	{
+	}
+
+	virtual TVexelExpected<void> Property(const TSharedRef<ILumProperty>& Property) override
+	{
+		if (ScopeId || FoundProperty)
+		{
+			return {};
+		}
+		VEXEL_TRY(const TVexelPropId Id, Property->GetPropId());
+		if (Id == PropId)
+		{
+			FoundProperty = Property;
+		}
+		return {};
+	}
+
+	virtual TVexelExpected<void> Variable(const TSharedRef<ILumVariable>& Variable) override
+	{
+		if (!ScopeId || FoundVariable)
+		{
+			return {};
+		}
+		VEXEL_TRY(const TVexelPropId Id, Variable->GetPropId());
+		VEXEL_TRY(const TVexelVarScopeId VariableScopeId, Variable->GetVarScopeId());
+		if (Id == PropId && VariableScopeId == *ScopeId)
+		{
+			FoundVariable = Variable;
+		}
+		return {};
+	}
+
+	TSharedPtr<ILumProperty> FoundProperty;
+	TSharedPtr<ILumVariable> FoundVariable;
+
+private:
+	const TVexelPropId& PropId;
+	const TVexelVarScopeId* ScopeId;
+};
+}
+
+TVexelExpected<void> ILumCompound::IterateProperties(ILumPropertyCollector& Collector) const
+{
+	VEXEL_TRY_VOID(Iterate(Collector), "while iterating properties");
+	return {};
+}
+
+TVexelExpected<TSharedPtr<ILumProperty>> ILumCompound::FindProperty(const TVexelPropId& PropId) const
+{
+	FFindingCollector Collector(PropId);
+	VEXEL_TRY_VOID(IterateProperties(Collector));
+	return Collector.FoundProperty;
+}
+
+TVexelExpected<TSharedPtr<ILumVariable>> ILumCompound::FindVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId) const
+{
+	FFindingCollector Collector(PropId, &ScopeId);
+	VEXEL_TRY_VOID(IterateProperties(Collector));
+	return Collector.FoundVariable;
+}
+
+TVexelExpected<TSharedRef<FJsonObject>> ILumCompound::JsonExportObject(const FLumContext& Context) const
+{
+	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType(), "while getting compound type");
+	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	Object->SetStringField(TEXT("type"), Type.ToString());
+	VEXEL_TRY_VOID(JsonExportPropertiesAndVariables(Context, Object));
+	return Object;
+}
+
+TVexelExpected<void> ILumCompound::JsonExportPropertiesAndVariables(const FLumContext& Context, const TSharedRef<FJsonObject>& Object) const
+{
+	FLumJsonPropertyCollector Collector(Context);
+	VEXEL_TRY_VOID(IterateForExport(Collector), "while iterating properties for JSON export");
+	Collector.MoveTo(Object, TEXT("properties"), TEXT("variables"));
+	return {};
+}

@@ -1,0 +1,69 @@
+#pragma once
+
+#include "Blueprint/VexelBlueprintMapping.h"
+#include "CoreMinimal.h"
+
+class UObject;
+
+/**
+ * What one export needs from the call that it is for: the mapping that names things, and how deep the export has gone.
+ * Made by the caller; outlives the export.
+ */
+class FLumContext
+{
+public:
+	explicit FLumContext(const TSharedRef<FVexelBlueprintMapping>& InMapping)
+		: Mapping(InMapping)
+	{
+	}
+
+	FVexelBlueprintMapping& GetMapping() const { return *Mapping; }
+
+	/** Objects of which one lies in the other, and structs likewise, are exported with their properties to this depth. */
+	static constexpr int32 MaxObjectDepth = 2;
+	static constexpr int32 MaxStructDepth = 1;
+
+	/** Held while an object's properties are exported. */
+	class FObjectScope
+	{
+	public:
+		FObjectScope(const FLumContext& InContext, const UObject* Object)
+			: Context(InContext)
+		{
+			Context.OpenObjects.Push(Object);
+		}
+		~FObjectScope() { Context.OpenObjects.Pop(); }
+		FObjectScope(const FObjectScope&) = delete;
+		FObjectScope& operator=(const FObjectScope&) = delete;
+
+	private:
+		const FLumContext& Context;
+	};
+
+	/** Held while a struct's fields are exported. */
+	class FStructScope
+	{
+	public:
+		explicit FStructScope(const FLumContext& InContext)
+			: Context(InContext)
+		{
+			++Context.StructDepth;
+		}
+		~FStructScope() { --Context.StructDepth; }
+		FStructScope(const FStructScope&) = delete;
+		FStructScope& operator=(const FStructScope&) = delete;
+
+	private:
+		const FLumContext& Context;
+	};
+
+	/** Whether an object may be exported with its properties: not inside itself, and not too deep. Otherwise a reference stands for it. */
+	bool CanOpen(const UObject* Object) const { return OpenObjects.Num() < MaxObjectDepth && !OpenObjects.Contains(Object); }
+	/** Whether a struct may be exported field by field; otherwise its text stands for it. */
+	bool CanOpenStruct() const { return StructDepth < MaxStructDepth; }
+
+private:
+	TSharedRef<FVexelBlueprintMapping> Mapping;
+	mutable TArray<const UObject*> OpenObjects;
+	mutable int32 StructDepth = 0;
+};

@@ -1,0 +1,286 @@
+#include "Lum/LumHelper.h"
+
+#include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
+#include "Lum/LumCompound.h"
+#include "Lum/LumErrors.h"
+#include "Lum/LumProperty.h"
+#include "Lum/LumPropertyCollector.h"
+
+#include "EdGraphSchema_K2.h"
+#include "Misc/OutputDevice.h"
+#include "UObject/EnumProperty.h"
+#include "UObject/UnrealType.h"
+
+namespace
+{
+const TCHAR* const ReferencePrefix = TEXT("ref|");
+const TCHAR* const NullPath = TEXT("None");
+
+TVexelExpected<TSharedRef<ILumProperty>> ResolvePath(TSharedRef<ILumCompound> Compound, const FString& Path)
+{
+	FString Rest = Path;
+	FString Segment;
+	for (int32 NumSegments = 0; NumSegments < FLumHelper::MaxPathSegments; ++NumSegments)
+	{
+		VEXEL_TRY(const TSharedRef<ILumProperty> Property, FLumHelper::CompoundPathResolveSegment(Compound, Rest, Segment), "while resolving segment '%s'", *Segment);
+		if (Rest.IsEmpty())
+		{
+			return Property;
+		}
+		const ILumCompoundProperty* const CompoundProperty = Property->AsCompoundProperty();
+		if (!CompoundProperty)
+		{
+			return VEXEL_ERROR(FLumError_Traverse, "Property '%s' is not a compound property", *Segment);
+		}
+		VEXEL_TRY(const TSharedPtr<ILumCompound> Next, CompoundProperty->GetCompound(), "while getting compound for property '%s'", *Segment);
+		if (!Next)
+		{
+			return VEXEL_ERROR(FLumError_Traverse, "Property '%s' does not contain a valid compound", *Segment);
+		}
+		Compound = Next.ToSharedRef();
+	}
+	return VEXEL_ERROR(FLumError_Traverse, "Exceeded maximum segments (%d) while resolving path '%s'", FLumHelper::MaxPathSegments, *Path);
+}
+
+/** Number types by their exact width, which pin types do not tell. */
+const TCHAR* FindIntegerTypeId(const FProperty& Property)
+{
+	struct FIntegerType
+	{
+		const FFieldClass* Class;
+		const TCHAR* Id;
+	};
+	static const FIntegerType Types[] = {
+		{FInt8Property::StaticClass(), TEXT("int8")},
+		{FInt16Property::StaticClass(), TEXT("int16")},
+		{FIntProperty::StaticClass(), TEXT("int32")},
+		{FInt64Property::StaticClass(), TEXT("int64")},
+		{FUInt16Property::StaticClass(), TEXT("uint16")},
+		{FUInt32Property::StaticClass(), TEXT("uint32")},
+		{FUInt64Property::StaticClass(), TEXT("uint64")},
+	};
+	for (const FIntegerType& Type : Types)
+	{
+		if (Property.IsA(Type.Class))
+		{
+			return Type.Id;
+		}
+	}
+	return nullptr;
+}
+
+/** The type id of one value, which is no container's. */
+TVexelExpected<TVexelPropTypeId> GetTerminalTypeId(const FProperty& Property)
+{
+	if (const TCHAR* const IntegerType = FindIntegerTypeId(Property))
+	{
+		return TVexelPropTypeId(IntegerType);
+	}
+	FEdGraphPinType PinType;
+	if (!GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(&Property, PinType))
+	{
+		return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
+	}
+	// What a parameter's flags say of passing it is told by the property's flags, not by its type.
+	PinType.bIsReference = false;
+	return FVexelBlueprintPropTypeBuilder::MakeId(PinType);
+}
+
+TVexelExpected<TVexelPropTypeId> GetMapTypeId(const FMapProperty& Map)
+{
+	if (Map.ValueProp->IsA<FWeakObjectProperty>())
+	{
+		return VEXEL_ERROR(FLumError_Read, "Map properties with weak pointer values are not supported!");
+	}
+	VEXEL_TRY(const TVexelPropTypeId Key, GetTerminalTypeId(*Map.KeyProp));
+	const TVexelExpected<TVexelPropTypeId> Value = GetTerminalTypeId(*Map.ValueProp);
+	if (Value.HasError())
+	{
+		return VEXEL_ERROR_CAUSED(FLumError_Read, Value.GetError(), "Failed to get map value property category info!");
+	}
+	return FLumHelper::CreateContainerType(EPinContainerType::Map, Key, Value.GetValue());
+}
+
+/** Digits alone, of a number that an index can be. */
+bool ParseIndex(const FString& Text, int32& OutIndex)
+{
+	int64 Number = 0;
+	for (const TCHAR Character : Text)
+	{
+		if (!FChar::IsDigit(Character) || Number > MAX_int32)
+		{
+			return false;
+		}
+		Number = Number * 10 + (Character - TEXT('0'));
+	}
+	OutIndex = static_cast<int32>(Number);
+	return !Text.IsEmpty() && Number <= MAX_int32;
+}
+
+TVexelExpected<void> CheckTerminalType(const TVexelPropTypeId& TypeId)
+{
+	if (TypeId.IsEmpty())
+	{
+		return VEXEL_ERROR(FLumError_Read, "Property type is not valid");
+	}
+	if (TypeId.ToString().Contains(TEXT("|")))
+	{
+		return VEXEL_ERROR(FLumError_Read, "Property type cannot be a container type");
+	}
+	return {};
+}
+}
+
+const TVexelVarScopeId& LumScope::Member()
+{
+	static const TVexelVarScopeId Id(TEXT("member"));
+	return Id;
+}
+
+const TVexelVarScopeId& LumScope::Local()
+{
+	static const TVexelVarScopeId Id(TEXT("local"));
+	return Id;
+}
+
+const TVexelVarScopeId& LumScope::In()
+{
+	static const TVexelVarScopeId Id(TEXT("in"));
+	return Id;
+}
+
+const TVexelVarScopeId& LumScope::Out()
+{
+	static const TVexelVarScopeId Id(TEXT("out"));
+	return Id;
+}
+
+TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolve(const TSharedRef<ILumCompound>& Compound, const FString& Path)
+{
+	VEXEL_TRY(TSharedRef<ILumProperty> Property, ResolvePath(Compound, Path), "while resolving path '%s'", *Path);
+	return Property;
+}
+
+TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(const TSharedRef<ILumCompound>& Compound, FString& Rest, FString& Segment)
+{
+	FString Remaining;
+	if (!Rest.Split(TEXT("."), &Segment, &Remaining))
+	{
+		Segment = Rest;
+	}
+	Rest = MoveTemp(Remaining);
+	VEXEL_TRY(const TSharedPtr<ILumProperty> Property, Compound->FindProperty(TVexelPropId(Segment)));
+	if (!Property)
+	{
+		return VEXEL_ERROR(FLumError_Traverse, "Property '%s' not found in compound", *Segment);
+	}
+	return Property.ToSharedRef();
+}
+
+FString FLumHelper::MakeReferenceString(const UObject* Object)
+{
+	return MakeReferenceString(Object ? Object->GetPathName() : FString());
+}
+
+FString FLumHelper::MakeReferenceString(const FString& ObjectPath)
+{
+	return FString(ReferencePrefix) + (ObjectPath.IsEmpty() ? FString(NullPath) : ObjectPath);
+}
+
+TVexelExpected<FString> FLumHelper::ParseReferenceString(const FString& Reference)
+{
+	if (!Reference.StartsWith(ReferencePrefix, ESearchCase::CaseSensitive))
+	{
+		return VEXEL_ERROR(FLumError_Read, "Invalid reference string");
+	}
+	FString Path = Reference.RightChop(FStringView(ReferencePrefix).Len());
+	return Path == NullPath ? FString() : Path;
+}
+
+TVexelExpected<void> FLumHelper::ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text)
+{
+	FStringOutputDevice Errors;
+	if (!Property.ImportText_Direct(*Text, Data, nullptr, PPF_None, &Errors))
+	{
+		return VEXEL_ERROR(FLumError_Import, "Failed to import text to property '%s': %s", *Property.GetName(), *Errors);
+	}
+	return {};
+}
+
+TVexelExpected<TArray<int32>> FLumHelper::GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object)
+{
+	TArray<int32> Keys;
+	for (const auto& [Key, Value] : Object->Values)
+	{
+		int32 Number = 0;
+		if (!ParseIndex(Key, Number))
+		{
+			return VEXEL_ERROR(FLumError_Read, "Invalid numeric key: '%s'", *Key);
+		}
+		Keys.Add(Number);
+	}
+	Keys.Sort();
+	return Keys;
+}
+
+TVexelExpected<void> FLumHelper::CollectIndexedItems(ILumPropertyCollector& Collector, const TArray<TSharedRef<ILumProperty>>& Items)
+{
+	for (int32 Index = 0; Index < Items.Num(); ++Index)
+	{
+		VEXEL_TRY_VOID(Collector.Property(Items[Index]), "while collecting item at index %d", Index);
+	}
+	return {};
+}
+
+TVexelExpected<TVexelPropTypeId> FLumHelper::CreateContainerType(
+	EPinContainerType Container, const TVexelPropTypeId& ElementOrKeyTypeId, const TVexelPropTypeId& ValueTypeId)
+{
+	VEXEL_TRY_VOID(CheckTerminalType(ElementOrKeyTypeId));
+	switch (Container)
+	{
+		case EPinContainerType::Array:
+			return TVexelPropTypeId(FString::Printf(TEXT("array|%s"), *ElementOrKeyTypeId));
+		case EPinContainerType::Set:
+			return TVexelPropTypeId(FString::Printf(TEXT("set|%s"), *ElementOrKeyTypeId));
+		case EPinContainerType::Map:
+			if (CheckTerminalType(ValueTypeId).HasError())
+			{
+				return VEXEL_ERROR(FLumError_Read, "Terminal property type is not valid for map");
+			}
+			return TVexelPropTypeId(FString::Printf(TEXT("map|%s|%s"), *ElementOrKeyTypeId, *ValueTypeId));
+		default:
+			return ElementOrKeyTypeId;
+	}
+}
+
+TVexelExpected<EEdGraphPinDirection> FLumHelper::CreatePinDirectionFromScopeId(const TVexelVarScopeId& ScopeId)
+{
+	if (ScopeId == LumScope::In())
+	{
+		return EGPD_Input;
+	}
+	if (ScopeId == LumScope::Out())
+	{
+		return EGPD_Output;
+	}
+	return VEXEL_ERROR(FLumError_Read, "Scope '%s' has no pin direction", *ScopeId);
+}
+
+TVexelExpected<TVexelPropTypeId> FLumHelper::GetPropertyTypeId(const FProperty& Property)
+{
+	if (const FArrayProperty* const Array = CastField<FArrayProperty>(&Property))
+	{
+		VEXEL_TRY(const TVexelPropTypeId Element, GetTerminalTypeId(*Array->Inner));
+		return CreateContainerType(EPinContainerType::Array, Element, TVexelPropTypeId());
+	}
+	if (const FSetProperty* const Set = CastField<FSetProperty>(&Property))
+	{
+		VEXEL_TRY(const TVexelPropTypeId Element, GetTerminalTypeId(*Set->ElementProp));
+		return CreateContainerType(EPinContainerType::Set, Element, TVexelPropTypeId());
+	}
+	if (const FMapProperty* const Map = CastField<FMapProperty>(&Property))
+	{
+		return GetMapTypeId(*Map);
+	}
+	return GetTerminalTypeId(Property);
+}

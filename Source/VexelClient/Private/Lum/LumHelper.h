@@ -1,0 +1,62 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Dom/JsonObject.h"
+#include "EdGraph/EdGraphPin.h"
+#include "VexelExpected.h"
+#include "VexelId.h"
+
+class FProperty;
+class ILumCompound;
+class ILumProperty;
+class ILumPropertyCollector;
+class UObject;
+class UStruct;
+
+/** Scopes of variables. */
+namespace LumScope
+{
+const TVexelVarScopeId& Member();
+const TVexelVarScopeId& Local();
+const TVexelVarScopeId& In();
+const TVexelVarScopeId& Out();
+}
+
+/** Functions that the kinds of properties, compounds and variables share. */
+class FLumHelper
+{
+public:
+	/** Most segments that a path may have. */
+	static constexpr int32 MaxPathSegments = 256;
+
+	/** The property at a path of ids joined by points, such as "Items.3.Name". */
+	static TVexelExpected<TSharedRef<ILumProperty>> CompoundPathResolve(const TSharedRef<ILumCompound>& Compound, const FString& Path);
+	/** Takes the first segment off Rest, and answers the compound's property of that id. */
+	static TVexelExpected<TSharedRef<ILumProperty>> CompoundPathResolveSegment(const TSharedRef<ILumCompound>& Compound, FString& Rest, FString& Segment);
+
+	/** "ref|/Game/Path.Object", or "ref|None". */
+	static FString MakeReferenceString(const UObject* Object);
+	static FString MakeReferenceString(const FString& ObjectPath);
+	/** The path of a reference string; empty for a null reference. */
+	static TVexelExpected<FString> ParseReferenceString(const FString& Reference);
+
+	/** Sets the value from the engine's text form. Data is the value's memory. */
+	static TVexelExpected<void> ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text);
+
+	/** The object's keys as indices, ascending. A key is decimal digits without sign. */
+	static TVexelExpected<TArray<int32>> GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object);
+
+	/** Hands the properties to the collector in their order. */
+	static TVexelExpected<void> CollectIndexedItems(ILumPropertyCollector& Collector, const TArray<TSharedRef<ILumProperty>>& Items);
+
+	/** The type id of a container. ValueTypeId counts for maps alone; without a container the element's id is the answer. */
+	static TVexelExpected<TVexelPropTypeId> CreateContainerType(
+		EPinContainerType Container, const TVexelPropTypeId& ElementOrKeyTypeId, const TVexelPropTypeId& ValueTypeId);
+	static TVexelExpected<EEdGraphPinDirection> CreatePinDirectionFromScopeId(const TVexelVarScopeId& ScopeId);
+
+	/** The type id of a property's values. */
+	static TVexelExpected<TVexelPropTypeId> GetPropertyTypeId(const FProperty& Property);
+
+	/** A pin's default as a string: object pins as references, the common math structs as their components. */
+	static TVexelExpected<TSharedRef<FJsonValue>> GetPinDefaultValueAsJsonValue(const UEdGraphPin& Pin);
+};

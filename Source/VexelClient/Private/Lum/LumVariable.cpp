@@ -1,0 +1,62 @@
+#include "Lum/LumVariable.h"
+
+namespace
+{
+const TCHAR* const ScopeKey = TEXT("scope_id");
+const TCHAR* const PropKey = TEXT("prop_id");
+const TCHAR* const TypeKey = TEXT("type_id");
+const TCHAR* const CategoryKey = TEXT("category");
+
+void SetUnlessEmpty(FJsonObject& Object, const TCHAR* Key, const FString& Text)
+{
+	if (!Text.IsEmpty())
+	{
+		Object.SetStringField(Key, Text);
+	}
+}
+
+FString GetOrEmpty(const FJsonObject& Object, const TCHAR* Key)
+{
+	FString Text;
+	Object.TryGetStringField(Key, Text);
+	return Text;
+}
+}
+
+TSharedRef<FJsonObject> FLumVarDesc::ToJson() const
+{
+	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	SetUnlessEmpty(*Object, ScopeKey, ScopeId.ToString());
+	SetUnlessEmpty(*Object, PropKey, PropId.ToString());
+	SetUnlessEmpty(*Object, TypeKey, TypeId.ToString());
+	SetUnlessEmpty(*Object, CategoryKey, Category);
+	return Object;
+}
+
+FLumVarDesc FLumVarDesc::FromJson(const TSharedRef<FJsonObject>& Object)
+{
+	FLumVarDesc Desc;
+	Desc.ScopeId = TVexelVarScopeId(GetOrEmpty(*Object, ScopeKey));
+	Desc.PropId = TVexelPropId(GetOrEmpty(*Object, PropKey));
+	Desc.TypeId = TVexelPropTypeId(GetOrEmpty(*Object, TypeKey));
+	Desc.Category = GetOrEmpty(*Object, CategoryKey);
+	return Desc;
+}
+
+TVexelExpected<FLumVarDesc> ILumVariable::GetVariableDescriptor() const
+{
+	FLumVarDesc Desc;
+	VEXEL_TRY(Desc.PropId, GetPropId(), "while getting variable ID");
+	VEXEL_TRY(Desc.ScopeId, GetVarScopeId(), "while getting variable scope ID");
+	VEXEL_TRY(Desc.TypeId, GetValueTypeId(), "while getting variable type ID");
+	VEXEL_TRY(Desc.Category, GetCategory(), "while getting variable category");
+	return Desc;
+}
+
+TVexelExpected<TSharedRef<FJsonObject>> ILumVariable::JsonExportPropertyObject(const FLumContext& Context) const
+{
+	VEXEL_TRY(TSharedRef<FJsonObject> Object, ILumProperty::JsonExportPropertyObject(Context));
+	VEXEL_TRY(const TVexelVarScopeId ScopeId, GetVarScopeId(), "while getting variable scope ID");
+	Object->SetStringField(TEXT("scope"), ScopeId.ToString());
+	return Object;
+}

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "Lum/LumCompound.h"
+#include "Lum/LumErrors.h"
+#include "Lum/Property/LumUnrealBaseProperty.h"
+
+#include "UObject/UnrealType.h"
+
+class FLumUnrealArrayCompound;
+class FLumUnrealMapCompound;
+class FLumUnrealSetCompound;
+
+/** A property that is a container, whose contents are a compound of their own. */
+template <typename PropertyType, typename CompoundType>
+class TLumUnrealContainerProperty : public TLumUnrealProperty<ILumCollectionProperty>
+{
+public:
+	using TLumUnrealProperty<ILumCollectionProperty>::TLumUnrealProperty;
+
+	virtual TVexelExpected<int32> GetNum() const override;
+	virtual TVexelExpected<TSharedPtr<ILumCollectionCompound>> GetCollectionCompound() const override;
+};
+
+using FLumUnrealArrayProperty = TLumUnrealContainerProperty<FArrayProperty, FLumUnrealArrayCompound>;
+using FLumUnrealSetProperty = TLumUnrealContainerProperty<FSetProperty, FLumUnrealSetCompound>;
+using FLumUnrealMapProperty = TLumUnrealContainerProperty<FMapProperty, FLumUnrealMapCompound>;
+
+extern template class TLumUnrealContainerProperty<FArrayProperty, FLumUnrealArrayCompound>;
+extern template class TLumUnrealContainerProperty<FSetProperty, FLumUnrealSetCompound>;
+extern template class TLumUnrealContainerProperty<FMapProperty, FLumUnrealMapCompound>;

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "Lum/Property/LumUnrealBaseProperty.h"
+
+/** A struct value. Its JSON is the struct with its fields; inside another struct, the engine's text form in a string. */
+class FLumUnrealStructProperty : public TLumUnrealProperty<ILumCompoundProperty>
+{
+public:
+	using TLumUnrealProperty::TLumUnrealProperty;
+
+	virtual TVexelExpected<TSharedPtr<ILumCompound>> GetCompound() const override;
+	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override;
+};

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "Lum/LumVariable.h"
+#include "UObject/WeakObjectPtr.h"
+
+class UBlueprint;
+struct FBPVariableDescription;
+
+/** A variable that a description in a Blueprint declares: its name, type, category and flags come from there. */
+class FLumDescriptionBasedVariable : public ILumVariable
+{
+public:
+	FLumDescriptionBasedVariable(UBlueprint& Blueprint, FName InName);
+
+	virtual TVexelExpected<TVexelPropId> GetPropId() const override;
+	virtual TVexelExpected<TVexelPropTypeId> GetOwnerTypeId() const override;
+	virtual TVexelExpected<TVexelPropTypeId> GetValueTypeId() const override;
+	virtual TVexelExpected<EPropertyFlags> GetFlags() const override;
+	virtual TVexelExpected<FString> GetCategory() const override;
+	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override;
+
+	/** The variable's default value; null where the Blueprint's class does not have the variable yet, since nobody has compiled it. */
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> CreateLumValueWrapper() const = 0;
+
+protected:
+	/** Valid until the Blueprint changes. */
+	virtual TVexelExpected<const FBPVariableDescription*> GetBpVariableDescription() const = 0;
+	TVexelExpected<UBlueprint*> GetBlueprint() const;
+
+	const FName Name;
+
+private:
+	TWeakObjectPtr<UBlueprint> WeakBlueprint;
+};

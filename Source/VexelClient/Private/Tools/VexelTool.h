@@ -1,0 +1,90 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Dom/JsonObject.h"
+#include "VexelTaskResult.h"
+
+class FVexelChatConversation;
+
+/** The call that a tool performs. */
+struct FVexelToolContext
+{
+	/** Chat that the reply is addressed to: the sub-agent's inside a sub-chain. */
+	FString ChatId;
+	FString ReplyId;
+	/** Conversation whose ids the tool speaks in; null when the tool is called outside one. */
+	TSharedPtr<FVexelChatConversation> Conversation;
+};
+
+/** A tool's arguments as the service sent them, by name. */
+class FVexelToolInput
+{
+public:
+	explicit FVexelToolInput(const TSharedRef<FJsonObject>& InValues)
+		: Values(InValues)
+	{
+	}
+
+	/** A string argument, or "Invalid input" with "Missing `name`". */
+	TVexelExpected<FString> GetString(const TCHAR* Name) const;
+
+	const TSharedRef<FJsonObject>& GetValues() const { return Values; }
+
+private:
+	TSharedRef<FJsonObject> Values;
+};
+
+/** How a tool is named on the wire and shown in the chat: its row of the tool table. The texts are literals. */
+struct FVexelToolRow
+{
+	const TCHAR* Name;
+	/** Style name of the icon beside the tool's block. */
+	const TCHAR* Icon;
+	/** Shown while a call runs; null for "Using NAME". */
+	const TCHAR* ProgressText;
+	/** Shown when a call has finished; null for "Analyzing data from NAME". */
+	const TCHAR* DoneText;
+};
+
+/** Something that the assistant can ask the editor to do. One shared, immutable object a tool; calls keep no state in it. */
+class FVexelTool
+{
+public:
+	explicit FVexelTool(const FVexelToolRow& InRow)
+		: Row(InRow)
+	{
+	}
+	virtual ~FVexelTool() = default;
+
+	/** False for a tool that the service performs itself and the editor only shows. */
+	virtual bool ProducesResponse() const { return true; }
+	virtual FName GetName() const;
+	virtual FName GetIcon() const;
+	virtual FString GetProgressText() const;
+	virtual FString GetDoneText() const;
+
+	/** Performs the tool. Called on the game thread; completes on any thread with the object that goes back to the service. */
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FVexelToolContext& Context, const FVexelToolInput& Input) const = 0;
+
+private:
+	FVexelToolRow Row;
+};
+
+/** A tool that the service performs itself. */
+class FVexelToolNoResponse : public FVexelTool
+{
+public:
+	using FVexelTool::FVexelTool;
+
+	virtual bool ProducesResponse() const override { return false; }
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FVexelToolContext& Context, const FVexelToolInput& Input) const override;
+};
+
+/** A tool of the shared vocabulary that this version of the editor plug-in cannot perform. It says so. */
+class FVexelToolUnavailable : public FVexelTool
+{
+public:
+	using FVexelTool::FVexelTool;
+
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FVexelToolContext& Context, const FVexelToolInput& Input) const override;
+};

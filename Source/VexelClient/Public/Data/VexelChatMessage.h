@@ -1,0 +1,62 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "Data/VexelChatMessageBlock.h"
+
+enum class EVexelChatRole : uint8
+{
+	User,
+	Assistant,
+	System
+};
+
+enum class EVexelChatMessageState : uint8
+{
+	/** Its request still runs. */
+	InProgress,
+	Completed,
+	/** Its request failed; the blocks behind the last checkpoint count as not said. */
+	Failed
+};
+
+/** One turn of one role: an ordered list of blocks. */
+class VEXELCLIENT_API FVexelChatMessage : public IVexelJsonable
+{
+public:
+	FVexelChatMessage() = default;
+	explicit FVexelChatMessage(EVexelChatRole InRole, EVexelChatMessageState InState = EVexelChatMessageState::Completed);
+
+	/** The stored form. */
+	virtual TSharedRef<FJsonObject> ToJson() const override;
+	virtual bool FromJson(const TSharedRef<FJsonObject>& Object) override;
+
+	/** The form sent to the service: the stored one and "content", one string, or an array of parts where there are images. */
+	TSharedRef<FJsonObject> ToServiceJson() const;
+
+	EVexelChatRole GetRole() const { return Role; }
+	EVexelChatMessageState GetState() const { return State; }
+	void SetState(EVexelChatMessageState NewState) { State = NewState; }
+	bool IsValid() const { return !Blocks.IsEmpty(); }
+
+	int32 NumBlocks() const { return Blocks.Num(); }
+	/** Null, and a log line, for an index outside the message. */
+	const FVexelChatMessageBlock* GetMessageBlock(int32 Index) const;
+	const TArray<FVexelChatMessageBlock>& GetBlocks() const { return Blocks; }
+
+	/** Adds a block; answers its index. */
+	int32 AddBlock(FVexelChatMessageBlock Block);
+	/** Adds text to the last block, or a new text block where the last one is none. Answers the index and whether it is new. */
+	int32 AppendText(FStringView Text, bool& bOutNewBlock);
+	/** Keeps the first blocks alone. */
+	void TrimBlocks(int32 NumToKeep);
+
+	/** Index of the last checkpoint block, INDEX_NONE without one. */
+	int32 FindLastCheckpoint() const;
+	/** Marks the blocks behind an index, and the message, as failed. Answers how many blocks. */
+	int32 MarkFailedAfter(int32 CheckpointIndex);
+
+private:
+	EVexelChatRole Role = EVexelChatRole::User;
+	EVexelChatMessageState State = EVexelChatMessageState::Completed;
+	TArray<FVexelChatMessageBlock> Blocks;
+};

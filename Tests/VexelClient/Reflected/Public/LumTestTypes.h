@@ -1,0 +1,182 @@
+#pragma once
+
+#include "Templates/SubclassOf.h"
+#include "UObject/ObjectInitializer.h"
+#include "UObject/SoftObjectPtr.h"
+#include "UObject/UObjectGlobals.h"
+
+#include "LumTestTypes.generated.h"
+
+UENUM()
+enum class ELumMood : uint8
+{
+	Calm,
+	Angry UMETA(DisplayName = "Very Angry")
+};
+
+UENUM()
+enum ELumSide
+{
+	LS_Left,
+	LS_Right
+};
+
+USTRUCT()
+struct FLumInner
+{
+	GENERATED_BODY()
+
+	UPROPERTY()
+	int32 Depth = 2;
+
+	UPROPERTY()
+	FString Label = TEXT("say \"x\"");
+};
+
+USTRUCT()
+struct FLumOuter
+{
+	GENERATED_BODY()
+
+	UPROPERTY(EditAnywhere, Category = "Outer")
+	FLumInner Inner;
+
+	UPROPERTY()
+	TArray<FLumInner> List;
+
+	UPROPERTY()
+	float Weight = 0.5f;
+};
+
+/** A part that lies in its owner. */
+UCLASS(DefaultToInstanced, EditInlineNew)
+class ULumPart : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY(EditAnywhere)
+	int32 Strength = 3;
+
+	UPROPERTY(EditAnywhere, Instanced)
+	TObjectPtr<ULumPart> Next = nullptr;
+};
+
+DECLARE_DYNAMIC_DELEGATE(FLumDone);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE(FLumChanged);
+
+/** Has a property of every kind that the property model shows or leaves out. */
+UCLASS()
+class ULumThing : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY(EditAnywhere, Category = "Numbers|Small")
+	int8 Int8 = -128;
+
+	UPROPERTY(EditAnywhere)
+	int16 Int16 = -32768;
+
+	UPROPERTY(EditAnywhere)
+	int32 Int32 = MIN_int32;
+
+	UPROPERTY(EditAnywhere)
+	int64 Int64 = MIN_int64;
+
+	UPROPERTY(EditAnywhere)
+	uint8 UInt8 = 255;
+
+	UPROPERTY(EditAnywhere)
+	uint16 UInt16 = 65535;
+
+	UPROPERTY(EditAnywhere)
+	uint32 UInt32 = MAX_uint32;
+
+	UPROPERTY(EditAnywhere)
+	uint64 UInt64 = MAX_uint64;
+
+	UPROPERTY(EditAnywhere)
+	float Float = -0.25f;
+
+	UPROPERTY(EditAnywhere)
+	double Double = 1.5;
+
+	UPROPERTY(EditAnywhere)
+	bool bBool = true;
+
+	UPROPERTY(EditAnywhere)
+	uint8 bFirstBit : 1 = 0;
+
+	UPROPERTY(EditAnywhere)
+	uint8 bSecondBit : 1 = 1;
+
+	UPROPERTY(EditAnywhere)
+	TEnumAsByte<ELumSide> Side = LS_Right;
+
+	UPROPERTY(EditAnywhere)
+	ELumMood Mood = ELumMood::Angry;
+
+	UPROPERTY(EditAnywhere)
+	FName Name = TEXT("A name");
+
+	UPROPERTY(EditAnywhere)
+	FString String = TEXT("two\n\"lines\"");
+
+	UPROPERTY(EditAnywhere)
+	FString Empty;
+
+	UPROPERTY(EditAnywhere)
+	TObjectPtr<UObject> Object = nullptr;
+
+	UPROPERTY(EditAnywhere)
+	TSubclassOf<UObject> Class;
+
+	UPROPERTY(EditAnywhere)
+	TSoftObjectPtr<UObject> SoftObject;
+
+	UPROPERTY(EditAnywhere)
+	TSoftClassPtr<UObject> SoftClass;
+
+	UPROPERTY(EditAnywhere)
+	TWeakObjectPtr<UObject> Weak;
+
+	UPROPERTY(EditAnywhere, Instanced)
+	TObjectPtr<ULumPart> Part = nullptr;
+
+	UPROPERTY(EditAnywhere)
+	FVector Vector = FVector(1, 2, 3);
+
+	UPROPERTY(EditAnywhere)
+	FLumOuter Struct;
+
+	UPROPERTY(EditAnywhere)
+	TArray<int32> Numbers;
+
+	UPROPERTY(EditAnywhere)
+	TSet<FName> Names;
+
+	UPROPERTY(EditAnywhere)
+	TMap<FString, FLumOuter> Structs;
+
+	UPROPERTY(EditAnywhere)
+	TArray<TObjectPtr<UObject>> Objects;
+
+	UPROPERTY(EditAnywhere)
+	int32 Fixed[3] = {};
+
+	UPROPERTY(EditAnywhere)
+	FLumDone OnDone;
+
+	UPROPERTY(BlueprintAssignable)
+	FLumChanged OnChanged;
+
+	UPROPERTY()
+	int32 Hidden = 0;
+
+	UPROPERTY(BlueprintReadOnly)
+	int32 ReadOnly = 0;
+
+	UPROPERTY(VisibleAnywhere, BlueprintReadWrite)
+	int32 ReadWrite = 0;
+};
