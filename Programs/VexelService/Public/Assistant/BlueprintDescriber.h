@@ -1,0 +1,45 @@
+#pragma once
+
+#include "Assistant/BlueprintModel.h"
+
+#include <string>
+#include <string_view>
+
+namespace VexelService
+{
+
+/** Answers questions about one Blueprint in Markdown, from its model alone. */
+class FBlueprintDescriber
+{
+public:
+	/** Model must outlive the describer. */
+	explicit FBlueprintDescriber(const FBlueprintModel& InModel);
+
+	/** What the Blueprint is, what happens on each event, and what its functions and macros do. */
+	std::string Overview() const;
+
+	/** What happens on the events that fit words like "a player overlaps it". */
+	std::string WhenEvent(std::string_view Description) const;
+
+	std::string Variables() const;
+	std::string Functions() const;
+	std::string Macros() const;
+	std::string Events() const;
+	std::string Graphs() const;
+
+	/** Where one member variable or local variable is read and set. */
+	std::string VariableUse(std::string_view Variable) const;
+
+	/** What one function, macro or custom event does. */
+	std::string Function(std::string_view Name) const;
+
+private:
+	std::string Introduction() const;
+	std::string GraphSection(const FBlueprintGraph& Graph) const;
+	std::string ListOfGraphs(EGraphKind Kind, const char* Noun) const;
+	const FBlueprintGraph* FindGraph(std::string_view Name) const;
+
+	const FBlueprintModel& Model;
+};
+
+}

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "Support/Refusal.h"
+
+#include <chrono>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace VexelService
+{
+
+/** The one account of a local service, as "/api/user" shows it. */
+struct FUserProfile
+{
+	std::string Name = "Local User";
+	std::string Email = "local@localhost";
+	int Credits = 1000;
+	int MaxCredits = 1000;
+	std::vector<std::string> Features = {"vexel_agent", "vexel_agent_lite", "vexel_lite", "blueprint_agent"};
+};
+
+struct FServiceConfig
+{
+	std::chrono::seconds AccessTokenLifetime{3600};
+	std::chrono::seconds RefreshTokenLifetime{30 * 24 * 3600};
+	/** How long a turn waits for the result of one tool call. */
+	std::chrono::milliseconds ToolTimeout{120'000};
+	/** The pause after each streamed piece of text. */
+	std::chrono::milliseconds PieceDelay{0};
+	FUserProfile User;
+};
+
+/**
+ * Reads the configuration: a JSON object with any of "access_token_seconds", "refresh_token_seconds", "tool_timeout_seconds",
+ * "piece_delay_milliseconds" and "user" (with "name", "email", "credits", "max_credits", "features"). What the file leaves out
+ * keeps its default; an unknown key or a value of the wrong type or range is refused by name.
+ */
+TOrRefusal<FServiceConfig> LoadServiceConfig(const std::filesystem::path& File);
+
+}
