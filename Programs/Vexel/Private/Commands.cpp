@@ -1,0 +1,86 @@
+#include "Commands.h"
+
+#include "Console.h"
+#include "Dom/JsonObject.h"
+#include "Misc/FileHelper.h"
+#include "VexelJson.h"
+
+#include <cstdio>
+
+namespace
+{
+constexpr FOptionRow ProjectOption = {TEXT("--project"), TEXT("DIR"), TEXT("the project's directory or .uproject; the sample project without it")};
+constexpr FOptionRow JsonOption = {TEXT("--json"), nullptr, TEXT("one JSON document on standard output")};
+constexpr FOptionRow VerboseOption = {TEXT("--verbose"), nullptr, TEXT("the log on standard error")};
+constexpr FOptionRow BlueprintOption = {TEXT("--blueprint"), TEXT("PATH"), TEXT("object path, such as /Game/BP_Door")};
+constexpr FOptionRow GraphOption = {TEXT("--graph"), TEXT("NAME"), TEXT("the graph; the event graph without it")};
+constexpr FOptionRow SaveOption = {TEXT("--save"), nullptr, TEXT("saves what was changed")};
+
+constexpr FOptionRow ChatOptions[] = {
+	ProjectOption,
+	{TEXT("--message"), TEXT("TEXT"), TEXT("one message instead of an interactive chat")},
+	{TEXT("--continue"), nullptr, TEXT("goes on with the newest conversation instead of a new one")},
+	{TEXT("--service"), TEXT("URL"), TEXT("the service; a local one is started without it")},
+	JsonOption,
+	VerboseOption,
+};
+constexpr FOptionRow ToolOptions[] = {
+	{TEXT("--input"), TEXT("JSON|FILE|-"), TEXT("the tool's arguments, an object")},
+	ProjectOption,
+	SaveOption,
+	JsonOption,
+	VerboseOption,
+};
+constexpr FOptionRow ToolsOptions[] = {JsonOption};
+constexpr FOptionRow GraphOptions[] = {BlueprintOption, GraphOption, ProjectOption, SaveOption, JsonOption, VerboseOption};
+constexpr FOptionRow InspectOptions[] = {JsonOption};
+constexpr FOptionRow ServiceOptions[] = {
+	{TEXT("--port"), TEXT("N"), TEXT("the port; a free one without it")},
+	{TEXT("--data"), TEXT("DIR"), TEXT("where the service keeps its state; in memory without it")},
+	VerboseOption,
+};
+
+const FCommandRow Commands[] = {
+	{TEXT("chat"), TEXT("[--message TEXT]"), TEXT("a chat with the assistant about the project"), ChatOptions, 0, RunChatCommand},
+	{TEXT("tool"), TEXT("NAME --input JSON|FILE|-"), TEXT("calls one tool as the assistant would"), ToolOptions, 1, RunToolCommand},
+	{TEXT("tools"), TEXT(""), TEXT("the tool table"), ToolsOptions, 0, RunToolsCommand},
+	{TEXT("graph"), TEXT("export|import --blueprint PATH [FILE|-]"), TEXT("node text out of a graph, or into one"), GraphOptions, 2, RunGraphCommand},
+	{TEXT("inspect"), TEXT("FILE.uasset"), TEXT("the tables of a package file as JSON"), InspectOptions, 1, RunInspectCommand},
+	{TEXT("service"), TEXT("[--port N] [--data DIR]"), TEXT("runs the local service"), ServiceOptions, 0, RunServiceCommand},
+};
+}
+
+TConstArrayView<FCommandRow> GetCommands()
+{
+	return Commands;
+}
+
+TOptional<FString> ReadFileOrInput(const FString& Path)
+{
+	if (Path != TEXT("-"))
+	{
+		FString Text;
+		if (FFileHelper::LoadFileToString(Text, *Path))
+		{
+			return Text;
+		}
+		FConsole::WriteError(FString::Printf(TEXT("the file '%s' cannot be read"), *Path));
+		return NullOpt;
+	}
+	TArray<uint8> Bytes;
+	uint8 Buffer[65536];
+	while (const size_t NumRead = fread(Buffer, 1, sizeof(Buffer), stdin))
+	{
+		Bytes.Append(Buffer, int32(NumRead));
+	}
+	FString Text;
+	FFileHelper::BufferToString(Text, Bytes.GetData(), Bytes.Num());
+	return Text;
+}
+
+void WriteJson(const TSharedRef<FJsonObject>& Object)
+{
+	FString Text;
+	FVexelJsonConversions::JsonToPrettyString(Object, Text);
+	FConsole::WriteLine(Text);
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Arguments.h"
+#include "CoreMinimal.h"
+
+/** One command of the program: its words, its options, and the function that carries it out and answers the exit status. */
+struct FCommandRow
+{
+	const TCHAR* Name;
+	/** What stands behind the name in the help. */
+	const TCHAR* Usage;
+	const TCHAR* Help;
+	TConstArrayView<FOptionRow> Options;
+	int32 MaxPositional;
+	int32 (*Run)(const FArguments& Arguments);
+};
+
+/** All commands, in the order of the help. */
+TConstArrayView<FCommandRow> GetCommands();
+
+int32 RunChatCommand(const FArguments& Arguments);
+int32 RunGraphCommand(const FArguments& Arguments);
+int32 RunInspectCommand(const FArguments& Arguments);
+int32 RunServiceCommand(const FArguments& Arguments);
+int32 RunToolCommand(const FArguments& Arguments);
+int32 RunToolsCommand(const FArguments& Arguments);
+
+/** Reads an argument that names a file, or standard input as "-". Answers nothing, with the reason on standard error, on failure. */
+TOptional<FString> ReadFileOrInput(const FString& Path);
+
+/** Writes a JSON object to standard output over several lines. */
+void WriteJson(const TSharedRef<class FJsonObject>& Object);

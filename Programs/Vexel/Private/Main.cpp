@@ -1,0 +1,64 @@
+#include "Commands.h"
+#include "Console.h"
+#include "Containers/StringConv.h"
+#include "Logging/LogMacros.h"
+#include "Misc/OutputDeviceRedirector.h"
+
+#include <clocale>
+#include <csignal>
+
+namespace
+{
+void WriteHelp()
+{
+	FConsole::WriteLine(TEXT("Vexel: an assistant for Blueprints.\n"));
+	for (const FCommandRow& Command : GetCommands())
+	{
+		FConsole::WriteLine(FString::Printf(TEXT("  vexel %s %s\n      %s"), Command.Name, Command.Usage, Command.Help));
+		for (const FOptionRow& Option : Command.Options)
+		{
+			const FString Words = Option.ValueName ? FString::Printf(TEXT("%s %s"), Option.Name, Option.ValueName) : FString(Option.Name);
+			FConsole::WriteLine(FString::Printf(TEXT("      %-22s %s"), *Words, Option.Help));
+		}
+	}
+	FConsole::WriteLine(TEXT("\nExit status: 0 done, 1 the request failed, 2 wrong usage."));
+}
+
+int32 FailUsage(const FString& Reason)
+{
+	FConsole::WriteError(Reason + TEXT(" (see: vexel help)"));
+	return ExitStatus::WrongUsage;
+}
+}
+
+int main(int NumWords, char** RawWords)
+{
+	setlocale(LC_CTYPE, "");
+	// A pipe that closes is an ordinary end of output, and a connection that closes is an error value.
+	signal(SIGPIPE, SIG_IGN);
+
+	TArray<FString> Words;
+	for (int32 Index = 1; Index < NumWords; ++Index)
+	{
+		Words.Add(FString(UTF8_TO_TCHAR(RawWords[Index])));
+	}
+	const FString Name = Words.IsEmpty() ? FString(TEXT("help")) : Words[0];
+	if (Name == TEXT("help") || Name == TEXT("--help") || Name == TEXT("-h"))
+	{
+		WriteHelp();
+		return ExitStatus::Done;
+	}
+	const FCommandRow* const Command = GetCommands().FindByPredicate([&](const FCommandRow& Row)
+		{ return Name.Equals(Row.Name); });
+	if (!Command)
+	{
+		return FailUsage(FString::Printf(TEXT("unknown command '%s'"), *Name));
+	}
+	FArguments Arguments;
+	if (const TOptional<FString> Reason = Arguments.Parse(MakeArrayView(Words).RightChop(1), Command->Options, Command->MaxPositional))
+	{
+		return FailUsage(FString::Printf(TEXT("%s: %s"), Command->Name, **Reason));
+	}
+	GLog->SetConsoleVerbosity(Arguments.Has(TEXT("--verbose")) ? ELogVerbosity::Log : ELogVerbosity::Fatal);
+	return Command->Run(Arguments);
+}

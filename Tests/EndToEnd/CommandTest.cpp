@@ -1,0 +1,132 @@
+#include "Program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+namespace
+{
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+/** One line, said by vexel, with the expected words in it. */
+void ExpectOneClearLine(const FProgramResult& Result, int Status, const std::string& Words)
+{
+	EXPECT_EQ(Result.Status, Status) << Result.Errors;
+	EXPECT_THAT(Result.Errors, StartsWith("vexel: "));
+	EXPECT_THAT(Result.Errors, HasSubstr(Words));
+	EXPECT_EQ(std::count(Result.Errors.begin(), Result.Errors.end(), '\n'), 1) << Result.Errors;
+}
+}
+
+TEST(Command, WrongUsageIsStatusTwo)
+{
+	ExpectOneClearLine(RunVexel({"chatter"}), 2, "unknown command 'chatter'");
+	ExpectOneClearLine(RunVexel({"chat", "--colour"}), 2, "unknown option '--colour'");
+	ExpectOneClearLine(RunVexel({"chat", "--message"}), 2, "'--message' needs a value");
+	ExpectOneClearLine(RunVexel({"chat", "extra"}), 2, "unexpected argument 'extra'");
+	ExpectOneClearLine(RunVexel({"tool"}), 2, "which tool?");
+	ExpectOneClearLine(RunVexel({"graph", "paint", "--blueprint", "/Game/BP_Door"}), 2, "'export' or 'import'");
+}
+
+TEST(Command, BadNamesGiveOneClearLine)
+{
+	const FSampleProjectCopy Project;
+	const std::string Dir = Project.GetPath();
+	ExpectOneClearLine(RunVexel({"chat", "--project", Dir + "/Nowhere", "--message", "x"}), 1, "Nowhere");
+	ExpectOneClearLine(RunVexel({"chat", "--project", Dir, "--service", "http://127.0.0.1:1", "--message", "x"}), 1, "not logged in at http://127.0.0.1:1");
+	ExpectOneClearLine(RunVexel({"inspect", Dir + "/Lighthouse.uproject"}), 1, "this is not a package");
+	ExpectOneClearLine(RunVexel({"inspect", Dir + "/none.uasset"}), 1, "none.uasset");
+	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Nowhere"}), 1, "no Blueprint '/Game/BP_Nowhere'");
+	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "door"}), 1, "'door' is not an asset path");
+	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door", "--graph", "Cellar"}), 1, "no graph 'Cellar'");
+	ExpectOneClearLine(RunVexel({"graph", "import", "--project", Dir, "--blueprint", "/Game/BP_New", Dir + "/none.t3d"}), 1, "none.t3d");
+	ExpectOneClearLine(RunVexel({"tool", "read_minds", "--project", Dir}), 1, "Tool 'read_minds' not found");
+	ExpectOneClearLine(RunVexel({"tool", "read_blueprint", "--project", Dir}), 1, "Missing `blueprint`");
+	ExpectOneClearLine(RunVexel({"tool", "read_blueprint", "--project", Dir, "--input", "{\"blueprint\":"}), 1, "not a JSON object");
+	ExpectOneClearLine(RunVexel({"tool", "knowledge_search", "--project", Dir}), 1, "This tool produces no response");
+}
+
+TEST(Command, ReadBlueprintGivesTheExport)
+{
+	const FSampleProjectCopy Project;
+	const FProgramResult Result = RunVexel({"tool", "read_blueprint", "--project", Project.GetPath(), "--input", R"({"blueprint":"/Game/BP_Enemy"})"});
+	ASSERT_EQ(Result.Status, 0) << Result.Errors;
+	const nlohmann::json Export = nlohmann::json::parse(Result.Output, nullptr, false);
+	ASSERT_TRUE(Export.is_object());
+	EXPECT_THAT(Export["id"].get<std::string>(), StartsWith("/Game/BP_Enemy"));
+	EXPECT_EQ(Export["bp_type"], "normal");
+	EXPECT_FALSE(Export["graphs"].empty());
+	EXPECT_FALSE(Export["variables"].empty());
+}
+
+TEST(Command, InspectShowsThePackagesTables)
+{
+	const FSampleProjectCopy Project;
+	const FProgramResult Result = RunVexel({"inspect", (Project.GetPath() / "Content/BP_Door.uasset").string()});
+	ASSERT_EQ(Result.Status, 0) << Result.Errors;
+	const nlohmann::json Document = nlohmann::json::parse(Result.Output, nullptr, false);
+	ASSERT_TRUE(Document.is_object());
+	EXPECT_EQ(Document["file_version_ue4"], 522);
+	EXPECT_EQ(Document["exports"][0]["path"], "/Game/BP_Door.BP_Door");
+	EXPECT_EQ(Document["exports"][0]["class"], "/Script/Engine.Blueprint");
+}
+
+TEST(Command, ToolsListsTheWholeTable)
+{
+	const FProgramResult Result = RunVexel({"tools", "--json"});
+	ASSERT_EQ(Result.Status, 0) << Result.Errors;
+	const nlohmann::json Document = nlohmann::json::parse(Result.Output, nullptr, false);
+	ASSERT_EQ(Document["tools"].size(), 22u);
+	int NumService = 0;
+	for (const nlohmann::json& Tool : Document["tools"])
+	{
+		NumService += Tool["runs_in"] == "service";
+	}
+	EXPECT_EQ(NumService, 6);
+}
+
+TEST(Command, AGraphGoesOutAndInAgain)
+{
+	const FSampleProjectCopy Project;
+	const std::string Dir = Project.GetPath();
+	const FProgramResult First = RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door"});
+	ASSERT_EQ(First.Status, 0) << First.Errors;
+	ASSERT_THAT(First.Output, StartsWith("Begin Object Class=/Script/BlueprintGraph."));
+	const FProgramResult Import =
+		RunVexel({"graph", "import", "--json", "--project", Dir, "--blueprint", "/Game/BP_Copy", "--graph", "EventGraph", "--save", "-"}, First.Output);
+	ASSERT_EQ(Import.Status, 0) << Import.Errors;
+	const nlohmann::json Report = nlohmann::json::parse(Import.Output, nullptr, false);
+	EXPECT_TRUE(Report["skipped"].empty()) << Import.Output;
+	EXPECT_TRUE(std::filesystem::exists(Project.GetPath() / "Content/BP_Copy.uasset"));
+	const FProgramResult Second = RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Copy"});
+	EXPECT_EQ(Second.Status, 0) << Second.Errors;
+	const auto CountObjects = [](const std::string& Text)
+	{
+		size_t Num = 0;
+		for (size_t At = Text.find("\nEnd Object"); At != std::string::npos; At = Text.find("\nEnd Object", At + 1))
+		{
+			++Num;
+		}
+		return Num;
+	};
+	EXPECT_GE(CountObjects(Second.Output), CountObjects(First.Output));
+}
+
+TEST(Command, AFullDiskLosesNothing)
+{
+	const FSampleProjectCopy Project;
+	const std::string Dir = Project.GetPath();
+	const std::string Before = RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door"}).Output;
+	// A file size limit of one block stands in for the full disk: writing past it fails as writing to a full disk does.
+	const FProgramResult Import = RunProgram({"/bin/bash", "-c",
+		"trap '' XFSZ; ulimit -f 1; '" VEXEL_PROGRAM "' graph export --project '" + Dir + "' --blueprint /Game/BP_Door | '" VEXEL_PROGRAM "' graph import --project '" + Dir + "' --blueprint /Game/BP_Door --save -"});
+	EXPECT_EQ(Import.Status, 1);
+	EXPECT_THAT(Import.Errors, HasSubstr("cannot be saved"));
+	EXPECT_EQ(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door"}).Output, Before);
+	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Project.GetPath() / "Content"))
+	{
+		EXPECT_THAT(Entry.path().filename().string(), Not(HasSubstr("tmp")));
+	}
+}

@@ -1,0 +1,140 @@
+#include "Program.h"
+
+#include <chrono>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <poll.h>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
+
+namespace
+{
+struct FPipe
+{
+	FPipe() { Failed = pipe2(Ends, O_CLOEXEC) != 0; }
+	~FPipe()
+	{
+		CloseEnd(0);
+		CloseEnd(1);
+	}
+	void CloseEnd(int Index)
+	{
+		if (Ends[Index] >= 0)
+		{
+			close(Ends[Index]);
+			Ends[Index] = -1;
+		}
+	}
+
+	int Ends[2] = {-1, -1};
+	bool Failed = false;
+};
+
+/** Reads what is there; closes the end at the end of the stream. */
+void Drain(FPipe& Pipe, std::string& Text)
+{
+	char Buffer[65536];
+	const ssize_t NumRead = read(Pipe.Ends[0], Buffer, sizeof(Buffer));
+	if (NumRead > 0)
+	{
+		Text.append(Buffer, size_t(NumRead));
+	}
+	else
+	{
+		Pipe.CloseEnd(0);
+	}
+}
+}
+
+FProgramResult RunProgram(const std::vector<std::string>& Words, const std::string& Input, int TimeoutSeconds)
+{
+	FProgramResult Result;
+	FPipe In;
+	FPipe Out;
+	FPipe Errors;
+	posix_spawn_file_actions_t Actions;
+	posix_spawn_file_actions_init(&Actions);
+	posix_spawn_file_actions_adddup2(&Actions, In.Ends[0], STDIN_FILENO);
+	posix_spawn_file_actions_adddup2(&Actions, Out.Ends[1], STDOUT_FILENO);
+	posix_spawn_file_actions_adddup2(&Actions, Errors.Ends[1], STDERR_FILENO);
+	std::vector<char*> RawWords;
+	for (const std::string& Word : Words)
+	{
+		RawWords.push_back(const_cast<char*>(Word.c_str()));
+	}
+	RawWords.push_back(nullptr);
+	pid_t Process = 0;
+	const int Failure = posix_spawn(&Process, RawWords[0], &Actions, nullptr, RawWords.data(), environ);
+	posix_spawn_file_actions_destroy(&Actions);
+	if (Failure != 0)
+	{
+		Result.Errors = "the program could not be started: " + Words[0];
+		return Result;
+	}
+	In.CloseEnd(0);
+	Out.CloseEnd(1);
+	Errors.CloseEnd(1);
+	signal(SIGPIPE, SIG_IGN);
+	if (!Input.empty() && write(In.Ends[1], Input.data(), Input.size()) < 0)
+	{
+		Result.Errors = "the program took no input";
+	}
+	In.CloseEnd(1);
+
+	const auto Deadline = std::chrono::steady_clock::now() + std::chrono::seconds(TimeoutSeconds);
+	while (Out.Ends[0] >= 0 || Errors.Ends[0] >= 0)
+	{
+		const auto Left = std::chrono::duration_cast<std::chrono::milliseconds>(Deadline - std::chrono::steady_clock::now()).count();
+		pollfd Polls[2] = {{Out.Ends[0], POLLIN, 0}, {Errors.Ends[0], POLLIN, 0}};
+		if (Left <= 0 || poll(Polls, 2, int(Left)) == 0)
+		{
+			kill(Process, SIGKILL);
+			waitpid(Process, nullptr, 0);
+			Result.Errors += "\nkilled: it took longer than " + std::to_string(TimeoutSeconds) + " s";
+			return Result;
+		}
+		if (Polls[0].revents)
+		{
+			Drain(Out, Result.Output);
+		}
+		if (Polls[1].revents)
+		{
+			Drain(Errors, Result.Errors);
+		}
+	}
+	int Status = 0;
+	waitpid(Process, &Status, 0);
+	Result.Status = WIFEXITED(Status) ? WEXITSTATUS(Status) : 128 + WTERMSIG(Status);
+	return Result;
+}
+
+FProgramResult RunVexel(std::vector<std::string> Arguments, const std::string& Input, int TimeoutSeconds)
+{
+	Arguments.insert(Arguments.begin(), VEXEL_PROGRAM);
+	return RunProgram(Arguments, Input, TimeoutSeconds);
+}
+
+FSampleProjectCopy::FSampleProjectCopy()
+{
+	std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-project-XXXXXX").string();
+	Path = mkdtemp(Pattern.data());
+	const std::filesystem::path Source = std::filesystem::path(VEXEL_SOURCE_DIR) / "Samples/Lighthouse";
+	for (const auto& Entry : std::filesystem::directory_iterator(Source))
+	{
+		// Saved state of whoever used the sample is none of the test's.
+		if (Entry.path().filename() != "Saved")
+		{
+			std::filesystem::copy(Entry.path(), Path / Entry.path().filename(), std::filesystem::copy_options::recursive);
+		}
+	}
+}
+
+FSampleProjectCopy::~FSampleProjectCopy()
+{
+	std::error_code Ignored;
+	std::filesystem::remove_all(Path, Ignored);
+}
