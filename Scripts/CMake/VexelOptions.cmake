@@ -19,6 +19,8 @@ target_compile_definitions(vexel_options INTERFACE $<$<CONFIG:Debug>:UE_BUILD_DE
 if(VEXEL_SANITIZE)
 	add_compile_options(-fsanitize=${VEXEL_SANITIZE} -fno-omit-frame-pointer -g1)
 	add_link_options(-fsanitize=${VEXEL_SANITIZE})
+	# The checks that are compiled in hide from the compiler that a value is set.
+	add_compile_options($<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
 else()
 	# A shared library that uses a module outside its floors fails to link. Sanitized libraries cannot be linked so strictly,
 	# because the sanitizer's symbols are in the program.
