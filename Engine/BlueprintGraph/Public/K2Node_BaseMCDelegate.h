@@ -22,6 +22,7 @@ public:
 	UFunction* GetDelegateSignature() const;
 	UEdGraphPin* GetDelegatePin() const { return FindPin(UEdGraphSchema_K2::PN_Delegate); }
 	virtual void AllocateDefaultPins() override;
+	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual bool HasKnownDefinition() const override;
 	virtual FText GetMenuCategory() const override;
 

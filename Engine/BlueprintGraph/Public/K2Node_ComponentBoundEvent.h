@@ -29,6 +29,7 @@ public:
 	FName GetComponentPropertyName() const { return ComponentPropertyName; }
 	virtual UFunction* FindEventSignatureFunction() const override;
 	virtual bool CanDuplicateNode() const override { return false; }
+	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;
 };

@@ -48,6 +48,7 @@ public:
 	virtual FName GetCornerIcon() const override;
 	virtual void AllocateDefaultPins() override;
 	virtual bool HasKnownDefinition() const override;
+	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;
 	virtual FText GetKeywords() const override;

@@ -15,6 +15,7 @@ public:
 	UPROPERTY()
 	TObjectPtr<UScriptStruct> StructType = nullptr;
 
+	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual bool HasKnownDefinition() const override;
 	virtual FText GetMenuCategory() const override;
 

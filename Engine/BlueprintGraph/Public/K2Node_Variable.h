@@ -45,6 +45,7 @@ public:
 	virtual bool DrawNodeAsVariable() const override { return true; }
 	virtual bool ReferencesVariable(const FName& InVarName, const UStruct* InScope) const override;
 	virtual FName GetCornerIcon() const override { return FName(); }
+	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual bool HasKnownDefinition() const override;
 	virtual FText GetTooltipText() const override;
 

@@ -14,6 +14,7 @@ public:
 	/** Name of the output that gives the value back. */
 	FName GetVariableOutputPinName() const { return FName(TEXT("Output_Get")); }
 	virtual void AllocateDefaultPins() override;
+	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;
 };

@@ -7,11 +7,11 @@
 #include "Engine/SimpleConstructionScript.h"
 #include "GameFramework/Actor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/CompilerResultsLog.h"
+#include "KismetCompiler/BlueprintCompiler.h"
 #include "UObject/Interface.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
-
-DEFINE_LOG_CATEGORY_STATIC(LogBlueprint, Log, All);
 
 namespace
 {
@@ -111,27 +111,12 @@ bool FKismetEditorUtilities::GenerateBlueprintSkeleton(UBlueprint* BlueprintObj,
 void FKismetEditorUtilities::CompileBlueprint(UBlueprint* BlueprintObj, EBlueprintCompileOptions CompileFlags, FCompilerResultsLog* pResults)
 {
 	check(BlueprintObj && !BlueprintObj->bBeingCompiled);
-	if (!BlueprintObj->ParentClass)
+	if (BlueprintObj->ParentClass)
 	{
-		UE_LOG(LogBlueprint, Error, TEXT("%s has no parent class"), *BlueprintObj->GetPathName());
-		BlueprintObj->Status = BS_Error;
-		return;
+		CreateClasses(*BlueprintObj, BlueprintObj->GetBlueprintClass());
 	}
-	BlueprintObj->bBeingCompiled = true;
-	CreateClasses(*BlueprintObj, BlueprintObj->GetBlueprintClass());
-	TArray<FString> Errors;
-	FBlueprintCompileReinstancer(*BlueprintObj, *CastChecked<UBlueprintGeneratedClass>(BlueprintObj->SkeletonGeneratedClass.Get())).Rebuild(Errors);
-	Errors.Empty();
-	FBlueprintCompileReinstancer(*BlueprintObj, *CastChecked<UBlueprintGeneratedClass>(BlueprintObj->GeneratedClass.Get())).Rebuild(Errors);
-	for (const FString& Error : Errors)
-	{
-		UE_LOG(LogBlueprint, Error, TEXT("[Compiler] %s: %s"), *BlueprintObj->GetName(), *Error);
-	}
-	BlueprintObj->Status = Errors.Num() > 0 ? BS_Error : BS_UpToDate;
-	BlueprintObj->bHasBeenRegenerated = true;
-	BlueprintObj->bBeingCompiled = false;
-	BlueprintObj->BroadcastCompiled();
-	BlueprintObj->BroadcastChanged();
+	FCompilerResultsLog OwnLog(false);
+	FBlueprintCompiler(*BlueprintObj, pResults ? *pResults : OwnLog).Compile();
 }
 
 bool FKismetEditorUtilities::CanCreateBlueprintOfClass(const UClass* Class)

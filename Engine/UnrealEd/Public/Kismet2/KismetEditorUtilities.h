@@ -32,7 +32,10 @@ public:
 		TSubclassOf<UBlueprintGeneratedClass> BlueprintGeneratedClassType, FName CallingContext = NAME_None);
 	static UBlueprint* CreateBlueprint(UClass* ParentClass, UObject* Outer, const FName NewBPName, enum EBlueprintType BlueprintType, FName CallingContext = NAME_None);
 
-	/** Brings the Blueprint's classes up to date with its variables and graphs and sets its Status. Messages go to the log; pResults is left alone. */
+	/**
+	 * Checks the Blueprint, brings its classes up to date with its variables and graphs, and sets its Status; refreshes and compiles the
+	 * loaded Blueprints that use members which changed. What is wrong goes to pResults, to the output log and to marks on the nodes.
+	 */
 	static void CompileBlueprint(UBlueprint* BlueprintObj, EBlueprintCompileOptions CompileFlags = EBlueprintCompileOptions::None, FCompilerResultsLog* pResults = nullptr);
 	/** Builds the skeleton class alone. */
 	static bool GenerateBlueprintSkeleton(UBlueprint* BlueprintObj, bool bForceRegeneration = false);

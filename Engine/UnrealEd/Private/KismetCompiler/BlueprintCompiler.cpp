@@ -1,0 +1,180 @@
+#include "BlueprintCompiler.h"
+
+#include "BlueprintValidator.h"
+#include "EdGraph/EdGraph.h"
+#include "EdGraph/EdGraphNode.h"
+#include "Engine/Blueprint.h"
+#include "Engine/BlueprintGeneratedClass.h"
+#include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/BlueprintReinstancer.h"
+#include "Kismet2/CompilerResultsLog.h"
+#include "Kismet2/KismetEditorUtilities.h"
+#include "UObject/Package.h"
+#include "UObject/ReferenceCollector.h"
+#include "UObject/UObjectIterator.h"
+#include "UObject/UnrealType.h"
+
+namespace
+{
+void DescribeProperty(const FProperty& Property, FString& Out)
+{
+	Out += FString::Printf(TEXT("%s:%s:%llx;"), *Property.GetName(), *Property.GetCPPType(), static_cast<uint64>(Property.GetPropertyFlags()));
+}
+
+/** The members that others may use, as text: two classes with the same text need no refresh of their users. */
+FString DescribeMembers(const UClass& Class)
+{
+	FString Text = Class.GetSuperClass() ? Class.GetSuperClass()->GetPathName() : FString();
+	for (TFieldIterator<FProperty> Property(&Class, EFieldIterationFlags::None); Property; ++Property)
+	{
+		DescribeProperty(**Property, Text);
+	}
+	for (TFieldIterator<UFunction> Function(&Class, EFieldIterationFlags::None); Function; ++Function)
+	{
+		Text += FString::Printf(TEXT("%s(%x:"), *Function->GetName(), static_cast<uint32>(Function->FunctionFlags));
+		for (TFieldIterator<FProperty> Parameter(*Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+		{
+			DescribeProperty(**Parameter, Text);
+		}
+		Text += TEXT(")");
+	}
+	return Text;
+}
+
+/** Whether a node of the Blueprint, a variable's type or an ancestor is of one of the classes. */
+bool Uses(const UBlueprint& Blueprint, const TSet<const UObject*>& Classes)
+{
+	for (const UClass* Ancestor = Blueprint.ParentClass.Get(); Ancestor; Ancestor = Ancestor->GetSuperClass())
+	{
+		if (Classes.Contains(Ancestor))
+		{
+			return true;
+		}
+	}
+	const bool bHasVariable = Blueprint.NewVariables.ContainsByPredicate([&Classes](const FBPVariableDescription& Variable)
+		{ return Classes.Contains(Variable.VarType.PinSubCategoryObject.Get()); });
+	if (bHasVariable)
+	{
+		return true;
+	}
+	TArray<UEdGraph*> Graphs;
+	Blueprint.GetAllGraphs(Graphs);
+	TArray<UObject*> Referenced;
+	FReferenceFinder Finder(Referenced);
+	for (const UEdGraph* const Graph : Graphs)
+	{
+		for (UEdGraphNode* const Node : Graph->Nodes)
+		{
+			if (!Node)
+			{
+				continue;
+			}
+			Finder.FindReferences(Node);
+			const bool bPinIsOfClass = Node->Pins.ContainsByPredicate([&Classes](const UEdGraphPin* Pin)
+				{ return Classes.Contains(Pin->PinType.PinSubCategoryObject.Get()); });
+			if (bPinIsOfClass)
+			{
+				return true;
+			}
+		}
+	}
+	return Referenced.ContainsByPredicate([&Classes](const UObject* Object)
+		{ return Classes.Contains(Object); });
+}
+}
+
+void FBlueprintCompiler::Compile()
+{
+	CompileDirtyParents();
+	ClearMarks();
+	Log.SetSourcePath(Blueprint.GetName());
+	Log.BeginEvent(TEXT("Compile"));
+	const FString MembersBefore = Blueprint.GeneratedClass ? DescribeMembers(*Blueprint.GeneratedClass.Get()) : FString();
+	Blueprint.bBeingCompiled = true;
+	CheckAndBuild();
+	Blueprint.bBeingCompiled = false;
+	Blueprint.bHasBeenRegenerated = true;
+	SetStatus();
+	Log.EndEvent();
+	Blueprint.BroadcastCompiled();
+	Blueprint.BroadcastChanged();
+	if (!Blueprint.bIsNewlyCreated && Blueprint.GeneratedClass && DescribeMembers(*Blueprint.GeneratedClass.Get()) != MembersBefore)
+	{
+		CompileDependents();
+	}
+}
+
+void FBlueprintCompiler::CompileDirtyParents()
+{
+	UBlueprint* const Parent = UBlueprint::GetBlueprintFromClass(Blueprint.ParentClass.Get());
+	if (Parent && Parent != &Blueprint && Parent->Status == BS_Dirty && !Parent->bBeingCompiled)
+	{
+		// A ring of parents ends here; the compile proper reports it.
+		Blueprint.bBeingCompiled = true;
+		FKismetEditorUtilities::CompileBlueprint(Parent);
+		Blueprint.bBeingCompiled = false;
+	}
+}
+
+void FBlueprintCompiler::ClearMarks()
+{
+	TArray<UEdGraph*> Graphs;
+	Blueprint.GetAllGraphs(Graphs);
+	for (const UEdGraph* const Graph : Graphs)
+	{
+		for (UEdGraphNode* const Node : Graph->Nodes)
+		{
+			if (Node)
+			{
+				Node->ClearCompilerMessage();
+			}
+		}
+	}
+}
+
+void FBlueprintCompiler::CheckAndBuild()
+{
+	const FBlueprintValidator Validator(Blueprint, Log);
+	if (!Validator.ValidateParent())
+	{
+		return;
+	}
+	// The graphs are checked against the members that the Blueprint has now, and those are the skeleton's.
+	TArray<FString> SkeletonErrors;
+	FBlueprintCompileReinstancer(Blueprint, *CastChecked<UBlueprintGeneratedClass>(Blueprint.SkeletonGeneratedClass.Get())).Rebuild(SkeletonErrors);
+	Validator.Validate();
+	TArray<FString> Errors;
+	FBlueprintCompileReinstancer(Blueprint, *CastChecked<UBlueprintGeneratedClass>(Blueprint.GeneratedClass.Get())).Rebuild(Errors);
+	for (const FString& Error : Errors)
+	{
+		Log.Error(TEXT("@@"), Error);
+	}
+}
+
+void FBlueprintCompiler::SetStatus()
+{
+	Blueprint.Status = Log.NumErrors > 0 ? BS_Error : Log.NumWarnings > 0 ? BS_UpToDateWithWarnings
+																		  : BS_UpToDate;
+}
+
+void FBlueprintCompiler::CompileDependents()
+{
+	TSet<const UObject*> Classes = {Blueprint.GeneratedClass.Get(), Blueprint.SkeletonGeneratedClass.Get()};
+	TArray<UBlueprint*> Dependents;
+	for (TObjectIterator<UBlueprint> Other; Other; ++Other)
+	{
+		const bool bIsAsset = *Other != &Blueprint && !Other->HasAnyFlags(RF_Transient | RF_ClassDefaultObject) && Other->GeneratedClass && !Other->bBeingCompiled;
+		if (bIsAsset && Uses(**Other, Classes))
+		{
+			Dependents.Add(*Other);
+		}
+	}
+	for (UBlueprint* const Dependent : Dependents)
+	{
+		// Its assets do not change by it, only what its nodes know of this Blueprint.
+		const bool bWasDirty = Dependent->GetPackage()->IsDirty();
+		FBlueprintEditorUtils::ReconstructAllNodes(Dependent);
+		FKismetEditorUtilities::CompileBlueprint(Dependent);
+		Dependent->GetPackage()->SetDirtyFlag(bWasDirty);
+	}
+}
