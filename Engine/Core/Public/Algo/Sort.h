@@ -1,0 +1,29 @@
+#pragma once
+
+#include "CoreTypes.h"
+#include "Templates/IdentityFunctor.h"
+#include "Templates/Invoke.h"
+#include "Templates/Less.h"
+#include "Templates/UnrealTemplate.h"
+
+#include <algorithm>
+
+/** Sorting of contiguous ranges. Unlike TArray's own, it does not look through pointers. */
+namespace Algo
+{
+/** In the order of the projections; equal elements come in any order. */
+template <typename RangeType, typename ProjectionType, typename PredicateType = TLess<>>
+void SortBy(RangeType&& Range, ProjectionType Projection, PredicateType IsBefore = PredicateType())
+{
+	auto* const First = GetData(Range);
+	std::sort(First, First + GetNum(Range),
+		[&](const auto& A, const auto& B)
+		{ return Invoke(IsBefore, Invoke(Projection, A), Invoke(Projection, B)); });
+}
+
+template <typename RangeType, typename PredicateType = TLess<>>
+void Sort(RangeType&& Range, PredicateType IsBefore = PredicateType())
+{
+	SortBy(Range, FIdentityFunctor(), MoveTemp(IsBefore));
+}
+}
