@@ -40,7 +40,8 @@ const std::string& GetAnswer()
 
 TConstArrayView<uint8> GetChunk(const std::string& Answer, size_t Start)
 {
-	return TConstArrayView<uint8>(reinterpret_cast<const uint8*>(Answer.data() + Start), int32(FMath::Min(NetworkChunkBytes, Answer.size() - Start)));
+	return TConstArrayView<uint8>(
+		reinterpret_cast<const uint8*>(Answer.data() + Start), int32(FMath::Min(NetworkChunkBytes, Answer.size() - Start)));
 }
 
 /** Builds the message as a request does. */
