@@ -10,26 +10,21 @@ std::mt19937& GetGenerator()
 	return Generator;
 }
 
-float LinearToSRGB(float Value)
+/** Part of a distance that a tick goes. */
+double GetInterpAlpha(double DeltaTime, double InterpSpeed)
 {
-	return Value <= 0.0031308f ? Value * 12.92f : std::pow(Value, 1.0f / 2.4f) * 1.055f - 0.055f;
+	return FMath::Clamp(DeltaTime * InterpSpeed, 0.0, 1.0);
 }
 
-float SRGBToLinear(uint8 Byte)
+template <typename VectorType>
+VectorType InterpVectorTo(const VectorType& Current, const VectorType& Target, double DeltaTime, double InterpSpeed)
 {
-	const float Value = static_cast<float>(Byte) / 255.0f;
-	return Value <= 0.04045f ? Value / 12.92f : std::pow((Value + 0.055f) / 1.055f, 2.4f);
-}
-
-uint8 ToByte(float Value)
-{
-	// What is not a number compares false and becomes 0.
-	return Value > 0.0f ? static_cast<uint8>(FMath::Min(Value, 1.0f) * 255.0f + 0.5f) : 0;
-}
-
-int32 HexValue(TCHAR Char)
-{
-	return FChar::IsHexDigit(Char) ? FParse::HexDigit(Char) : static_cast<int32>(INDEX_NONE);
+	const VectorType Distance = Target - Current;
+	if (InterpSpeed <= 0.0 || Distance.SizeSquared() < UE_DOUBLE_KINDA_SMALL_NUMBER)
+	{
+		return Target;
+	}
+	return Current + Distance * GetInterpAlpha(DeltaTime, InterpSpeed);
 }
 }
 
@@ -75,9 +70,143 @@ double FMath::FRandRange(double Min, double Max)
 
 double FMath::GetMappedRangeValueClamped(const FVector2D& InputRange, const FVector2D& OutputRange, double Value)
 {
-	const double Width = InputRange.Y - InputRange.X;
-	const double Alpha = IsNearlyZero(Width) ? (Value >= InputRange.Y ? 1.0 : 0.0) : Clamp((Value - InputRange.X) / Width, 0.0, 1.0);
-	return Lerp(OutputRange.X, OutputRange.Y, Alpha);
+	return GetRangeValue(OutputRange, Clamp(GetRangePct(InputRange, Value), 0.0, 1.0));
+}
+
+double FMath::GetMappedRangeValueUnclamped(const FVector2D& InputRange, const FVector2D& OutputRange, double Value)
+{
+	return GetRangeValue(OutputRange, GetRangePct(InputRange, Value));
+}
+
+double FMath::GetRangePct(double MinValue, double MaxValue, double Value)
+{
+	const double Width = MaxValue - MinValue;
+	return IsNearlyZero(Width) ? (Value >= MaxValue ? 1.0 : 0.0) : (Value - MinValue) / Width;
+}
+
+double FMath::GetRangePct(const FVector2D& Range, double Value)
+{
+	return GetRangePct(Range.X, Range.Y, Value);
+}
+
+double FMath::GetRangeValue(const FVector2D& Range, double Pct)
+{
+	return Lerp(Range.X, Range.Y, Pct);
+}
+
+double FMath::ClampAngle(double AngleDegrees, double MinAngleDegrees, double MaxAngleDegrees)
+{
+	const double HalfWidth = FRotator::ClampAxis(MaxAngleDegrees - MinAngleDegrees) * 0.5;
+	const double Middle = FRotator::ClampAxis(MinAngleDegrees + HalfWidth);
+	const double FromMiddle = FRotator::NormalizeAxis(AngleDegrees - Middle);
+	if (FromMiddle > HalfWidth)
+	{
+		return FRotator::NormalizeAxis(Middle + HalfWidth);
+	}
+	return FRotator::NormalizeAxis(FromMiddle < -HalfWidth ? Middle - HalfWidth : AngleDegrees);
+}
+
+double FMath::FInterpConstantTo(double Current, double Target, double DeltaTime, double InterpSpeed)
+{
+	const double Distance = Target - Current;
+	if (Square(Distance) < UE_DOUBLE_SMALL_NUMBER)
+	{
+		return Target;
+	}
+	const double Step = InterpSpeed * DeltaTime;
+	return Current + Clamp(Distance, -Step, Step);
+}
+
+FVector FMath::VInterpTo(const FVector& Current, const FVector& Target, double DeltaTime, double InterpSpeed)
+{
+	return InterpVectorTo(Current, Target, DeltaTime, InterpSpeed);
+}
+
+FVector2D FMath::Vector2DInterpTo(const FVector2D& Current, const FVector2D& Target, double DeltaTime, double InterpSpeed)
+{
+	return InterpVectorTo(Current, Target, DeltaTime, InterpSpeed);
+}
+
+FVector FMath::VInterpConstantTo(const FVector& Current, const FVector& Target, double DeltaTime, double InterpSpeed)
+{
+	const FVector Distance = Target - Current;
+	const double Step = InterpSpeed * DeltaTime;
+	return Distance.Size() > Step && Step > 0.0 ? Current + Distance.GetUnsafeNormal() * Step : Target;
+}
+
+FRotator FMath::RInterpTo(const FRotator& Current, const FRotator& Target, double DeltaTime, double InterpSpeed)
+{
+	if (DeltaTime == 0.0 || Current == Target)
+	{
+		return Current;
+	}
+	const FRotator Distance = (Target - Current).GetNormalized();
+	if (InterpSpeed <= 0.0 || Distance.IsNearlyZero())
+	{
+		return Target;
+	}
+	return (Current + Distance * GetInterpAlpha(DeltaTime, InterpSpeed)).GetNormalized();
+}
+
+FRotator FMath::RInterpConstantTo(const FRotator& Current, const FRotator& Target, double DeltaTime, double InterpSpeed)
+{
+	if (DeltaTime == 0.0 || Current == Target)
+	{
+		return Current;
+	}
+	if (InterpSpeed <= 0.0)
+	{
+		return Target;
+	}
+	const double Step = InterpSpeed * DeltaTime;
+	const FRotator Distance = (Target - Current).GetNormalized();
+	const FRotator Moved(Clamp(Distance.Pitch, -Step, Step), Clamp(Distance.Yaw, -Step, Step), Clamp(Distance.Roll, -Step, Step));
+	return (Current + Moved).GetNormalized();
+}
+
+FVector FMath::ClosestPointOnSegment(const FVector& Point, const FVector& StartPoint, const FVector& EndPoint)
+{
+	const FVector Segment = EndPoint - StartPoint;
+	const double Squared = Segment.SizeSquared();
+	return Squared == 0.0 ? StartPoint : StartPoint + Segment * Clamp(((Point - StartPoint) | Segment) / Squared, 0.0, 1.0);
+}
+
+double FMath::PointDistToSegment(const FVector& Point, const FVector& StartPoint, const FVector& EndPoint)
+{
+	return FVector::Dist(Point, ClosestPointOnSegment(Point, StartPoint, EndPoint));
+}
+
+double FMath::PointDistToLine(const FVector& Point, const FVector& Direction, const FVector& Origin)
+{
+	const FVector SafeDirection = Direction.GetSafeNormal();
+	return FVector::VectorPlaneProject(Point - Origin, SafeDirection).Size();
+}
+
+FVector FMath::LinePlaneIntersection(const FVector& Point1, const FVector& Point2, const FVector& PlaneOrigin, const FVector& PlaneNormal)
+{
+	const FVector Line = Point2 - Point1;
+	return Point1 + Line * (((PlaneOrigin - Point1) | PlaneNormal) / (Line | PlaneNormal));
+}
+
+FVector FMath::VRand()
+{
+	const FRandomStream Stream(Rand32());
+	return Stream.VRand();
+}
+
+FVector FMath::VRandCone(const FVector& Direction, double ConeHalfAngleRadians)
+{
+	// The part of a sphere between two heights has an area in proportion to their difference.
+	const double Cosine = FRandRange(Cos(Clamp(ConeHalfAngleRadians, 0.0, UE_DOUBLE_PI)), 1.0);
+	const double Sine = Sqrt(Max(0.0, 1.0 - Cosine * Cosine));
+	const double Turn = FRandRange(0.0, 2.0 * UE_DOUBLE_PI);
+	const FVector AboutForward(Cosine, Sine * Cos(Turn), Sine * Sin(Turn));
+	return FQuat::FindBetweenVectors(FVector::ForwardVector, Direction).RotateVector(AboutForward);
+}
+
+FVector FMath::RandPointInBox(const FBox& Box)
+{
+	return FVector(FRandRange(Box.Min.X, Box.Max.X), FRandRange(Box.Min.Y, Box.Max.Y), FRandRange(Box.Min.Z, Box.Max.Z));
 }
 
 double FMath::FInterpTo(double Current, double Target, double DeltaTime, double InterpSpeed)
@@ -87,7 +216,7 @@ double FMath::FInterpTo(double Current, double Target, double DeltaTime, double 
 	{
 		return Target;
 	}
-	return Current + Distance * Clamp(DeltaTime * InterpSpeed, 0.0, 1.0);
+	return Current + Distance * GetInterpAlpha(DeltaTime, InterpSpeed);
 }
 
 void FRandomStream::Initialize(FName InName)
@@ -132,111 +261,4 @@ FVector FRandomStream::VRand() const
 			return Point.GetUnsafeNormal();
 		}
 	}
-}
-
-const FLinearColor FLinearColor::White(1, 1, 1);
-const FLinearColor FLinearColor::Gray(0.5f, 0.5f, 0.5f);
-const FLinearColor FLinearColor::Black(0, 0, 0);
-const FLinearColor FLinearColor::Transparent(0, 0, 0, 0);
-const FLinearColor FLinearColor::Red(1, 0, 0);
-const FLinearColor FLinearColor::Green(0, 1, 0);
-const FLinearColor FLinearColor::Blue(0, 0, 1);
-const FLinearColor FLinearColor::Yellow(1, 1, 0);
-
-const FColor FColor::White(255, 255, 255);
-const FColor FColor::Black(0, 0, 0);
-const FColor FColor::Transparent(0, 0, 0, 0);
-const FColor FColor::Red(255, 0, 0);
-const FColor FColor::Green(0, 255, 0);
-const FColor FColor::Blue(0, 0, 255);
-const FColor FColor::Yellow(255, 255, 0);
-
-FLinearColor::FLinearColor(const FColor& Color)
-	: R(SRGBToLinear(Color.R))
-	, G(SRGBToLinear(Color.G))
-	, B(SRGBToLinear(Color.B))
-	, A(static_cast<float>(Color.A) / 255.0f)
-{
-}
-
-FLinearColor FLinearColor::FromSRGBColor(const FColor& Color)
-{
-	return FLinearColor(Color);
-}
-
-FColor FLinearColor::ToFColorSRGB() const
-{
-	const FLinearColor Clamped = GetClamped();
-	return FColor(ToByte(LinearToSRGB(Clamped.R)), ToByte(LinearToSRGB(Clamped.G)), ToByte(LinearToSRGB(Clamped.B)), ToByte(Clamped.A));
-}
-
-FColor FLinearColor::ToFColor(bool bSRGB) const
-{
-	return bSRGB ? ToFColorSRGB() : QuantizeRound();
-}
-
-FColor FLinearColor::QuantizeRound() const
-{
-	return FColor(ToByte(R), ToByte(G), ToByte(B), ToByte(A));
-}
-
-FString FLinearColor::ToString() const
-{
-	return FString::Printf(TEXT("(R=%f,G=%f,B=%f,A=%f)"), R, G, B, A);
-}
-
-bool FLinearColor::InitFromString(const FString& Text)
-{
-	R = G = B = 0.0f;
-	A = 1.0f;
-	const bool bHasR = FParse::Value(*Text, TEXT("R="), R);
-	const bool bHasG = FParse::Value(*Text, TEXT("G="), G);
-	const bool bHasB = FParse::Value(*Text, TEXT("B="), B);
-	FParse::Value(*Text, TEXT("A="), A);
-	return bHasR && bHasG && bHasB;
-}
-
-FColor FColor::FromHex(const FString& HexString)
-{
-	const int32 Start = HexString.StartsWith(TEXT("#")) ? 1 : 0;
-	const int32 NumDigits = HexString.Len() - Start;
-	const bool bIsShort = NumDigits == 3 || NumDigits == 4;
-	if (!bIsShort && NumDigits != 6 && NumDigits != 8)
-	{
-		return FColor(ForceInit);
-	}
-	uint8 Components[4] = {0, 0, 0, 255};
-	const int32 DigitsPerComponent = bIsShort ? 1 : 2;
-	for (int32 Component = 0; Component < NumDigits / DigitsPerComponent; ++Component)
-	{
-		const int32 High = HexValue(HexString[Start + Component * DigitsPerComponent]);
-		const int32 Low = HexValue(HexString[Start + Component * DigitsPerComponent + DigitsPerComponent - 1]);
-		if (High == INDEX_NONE || Low == INDEX_NONE)
-		{
-			return FColor(ForceInit);
-		}
-		Components[Component] = static_cast<uint8>(High * 16 + Low);
-	}
-	return FColor(Components[0], Components[1], Components[2], Components[3]);
-}
-
-FString FColor::ToHex() const
-{
-	return FString::Printf(TEXT("%02X%02X%02X%02X"), R, G, B, A);
-}
-
-FString FColor::ToString() const
-{
-	return FString::Printf(TEXT("(R=%i,G=%i,B=%i,A=%i)"), R, G, B, A);
-}
-
-bool FColor::InitFromString(const FString& Text)
-{
-	R = G = B = 0;
-	A = 255;
-	const bool bHasR = FParse::Value(*Text, TEXT("R="), R);
-	const bool bHasG = FParse::Value(*Text, TEXT("G="), G);
-	const bool bHasB = FParse::Value(*Text, TEXT("B="), B);
-	FParse::Value(*Text, TEXT("A="), A);
-	return bHasR && bHasG && bHasB;
 }

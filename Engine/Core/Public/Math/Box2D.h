@@ -38,10 +38,32 @@ struct TBox2
 		return *this;
 	}
 	TVector2<T> GetCenter() const { return (Min + Max) * T(0.5); }
+	TBox2& operator+=(const TBox2& Other)
+	{
+		if (Other.bIsValid)
+		{
+			*this += Other.Min;
+			*this += Other.Max;
+		}
+		return *this;
+	}
+	TBox2 operator+(const TBox2& Other) const { return TBox2(*this) += Other; }
+	TVector2<T> GetExtent() const { return (Max - Min) * T(0.5); }
+	T GetArea() const { return (Max.X - Min.X) * (Max.Y - Min.Y); }
+	TBox2 ExpandBy(T Width) const { return TBox2(Min - Width, Max + Width); }
+	TBox2 ShiftBy(const TVector2<T>& Offset) const { return TBox2(Min + Offset, Max + Offset); }
+	void Init() { *this = TBox2(); }
 	TVector2<T> GetSize() const { return Max - Min; }
 	bool IsInside(const TVector2<T>& P) const { return P.X > Min.X && P.X < Max.X && P.Y > Min.Y && P.Y < Max.Y; }
-	bool Intersect(const TBox2& Other) const { return Min.X <= Other.Max.X && Other.Min.X <= Max.X && Min.Y <= Other.Max.Y && Other.Min.Y <= Max.Y; }
-	FString ToString() const { return FString::Printf(TEXT("bIsValid=%s, Min=(%s), Max=(%s)"), bIsValid ? TEXT("true") : TEXT("false"), *Min.ToString(), *Max.ToString()); }
+	bool Intersect(const TBox2& Other) const
+	{
+		return Min.X <= Other.Max.X && Other.Min.X <= Max.X && Min.Y <= Other.Max.Y && Other.Min.Y <= Max.Y;
+	}
+	FString ToString() const
+	{
+		return FString::Printf(
+			TEXT("bIsValid=%s, Min=(%s), Max=(%s)"), bIsValid ? TEXT("true") : TEXT("false"), *Min.ToString(), *Max.ToString());
+	}
 	bool Serialize(FArchive& Ar)
 	{
 		Ar << *this;

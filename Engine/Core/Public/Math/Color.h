@@ -51,17 +51,29 @@ struct CORE_API FLinearColor
 	constexpr FLinearColor operator-(const FLinearColor& C) const { return FLinearColor(R - C.R, G - C.G, B - C.B, A - C.A); }
 	constexpr FLinearColor operator*(const FLinearColor& C) const { return FLinearColor(R * C.R, G * C.G, B * C.B, A * C.A); }
 	constexpr FLinearColor operator*(float Scale) const { return FLinearColor(R * Scale, G * Scale, B * Scale, A * Scale); }
+	friend constexpr FLinearColor operator*(float Scale, const FLinearColor& C) { return C * Scale; }
 	constexpr FLinearColor operator/(float Scale) const { return FLinearColor(R / Scale, G / Scale, B / Scale, A / Scale); }
 	constexpr bool operator==(const FLinearColor&) const = default;
 	bool Equals(const FLinearColor& C, float Tolerance = UE_KINDA_SMALL_NUMBER) const
 	{
-		return FMath::Abs(R - C.R) < Tolerance && FMath::Abs(G - C.G) < Tolerance && FMath::Abs(B - C.B) < Tolerance && FMath::Abs(A - C.A) < Tolerance;
+		return FMath::Abs(R - C.R) < Tolerance && FMath::Abs(G - C.G) < Tolerance && FMath::Abs(B - C.B) < Tolerance &&
+			FMath::Abs(A - C.A) < Tolerance;
 	}
 	FLinearColor GetClamped(float InMin = 0.0f, float InMax = 1.0f) const
 	{
-		return FLinearColor(FMath::Clamp(R, InMin, InMax), FMath::Clamp(G, InMin, InMax), FMath::Clamp(B, InMin, InMax), FMath::Clamp(A, InMin, InMax));
+		return FLinearColor(
+			FMath::Clamp(R, InMin, InMax), FMath::Clamp(G, InMin, InMax), FMath::Clamp(B, InMin, InMax), FMath::Clamp(A, InMin, InMax));
 	}
 	FLinearColor CopyWithNewOpacity(float NewOpacity) const { return FLinearColor(R, G, B, NewOpacity); }
+	float GetMax() const { return FMath::Max(FMath::Max(R, G), FMath::Max(B, A)); }
+	float GetMin() const { return FMath::Min(FMath::Min(R, G), FMath::Min(B, A)); }
+	/** R is then the hue in degrees, G the saturation and B the value. */
+	FLinearColor LinearRGBToHSV() const;
+	FLinearColor HSVToLinearRGB() const;
+	/** 1 makes it grey. */
+	FLinearColor Desaturate(float Desaturation) const;
+	FLinearColor& operator+=(const FLinearColor& C) { return *this = *this + C; }
+	FLinearColor& operator*=(float Scale) { return *this = *this * Scale; }
 	float GetLuminance() const { return R * 0.3f + G * 0.59f + B * 0.11f; }
 
 	/** "(R=1.000000,G=1.000000,B=1.000000,A=1.000000)" */
@@ -74,7 +86,11 @@ struct CORE_API FLinearColor
 		return true;
 	}
 	friend FArchive& operator<<(FArchive& Ar, FLinearColor& C) { return Ar << C.R << C.G << C.B << C.A; }
-	friend uint32 GetTypeHash(const FLinearColor& C) { return HashCombineFast(HashCombineFast(::GetTypeHash(C.R), ::GetTypeHash(C.G)), HashCombineFast(::GetTypeHash(C.B), ::GetTypeHash(C.A))); }
+	friend uint32 GetTypeHash(const FLinearColor& C)
+	{
+		return HashCombineFast(
+			HashCombineFast(::GetTypeHash(C.R), ::GetTypeHash(C.G)), HashCombineFast(::GetTypeHash(C.B), ::GetTypeHash(C.A)));
+	}
 };
 
 /** A colour of four bytes, in memory blue, green, red, alpha. */
@@ -120,6 +136,13 @@ struct CORE_API FColor
 	static const FColor Green;
 	static const FColor Blue;
 	static const FColor Yellow;
+	static const FColor Cyan;
+	static const FColor Magenta;
+	static const FColor Orange;
+	static const FColor Purple;
+	static const FColor Turquoise;
+	static const FColor Silver;
+	static const FColor Emerald;
 
 	uint32& DWColor() { return Bits; }
 	uint32 DWColor() const { return Bits; }

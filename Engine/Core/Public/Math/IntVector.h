@@ -58,7 +58,10 @@ struct TIntVector3
 		return bHasX && bHasY && bHasZ;
 	}
 	friend FArchive& operator<<(FArchive& Ar, TIntVector3& V) { return Ar << V.X << V.Y << V.Z; }
-	friend uint32 GetTypeHash(const TIntVector3& V) { return HashCombineFast(HashCombineFast(::GetTypeHash(V.X), ::GetTypeHash(V.Y)), ::GetTypeHash(V.Z)); }
+	friend uint32 GetTypeHash(const TIntVector3& V)
+	{
+		return HashCombineFast(HashCombineFast(::GetTypeHash(V.X), ::GetTypeHash(V.Y)), ::GetTypeHash(V.Z));
+	}
 };
 
 template <typename IntType>

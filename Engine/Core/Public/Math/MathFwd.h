@@ -24,8 +24,16 @@ template <typename T>
 struct TBox;
 template <typename T>
 struct TBox2;
+template <typename T>
+struct TBoxSphereBounds;
+template <typename T>
+struct TSphere;
+template <typename T>
+struct TRay;
 template <typename IntType>
 struct TIntPoint;
+template <typename IntType>
+struct TIntRect;
 template <typename IntType>
 struct TIntVector3;
 }
@@ -59,6 +67,16 @@ using FBox3d = UE::Math::TBox<double>;
 using FBox3f = UE::Math::TBox<float>;
 using FBox2D = UE::Math::TBox2<double>;
 using FBox2f = UE::Math::TBox2<float>;
+using FBoxSphereBounds = UE::Math::TBoxSphereBounds<double>;
+using FBoxSphereBounds3d = UE::Math::TBoxSphereBounds<double>;
+using FBoxSphereBounds3f = UE::Math::TBoxSphereBounds<float>;
+using FSphere = UE::Math::TSphere<double>;
+using FSphere3d = UE::Math::TSphere<double>;
+using FSphere3f = UE::Math::TSphere<float>;
+using FRay = UE::Math::TRay<double>;
+using FRay3d = UE::Math::TRay<double>;
+using FRay3f = UE::Math::TRay<float>;
+using FIntRect = UE::Math::TIntRect<int32>;
 using FIntPoint = UE::Math::TIntPoint<int32>;
 using FInt32Point = FIntPoint;
 using FIntVector = UE::Math::TIntVector3<int32>;

@@ -45,7 +45,8 @@ struct TMatrix
 		{
 			for (int32 Column = 0; Column < 4; ++Column)
 			{
-				Result.M[Row][Column] = M[Row][0] * Other.M[0][Column] + M[Row][1] * Other.M[1][Column] + M[Row][2] * Other.M[2][Column] + M[Row][3] * Other.M[3][Column];
+				Result.M[Row][Column] = M[Row][0] * Other.M[0][Column] + M[Row][1] * Other.M[1][Column] + M[Row][2] * Other.M[2][Column] +
+					M[Row][3] * Other.M[3][Column];
 			}
 		}
 		return Result;
@@ -70,6 +71,94 @@ struct TMatrix
 	}
 	TVector4<T> TransformPosition(const TVector<T>& V) const { return TransformFVector4(TVector4<T>(V, 1)); }
 	TVector4<T> TransformVector(const TVector<T>& V) const { return TransformFVector4(TVector4<T>(V, 0)); }
+	TMatrix operator+(const TMatrix& Other) const
+	{
+		TMatrix Result;
+		for (int32 Index = 0; Index < 16; ++Index)
+		{
+			Result.M[Index / 4][Index % 4] = M[Index / 4][Index % 4] + Other.M[Index / 4][Index % 4];
+		}
+		return Result;
+	}
+	TMatrix operator*(T Scale) const
+	{
+		TMatrix Result;
+		for (int32 Index = 0; Index < 16; ++Index)
+		{
+			Result.M[Index / 4][Index % 4] = M[Index / 4][Index % 4] * Scale;
+		}
+		return Result;
+	}
+	TMatrix& operator*=(const TMatrix& Other) { return *this = *this * Other; }
+	T Determinant() const
+	{
+		T Result = 0;
+		for (int32 Column = 0; Column < 4; ++Column)
+		{
+			Result += M[0][Column] * Cofactor(0, Column);
+		}
+		return Result;
+	}
+	/** Of the upper left three rows and columns: negative when the matrix mirrors. */
+	T RotDeterminant() const { return GetScaledAxis(EAxis::X) | (GetScaledAxis(EAxis::Y) ^ GetScaledAxis(EAxis::Z)); }
+	/** The identity when there is no inverse. */
+	TMatrix Inverse() const
+	{
+		const T Whole = Determinant();
+		if (Whole == 0 || !FMath::IsFinite(Whole))
+		{
+			return Identity;
+		}
+		TMatrix Result;
+		for (int32 Index = 0; Index < 16; ++Index)
+		{
+			Result.M[Index / 4][Index % 4] = Cofactor(Index % 4, Index / 4) / Whole;
+		}
+		return Result;
+	}
+	TVector<T> InverseTransformPosition(const TVector<T>& V) const { return TVector<T>(Inverse().TransformPosition(V)); }
+	TVector<T> InverseTransformVector(const TVector<T>& V) const { return TVector<T>(Inverse().TransformVector(V)); }
+	TVector<T> GetUnitAxis(EAxis::Type Axis) const { return GetScaledAxis(Axis).GetSafeNormal(); }
+	void GetUnitAxes(TVector<T>& X, TVector<T>& Y, TVector<T>& Z) const
+	{
+		X = GetUnitAxis(EAxis::X);
+		Y = GetUnitAxis(EAxis::Y);
+		Z = GetUnitAxis(EAxis::Z);
+	}
+	void SetAxis(int32 Row, const TVector<T>& Axis)
+	{
+		M[Row][0] = Axis.X;
+		M[Row][1] = Axis.Y;
+		M[Row][2] = Axis.Z;
+	}
+	void SetOrigin(const TVector<T>& Origin) { SetAxis(3, Origin); }
+	TVector<T> GetScaleVector() const
+	{
+		return TVector<T>(GetScaledAxis(EAxis::X).Size(), GetScaledAxis(EAxis::Y).Size(), GetScaledAxis(EAxis::Z).Size());
+	}
+	TMatrix GetMatrixWithoutScale() const
+	{
+		TMatrix Result = *this;
+		for (const EAxis::Type Axis : {EAxis::X, EAxis::Y, EAxis::Z})
+		{
+			Result.SetAxis(Axis - EAxis::X, GetUnitAxis(Axis));
+		}
+		return Result;
+	}
+	bool ContainsNaN() const
+	{
+		for (int32 Index = 0; Index < 16; ++Index)
+		{
+			if (!FMath::IsFinite(M[Index / 4][Index % 4]))
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+	/** The rotation of a matrix, whose scale is left out of account. */
+	TQuat<T> ToQuat() const { return TQuat<T>(*this); }
+	TRotator<T> Rotator() const { return ToQuat().Rotator(); }
 	TVector<T> GetOrigin() const { return TVector<T>(M[3][0], M[3][1], M[3][2]); }
 	TVector<T> GetScaledAxis(EAxis::Type Axis) const
 	{
@@ -109,8 +198,44 @@ struct TMatrix
 		}
 		return Ar;
 	}
+
+private:
+	T Cofactor(int32 Row, int32 Column) const
+	{
+		const auto At = [&](int32 DownBy, int32 RightBy)
+		{ return M[(Row + DownBy) & 3][(Column + RightBy) & 3]; };
+		const T Minor = At(1, 1) * (At(2, 2) * At(3, 3) - At(2, 3) * At(3, 2)) - At(1, 2) * (At(2, 1) * At(3, 3) - At(2, 3) * At(3, 1)) +
+			At(1, 3) * (At(2, 1) * At(3, 2) - At(2, 2) * At(3, 1));
+		return ((Row + Column) & 1) != 0 ? -Minor : Minor;
+	}
 };
 
 template <typename T>
 const TMatrix<T> TMatrix<T>::Identity(TPlane<T>(1, 0, 0, 0), TPlane<T>(0, 1, 0, 0), TPlane<T>(0, 0, 1, 0), TPlane<T>(0, 0, 0, 1));
+
+template <typename T>
+TQuat<T>::TQuat(const TMatrix<T>& Source)
+{
+	const TMatrix<T> Matrix = Source.GetMatrixWithoutScale();
+	const auto& M = Matrix.M;
+	const T Trace = M[0][0] + M[1][1] + M[2][2];
+	if (Trace > 0)
+	{
+		const T Root = FMath::Sqrt(Trace + T(1));
+		const T Scale = T(0.5) / Root;
+		*this = TQuat((M[1][2] - M[2][1]) * Scale, (M[2][0] - M[0][2]) * Scale, (M[0][1] - M[1][0]) * Scale, Root * T(0.5));
+		return;
+	}
+	// The largest part of the diagonal keeps the root away from zero.
+	const int32 I = M[1][1] > M[0][0] ? (M[2][2] > M[1][1] ? 2 : 1) : (M[2][2] > M[0][0] ? 2 : 0);
+	const int32 J = (I + 1) % 3;
+	const int32 K = (I + 2) % 3;
+	const T Root = FMath::Sqrt(M[I][I] - M[J][J] - M[K][K] + T(1));
+	const T Scale = T(0.5) / Root;
+	T Parts[3];
+	Parts[I] = Root * T(0.5);
+	Parts[J] = (M[I][J] + M[J][I]) * Scale;
+	Parts[K] = (M[I][K] + M[K][I]) * Scale;
+	*this = TQuat(Parts[0], Parts[1], Parts[2], (M[J][K] - M[K][J]) * Scale);
+}
 }

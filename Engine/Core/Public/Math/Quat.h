@@ -100,6 +100,36 @@ struct TQuat
 	}
 	TVector<T> UnrotateVector(const TVector<T>& V) const { return Inverse().RotateVector(V); }
 	T GetAngle() const { return T(2) * FMath::Acos(W); }
+	/** Between both rotations, in radians. */
+	T AngularDistance(const TQuat& Q) const
+	{
+		const T Inner = *this | Q;
+		return FMath::Acos(T(2) * Inner * Inner - T(1));
+	}
+	void ToAxisAndAngle(TVector<T>& OutAxis, T& OutAngleRadians) const
+	{
+		OutAxis = GetRotationAxis();
+		OutAngleRadians = GetAngle();
+	}
+	TVector<T> GetAxisX() const { return GetForwardVector(); }
+	TVector<T> GetAxisY() const { return GetRightVector(); }
+	TVector<T> GetAxisZ() const { return GetUpVector(); }
+	/** The shortest rotation that turns one direction to the other; neither needs to be of length 1. */
+	static TQuat FindBetween(const TVector<T>& A, const TVector<T>& B) { return FindBetweenVectors(A, B); }
+	static TQuat FindBetweenNormals(const TVector<T>& A, const TVector<T>& B) { return FindBetweenVectors(A, B); }
+	static TQuat FindBetweenVectors(const TVector<T>& A, const TVector<T>& B)
+	{
+		const T Norm = FMath::Sqrt(A.SizeSquared() * B.SizeSquared());
+		const T HalfWay = Norm + (A | B);
+		if (HalfWay > T(1e-6) * Norm)
+		{
+			const TVector<T> Axis = A ^ B;
+			return TQuat(Axis.X, Axis.Y, Axis.Z, HalfWay).GetNormalized();
+		}
+		// Opposite directions: any axis at a right angle will do.
+		return (FMath::Abs(A.X) > FMath::Abs(A.Y) ? TQuat(-A.Z, 0, A.X, 0) : TQuat(0, -A.Z, A.Y, 0)).GetNormalized();
+	}
+	static TQuat MakeFromEuler(const TVector<T>& Euler) { return TRotator<T>::MakeFromEuler(Euler).Quaternion(); }
 	TVector<T> GetRotationAxis() const
 	{
 		const TVector<T> Axis(X, Y, Z);
@@ -129,6 +159,7 @@ struct TQuat
 		const T Roll = FMath::Atan2(T(-2) * (W * X + Y * Z), T(1) - T(2) * (X * X + Y * Y));
 		return TRotator<T>(FMath::RadiansToDegrees(FMath::Asin(T(2) * SinHalfPitch)), Yaw, FMath::RadiansToDegrees(Roll));
 	}
+	explicit TQuat(const TMatrix<T>& M);
 	static TQuat MakeFromRotator(const TRotator<T>& R) { return R.Quaternion(); }
 	/** The way between two rotations at a constant speed, the shorter way round. */
 	static TQuat Slerp(const TQuat& From, const TQuat& To, T Alpha)
@@ -164,7 +195,11 @@ struct TQuat
 		return true;
 	}
 	friend FArchive& operator<<(FArchive& Ar, TQuat& Q) { return Private::SerializeReals(Ar, Q.X, Q.Y, Q.Z, Q.W); }
-	friend uint32 GetTypeHash(const TQuat& Q) { return HashCombineFast(HashCombineFast(::GetTypeHash(Q.X), ::GetTypeHash(Q.Y)), HashCombineFast(::GetTypeHash(Q.Z), ::GetTypeHash(Q.W))); }
+	friend uint32 GetTypeHash(const TQuat& Q)
+	{
+		return HashCombineFast(
+			HashCombineFast(::GetTypeHash(Q.X), ::GetTypeHash(Q.Y)), HashCombineFast(::GetTypeHash(Q.Z), ::GetTypeHash(Q.W)));
+	}
 };
 
 template <typename T>
@@ -212,4 +247,10 @@ TQuat<T> TVector<T>::ToOrientationQuat() const
 {
 	return ToOrientationRotator().Quaternion();
 }
+}
+
+template <typename T, typename U>
+UE::Math::TQuat<T> FMath::Lerp(const UE::Math::TQuat<T>& A, const UE::Math::TQuat<T>& B, const U& Alpha)
+{
+	return UE::Math::TQuat<T>::Slerp(A, B, static_cast<T>(Alpha));
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Math/Matrix.h"
 #include "Math/Quat.h"
 
 namespace UE::Math
@@ -49,6 +50,20 @@ struct TTransform
 	{
 	}
 
+	/** A matrix that mirrors gives a negative scale of X. */
+	explicit TTransform(const TMatrix<T>& M)
+		: Translation(M.GetOrigin())
+		, Scale3D(M.GetScaleVector())
+	{
+		TMatrix<T> Unmirrored = M;
+		if (M.RotDeterminant() < 0)
+		{
+			Scale3D.X = -Scale3D.X;
+			Unmirrored.SetAxis(0, -M.GetScaledAxis(EAxis::X));
+		}
+		Rotation = TQuat<T>(Unmirrored);
+	}
+
 	static const TTransform Identity;
 
 	TQuat<T> GetRotation() const { return Rotation; }
@@ -60,7 +75,10 @@ struct TTransform
 	void SetTranslation(const TVector<T>& NewTranslation) { Translation = NewTranslation; }
 	void SetLocation(const TVector<T>& NewLocation) { Translation = NewLocation; }
 	void SetScale3D(const TVector<T>& NewScale3D) { Scale3D = NewScale3D; }
-	void SetComponents(const TQuat<T>& InRotation, const TVector<T>& InTranslation, const TVector<T>& InScale3D) { *this = TTransform(InRotation, InTranslation, InScale3D); }
+	void SetComponents(const TQuat<T>& InRotation, const TVector<T>& InTranslation, const TVector<T>& InScale3D)
+	{
+		*this = TTransform(InRotation, InTranslation, InScale3D);
+	}
 	void SetIdentity() { *this = TTransform(); }
 	void AddToTranslation(const TVector<T>& Delta) { Translation += Delta; }
 	void NormalizeRotation() { Rotation.Normalize(); }
@@ -77,9 +95,38 @@ struct TTransform
 	TVector<T> TransformPositionNoScale(const TVector<T>& V) const { return Rotation.RotateVector(V) + Translation; }
 	TVector<T> TransformVector(const TVector<T>& V) const { return Rotation.RotateVector(Scale3D * V); }
 	TVector<T> TransformVectorNoScale(const TVector<T>& V) const { return Rotation.RotateVector(V); }
-	TVector<T> InverseTransformPosition(const TVector<T>& V) const { return Rotation.UnrotateVector(V - Translation) * GetSafeScaleReciprocal(Scale3D); }
+	TVector<T> InverseTransformPosition(const TVector<T>& V) const
+	{
+		return Rotation.UnrotateVector(V - Translation) * GetSafeScaleReciprocal(Scale3D);
+	}
 	TVector<T> InverseTransformVector(const TVector<T>& V) const { return Rotation.UnrotateVector(V) * GetSafeScaleReciprocal(Scale3D); }
+	TVector<T> InverseTransformPositionNoScale(const TVector<T>& V) const { return Rotation.UnrotateVector(V - Translation); }
+	TVector<T> InverseTransformVectorNoScale(const TVector<T>& V) const { return Rotation.UnrotateVector(V); }
 	TQuat<T> TransformRotation(const TQuat<T>& Q) const { return Rotation * Q; }
+	TQuat<T> InverseTransformRotation(const TQuat<T>& Q) const { return Rotation.Inverse() * Q; }
+	TVector<T> GetScaledAxis(EAxis::Type Axis) const
+	{
+		check(Axis != EAxis::None);
+		return GetUnitAxis(Axis) * Scale3D[Axis - EAxis::X];
+	}
+	TVector<T> GetUnitAxis(EAxis::Type Axis) const
+	{
+		check(Axis != EAxis::None);
+		return Axis == EAxis::X ? Rotation.GetForwardVector() : (Axis == EAxis::Y ? Rotation.GetRightVector() : Rotation.GetUpVector());
+	}
+	T GetMaximumAxisScale() const { return Scale3D.GetAbsMax(); }
+	T GetMinimumAxisScale() const { return Scale3D.GetAbsMin(); }
+	void ConcatenateRotation(const TQuat<T>& DeltaRotation) { Rotation = Rotation * DeltaRotation; }
+	void ScaleTranslation(T Scale) { Translation *= Scale; }
+	void RemoveScaling() { Scale3D = TVector<T>(1); }
+	void MultiplyScale3D(const TVector<T>& Scale) { Scale3D *= Scale; }
+	/** This transform at 0 of Alpha, the other at 1. */
+	void BlendWith(const TTransform& Other, T Alpha) { Blend(*this, Other, Alpha); }
+	void Blend(const TTransform& A, const TTransform& B, T Alpha)
+	{
+		*this = TTransform(TQuat<T>::Slerp(A.Rotation, B.Rotation, Alpha), FMath::Lerp(A.Translation, B.Translation, Alpha),
+			FMath::Lerp(A.Scale3D, B.Scale3D, Alpha));
+	}
 	TTransform Inverse() const
 	{
 		const TQuat<T> InverseRotation = Rotation.Inverse();
@@ -90,7 +137,8 @@ struct TTransform
 	TTransform GetRelativeTransform(const TTransform& Other) const
 	{
 		const TVector<T> Reciprocal = GetSafeScaleReciprocal(Other.Scale3D);
-		return TTransform(Other.Rotation.Inverse() * Rotation, Other.Rotation.UnrotateVector(Translation - Other.Translation) * Reciprocal, Scale3D * Reciprocal);
+		return TTransform(Other.Rotation.Inverse() * Rotation,
+			Other.Rotation.UnrotateVector(Translation - Other.Translation) * Reciprocal, Scale3D * Reciprocal);
 	}
 	/** One through each component; 0 stays 0. */
 	static TVector<T> GetSafeScaleReciprocal(const TVector<T>& InScale, T Tolerance = static_cast<T>(UE_DOUBLE_SMALL_NUMBER))
@@ -102,15 +150,30 @@ struct TTransform
 
 	bool Equals(const TTransform& Other, T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const
 	{
-		return Rotation.Equals(Other.Rotation, Tolerance) && Translation.Equals(Other.Translation, Tolerance) && Scale3D.Equals(Other.Scale3D, Tolerance);
+		return Rotation.Equals(Other.Rotation, Tolerance) && Translation.Equals(Other.Translation, Tolerance) &&
+			Scale3D.Equals(Other.Scale3D, Tolerance);
+	}
+	bool EqualsNoScale(const TTransform& Other, T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const
+	{
+		return Rotation.Equals(Other.Rotation, Tolerance) && Translation.Equals(Other.Translation, Tolerance);
 	}
 	bool operator==(const TTransform&) const = default;
+
+	TMatrix<T> ToMatrixWithScale() const
+	{
+		return TMatrix<T>(GetScaledAxis(EAxis::X), GetScaledAxis(EAxis::Y), GetScaledAxis(EAxis::Z), Translation);
+	}
+	TMatrix<T> ToMatrixNoScale() const
+	{
+		return TMatrix<T>(GetUnitAxis(EAxis::X), GetUnitAxis(EAxis::Y), GetUnitAxis(EAxis::Z), Translation);
+	}
 
 	/** Translation, then pitch, yaw and roll, then scale: "X,Y,Z|P,Y,R|X,Y,Z". */
 	FString ToString() const
 	{
 		const TRotator<T> Angles = Rotator();
-		return FString::Printf(TEXT("%f,%f,%f|%f,%f,%f|%f,%f,%f"), Translation.X, Translation.Y, Translation.Z, Angles.Pitch, Angles.Yaw, Angles.Roll, Scale3D.X, Scale3D.Y, Scale3D.Z);
+		return FString::Printf(TEXT("%f,%f,%f|%f,%f,%f|%f,%f,%f"), Translation.X, Translation.Y, Translation.Z, Angles.Pitch, Angles.Yaw,
+			Angles.Roll, Scale3D.X, Scale3D.Y, Scale3D.Z);
 	}
 	/** Reads what ToString writes; leaves the transform alone if it cannot. */
 	bool InitFromString(const FString& Text)
@@ -147,10 +210,14 @@ struct TTransform
 		Ar << *this;
 		return true;
 	}
-	friend FArchive& operator<<(FArchive& Ar, TTransform& Transform) { return Ar << Transform.Rotation << Transform.Translation << Transform.Scale3D; }
+	friend FArchive& operator<<(FArchive& Ar, TTransform& Transform)
+	{
+		return Ar << Transform.Rotation << Transform.Translation << Transform.Scale3D;
+	}
 	friend uint32 GetTypeHash(const TTransform& Transform)
 	{
-		return HashCombineFast(HashCombineFast(GetTypeHash(Transform.Rotation), GetTypeHash(Transform.Translation)), GetTypeHash(Transform.Scale3D));
+		return HashCombineFast(
+			HashCombineFast(GetTypeHash(Transform.Rotation), GetTypeHash(Transform.Translation)), GetTypeHash(Transform.Scale3D));
 	}
 };
 

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <concepts>
 #include <cstdlib>
+#include <numeric>
 
 #define UE_PI (3.1415926535897932f)
 #define UE_DOUBLE_PI (3.141592653589793238462643383279502884197169399)
@@ -30,6 +31,8 @@
 #define KINDA_SMALL_NUMBER UE_KINDA_SMALL_NUMBER
 #define BIG_NUMBER UE_BIG_NUMBER
 #define THRESH_VECTOR_NORMALIZED (0.01f)
+#define THRESH_NORMALS_ARE_PARALLEL (0.999845f)
+#define THRESH_NORMALS_ARE_ORTHOGONAL (0.017455f)
 
 /** Mathematics on numbers. Angles are in radians unless a name says degrees. */
 struct CORE_API FMath
@@ -90,10 +93,114 @@ struct CORE_API FMath
 	{
 		return Dividend / Divisor;
 	}
+	template <typename T>
+	static constexpr T DivideAndRoundNearest(T Dividend, T Divisor)
+	{
+		return Dividend >= 0 ? (Dividend + Divisor / 2) / Divisor : (Dividend - Divisor / 2 + 1) / Divisor;
+	}
+	template <typename T>
+	static constexpr T GreatestCommonDivisor(T A, T B)
+	{
+		return std::gcd(A, B);
+	}
+	template <typename T>
+	static constexpr T LeastCommonMultiplier(T A, T B)
+	{
+		return std::lcm(A, B);
+	}
 	template <typename T, typename U>
 	static constexpr T Lerp(const T& A, const T& B, const U& Alpha)
 	{
 		return static_cast<T>(A + Alpha * (B - A));
+	}
+	/** Of rotators, the shorter way round. */
+	template <typename T, typename U>
+	static UE::Math::TRotator<T> Lerp(const UE::Math::TRotator<T>& A, const UE::Math::TRotator<T>& B, const U& Alpha);
+	/** Of quaternions, along the arc. */
+	template <typename T, typename U>
+	static UE::Math::TQuat<T> Lerp(const UE::Math::TQuat<T>& A, const UE::Math::TQuat<T>& B, const U& Alpha);
+	/** Exactly A at 0 and exactly B at 1. */
+	template <typename T, typename U>
+	static constexpr T LerpStable(const T& A, const T& B, const U& Alpha)
+	{
+		return static_cast<T>(A * (U(1) - Alpha) + B * Alpha);
+	}
+	template <typename T, typename U>
+	static constexpr T BiLerp(const T& P00, const T& P10, const T& P01, const T& P11, const U& FracX, const U& FracY)
+	{
+		return Lerp(Lerp(P00, P10, FracX), Lerp(P01, P11, FracX), FracY);
+	}
+	/** Between two values with a tangent at each. */
+	template <typename T, typename U>
+	static constexpr T CubicInterp(const T& P0, const T& T0, const T& P1, const T& T1, const U& A)
+	{
+		const U A2 = A * A;
+		const U A3 = A2 * A;
+		return static_cast<T>(P0 * (2 * A3 - 3 * A2 + 1) + T0 * (A3 - 2 * A2 + A) + T1 * (A3 - A2) + P1 * (3 * A2 - 2 * A3));
+	}
+	/** The eases go from A to B as Alpha goes from 0 to 1; a higher exponent is steeper. */
+	template <typename T>
+	static T InterpEaseIn(const T& A, const T& B, float Alpha, float Exp)
+	{
+		return Lerp(A, B, std::pow(Alpha, Exp));
+	}
+	template <typename T>
+	static T InterpEaseOut(const T& A, const T& B, float Alpha, float Exp)
+	{
+		return Lerp(A, B, 1.0f - std::pow(1.0f - Alpha, Exp));
+	}
+	template <typename T>
+	static T InterpEaseInOut(const T& A, const T& B, float Alpha, float Exp)
+	{
+		return Lerp(A, B, Alpha < 0.5f ? std::pow(Alpha * 2.0f, Exp) * 0.5f : 1.0f - std::pow((1.0f - Alpha) * 2.0f, Exp) * 0.5f);
+	}
+	template <typename T>
+	static T InterpStep(const T& A, const T& B, float Alpha, int32 Steps)
+	{
+		if (Steps <= 1 || Alpha <= 0.0f)
+		{
+			return A;
+		}
+		return Alpha >= 1.0f ? B : Lerp(A, B, std::floor(Alpha * static_cast<float>(Steps)) / static_cast<float>(Steps - 1));
+	}
+	/** 0 up to A, 1 from B on, and a curve without corners between. */
+	template <std::floating_point T>
+	static constexpr T SmoothStep(T A, T B, T X)
+	{
+		if (X < A)
+		{
+			return T(0);
+		}
+		if (X >= B)
+		{
+			return T(1);
+		}
+		const T Fraction = (X - A) / (B - A);
+		return Fraction * Fraction * (T(3) - T(2) * Fraction);
+	}
+	/** The value moved by whole widths of the range into it. */
+	template <typename T>
+	static constexpr T Wrap(T X, T MinValue, T MaxValue)
+	{
+		const T Width = MaxValue - MinValue;
+		if (Width == T(0))
+		{
+			return MaxValue;
+		}
+		while (X < MinValue)
+		{
+			X += Width * (T(1) + static_cast<T>(static_cast<int64>((MinValue - X) / Width / 2)));
+		}
+		while (X > MaxValue)
+		{
+			X -= Width * (T(1) + static_cast<T>(static_cast<int64>((X - MaxValue) / Width / 2)));
+		}
+		return X;
+	}
+	template <typename T, typename U>
+	static constexpr T FloatSelect(const T& Comparand, const U& ValueGEZero, const U& ValueLTZero)
+	{
+		return Comparand >= T(0) ? ValueGEZero : ValueLTZero;
 	}
 	template <typename T>
 	static constexpr bool IsWithin(const T& Value, const T& MinValue, const T& MaxValue)
@@ -146,10 +253,11 @@ struct CORE_API FMath
 	{
 		return std::acos(Clamp(Value, T(-1), T(1)));
 	}
+	/** A negative zero counts as zero, so that no angle prints as "-0.000000" and none of half a turn is negative. */
 	template <typename A, typename B>
 	static auto Atan2(A Y, B X)
 	{
-		return std::atan2(Y, X);
+		return std::atan2(Y + A(0), X + B(0));
 	}
 	template <typename A, typename B>
 	static auto Pow(A Base, B Exponent)
@@ -165,6 +273,43 @@ struct CORE_API FMath
 	static auto Fmod(A X, B Y)
 	{
 		return Y == B(0) ? decltype(std::fmod(X, Y))(0) : std::fmod(X, Y);
+	}
+	/** What is behind the point, with the sign of the value. */
+	template <std::floating_point T>
+	static T Fractional(T Value)
+	{
+		return Value - std::trunc(Value);
+	}
+	template <std::floating_point T>
+	static T Modf(T Value, T* OutIntPart)
+	{
+		return std::modf(Value, OutIntPart);
+	}
+	/** Halves go to the even neighbour. */
+	template <std::floating_point T>
+	static T RoundHalfToEven(T Value)
+	{
+		return Value - std::remainder(Value, T(1));
+	}
+	template <std::floating_point T>
+	static T RoundHalfFromZero(T Value)
+	{
+		return std::round(Value);
+	}
+	template <std::floating_point T>
+	static T RoundHalfToZero(T Value)
+	{
+		return Value < T(0) ? std::floor(Value + T(0.5)) : std::ceil(Value - T(0.5));
+	}
+	template <std::floating_point T>
+	static T RoundFromZero(T Value)
+	{
+		return Value < T(0) ? std::floor(Value) : std::ceil(Value);
+	}
+	template <std::floating_point T>
+	static T RoundToZero(T Value)
+	{
+		return std::trunc(Value);
 	}
 	template <std::floating_point T>
 	static T InvSqrt(T Value)
@@ -222,7 +367,7 @@ struct CORE_API FMath
 	{
 		return Degrees * (T(UE_DOUBLE_PI) / T(180));
 	}
-	/** The angle in degrees brought into (-180, 180]. */
+	/** The angle in degrees brought into [-180, 180]. */
 	template <std::floating_point T>
 	static T UnwindDegrees(T Degrees)
 	{
@@ -231,7 +376,7 @@ struct CORE_API FMath
 		{
 			Result -= T(360);
 		}
-		else if (Result <= T(-180))
+		else if (Result < T(-180))
 		{
 			Result += T(360);
 		}
@@ -247,8 +392,41 @@ struct CORE_API FMath
 	{
 		return Grid == T(0) ? Location : std::floor((Location + Grid / T(2)) / Grid) * Grid;
 	}
+	template <std::floating_point T>
+	static T UnwindRadians(T Radians)
+	{
+		return std::remainder(Radians, T(2) * T(UE_DOUBLE_PI));
+	}
+	template <std::floating_point T>
+	static T FindDeltaAngleRadians(T From, T To)
+	{
+		return UnwindRadians(To - From);
+	}
+	/** The angle in degrees, or the nearer of the limits between which it is not; the range goes up from the least to the largest. */
+	static double ClampAngle(double AngleDegrees, double MinAngleDegrees, double MaxAngleDegrees);
+
+	/** Where Value stands in the range: 0 at its start, 1 at its end. */
+	static double GetRangePct(double MinValue, double MaxValue, double Value);
+	static double GetRangePct(const FVector2D& Range, double Value);
+	static double GetRangeValue(const FVector2D& Range, double Pct);
 	static double GetMappedRangeValueClamped(const FVector2D& InputRange, const FVector2D& OutputRange, double Value);
+	static double GetMappedRangeValueUnclamped(const FVector2D& InputRange, const FVector2D& OutputRange, double Value);
+
+	/** Steps of a tick towards a target: by a part of the distance, or at a constant speed. A speed of 0 or less arrives at once. */
 	static double FInterpTo(double Current, double Target, double DeltaTime, double InterpSpeed);
+	static double FInterpConstantTo(double Current, double Target, double DeltaTime, double InterpSpeed);
+	static FVector VInterpTo(const FVector& Current, const FVector& Target, double DeltaTime, double InterpSpeed);
+	static FVector VInterpConstantTo(const FVector& Current, const FVector& Target, double DeltaTime, double InterpSpeed);
+	static FVector2D Vector2DInterpTo(const FVector2D& Current, const FVector2D& Target, double DeltaTime, double InterpSpeed);
+	static FRotator RInterpTo(const FRotator& Current, const FRotator& Target, double DeltaTime, double InterpSpeed);
+	static FRotator RInterpConstantTo(const FRotator& Current, const FRotator& Target, double DeltaTime, double InterpSpeed);
+
+	/** The point of a segment that is nearest to another point, and the distances to a segment and to an endless line. */
+	static FVector ClosestPointOnSegment(const FVector& Point, const FVector& StartPoint, const FVector& EndPoint);
+	static double PointDistToSegment(const FVector& Point, const FVector& StartPoint, const FVector& EndPoint);
+	static double PointDistToLine(const FVector& Point, const FVector& Direction, const FVector& Origin);
+	/** Where the line through both points meets the plane; the line must not be parallel to it. */
+	static FVector LinePlaneIntersection(const FVector& Point1, const FVector& Point2, const FVector& PlaneOrigin, const FVector& PlaneNormal);
 
 	static uint32 FloorLog2(uint32 Value) { return Value == 0 ? 0 : 31 - std::countl_zero(Value); }
 	static uint64 FloorLog2_64(uint64 Value) { return Value == 0 ? 0 : 63 - std::countl_zero(Value); }
@@ -276,6 +454,11 @@ struct CORE_API FMath
 	static double FRandRange(double Min, double Max);
 	static double RandRange(double Min, double Max) { return FRandRange(Min, Max); }
 	static float RandRange(float Min, float Max) { return static_cast<float>(FRandRange(Min, Max)); }
+	/** A direction, all of them as likely. */
+	static FVector VRand();
+	/** A direction that is at most that far (in radians) from another. */
+	static FVector VRandCone(const FVector& Direction, double ConeHalfAngleRadians);
+	static FVector RandPointInBox(const FBox& Box);
 
 private:
 	template <std::floating_point T>

@@ -117,9 +117,15 @@ struct TVector
 	{
 		return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance && FMath::Abs(Z - V.Z) <= Tolerance;
 	}
-	bool AllComponentsEqual(T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const { return FMath::Abs(X - Y) <= Tolerance && FMath::Abs(X - Z) <= Tolerance && FMath::Abs(Y - Z) <= Tolerance; }
+	bool AllComponentsEqual(T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const
+	{
+		return FMath::Abs(X - Y) <= Tolerance && FMath::Abs(X - Z) <= Tolerance && FMath::Abs(Y - Z) <= Tolerance;
+	}
 	bool IsZero() const { return X == 0 && Y == 0 && Z == 0; }
-	bool IsNearlyZero(T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const { return FMath::Max3(FMath::Abs(X), FMath::Abs(Y), FMath::Abs(Z)) <= Tolerance; }
+	bool IsNearlyZero(T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const
+	{
+		return FMath::Max3(FMath::Abs(X), FMath::Abs(Y), FMath::Abs(Z)) <= Tolerance;
+	}
 	bool ContainsNaN() const { return !FMath::IsFinite(X) || !FMath::IsFinite(Y) || !FMath::IsFinite(Z); }
 	void Set(T InX, T InY, T InZ) { *this = TVector(InX, InY, InZ); }
 	T GetMax() const { return FMath::Max3(X, Y, Z); }
@@ -158,7 +164,74 @@ struct TVector
 		return Result.Normalize(Tolerance) ? Result : ResultIfZero;
 	}
 	TVector GetSafeNormal2D() const { return TVector(X, Y, 0).GetSafeNormal(); }
+	/** A zero vector gives the zero direction and no length. */
+	void ToDirectionAndLength(TVector& OutDirection, T& OutLength) const
+	{
+		OutLength = Size();
+		OutDirection = OutLength > static_cast<T>(UE_DOUBLE_SMALL_NUMBER) ? *this / OutLength : TVector(0);
+	}
+	TVector GetClampedToMaxSize(T MaxSize) const { return GetClampedToSize(0, MaxSize); }
+	TVector GetClampedToSize(T MinSize, T MaxSize) const
+	{
+		TVector Direction;
+		T Length;
+		ToDirectionAndLength(Direction, Length);
+		return Direction * FMath::Clamp(Length, MinSize, MaxSize);
+	}
+	TVector GetSignVector() const { return TVector(X >= 0 ? T(1) : T(-1), Y >= 0 ? T(1) : T(-1), Z >= 0 ? T(1) : T(-1)); }
+	/** One through each component; 0 gives the largest number that there is room for. */
+	TVector Reciprocal() const
+	{
+		const auto Inverse = [](T Value)
+		{ return Value != 0 ? T(1) / Value : static_cast<T>(UE_BIG_NUMBER); };
+		return TVector(Inverse(X), Inverse(Y), Inverse(Z));
+	}
+	T GetAbsMin() const { return GetAbs().GetMin(); }
+	bool IsUniform(T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const { return AllComponentsEqual(Tolerance); }
+	TVector GridSnap(T Grid) const { return TVector(FMath::GridSnap(X, Grid), FMath::GridSnap(Y, Grid), FMath::GridSnap(Z, Grid)); }
+	TVector BoundToCube(T Radius) const { return BoundToBox(TVector(-Radius), TVector(Radius)); }
+	TVector BoundToBox(const TVector& Min, const TVector& Max) const { return ComponentMax(Min).ComponentMin(Max); }
+	/** The angle in radians about Z, from forward to right. */
+	T HeadingAngle() const { return FMath::Atan2(Y, X); }
+	/** Turned about an axis of length 1. */
+	TVector RotateAngleAxisRad(T AngleRadians, const TVector& Axis) const
+	{
+		const T Cosine = FMath::Cos(AngleRadians);
+		return *this * Cosine + (Axis ^ *this) * FMath::Sin(AngleRadians) + Axis * ((Axis | *this) * (T(1) - Cosine));
+	}
+	TVector RotateAngleAxis(T AngleDegrees, const TVector& Axis) const
+	{
+		return RotateAngleAxisRad(FMath::DegreesToRadians(AngleDegrees), Axis);
+	}
+	/** As a mirror with that normal throws it back. */
+	TVector MirrorByVector(const TVector& Normal) const { return *this - Normal * (T(2) * (*this | Normal)); }
 	TVector ProjectOnTo(const TVector& A) const { return A * ((*this | A) / (A | A)); }
+	TVector ProjectOnToNormal(const TVector& Normal) const { return Normal * (*this | Normal); }
+	/** What is left without the part along the normal. */
+	static TVector VectorPlaneProject(const TVector& V, const TVector& Normal) { return V - V.ProjectOnToNormal(Normal); }
+	/** Signed, positive on the side of the normal. */
+	static T PointPlaneDist(const TVector& Point, const TVector& Base, const TVector& Normal) { return (Point - Base) | Normal; }
+	static TVector PointPlaneProject(const TVector& Point, const TVector& Base, const TVector& Normal)
+	{
+		return Point - Normal * PointPlaneDist(Point, Base, Normal);
+	}
+	static T DistSquared2D(const TVector& A, const TVector& B) { return (A - B).SizeSquared2D(); }
+	static T DistXY(const TVector& A, const TVector& B) { return (A - B).Size2D(); }
+	static TVector Max(const TVector& A, const TVector& B) { return A.ComponentMax(B); }
+	static TVector Min(const TVector& A, const TVector& B) { return A.ComponentMin(B); }
+	/** Of two directions of length 1: whether they are the same line, the same direction, or at a right angle. */
+	static bool Parallel(const TVector& A, const TVector& B, T CosineThreshold = static_cast<T>(THRESH_NORMALS_ARE_PARALLEL))
+	{
+		return FMath::Abs(A | B) >= CosineThreshold;
+	}
+	static bool Coincident(const TVector& A, const TVector& B, T CosineThreshold = static_cast<T>(THRESH_NORMALS_ARE_PARALLEL))
+	{
+		return (A | B) >= CosineThreshold;
+	}
+	static bool Orthogonal(const TVector& A, const TVector& B, T CosineThreshold = static_cast<T>(THRESH_NORMALS_ARE_ORTHOGONAL))
+	{
+		return FMath::Abs(A | B) <= CosineThreshold;
+	}
 	/** The rotation that turns forward to this direction, without roll. */
 	TRotator<T> ToOrientationRotator() const;
 	TRotator<T> Rotation() const { return ToOrientationRotator(); }
@@ -181,7 +254,10 @@ struct TVector
 		return true;
 	}
 	friend FArchive& operator<<(FArchive& Ar, TVector& V) { return Private::SerializeReals(Ar, V.X, V.Y, V.Z); }
-	friend uint32 GetTypeHash(const TVector& V) { return HashCombineFast(HashCombineFast(::GetTypeHash(V.X), ::GetTypeHash(V.Y)), ::GetTypeHash(V.Z)); }
+	friend uint32 GetTypeHash(const TVector& V)
+	{
+		return HashCombineFast(HashCombineFast(::GetTypeHash(V.X), ::GetTypeHash(V.Y)), ::GetTypeHash(V.Z));
+	}
 };
 
 template <typename T>

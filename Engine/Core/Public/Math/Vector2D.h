@@ -72,9 +72,15 @@ struct TVector2
 	static constexpr T DotProduct(const TVector2& A, const TVector2& B) { return A | B; }
 	static constexpr T CrossProduct(const TVector2& A, const TVector2& B) { return A ^ B; }
 
-	bool Equals(const TVector2& V, T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const { return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance; }
+	bool Equals(const TVector2& V, T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const
+	{
+		return FMath::Abs(X - V.X) <= Tolerance && FMath::Abs(Y - V.Y) <= Tolerance;
+	}
 	bool IsZero() const { return X == 0 && Y == 0; }
-	bool IsNearlyZero(T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const { return FMath::Abs(X) <= Tolerance && FMath::Abs(Y) <= Tolerance; }
+	bool IsNearlyZero(T Tolerance = static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER)) const
+	{
+		return FMath::Abs(X) <= Tolerance && FMath::Abs(Y) <= Tolerance;
+	}
 	bool ContainsNaN() const { return !FMath::IsFinite(X) || !FMath::IsFinite(Y); }
 	void Set(T InX, T InY) { *this = TVector2(InX, InY); }
 	T Size() const { return FMath::Sqrt(SizeSquared()); }
@@ -89,6 +95,41 @@ struct TVector2
 		const T Squared = SizeSquared();
 		return Squared > Tolerance ? *this * FMath::InvSqrt(Squared) : TVector2(0);
 	}
+	bool Normalize(T Tolerance = static_cast<T>(UE_DOUBLE_SMALL_NUMBER))
+	{
+		const T Squared = SizeSquared();
+		*this = Squared > Tolerance ? *this * FMath::InvSqrt(Squared) : TVector2(0);
+		return Squared > Tolerance;
+	}
+	void ToDirectionAndLength(TVector2& OutDirection, T& OutLength) const
+	{
+		OutLength = Size();
+		OutDirection = OutLength > static_cast<T>(UE_DOUBLE_SMALL_NUMBER) ? *this / OutLength : TVector2(0);
+	}
+	/** Turned from X towards Y. */
+	TVector2 GetRotated(T AngleDegrees) const
+	{
+		T Sine;
+		T Cosine;
+		FMath::SinCos(&Sine, &Cosine, FMath::DegreesToRadians(AngleDegrees));
+		return TVector2(Cosine * X - Sine * Y, Sine * X + Cosine * Y);
+	}
+	TVector2 GetAbs() const { return TVector2(FMath::Abs(X), FMath::Abs(Y)); }
+	T GetAbsMax() const { return GetAbs().GetMax(); }
+	TVector2 GetSignVector() const { return TVector2(X >= 0 ? T(1) : T(-1), Y >= 0 ? T(1) : T(-1)); }
+	TVector2 RoundToVector() const { return TVector2(FMath::RoundToInt(X), FMath::RoundToInt(Y)); }
+	TVector2 ClampAxes(T MinAxisVal, T MaxAxisVal) const
+	{
+		return TVector2(FMath::Clamp(X, MinAxisVal, MaxAxisVal), FMath::Clamp(Y, MinAxisVal, MaxAxisVal));
+	}
+	T& operator[](int32 Index)
+	{
+		check(Index >= 0 && Index < 2);
+		return Index == 0 ? X : Y;
+	}
+	T operator[](int32 Index) const { return const_cast<TVector2&>(*this)[Index]; }
+	static TVector2 Max(const TVector2& A, const TVector2& B) { return TVector2(FMath::Max(A.X, B.X), FMath::Max(A.Y, B.Y)); }
+	static TVector2 Min(const TVector2& A, const TVector2& B) { return TVector2(FMath::Min(A.X, B.X), FMath::Min(A.Y, B.Y)); }
 	FIntPoint IntPoint() const { return FIntPoint(FMath::RoundToInt(X), FMath::RoundToInt(Y)); }
 
 	FString ToString() const { return FString::Printf(TEXT("X=%3.3f Y=%3.3f"), X, Y); }
