@@ -192,7 +192,8 @@ bool FText::IdenticalTo(const FText& Other, ETextIdenticalModeFlags CompareFlags
 	switch (Mine.Type)
 	{
 		case ETextHistoryType::Base:
-			return !Mine.Key.IsEmpty() && Mine.Key.Equals(Theirs.Key) && Mine.Namespace.Equals(Theirs.Namespace) && Mine.Display.Equals(Theirs.Display);
+			return !Mine.Key.IsEmpty() && Mine.Key.Equals(Theirs.Key) && Mine.Namespace.Equals(Theirs.Namespace) &&
+				Mine.Display.Equals(Theirs.Display);
 		case ETextHistoryType::StringTableEntry:
 			return Mine.TableId == Theirs.TableId && Mine.Key.Equals(Theirs.Key);
 		default:

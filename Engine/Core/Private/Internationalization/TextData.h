@@ -43,6 +43,8 @@ struct FTextData
 
 FText MakeBaseText(const FString& Namespace, const FString& Key, FString Source, uint32 Flags = 0);
 
+const TCHAR* GetGenderName(ETextGender Gender);
+
 /** The pattern with its arguments in place. Arguments are looked up by name first, then by number. */
 FString FormatPattern(const FString& Pattern, const FFormatNamedArguments& Named, const FFormatOrderedArguments& Ordered);
 }

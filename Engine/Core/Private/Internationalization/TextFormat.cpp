@@ -1,7 +1,5 @@
 #include "Internationalization/TextData.h"
 
-#include "Misc/StringBuilder.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -9,22 +7,6 @@ using UE::Core::Private::FTextData;
 
 namespace
 {
-/** In characters. Formats that repeat formats multiply their lengths, so a few lines of a file could ask for more than there is memory. */
-constexpr int32 MaxFormattedLen = 1 << 20;
-
-const FFormatArgumentValue* FindArgument(FStringView Name, const FFormatNamedArguments& Named, const FFormatOrderedArguments& Ordered)
-{
-	const FString NameString(Name);
-	if (const FFormatArgumentValue* const Value = Named.Find(NameString))
-	{
-		return Value;
-	}
-	const bool bIsIndex = !Name.IsEmpty() && Name.Len() < 6 && std::all_of(Name.begin(), Name.end(), [](TCHAR Char)
-																   { return FChar::IsDigit(Char); });
-	const int32 Index = bIsIndex ? FCString::Atoi(*NameString) : INDEX_NONE;
-	return Index >= 0 && Index < Ordered.Num() ? &Ordered[Index] : nullptr;
-}
-
 void GroupDigits(FString& Number, int32 NumSigns, int32 NumIntegral)
 {
 	for (int32 Index = NumSigns + NumIntegral - 3; Index > NumSigns; Index -= 3)
@@ -75,45 +57,6 @@ FText MakeFormatted(ETextHistoryType Type, FText Pattern, ArgumentsType&& Argume
 	Data->Display = UE::Core::Private::FormatPattern(Data->Pattern.ToString(), Data->Named, Data->Ordered);
 	return UE::Core::Private::MakeTextOfData(std::move(Data), 0);
 }
-}
-
-FString UE::Core::Private::FormatPattern(const FString& Pattern, const FFormatNamedArguments& Named, const FFormatOrderedArguments& Ordered)
-{
-	TStringBuilder<512> Result;
-	FStringView Rest(Pattern);
-	// Known beforehand, so that a text of opening braces alone is not searched anew for each of them.
-	int32 LastBrace;
-	Rest.FindLastChar('}', LastBrace);
-	const TCHAR* const LastEnd = Rest.GetData() + LastBrace;
-	while (!Rest.IsEmpty())
-	{
-		const TCHAR Char = Rest[0];
-		if (Char == '`' && Rest.Len() > 1 && (Rest[1] == '{' || Rest[1] == '}' || Rest[1] == '`'))
-		{
-			Result.AppendChar(Rest[1]);
-			Rest.RemovePrefix(2);
-			continue;
-		}
-		int32 End;
-		if (Char == '{' && Rest.GetData() < LastEnd && Rest.FindChar('}', End))
-		{
-			const FFormatArgumentValue* const Value = FindArgument(Rest.Mid(1, End - 1).TrimStartAndEnd(), Named, Ordered);
-			const FString Replacement = Value != nullptr ? Value->ToFormattedString() : FString();
-			if (Value != nullptr && Replacement.Len() <= MaxFormattedLen - Result.Len())
-			{
-				Result.Append(Replacement);
-			}
-			else
-			{
-				Result.Append(Rest.Left(End + 1));
-			}
-			Rest.RemovePrefix(End + 1);
-			continue;
-		}
-		Result.AppendChar(Char);
-		Rest.RemovePrefix(1);
-	}
-	return FString(Result.ToView());
 }
 
 const FNumberFormattingOptions& FNumberFormattingOptions::DefaultWithGrouping()
@@ -194,6 +137,13 @@ FText FText::Format(FText Fmt, FFormatOrderedArguments&& InArguments)
 	return MakeFormatted(ETextHistoryType::OrderedFormat, MoveTemp(Fmt), MoveTemp(InArguments), &FTextData::Ordered);
 }
 
+const TCHAR* UE::Core::Private::GetGenderName(ETextGender Gender)
+{
+	constexpr const TCHAR* Names[] = {TEXT("Masculine"), TEXT("Feminine"), TEXT("Neuter")};
+	const uint8 Index = static_cast<uint8>(Gender);
+	return Names[Index < UE_ARRAY_COUNT(Names) ? Index : UE_ARRAY_COUNT(Names) - 1];
+}
+
 FFormatArgumentValue::FFormatArgumentValue() = default;
 
 FFormatArgumentValue::FFormatArgumentValue(int32 Value)
@@ -236,6 +186,12 @@ FFormatArgumentValue::FFormatArgumentValue(FText Value)
 {
 }
 
+FFormatArgumentValue::FFormatArgumentValue(ETextGender Value)
+	: Type(EFormatArgumentType::Gender)
+	, IntValue(static_cast<int64>(Value))
+{
+}
+
 FString FFormatArgumentValue::ToFormattedString() const
 {
 	switch (Type)
@@ -254,6 +210,19 @@ FString FFormatArgumentValue::ToFormattedString() const
 	}
 }
 
+double FFormatArgumentValue::GetNumber() const
+{
+	switch (Type)
+	{
+		case EFormatArgumentType::Int:
+			return static_cast<double>(IntValue);
+		case EFormatArgumentType::UInt:
+			return static_cast<double>(GetUIntValue());
+		default:
+			return DoubleValue;
+	}
+}
+
 FString FFormatArgumentValue::ToExportedString() const
 {
 	switch (Type)
@@ -266,6 +235,8 @@ FString FFormatArgumentValue::ToExportedString() const
 			return LexToSanitizedString(DoubleValue) + TEXT("f");
 		case EFormatArgumentType::Double:
 			return LexToSanitizedString(DoubleValue);
+		case EFormatArgumentType::Gender:
+			return FString(TEXT("ETextGender::")) + UE::Core::Private::GetGenderName(GetGenderValue());
 		case EFormatArgumentType::Text:
 		{
 			FString Result;
@@ -279,5 +250,6 @@ FString FFormatArgumentValue::ToExportedString() const
 
 bool FFormatArgumentValue::IdenticalTo(const FFormatArgumentValue& Other, ETextIdenticalModeFlags Flags) const
 {
-	return Type == Other.Type && IntValue == Other.IntValue && DoubleValue == Other.DoubleValue && TextValue.IdenticalTo(Other.TextValue, Flags);
+	return Type == Other.Type && IntValue == Other.IntValue && DoubleValue == Other.DoubleValue &&
+		TextValue.IdenticalTo(Other.TextValue, Flags);
 }

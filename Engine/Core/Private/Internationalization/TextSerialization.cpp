@@ -159,6 +159,13 @@ FArchive& operator<<(FArchive& Ar, FFormatArgumentValue& Value)
 		case EFormatArgumentType::UInt:
 			Ar << Value.IntValue;
 			break;
+		case EFormatArgumentType::Gender:
+		{
+			uint8 Gender = static_cast<uint8>(Value.IntValue);
+			Ar << Gender;
+			Value.IntValue = Gender;
+			break;
+		}
 		case EFormatArgumentType::Float:
 		{
 			float Single = static_cast<float>(Value.DoubleValue);

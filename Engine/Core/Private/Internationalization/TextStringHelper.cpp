@@ -24,7 +24,8 @@ public:
 	bool ReadMacro(FText& OutText, int32 Depth)
 	{
 		const TCHAR* const Begin = At;
-		const bool bRead = ReadLocalized(OutText) || ReadTable(OutText) || ReadInvariant(OutText) || (Depth < MaxDepth && ReadFormat(OutText, Depth));
+		const bool bRead = ReadLocalized(OutText) || ReadTable(OutText) || ReadInvariant(OutText) ||
+			(Depth < MaxDepth && ReadFormat(OutText, Depth));
 		At = bRead ? At : Begin;
 		return bRead;
 	}
@@ -63,7 +64,8 @@ private:
 	bool Word(FStringView Wanted)
 	{
 		SkipBlanks();
-		const bool bFound = FCString::Strncmp(At, Wanted.GetData(), static_cast<SIZE_T>(Wanted.Len())) == 0 && !FChar::IsIdentifier(At[Wanted.Len()]);
+		const bool bFound = FCString::Strncmp(At, Wanted.GetData(), static_cast<SIZE_T>(Wanted.Len())) == 0 &&
+			!FChar::IsIdentifier(At[Wanted.Len()]);
 		At += bFound ? Wanted.Len() : 0;
 		return bFound;
 	}
@@ -183,9 +185,30 @@ private:
 		return true;
 	}
 
+	bool ReadGender(FFormatArgumentValue& OutValue)
+	{
+		if (!Word(TEXTVIEW("ETextGender")) || !Char(':') || !Char(':'))
+		{
+			return false;
+		}
+		for (const ETextGender Gender : {ETextGender::Masculine, ETextGender::Feminine, ETextGender::Neuter})
+		{
+			if (Word(UE::Core::Private::GetGenderName(Gender)))
+			{
+				OutValue = FFormatArgumentValue(Gender);
+				return true;
+			}
+		}
+		return false;
+	}
+
 	bool ReadArgument(FFormatArgumentValue& OutValue, int32 Depth)
 	{
 		SkipBlanks();
+		if (*At == 'E')
+		{
+			return ReadGender(OutValue);
+		}
 		if (!FChar::IsDigit(*At) && *At != '-' && *At != '+')
 		{
 			FText Text;
@@ -289,7 +312,8 @@ const TCHAR* FTextStringHelper::ReadFromBuffer(
 	return Reader.GetPosition();
 }
 
-FText FTextStringHelper::CreateFromBuffer(const TCHAR* Buffer, const TCHAR* TextNamespace, const TCHAR* PackageNamespace, bool bRequiresQuotes)
+FText FTextStringHelper::CreateFromBuffer(
+	const TCHAR* Buffer, const TCHAR* TextNamespace, const TCHAR* PackageNamespace, bool bRequiresQuotes)
 {
 	FText Result;
 	if (ReadFromBuffer(Buffer, Result, TextNamespace, PackageNamespace, bRequiresQuotes) == nullptr)
@@ -347,7 +371,8 @@ void FTextStringHelper::WriteToBuffer(FString& Buffer, const FText& Value, bool 
 
 bool FTextStringHelper::IsComplexText(const TCHAR* Buffer)
 {
-	for (const FStringView Macro : {TEXTVIEW("NSLOCTEXT("), TEXTVIEW("LOCTEXT("), TEXTVIEW("LOCTABLE("), TEXTVIEW("INVTEXT("), TEXTVIEW("LOCGEN_")})
+	for (const FStringView Macro :
+		{TEXTVIEW("NSLOCTEXT("), TEXTVIEW("LOCTEXT("), TEXTVIEW("LOCTABLE("), TEXTVIEW("INVTEXT("), TEXTVIEW("LOCGEN_")})
 	{
 		if (FCString::Strncmp(Buffer, Macro.GetData(), static_cast<SIZE_T>(Macro.Len())) == 0)
 		{

@@ -18,6 +18,7 @@ class FText;
 class FTextStringHelper;
 class FFormatArgumentValue;
 struct FDateTime;
+struct FTimespan;
 
 namespace UE::Core::Private
 {
@@ -71,6 +72,39 @@ enum class ETextIdenticalModeFlags : uint8
 	LexicalCompareInvariants = 1 << 1
 };
 ENUM_CLASS_FLAGS(ETextIdenticalModeFlags);
+
+/** For the `gender` forms of a format: `{Who}|gender(masculine,feminine,neuter)`. */
+enum class ETextGender : uint8
+{
+	Masculine,
+	Feminine,
+	Neuter
+};
+
+namespace EDateTimeStyle
+{
+enum Type : int32
+{
+	/** As Medium. */
+	Default,
+	/** "2/29/24", "1:05 PM" */
+	Short,
+	/** "Feb 29, 2024", "1:05:09 PM" */
+	Medium,
+	/** "February 29, 2024", "1:05:09 PM GMT" */
+	Long,
+	/** "Thursday, February 29, 2024", "1:05:09 PM GMT" */
+	Full
+};
+}
+
+enum class EMemoryUnitStandard : uint8
+{
+	/** Steps of 1024: KiB, MiB. */
+	IEC,
+	/** Steps of 1000: kB, MB. */
+	SI
+};
 
 /** How FText::AsNumber and its kin write a number. */
 struct CORE_API FNumberFormattingOptions
@@ -151,7 +185,10 @@ public:
 	[[nodiscard]] static FText AsNumber(int32 Value, const FNumberFormattingOptions* Options = nullptr);
 	[[nodiscard]] static FText AsNumber(uint32 Value, const FNumberFormattingOptions* Options = nullptr);
 	[[nodiscard]] static FText AsNumber(int64 Value, const FNumberFormattingOptions* Options = nullptr);
-	[[nodiscard]] static FText AsNumber(long Value, const FNumberFormattingOptions* Options = nullptr) { return AsNumber(static_cast<int64>(Value), Options); }
+	[[nodiscard]] static FText AsNumber(long Value, const FNumberFormattingOptions* Options = nullptr)
+	{
+		return AsNumber(static_cast<int64>(Value), Options);
+	}
 	[[nodiscard]] static FText AsNumber(uint64 Value, const FNumberFormattingOptions* Options = nullptr);
 	[[nodiscard]] static FText AsNumber(unsigned long Value, const FNumberFormattingOptions* Options = nullptr)
 	{
@@ -162,7 +199,22 @@ public:
 	/** 0.25 gives "25%". */
 	[[nodiscard]] static FText AsPercent(double Value, const FNumberFormattingOptions* Options = nullptr);
 
-	/** Replaces `{Name}`; a backquote escapes. A name without an argument stays as it is. The result remembers its parts. */
+	/** A date or a time as English writes it, as it is: this host converts no time zones. */
+	[[nodiscard]] static FText AsDate(const FDateTime& DateTime, EDateTimeStyle::Type DateStyle = EDateTimeStyle::Default);
+	[[nodiscard]] static FText AsTime(const FDateTime& DateTime, EDateTimeStyle::Type TimeStyle = EDateTimeStyle::Default);
+	[[nodiscard]] static FText AsDateTime(const FDateTime& DateTime, EDateTimeStyle::Type DateStyle = EDateTimeStyle::Default,
+		EDateTimeStyle::Type TimeStyle = EDateTimeStyle::Default);
+	/** "25:03:09" */
+	[[nodiscard]] static FText AsTimespan(const FTimespan& Timespan);
+	/** "1.5 KiB" */
+	[[nodiscard]] static FText AsMemory(uint64 NumBytes, const FNumberFormattingOptions* Options = nullptr,
+		EMemoryUnitStandard UnitStandard = EMemoryUnitStandard::IEC);
+
+	/**
+	 * Replaces `{Name}`; a backquote escapes. A name without an argument stays as it is. The result remembers its parts. Behind an argument,
+	 * `|plural(one=...,other=...)` and `|ordinal(one=st,two=nd,few=rd,other=th)` choose by its number, as English does, and
+	 * `|gender(masculine,feminine,neuter)` by its gender. A choice is a pattern itself, in quotes where it has a comma or a bracket.
+	 */
 	[[nodiscard]] static FText Format(FText Fmt, const FFormatNamedArguments& InArguments);
 	[[nodiscard]] static FText Format(FText Fmt, FFormatNamedArguments&& InArguments);
 	[[nodiscard]] static FText Format(FText Fmt, const FFormatOrderedArguments& InArguments);
@@ -175,6 +227,8 @@ public:
 	[[nodiscard]] static FText FormatNamed(FText Fmt, ArgumentTypes&&... Arguments);
 	template <typename... ArgumentTypes>
 	[[nodiscard]] static FText FormatOrdered(FText Fmt, ArgumentTypes&&... Arguments);
+	/** The names between the braces of a pattern, each once, in their order. */
+	static void GetFormatPatternParameters(const FText& Fmt, TArray<FString>& ParameterNames);
 	[[nodiscard]] static FText Join(const FText& Delimiter, const TArray<FText>& Texts);
 	template <typename... ArgumentTypes>
 	requires((std::same_as<std::remove_cvref_t<ArgumentTypes>, FText> && ...))
@@ -198,7 +252,10 @@ public:
 
 	[[nodiscard]] int32 CompareTo(const FText& Other, ETextComparisonLevel Level = ETextComparisonLevel::Default) const;
 	[[nodiscard]] int32 CompareToCaseIgnored(const FText& Other) const;
-	[[nodiscard]] bool EqualTo(const FText& Other, ETextComparisonLevel Level = ETextComparisonLevel::Default) const { return CompareTo(Other, Level) == 0; }
+	[[nodiscard]] bool EqualTo(const FText& Other, ETextComparisonLevel Level = ETextComparisonLevel::Default) const
+	{
+		return CompareTo(Other, Level) == 0;
+	}
 	[[nodiscard]] bool EqualToCaseIgnored(const FText& Other) const { return CompareToCaseIgnored(Other) == 0; }
 	/** True when both are the same text: the same data or the same identity. */
 	[[nodiscard]] bool IdenticalTo(const FText& Other, ETextIdenticalModeFlags Flags = ETextIdenticalModeFlags::None) const;
@@ -253,6 +310,7 @@ public:
 	FFormatArgumentValue(float Value);
 	FFormatArgumentValue(double Value);
 	FFormatArgumentValue(FText Value);
+	FFormatArgumentValue(ETextGender Value);
 
 	EFormatArgumentType::Type GetType() const { return Type; }
 	int64 GetIntValue() const { return IntValue; }
@@ -260,6 +318,9 @@ public:
 	float GetFloatValue() const { return static_cast<float>(DoubleValue); }
 	double GetDoubleValue() const { return DoubleValue; }
 	const FText& GetTextValue() const { return TextValue; }
+	ETextGender GetGenderValue() const { return static_cast<ETextGender>(IntValue); }
+	/** The number, whatever its type; 0 for what is none. */
+	double GetNumber() const;
 	/** The value as a format shows it. */
 	FString ToFormattedString() const;
 	/** The value as a text's exported form writes it. */
@@ -340,14 +401,62 @@ public:
 	 * Reads NSLOCTEXT, LOCTEXT, LOCTABLE, INVTEXT, the LOCGEN_FORMAT forms, or (with `bRequiresQuotes` in quotes) a plain string.
 	 * Answers where the text ends, or null where there is none. `TextNamespace`, where given, is that of LOCTEXT.
 	 */
-	static const TCHAR* ReadFromBuffer(const TCHAR* Buffer, FText& OutValue, const TCHAR* TextNamespace = nullptr, const TCHAR* PackageNamespace = nullptr,
-		bool bRequiresQuotes = false);
+	static const TCHAR* ReadFromBuffer(const TCHAR* Buffer, FText& OutValue, const TCHAR* TextNamespace = nullptr,
+		const TCHAR* PackageNamespace = nullptr, bool bRequiresQuotes = false);
 	/** The whole of `Buffer` as a text: one of the forms, else the buffer as a plain string. */
-	static FText CreateFromBuffer(const TCHAR* Buffer, const TCHAR* TextNamespace = nullptr, const TCHAR* PackageNamespace = nullptr, bool bRequiresQuotes = false);
+	static FText CreateFromBuffer(
+		const TCHAR* Buffer, const TCHAR* TextNamespace = nullptr, const TCHAR* PackageNamespace = nullptr, bool bRequiresQuotes = false);
 	/** Appends the text's form. */
 	static void WriteToBuffer(FString& Buffer, const FText& Value, bool bRequiresQuotes = false, bool bStripPackageNamespace = false);
 	/** True when the buffer begins with one of the forms' macros. */
 	static bool IsComplexText(const TCHAR* Buffer);
+};
+
+/** A pattern for FText::Format that is kept, such as by a class. */
+class FTextFormat
+{
+public:
+	FTextFormat() = default;
+	FTextFormat(FText InText)
+		: Text(MoveTemp(InText))
+	{
+	}
+
+	static FTextFormat FromString(FString InString) { return FTextFormat(FText::AsCultureInvariant(MoveTemp(InString))); }
+	const FText& GetSourceText() const { return Text; }
+	const FString& GetSourceString() const { return Text.ToString(); }
+	void GetFormatArgumentNames(TArray<FString>& OutArgumentNames) const { FText::GetFormatPatternParameters(Text, OutArgumentNames); }
+	bool IdenticalTo(const FTextFormat& Other, ETextIdenticalModeFlags Flags) const { return Text.IdenticalTo(Other.Text, Flags); }
+	operator const FText&() const { return Text; }
+
+private:
+	FText Text;
+};
+
+/** A text of lines, of which those inside are indented. */
+class CORE_API FTextBuilder
+{
+public:
+	void Indent() { ++IndentCount; }
+	void Unindent() { --IndentCount; }
+	void AppendLine() { Lines.Add(FText()); }
+	void AppendLine(const FText& Text);
+	void AppendLine(const FString& String) { AppendLine(FText::FromString(String)); }
+	void AppendLine(const FName& Name) { AppendLine(FText::FromName(Name)); }
+	template <typename... ArgumentTypes>
+	void AppendLineFormat(const FTextFormat& Pattern, ArgumentTypes&&... Arguments)
+	{
+		AppendLine(FText::Format(Pattern.GetSourceText(), Forward<ArgumentTypes>(Arguments)...));
+	}
+	void Clear() { Lines.Reset(); }
+	bool IsEmpty() const { return Lines.IsEmpty(); }
+	int32 GetNumLines() const { return Lines.Num(); }
+	/** Four spaces for every indent. */
+	[[nodiscard]] FText ToText() const;
+
+private:
+	TArray<FText> Lines;
+	int32 IndentCount = 0;
 };
 
 #define NSLOCTEXT(InNamespace, InKey, InTextLiteral) \
