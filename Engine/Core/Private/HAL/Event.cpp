@@ -107,3 +107,17 @@ FEventRef::~FEventRef()
 {
 	FPlatformProcess::ReturnSynchEventToPool(Event);
 }
+
+FScopedEvent::FScopedEvent()
+	: Event(FPlatformProcess::GetSynchEventFromPool())
+{
+}
+
+FScopedEvent::~FScopedEvent()
+{
+	if (!bWasReady)
+	{
+		Event->Wait();
+	}
+	FPlatformProcess::ReturnSynchEventToPool(Event);
+}

@@ -300,7 +300,8 @@ public:
 
 private:
 	/** Below a folder, full paths are collected; else the clean names of its entries. */
-	static void Collect(TArray<FString>& OutNames, const TCHAR* Directory, const FString& Wildcard, bool bFiles, bool bDirectories, bool bRecursive)
+	static void Collect(
+		TArray<FString>& OutNames, const TCHAR* Directory, const FString& Wildcard, bool bFiles, bool bDirectories, bool bRecursive)
 	{
 		const auto Visit = [&](const TCHAR* Path, bool bIsDirectory)
 		{

@@ -40,10 +40,9 @@ auto Async(EAsyncExecution Execution, CallableType&& Callable, TUniqueFunction<v
 	using FResult = std::invoke_result_t<std::decay_t<CallableType>&>;
 	TPromise<FResult> Promise(MoveTemp(CompletionCallback));
 	TFuture<FResult> Future = Promise.GetFuture();
-	TUniqueFunction<void()> Work = [Promise = MoveTemp(Promise), Callable = std::decay_t<CallableType>(Forward<CallableType>(Callable))]() mutable
-	{
-		Promise.SetFromCall(Callable);
-	};
+	TUniqueFunction<void()> Work =
+		[Promise = MoveTemp(Promise), Callable = std::decay_t<CallableType>(Forward<CallableType>(Callable))]() mutable
+	{ Promise.SetFromCall(Callable); };
 	switch (Execution)
 	{
 		case EAsyncExecution::TaskGraphMainThread:

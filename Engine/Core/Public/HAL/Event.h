@@ -31,6 +31,26 @@ public:
 	}
 };
 
+/** An event whose end of scope waits for its trigger. */
+class FScopedEvent
+{
+public:
+	CORE_API FScopedEvent();
+	/** Waits. */
+	CORE_API ~FScopedEvent();
+	FScopedEvent(const FScopedEvent&) = delete;
+	FScopedEvent& operator=(const FScopedEvent&) = delete;
+
+	void Trigger() { Event->Trigger(); }
+	FEvent* Get() { return Event; }
+	/** Whether it was triggered already. */
+	bool IsReady() { return bWasReady || (bWasReady = Event->Wait(0)); }
+
+private:
+	FEvent* Event;
+	bool bWasReady = false;
+};
+
 /** An event for the life of a variable. */
 class FEventRef final
 {

@@ -61,8 +61,8 @@ public:
 	/** Clean names in a folder, by extension ("uasset", ".uasset" or "*.uasset"; null for all). */
 	virtual void FindFiles(TArray<FString>& FoundFiles, const TCHAR* Directory, const TCHAR* FileExtension = nullptr) = 0;
 	/** Full paths below a folder whose clean name fits the wildcard. */
-	virtual void FindFilesRecursive(TArray<FString>& FileNames, const TCHAR* StartDirectory, const TCHAR* Filename, bool bFiles, bool bDirectories,
-		bool bClearFileNames = true) = 0;
+	virtual void FindFilesRecursive(TArray<FString>& FileNames, const TCHAR* StartDirectory, const TCHAR* Filename, bool bFiles,
+		bool bDirectories, bool bClearFileNames = true) = 0;
 	virtual bool IterateDirectory(const TCHAR* Directory, IPlatformFile::FDirectoryVisitorFunc Visitor) = 0;
 	virtual bool IterateDirectoryRecursively(const TCHAR* Directory, IPlatformFile::FDirectoryVisitorFunc Visitor) = 0;
 
