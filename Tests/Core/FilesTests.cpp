@@ -1,3 +1,5 @@
+#include "FilesFixture.h"
+
 #include "CoreMinimal.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformFileManager.h"
@@ -16,43 +18,6 @@
 
 namespace
 {
-std::string Utf8(const FString& Text)
-{
-	return reinterpret_cast<const char*>(TCHAR_TO_UTF8(*Text));
-}
-
-/** A folder of the test's own, gone with it. */
-class FFilesTest : public testing::Test
-{
-protected:
-	FFilesTest()
-		: Folder(FPaths::CreateTempFilename(FPlatformProcess::UserTempDir(), TEXT("VexelFiles"), TEXT("")))
-	{
-		IFileManager::Get().MakeDirectory(*Folder, true);
-	}
-	~FFilesTest() override { IFileManager::Get().DeleteDirectory(*Folder, false, true); }
-
-	FString In(const TCHAR* Name) const { return FPaths::Combine(Folder, Name); }
-	FString Write(const TCHAR* Name, const TCHAR* Text) const
-	{
-		EXPECT_TRUE(FFileHelper::SaveStringToFile(Text, *In(Name), FFileHelper::EEncodingOptions::ForceUTF8WithoutBOM));
-		return In(Name);
-	}
-	static std::string Read(const FString& Path)
-	{
-		FString Text;
-		return FFileHelper::LoadFileToString(Text, *Path) ? Utf8(Text) : "(unreadable)";
-	}
-	int32 CountEntries() const
-	{
-		TArray<FString> Names;
-		IFileManager::Get().FindFiles(Names, *(Folder / TEXT("*")), true, true);
-		return Names.Num();
-	}
-
-	const FString Folder;
-};
-
 /** No file of this process may grow past the limit while this lives, as on a full disk. */
 class FFileSizeLimit
 {
@@ -142,7 +107,8 @@ TEST_F(FFilesTest, TextIsReadByItsByteOrderMark)
 {
 	using EEncodingOptions = FFileHelper::EEncodingOptions;
 	const FString Text = TEXT("Gr\u00fc\u00dfe \U0001F600\r\n");
-	for (const EEncodingOptions Encoding : {EEncodingOptions::AutoDetect, EEncodingOptions::ForceUnicode, EEncodingOptions::ForceUTF8, EEncodingOptions::ForceUTF8WithoutBOM})
+	for (const EEncodingOptions Encoding : {EEncodingOptions::AutoDetect, EEncodingOptions::ForceUnicode, EEncodingOptions::ForceUTF8,
+			 EEncodingOptions::ForceUTF8WithoutBOM})
 	{
 		ASSERT_TRUE(FFileHelper::SaveStringToFile(Text, *In(TEXT("Text")), Encoding));
 		EXPECT_EQ(Read(In(TEXT("Text"))), Utf8(Text)) << static_cast<int32>(Encoding);
@@ -172,7 +138,8 @@ TEST_F(FFilesTest, DeletingATreeLeavesWhatALinkPointsTo)
 TEST_F(FFilesTest, ConfigurationLayersAndTheirOperators)
 {
 	Write(TEXT("Engine/Config/BaseEngine.ini"), TEXT("[/Script/A]\nName=base\n+List=one\n+List=two\n.List=two\nKeep=1\n"));
-	Write(TEXT("Project/Config/DefaultEngine.ini"), TEXT("; a comment\n[/Script/A]\nname=project\n-List=one\n+List=two\n+List=\" three; \\\"x\\\"\"\n"));
+	Write(TEXT("Project/Config/DefaultEngine.ini"),
+		TEXT("; a comment\n[/Script/A]\nname=project\n-List=one\n+List=two\n+List=\" three; \\\"x\\\"\"\n"));
 	Write(TEXT("Project/P.uproject"), TEXT("{}"));
 	FPaths::SetEngineDir(In(TEXT("Engine")));
 	FPaths::SetProjectFilePath(In(TEXT("Project/P.uproject")));

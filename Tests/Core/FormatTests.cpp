@@ -49,9 +49,12 @@ TEST(Format, IntegersFollowC)
 
 TEST(Format, FloatsFollowC)
 {
-	EXPECT_EQ(Text(FString::Printf(TEXT("%f %.2f %8.3f %-8.1f| %08.2f %+.1f"), 1.0, 2.345f, 3.14159, 2.0, -1.5, 1.0)), u"1.000000 2.35    3.142 2.0     | -0001.50 +1.0");
-	EXPECT_EQ(Text(FString::Printf(TEXT("%g %g %g %e %E"), 0.0001, 1e-5, 1e20, 12345.678, 1.0)), u"0.0001 1e-05 1e+20 1.234568e+04 1.000000E+00");
-	EXPECT_EQ(Text(FString::Printf(TEXT("%f %5.1f %F"), std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN(), -std::numeric_limits<double>::infinity())),
+	EXPECT_EQ(Text(FString::Printf(TEXT("%f %.2f %8.3f %-8.1f| %08.2f %+.1f"), 1.0, 2.345f, 3.14159, 2.0, -1.5, 1.0)),
+		u"1.000000 2.35    3.142 2.0     | -0001.50 +1.0");
+	EXPECT_EQ(Text(FString::Printf(TEXT("%g %g %g %e %E"), 0.0001, 1e-5, 1e20, 12345.678, 1.0)),
+		u"0.0001 1e-05 1e+20 1.234568e+04 1.000000E+00");
+	EXPECT_EQ(Text(FString::Printf(TEXT("%f %5.1f %F"), std::numeric_limits<double>::infinity(), std::numeric_limits<double>::quiet_NaN(),
+				  -std::numeric_limits<double>::infinity())),
 		u"inf   nan -INF");
 	EXPECT_EQ(FString::Printf(TEXT("%f"), std::numeric_limits<double>::max()).Len(), 316);
 	EXPECT_EQ(Text(FString::Printf(TEXT("%.17g"), 0.1)), u"0.10000000000000001");
@@ -61,7 +64,8 @@ TEST(Format, StringsRespectPrecisionAndNull)
 {
 	const TCHAR NotTerminated[] = {'a', 'b', 'c'};
 	EXPECT_EQ(Text(FString::Printf(TEXT("%.*s|%5.2s|%-4s|"), 3, NotTerminated, TEXT("xyz"), TEXT("z"))), u"abc|   xy|z   |");
-	EXPECT_EQ(Text(FString::Printf(TEXT("%s %hs"), static_cast<const TCHAR*>(nullptr), static_cast<const ANSICHAR*>(nullptr))), u"(null) (null)");
+	EXPECT_EQ(Text(FString::Printf(TEXT("%s %hs"), static_cast<const TCHAR*>(nullptr), static_cast<const ANSICHAR*>(nullptr))),
+		u"(null) (null)");
 	EXPECT_EQ(Text(FString::Printf(TEXT("%hs %c%c"), "T\xC3\xBCr", TEXT('漢'), 'x')), u"Tür 漢x");
 	EXPECT_EQ(Text(FString::Printf(TEXT("%p"), reinterpret_cast<void*>(0x1234))), u"0x1234");
 }
@@ -72,4 +76,20 @@ TEST(Format, AppendfMayReadTheStringItAppendsTo)
 	String.Appendf(TEXT("%s%s"), *String, *String);
 	EXPECT_EQ(Text(String), u"ababab");
 	EXPECT_EQ(FString::Printf(TEXT("%s"), *FString::ChrN(5000, TEXT('x'))).Len(), 5000);
+}
+
+TEST(Format, BufferGetsWhatFitsAndItsTerminator)
+{
+	TCHAR Buffer[8];
+	for (TCHAR& Char : Buffer)
+	{
+		Char = 'x';
+	}
+	EXPECT_EQ(FCString::Snprintf(Buffer, 6, TEXT("%d-%s"), 12, TEXT("ab")), 5);
+	EXPECT_EQ(FCString::Strcmp(Buffer, TEXT("12-ab")), 0);
+	EXPECT_EQ(FCString::Snprintf(Buffer, 5, TEXT("%d-%s"), 12, TEXT("ab")), -1);
+	EXPECT_EQ(FCString::Strcmp(Buffer, TEXT("12-a")), 0);
+	EXPECT_EQ(Buffer[6], u'x') << "nothing is written behind the given size";
+	EXPECT_EQ(FCString::Snprintf(Buffer, 1, TEXT("")), 0);
+	EXPECT_EQ(Buffer[0], 0);
 }

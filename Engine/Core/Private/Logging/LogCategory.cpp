@@ -1,5 +1,7 @@
 #include "Logging/LogCategory.h"
 
+#include "Logging/LogCategoryList.h"
+
 #include <algorithm>
 #include <mutex>
 #include <vector>
@@ -20,7 +22,8 @@ FCategoryList& GetCategoryList()
 }
 }
 
-FLogCategoryBase::FLogCategoryBase(const TCHAR* InCategoryName, ELogVerbosity::Type InDefaultVerbosity, ELogVerbosity::Type InCompileTimeVerbosity)
+FLogCategoryBase::FLogCategoryBase(
+	const TCHAR* InCategoryName, ELogVerbosity::Type InDefaultVerbosity, ELogVerbosity::Type InCompileTimeVerbosity)
 	: Verbosity(std::min(InDefaultVerbosity, InCompileTimeVerbosity))
 	, DefaultVerbosity(InDefaultVerbosity)
 	, CompileTimeVerbosity(InCompileTimeVerbosity)
@@ -44,18 +47,25 @@ void FLogCategoryBase::SetVerbosity(ELogVerbosity::Type InVerbosity)
 	Verbosity.store(std::min<uint8>(Wanted, CompileTimeVerbosity), std::memory_order_relaxed);
 }
 
-bool FLogCategoryBase::SetVerbosityByName(const TCHAR* InCategoryName, ELogVerbosity::Type InVerbosity)
+void ForEachLogCategory(TFunctionRef<void(FLogCategoryBase&)> Function)
 {
 	FCategoryList& List = GetCategoryList();
 	const std::lock_guard Lock(List.Mutex);
-	bool bFound = false;
 	for (FLogCategoryBase* const Category : List.Categories)
 	{
-		if (Category->CategoryName == InCategoryName)
-		{
-			Category->SetVerbosity(InVerbosity);
-			bFound = true;
-		}
+		Function(*Category);
 	}
+}
+
+bool FLogCategoryBase::SetVerbosityByName(const TCHAR* InCategoryName, ELogVerbosity::Type InVerbosity)
+{
+	bool bFound = false;
+	ForEachLogCategory([&](FLogCategoryBase& Category)
+		{
+			if (Category.GetCategoryName() == InCategoryName)
+			{
+				Category.SetVerbosity(InVerbosity);
+				bFound = true;
+			} });
 	return bFound;
 }

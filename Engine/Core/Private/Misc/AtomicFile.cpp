@@ -75,7 +75,8 @@ bool UE::SaveFileAtomically(const FString& Path, TArrayView<const uint8> Bytes, 
 		OutError = Describe(TEXT("Creating a temporary file beside"), Path, errno);
 		return false;
 	}
-	const bool bWritten = WriteAll(Descriptor, Bytes.GetData(), Bytes.Num()) && fchmod(Descriptor, GetMode(Target)) == 0 && fsync(Descriptor) == 0;
+	const bool bWritten = WriteAll(Descriptor, Bytes.GetData(), Bytes.Num()) && fchmod(Descriptor, GetMode(Target)) == 0 &&
+		fsync(Descriptor) == 0;
 	const int WriteError = errno;
 	const bool bClosed = close(Descriptor) == 0;
 	if (!bWritten || !bClosed)

@@ -24,7 +24,8 @@ struct FNumberText
 			++Char;
 			++Skipped;
 		}
-		while (Length < MaxLength && (TChar<CharType>::IsAscii(*Char) && (TChar<CharType>::IsAlnum(*Char) || *Char == '.' || *Char == '+' || *Char == '-')))
+		while (Length < MaxLength &&
+			(TChar<CharType>::IsAscii(*Char) && (TChar<CharType>::IsAlnum(*Char) || *Char == '.' || *Char == '+' || *Char == '-')))
 		{
 			Text[Length++] = static_cast<char>(*Char++);
 		}

@@ -3,7 +3,7 @@
 #include "CoreGlobals.h"
 #include "HAL/FileManager.h"
 #include "Misc/AtomicFile.h"
-#include "Misc/CString.h"
+#include "Misc/CommandLine.h"
 #include "Misc/Paths.h"
 
 FConfigCacheIni* GConfig = nullptr;
@@ -58,7 +58,67 @@ FString FConfigCacheIni::LoadGlobalIniFile(const FString& BaseName)
 	Load(Filename,
 		{FPaths::EngineConfigDir() + TEXT("Base.ini"), FPaths::EngineConfigDir() + TEXT("Base") + BaseName + TEXT(".ini"),
 			FPaths::ProjectConfigDir() + TEXT("Default") + BaseName + TEXT(".ini")});
+	Override(*Files.FindChecked(Filename), BaseName);
 	return Filename;
+}
+
+bool FConfigCacheIni::LoadGlobalIniFile(FString& OutFinalIniFilename, const TCHAR* BaseIniName, const TCHAR* Platform, bool bForceReload)
+{
+	checkf(GConfig != nullptr, TEXT("LoadGlobalIniFile before InitializeConfigSystem"));
+	OutFinalIniFilename = FPaths::GeneratedConfigDir() + BaseIniName + TEXT(".ini");
+	if (bForceReload || GConfig->FindConfigFile(OutFinalIniFilename) == nullptr)
+	{
+		GConfig->LoadGlobalIniFile(FString(BaseIniName));
+	}
+	return true;
+}
+
+void FConfigCacheIni::Override(FLayeredFile& File, const FString& BaseName)
+{
+	TArray<FString> Tokens;
+	TArray<FString> Switches;
+	FCommandLine::Parse(FCommandLine::Get(), Tokens, Switches);
+	const FString Prefix = TEXT("ini:") + BaseName + TEXT(":[");
+	for (FString& Switch : Switches)
+	{
+		if (!Switch.RemoveFromStart(Prefix))
+		{
+			continue;
+		}
+		TArray<FString> Settings;
+		Switch.ParseIntoArray(Settings, TEXT(",["));
+		for (const FString& Setting : Settings)
+		{
+			FOverride Added;
+			FString Assignment;
+			if (!Setting.Split(TEXT("]:"), &Added.Section, &Assignment) || !Assignment.Split(TEXT("="), &Added.Key, &Added.Value))
+			{
+				UE_LOG(LogCore, Warning, TEXT("The command line's setting [%s was not understood"), *Setting);
+				continue;
+			}
+			File.Merged.GetArray(*Added.Section, *Added.Key, Added.OldValues);
+			File.Merged.SetString(*Added.Section, *Added.Key, *Added.Value);
+			File.Overrides.Add(MoveTemp(Added));
+		}
+	}
+	File.Merged.Dirty = false;
+}
+
+FConfigFile FConfigCacheIni::WithoutOverrides(const FLayeredFile& File)
+{
+	FConfigFile Result = File.Merged;
+	// The last one first, since a key may have been set twice.
+	for (int32 Index = File.Overrides.Num() - 1; Index >= 0; --Index)
+	{
+		const FOverride& Override = File.Overrides[Index];
+		TArray<FString> Values;
+		Result.GetArray(*Override.Section, *Override.Key, Values);
+		if (Values.Num() == 1 && Values[0].Equals(Override.Value))
+		{
+			Result.SetArray(*Override.Section, *Override.Key, Override.OldValues);
+		}
+	}
+	return Result;
 }
 
 FConfigCacheIni::FLayeredFile& FConfigCacheIni::Load(const FString& Filename, const TArray<FString>& BaseLayers)
@@ -95,7 +155,7 @@ bool FConfigCacheIni::Write(const FString& Filename, FLayeredFile& File)
 	}
 	FString Error;
 	IFileManager::Get().MakeDirectory(*FPaths::GetPath(Filename), true);
-	if (!UE::SaveFileAtomically(Filename, File.Merged.ToText(File.Base), Error))
+	if (!UE::SaveFileAtomically(Filename, WithoutOverrides(File).ToText(File.Base), Error))
 	{
 		UE_LOG(LogCore, Error, TEXT("Configuration was not saved: %s"), *Error);
 		return false;
@@ -129,147 +189,6 @@ bool FConfigCacheIni::Flush(bool bRemoveFromCache, const FString& Filename)
 void FConfigCacheIni::UnloadFile(const FString& Filename)
 {
 	Files.Remove(Filename);
-}
-
-bool FConfigCacheIni::GetString(const TCHAR* Section, const TCHAR* Key, FString& Value, const FString& Filename)
-{
-	const FConfigSection* const Found = Find(Filename)->FindSection(Section);
-	const FString* const Text = Found != nullptr ? Found->Find(Key) : nullptr;
-	if (Text == nullptr)
-	{
-		return false;
-	}
-	Value = *Text;
-	return true;
-}
-
-bool FConfigCacheIni::GetBool(const TCHAR* Section, const TCHAR* Key, bool& Value, const FString& Filename)
-{
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text, Filename);
-	Value = bFound ? Text.ToBool() : Value;
-	return bFound;
-}
-
-bool FConfigCacheIni::GetInt(const TCHAR* Section, const TCHAR* Key, int32& Value, const FString& Filename)
-{
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text, Filename);
-	Value = bFound ? FCString::Atoi(*Text) : Value;
-	return bFound;
-}
-
-bool FConfigCacheIni::GetInt64(const TCHAR* Section, const TCHAR* Key, int64& Value, const FString& Filename)
-{
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text, Filename);
-	Value = bFound ? FCString::Atoi64(*Text) : Value;
-	return bFound;
-}
-
-bool FConfigCacheIni::GetFloat(const TCHAR* Section, const TCHAR* Key, float& Value, const FString& Filename)
-{
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text, Filename);
-	Value = bFound ? FCString::Atof(*Text) : Value;
-	return bFound;
-}
-
-bool FConfigCacheIni::GetDouble(const TCHAR* Section, const TCHAR* Key, double& Value, const FString& Filename)
-{
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text, Filename);
-	Value = bFound ? FCString::Atod(*Text) : Value;
-	return bFound;
-}
-
-int32 FConfigCacheIni::GetArray(const TCHAR* Section, const TCHAR* Key, TArray<FString>& OutArray, const FString& Filename)
-{
-	OutArray.Reset();
-	if (const FConfigSection* const Found = Find(Filename)->FindSection(Section))
-	{
-		Found->MultiFind(Key, OutArray);
-	}
-	return OutArray.Num();
-}
-
-bool FConfigCacheIni::GetSection(const TCHAR* Section, TArray<FString>& Result, const FString& Filename)
-{
-	Result.Reset();
-	const FConfigSection* const Found = Find(Filename)->FindSection(Section);
-	if (Found == nullptr)
-	{
-		return false;
-	}
-	for (const FConfigSection::FEntry& Entry : Found->Entries)
-	{
-		Result.Add(Entry.Key + TEXT("=") + Entry.Value);
-	}
-	return true;
-}
-
-bool FConfigCacheIni::GetSectionNames(const FString& Filename, TArray<FString>& OutSectionNames)
-{
-	OutSectionNames.Reset();
-	for (const TPair<FString, FConfigSection>& Pair : Find(Filename)->Sections)
-	{
-		OutSectionNames.Add(Pair.Key);
-	}
-	return !OutSectionNames.IsEmpty();
-}
-
-bool FConfigCacheIni::DoesSectionExist(const TCHAR* Section, const FString& Filename)
-{
-	return Find(Filename)->FindSection(Section) != nullptr;
-}
-
-void FConfigCacheIni::SetString(const TCHAR* Section, const TCHAR* Key, const TCHAR* Value, const FString& Filename)
-{
-	SetArray(Section, Key, {FString(Value)}, Filename);
-}
-
-void FConfigCacheIni::SetBool(const TCHAR* Section, const TCHAR* Key, bool Value, const FString& Filename)
-{
-	SetString(Section, Key, Value ? TEXT("True") : TEXT("False"), Filename);
-}
-
-void FConfigCacheIni::SetInt(const TCHAR* Section, const TCHAR* Key, int32 Value, const FString& Filename)
-{
-	SetString(Section, Key, *FString::Printf(TEXT("%d"), Value), Filename);
-}
-
-void FConfigCacheIni::SetInt64(const TCHAR* Section, const TCHAR* Key, int64 Value, const FString& Filename)
-{
-	SetString(Section, Key, *FString::Printf(TEXT("%lld"), Value), Filename);
-}
-
-void FConfigCacheIni::SetFloat(const TCHAR* Section, const TCHAR* Key, float Value, const FString& Filename)
-{
-	SetString(Section, Key, *FString::Printf(TEXT("%f"), Value), Filename);
-}
-
-void FConfigCacheIni::SetDouble(const TCHAR* Section, const TCHAR* Key, double Value, const FString& Filename)
-{
-	SetString(Section, Key, *FString::Printf(TEXT("%f"), Value), Filename);
-}
-
-void FConfigCacheIni::SetArray(const TCHAR* Section, const TCHAR* Key, const TArray<FString>& Value, const FString& Filename)
-{
-	FConfigFile* const File = Find(Filename);
-	FConfigSection& Target = File->FindOrAddSection(Section);
-	if (Value.Num() == 1)
-	{
-		Target.Set(Key, Value[0]);
-	}
-	else
-	{
-		Target.Remove(Key);
-		for (const FString& Item : Value)
-		{
-			Target.Add(Key, Item);
-		}
-	}
-	File->Dirty = true;
 }
 
 bool FConfigCacheIni::RemoveKey(const TCHAR* Section, const TCHAR* Key, const FString& Filename)

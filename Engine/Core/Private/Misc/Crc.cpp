@@ -57,7 +57,8 @@ uint32 AddByteForward(uint32 CRC, uint8 Byte)
 template <typename CharType>
 uint32 AddToNameHash(uint32 Hash, CharType Char)
 {
-	const uint32 Upper = static_cast<std::make_unsigned_t<std::conditional_t<std::is_same_v<CharType, TCHAR>, uint16, CharType>>>(TChar<CharType>::ToUpper(Char));
+	const uint32 Upper = static_cast<std::make_unsigned_t<std::conditional_t<std::is_same_v<CharType, TCHAR>, uint16, CharType>>>(
+		TChar<CharType>::ToUpper(Char));
 	Hash = (Hash >> 8) ^ ForwardTable[(Hash ^ Upper) & 0xff];
 	if constexpr (sizeof(CharType) > 1)
 	{

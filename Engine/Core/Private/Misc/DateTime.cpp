@@ -200,7 +200,8 @@ FDateTime FDateTime::Now()
 	clock_gettime(CLOCK_REALTIME, &Time);
 	tm Local{};
 	localtime_r(&Time.tv_sec, &Local);
-	return FDateTime(UnixEpochTicks + (Time.tv_sec + Local.tm_gmtoff) * ETimespan::TicksPerSecond + Time.tv_nsec / ETimespan::NanosecondsPerTick);
+	return FDateTime(
+		UnixEpochTicks + (Time.tv_sec + Local.tm_gmtoff) * ETimespan::TicksPerSecond + Time.tv_nsec / ETimespan::NanosecondsPerTick);
 }
 
 bool FDateTime::IsLeapYear(int32 Year)
@@ -422,7 +423,8 @@ bool FDateTime::ParseHttpDate(const FString& HttpDate, FDateTime& OutDateTime)
 	return Reader.IsAtEnd() && Fields.ToDateTime(OutDateTime);
 }
 
-bool FDateTime::ExportTextItem(FString& ValueStr, const FDateTime& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FDateTime::ExportTextItem(
+	FString& ValueStr, const FDateTime& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += ToString();
 	return true;

@@ -143,7 +143,8 @@ bool ParseFour(const FString& Source, VectorType& OutVal)
 	if (bParsed)
 	{
 		using FReal = decltype(OutVal.X);
-		OutVal = VectorType(static_cast<FReal>(Numbers[0]), static_cast<FReal>(Numbers[1]), static_cast<FReal>(Numbers[2]), static_cast<FReal>(Numbers[3]));
+		OutVal = VectorType(static_cast<FReal>(Numbers[0]), static_cast<FReal>(Numbers[1]), static_cast<FReal>(Numbers[2]),
+			static_cast<FReal>(Numbers[3]));
 	}
 	return bParsed;
 }
@@ -314,7 +315,8 @@ bool FDefaultValueHelper::ParseLinearColor(const FString& Source, FLinearColor& 
 	{
 		return false;
 	}
-	OutVal = FLinearColor(static_cast<float>(Numbers[0]), static_cast<float>(Numbers[1]), static_cast<float>(Numbers[2]), static_cast<float>(Numbers[3]));
+	OutVal = FLinearColor(
+		static_cast<float>(Numbers[0]), static_cast<float>(Numbers[1]), static_cast<float>(Numbers[2]), static_cast<float>(Numbers[3]));
 	return true;
 }
 
@@ -330,7 +332,8 @@ bool FDefaultValueHelper::ParseColor(const FString& Source, FColor& OutVal)
 	{
 		return false;
 	}
-	OutVal = FColor(static_cast<uint8>(Numbers[0]), static_cast<uint8>(Numbers[1]), static_cast<uint8>(Numbers[2]), static_cast<uint8>(Numbers[3]));
+	OutVal = FColor(
+		static_cast<uint8>(Numbers[0]), static_cast<uint8>(Numbers[1]), static_cast<uint8>(Numbers[2]), static_cast<uint8>(Numbers[3]));
 	return true;
 }
 

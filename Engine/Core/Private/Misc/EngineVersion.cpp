@@ -2,9 +2,11 @@
 
 #include "Serialization/Archive.h"
 
-EVersionComparison FEngineVersionBase::GetNewest(const FEngineVersionBase& First, const FEngineVersionBase& Second, EVersionComponent* OutComponent)
+EVersionComparison FEngineVersionBase::GetNewest(
+	const FEngineVersionBase& First, const FEngineVersionBase& Second, EVersionComponent* OutComponent)
 {
-	const uint32 Pairs[][2] = {{First.Major, Second.Major}, {First.Minor, Second.Minor}, {First.Patch, Second.Patch}, {First.GetChangelist(), Second.GetChangelist()}};
+	const uint32 Pairs[][2] = {{First.Major, Second.Major}, {First.Minor, Second.Minor}, {First.Patch, Second.Patch},
+		{First.GetChangelist(), Second.GetChangelist()}};
 	const bool bSameNumbering = First.IsLicenseeVersion() == Second.IsLicenseeVersion() && First.HasChangelist() && Second.HasChangelist();
 	const int32 NumToCompare = bSameNumbering ? 4 : 3;
 	for (int32 Component = 0; Component < NumToCompare; ++Component)
@@ -85,8 +87,8 @@ bool FEngineVersion::Parse(const FString& Text, FEngineVersion& OutVersion)
 	{
 		return false;
 	}
-	OutVersion.Set(static_cast<uint16>(Numbers[0]), static_cast<uint16>(Numbers[1]), static_cast<uint16>(Numbers[2]), static_cast<uint32>(Numbers[3]),
-		bHasBranch ? Text.RightChop(Index) : FString());
+	OutVersion.Set(static_cast<uint16>(Numbers[0]), static_cast<uint16>(Numbers[1]), static_cast<uint16>(Numbers[2]),
+		static_cast<uint32>(Numbers[3]), bHasBranch ? Text.RightChop(Index) : FString());
 	return true;
 }
 

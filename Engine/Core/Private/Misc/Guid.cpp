@@ -119,7 +119,8 @@ FUInt128 ToNumber(const FGuid& Guid)
 
 FGuid FromNumber(FUInt128 Number)
 {
-	return FGuid(static_cast<uint32>(Number >> 96), static_cast<uint32>(Number >> 64), static_cast<uint32>(Number >> 32), static_cast<uint32>(Number));
+	return FGuid(static_cast<uint32>(Number >> 96), static_cast<uint32>(Number >> 64), static_cast<uint32>(Number >> 32),
+		static_cast<uint32>(Number));
 }
 
 constexpr int32 NumBase36Digits = 25;

@@ -41,7 +41,8 @@ bool ReadInteger(const TCHAR* Stream, const TCHAR* Match, IntegerType& Value)
 	const TCHAR* const Found = FindValue(Stream, Match);
 	if (Found != nullptr)
 	{
-		Value = static_cast<IntegerType>(std::is_signed_v<IntegerType> ? static_cast<uint64>(FCString::Atoi64(Found)) : FCString::Strtoui64(Found, nullptr, 10));
+		Value = static_cast<IntegerType>(
+			std::is_signed_v<IntegerType> ? static_cast<uint64>(FCString::Atoi64(Found)) : FCString::Strtoui64(Found, nullptr, 10));
 	}
 	return Found != nullptr;
 }

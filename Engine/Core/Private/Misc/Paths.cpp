@@ -70,9 +70,11 @@ FString GetCurrentDirectory()
 	return getcwd(Path, sizeof(Path)) != nullptr ? WithSlash(UTF8_TO_TCHAR(Path)) : FString(TEXT("/"));
 }
 
+constexpr const TCHAR* InvalidCharacters = TEXT("/?:&\\*\"<>|%#@^");
+
 bool IsInvalidInFileName(TCHAR Char)
 {
-	return Char < TEXT(' ') || FString(TEXT("/?:&\\*\"<>|%#@^")).Contains(FString::Chr(Char), ESearchCase::CaseSensitive);
+	return Char < TEXT(' ') || FCString::Strchr(InvalidCharacters, Char) != nullptr;
 }
 }
 
@@ -110,6 +112,11 @@ FString FPaths::EngineDir()
 FString FPaths::RootDir()
 {
 	return GetPath(EngineDir().LeftChop(1)) + TEXT("/");
+}
+
+FString FPaths::LaunchDir()
+{
+	return FPlatformProcess::BaseDir();
 }
 
 FString FPaths::ProjectDir()
@@ -337,6 +344,11 @@ FString FPaths::CreateTempFilename(const TCHAR* Path, const TCHAR* Prefix, const
 		Candidate = Combine(FString(Path), FString(Prefix) + FGuid::NewGuid().ToString() + Extension);
 	} while (FileExists(Candidate));
 	return Candidate;
+}
+
+FString FPaths::GetInvalidFileSystemChars()
+{
+	return InvalidCharacters;
 }
 
 FString FPaths::MakeValidFileName(const FString& InString, TCHAR InReplacementChar)

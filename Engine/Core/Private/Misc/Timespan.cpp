@@ -191,7 +191,8 @@ bool FTimespan::Parse(const FString& TimespanString, FTimespan& OutTimespan)
 	return true;
 }
 
-bool FTimespan::ExportTextItem(FString& ValueStr, const FTimespan& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FTimespan::ExportTextItem(
+	FString& ValueStr, const FTimespan& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += ToString(TEXT("%d.%h:%m:%s.%f"));
 	return true;

@@ -140,7 +140,8 @@ private:
 	void WriteUtf8(const FFormatSpecifier& Specifier, const FFormatArgument& Argument)
 	{
 		const UTF8CHAR* Text = Argument.Pointer != nullptr ? static_cast<const UTF8CHAR*>(Argument.Pointer) : u8"(null)";
-		const int32 Len = Specifier.Precision < 0 ? FCStringUtf8::Strlen(Text) : FCStringUtf8::Strnlen(Text, static_cast<SIZE_T>(Specifier.Precision));
+		const int32 Len = Specifier.Precision < 0 ? FCStringUtf8::Strlen(Text)
+												  : FCStringUtf8::Strnlen(Text, static_cast<SIZE_T>(Specifier.Precision));
 		const FUTF8ToTCHAR Converted(Text, Len);
 		WritePadded(Specifier, Converted.Get(), Converted.Length());
 	}
@@ -285,5 +286,13 @@ private:
 void FormatTo(TStringBuilderBase<TCHAR>& Builder, const TCHAR* Format, const FFormatArgument* Arguments, int32 NumArguments)
 {
 	FFormatter(Builder, Arguments, NumArguments).Run(Format);
+}
+
+int32 FormatToBuffer(TCHAR* Dest, SIZE_T DestSize, const TCHAR* Format, const FFormatArgument* Arguments, int32 NumArguments)
+{
+	TStringBuilder<512> Builder;
+	FormatTo(Builder, Format, Arguments, NumArguments);
+	FCString::Strncpy(Dest, Builder.ToString(), DestSize);
+	return static_cast<SIZE_T>(Builder.Len()) < DestSize ? Builder.Len() : -1;
 }
 }

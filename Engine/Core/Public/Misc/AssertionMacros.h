@@ -132,4 +132,5 @@ private:
 #define ensureAlwaysMsgf(expr, format, ...) UE_ENSURE_IMPL(true, expr, format __VA_OPT__(, ) __VA_ARGS__)
 
 /** Ends the program with an error that is the surroundings' fault, such as memory that cannot be had. */
-#define LowLevelFatalError(format, ...) FDebug::CheckVerifyFailed("LowLevelFatalError", __FILE__, __LINE__, format __VA_OPT__(, ) __VA_ARGS__)
+#define LowLevelFatalError(format, ...) \
+	FDebug::CheckVerifyFailed("LowLevelFatalError", __FILE__, __LINE__, format __VA_OPT__(, ) __VA_ARGS__)

@@ -2,6 +2,7 @@
 
 #include "CoreTypes.h"
 #include "Misc/Char.h"
+#include "String/FormatStringSan.h"
 
 /** Whether letters that differ in case alone are the same. */
 namespace ESearchCase
@@ -79,6 +80,15 @@ struct TCString
 	{
 		Strcpy(Dest + Strlen(Dest), Src);
 		return Dest;
+	}
+
+	/** Formats at most `DestSize` - 1 characters and the terminator. Answers the length, or -1 when not all of it had room. */
+	template <typename... Types>
+	requires std::is_same_v<CharType, TCHAR>
+	static int32 Snprintf(CharType* Dest, SIZE_T DestSize, UE::Core::TCheckedFormatString<CharType, Types...> Format, Types... Args)
+	{
+		const UE::Core::FFormatArgument Arguments[] = {UE::Core::FFormatArgument(Args)..., UE::Core::FFormatArgument()};
+		return UE::Core::FormatToBuffer(Dest, DestSize, Format.GetFormatString(), Arguments, static_cast<int32>(sizeof...(Types)));
 	}
 
 	/** First place of `Find`, or null. An empty `Find` is found at once. */

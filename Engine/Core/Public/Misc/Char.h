@@ -59,9 +59,9 @@ struct TChar
 		}
 		// Letters without case (Han, Kana, Hangul and the rest) are letters too; the punctuation blocks are not.
 		const uint32 Code = static_cast<uint32>(Char);
-		return bWide && Code >= 0xC0 && Code != 0xD7 && Code != 0xF7 && !(Code >= 0x2000 && Code <= 0x2BFF) && !(Code >= 0x3000 && Code <= 0x3004) &&
-			!(Code >= 0x3007 && Code <= 0x3030) && !(Code >= 0xD800 && Code <= 0xF8FF) && !(Code >= 0xFE10 && Code <= 0xFE6F) &&
-			!(Code >= 0xFF00 && Code <= 0xFF20) && Code < 0xFFF0;
+		return bWide && Code >= 0xC0 && Code != 0xD7 && Code != 0xF7 && !(Code >= 0x2000 && Code <= 0x2BFF) &&
+			!(Code >= 0x3000 && Code <= 0x3004) && !(Code >= 0x3007 && Code <= 0x3030) && !(Code >= 0xD800 && Code <= 0xF8FF) &&
+			!(Code >= 0xFE10 && Code <= 0xFE6F) && !(Code >= 0xFF00 && Code <= 0xFF20) && Code < 0xFFF0;
 	}
 	static constexpr bool IsDigit(CharType Char) { return Char >= '0' && Char <= '9'; }
 	static constexpr bool IsHexDigit(CharType Char)
@@ -74,7 +74,8 @@ struct TChar
 	static constexpr bool IsUnderscore(CharType Char) { return Char == '_'; }
 	static constexpr bool IsControl(CharType Char)
 	{
-		return static_cast<uint32>(Char) < 0x20 || Char == 0x7F || (bWide && static_cast<uint32>(Char) >= 0x80 && static_cast<uint32>(Char) < 0xA0);
+		return static_cast<uint32>(Char) < 0x20 || Char == 0x7F ||
+			(bWide && static_cast<uint32>(Char) >= 0x80 && static_cast<uint32>(Char) < 0xA0);
 	}
 	static constexpr bool IsPrint(CharType Char) { return !IsControl(Char); }
 	static constexpr bool IsGraph(CharType Char) { return IsPrint(Char) && !IsWhitespace(Char); }
@@ -83,7 +84,9 @@ struct TChar
 	{
 		const uint32 Code = static_cast<uint32>(Char);
 		return Code == ' ' || (Code >= 9 && Code <= 13) ||
-			(bWide && (Code == 0x85 || Code == 0xA0 || Code == 0x1680 || (Code >= 0x2000 && Code <= 0x200A) || Code == 0x2028 || Code == 0x2029 || Code == 0x202F || Code == 0x205F || Code == 0x3000));
+			(bWide &&
+				(Code == 0x85 || Code == 0xA0 || Code == 0x1680 || (Code >= 0x2000 && Code <= 0x200A) || Code == 0x2028 ||
+					Code == 0x2029 || Code == 0x202F || Code == 0x205F || Code == 0x3000));
 	}
 	static constexpr bool IsLinebreak(CharType Char)
 	{

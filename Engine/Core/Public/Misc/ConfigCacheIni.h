@@ -4,7 +4,11 @@
 #include "Containers/Map.h"
 #include "Containers/UnrealString.h"
 #include "CoreTypes.h"
+#include "Math/MathFwd.h"
 #include "Templates/UniquePtr.h"
+#include "UObject/NameTypes.h"
+
+class FText;
 
 /** The lines of one [section]: a key may have many values, which keep their order. Keys compare without regard to case. */
 class CORE_API FConfigSection
@@ -43,6 +47,25 @@ public:
 	/** A text that, read over Base, gives what this file says. */
 	FString ToText(const FConfigFile& Base) const;
 
+	/** Puts a file's contents, or nothing when it cannot be read, in place of what is there. */
+	void Read(const FString& Filename);
+	/** All of it, in one step; false when the file cannot be written. */
+	bool Write(const FString& Filename) const;
+
+	bool GetString(const TCHAR* Section, const TCHAR* Key, FString& Value) const;
+	bool GetBool(const TCHAR* Section, const TCHAR* Key, bool& Value) const;
+	bool GetInt(const TCHAR* Section, const TCHAR* Key, int32& Value) const;
+	bool GetInt64(const TCHAR* Section, const TCHAR* Key, int64& Value) const;
+	bool GetFloat(const TCHAR* Section, const TCHAR* Key, float& Value) const;
+	bool GetDouble(const TCHAR* Section, const TCHAR* Key, double& Value) const;
+	/** The number of values. */
+	int32 GetArray(const TCHAR* Section, const TCHAR* Key, TArray<FString>& Value) const;
+	void SetString(const TCHAR* Section, const TCHAR* Key, const TCHAR* Value);
+	void SetArray(const TCHAR* Section, const TCHAR* Key, const TArray<FString>& Value);
+	bool Contains(const FString& Section) const { return Sections.Contains(Section); }
+	bool IsEmpty() const { return Sections.IsEmpty(); }
+	int32 Num() const { return Sections.Num(); }
+
 	const FConfigSection* FindSection(const FString& Section) const { return Sections.Find(Section); }
 	FConfigSection& FindOrAddSection(const FString& Section) { return Sections.FindOrAdd(Section); }
 
@@ -64,6 +87,9 @@ public:
 	static void ShutdownConfigSystem();
 	/** Loads one more name in those layers and answers its file. */
 	FString LoadGlobalIniFile(const FString& BaseName);
+	/** The same; with bForceReload, a file that is loaded already is read anew, and what has not been flushed is lost. */
+	static bool LoadGlobalIniFile(
+		FString& OutFinalIniFilename, const TCHAR* BaseIniName, const TCHAR* Platform = nullptr, bool bForceReload = false);
 
 	bool GetString(const TCHAR* Section, const TCHAR* Key, FString& Value, const FString& Filename);
 	bool GetBool(const TCHAR* Section, const TCHAR* Key, bool& Value, const FString& Filename);
@@ -71,8 +97,19 @@ public:
 	bool GetInt64(const TCHAR* Section, const TCHAR* Key, int64& Value, const FString& Filename);
 	bool GetFloat(const TCHAR* Section, const TCHAR* Key, float& Value, const FString& Filename);
 	bool GetDouble(const TCHAR* Section, const TCHAR* Key, double& Value, const FString& Filename);
+	bool GetText(const TCHAR* Section, const TCHAR* Key, FText& Value, const FString& Filename);
+	bool GetVector(const TCHAR* Section, const TCHAR* Key, FVector& Value, const FString& Filename);
+	bool GetRotator(const TCHAR* Section, const TCHAR* Key, FRotator& Value, const FString& Filename);
+	bool GetColor(const TCHAR* Section, const TCHAR* Key, FColor& Value, const FString& Filename);
+	FString GetStringOrDefault(const TCHAR* Section, const TCHAR* Key, const FString& DefaultValue, const FString& Filename);
+	bool GetBoolOrDefault(const TCHAR* Section, const TCHAR* Key, bool DefaultValue, const FString& Filename);
+	int32 GetIntOrDefault(const TCHAR* Section, const TCHAR* Key, int32 DefaultValue, const FString& Filename);
+	float GetFloatOrDefault(const TCHAR* Section, const TCHAR* Key, float DefaultValue, const FString& Filename);
+	double GetDoubleOrDefault(const TCHAR* Section, const TCHAR* Key, double DefaultValue, const FString& Filename);
 	/** The number of values. */
 	int32 GetArray(const TCHAR* Section, const TCHAR* Key, TArray<FString>& OutArray, const FString& Filename);
+	/** The values of one line, with white space between them; those with white space inside are in quotes. */
+	int32 GetSingleLineArray(const TCHAR* Section, const TCHAR* Key, TArray<FString>& OutArray, const FString& Filename);
 	/** "Key=Value" of every line. */
 	bool GetSection(const TCHAR* Section, TArray<FString>& Result, const FString& Filename);
 	bool GetSectionNames(const FString& Filename, TArray<FString>& OutSectionNames);
@@ -85,6 +122,15 @@ public:
 	void SetFloat(const TCHAR* Section, const TCHAR* Key, float Value, const FString& Filename);
 	void SetDouble(const TCHAR* Section, const TCHAR* Key, double Value, const FString& Filename);
 	void SetArray(const TCHAR* Section, const TCHAR* Key, const TArray<FString>& Value, const FString& Filename);
+	void SetText(const TCHAR* Section, const TCHAR* Key, const FText& Value, const FString& Filename);
+	void SetVector(const TCHAR* Section, const TCHAR* Key, const FVector& Value, const FString& Filename);
+	void SetRotator(const TCHAR* Section, const TCHAR* Key, const FRotator& Value, const FString& Filename);
+	void SetColor(const TCHAR* Section, const TCHAR* Key, FColor Value, const FString& Filename);
+	void SetSingleLineArray(const TCHAR* Section, const TCHAR* Key, const TArray<FString>& Value, const FString& Filename);
+	/** One value of a key of several; what changes nothing answers false. */
+	bool AddToSection(const TCHAR* Section, FName Key, const FString& Value, const FString& Filename);
+	bool AddUniqueToSection(const TCHAR* Section, FName Key, const FString& Value, const FString& Filename);
+	bool RemoveFromSection(const TCHAR* Section, FName Key, const FString& Value, const FString& Filename);
 	bool RemoveKey(const TCHAR* Section, const TCHAR* Key, const FString& Filename);
 	bool EmptySection(const TCHAR* Section, const FString& Filename);
 
@@ -96,15 +142,28 @@ public:
 	void UnloadFile(const FString& Filename);
 
 private:
+	/** A value that the command line put in place of others; it is not saved unless somebody changed it again. */
+	struct FOverride
+	{
+		FString Section;
+		FString Key;
+		FString Value;
+		TArray<FString> OldValues;
+	};
 	struct FLayeredFile
 	{
 		/** What the layers below the user's say. */
 		FConfigFile Base;
 		FConfigFile Merged;
+		TArray<FOverride> Overrides;
 	};
 
 	FLayeredFile& Load(const FString& Filename, const TArray<FString>& BaseLayers);
 	bool Write(const FString& Filename, FLayeredFile& File);
+	/** Applies the command line's -ini:Name:[Section]:Key=Value,[Section]:Key=Value */
+	static void Override(FLayeredFile& File, const FString& BaseName);
+	/** What the file says without the command line's values. */
+	static FConfigFile WithoutOverrides(const FLayeredFile& File);
 
 	TMap<FString, TUniquePtr<FLayeredFile>> Files;
 };

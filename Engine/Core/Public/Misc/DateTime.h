@@ -98,7 +98,8 @@ struct FDateTime
 	CORE_API static bool ParseIso8601(const TCHAR* DateTimeString, FDateTime& OutDateTime);
 	CORE_API static bool ParseHttpDate(const FString& HttpDate, FDateTime& OutDateTime);
 
-	CORE_API bool ExportTextItem(FString& ValueStr, const FDateTime& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	CORE_API bool ExportTextItem(
+		FString& ValueStr, const FDateTime& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
 	CORE_API bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 	CORE_API bool Serialize(FArchive& Ar);
 	CORE_API friend FArchive& operator<<(FArchive& Ar, FDateTime& DateTime);

@@ -62,7 +62,10 @@ public:
 	{
 	}
 
-	void Set(uint16 InMajor, uint16 InMinor, uint16 InPatch, uint32 InChangelist, const FString& InBranch) { *this = FEngineVersion(InMajor, InMinor, InPatch, InChangelist, InBranch); }
+	void Set(uint16 InMajor, uint16 InMinor, uint16 InPatch, uint32 InChangelist, const FString& InBranch)
+	{
+		*this = FEngineVersion(InMajor, InMinor, InPatch, InChangelist, InBranch);
+	}
 	void Empty() { *this = FEngineVersion(); }
 	bool IsCompatibleWith(const FEngineVersionBase& Other) const;
 	const FString& GetBranch() const { return Branch; }

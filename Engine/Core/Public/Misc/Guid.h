@@ -79,10 +79,14 @@ struct CORE_API FGuid
 
 	bool Serialize(FArchive& Ar);
 	/** As a property's value: 32 digits. Reading takes any of the formats, and leaves Buffer alone when it finds none. */
-	bool ExportTextItem(FString& ValueStr, const FGuid& DefaultValue, class UObject* Parent, int32 PortFlags, class UObject* ExportRootScope) const;
+	bool ExportTextItem(
+		FString& ValueStr, const FGuid& DefaultValue, class UObject* Parent, int32 PortFlags, class UObject* ExportRootScope) const;
 	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, class UObject* Parent, class FOutputDevice* ErrorText);
 	friend CORE_API FArchive& operator<<(FArchive& Ar, FGuid& Guid);
-	friend constexpr uint32 GetTypeHash(const FGuid& Guid) { return HashCombineFast(HashCombineFast(Guid.A, Guid.B), HashCombineFast(Guid.C, Guid.D)); }
+	friend constexpr uint32 GetTypeHash(const FGuid& Guid)
+	{
+		return HashCombineFast(HashCombineFast(Guid.A, Guid.B), HashCombineFast(Guid.C, Guid.D));
+	}
 
 	uint32 A;
 	uint32 B;

@@ -40,7 +40,8 @@ public:
 	}
 
 	template <typename... Types>
-	void CategorizedLogf(const FName& Category, ELogVerbosity::Type Verbosity, UE::Core::TCheckedFormatString<TCHAR, Types...> Format, Types... Args)
+	void CategorizedLogf(
+		const FName& Category, ELogVerbosity::Type Verbosity, UE::Core::TCheckedFormatString<TCHAR, Types...> Format, Types... Args)
 	{
 		FormatAndLog(Category, Verbosity, Format.GetFormatString(), {UE::Core::FFormatArgument(Args)...});
 	}

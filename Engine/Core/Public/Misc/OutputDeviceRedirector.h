@@ -31,7 +31,10 @@ public:
 
 	/** The least important lines that reach standard error; NoLogging for none. Ours, not the engine's. */
 	void SetConsoleVerbosity(ELogVerbosity::Type Verbosity) { ConsoleVerbosity.store(Verbosity, std::memory_order_relaxed); }
-	ELogVerbosity::Type GetConsoleVerbosity() const { return static_cast<ELogVerbosity::Type>(ConsoleVerbosity.load(std::memory_order_relaxed)); }
+	ELogVerbosity::Type GetConsoleVerbosity() const
+	{
+		return static_cast<ELogVerbosity::Type>(ConsoleVerbosity.load(std::memory_order_relaxed));
+	}
 
 private:
 	std::recursive_mutex Mutex;

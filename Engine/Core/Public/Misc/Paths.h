@@ -24,6 +24,12 @@ public:
 	static FString EngineConfigDir() { return EngineDir() + TEXT("Config/"); }
 	static FString EnginePluginsDir() { return EngineDir() + TEXT("Plugins/"); }
 	static FString EngineSavedDir() { return EngineDir() + TEXT("Saved/"); }
+	static FString EngineIntermediateDir() { return EngineDir() + TEXT("Intermediate/"); }
+	static FString EngineSourceDir() { return EngineDir() + TEXT("Source/"); }
+	static FString EngineUserDir() { return EngineDir(); }
+	static FString GameAgnosticSavedDir() { return EngineSavedDir(); }
+	/** The folder of the program. */
+	static FString LaunchDir();
 	/** The folder of the project's file; the current folder when no project is open. */
 	static FString ProjectDir();
 	static FString ProjectContentDir() { return ProjectDir() + TEXT("Content/"); }
@@ -32,6 +38,14 @@ public:
 	static FString ProjectIntermediateDir() { return ProjectDir() + TEXT("Intermediate/"); }
 	static FString ProjectPluginsDir() { return ProjectDir() + TEXT("Plugins/"); }
 	static FString ProjectLogDir() { return ProjectSavedDir() + TEXT("Logs/"); }
+	static FString ProjectUserDir() { return ProjectDir(); }
+	static FString AutomationDir() { return ProjectSavedDir() + TEXT("Automation/"); }
+	static FString AutomationTransientDir() { return AutomationDir() + TEXT("Transient/"); }
+	static FString BugItDir() { return ProjectSavedDir() + TEXT("BugIt/"); }
+	static FString CloudDir() { return ProjectSavedDir() + TEXT("Cloud/"); }
+	static FString DiffDir() { return ProjectSavedDir() + TEXT("Diff/"); }
+	static FString ProfilingDir() { return ProjectSavedDir() + TEXT("Profiling/"); }
+	static FString VideoCaptureDir() { return ProjectSavedDir() + TEXT("VideoCaptures/"); }
 	static FString ScreenShotDir() { return ProjectSavedDir() + TEXT("Screenshots/"); }
 	static FString GeneratedConfigDir() { return ProjectSavedDir() + TEXT("Config/"); }
 	static FString SourceConfigDir() { return ProjectConfigDir(); }
@@ -76,6 +90,8 @@ public:
 	static void Split(const FString& InPath, FString& PathPart, FString& FilenamePart, FString& ExtensionPart);
 	/** A file name beside the others that does not exist yet: "Prefix0001.ext". */
 	static FString CreateTempFilename(const TCHAR* Path, const TCHAR* Prefix = TEXT(""), const TCHAR* Extension = TEXT(".tmp"));
+	/** What no file name should hold on any system. */
+	static FString GetInvalidFileSystemChars();
 	/** Replaces what a file name must not hold. */
 	static FString MakeValidFileName(const FString& InString, TCHAR InReplacementChar = 0);
 	static bool ValidatePath(const FString& InPath, FText* OutReason = nullptr);

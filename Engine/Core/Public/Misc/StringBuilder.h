@@ -101,7 +101,8 @@ public:
 	}
 
 	template <typename... Types>
-	TStringBuilderBase& Appendf(UE::Core::TCheckedFormatString<TCHAR, Types...> Format, Types... Args) requires(std::is_same_v<CharType, TCHAR>)
+	TStringBuilderBase& Appendf(UE::Core::TCheckedFormatString<TCHAR, Types...> Format, Types... Args) requires(
+		std::is_same_v<CharType, TCHAR>)
 	{
 		const UE::Core::FFormatArgument Arguments[] = {UE::Core::FFormatArgument(Args)..., UE::Core::FFormatArgument()};
 		UE::Core::FormatTo(*this, Format.GetFormatString(), Arguments, static_cast<int32>(sizeof...(Types)));

@@ -92,7 +92,8 @@ struct FTimespan
 	/** Reads [sign][days.]hours:minutes:seconds[.fraction]. */
 	CORE_API static bool Parse(const FString& TimespanString, FTimespan& OutTimespan);
 
-	CORE_API bool ExportTextItem(FString& ValueStr, const FTimespan& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	CORE_API bool ExportTextItem(
+		FString& ValueStr, const FTimespan& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
 	CORE_API bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 	CORE_API bool Serialize(FArchive& Ar);
 	CORE_API friend FArchive& operator<<(FArchive& Ar, FTimespan& Timespan);

@@ -10,9 +10,9 @@ class TStringBuilderBase;
 /**
  * Format strings in printf's language, checked against their arguments when they are compiled.
  *
- * `%s` takes `const TCHAR*` (for an FString: `*String`), `%hs` takes `const ANSICHAR*` or `const UTF8CHAR*`. Integers take `%d %i %u %x %X %o` up to
- * 32 bits and the same with `ll` (or `l z j t`) for 64 bits; enums and bool count as integers. `%f %e %g %a`, `%c`, `%p` and `%%` are as in C;
- * width and precision may be `*`. There is no `%n`.
+ * `%s` takes `const TCHAR*` (for an FString: `*String`), `%hs` takes `const ANSICHAR*` or `const UTF8CHAR*`. Integers take `%d %i %u
+ * %x %X %o` up to 32 bits and the same with `ll` (or `l z j t`) for 64 bits; enums and bool count as integers. `%f %e %g %a`, `%c`,
+ * `%p` and `%%` are as in C; width and precision may be `*`. There is no `%n`.
  */
 namespace UE::Core
 {
@@ -104,7 +104,8 @@ FFormatArgument::FFormatArgument(T Value)
 	, Size(FormatArgumentTypeOf<T>().Size)
 {
 	constexpr EFormatArgumentKind ValueKind = FormatArgumentTypeOf<T>().Kind;
-	static_assert(ValueKind != EFormatArgumentKind::Invalid, "This type cannot be formatted; pass *String for an FString and *Name.ToString() for an FName.");
+	static_assert(ValueKind != EFormatArgumentKind::Invalid,
+		"This type cannot be formatted; pass *String for an FString and *Name.ToString() for an FName.");
 	if constexpr (ValueKind == EFormatArgumentKind::Signed)
 	{
 		Signed = static_cast<int64>(Value);
@@ -435,5 +436,7 @@ template <typename CharType, typename... Types>
 using TCheckedFormatString = TCheckedFormatStringBase<CharType, std::type_identity_t<Types>...>;
 
 /** Appends the formatted text. A null string gives "(null)". Arguments that do not fit give nothing instead of undefined behaviour. */
+/** See FCString::Snprintf. */
+CORE_API int32 FormatToBuffer(TCHAR* Dest, SIZE_T DestSize, const TCHAR* Format, const FFormatArgument* Arguments, int32 NumArguments);
 CORE_API void FormatTo(TStringBuilderBase<TCHAR>& Builder, const TCHAR* Format, const FFormatArgument* Arguments, int32 NumArguments);
 }
