@@ -24,7 +24,8 @@ TEST(Calendar, LeapYearsFollowTheGregorianRule)
 		int32 Year;
 		int32 DaysInFebruary;
 	};
-	for (const FCase& Case : {FCase{1, 28}, FCase{4, 29}, FCase{100, 28}, FCase{400, 29}, FCase{1900, 28}, FCase{2000, 29}, FCase{2023, 28}, FCase{2100, 28}, FCase{9996, 29}})
+	for (const FCase& Case : {FCase{1, 28}, FCase{4, 29}, FCase{100, 28}, FCase{400, 29}, FCase{1900, 28}, FCase{2000, 29},
+			 FCase{2023, 28}, FCase{2100, 28}, FCase{9996, 29}})
 	{
 		EXPECT_EQ(FDateTime::DaysInMonth(Case.Year, 2), Case.DaysInFebruary) << Case.Year;
 		EXPECT_EQ(FDateTime::DaysInYear(Case.Year), 337 + Case.DaysInFebruary) << Case.Year;
@@ -107,19 +108,21 @@ TEST(Calendar, BrokenDatesAreRefusedAndChangeNothing)
 {
 	const FDateTime Old(2000, 1, 1);
 	FDateTime Parsed = Old;
-	for (const TCHAR* const Text : {TEXT(""), TEXT("2024"), TEXT("2024-02-30"), TEXT("2024-00-10"), TEXT("0000-01-01"), TEXT("10000-01-01"), TEXT("2024-02-29T"),
-			 TEXT("2024-02-29T1:00"), TEXT("2024-02-29T10:60"), TEXT("2024-02-29T10:00:60Z"), TEXT("2024-02-29T10:00:00+"), TEXT("2024-02-29T10:00:00+24:00"),
-			 TEXT("2024-02-29T10:00:00+01:60"), TEXT("2024-02-29T10:00:00Z "), TEXT("-024-02-29"), TEXT("2024-02-29X10:00"), TEXT("9999-12-31T23:59:59-01:00"),
-			 TEXT("\u0662\u0660\u0662\u0664-01-01")})
+	for (const TCHAR* const Text :
+		{TEXT(""), TEXT("2024"), TEXT("2024-02-30"), TEXT("2024-00-10"), TEXT("0000-01-01"), TEXT("10000-01-01"), TEXT("2024-02-29T"),
+			TEXT("2024-02-29T1:00"), TEXT("2024-02-29T10:60"), TEXT("2024-02-29T10:00:60Z"), TEXT("2024-02-29T10:00:00+"),
+			TEXT("2024-02-29T10:00:00+24:00"), TEXT("2024-02-29T10:00:00+01:60"), TEXT("2024-02-29T10:00:00Z "), TEXT("-024-02-29"),
+			TEXT("2024-02-29X10:00"), TEXT("9999-12-31T23:59:59-01:00"), TEXT("\u0662\u0660\u0662\u0664-01-01")})
 	{
 		EXPECT_FALSE(FDateTime::ParseIso8601(Text, Parsed)) << Utf8(Text);
 	}
-	for (const TCHAR* const Text : {TEXT("2024.02.30-00.00.00"), TEXT("2024.02.29-00.00"), TEXT("2024.02.29 00.00.00"), TEXT("2024.02.29-00.00.00x"), TEXT("")})
+	for (const TCHAR* const Text :
+		{TEXT("2024.02.30-00.00.00"), TEXT("2024.02.29-00.00"), TEXT("2024.02.29 00.00.00"), TEXT("2024.02.29-00.00.00x"), TEXT("")})
 	{
 		EXPECT_FALSE(FDateTime::Parse(Text, Parsed)) << Utf8(Text);
 	}
-	for (const TCHAR* const Text : {TEXT("Thu, 30 Feb 2024 13:05:09 GMT"), TEXT("Xyz, 29 Feb 2024 13:05:09 GMT"), TEXT("Thu, 29 Feb 2024 13:05:09"),
-			 TEXT("Thu, 29 Feb 2024 13:05:09 GMT "), TEXT("Thu, 29 Fe"), TEXT("")})
+	for (const TCHAR* const Text : {TEXT("Thu, 30 Feb 2024 13:05:09 GMT"), TEXT("Xyz, 29 Feb 2024 13:05:09 GMT"),
+			 TEXT("Thu, 29 Feb 2024 13:05:09"), TEXT("Thu, 29 Feb 2024 13:05:09 GMT "), TEXT("Thu, 29 Fe"), TEXT("")})
 	{
 		EXPECT_FALSE(FDateTime::ParseHttpDate(Text, Parsed)) << Utf8(Text);
 	}
@@ -148,8 +151,9 @@ TEST(Spans, TextRoundTripsAtTheTick)
 TEST(Spans, BrokenTextsAreRefusedAndChangeNothing)
 {
 	FTimespan Parsed(7);
-	for (const TCHAR* const Text : {TEXT(""), TEXT("+"), TEXT("1"), TEXT("1:2"), TEXT("24:00:00"), TEXT("1.24:00:00"), TEXT("00:60:00"), TEXT("00:00:60"), TEXT("00:00:00."),
-			 TEXT("--00:00:01"), TEXT("00:00:01 "), TEXT("1.2.3:00:00"), TEXT("99999999.00:00:00"), TEXT("999999999.00:00:00"), TEXT("00:-1:00"), TEXT("00:00:00.1234567891")})
+	for (const TCHAR* const Text : {TEXT(""), TEXT("+"), TEXT("1"), TEXT("1:2"), TEXT("24:00:00"), TEXT("1.24:00:00"), TEXT("00:60:00"),
+			 TEXT("00:00:60"), TEXT("00:00:00."), TEXT("--00:00:01"), TEXT("00:00:01 "), TEXT("1.2.3:00:00"), TEXT("99999999.00:00:00"),
+			 TEXT("999999999.00:00:00"), TEXT("00:-1:00"), TEXT("00:00:00.1234567891")})
 	{
 		EXPECT_FALSE(FTimespan::Parse(Text, Parsed)) << Utf8(Text);
 	}

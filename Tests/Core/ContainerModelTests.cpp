@@ -542,7 +542,9 @@ TEST_F(FContainerModelTest, BitArrayRunsAgreeWithAVector)
 		}
 		ASSERT_EQ(Bits.Num(), static_cast<int32>(Model.size()));
 		const auto Found = std::find(Model.begin() + std::min(Index, Bits.Num()), Model.end(), bValue);
-		ASSERT_EQ(Bits.FindFrom(bValue, std::min(Index, Bits.Num())), Found == Model.end() ? static_cast<int32>(INDEX_NONE) : static_cast<int32>(Found - Model.begin())) << Step;
+		ASSERT_EQ(Bits.FindFrom(bValue, std::min(Index, Bits.Num())),
+			Found == Model.end() ? static_cast<int32>(INDEX_NONE) : static_cast<int32>(Found - Model.begin()))
+			<< Step;
 		ASSERT_EQ(Bits.CountSetBits(), static_cast<int32>(std::count(Model.begin(), Model.end(), true))) << Step;
 	}
 }

@@ -27,7 +27,8 @@ TEST(EncodingModel, RandomBytesDecodeToTheirValidPartsAndOneMarkPerBadByte)
 {
 	std::mt19937 Random(1);
 	// Bytes that begin and continue characters of every length, and those that never may.
-	static const unsigned char Bytes[] = {'a', 0x7F, 0x80, 0xBF, 0xC0, 0xC3, 0xDF, 0xE0, 0xE2, 0xED, 0xEF, 0xF0, 0xF4, 0xF5, 0xFF, 0x9F, 0xA0, 0x90, 0x8F};
+	static const unsigned char Bytes[] = {
+		'a', 0x7F, 0x80, 0xBF, 0xC0, 0xC3, 0xDF, 0xE0, 0xE2, 0xED, 0xEF, 0xF0, 0xF4, 0xF5, 0xFF, 0x9F, 0xA0, 0x90, 0x8F};
 	for (int32 Round = 0; Round < 30000; ++Round)
 	{
 		std::string Text;
@@ -108,7 +109,8 @@ TEST(EncodingModel, Base64RoundTripsAndRefusesEveryBrokenLength)
 			}
 			if (Len > 0)
 			{
-				for (const TCHAR Bad : {u' ', u'\n', u'!', u'\u0141', Mode == EBase64Mode::Standard ? u'-' : u'+', Mode == EBase64Mode::Standard ? u'_' : u'/'})
+				for (const TCHAR Bad : {u' ', u'\n', u'!', u'\u0141', Mode == EBase64Mode::Standard ? u'-' : u'+',
+						 Mode == EBase64Mode::Standard ? u'_' : u'/'})
 				{
 					FString Broken = Text;
 					Broken[static_cast<int32>(Random() % 2)] = Bad;
@@ -118,7 +120,8 @@ TEST(EncodingModel, Base64RoundTripsAndRefusesEveryBrokenLength)
 		}
 	}
 	TArray<uint8> Decoded;
-	for (const TCHAR* const Bad : {TEXT("="), TEXT("=="), TEXT("===="), TEXT("A==="), TEXT("AA=A"), TEXT("AAAA===="), TEXT("AAA=AAAA"), TEXT("AA==AA==")})
+	for (const TCHAR* const Bad :
+		{TEXT("="), TEXT("=="), TEXT("===="), TEXT("A==="), TEXT("AA=A"), TEXT("AAAA===="), TEXT("AAA=AAAA"), TEXT("AA==AA==")})
 	{
 		EXPECT_FALSE(FBase64::Decode(Bad, Decoded)) << TCHAR_TO_UTF8(Bad);
 	}

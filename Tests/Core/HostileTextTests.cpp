@@ -101,7 +101,8 @@ TEST(HostileTexts, PatternsFormatToTheLetter)
 	{
 		EXPECT_EQ(Utf8(FText::Format(FText::FromString(Case.Pattern), Named).ToString()), Case.Expected) << Utf8(Case.Pattern);
 	}
-	for (const TCHAR* const Index : {TEXT("{-1}"), TEXT("{2}"), TEXT("{4294967296}"), TEXT("{99999999999999999999}"), TEXT("{0x0}"), TEXT("{1.0}"), TEXT("{\u0660}")})
+	for (const TCHAR* const Index :
+		{TEXT("{-1}"), TEXT("{2}"), TEXT("{4294967296}"), TEXT("{99999999999999999999}"), TEXT("{0x0}"), TEXT("{1.0}"), TEXT("{\u0660}")})
 	{
 		EXPECT_EQ(Utf8(FText::Format(FText::FromString(Index), 1, 2).ToString()), Utf8(Index));
 	}
@@ -191,7 +192,8 @@ TEST(HostileTexts, StrippingThePackageReachesTheArguments)
 	FFormatNamedArguments Named;
 	Named.Add(TEXT("A"), FText::Format(INVTEXT("{0}"), Own));
 	EXPECT_EQ(Utf8(Exported(FText::Format(Own, MoveTemp(Named)), true)),
-		"LOCGEN_FORMAT_NAMED(NSLOCTEXT(\"Door\", \"K\", \"S\"), \"A\", LOCGEN_FORMAT_ORDERED(INVTEXT(\"{0}\"), NSLOCTEXT(\"Door\", \"K\", \"S\")))");
+		"LOCGEN_FORMAT_NAMED(NSLOCTEXT(\"Door\", \"K\", \"S\"), \"A\", LOCGEN_FORMAT_ORDERED(INVTEXT(\"{0}\"), NSLOCTEXT(\"Door\", "
+		"\"K\", \"S\")))");
 }
 
 TEST(HostileTexts, NumbersAtTheirLimits)

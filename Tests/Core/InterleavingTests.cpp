@@ -88,8 +88,9 @@ TEST(Interleavings, ThreadsThatRaceForNewNamesGetTheSameOnes)
 
 TEST(Interleavings, NamesPrintBackWhateverTheirNumberLooksLike)
 {
-	for (const TCHAR* const Text : {TEXT("N_0"), TEXT("N_00"), TEXT("N_01"), TEXT("N_1"), TEXT("N_"), TEXT("_1"), TEXT("__1"), TEXT("1"), TEXT("N_-1"), TEXT("N_1_2"), TEXT("N_2147483645"),
-			 TEXT("N_2147483646"), TEXT("N_2147483647"), TEXT("N_2147483648"), TEXT("N_4294967295"), TEXT("N_99999999999"), TEXT("N_\u0661"), TEXT("\u00C4_7"), TEXT("N 1"), TEXT(" ")})
+	for (const TCHAR* const Text : {TEXT("N_0"), TEXT("N_00"), TEXT("N_01"), TEXT("N_1"), TEXT("N_"), TEXT("_1"), TEXT("__1"), TEXT("1"),
+			 TEXT("N_-1"), TEXT("N_1_2"), TEXT("N_2147483645"), TEXT("N_2147483646"), TEXT("N_2147483647"), TEXT("N_2147483648"),
+			 TEXT("N_4294967295"), TEXT("N_99999999999"), TEXT("N_\u0661"), TEXT("\u00C4_7"), TEXT("N 1"), TEXT(" ")})
 	{
 		EXPECT_EQ(std::string(TCHAR_TO_UTF8(*FName(Text).ToString())), std::string(TCHAR_TO_UTF8(Text)));
 		EXPECT_EQ(FName(Text), FName(*FString(Text).ToUpper()));

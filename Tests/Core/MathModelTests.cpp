@@ -130,7 +130,8 @@ TEST_F(FMathModelTest, ColoursRoundTripInEveryForm)
 		EXPECT_EQ(Read, Color);
 	}
 	EXPECT_EQ(FLinearColor(INFINITY, -INFINITY, NAN, 1e30f).ToFColor(true), FColor(255, 0, 0, 255));
-	for (const TCHAR* const Bad : {TEXT(""), TEXT("#"), TEXT("1"), TEXT("12"), TEXT("##123456"), TEXT("12345G"), TEXT("1234567"), TEXT("123456789"), TEXT("-12345")})
+	for (const TCHAR* const Bad : {TEXT(""), TEXT("#"), TEXT("1"), TEXT("12"), TEXT("##123456"), TEXT("12345G"), TEXT("1234567"),
+			 TEXT("123456789"), TEXT("-12345")})
 	{
 		EXPECT_EQ(FColor::FromHex(Bad), FColor(0, 0, 0, 0)) << TCHAR_TO_UTF8(Bad);
 	}

@@ -91,7 +91,8 @@ TEST(ParseTables, ValuesStopWhereTheyShould)
 	for (const FCase& Case : Cases)
 	{
 		FString Value = TEXT("old");
-		EXPECT_EQ(FParse::Value(Case.Text, TEXT("Key="), Value, Case.bStopOnSeparator), Case.bFound) << (Case.Text != nullptr ? Utf8(Case.Text) : "null");
+		EXPECT_EQ(FParse::Value(Case.Text, TEXT("Key="), Value, Case.bStopOnSeparator), Case.bFound)
+			<< (Case.Text != nullptr ? Utf8(Case.Text) : "null");
 		EXPECT_EQ(Utf8(Value), Case.Expected) << (Case.Text != nullptr ? Utf8(Case.Text) : "null");
 	}
 	FGuid Guid(1, 2, 3, 4);

@@ -20,7 +20,8 @@ TEST(Parse, TokensKeepQuotedPartsTogether)
 
 TEST(Parse, ValuesAreFoundAsWholeWordsOutsideQuotes)
 {
-	const TCHAR* const Text = TEXT("Begin Object Class=/Script/Engine.Actor MyName=\"wrong\" Comment=\"Name=inner\" Name=\"K2Node_0\" Pos=(X=-12,Y=3.5) bOn=True");
+	const TCHAR* const Text = TEXT(
+		"Begin Object Class=/Script/Engine.Actor MyName=\"wrong\" Comment=\"Name=inner\" Name=\"K2Node_0\" Pos=(X=-12,Y=3.5) bOn=True");
 	FString Value;
 	EXPECT_TRUE(FParse::Value(Text, TEXT("NAME="), Value));
 	EXPECT_TRUE(Value.Equals(TEXT("K2Node_0")));

@@ -140,8 +140,9 @@ TEST(ConfigOperators, ApplyInTheOrderOfTheirLines)
 
 TEST(ConfigOperators, WhatIsWrittenOverALayerReadsBack)
 {
-	static const TCHAR* const Choices[] = {TEXT("a"), TEXT("A"), TEXT(""), TEXT(" edge "), TEXT("\"q\""), TEXT("tail\\"), TEXT("two\nlines"), TEXT("x=y"),
-		TEXT("; no comment"), TEXT("[no section]"), TEXT("\ttab"), TEXT("+plus"), TEXT("\u00A0"), TEXT("in \"the\" middle\\n")};
+	static const TCHAR* const Choices[] = {TEXT("a"), TEXT("A"), TEXT(""), TEXT(" edge "), TEXT("\"q\""), TEXT("tail\\"),
+		TEXT("two\nlines"), TEXT("x=y"), TEXT("; no comment"), TEXT("[no section]"), TEXT("\ttab"), TEXT("+plus"), TEXT("\u00A0"),
+		TEXT("in \"the\" middle\\n")};
 	static const TCHAR* const Keys[] = {TEXT("K"), TEXT("L"), TEXT("M.N")};
 	std::mt19937 Random(2);
 	for (int32 Round = 0; Round < 3000; ++Round)

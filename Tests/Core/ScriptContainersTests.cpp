@@ -109,10 +109,12 @@ TEST(ScriptMap, LaysPairsWhereTheTypedMapHasThem)
 	const FScriptMapLayout WideLayout = LayoutOf<FString, uint8>();
 	FScriptMap& WideScript = reinterpret_cast<FScriptMap&>(Wide);
 	const FString NewKey = TEXT("C");
-	uint8* const NewValue = static_cast<uint8*>(WideScript.FindOrAdd(&NewKey, WideLayout, HashString, StringsAreEqual, [&NewKey](void* Key, void* Value)
+	uint8* const NewValue = static_cast<uint8*>(WideScript.FindOrAdd(&NewKey, WideLayout, HashString, StringsAreEqual,
+		[&NewKey](void* Key, void* Value)
 		{
-		new (Key) FString(NewKey);
-		*static_cast<uint8*>(Value) = 0; }));
+			new (Key) FString(NewKey);
+			*static_cast<uint8*>(Value) = 0;
+		}));
 	*NewValue = 3;
 	EXPECT_EQ(Wide.FindRef(TEXT("c")), 3);
 	EXPECT_EQ(Wide.FindRef(TEXT("b")), 2);

@@ -71,7 +71,9 @@ TEST(StringModel, SearchesAgreeWithTheStandardLibrary)
 		EXPECT_EQ(Text.Find(Search, ESearchCase::IgnoreCase), Place(ToModel(Text.ToLower()).find(ToModel(Search.ToLower())))) << Context();
 		if (Start <= Text.Len())
 		{
-			EXPECT_EQ(Text.Find(Search, ESearchCase::CaseSensitive, ESearchDir::FromStart, Start), Place(Model.find(Needle, static_cast<size_t>(Start)))) << Context();
+			EXPECT_EQ(Text.Find(Search, ESearchCase::CaseSensitive, ESearchDir::FromStart, Start),
+				Place(Model.find(Needle, static_cast<size_t>(Start))))
+				<< Context();
 			const std::u16string Head = Model.substr(0, static_cast<size_t>(Start));
 			EXPECT_EQ(Text.Find(Search, ESearchCase::CaseSensitive, ESearchDir::FromEnd, Start), Place(Head.rfind(Needle))) << Context();
 		}
@@ -418,7 +420,8 @@ TEST(StringTables, WildcardsAgreeWithARecursiveModel)
 		{
 			Pattern += TEXT("ab*?")[Random() % 4];
 		}
-		ASSERT_EQ(Text.MatchesWildcard(Pattern, ESearchCase::CaseSensitive), FModel::Matches(*Text, *Pattern)) << Utf8(Text) << " " << Utf8(Pattern);
+		ASSERT_EQ(Text.MatchesWildcard(Pattern, ESearchCase::CaseSensitive), FModel::Matches(*Text, *Pattern))
+			<< Utf8(Text) << " " << Utf8(Pattern);
 	}
 }
 

@@ -36,7 +36,8 @@ TEST(Texts, FormsReadAndWriteToTheLetter)
 		TEXT("NSLOCTEXT(\"[9C9868C74FCF3E7AFDEB778F8C9EA988]\", \"4807\", \"Only used if \\'X\\' \\\"y\\\"\\n\")"),
 		TEXT("LOCTABLE(\"/Game/Table.Table\", \"Key\")"),
 		TEXT("INVTEXT(\"as \\\"is\\\"\")"),
-		TEXT("LOCGEN_FORMAT_ORDERED(NSLOCTEXT(\"PCGSettings\", \"Tip\", \"{0}Attribute type is \\\"{1}\\\"\"), \"\", NSLOCTEXT(\"\", \"16C4\", \"bool\"), \"int32\", 5, 1.5f)"),
+		TEXT("LOCGEN_FORMAT_ORDERED(NSLOCTEXT(\"PCGSettings\", \"Tip\", \"{0}Attribute type is \\\"{1}\\\"\"), \"\", NSLOCTEXT(\"\", "
+			 "\"16C4\", \"bool\"), \"int32\", 5, 1.5f)"),
 		TEXT("LOCGEN_FORMAT_NAMED(INVTEXT(\"{A}\"), \"A\", \"x\")"),
 		TEXT("\"plain \\\\ text\""),
 	};
@@ -59,7 +60,8 @@ TEST(Texts, ReadingStopsBehindTheFormAndRefusesBrokenOnes)
 	EXPECT_TRUE(FString(End).Equals(TEXT(",Next=1")));
 	EXPECT_TRUE(Text.ToString().Equals(TEXT("c")));
 
-	for (const TCHAR* const Broken : {TEXT("NSLOCTEXT(\"a\", \"b\""), TEXT("NSLOCTEXT(a, b, c)"), TEXT("\"open"), TEXT("LOCTABLE()"), TEXT("bare")})
+	for (const TCHAR* const Broken :
+		{TEXT("NSLOCTEXT(\"a\", \"b\""), TEXT("NSLOCTEXT(a, b, c)"), TEXT("\"open"), TEXT("LOCTABLE()"), TEXT("bare")})
 	{
 		EXPECT_EQ(FTextStringHelper::ReadFromBuffer(Broken, Text, nullptr, nullptr, true), nullptr) << TCHAR_TO_UTF8(Broken);
 	}
@@ -101,7 +103,8 @@ TEST(Texts, NumbersGroupAndRound)
 	EXPECT_TRUE(FText::AsNumber(999).ToString().Equals(TEXT("999")));
 	EXPECT_TRUE(FText::AsNumber(1.00049).ToString().Equals(TEXT("1")));
 	EXPECT_TRUE(FText::AsNumber(2.5).ToString().Equals(TEXT("2.5")));
-	const FNumberFormattingOptions Options = FNumberFormattingOptions().SetMinimumFractionalDigits(2).SetMaximumFractionalDigits(2).SetUseGrouping(false);
+	const FNumberFormattingOptions Options =
+		FNumberFormattingOptions().SetMinimumFractionalDigits(2).SetMaximumFractionalDigits(2).SetUseGrouping(false);
 	EXPECT_TRUE(FText::AsNumber(12345.0, &Options).ToString().Equals(TEXT("12345.00")));
 	EXPECT_TRUE(FText::AsPercent(0.25).ToString().Equals(TEXT("25%")));
 }

@@ -246,11 +246,15 @@ FString FString::Format(const TCHAR* InFormatString, const FStringFormatNamedArg
 
 FString FString::Format(const TCHAR* InFormatString, const FStringFormatOrderedArguments& InOrderedArguments)
 {
-	return ReplaceBraces(FStringView(InFormatString), [&InOrderedArguments](FStringView Name) -> const FString*
+	return ReplaceBraces(FStringView(InFormatString),
+		[&InOrderedArguments](FStringView Name) -> const FString*
 		{
-		const bool bIsIndex = !Name.IsEmpty() && Name.Len() < 6 && std::all_of(Name.begin(), Name.end(), [](TCHAR Char) { return FChar::IsDigit(Char); });
-		const int32 Index = bIsIndex ? FCString::Atoi(*FString(Name)) : INDEX_NONE;
-		return Index >= 0 && Index < InOrderedArguments.Num() ? &InOrderedArguments[Index].Text : nullptr; });
+			const bool bIsIndex = !Name.IsEmpty() && Name.Len() < 6 &&
+				std::all_of(Name.begin(), Name.end(), [](TCHAR Char)
+					{ return FChar::IsDigit(Char); });
+			const int32 Index = bIsIndex ? FCString::Atoi(*FString(Name)) : INDEX_NONE;
+			return Index >= 0 && Index < InOrderedArguments.Num() ? &InOrderedArguments[Index].Text : nullptr;
+		});
 }
 
 bool FString::MatchesWildcard(FStringView Wildcard, ESearchCase::Type SearchCase) const

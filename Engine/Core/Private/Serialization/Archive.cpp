@@ -68,7 +68,9 @@ void FArchiveState::CopyFrom(const FArchiveState& Other)
 	ArLicenseeUEVer = Other.ArLicenseeUEVer;
 	SerializedProperty = Other.SerializedProperty;
 	bCustomVersionsAreReset = Other.bCustomVersionsAreReset;
-	FCustomVersionContainer* const Copied = Other.CustomVersionContainer != nullptr ? new FCustomVersionContainer(*Other.CustomVersionContainer) : nullptr;
+	FCustomVersionContainer* const Copied = Other.CustomVersionContainer != nullptr
+		? new FCustomVersionContainer(*Other.CustomVersionContainer)
+		: nullptr;
 	delete CustomVersionContainer;
 	CustomVersionContainer = Copied;
 }

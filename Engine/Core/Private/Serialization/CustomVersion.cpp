@@ -132,7 +132,8 @@ void FCurrentCustomVersions::Register(const FGuid& Key, int32 Version, const TCH
 	FRegistry& Registry = GetRegistry();
 	FScopeLock Lock(&Registry.Lock);
 	FRegisteredVersion& Registered = Registry.Versions.FindOrAdd(Key);
-	checkf(Registered.ReferenceCount == 0 || Registered.Version == Version, TEXT("Custom version %s is registered as %d and as %d"), FriendlyName, Registered.Version, Version);
+	checkf(Registered.ReferenceCount == 0 || Registered.Version == Version, TEXT("Custom version %s is registered as %d and as %d"),
+		FriendlyName, Registered.Version, Version);
 	Registered.Version = Version;
 	Registered.FriendlyName = FriendlyName;
 	++Registered.ReferenceCount;

@@ -293,7 +293,8 @@ int32 FName::Compare(const FName& Other) const
 
 bool FName::IsEqual(const FName& Other, ENameCase CompareMethod, bool bCompareNumber) const
 {
-	const bool bSameText = CompareMethod == ENameCase::IgnoreCase ? ComparisonIndex == Other.ComparisonIndex : DisplayIndex == Other.DisplayIndex;
+	const bool bSameText = CompareMethod == ENameCase::IgnoreCase ? ComparisonIndex == Other.ComparisonIndex
+																  : DisplayIndex == Other.DisplayIndex;
 	return bSameText && (!bCompareNumber || Number == Other.Number);
 }
 

@@ -1,86 +1,20 @@
 #pragma once
 
-#include "Containers/AllowShrinking.h"
-#include "Containers/ContainerAllocationPolicies.h"
+#include "Containers/ArrayOrdering.h"
+#include "Containers/ArrayQueries.h"
+#include "Containers/ArrayStorage.h"
 #include "Containers/ContainersFwd.h"
+#include "Containers/IndexedContainerIterator.h"
 #include "CoreTypes.h"
 #include "Misc/AssertionMacros.h"
 #include "Templates/IdentityFunctor.h"
 #include "Templates/Invoke.h"
-#include "Templates/Less.h"
 #include "Templates/MemoryOps.h"
-#include "Templates/Sorting.h"
 #include "Templates/TypeHash.h"
 #include "Templates/UnrealTemplate.h"
 #include "Traits/ElementType.h"
 
 #include <initializer_list>
-#include <iterator>
-
-/** An iterator by index that survives growth of its container and can remove its current element. */
-template <typename ContainerType, typename ElementType, typename SizeType>
-class TIndexedContainerIterator
-{
-public:
-	explicit TIndexedContainerIterator(ContainerType& InContainer, SizeType StartIndex = 0)
-		: Container(InContainer)
-		, Index(StartIndex)
-	{
-	}
-
-	TIndexedContainerIterator& operator++()
-	{
-		++Index;
-		return *this;
-	}
-	TIndexedContainerIterator operator++(int)
-	{
-		TIndexedContainerIterator Old(*this);
-		++Index;
-		return Old;
-	}
-	TIndexedContainerIterator& operator--()
-	{
-		--Index;
-		return *this;
-	}
-	TIndexedContainerIterator& operator+=(SizeType Offset)
-	{
-		Index += Offset;
-		return *this;
-	}
-	TIndexedContainerIterator operator+(SizeType Offset) const
-	{
-		TIndexedContainerIterator Result(*this);
-		return Result += Offset;
-	}
-	ElementType& operator*() const { return Container[Index]; }
-	ElementType* operator->() const { return &Container[Index]; }
-	explicit operator bool() const { return Container.IsValidIndex(Index); }
-	SizeType GetIndex() const { return Index; }
-	void Reset() { Index = 0; }
-	void SetToEnd() { Index = Container.Num(); }
-	void Insert(const ElementType& Item) { Container.Insert(Item, Index); }
-
-	/** Removes the current element; the next ++ stands on the one that followed it. */
-	void RemoveCurrent()
-	{
-		Container.RemoveAt(Index);
-		--Index;
-	}
-	/** As RemoveCurrent, but fills the hole with the last element. */
-	void RemoveCurrentSwap()
-	{
-		Container.RemoveAtSwap(Index);
-		--Index;
-	}
-
-	friend bool operator==(const TIndexedContainerIterator& A, const TIndexedContainerIterator& B) { return &A.Container == &B.Container && A.Index == B.Index; }
-
-private:
-	ContainerType& Container;
-	SizeType Index;
-};
 
 /** Specialised for types whose archive form is their bytes, so that an array of them is read and written at once. */
 template <typename T>
@@ -94,17 +28,22 @@ struct TCanBulkSerialize : TIntegralConstant<bool, std::is_arithmetic_v<T> && !s
  * to itself is allowed.
  */
 template <typename InElementType, typename InAllocatorType>
-class TArray
+class TArray : public TArrayStorage<InElementType, InAllocatorType>,
+			   public TArrayQueries<TArray<InElementType, InAllocatorType>, InElementType, typename InAllocatorType::SizeType>,
+			   public TArrayOrdering<TArray<InElementType, InAllocatorType>, InElementType, typename InAllocatorType::SizeType>
 {
 	template <typename OtherElementType, typename OtherAllocator>
 	friend class TArray;
+
+	using Storage = TArrayStorage<InElementType, InAllocatorType>;
+	using Queries = TArrayQueries<TArray, InElementType, typename InAllocatorType::SizeType>;
 
 public:
 	using ElementType = InElementType;
 	using AllocatorType = InAllocatorType;
 	using Allocator = InAllocatorType;
 	using SizeType = typename InAllocatorType::SizeType;
-	using ElementAllocatorType = typename InAllocatorType::template ForElementType<ElementType>;
+	using typename Storage::ElementAllocatorType;
 	using Iterator = TIndexedContainerIterator<TArray, ElementType, SizeType>;
 	using TIterator = Iterator;
 	using ConstIterator = TIndexedContainerIterator<const TArray, const ElementType, SizeType>;
@@ -112,11 +51,19 @@ public:
 	using RangedForIteratorType = ElementType*;
 	using RangedForConstIteratorType = const ElementType*;
 
-	TArray()
-		: ArrayNum(0)
-		, ArrayMax(AllocatorInstance.GetInitialCapacity())
-	{
-	}
+	using Queries::Find;
+	using Storage::AddUninitialized;
+	using Storage::Empty;
+	using Storage::GetData;
+	using Storage::InsertUninitialized;
+	using Storage::Num;
+	using Storage::RangeCheck;
+	using Storage::RemoveAt;
+	using Storage::RemoveAtSwap;
+	using Storage::Reserve;
+	using Storage::Reset;
+
+	TArray() = default;
 
 	TArray(const ElementType* Ptr, SizeType Count)
 		: TArray()
@@ -167,12 +114,11 @@ public:
 		RelocateFrom(Other);
 	}
 
-	~TArray() { DestructItems(GetData(), ArrayNum); }
+	~TArray() = default;
 
 	TArray& operator=(std::initializer_list<InElementType> InitList)
 	{
-		DestructItems(GetData(), ArrayNum);
-		ArrayNum = 0;
+		DestructAll();
 		CopyToEmpty(InitList.begin(), static_cast<SizeType>(InitList.size()), 0);
 		return *this;
 	}
@@ -181,8 +127,7 @@ public:
 	{
 		if (this != &Other)
 		{
-			DestructItems(GetData(), ArrayNum);
-			ArrayNum = 0;
+			DestructAll();
 			CopyToEmpty(Other.GetData(), Other.Num(), 0);
 		}
 		return *this;
@@ -193,8 +138,7 @@ public:
 		TArray&
 		operator=(const TArray<ElementType, OtherAllocator>& Other)
 	{
-		DestructItems(GetData(), ArrayNum);
-		ArrayNum = 0;
+		DestructAll();
 		CopyToEmpty(Other.GetData(), static_cast<SizeType>(Other.Num()), 0);
 		return *this;
 	}
@@ -207,8 +151,7 @@ public:
 	{
 		if (this != &Other)
 		{
-			DestructItems(GetData(), ArrayNum);
-			ArrayNum = 0;
+			DestructAll();
 			MoveToEmpty(Other);
 		}
 		return *this;
@@ -224,41 +167,6 @@ public:
 		return *this;
 	}
 
-	ElementType* GetData() { return AllocatorInstance.GetAllocation(); }
-	const ElementType* GetData() const { return AllocatorInstance.GetAllocation(); }
-	static constexpr uint32 GetTypeSize() { return sizeof(ElementType); }
-	SIZE_T GetAllocatedSize() const { return AllocatorInstance.GetAllocatedSize(ArrayMax, sizeof(ElementType)); }
-	SizeType GetSlack() const { return ArrayMax - ArrayNum; }
-	SizeType Num() const { return ArrayNum; }
-	SIZE_T NumBytes() const { return static_cast<SIZE_T>(ArrayNum) * sizeof(ElementType); }
-	SizeType Max() const { return ArrayMax; }
-	bool IsEmpty() const { return ArrayNum == 0; }
-	bool IsValidIndex(SizeType Index) const { return Index >= 0 && Index < ArrayNum; }
-
-	void RangeCheck(SizeType Index) const
-	{
-		checkf(Index >= 0 && Index < ArrayNum, TEXT("Array index out of bounds: %lld into an array of size %lld"), static_cast<int64>(Index), static_cast<int64>(ArrayNum));
-	}
-
-	ElementType& operator[](SizeType Index)
-	{
-		RangeCheck(Index);
-		return GetData()[Index];
-	}
-	const ElementType& operator[](SizeType Index) const
-	{
-		RangeCheck(Index);
-		return GetData()[Index];
-	}
-	ElementType& Last(SizeType IndexFromTheEnd = 0)
-	{
-		RangeCheck(ArrayNum - IndexFromTheEnd - 1);
-		return GetData()[ArrayNum - IndexFromTheEnd - 1];
-	}
-	const ElementType& Last(SizeType IndexFromTheEnd = 0) const { return const_cast<TArray*>(this)->Last(IndexFromTheEnd); }
-	ElementType& Top() { return Last(); }
-	const ElementType& Top() const { return Last(); }
-
 	ElementType Pop(EAllowShrinking AllowShrinking = EAllowShrinking::Default)
 	{
 		RangeCheck(0);
@@ -269,136 +177,8 @@ public:
 	void Push(ElementType&& Item) { Add(MoveTempIfPossible(Item)); }
 	void Push(const ElementType& Item) { Add(Item); }
 
-	void Shrink()
-	{
-		if (ArrayMax != ArrayNum)
-		{
-			ResizeTo(ArrayNum);
-		}
-	}
-
-	bool FindLast(const ElementType& Item, SizeType& Index) const
-	{
-		Index = FindLast(Item);
-		return Index != INDEX_NONE;
-	}
-	SizeType FindLast(const ElementType& Item) const
-	{
-		return FindLastByPredicate([&Item](const ElementType& Element)
-			{ return Element == Item; });
-	}
-	template <typename Predicate>
-	SizeType FindLastByPredicate(Predicate Pred, SizeType Count) const
-	{
-		check(Count >= 0 && Count <= ArrayNum);
-		const ElementType* const Data = GetData();
-		for (SizeType Index = Count - 1; Index >= 0; --Index)
-		{
-			if (Invoke(Pred, Data[Index]))
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
-	template <typename Predicate>
-	SizeType FindLastByPredicate(Predicate Pred) const
-	{
-		return FindLastByPredicate(MoveTemp(Pred), ArrayNum);
-	}
-
-	template <typename KeyType>
-	SizeType IndexOfByKey(const KeyType& Key) const
-	{
-		const ElementType* const Data = GetData();
-		for (SizeType Index = 0; Index < ArrayNum; ++Index)
-		{
-			if (Data[Index] == Key)
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
-	template <typename Predicate>
-	SizeType IndexOfByPredicate(Predicate Pred) const
-	{
-		const ElementType* const Data = GetData();
-		for (SizeType Index = 0; Index < ArrayNum; ++Index)
-		{
-			if (Invoke(Pred, Data[Index]))
-			{
-				return Index;
-			}
-		}
-		return INDEX_NONE;
-	}
-	SizeType Find(const ElementType& Item) const { return IndexOfByKey(Item); }
-	bool Find(const ElementType& Item, SizeType& Index) const
-	{
-		Index = Find(Item);
-		return Index != INDEX_NONE;
-	}
-	template <typename KeyType>
-	ElementType* FindByKey(const KeyType& Key)
-	{
-		const SizeType Index = IndexOfByKey(Key);
-		return Index == INDEX_NONE ? nullptr : GetData() + Index;
-	}
-	template <typename KeyType>
-	const ElementType* FindByKey(const KeyType& Key) const
-	{
-		return const_cast<TArray*>(this)->FindByKey(Key);
-	}
-	template <typename Predicate>
-	ElementType* FindByPredicate(Predicate Pred)
-	{
-		const SizeType Index = IndexOfByPredicate(MoveTemp(Pred));
-		return Index == INDEX_NONE ? nullptr : GetData() + Index;
-	}
-	template <typename Predicate>
-	const ElementType* FindByPredicate(Predicate Pred) const
-	{
-		return const_cast<TArray*>(this)->FindByPredicate(MoveTemp(Pred));
-	}
-	template <typename Predicate>
-	TArray FilterByPredicate(Predicate Pred) const
-	{
-		TArray Result;
-		for (const ElementType& Element : *this)
-		{
-			if (Invoke(Pred, Element))
-			{
-				Result.Add(Element);
-			}
-		}
-		return Result;
-	}
-	template <typename KeyType>
-	bool Contains(const KeyType& Item) const
-	{
-		return IndexOfByKey(Item) != INDEX_NONE;
-	}
-	template <typename Predicate>
-	bool ContainsByPredicate(Predicate Pred) const
-	{
-		return IndexOfByPredicate(MoveTemp(Pred)) != INDEX_NONE;
-	}
-
 	bool operator==(const TArray& Other) const { return ArrayNum == Other.ArrayNum && CompareItems(GetData(), Other.GetData(), ArrayNum); }
 
-	/** Makes room for Count elements at the end without constructing them; answers the index of the first. */
-	SizeType AddUninitialized(SizeType Count = 1)
-	{
-		check(Count >= 0);
-		const SizeType OldNum = ArrayNum;
-		if (Count > ArrayMax - ArrayNum)
-		{
-			GrowBy(Count);
-		}
-		ArrayNum = OldNum + Count;
-		return OldNum;
-	}
 	SizeType AddZeroed(SizeType Count = 1)
 	{
 		const SizeType Index = AddUninitialized(Count);
@@ -469,7 +249,8 @@ public:
 		RelocateFrom(Source);
 	}
 	template <typename ContainerType>
-	requires(TIsContiguousContainer<ContainerType>::Value && !std::is_array_v<std::remove_reference_t<ContainerType>>) void Append(const ContainerType& Source)
+	requires(TIsContiguousContainer<ContainerType>::Value && !std::is_array_v<std::remove_reference_t<ContainerType>>) void Append(
+		const ContainerType& Source)
 	{
 		Append(GetDataOf(Source), static_cast<SizeType>(GetNum(Source)));
 	}
@@ -505,14 +286,6 @@ public:
 		return *this;
 	}
 
-	void InsertUninitialized(SizeType Index, SizeType Count = 1)
-	{
-		check(Count >= 0 && Index >= 0 && Index <= ArrayNum);
-		const SizeType OldNum = ArrayNum;
-		AddUninitialized(Count);
-		ElementType* const Data = GetData() + Index;
-		RelocateConstructItems(static_cast<void*>(Data + Count), Data, OldNum - Index);
-	}
 	void InsertZeroed(SizeType Index, SizeType Count = 1)
 	{
 		InsertUninitialized(Index, Count);
@@ -553,7 +326,10 @@ public:
 		EmplaceAt(Index, Item);
 		return GetData()[Index];
 	}
-	SizeType Insert(std::initializer_list<ElementType> InitList, SizeType Index) { return Insert(InitList.begin(), static_cast<SizeType>(InitList.size()), Index); }
+	SizeType Insert(std::initializer_list<ElementType> InitList, SizeType Index)
+	{
+		return Insert(InitList.begin(), static_cast<SizeType>(InitList.size()), Index);
+	}
 	template <typename OtherAllocator>
 	SizeType Insert(const TArray<ElementType, OtherAllocator>& Items, SizeType Index)
 	{
@@ -567,7 +343,7 @@ public:
 		const SizeType Count = static_cast<SizeType>(Items.Num());
 		InsertUninitialized(Index, Count);
 		RelocateConstructItems(static_cast<void*>(GetData() + Index), Items.GetData(), Count);
-		Items.ArrayNum = 0;
+		Items.SetNumUnsafeInternal(0);
 		return Index;
 	}
 	SizeType Insert(const ElementType* Ptr, SizeType Count, SizeType Index)
@@ -591,37 +367,6 @@ public:
 		EmplaceAt(Index, Forward<ArgsType>(Args)...);
 		return GetData()[Index];
 	}
-
-	void RemoveAt(SizeType Index, SizeType Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		check(Count >= 0 && Index >= 0 && Count <= ArrayNum && Index <= ArrayNum - Count);
-		if (Count == 0)
-		{
-			return;
-		}
-		ElementType* const Data = GetData() + Index;
-		DestructItems(Data, Count);
-		RelocateConstructItems(static_cast<void*>(Data), Data + Count, ArrayNum - Index - Count);
-		ArrayNum -= Count;
-		ShrinkIfAllowed(AllowShrinking);
-	}
-	void RemoveAt(SizeType Index, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { RemoveAt(Index, 1, AllowShrinking); }
-	void RemoveAtSwap(SizeType Index, SizeType Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		check(Count >= 0 && Index >= 0 && Count <= ArrayNum && Index <= ArrayNum - Count);
-		if (Count == 0)
-		{
-			return;
-		}
-		ElementType* const Data = GetData() + Index;
-		DestructItems(Data, Count);
-		const SizeType NumAfterHole = ArrayNum - Index - Count;
-		const SizeType NumToMove = NumAfterHole < Count ? NumAfterHole : Count;
-		RelocateConstructItems(static_cast<void*>(Data), GetData() + (ArrayNum - NumToMove), NumToMove);
-		ArrayNum -= Count;
-		ShrinkIfAllowed(AllowShrinking);
-	}
-	void RemoveAtSwap(SizeType Index, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { RemoveAtSwap(Index, 1, AllowShrinking); }
 
 	/** Removes every equal element, keeping the order; answers how many. */
 	SizeType Remove(const ElementType& Item)
@@ -703,37 +448,6 @@ public:
 		RemoveAtSwap(Index, 1, AllowShrinking);
 		return 1;
 	}
-
-	/** Empties the array and keeps its memory, or grows it to NewSize. */
-	void Reset(SizeType NewSize = 0)
-	{
-		if (NewSize > ArrayMax)
-		{
-			Empty(NewSize);
-			return;
-		}
-		DestructItems(GetData(), ArrayNum);
-		ArrayNum = 0;
-	}
-	/** Empties the array and gives its memory back, except room for Slack elements. */
-	void Empty(SizeType Slack = 0)
-	{
-		check(Slack >= 0);
-		DestructItems(GetData(), ArrayNum);
-		ArrayNum = 0;
-		if (ArrayMax != Slack)
-		{
-			ResizeTo(Slack);
-		}
-	}
-	void Reserve(SizeType Number)
-	{
-		check(Number >= 0);
-		if (Number > ArrayMax)
-		{
-			ResizeTo(Number);
-		}
-	}
 	void SetNum(SizeType NewNum, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
 	{
 		if (NewNum > ArrayNum)
@@ -756,23 +470,6 @@ public:
 			RemoveAt(NewNum, ArrayNum - NewNum, AllowShrinking);
 		}
 	}
-	void SetNumUninitialized(SizeType NewNum, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		if (NewNum > ArrayNum)
-		{
-			AddUninitialized(NewNum - ArrayNum);
-		}
-		else
-		{
-			RemoveAt(NewNum, ArrayNum - NewNum, AllowShrinking);
-		}
-	}
-	/** Sets the count alone; nothing is constructed or destructed, and no memory is had or given. */
-	void SetNumUnsafeInternal(SizeType NewNum)
-	{
-		checkSlow(NewNum <= ArrayMax && NewNum >= 0);
-		ArrayNum = NewNum;
-	}
 	/** Fills the array with Count copies of Element. */
 	void Init(const ElementType& Element, SizeType Count)
 	{
@@ -784,111 +481,22 @@ public:
 		}
 	}
 
-	void Swap(SizeType First, SizeType Second) { SwapMemory(First, Second); }
-	void SwapMemory(SizeType First, SizeType Second)
-	{
-		RangeCheck(First);
-		RangeCheck(Second);
-		::Swap(GetData()[First], GetData()[Second]);
-	}
-
-	/** Sorts by operator<, or by the predicate; elements that are pointers are dereferenced for both. Not stable. */
-	void Sort() { ::Sort(GetData(), ArrayNum); }
-	template <typename Predicate>
-	void Sort(const Predicate& Pred)
-	{
-		::Sort(GetData(), ArrayNum, Pred);
-	}
-	void StableSort() { ::StableSort(GetData(), ArrayNum); }
-	template <typename Predicate>
-	void StableSort(const Predicate& Pred)
-	{
-		::StableSort(GetData(), ArrayNum, Pred);
-	}
-
-	/** The heap functions keep the least element, by the predicate, at the top (index 0). */
-	void Heapify() { Heapify(TLess<>()); }
-	template <typename Predicate>
-	void Heapify(const Predicate& Pred)
-	{
-		UE::Core::Private::MakeHeap(GetData(), ArrayNum, Pred);
-	}
-	SizeType HeapPush(ElementType&& Item) { return HeapPush(MoveTempIfPossible(Item), TLess<>()); }
-	SizeType HeapPush(const ElementType& Item) { return HeapPush(Item, TLess<>()); }
-	template <typename Predicate>
-	SizeType HeapPush(ElementType&& Item, const Predicate& Pred)
-	{
-		Add(MoveTempIfPossible(Item));
-		return UE::Core::Private::SiftUp(GetData(), SizeType(0), ArrayNum - 1, Pred);
-	}
-	template <typename Predicate>
-	SizeType HeapPush(const ElementType& Item, const Predicate& Pred)
-	{
-		Add(Item);
-		return UE::Core::Private::SiftUp(GetData(), SizeType(0), ArrayNum - 1, Pred);
-	}
-	void HeapPop(ElementType& OutItem, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { HeapPop(OutItem, TLess<>(), AllowShrinking); }
-	template <typename Predicate>
-	void HeapPop(ElementType& OutItem, const Predicate& Pred, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		OutItem = MoveTemp(HeapTop());
-		HeapPopDiscard(Pred, AllowShrinking);
-	}
-	void HeapPopDiscard(EAllowShrinking AllowShrinking = EAllowShrinking::Default) { HeapPopDiscard(TLess<>(), AllowShrinking); }
-	template <typename Predicate>
-	void HeapPopDiscard(const Predicate& Pred, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		RemoveAtSwap(0, 1, AllowShrinking);
-		UE::Core::Private::SiftDown(GetData(), SizeType(0), ArrayNum, Pred);
-	}
-	void HeapRemoveAt(SizeType Index, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { HeapRemoveAt(Index, TLess<>(), AllowShrinking); }
-	template <typename Predicate>
-	void HeapRemoveAt(SizeType Index, const Predicate& Pred, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
-	{
-		RemoveAtSwap(Index, 1, AllowShrinking);
-		UE::Core::Private::SiftDown(GetData(), Index, ArrayNum, Pred);
-		if (Index < ArrayNum)
-		{
-			UE::Core::Private::SiftUp(GetData(), SizeType(0), Index, Pred);
-		}
-	}
-	void HeapSort() { ::Sort(GetData(), ArrayNum); }
-	template <typename Predicate>
-	void HeapSort(const Predicate& Pred)
-	{
-		::Sort(GetData(), ArrayNum, Pred);
-	}
-	ElementType& HeapTop() { return (*this)[0]; }
-	const ElementType& HeapTop() const { return (*this)[0]; }
-	void VerifyHeap() const { checkSlow(UE::Core::Private::IsHeap(GetData(), ArrayNum, TLess<>())); }
-
 	Iterator CreateIterator() { return Iterator(*this); }
 	ConstIterator CreateConstIterator() const { return ConstIterator(*this); }
 
-	ElementType* begin() { return GetData(); }
-	const ElementType* begin() const { return GetData(); }
-	ElementType* end() { return GetData() + ArrayNum; }
-	const ElementType* end() const { return GetData() + ArrayNum; }
-	auto rbegin() { return std::make_reverse_iterator(end()); }
-	auto rbegin() const { return std::make_reverse_iterator(end()); }
-	auto rend() { return std::make_reverse_iterator(begin()); }
-	auto rend() const { return std::make_reverse_iterator(begin()); }
-
-	ElementAllocatorType& GetAllocatorInstance() { return AllocatorInstance; }
-	const ElementAllocatorType& GetAllocatorInstance() const { return AllocatorInstance; }
-
 private:
+	using Storage::ArrayMax;
+	using Storage::ArrayNum;
+	using Storage::CopyToEmpty;
+	using Storage::DestructAll;
+	using Storage::IsOwnAddress;
+	using Storage::MoveToEmpty;
+	using Storage::ShrinkIfAllowed;
+
 	template <typename ContainerType>
 	static auto GetDataOf(const ContainerType& Container)
 	{
 		return ::GetData(Container);
-	}
-
-	bool IsOwnAddress(const void* Address) const
-	{
-		const uint8* const First = reinterpret_cast<const uint8*>(GetData());
-		const uint8* const Byte = static_cast<const uint8*>(Address);
-		return Byte >= First && Byte < First + static_cast<SIZE_T>(ArrayMax) * sizeof(ElementType);
 	}
 
 	// The arguments may refer to an element of this array, so the new one is made before the memory moves.
@@ -902,76 +510,14 @@ private:
 		return Index;
 	}
 
-	FORCENOINLINE void GrowBy(SizeType Count)
-	{
-		checkf(Count <= std::numeric_limits<SizeType>::max() - ArrayNum, TEXT("Array of %lld elements cannot grow by %lld"), static_cast<int64>(ArrayNum), static_cast<int64>(Count));
-		const SizeType NewMax = AllocatorInstance.CalculateSlackGrow(ArrayNum + Count, ArrayMax, sizeof(ElementType));
-		AllocatorInstance.ResizeAllocation(ArrayNum, NewMax, sizeof(ElementType));
-		ArrayMax = NewMax;
-	}
-
-	void ResizeTo(SizeType NewMax)
-	{
-		if (NewMax != 0)
-		{
-			NewMax = AllocatorInstance.CalculateSlackReserve(NewMax, sizeof(ElementType));
-		}
-		const SizeType InlineMax = AllocatorInstance.GetInitialCapacity();
-		NewMax = NewMax < InlineMax ? InlineMax : NewMax;
-		if (NewMax != ArrayMax)
-		{
-			ArrayMax = NewMax;
-			AllocatorInstance.ResizeAllocation(ArrayNum, ArrayMax, sizeof(ElementType));
-		}
-	}
-
-	void ShrinkIfAllowed(EAllowShrinking AllowShrinking)
-	{
-		if (AllowShrinking != EAllowShrinking::Yes)
-		{
-			return;
-		}
-		const SizeType NewMax = AllocatorInstance.CalculateSlackShrink(ArrayNum, ArrayMax, sizeof(ElementType));
-		if (NewMax != ArrayMax)
-		{
-			AllocatorInstance.ResizeAllocation(ArrayNum, NewMax, sizeof(ElementType));
-			ArrayMax = NewMax;
-		}
-	}
-
-	template <typename OtherElementType>
-	void CopyToEmpty(const OtherElementType* Source, SizeType Count, SizeType ExtraSlack)
-	{
-		check(ArrayNum == 0 && Count >= 0 && ExtraSlack >= 0);
-		if (Count > 0 || ExtraSlack > 0)
-		{
-			Reserve(Count + ExtraSlack);
-			ConstructItems<ElementType>(static_cast<void*>(GetData()), Source, Count);
-			ArrayNum = Count;
-		}
-	}
-
-	void MoveToEmpty(TArray& Other)
-	{
-		AllocatorInstance.MoveToEmpty(Other.AllocatorInstance);
-		ArrayNum = Other.ArrayNum;
-		ArrayMax = Other.ArrayMax;
-		Other.ArrayNum = 0;
-		Other.ArrayMax = Other.AllocatorInstance.GetInitialCapacity();
-	}
-
 	template <typename OtherAllocator>
 	void RelocateFrom(TArray<ElementType, OtherAllocator>& Source)
 	{
 		const SizeType Count = static_cast<SizeType>(Source.Num());
 		const SizeType Index = AddUninitialized(Count);
 		RelocateConstructItems(static_cast<void*>(GetData() + Index), Source.GetData(), Count);
-		Source.ArrayNum = 0;
+		Source.SetNumUnsafeInternal(0);
 	}
-
-	ElementAllocatorType AllocatorInstance;
-	SizeType ArrayNum;
-	SizeType ArrayMax;
 };
 
 template <typename ElementType, typename Allocator>

@@ -22,12 +22,15 @@ public:
 		check(ArrayNum >= 0);
 	}
 	template <typename ContainerType>
-	requires(TIsContiguousContainer<ContainerType>::Value&& IsCompatible<std::remove_pointer_t<decltype(GetData(std::declval<ContainerType&>()))>>) constexpr TArrayView(ContainerType&& Other UE_LIFETIMEBOUND)
+	requires(TIsContiguousContainer<ContainerType>::Value&&
+			IsCompatible<std::remove_pointer_t<decltype(GetData(std::declval<ContainerType&>()))>>) constexpr TArrayView(ContainerType&&
+			Other UE_LIFETIMEBOUND)
 		: DataPtr(::GetData(Other))
 		, ArrayNum(static_cast<SizeType>(::GetNum(Other)))
 	{
 	}
-	constexpr TArrayView(std::initializer_list<std::remove_const_t<InElementType>> List UE_LIFETIMEBOUND) requires std::is_const_v<InElementType>
+	constexpr TArrayView(
+		std::initializer_list<std::remove_const_t<InElementType>> List UE_LIFETIMEBOUND) requires std::is_const_v<InElementType>
 		: DataPtr(::GetData(List)), ArrayNum(static_cast<SizeType>(List.size()))
 	{
 	}
@@ -40,7 +43,8 @@ public:
 	constexpr bool IsValidIndex(SizeType Index) const { return Index >= 0 && Index < ArrayNum; }
 	ElementType& operator[](SizeType Index) const
 	{
-		checkf(IsValidIndex(Index), TEXT("Array index out of bounds: %lld into a view of size %lld"), static_cast<int64>(Index), static_cast<int64>(ArrayNum));
+		checkf(IsValidIndex(Index), TEXT("Array index out of bounds: %lld into a view of size %lld"), static_cast<int64>(Index),
+			static_cast<int64>(ArrayNum));
 		return DataPtr[Index];
 	}
 	ElementType& Last(SizeType IndexFromTheEnd = 0) const { return (*this)[ArrayNum - IndexFromTheEnd - 1]; }
@@ -148,7 +152,8 @@ TArrayView<ElementType> MakeArrayView(ElementType* Pointer, int32 Size)
 template <typename ContainerType>
 requires(TIsContiguousContainer<ContainerType>::Value) auto MakeConstArrayView(const ContainerType& Container)
 {
-	return TConstArrayView<std::remove_const_t<std::remove_pointer_t<decltype(GetData(Container))>>>(GetData(Container), static_cast<int32>(GetNum(Container)));
+	return TConstArrayView<std::remove_const_t<std::remove_pointer_t<decltype(GetData(Container))>>>(
+		GetData(Container), static_cast<int32>(GetNum(Container)));
 }
 
 template <typename ElementType>

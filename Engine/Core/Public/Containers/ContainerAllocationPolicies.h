@@ -29,7 +29,8 @@ SizeType DefaultCalculateSlackGrow(SizeType NumElements, SizeType NumAllocatedEl
 
 /** Elements to keep room for when an array has shrunk to NumElements. */
 template <typename SizeType>
-SizeType DefaultCalculateSlackShrink(SizeType NumElements, SizeType NumAllocatedElements, SIZE_T BytesPerElement, bool bAllowQuantize = true)
+SizeType DefaultCalculateSlackShrink(
+	SizeType NumElements, SizeType NumAllocatedElements, SIZE_T BytesPerElement, bool bAllowQuantize = true)
 {
 	const SIZE_T SlackElements = static_cast<SIZE_T>(NumAllocatedElements - NumElements);
 	const SIZE_T SlackBytes = SlackElements * BytesPerElement;
@@ -96,7 +97,10 @@ public:
 		void* GetAllocation() const { return Data; }
 		bool HasAllocation() const { return Data != nullptr; }
 		SizeType GetInitialCapacity() const { return 0; }
-		SIZE_T GetAllocatedSize(SizeType NumAllocatedElements, SIZE_T BytesPerElement) const { return static_cast<SIZE_T>(NumAllocatedElements) * BytesPerElement; }
+		SIZE_T GetAllocatedSize(SizeType NumAllocatedElements, SIZE_T BytesPerElement) const
+		{
+			return static_cast<SIZE_T>(NumAllocatedElements) * BytesPerElement;
+		}
 
 		void ResizeAllocation(SizeType CurrentNum, SizeType NewMax, SIZE_T BytesPerElement, uint32 Alignment = DEFAULT_ALIGNMENT)
 		{
@@ -108,8 +112,14 @@ public:
 			}
 		}
 
-		SizeType CalculateSlackGrow(SizeType NumElements, SizeType NumAllocated, SIZE_T BytesPerElement) const { return DefaultCalculateSlackGrow(NumElements, NumAllocated, BytesPerElement); }
-		SizeType CalculateSlackShrink(SizeType NumElements, SizeType NumAllocated, SIZE_T BytesPerElement) const { return DefaultCalculateSlackShrink(NumElements, NumAllocated, BytesPerElement); }
+		SizeType CalculateSlackGrow(SizeType NumElements, SizeType NumAllocated, SIZE_T BytesPerElement) const
+		{
+			return DefaultCalculateSlackGrow(NumElements, NumAllocated, BytesPerElement);
+		}
+		SizeType CalculateSlackShrink(SizeType NumElements, SizeType NumAllocated, SIZE_T BytesPerElement) const
+		{
+			return DefaultCalculateSlackShrink(NumElements, NumAllocated, BytesPerElement);
+		}
 		SizeType CalculateSlackReserve(SizeType NumElements, SIZE_T BytesPerElement) const { return NumElements; }
 
 	private:
@@ -172,7 +182,9 @@ public:
 		SizeType GetInitialCapacity() const { return NumInlineElements; }
 		SIZE_T GetAllocatedSize(SizeType NumAllocatedElements, SIZE_T BytesPerElement) const
 		{
-			return NumAllocatedElements > static_cast<SizeType>(NumInlineElements) ? Secondary.GetAllocatedSize(NumAllocatedElements, BytesPerElement) : 0;
+			return NumAllocatedElements > static_cast<SizeType>(NumInlineElements)
+				? Secondary.GetAllocatedSize(NumAllocatedElements, BytesPerElement)
+				: 0;
 		}
 
 		void ResizeAllocation(SizeType CurrentNum, SizeType NewMax, SIZE_T BytesPerElement)
@@ -181,7 +193,8 @@ public:
 			{
 				if (Secondary.HasAllocation())
 				{
-					FMemory::Memcpy(static_cast<void*>(InlineData), static_cast<const void*>(Secondary.GetAllocation()), static_cast<SIZE_T>(CurrentNum) * BytesPerElement);
+					FMemory::Memcpy(static_cast<void*>(InlineData), static_cast<const void*>(Secondary.GetAllocation()),
+						static_cast<SIZE_T>(CurrentNum) * BytesPerElement);
 					Secondary.ResizeAllocation(0, 0, BytesPerElement);
 				}
 				return;
@@ -190,21 +203,28 @@ public:
 			Secondary.ResizeAllocation(bWasInline ? 0 : CurrentNum, NewMax, BytesPerElement);
 			if (bWasInline)
 			{
-				FMemory::Memcpy(static_cast<void*>(Secondary.GetAllocation()), static_cast<const void*>(InlineData), static_cast<SIZE_T>(CurrentNum) * BytesPerElement);
+				FMemory::Memcpy(static_cast<void*>(Secondary.GetAllocation()), static_cast<const void*>(InlineData),
+					static_cast<SIZE_T>(CurrentNum) * BytesPerElement);
 			}
 		}
 
 		SizeType CalculateSlackGrow(SizeType NumElements, SizeType NumAllocated, SIZE_T BytesPerElement) const
 		{
-			return NumElements <= static_cast<SizeType>(NumInlineElements) ? NumInlineElements : Secondary.CalculateSlackGrow(NumElements, NumAllocated, BytesPerElement);
+			return NumElements <= static_cast<SizeType>(NumInlineElements)
+				? NumInlineElements
+				: Secondary.CalculateSlackGrow(NumElements, NumAllocated, BytesPerElement);
 		}
 		SizeType CalculateSlackShrink(SizeType NumElements, SizeType NumAllocated, SIZE_T BytesPerElement) const
 		{
-			return NumElements <= static_cast<SizeType>(NumInlineElements) ? NumInlineElements : Secondary.CalculateSlackShrink(NumElements, NumAllocated, BytesPerElement);
+			return NumElements <= static_cast<SizeType>(NumInlineElements)
+				? NumInlineElements
+				: Secondary.CalculateSlackShrink(NumElements, NumAllocated, BytesPerElement);
 		}
 		SizeType CalculateSlackReserve(SizeType NumElements, SIZE_T BytesPerElement) const
 		{
-			return NumElements <= static_cast<SizeType>(NumInlineElements) ? NumInlineElements : Secondary.CalculateSlackReserve(NumElements, BytesPerElement);
+			return NumElements <= static_cast<SizeType>(NumInlineElements)
+				? NumInlineElements
+				: Secondary.CalculateSlackReserve(NumElements, BytesPerElement);
 		}
 
 	private:
@@ -233,19 +253,29 @@ public:
 		ForElementType(const ForElementType&) = delete;
 		ForElementType& operator=(const ForElementType&) = delete;
 
-		void MoveToEmpty(ForElementType& Other) { FMemory::Memcpy(static_cast<void*>(InlineData), static_cast<const void*>(Other.InlineData), sizeof(InlineData)); }
+		void MoveToEmpty(ForElementType& Other)
+		{
+			FMemory::Memcpy(static_cast<void*>(InlineData), static_cast<const void*>(Other.InlineData), sizeof(InlineData));
+		}
 		ElementType* GetAllocation() const { return const_cast<ElementType*>(InlineData[0].GetTypedPtr()); }
 		bool HasAllocation() const { return false; }
 		SizeType GetInitialCapacity() const { return NumInlineElements; }
 		SIZE_T GetAllocatedSize(SizeType, SIZE_T) const { return 0; }
-		void ResizeAllocation(SizeType, SizeType NewMax, SIZE_T) { checkf(NewMax <= static_cast<SizeType>(NumInlineElements), TEXT("A fixed container of %u elements is full"), NumInlineElements); }
+		void ResizeAllocation(SizeType, SizeType NewMax, SIZE_T)
+		{
+			checkf(
+				NewMax <= static_cast<SizeType>(NumInlineElements), TEXT("A fixed container of %u elements is full"), NumInlineElements);
+		}
 		SizeType CalculateSlackGrow(SizeType NumElements, SizeType, SIZE_T) const
 		{
 			checkf(NumElements <= static_cast<SizeType>(NumInlineElements), TEXT("A fixed container of %u elements is full"), NumInlineElements);
 			return NumInlineElements;
 		}
 		SizeType CalculateSlackShrink(SizeType, SizeType, SIZE_T) const { return NumInlineElements; }
-		SizeType CalculateSlackReserve(SizeType NumElements, SIZE_T BytesPerElement) const { return CalculateSlackGrow(NumElements, 0, BytesPerElement); }
+		SizeType CalculateSlackReserve(SizeType NumElements, SIZE_T BytesPerElement) const
+		{
+			return CalculateSlackGrow(NumElements, 0, BytesPerElement);
+		}
 
 	private:
 		TTypeCompatibleBytes<ElementType> InlineData[NumInlineElements];
@@ -281,7 +311,8 @@ class FDefaultSetAllocator : public TSetAllocator<>
 };
 
 template <uint32 NumInlineElements>
-class TInlineSparseArrayAllocator : public TSparseArrayAllocator<TInlineAllocator<NumInlineElements>, TInlineAllocator<(NumInlineElements + 31) / 32>>
+class TInlineSparseArrayAllocator
+	: public TSparseArrayAllocator<TInlineAllocator<NumInlineElements>, TInlineAllocator<(NumInlineElements + 31) / 32>>
 {
 };
 

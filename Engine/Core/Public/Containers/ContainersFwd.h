@@ -37,9 +37,11 @@ class TSet;
 
 template <typename KeyType, typename ValueType, bool bAllowDuplicateKeys>
 struct TDefaultMapHashableKeyFuncs;
-template <typename KeyType, typename ValueType, typename SetAllocator = FDefaultSetAllocator, typename KeyFuncs = TDefaultMapHashableKeyFuncs<KeyType, ValueType, false>>
+template <typename KeyType, typename ValueType, typename SetAllocator = FDefaultSetAllocator,
+	typename KeyFuncs = TDefaultMapHashableKeyFuncs<KeyType, ValueType, false>>
 class TMap;
-template <typename KeyType, typename ValueType, typename SetAllocator = FDefaultSetAllocator, typename KeyFuncs = TDefaultMapHashableKeyFuncs<KeyType, ValueType, true>>
+template <typename KeyType, typename ValueType, typename SetAllocator = FDefaultSetAllocator,
+	typename KeyFuncs = TDefaultMapHashableKeyFuncs<KeyType, ValueType, true>>
 class TMultiMap;
 
 class FString;

@@ -89,11 +89,16 @@ public:
 	ValueType& Add(KeyType&& InKey) { return Emplace(MoveTempIfPossible(InKey)); }
 	ValueType& Add(const ElementType& InPair) { return Emplace(InPair.Key, InPair.Value); }
 	ValueType& Add(ElementType&& InPair) { return Emplace(MoveTempIfPossible(InPair.Key), MoveTempIfPossible(InPair.Value)); }
-	ValueType& AddByHash(uint32 KeyHash, const KeyType& InKey, const ValueType& InValue) { return Pairs[Pairs.EmplaceByHash(KeyHash, ElementType(InKey, InValue))].Value; }
+	ValueType& AddByHash(uint32 KeyHash, const KeyType& InKey, const ValueType& InValue)
+	{
+		return Pairs[Pairs.EmplaceByHash(KeyHash, ElementType(InKey, InValue))].Value;
+	}
 	template <typename InitKeyType, typename InitValueType>
 	ValueType& Emplace(InitKeyType&& InKey, InitValueType&& InValue)
 	{
-		return Pairs[Pairs.Emplace(FPairInitializer<InitKeyType, InitValueType>{Forward<InitKeyType>(InKey), Forward<InitValueType>(InValue)})].Value;
+		return Pairs[Pairs.Emplace(
+						 FPairInitializer<InitKeyType, InitValueType>{Forward<InitKeyType>(InKey), Forward<InitValueType>(InValue)})]
+			.Value;
 	}
 	template <typename InitKeyType>
 	ValueType& Emplace(InitKeyType&& InKey)
@@ -408,7 +413,8 @@ public:
 	~TMap() = default;
 	TMap(std::initializer_list<TPair<InKeyType, InValueType>> InitList) { Append(InitList); }
 	template <typename OtherSetAllocator>
-	requires(!std::is_same_v<OtherSetAllocator, SetAllocator>) explicit TMap(const TMap<InKeyType, InValueType, OtherSetAllocator, KeyFuncs>& Other)
+	requires(!std::is_same_v<OtherSetAllocator, SetAllocator>) explicit TMap(
+		const TMap<InKeyType, InValueType, OtherSetAllocator, KeyFuncs>& Other)
 	{
 		Append(Other);
 	}
@@ -542,7 +548,10 @@ public:
 		}
 		return nullptr;
 	}
-	const ValueType* FindPair(KeyConstPointerType Key, ValueInitType Value) const { return const_cast<TMultiMap*>(this)->FindPair(Key, Value); }
+	const ValueType* FindPair(KeyConstPointerType Key, ValueInitType Value) const
+	{
+		return const_cast<TMultiMap*>(this)->FindPair(Key, Value);
+	}
 	ValueType& AddUnique(const KeyType& Key, const ValueType& Value)
 	{
 		ValueType* const Existing = FindPair(Key, Value);

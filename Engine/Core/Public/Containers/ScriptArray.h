@@ -41,7 +41,8 @@ public:
 	{
 		check(Index >= 0 && Index <= ArrayNum);
 		const int32 OldNum = Add(Count, NumBytesPerElement, AlignmentOfElement);
-		FMemory::Memmove(ElementAt(Index + Count, NumBytesPerElement), ElementAt(Index, NumBytesPerElement), static_cast<SIZE_T>(OldNum - Index) * NumBytesPerElement);
+		FMemory::Memmove(ElementAt(Index + Count, NumBytesPerElement), ElementAt(Index, NumBytesPerElement),
+			static_cast<SIZE_T>(OldNum - Index) * NumBytesPerElement);
 	}
 	void InsertZeroed(int32 Index, int32 Count, int32 NumBytesPerElement, uint32 AlignmentOfElement)
 	{
@@ -49,14 +50,16 @@ public:
 		FMemory::Memzero(ElementAt(Index, NumBytesPerElement), static_cast<SIZE_T>(Count) * NumBytesPerElement);
 	}
 	/** Closes the gap of elements that the caller has destructed. */
-	void Remove(int32 Index, int32 Count, int32 NumBytesPerElement, uint32 AlignmentOfElement, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
+	void Remove(int32 Index, int32 Count, int32 NumBytesPerElement, uint32 AlignmentOfElement,
+		EAllowShrinking AllowShrinking = EAllowShrinking::Default)
 	{
 		check(Index >= 0 && Count >= 0 && Count <= ArrayNum - Index);
 		if (Count == 0)
 		{
 			return;
 		}
-		FMemory::Memmove(ElementAt(Index, NumBytesPerElement), ElementAt(Index + Count, NumBytesPerElement), static_cast<SIZE_T>(ArrayNum - Index - Count) * NumBytesPerElement);
+		FMemory::Memmove(ElementAt(Index, NumBytesPerElement), ElementAt(Index + Count, NumBytesPerElement),
+			static_cast<SIZE_T>(ArrayNum - Index - Count) * NumBytesPerElement);
 		ArrayNum -= Count;
 		if (AllowShrinking == EAllowShrinking::Yes)
 		{
@@ -67,7 +70,8 @@ public:
 			}
 		}
 	}
-	void SetNumUninitialized(int32 NewNum, int32 NumBytesPerElement, uint32 AlignmentOfElement, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
+	void SetNumUninitialized(
+		int32 NewNum, int32 NumBytesPerElement, uint32 AlignmentOfElement, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
 	{
 		if (NewNum > ArrayNum)
 		{
@@ -105,7 +109,10 @@ public:
 			Resize(ArrayNum, NumBytesPerElement, AlignmentOfElement);
 		}
 	}
-	void SwapMemory(int32 A, int32 B, int32 NumBytesPerElement) { FMemory::Memswap(ElementAt(A, NumBytesPerElement), ElementAt(B, NumBytesPerElement), NumBytesPerElement); }
+	void SwapMemory(int32 A, int32 B, int32 NumBytesPerElement)
+	{
+		FMemory::Memswap(ElementAt(A, NumBytesPerElement), ElementAt(B, NumBytesPerElement), NumBytesPerElement);
+	}
 	void MoveAssign(TScriptArray& Other, int32 NumBytesPerElement, uint32 AlignmentOfElement)
 	{
 		if (this != &Other)
@@ -120,7 +127,10 @@ public:
 	SIZE_T GetAllocatedSize(int32 NumBytesPerElement) const { return Allocator.GetAllocatedSize(ArrayMax, NumBytesPerElement); }
 
 private:
-	uint8* ElementAt(int32 Index, int32 NumBytesPerElement) { return static_cast<uint8*>(GetData()) + static_cast<SIZE_T>(Index) * NumBytesPerElement; }
+	uint8* ElementAt(int32 Index, int32 NumBytesPerElement)
+	{
+		return static_cast<uint8*>(GetData()) + static_cast<SIZE_T>(Index) * NumBytesPerElement;
+	}
 
 	void Resize(int32 NewMax, int32 NumBytesPerElement, uint32 AlignmentOfElement)
 	{

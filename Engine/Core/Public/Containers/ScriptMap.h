@@ -37,19 +37,22 @@ public:
 	int32 AddUninitialized(const FScriptMapLayout& Layout) { return Pairs.AddUninitialized(Layout.SetLayout); }
 	void Rehash(const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash) { Pairs.Rehash(Layout.SetLayout, GetKeyHash); }
 
-	int32 FindPairIndex(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<bool(const void*, const void*)> KeyEqualityFn) const
+	int32 FindPairIndex(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<bool(const void*, const void*)> KeyEqualityFn) const
 	{
 		return Pairs.FindIndex(Key, Layout.SetLayout, GetKeyHash, KeyEqualityFn);
 	}
 	/** The value of a key, or null. */
-	uint8* FindValue(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<bool(const void*, const void*)> KeyEqualityFn)
+	uint8* FindValue(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<bool(const void*, const void*)> KeyEqualityFn)
 	{
 		const int32 Index = FindPairIndex(Key, Layout, GetKeyHash, KeyEqualityFn);
 		return Index == INDEX_NONE ? nullptr : static_cast<uint8*>(GetData(Index, Layout)) + Layout.ValueOffset;
 	}
 	/** Sets the value of a key, whose pair is constructed if there is none. */
-	void Add(const void* Key, const void* Value, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<bool(const void*, const void*)> KeyEqualityFn,
-		TFunctionRef<void(void*)> KeyConstructAndAssignFn, TFunctionRef<void(void*)> ValueConstructAndAssignFn, TFunctionRef<void(void*)> ValueAssignFn,
+	void Add(const void* Key, const void* Value, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<bool(const void*, const void*)> KeyEqualityFn, TFunctionRef<void(void*)> KeyConstructAndAssignFn,
+		TFunctionRef<void(void*)> ValueConstructAndAssignFn, TFunctionRef<void(void*)> ValueAssignFn,
 		TFunctionRef<void(void*)> DestructKeyFn, TFunctionRef<void(void*)> DestructValueFn)
 	{
 		if (uint8* const Existing = FindValue(Key, Layout, GetKeyHash, KeyEqualityFn))
@@ -60,7 +63,8 @@ public:
 		AddPair(Key, Layout, GetKeyHash, KeyConstructAndAssignFn, ValueConstructAndAssignFn);
 	}
 	/** The value of a key, whose pair is constructed if there is none. */
-	void* FindOrAdd(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<bool(const void*, const void*)> KeyEqualityFn,
+	void* FindOrAdd(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<bool(const void*, const void*)> KeyEqualityFn,
 		TFunctionRef<void(void* NewPairKey, void* NewPairValue)> ConstructPairFn)
 	{
 		if (uint8* const Existing = FindValue(Key, Layout, GetKeyHash, KeyEqualityFn))
@@ -74,7 +78,8 @@ public:
 	}
 
 private:
-	void AddPair(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<void(void*)> ConstructKeyFn, TFunctionRef<void(void*)> ConstructValueFn)
+	void AddPair(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<void(void*)> ConstructKeyFn, TFunctionRef<void(void*)> ConstructValueFn)
 	{
 		Pairs.AddNewElement(Layout.SetLayout, GetKeyHash(Key), [&](void* Pair)
 			{

@@ -82,11 +82,13 @@ public:
 		}
 		RebuildBuckets(Layout);
 	}
-	int32 FindIndex(const void* Element, const FScriptSetLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<bool(const void*, const void*)> EqualityFn) const
+	int32 FindIndex(const void* Element, const FScriptSetLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<bool(const void*, const void*)> EqualityFn) const
 	{
 		return Num() == 0 ? INDEX_NONE : FindIndexByHash(Element, Layout, GetKeyHash(Element), EqualityFn);
 	}
-	int32 FindIndexByHash(const void* Element, const FScriptSetLayout& Layout, uint32 KeyHash, TFunctionRef<bool(const void*, const void*)> EqualityFn) const
+	int32 FindIndexByHash(const void* Element, const FScriptSetLayout& Layout, uint32 KeyHash,
+		TFunctionRef<bool(const void*, const void*)> EqualityFn) const
 	{
 		FScriptSet* const Self = const_cast<FScriptSet*>(this);
 		int32 Index = HashSize == 0 ? static_cast<int32>(INDEX_NONE) : *Self->FirstInBucket(KeyHash);
@@ -101,16 +103,17 @@ public:
 		return Index;
 	}
 	/** The index of the equal element, which is constructed and added if there is none. */
-	int32 FindOrAdd(const void* Element, const FScriptSetLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<bool(const void*, const void*)> EqualityFn,
-		TFunctionRef<void(void*)> ConstructFn)
+	int32 FindOrAdd(const void* Element, const FScriptSetLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<bool(const void*, const void*)> EqualityFn, TFunctionRef<void(void*)> ConstructFn)
 	{
 		const uint32 KeyHash = GetKeyHash(Element);
 		const int32 Existing = FindIndexByHash(Element, Layout, KeyHash, EqualityFn);
 		return Existing != INDEX_NONE ? Existing : AddNewElement(Layout, KeyHash, ConstructFn);
 	}
 	/** Adds an element, or makes it anew in the place of the equal one. */
-	void Add(const void* Element, const FScriptSetLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash, TFunctionRef<bool(const void*, const void*)> EqualityFn,
-		TFunctionRef<void(void*)> ConstructFn, TFunctionRef<void(void*)> DestructFn)
+	void Add(const void* Element, const FScriptSetLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
+		TFunctionRef<bool(const void*, const void*)> EqualityFn, TFunctionRef<void(void*)> ConstructFn,
+		TFunctionRef<void(void*)> DestructFn)
 	{
 		const uint32 KeyHash = GetKeyHash(Element);
 		const int32 Existing = FindIndexByHash(Element, Layout, KeyHash, EqualityFn);
@@ -150,9 +153,18 @@ public:
 	}
 
 private:
-	int32* NextIdAt(int32 Index, const FScriptSetLayout& Layout) { return reinterpret_cast<int32*>(static_cast<uint8*>(GetData(Index, Layout)) + Layout.HashNextIdOffset); }
-	uint32* KeyHashAt(int32 Index, const FScriptSetLayout& Layout) { return reinterpret_cast<uint32*>(static_cast<uint8*>(GetData(Index, Layout)) + Layout.KeyHashOffset); }
-	int32* FirstInBucket(uint32 KeyHash) { return reinterpret_cast<int32*>(Hash.GetAllocation() + UE::Core::Private::HashBucket(KeyHash, HashSize)); }
+	int32* NextIdAt(int32 Index, const FScriptSetLayout& Layout)
+	{
+		return reinterpret_cast<int32*>(static_cast<uint8*>(GetData(Index, Layout)) + Layout.HashNextIdOffset);
+	}
+	uint32* KeyHashAt(int32 Index, const FScriptSetLayout& Layout)
+	{
+		return reinterpret_cast<uint32*>(static_cast<uint8*>(GetData(Index, Layout)) + Layout.KeyHashOffset);
+	}
+	int32* FirstInBucket(uint32 KeyHash)
+	{
+		return reinterpret_cast<int32*>(Hash.GetAllocation() + UE::Core::Private::HashBucket(KeyHash, HashSize));
+	}
 
 	void LinkElement(int32 Index, const FScriptSetLayout& Layout)
 	{
@@ -186,4 +198,5 @@ private:
 };
 
 static_assert(sizeof(FSetElementId) == sizeof(int32), "Buckets are read as indices");
-static_assert(sizeof(FScriptSparseArray) == sizeof(TSparseArray<int32>) && sizeof(FScriptSet) == sizeof(TSet<int32>), "The script forms lie over the typed ones");
+static_assert(sizeof(FScriptSparseArray) == sizeof(TSparseArray<int32>) && sizeof(FScriptSet) == sizeof(TSet<int32>),
+	"The script forms lie over the typed ones");

@@ -19,7 +19,9 @@ class FScriptSparseArray
 public:
 	static FScriptSparseArrayLayout GetScriptLayout(int32 ElementSize, int32 ElementAlignment)
 	{
-		const int32 Alignment = ElementAlignment > static_cast<int32>(alignof(FFreeListLink)) ? ElementAlignment : static_cast<int32>(alignof(FFreeListLink));
+		const int32 Alignment = ElementAlignment > static_cast<int32>(alignof(FFreeListLink))
+			? ElementAlignment
+			: static_cast<int32>(alignof(FFreeListLink));
 		const int32 Size = ElementSize > static_cast<int32>(sizeof(FFreeListLink)) ? ElementSize : static_cast<int32>(sizeof(FFreeListLink));
 		return {Alignment, Align(Size, Alignment)};
 	}
@@ -34,8 +36,14 @@ public:
 	int32 GetMaxIndex() const { return Data.Num(); }
 	bool IsCompact() const { return NumFreeIndices == 0; }
 	int32 FindNextIndex(int32 Index) const { return AllocationFlags.FindFrom(true, Index); }
-	void* GetData(int32 Index, const FScriptSparseArrayLayout& Layout) { return static_cast<uint8*>(Data.GetData()) + static_cast<SIZE_T>(Index) * Layout.Size; }
-	const void* GetData(int32 Index, const FScriptSparseArrayLayout& Layout) const { return const_cast<FScriptSparseArray*>(this)->GetData(Index, Layout); }
+	void* GetData(int32 Index, const FScriptSparseArrayLayout& Layout)
+	{
+		return static_cast<uint8*>(Data.GetData()) + static_cast<SIZE_T>(Index) * Layout.Size;
+	}
+	const void* GetData(int32 Index, const FScriptSparseArrayLayout& Layout) const
+	{
+		return const_cast<FScriptSparseArray*>(this)->GetData(Index, Layout);
+	}
 
 	int32 AddUninitialized(const FScriptSparseArrayLayout& Layout)
 	{

@@ -1,46 +1,15 @@
 #pragma once
 
 #include "Containers/SetElement.h"
-
-template <typename ElementType, typename InKeyType, bool bInAllowDuplicateKeys = false>
-struct BaseKeyFuncs
-{
-	using KeyType = InKeyType;
-	using KeyInitType = typename TCallTraits<InKeyType>::ParamType;
-	using ElementInitType = typename TCallTraits<ElementType>::ParamType;
-
-	enum
-	{
-		bAllowDuplicateKeys = bInAllowDuplicateKeys
-	};
-};
-
-/** The element is its own key, compared by == and hashed by GetTypeHash. */
-template <typename ElementType, bool bInAllowDuplicateKeys>
-struct DefaultKeyFuncs : BaseKeyFuncs<ElementType, ElementType, bInAllowDuplicateKeys>
-{
-	using KeyInitType = typename TTypeTraits<ElementType>::ConstPointerType;
-	using ElementInitType = const ElementType&;
-
-	static KeyInitType GetSetKey(ElementInitType Element) { return Element; }
-	template <typename ComparableKey>
-	static bool Matches(KeyInitType A, const ComparableKey& B)
-	{
-		return A == B;
-	}
-	template <typename ComparableKey>
-	static uint32 GetKeyHash(const ComparableKey& Key)
-	{
-		return GetTypeHash(Key);
-	}
-};
+#include "Containers/SetKeyFuncs.h"
+#include "Containers/SetOperations.h"
 
 /**
  * A hashed set in one block of memory. While nothing is removed, the order is that of insertion; later additions fill the
  * holes. Elements move when the set grows. Keys must not be changed in place without a Rehash.
  */
 template <typename InElementType, typename KeyFuncs, typename Allocator>
-class TSet
+class TSet : public TSetOperations<TSet<InElementType, KeyFuncs, Allocator>, InElementType, KeyFuncs>
 {
 	using KeyInitType = typename KeyFuncs::KeyInitType;
 	using ElementInitType = typename KeyFuncs::ElementInitType;
@@ -172,9 +141,18 @@ public:
 
 	/** Adds an element, or puts it in the place of the one with the same key. */
 	FSetElementId Add(const InElementType& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return Emplace(InElement, bIsAlreadyInSetPtr); }
-	FSetElementId Add(InElementType&& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return Emplace(MoveTempIfPossible(InElement), bIsAlreadyInSetPtr); }
-	FSetElementId AddByHash(uint32 KeyHash, const InElementType& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return EmplaceByHash(KeyHash, InElement, bIsAlreadyInSetPtr); }
-	FSetElementId AddByHash(uint32 KeyHash, InElementType&& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return EmplaceByHash(KeyHash, MoveTempIfPossible(InElement), bIsAlreadyInSetPtr); }
+	FSetElementId Add(InElementType&& InElement, bool* bIsAlreadyInSetPtr = nullptr)
+	{
+		return Emplace(MoveTempIfPossible(InElement), bIsAlreadyInSetPtr);
+	}
+	FSetElementId AddByHash(uint32 KeyHash, const InElementType& InElement, bool* bIsAlreadyInSetPtr = nullptr)
+	{
+		return EmplaceByHash(KeyHash, InElement, bIsAlreadyInSetPtr);
+	}
+	FSetElementId AddByHash(uint32 KeyHash, InElementType&& InElement, bool* bIsAlreadyInSetPtr = nullptr)
+	{
+		return EmplaceByHash(KeyHash, MoveTempIfPossible(InElement), bIsAlreadyInSetPtr);
+	}
 	template <typename ArgType>
 	FSetElementId Emplace(ArgType&& Arg, bool* bIsAlreadyInSetPtr = nullptr)
 	{
@@ -191,8 +169,14 @@ public:
 		return Insert(KeyHash, Made, bIsAlreadyInSetPtr);
 	}
 	/** The element with the key of InElement, which is added if there is none; an existing one stays as it is. */
-	ElementType& FindOrAdd(const InElementType& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return FindOrAddImpl(InElement, bIsAlreadyInSetPtr); }
-	ElementType& FindOrAdd(InElementType&& InElement, bool* bIsAlreadyInSetPtr = nullptr) { return FindOrAddImpl(MoveTempIfPossible(InElement), bIsAlreadyInSetPtr); }
+	ElementType& FindOrAdd(const InElementType& InElement, bool* bIsAlreadyInSetPtr = nullptr)
+	{
+		return FindOrAddImpl(InElement, bIsAlreadyInSetPtr);
+	}
+	ElementType& FindOrAdd(InElementType&& InElement, bool* bIsAlreadyInSetPtr = nullptr)
+	{
+		return FindOrAddImpl(MoveTempIfPossible(InElement), bIsAlreadyInSetPtr);
+	}
 	/** Adds an element whose key is known not to be there, for a caller who has looked already. */
 	template <typename ArgType>
 	FSetElementId EmplaceNewByHash(uint32 KeyHash, ArgType&& Arg)
@@ -315,52 +299,6 @@ public:
 		return NumRemoved;
 	}
 
-	TSet Intersect(const TSet& Other) const
-	{
-		TSet Result;
-		const bool bOtherIsSmaller = Other.Num() < Num();
-		const TSet& Small = bOtherIsSmaller ? Other : *this;
-		const TSet& Large = bOtherIsSmaller ? *this : Other;
-		for (const ElementType& Element : Small)
-		{
-			if (Large.Contains(KeyFuncs::GetSetKey(Element)))
-			{
-				Result.Add(Element);
-			}
-		}
-		return Result;
-	}
-	TSet Union(const TSet& Other) const
-	{
-		TSet Result(*this);
-		Result.Append(Other);
-		return Result;
-	}
-	/** The elements of this set that the other has not. */
-	TSet Difference(const TSet& Other) const
-	{
-		TSet Result;
-		for (const ElementType& Element : *this)
-		{
-			if (!Other.Contains(KeyFuncs::GetSetKey(Element)))
-			{
-				Result.Add(Element);
-			}
-		}
-		return Result;
-	}
-	/** True if this set has every element of the other. */
-	bool Includes(const TSet& Other) const
-	{
-		for (const ElementType& Element : Other)
-		{
-			if (!Contains(KeyFuncs::GetSetKey(Element)))
-			{
-				return false;
-			}
-		}
-		return true;
-	}
 	TArray<ElementType> Array() const
 	{
 		TArray<ElementType> Result;

@@ -92,7 +92,10 @@ public:
 	/** As operator[], for a caller who knows that the index is allocated. */
 	ElementType& GetUnsafe(int32 Index) { return ElementAt(Index); }
 	const ElementType& GetUnsafe(int32 Index) const { return const_cast<TSparseArray*>(this)->ElementAt(Index); }
-	int32 PointerToIndex(const ElementType* Ptr) const { return static_cast<int32>(reinterpret_cast<const FElementOrFreeListLink*>(Ptr) - Data.GetData()); }
+	int32 PointerToIndex(const ElementType* Ptr) const
+	{
+		return static_cast<int32>(reinterpret_cast<const FElementOrFreeListLink*>(Ptr) - Data.GetData());
+	}
 
 	FSparseArrayAllocationInfo AddUninitialized()
 	{

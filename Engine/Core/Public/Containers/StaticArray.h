@@ -17,7 +17,8 @@ public:
 	{
 	}
 	template <typename... ArgTypes>
-	requires(sizeof...(ArgTypes) == NumElements && (std::is_convertible_v<ArgTypes&&, InElementType> && ...)) constexpr TStaticArray(ArgTypes&&... Args)
+	requires(sizeof...(ArgTypes) == NumElements && (std::is_convertible_v<ArgTypes&&, InElementType> && ...)) constexpr TStaticArray(
+		ArgTypes&&... Args)
 		: Elements{InElementType(Forward<ArgTypes>(Args))...}
 	{
 	}

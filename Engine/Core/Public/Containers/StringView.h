@@ -326,7 +326,10 @@ constexpr TStringView<CharType> MakeStringView(const CharType* Data)
 	return TStringView<CharType>(Data);
 }
 
-[[nodiscard]] constexpr FStringView operator""_SV(const TCHAR* String, SIZE_T Size) { return FStringView(String, static_cast<int32>(Size)); }
+[[nodiscard]] constexpr FStringView operator""_SV(const TCHAR* String, SIZE_T Size)
+{
+	return FStringView(String, static_cast<int32>(Size));
+}
 [[nodiscard]] constexpr FAnsiStringView operator""_ASV(const ANSICHAR* String, SIZE_T Size)
 {
 	return FAnsiStringView(String, static_cast<int32>(Size));

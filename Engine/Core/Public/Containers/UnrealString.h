@@ -220,9 +220,15 @@ public:
 	[[nodiscard]] FString Mid(int32 Start) const { return FString(FStringView(*this).Mid(Start)); }
 	[[nodiscard]] FString Mid(int32 Start, int32 Count) const;
 	void LeftInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { KeepPart(FStringView(*this).Left(Count)); }
-	void LeftChopInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { KeepPart(FStringView(*this).LeftChop(Count)); }
+	void LeftChopInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
+	{
+		KeepPart(FStringView(*this).LeftChop(Count));
+	}
 	void RightInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { KeepPart(FStringView(*this).Right(Count)); }
-	void RightChopInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default) { KeepPart(FStringView(*this).RightChop(Count)); }
+	void RightChopInline(int32 Count, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
+	{
+		KeepPart(FStringView(*this).RightChop(Count));
+	}
 	void MidInline(int32 Start, int32 Count = MAX_COUNT, EAllowShrinking AllowShrinking = EAllowShrinking::Default)
 	{
 		KeepPart(FStringView(*this).Mid(Start, Count));

@@ -78,7 +78,8 @@ public:
 	};
 
 	template <class Functor>
-	static constexpr bool bInline = sizeof(Functor) <= InlineSize && alignof(Functor) <= InlineAlign&& std::is_nothrow_move_constructible_v<Functor>;
+	static constexpr bool bInline = sizeof(Functor) <= InlineSize &&
+		alignof(Functor) <= InlineAlign&& std::is_nothrow_move_constructible_v<Functor>;
 
 	template <class Functor>
 	Functor& Get()
@@ -252,8 +253,8 @@ public:
 	TFunction(std::nullptr_t = nullptr) {}
 
 	template <class FunctorType, class Functor = std::decay_t<FunctorType>>
-	requires(!std::is_same_v<Functor, TFunction> && !std::is_same_v<Functor, std::nullptr_t> && UE::Core::Private::Function::CCallable<Functor, Ret, ParamTypes...>)
-		TFunction(FunctorType&& Func)
+	requires(!std::is_same_v<Functor, TFunction> && !std::is_same_v<Functor, std::nullptr_t> &&
+		UE::Core::Private::Function::CCallable<Functor, Ret, ParamTypes...>) TFunction(FunctorType&& Func)
 	{
 		static_assert(std::is_copy_constructible_v<Functor>, "TFunction copies its functor: use TUniqueFunction for one that only moves");
 		Owned.template Assign<Functor>(std::forward<FunctorType>(Func));
@@ -288,8 +289,8 @@ public:
 	TUniqueFunction(std::nullptr_t = nullptr) {}
 
 	template <class FunctorType, class Functor = std::decay_t<FunctorType>>
-	requires(!std::is_same_v<Functor, TUniqueFunction> && !std::is_same_v<Functor, std::nullptr_t> && UE::Core::Private::Function::CCallable<Functor, Ret, ParamTypes...>)
-		TUniqueFunction(FunctorType&& Func)
+	requires(!std::is_same_v<Functor, TUniqueFunction> && !std::is_same_v<Functor, std::nullptr_t> &&
+		UE::Core::Private::Function::CCallable<Functor, Ret, ParamTypes...>) TUniqueFunction(FunctorType&& Func)
 	{
 		Owned.template Assign<Functor>(std::forward<FunctorType>(Func));
 	}
@@ -319,13 +320,14 @@ class TFunctionRef<Ret(ParamTypes...)>
 {
 public:
 	template <class FunctorType, class Functor = std::remove_reference_t<FunctorType>>
-	requires(!std::is_same_v<std::remove_cv_t<Functor>, TFunctionRef> && !std::is_function_v<Functor> && UE::Core::Private::Function::CCallable<Functor, Ret, ParamTypes...>)
-		TFunctionRef(FunctorType&& Func)
+	requires(!std::is_same_v<std::remove_cv_t<Functor>, TFunctionRef> && !std::is_function_v<Functor> &&
+		UE::Core::Private::Function::CCallable<Functor, Ret, ParamTypes...>) TFunctionRef(FunctorType&& Func)
 		: Object(const_cast<void*>(static_cast<const void*>(std::addressof(Func))))
 		, Caller([](void* InObject, ParamTypes... Params) -> Ret
 			  { return UE::Core::Private::Function::Invoke<Ret>(*static_cast<Functor*>(InObject), std::forward<ParamTypes>(Params)...); })
 	{
-		checkf(!UE::Core::Private::Function::IsEmpty<std::remove_cv_t<Functor>>(Func), TEXT("Cannot bind a null or unbound callable to a TFunctionRef"));
+		checkf(!UE::Core::Private::Function::IsEmpty<std::remove_cv_t<Functor>>(Func),
+			TEXT("Cannot bind a null or unbound callable to a TFunctionRef"));
 	}
 
 	/** A plain function outlives everything, so its address is kept in place of an object. */

@@ -31,4 +31,5 @@ struct TIsInvocable
 	[](auto&&... Args) -> decltype(auto) { return FuncName(Forward<decltype(Args)>(Args)...); }
 
 #define PROJECTION_MEMBER(Type, FuncName) \
-	[](auto&& Object, auto&&... Args) -> decltype(auto) { return Forward<decltype(Object)>(Object).FuncName(Forward<decltype(Args)>(Args)...); }
+	[](auto&& Object, auto&&... Args) -> decltype(auto) \
+	{ return Forward<decltype(Object)>(Object).FuncName(Forward<decltype(Args)>(Args)...); }

@@ -15,7 +15,9 @@ struct TTuple
 	TTuple() = default;
 
 	template <typename... ArgTypes>
-	requires(sizeof...(ArgTypes) == sizeof...(Types) && sizeof...(Types) > 0 && (std::is_constructible_v<Types, ArgTypes&&> && ...)) explicit(!(std::is_convertible_v<ArgTypes&&, Types> && ...)) TTuple(ArgTypes&&... Args)
+	requires(sizeof...(ArgTypes) == sizeof...(Types) && sizeof...(Types) > 0 &&
+		(std::is_constructible_v<Types, ArgTypes&&> && ...)) explicit(!(std::is_convertible_v<ArgTypes&&, Types> && ...))
+		TTuple(ArgTypes&&... Args)
 		: Values(Forward<ArgTypes>(Args)...)
 	{
 	}
@@ -85,7 +87,9 @@ struct TTuple<InKeyType, InValueType>
 	~TTuple() = default;
 
 	template <typename KeyArg = InKeyType, typename ValueArg = InValueType>
-	requires(std::is_constructible_v<InKeyType, KeyArg&&>&& std::is_constructible_v<InValueType, ValueArg&&>) explicit(!std::is_convertible_v<KeyArg&&, InKeyType> || !std::is_convertible_v<ValueArg&&, InValueType>) TTuple(KeyArg&& InKey, ValueArg&& InValue)
+	requires(std::is_constructible_v<InKeyType, KeyArg&&>&& std::is_constructible_v<InValueType, ValueArg&&>) explicit(
+		!std::is_convertible_v<KeyArg&&, InKeyType> || !std::is_convertible_v<ValueArg&&, InValueType>)
+		TTuple(KeyArg&& InKey, ValueArg&& InValue)
 		: Key(Forward<KeyArg>(InKey))
 		, Value(Forward<ValueArg>(InValue))
 	{

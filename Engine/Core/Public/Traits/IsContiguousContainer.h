@@ -13,7 +13,8 @@ struct TIsContiguousContainer
 };
 
 template <typename T>
-requires(std::is_const_v<T> || std::is_volatile_v<T> || std::is_reference_v<T>) struct TIsContiguousContainer<T> : TIsContiguousContainer<std::remove_cv_t<std::remove_reference_t<T>>>
+requires(std::is_const_v<T> || std::is_volatile_v<T> || std::is_reference_v<T>) struct TIsContiguousContainer<T>
+	: TIsContiguousContainer<std::remove_cv_t<std::remove_reference_t<T>>>
 {
 };
 

@@ -2,7 +2,10 @@
 
 #include "Misc/Guid.h"
 
-/** Changes of the data of the gameplay framework and the graph system, in the order in which they came. Packages name the last one that they know. */
+/**
+ * Changes of the data of the gameplay framework and the graph system, in the order in which they came. Packages name the last one
+ * that they know.
+ */
 struct CORE_API FFrameworkObjectVersion
 {
 	enum Type

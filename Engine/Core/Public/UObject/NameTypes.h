@@ -57,7 +57,8 @@ private:
 
 /**
  * A text of up to 1023 characters that is stored once: comparing and copying it costs as much as a number. Comparison ignores case while
- * each name shows the case it was made with. A suffix like "_12" (no leading zeros) is kept as a number beside the text. Safe from any thread.
+ * each name shows the case it was made with. A suffix like "_12" (no leading zeros) is kept as a number beside the text. Safe from any
+ * thread.
  */
 class CORE_API FName
 {
@@ -119,14 +120,19 @@ public:
 	bool IsValid() const;
 	bool IsValidIndexFast() const { return IsValid(); }
 	/** True when none of `InvalidChars` stands in the name; `OutReason`, where given, tells which do. */
-	bool IsValidXName(const FString& InvalidChars = INVALID_NAME_CHARACTERS, FText* OutReason = nullptr, const FText* InErrorCtx = nullptr) const;
-	bool IsValidXName(FText& OutReason, const FString& InvalidChars = INVALID_NAME_CHARACTERS) const { return IsValidXName(InvalidChars, &OutReason); }
+	bool IsValidXName(
+		const FString& InvalidChars = INVALID_NAME_CHARACTERS, FText* OutReason = nullptr, const FText* InErrorCtx = nullptr) const;
+	bool IsValidXName(FText& OutReason, const FString& InvalidChars = INVALID_NAME_CHARACTERS) const
+	{
+		return IsValidXName(InvalidChars, &OutReason);
+	}
 	bool IsValidObjectName(FText& OutReason) const { return IsValidXName(INVALID_OBJECTNAME_CHARACTERS, &OutReason); }
 	bool IsValidGroupName(FText& OutReason, bool bIsGroupName = false) const
 	{
 		return IsValidXName(INVALID_LONGPACKAGE_CHARACTERS, &OutReason);
 	}
-	static bool IsValidXName(const FString& InName, const FString& InInvalidChars, FText* OutReason = nullptr, const FText* InErrorCtx = nullptr);
+	static bool IsValidXName(
+		const FString& InName, const FString& InInvalidChars, FText* OutReason = nullptr, const FText* InErrorCtx = nullptr);
 	/** As the details panel shows a variable's name: "bIsOpen" (a bool) becomes "Is Open", "MaxHP" becomes "Max HP". */
 	static FString NameToDisplayString(const FString& InDisplayName, bool bIsBool);
 

@@ -99,12 +99,21 @@ struct FPackageFileVersion
 		Result.FileVersionUE4 = Version;
 		return Result;
 	}
-	static constexpr FPackageFileVersion CreateUE4Version(EUnrealEngineObjectUE4Version Version) { return CreateUE4Version(static_cast<int32>(Version)); }
+	static constexpr FPackageFileVersion CreateUE4Version(EUnrealEngineObjectUE4Version Version)
+	{
+		return CreateUE4Version(static_cast<int32>(Version));
+	}
 
 	void Reset() { *this = FPackageFileVersion(); }
-	constexpr int32 ToValue() const { return FileVersionUE5 >= static_cast<int32>(EUnrealEngineObjectUE5Version::INITIAL_VERSION) ? FileVersionUE5 : FileVersionUE4; }
+	constexpr int32 ToValue() const
+	{
+		return FileVersionUE5 >= static_cast<int32>(EUnrealEngineObjectUE5Version::INITIAL_VERSION) ? FileVersionUE5 : FileVersionUE4;
+	}
 	/** True if every change that Other knows is known to this version. */
-	constexpr bool IsCompatible(const FPackageFileVersion& Other) const { return FileVersionUE4 >= Other.FileVersionUE4 && FileVersionUE5 >= Other.FileVersionUE5; }
+	constexpr bool IsCompatible(const FPackageFileVersion& Other) const
+	{
+		return FileVersionUE4 >= Other.FileVersionUE4 && FileVersionUE5 >= Other.FileVersionUE5;
+	}
 
 	constexpr bool operator==(const FPackageFileVersion& Other) const = default;
 	constexpr bool operator==(EUnrealEngineObjectUE4Version Version) const { return FileVersionUE4 == Version; }
@@ -124,5 +133,6 @@ struct FPackageFileVersion
 
 /** What this engine writes, and the newest that it reads. */
 inline constexpr FPackageFileVersion GPackageFileUEVersion(VER_UE4_AUTOMATIC_VERSION, EUnrealEngineObjectUE5Version::AUTOMATIC_VERSION);
-inline constexpr FPackageFileVersion GOldestLoadablePackageFileUEVersion = FPackageFileVersion::CreateUE4Version(VER_UE4_OLDEST_LOADABLE_PACKAGE);
+inline constexpr FPackageFileVersion GOldestLoadablePackageFileUEVersion = FPackageFileVersion::CreateUE4Version(
+	VER_UE4_OLDEST_LOADABLE_PACKAGE);
 inline constexpr int32 GPackageFileLicenseeUEVersion = 0;
