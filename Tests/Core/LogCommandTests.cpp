@@ -136,7 +136,7 @@ TEST_F(FLogCommandTest, FileTakesEveryLineOfEveryThreadWhole)
 	EXPECT_EQ(Lines.Num(), 400);
 	for (const FString& Line : Lines)
 	{
-		EXPECT_TRUE(Line.MatchesWildcard(TEXT("[????.??.??-??.??.??:???]LogCommandsA: Display: line * of ? \u00fc"))) << Utf8(Line);
+		EXPECT_TRUE(Line.MatchesWildcard(TEXT("[2*.*.*-*.*.*:*]LogCommandsA: Display: line * of ? \u00fc"))) << Utf8(Line);
 	}
 }
 
