@@ -103,6 +103,23 @@ TEST_F(FFilesTest, ReaderStopsAtTheEnd)
 	EXPECT_EQ(TooLong, 0);
 }
 
+TEST_F(FFilesTest, LinesOfAFileEndWithTheirBreaks)
+{
+	const std::pair<const TCHAR*, const char*> Cases[] = {
+		{TEXT(""), "0:"}, {TEXT("\n"), "1:"}, {TEXT("a"), "1:a"}, {TEXT("a\n"), "1:a"}, {TEXT("a\r\n\r\nb\n\n"), "4:a||b|"}};
+	for (const auto& [Text, Expected] : Cases)
+	{
+		TArray<FString> Lines;
+		ASSERT_TRUE(FFileHelper::LoadFileToStringArray(Lines, *Write(TEXT("Lines.txt"), Text)));
+		EXPECT_EQ(std::to_string(Lines.Num()) + ":" + Utf8(FString::Join(Lines, TEXT("|"))), Expected);
+	}
+	TArray<FString> Lines = {TEXT("a"), TEXT(""), TEXT("b")};
+	ASSERT_TRUE(FFileHelper::SaveStringArrayToFile(Lines, *In(TEXT("Lines.txt"))));
+	TArray<FString> Read;
+	ASSERT_TRUE(FFileHelper::LoadFileToStringArray(Read, *In(TEXT("Lines.txt"))));
+	EXPECT_TRUE(Read == Lines);
+}
+
 TEST_F(FFilesTest, TextIsReadByItsByteOrderMark)
 {
 	using EEncodingOptions = FFileHelper::EEncodingOptions;

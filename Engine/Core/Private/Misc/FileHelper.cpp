@@ -123,6 +123,11 @@ bool FFileHelper::LoadFileToStringArray(TArray<FString>& Result, const TCHAR* Fi
 		return false;
 	}
 	Text.ParseIntoArrayLines(Result, false);
+	// A break ends a line; what stands behind the last one is a line only when it is not empty.
+	if (!Result.IsEmpty() && Result.Last().IsEmpty())
+	{
+		Result.Pop();
+	}
 	return true;
 }
 
