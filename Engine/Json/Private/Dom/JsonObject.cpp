@@ -18,6 +18,11 @@ void FJsonObject::SetField(FString FieldName, const TSharedPtr<FJsonValue>& Valu
 	Values.Add(MoveTemp(FieldName), Value);
 }
 
+void FJsonObject::SetField(FString FieldName, TSharedPtr<FJsonValue>&& Value)
+{
+	Values.Add(MoveTemp(FieldName), MoveTemp(Value));
+}
+
 void FJsonObject::RemoveField(FStringView FieldName)
 {
 	Values.Remove(FString(FieldName));

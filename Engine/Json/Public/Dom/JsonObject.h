@@ -34,6 +34,7 @@ public:
 	}
 
 	void SetField(FString FieldName, const TSharedPtr<FJsonValue>& Value);
+	void SetField(FString FieldName, TSharedPtr<FJsonValue>&& Value);
 	void RemoveField(FStringView FieldName);
 
 	double GetNumberField(FStringView FieldName) const;

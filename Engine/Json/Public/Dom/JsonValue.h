@@ -48,7 +48,12 @@ protected:
 
 	virtual FString GetType() const = 0;
 
+	/** The text that the value holds, to be written without a copy; null for a value that holds none. */
+	virtual const FString* FindText() const { return nullptr; }
+
 	void ErrorMessage(const TCHAR* InType) const;
+
+	friend class FJsonSerializer;
 };
 
 inline bool operator==(const FJsonValue& Lhs, const FJsonValue& Rhs)
@@ -72,6 +77,7 @@ public:
 
 protected:
 	virtual FString GetType() const override { return TEXT("String"); }
+	virtual const FString* FindText() const override { return &Value; }
 
 	FString Value;
 };
@@ -115,6 +121,7 @@ public:
 
 protected:
 	virtual FString GetType() const override { return TEXT("NumberString"); }
+	virtual const FString* FindText() const override { return &Value; }
 
 	FString Value;
 };
