@@ -25,10 +25,14 @@ const std::string& GetUtf8()
 		{
 			const std::string Number = std::to_string(Index);
 			Result += Index > 0 ? "," : "";
-			Result += "{\"id\":\"Node_" + Number + "\",\"class\":\"/Script/BlueprintGraph.K2Node_CallFunction\",\"title\":\"Set Actor Location " + Number + "\",\"position\":{\"x\":" + std::to_string(Index * 16) + ",\"y\":-" + Number + ".5},\"pure\":false,\"comment\":null,\"pins\":[";
+			Result += "{\"id\":\"Node_" + Number +
+				"\",\"class\":\"/Script/BlueprintGraph.K2Node_CallFunction\",\"title\":\"Set Actor Location " + Number +
+				"\",\"position\":{\"x\":" + std::to_string(Index * 16) + ",\"y\":-" + Number +
+				".5},\"pure\":false,\"comment\":null,\"pins\":[";
 			for (int32 Pin = 0; Pin < 4; ++Pin)
 			{
-				Result += std::string(Pin > 0 ? "," : "") + "{\"name\":\"Pin" + std::to_string(Pin) + "\",\"type\":\"exec\",\"links\":[" + Number + "," + std::to_string(Index + Pin) + "],\"default\":0." + std::to_string(Index % 977) + ",\"hidden\":true}";
+				Result += std::string(Pin > 0 ? "," : "") + "{\"name\":\"Pin" + std::to_string(Pin) + "\",\"type\":\"exec\",\"links\":[" +
+					Number + "," + std::to_string(Index + Pin) + "],\"default\":0." + std::to_string(Index % 977) + ",\"hidden\":true}";
 			}
 			Result += "]}";
 		}

@@ -4,7 +4,7 @@
 
 TSharedPtr<FJsonValue> FJsonObject::TryGetField(FStringView FieldName) const
 {
-	const TSharedPtr<FJsonValue>* const Field = Values.Find(FString(FieldName));
+	const TSharedPtr<FJsonValue>* const Field = Values.FindByHash(GetTypeHash(FieldName), FieldName);
 	return Field ? *Field : nullptr;
 }
 

@@ -108,66 +108,69 @@ public:
 	bool Int64(int64_t) { return false; }
 	bool Uint64(uint64_t) { return false; }
 	bool Double(double) { return false; }
-	bool String(const ANSICHAR* Text, rapidjson::SizeType Length, bool) { return Add(MakeShared<FJsonValueString>(ToString(Text, Length))); }
-	bool StartObject() { return Open(true); }
+	bool String(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
+	{
+		return Add(MakeShared<FJsonValueString>(ToString(Text, Length)));
+	}
+	bool StartObject() { return Open(); }
 	bool Key(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
 	{
-		Levels.Last().Key = ToString(Text, Length);
+		Keys.Add(ToString(Text, Length));
 		return true;
 	}
-	bool EndObject(rapidjson::SizeType) { return Close(); }
-	bool StartArray() { return Open(false); }
-	bool EndArray(rapidjson::SizeType) { return Close(); }
+	bool EndObject(rapidjson::SizeType Count) { return CloseObject(int32(Count)); }
+	bool StartArray() { return Open(); }
+	bool EndArray(rapidjson::SizeType Count) { return CloseArray(int32(Count)); }
 
 	/** Why the builder stopped the reader; null when it did not. */
 	const ANSICHAR* GetFailure() const { return Failure; }
 	TSharedPtr<FJsonValue> Document;
 
 private:
-	struct FLevel
+	bool Open()
 	{
-		/** Null for an array. */
-		TSharedPtr<FJsonObject> Object;
-		TArray<TSharedPtr<FJsonValue>> Elements;
-		FString Key;
-	};
-
-	bool Open(bool bObject)
-	{
-		if (Levels.Num() == FJsonSerializer::MaxDepth)
-		{
-			return Fail("The document is nested too deeply.");
-		}
-		FLevel& Level = Levels.AddDefaulted_GetRef();
-		if (bObject)
-		{
-			Level.Object = MakeShared<FJsonObject>();
-		}
-		return true;
+		return ++Depth <= FJsonSerializer::MaxDepth || Fail("The document is nested too deeply.");
 	}
 
-	bool Close()
+	/** The last values and keys are the object's. Its table gets its size at once, which costs it two allocations in all. */
+	bool CloseObject(int32 Count)
 	{
-		FLevel Level = Levels.Pop(EAllowShrinking::No);
-		return Level.Object ? Add(MakeShared<FJsonValueObject>(MoveTemp(Level.Object))) : Add(MakeShared<FJsonValueArray>(MoveTemp(Level.Elements)));
+		--Depth;
+		TSharedPtr<FJsonObject> Object = MakeShared<FJsonObject>();
+		Object->Values.Reserve(Count);
+		const int32 FirstKey = Keys.Num() - Count;
+		const int32 FirstValue = Values.Num() - Count;
+		for (int32 Index = 0; Index < Count; ++Index)
+		{
+			Object->Values.Add(MoveTemp(Keys[FirstKey + Index]), MoveTemp(Values[FirstValue + Index]));
+		}
+		Keys.SetNum(FirstKey, EAllowShrinking::No);
+		Values.SetNum(FirstValue, EAllowShrinking::No);
+		return Add(MakeShared<FJsonValueObject>(MoveTemp(Object)));
+	}
+
+	bool CloseArray(int32 Count)
+	{
+		--Depth;
+		TArray<TSharedPtr<FJsonValue>> Elements;
+		Elements.Reserve(Count);
+		const int32 First = Values.Num() - Count;
+		for (int32 Index = 0; Index < Count; ++Index)
+		{
+			Elements.Add(MoveTemp(Values[First + Index]));
+		}
+		Values.SetNum(First, EAllowShrinking::No);
+		return Add(MakeShared<FJsonValueArray>(MoveTemp(Elements)));
 	}
 
 	bool Add(TSharedPtr<FJsonValue>&& Value)
 	{
-		if (Levels.IsEmpty())
+		if (Depth == 0)
 		{
 			Document = MoveTemp(Value);
 			return true;
 		}
-		FLevel& Level = Levels.Last();
-		if (Level.Object)
-		{
-			Level.Object->SetField(MoveTemp(Level.Key), MoveTemp(Value));
-		}
-		else
-		{
-			Level.Elements.Add(MoveTemp(Value));
-		}
+		Values.Add(MoveTemp(Value));
 		return true;
 	}
 
@@ -207,7 +210,10 @@ private:
 		return false;
 	}
 
-	TArray<FLevel> Levels;
+	/** Of what is open: values that are read, innermost last, and the keys of those that are fields. */
+	TArray<TSharedPtr<FJsonValue>> Values;
+	TArray<FString> Keys;
+	int32 Depth = 0;
 	const ANSICHAR* Failure = nullptr;
 };
 

@@ -5,7 +5,10 @@
 
 class FJsonObject;
 
-/** A value of a JSON document. The Try forms answer false where the value is of another type; the As forms log an error and answer a default. */
+/**
+ * A value of a JSON document. The Try forms answer false where the value is of another type; the As forms log an error and answer a
+ * default.
+ */
 class JSON_API FJsonValue
 {
 public:

@@ -60,5 +60,8 @@ public:
 	{
 		return MakeShared<TJsonReader<CharType>>(MoveTemp(JsonString));
 	}
-	static TSharedRef<TJsonReader<CharType>> CreateFromView(typename FText::FView JsonString) { return Create(FText::FromView(JsonString)); }
+	static TSharedRef<TJsonReader<CharType>> CreateFromView(typename FText::FView JsonString)
+	{
+		return Create(FText::FromView(JsonString));
+	}
 };
