@@ -147,7 +147,8 @@ void StartCold(benchmark::State& State)
 
 FTopLevelAssetPath ClassOf(int32 Index)
 {
-	return FTopLevelAssetPath(TEXT("/Script/T"), Index % (NumAssets / AssetsOfRareClass) == 0 ? FName(TEXT("Rare")) : FName(TEXT("Common")));
+	return FTopLevelAssetPath(TEXT("/Script/T"),
+		Index % (NumAssets / AssetsOfRareClass) == 0 ? FName(TEXT("Rare")) : FName(TEXT("Common")));
 }
 
 /** A hundred thousand assets in a thousand folders; a hundred of a class that is asked for. */
@@ -176,6 +177,7 @@ void Ask(benchmark::State& State, const FARFilter& Wanted)
 		FAssetRegistryState::FIds Ids = FAssetFilter(Wanted, {}).FindOnDisk(Large);
 		Large.SortByPath(Ids);
 		TArray<FAssetData> Assets;
+		Assets.Reserve(Ids.Num());
 		for (const int32 Id : Ids)
 		{
 			Assets.Add(Large.GetAsset(Id));

@@ -240,7 +240,8 @@ TEST_F(FAssetQueryTest, BlueprintClassesBelowABlueprintClassAreKnownWithoutLoadi
 		Tags.Add(TEXT("GeneratedClass"), FString::Printf(TEXT("/Script/Engine.BlueprintGeneratedClass'/T/%s.%s_C'"), Name, Name));
 		Tags.Add(TEXT("ParentClass"), Parent);
 		const FName Package(*FString::Printf(TEXT("/T/%s"), Name));
-		State.AddPackage(Package, {}, {FAssetData(Package, TEXT("/T"), Name, UBlueprint::StaticClass()->GetClassPathName(), MoveTemp(Tags))});
+		State.AddPackage(Package, {},
+			{FAssetData(Package, TEXT("/T"), Name, UBlueprint::StaticClass()->GetClassPathName(), MoveTemp(Tags))});
 	};
 	Add(TEXT("A"), TEXT("Class'/Script/Engine.Actor'"));
 	Add(TEXT("B"), TEXT("BlueprintGeneratedClass'/T/A.A_C'"));
@@ -257,7 +258,9 @@ TEST_F(FAssetQueryTest, NativeClassesHaveTheirAncestorsAndDescendants)
 {
 	TArray<FTopLevelAssetPath> Ancestors;
 	EXPECT_TRUE(Registry().GetAncestorClassNames(UBlueprint::StaticClass()->GetClassPathName(), Ancestors));
-	EXPECT_EQ(Ancestors, (TArray<FTopLevelAssetPath>{FTopLevelAssetPath(TEXT("/Script/Engine.BlueprintCore")), FTopLevelAssetPath(TEXT("/Script/CoreUObject.Object"))}));
+	EXPECT_EQ(Ancestors,
+		(TArray<FTopLevelAssetPath>{FTopLevelAssetPath(TEXT("/Script/Engine.BlueprintCore")),
+			FTopLevelAssetPath(TEXT("/Script/CoreUObject.Object"))}));
 	EXPECT_FALSE(Registry().GetAncestorClassNames(FTopLevelAssetPath(TEXT("/Script/Engine.NoSuchClass")), Ancestors));
 	TSet<FTopLevelAssetPath> Derived;
 	Registry().GetDerivedClassNames({UStruct::StaticClass()->GetClassPathName()}, {UClass::StaticClass()->GetClassPathName()}, Derived);

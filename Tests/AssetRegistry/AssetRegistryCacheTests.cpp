@@ -136,7 +136,8 @@ TEST_F(FAssetRegistryCacheTest, ChangedGoneAndCutFilesAreSeenAtTheNextStart)
 	FAssetRegistryCache Cache;
 	FString Error;
 	ASSERT_TRUE(Cache.Load(CacheName(), Error));
-	EXPECT_EQ(CountOutcomes(FAssetRegistryState(), Cache), (std::map<EOutcome, int32>{{EOutcome::Cached, NumPackages - 3}, {EOutcome::Broken, 2}}));
+	EXPECT_EQ(CountOutcomes(FAssetRegistryState(), Cache),
+		(std::map<EOutcome, int32>{{EOutcome::Cached, NumPackages - 3}, {EOutcome::Broken, 2}}));
 }
 
 TEST_F(FAssetRegistryCacheTest, AFileOfTheSameSizeWithAnotherTimeIsReadAnew)

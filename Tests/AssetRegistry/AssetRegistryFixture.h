@@ -47,7 +47,8 @@ protected:
 	{
 		const FString PackageName = TEXT("/RegistryTest/") + FString(UTF8_TO_TCHAR(Name.c_str()));
 		UPackage* const Package = CreatePackage(*PackageName);
-		UBlueprint* const Blueprint = NewObject<UBlueprint>(Package, FName(*FPackageName::GetShortName(PackageName)), RF_Public | RF_Standalone);
+		UBlueprint* const Blueprint =
+			NewObject<UBlueprint>(Package, FName(*FPackageName::GetShortName(PackageName)), RF_Public | RF_Standalone);
 		Change(Blueprint);
 		ASSERT_TRUE(UPackage::SavePackage(Package, Blueprint, *FString(UTF8_TO_TCHAR(FileOf(Name).c_str())), FSavePackageArgs()));
 		Blueprint->ClearFlags(RF_Standalone);

@@ -118,7 +118,8 @@ TEST_F(FAssetRegistryTest, AFolderIsNotMistakenForOneWhoseNameStartsAlike)
 		SaveAsset(Name);
 	}
 	EXPECT_EQ(ListAssets(TEXT("/RegistryTest/Doors"), false), (FPathList{"/RegistryTest/Doors/BP_A.BP_A"}));
-	EXPECT_EQ(ListAssets(TEXT("/RegistryTest/Doors"), true), (FPathList{"/RegistryTest/Doors/BP_A.BP_A", "/RegistryTest/Doors/Old/BP_B.BP_B"}));
+	EXPECT_EQ(ListAssets(TEXT("/RegistryTest/Doors"), true),
+		(FPathList{"/RegistryTest/Doors/BP_A.BP_A", "/RegistryTest/Doors/Old/BP_B.BP_B"}));
 	std::filesystem::remove_all(Directory / "Doors");
 	Registry().ScanPathsSynchronous({TEXT("/RegistryTest/Doors")});
 	EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/DoorsToo/BP_C.BP_C"}));

@@ -79,7 +79,8 @@ TEST_P(FSamplePackageTest, EveryBlueprintIsListedWithItsClassesAndTags)
 		EXPECT_TRUE(Asset.IsUAsset());
 		EXPECT_EQ(Asset.AssetClassPath.ToString(), TEXT("/Script/Engine.Blueprint"));
 		EXPECT_EQ(Asset.FindTag(TEXT("BlueprintType")).AsString(), TEXT("BPTYPE_Normal"));
-		EXPECT_EQ(FTopLevelAssetPath(Asset.FindTag(TEXT("GeneratedClass")).AsString()).ToString(), Asset.GetObjectPathString() + TEXT("_C"));
+		EXPECT_EQ(FTopLevelAssetPath(Asset.FindTag(TEXT("GeneratedClass")).AsString()).ToString(),
+			Asset.GetObjectPathString() + TEXT("_C"));
 		EXPECT_FALSE(Asset.IsAssetLoaded());
 	}
 }
@@ -90,9 +91,11 @@ TEST_P(FSamplePackageTest, HardAndSoftReferencesAreTold)
 	EXPECT_EQ(Dependencies(TEXT("/Game/DirectCycle/DirectCycleA"), EDependencyQuery::Hard), (FNames{"/Game/DirectCycle/DirectCycleB"}));
 	EXPECT_EQ(Dependencies(TEXT("/Game/DirectCycle/DirectCycleB"), EDependencyQuery::Hard), (FNames{"/Game/DirectCycle/DirectCycleA"}));
 	EXPECT_EQ(Dependencies(TEXT("/Game/SimpleRefs/SimpleRefsSoftRef"), EDependencyQuery::Hard), FNames());
-	EXPECT_EQ(Referencers(TEXT("/Game/DirectCycle/DirectCycleA"), EDependencyQuery::NoRequirements), (FNames{"/Game/DirectCycle/DirectCycleB"}));
+	EXPECT_EQ(Referencers(TEXT("/Game/DirectCycle/DirectCycleA"), EDependencyQuery::NoRequirements),
+		(FNames{"/Game/DirectCycle/DirectCycleB"}));
 	EXPECT_EQ(Dependencies(*Root, EDependencyQuery::Soft), (FNames{"/Game/SimpleRefs/SimpleRefsSoftRef"}));
-	EXPECT_EQ(Dependencies(*Root, EDependencyQuery::Hard), (FNames{"/Game/SimpleRefs/SimpleRefsDefaultsRef", "/Game/SimpleRefs/SimpleRefsGraphRef"}));
+	EXPECT_EQ(Dependencies(*Root, EDependencyQuery::Hard),
+		(FNames{"/Game/SimpleRefs/SimpleRefsDefaultsRef", "/Game/SimpleRefs/SimpleRefsGraphRef"}));
 	EXPECT_EQ(Referencers(TEXT("/Game/SimpleRefs/SimpleRefsSoftRef"), EDependencyQuery::Soft), (FNames{"/Game/SimpleRefs/SimpleRefsRoot"}));
 	EXPECT_EQ(Referencers(TEXT("/Game/SimpleRefs/SimpleRefsSoftRef"), EDependencyQuery::Hard), FNames());
 }
@@ -122,7 +125,8 @@ TEST(SamplePackage, AssetsOfOtherKindsHaveTheClassesThatTheirImportsName)
 		SCOPED_TRACE(File);
 		FPackageHeader Header;
 		FString Error;
-		ASSERT_TRUE(ReadPackageHeader(UTF8_TO_TCHAR((SamplesFolder / File).c_str()), TEXT("/Game/Any"), Header, Error)) << TCHAR_TO_UTF8(*Error);
+		ASSERT_TRUE(ReadPackageHeader(UTF8_TO_TCHAR((SamplesFolder / File).c_str()), TEXT("/Game/Any"), Header, Error))
+			<< TCHAR_TO_UTF8(*Error);
 		ASSERT_EQ(Header.Assets.Num(), 1);
 		EXPECT_EQ(TCHAR_TO_UTF8(*Header.Assets[0].AssetClassPath.ToString()), Class);
 		EXPECT_GT(Header.Dependencies.Num(), 0);
@@ -141,7 +145,7 @@ TEST(SamplePackage, CutAndSpoiltHeadersAreRefusedWithAReason)
 	std::string Pattern = (fs::temp_directory_path() / "vexel-header-XXXXXX").string();
 	const fs::path Folder = mkdtemp(Pattern.data());
 	const fs::path File = Folder / "Spoilt.uasset";
-	for (size_t At = 0; At < Bytes.size(); At += 13)
+	for (size_t At = 0; At < Bytes.size(); At += 61)
 	{
 		std::string Spoilt = Bytes;
 		const uint32 Values[] = {0xffffffffu, 0x7fffffffu, 0x80000000u, 0x00ffffffu};

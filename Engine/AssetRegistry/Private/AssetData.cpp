@@ -4,8 +4,8 @@
 #include "UObject/AssetRegistryTagsContext.h"
 #include "UObject/Package.h"
 
-FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPath, FAssetDataTagMap InTags,
-	uint32 InPackageFlags)
+FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPath,
+	FAssetDataTagMap InTags, uint32 InPackageFlags)
 	: PackageName(InPackageName)
 	, PackagePath(InPackagePath)
 	, AssetName(InAssetName)

@@ -29,7 +29,8 @@ struct FWay
 
 bool FARFilter::IsEmpty() const
 {
-	return PackageNames.IsEmpty() && PackagePaths.IsEmpty() && SoftObjectPaths.IsEmpty() && ClassPaths.IsEmpty() && TagsAndValues.IsEmpty() && WithoutPackageFlags == 0 && WithPackageFlags == 0;
+	return PackageNames.IsEmpty() && PackagePaths.IsEmpty() && SoftObjectPaths.IsEmpty() && ClassPaths.IsEmpty() &&
+		TagsAndValues.IsEmpty() && WithoutPackageFlags == 0 && WithPackageFlags == 0;
 }
 
 void FARFilter::Append(const FARFilter& Other)
@@ -104,8 +105,10 @@ bool FAssetFilter::MatchesTags(const FAssetData& Asset) const
 
 bool FAssetFilter::MayMatch(FName PackageName, uint32 PackageFlags) const
 {
-	const bool bFlagsFit = (PackageFlags & Filter.WithPackageFlags) == Filter.WithPackageFlags && (PackageFlags & Filter.WithoutPackageFlags) == 0;
-	return bFlagsFit && (PackageNames.IsEmpty() || PackageNames.Contains(PackageName)) && (Folders.IsEmpty() || MatchesFolder(PackageName.ToString()));
+	const bool bFlagsFit =
+		(PackageFlags & Filter.WithPackageFlags) == Filter.WithPackageFlags && (PackageFlags & Filter.WithoutPackageFlags) == 0;
+	return bFlagsFit && (PackageNames.IsEmpty() || PackageNames.Contains(PackageName)) &&
+		(Folders.IsEmpty() || MatchesFolder(PackageName.ToString()));
 }
 
 bool FAssetFilter::Matches(const FAssetData& Asset) const

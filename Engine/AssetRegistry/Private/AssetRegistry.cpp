@@ -186,7 +186,8 @@ bool FAssetRegistryImpl::Scan(const TArray<FPackageFile>& Files, const TArray<FN
 	const bool bAnyoneListens = AssetAddedEvent.IsBound() || AssetUpdatedEvent.IsBound() || AssetRemovedEvent.IsBound();
 	for (FGatheredPackage& Package : Gathered)
 	{
-		const bool bTake = Package.Outcome != EOutcome::Unchanged && Package.Outcome != EOutcome::Missing && !State.FindPackage(Package.PackageName);
+		const bool bTake =
+			Package.Outcome != EOutcome::Unchanged && Package.Outcome != EOutcome::Missing && !State.FindPackage(Package.PackageName);
 		if (!bTake)
 		{
 			continue;

@@ -41,7 +41,8 @@ void UAssetRegistryHelpers::GetBlueprintAssets(const FARFilter& InFilter, TArray
 	Registry.EnumerateAssets(Filter,
 		[&](const FAssetData& Asset)
 		{
-			const bool bFits = InFilter.ClassPaths.IsEmpty() || Wanted.Contains(FTopLevelAssetPath(Asset.FindTag(GeneratedClassTag).AsString()));
+			const bool bFits =
+				InFilter.ClassPaths.IsEmpty() || Wanted.Contains(FTopLevelAssetPath(Asset.FindTag(GeneratedClassTag).AsString()));
 			if (bFits)
 			{
 				OutAssetData.Add(Asset);

@@ -13,14 +13,26 @@ namespace
 {
 using FIds = FAssetRegistryState::FIds;
 
+/** What an enumeration calls to gather all that it finds. */
+auto AppendTo(TArray<FAssetData>& OutAssetData)
+{
+	return [&OutAssetData](const FAssetData& Asset)
+	{
+		OutAssetData.Add(Asset);
+		return true;
+	};
+}
+
 bool MayHoldAssets(const UPackage* Package)
 {
-	if (Package->HasAnyPackageFlags(PKG_CompiledIn | PKG_PlayInEditor) || Package == GetTransientPackage() || IsInPlaceholderPackage(Package))
+	if (Package->HasAnyPackageFlags(PKG_CompiledIn | PKG_PlayInEditor) || Package == GetTransientPackage() ||
+		IsInPlaceholderPackage(Package))
 	{
 		return false;
 	}
 	const FString Name = Package->GetName();
-	return Name.StartsWith(TEXT("/")) && !FPackageName::IsScriptPackage(Name) && !FPackageName::IsTempPackage(Name) && !FPackageName::IsMemoryPackage(Name);
+	return Name.StartsWith(TEXT("/")) && !FPackageName::IsScriptPackage(Name) && !FPackageName::IsTempPackage(Name) &&
+		!FPackageName::IsMemoryPackage(Name);
 }
 }
 
@@ -150,23 +162,13 @@ bool FAssetRegistryImpl::EnumerateAllAssets(TFunctionRef<bool(const FAssetData&)
 bool FAssetRegistryImpl::GetAssets(const FARFilter& Filter, TArray<FAssetData>& OutAssetData) const
 {
 	const int32 NumBefore = OutAssetData.Num();
-	const auto Take = [&OutAssetData](const FAssetData& Asset)
-	{
-		OutAssetData.Add(Asset);
-		return true;
-	};
-	return EnumerateAssets(Filter, Take) && OutAssetData.Num() > NumBefore;
+	return EnumerateAssets(Filter, AppendTo(OutAssetData)) && OutAssetData.Num() > NumBefore;
 }
 
 bool FAssetRegistryImpl::GetAllAssets(TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets) const
 {
 	const int32 NumBefore = OutAssetData.Num();
-	const auto Take = [&OutAssetData](const FAssetData& Asset)
-	{
-		OutAssetData.Add(Asset);
-		return true;
-	};
-	return EnumerateAllAssets(Take, bIncludeOnlyOnDiskAssets) && OutAssetData.Num() > NumBefore;
+	return EnumerateAllAssets(AppendTo(OutAssetData), bIncludeOnlyOnDiskAssets) && OutAssetData.Num() > NumBefore;
 }
 
 FAssetData FAssetRegistryImpl::GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets) const
@@ -226,7 +228,8 @@ bool FAssetRegistryImpl::HasAssets(FName PackagePath, bool bRecursive) const
 		{ return false; });
 }
 
-bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive, bool bIncludeOnlyOnDiskAssets) const
+bool FAssetRegistryImpl::GetAssetsByPath(FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive,
+	bool bIncludeOnlyOnDiskAssets) const
 {
 	return GetAssetsByPaths({PackagePath}, OutAssetData, bRecursive, bIncludeOnlyOnDiskAssets);
 }

@@ -26,7 +26,8 @@ void TakeNames(const TArray<FAssetDependency>& Relations, TArray<FName>& OutName
 bool IsWorkingClass(const UClass* Class)
 {
 	const FString Name = Class->GetName();
-	return Class->HasAnyClassFlags(CLASS_NewerVersionExists) || Name.StartsWith(TEXT("SKEL_"), ESearchCase::CaseSensitive) || Name.StartsWith(TEXT("REINST_"), ESearchCase::CaseSensitive);
+	return Class->HasAnyClassFlags(CLASS_NewerVersionExists) || Name.StartsWith(TEXT("SKEL_"), ESearchCase::CaseSensitive) ||
+		Name.StartsWith(TEXT("REINST_"), ESearchCase::CaseSensitive);
 }
 
 /** The direct subclasses: of a class in memory those in memory, and those that only a file tells of. */
@@ -141,8 +142,8 @@ bool FAssetRegistryImpl::GetAncestorClassNames(FTopLevelAssetPath ClassPathName,
 	}
 }
 
-void FAssetRegistryImpl::GetDerivedClassNames(const TArray<FTopLevelAssetPath>& ClassNames, const TSet<FTopLevelAssetPath>& ExcludedClassNames,
-	TSet<FTopLevelAssetPath>& OutDerivedClassNames) const
+void FAssetRegistryImpl::GetDerivedClassNames(const TArray<FTopLevelAssetPath>& ClassNames,
+	const TSet<FTopLevelAssetPath>& ExcludedClassNames, TSet<FTopLevelAssetPath>& OutDerivedClassNames) const
 {
 	SearchOnce();
 	TArray<FTopLevelAssetPath> Open(ClassNames);

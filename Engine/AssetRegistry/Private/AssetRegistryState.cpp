@@ -260,15 +260,17 @@ void FAssetRegistryState::SortByPath(FIds& Ids) const
 {
 	const auto IsLess = [this](int32 A, int32 B)
 	{ return IsPathLess(Assets[A], Assets[B]); };
-	// Comparing texts costs much more than comparing ranks, which a large answer is worth making for all.
+	// Comparing texts costs much more than comparing ranks; making these pays once the answers come to a part of all assets.
 	constexpr int32 LargePart = 8;
-	if (PathRanks.IsEmpty() && Ids.Num() < Assets.Num() / LargePart)
+	NumSortedByText += PathRanks.IsEmpty() ? Ids.Num() : 0;
+	if (PathRanks.IsEmpty() && NumSortedByText < Assets.Num() / LargePart)
 	{
 		std::sort(Ids.GetData(), Ids.GetData() + Ids.Num(), IsLess);
 		return;
 	}
 	if (PathRanks.IsEmpty())
 	{
+		NumSortedByText = 0;
 		FIds All = GetAllAssetIds();
 		std::sort(All.GetData(), All.GetData() + All.Num(), IsLess);
 		PathRanks.SetNumZeroed(Assets.GetMaxIndex());

@@ -96,4 +96,6 @@ private:
 	mutable bool bHasReferencers = false;
 	/** Place of each asset id in the order of paths; empty when that has changed since. */
 	mutable TArray<int32> PathRanks;
+	/** Ids put in order since the ranks were last made or lost. */
+	mutable int64 NumSortedByText = 0;
 };

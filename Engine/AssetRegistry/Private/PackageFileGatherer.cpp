@@ -29,6 +29,21 @@ TMap<FString, FString> GetRootsByFolder()
 	return Result;
 }
 
+/** A character that no package's name may have, or 0. */
+TCHAR FindInvalidCharacter(const FString& PackageName)
+{
+	static const FString Invalid(INVALID_LONGPACKAGE_CHARACTERS);
+	for (int32 Index = 0; Index < PackageName.Len(); ++Index)
+	{
+		int32 Ignored = INDEX_NONE;
+		if (Invalid.FindChar(PackageName[Index], Ignored))
+		{
+			return PackageName[Index];
+		}
+	}
+	return 0;
+}
+
 class FFileFinder
 {
 public:
@@ -71,12 +86,16 @@ public:
 private:
 	void AddFile(const TCHAR* Path, const FString& PackageName)
 	{
-		FText Reason;
-		const bool bGoodName = PackageName.Len() < NAME_SIZE && FPackageName::IsValidLongPackageName(PackageName, false, &Reason);
-		if (!bGoodName)
+		// The mounted root is good; asking for the whole name's validity would look through all roots for each file.
+		const TCHAR Invalid = FindInvalidCharacter(PackageName);
+		if (Invalid != 0)
 		{
-			Problems.Add(FString::Printf(TEXT("%s is left out: %s"), Path,
-				PackageName.Len() < NAME_SIZE ? *Reason.ToString() : TEXT("its name is too long")));
+			Problems.Add(FString::Printf(TEXT("%s is left out: a package's name cannot hold '%c'"), Path, Invalid));
+			return;
+		}
+		if (PackageName.Len() >= NAME_SIZE)
+		{
+			Problems.Add(FString::Printf(TEXT("%s is left out: its name is too long"), Path));
 			return;
 		}
 		const FName Name(*PackageName);

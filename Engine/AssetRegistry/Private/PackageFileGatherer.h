@@ -41,5 +41,6 @@ namespace PackageFileGatherer
  */
 void FindFiles(const FString& PackagePath, TArray<FPackageFile>& OutFiles, TArray<FString>& OutProblems);
 /** On the pool's threads and this one; answers in the order of the files. Headers that come from the cache are moved out of it. */
-TArray<FGatheredPackage> Gather(const TArray<FPackageFile>& Files, const FAssetRegistryState& State, FAssetRegistryCache& Cache, bool bForce);
+TArray<FGatheredPackage> Gather(const TArray<FPackageFile>& Files, const FAssetRegistryState& State, FAssetRegistryCache& Cache,
+	bool bForce);
 }

@@ -38,7 +38,8 @@ public:
 			OutError = TEXT("the file cannot be opened");
 			return false;
 		}
-		return ReadSummary(OutError) && CheckEnd(OutError) && ReadImports(OutError) && ReadSoftReferences(OutError) && ReadRegistryData(OutError);
+		return ReadSummary(OutError) && CheckEnd(OutError) && ReadImports(OutError) && ReadSoftReferences(OutError) &&
+			ReadRegistryData(OutError);
 	}
 
 private:
@@ -64,7 +65,8 @@ private:
 		}
 		// Older engines wrote the registry's data behind what they counted as the header.
 		const bool bDataBehindHeader = Summary.AssetRegistryDataOffset >= Summary.TotalHeaderSize;
-		const int64 Wanted = bDataBehindHeader ? FMath::Min(Ar.GetFileSize(), FPackageHeaderArchive::MaxHeaderBytes) : Summary.TotalHeaderSize;
+		const int64 Wanted =
+			bDataBehindHeader ? FMath::Min(Ar.GetFileSize(), FPackageHeaderArchive::MaxHeaderBytes) : Summary.TotalHeaderSize;
 		if (Summary.TotalHeaderSize <= 0 || !Ar.Require(Wanted))
 		{
 			OutError = FString::Printf(TEXT("the header's %d bytes are more than can be read of the file's %lld"), Summary.TotalHeaderSize,
@@ -98,7 +100,8 @@ private:
 		Ar.Seek(Offset);
 		if (Count > 0 && (Offset <= 0 || !Ar.CanHold(Count, MinEntryBytes)))
 		{
-			OutError = FString::Printf(TEXT("the table of %s (%d at offset %lld) does not fit into the header"), What, Count, static_cast<long long>(Offset));
+			OutError = FString::Printf(TEXT("the table of %s (%d at offset %lld) does not fit into the header"), What, Count,
+				static_cast<long long>(Offset));
 			return false;
 		}
 		return Count >= 0 || Fail(What, Offset, OutError);
@@ -154,7 +157,8 @@ private:
 		if (Summary.AssetRegistryDataOffset > 0)
 		{
 			Ar.Seek(Summary.AssetRegistryDataOffset);
-			const bool bHasFlags = Ar.UEVer() >= VER_UE4_ASSETREGISTRY_DEPENDENCYFLAGS && (Summary.PackageFlags & PKG_FilterEditorOnly) == 0;
+			const bool bHasFlags =
+				Ar.UEVer() >= VER_UE4_ASSETREGISTRY_DEPENDENCYFLAGS && (Summary.PackageFlags & PKG_FilterEditorOnly) == 0;
 			if (bHasFlags)
 			{
 				static_cast<FArchive&>(Ar) << FlagsOffset;
@@ -210,7 +214,8 @@ private:
 			const bool bIsGenerated = ClassName.EndsWith(GeneratedClassSuffix) && (Summary.PackageFlags & PKG_FilterEditorOnly) == 0;
 			if (bIsAsset && !bIsGenerated && ClassName.Len() < NAME_SIZE)
 			{
-				Header.Assets.Add(FAssetData(PackageName, PackagePath, FName(*ObjectPath), ToClassPath(ClassName), MoveTemp(Tags), Summary.PackageFlags));
+				Header.Assets.Add(
+					FAssetData(PackageName, PackagePath, FName(*ObjectPath), ToClassPath(ClassName), MoveTemp(Tags), Summary.PackageFlags));
 			}
 		}
 		return true;

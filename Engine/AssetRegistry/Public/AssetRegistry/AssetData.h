@@ -22,8 +22,8 @@ struct ASSETREGISTRY_API FAssetData
 	uint32 PackageFlags = 0;
 
 	FAssetData() = default;
-	FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPath, FAssetDataTagMap InTags = {},
-		uint32 InPackageFlags = 0);
+	FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPath,
+		FAssetDataTagMap InTags = {}, uint32 InPackageFlags = 0);
 	/** Of an asset in memory. */
 	explicit FAssetData(const UObject* InAsset);
 

@@ -25,13 +25,15 @@ public:
 	virtual FAssetData GetAssetByObjectPath(const FSoftObjectPath& ObjectPath, bool bIncludeOnlyOnDiskAssets = false) const = 0;
 	/** Each answers false when there is no such asset. */
 	virtual bool HasAssets(FName PackagePath, bool bRecursive = false) const = 0;
-	virtual bool GetAssetsByPackageName(FName PackageName, TArray<FAssetData>& OutAssetData, bool bIncludeOnlyOnDiskAssets = false) const = 0;
+	virtual bool GetAssetsByPackageName(FName PackageName, TArray<FAssetData>& OutAssetData,
+		bool bIncludeOnlyOnDiskAssets = false) const = 0;
 	virtual bool GetAssetsByPath(
 		FName PackagePath, TArray<FAssetData>& OutAssetData, bool bRecursive = false, bool bIncludeOnlyOnDiskAssets = false) const = 0;
-	virtual bool GetAssetsByPaths(
-		TArray<FName> PackagePaths, TArray<FAssetData>& OutAssetData, bool bRecursive = false, bool bIncludeOnlyOnDiskAssets = false) const = 0;
+	virtual bool GetAssetsByPaths(TArray<FName> PackagePaths, TArray<FAssetData>& OutAssetData, bool bRecursive = false,
+		bool bIncludeOnlyOnDiskAssets = false) const = 0;
 	/** With the subclasses: native ones, and the ones that Blueprints make. */
-	virtual bool GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData, bool bSearchSubClasses = false) const = 0;
+	virtual bool GetAssetsByClass(FTopLevelAssetPath ClassPathName, TArray<FAssetData>& OutAssetData,
+		bool bSearchSubClasses = false) const = 0;
 	/** Assets that have any of the tags; of the values, any of the pairs. */
 	virtual bool GetAssetsByTags(const TArray<FName>& AssetTags, TArray<FAssetData>& OutAssetData) const = 0;
 	virtual bool GetAssetsByTagValues(const TMultiMap<FName, FString>& AssetTagsAndValues, TArray<FAssetData>& OutAssetData) const = 0;
@@ -97,7 +99,7 @@ public:
 	/** An asset's file was read anew. */
 	DECLARE_MULTICAST_DELEGATE_OneParam(FAssetUpdatedEvent, const FAssetData&);
 	FAssetUpdatedEvent& OnAssetUpdated() { return AssetUpdatedEvent; }
-	/** The first search of all folders is done. */
+	/** A search of all folders is done. */
 	DECLARE_MULTICAST_DELEGATE(FFilesLoadedEvent);
 	FFilesLoadedEvent& OnFilesLoaded() { return FilesLoadedEvent; }
 
