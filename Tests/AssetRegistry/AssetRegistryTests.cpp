@@ -1,83 +1,13 @@
-#include "AssetRegistry/AssetRegistryModule.h"
+#include "AssetRegistryFixture.h"
 
-#include "Engine/Blueprint.h"
-#include "LogCapture.h"
-#include "Misc/PackageName.h"
-#include "UObject/Package.h"
-#include "UObject/SavePackage.h"
-#include "UObject/UObjectGlobals.h"
-
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
+#include <functional>
 
 namespace
 {
-/** A content folder of its own, mounted as /RegistryTest/, which the registry has read while it was empty. */
-class FAssetRegistryTest : public testing::Test
-{
-protected:
-	static void SetUpTestSuite() { ProcessNewlyLoadedUObjects(); }
-
-	virtual void SetUp() override
-	{
-		std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-registry-test-XXXXXX").string();
-		Directory = mkdtemp(Pattern.data());
-		Content = FString(UTF8_TO_TCHAR(Directory.c_str())) + TEXT("/");
-		FPackageName::RegisterMountPoint(TEXT("/RegistryTest/"), Content);
-		Registry().SearchAllAssets(true);
-	}
-
-	virtual void TearDown() override
-	{
-		FPackageName::UnRegisterMountPoint(TEXT("/RegistryTest/"), Content);
-		std::error_code Ignored;
-		std::filesystem::remove_all(Directory, Ignored);
-		CollectGarbage(RF_NoFlags);
-	}
-
-	static IAssetRegistry& Registry() { return IAssetRegistry::GetChecked(); }
-
-	std::filesystem::path FileOf(const std::string& Name) const { return Directory / (Name + ".uasset"); }
-
-	/** Saves a Blueprint asset as /RegistryTest/Name; the object is gone afterwards. */
-	void SaveAsset(const std::string& Name) const
-	{
-		const FString PackageName = TEXT("/RegistryTest/") + FString(UTF8_TO_TCHAR(Name.c_str()));
-		UPackage* const Package = CreatePackage(*PackageName);
-		UBlueprint* const Blueprint = NewObject<UBlueprint>(Package, FName(*FPackageName::GetShortName(PackageName)), RF_Public | RF_Standalone);
-		ASSERT_TRUE(UPackage::SavePackage(Package, Blueprint, *FString(UTF8_TO_TCHAR(FileOf(Name).c_str())), FSavePackageArgs()));
-		Blueprint->ClearFlags(RF_Standalone);
-		CollectGarbage(RF_NoFlags);
-		ASSERT_EQ(FindPackage(nullptr, *PackageName), nullptr);
-	}
-
-	/** Paths of the assets below the folder, in the registry's order. */
-	static std::vector<std::string> ListAssets(const TCHAR* Folder = TEXT("/RegistryTest"), bool bRecursive = true)
-	{
-		TArray<FAssetData> Assets;
-		const bool bAny = Registry().GetAssetsByPath(FName(Folder), Assets, bRecursive);
-		EXPECT_EQ(bAny, Assets.Num() > 0);
-		std::vector<std::string> Paths;
-		for (const FAssetData& Asset : Assets)
-		{
-			Paths.push_back(TCHAR_TO_UTF8(*Asset.GetObjectPathString()));
-		}
-		return Paths;
-	}
-
-	using FPaths = std::vector<std::string>;
-
-	FLogCapture Log;
-	std::filesystem::path Directory;
-	FString Content;
-};
-
 TEST_F(FAssetRegistryTest, ASavedAssetIsKnownAtOnceThoughItIsNotInMemory)
 {
 	SaveAsset("BP_New");
-	EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/BP_New.BP_New"}));
+	EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/BP_New.BP_New"}));
 	const FAssetData Asset = Registry().GetAssetByObjectPath(FSoftObjectPath(TEXT("/RegistryTest/BP_New.BP_New")));
 	ASSERT_TRUE(Asset.IsValid());
 	EXPECT_FALSE(Asset.IsAssetLoaded());
@@ -94,11 +24,11 @@ TEST_F(FAssetRegistryTest, AFileThatIsPutIntoTheFolderIsSeenByTheNextScanAlone)
 	const std::filesystem::path Aside = Directory / "Aside.bin";
 	std::filesystem::rename(FileOf("BP_Away"), Aside);
 	Registry().ScanPathsSynchronous({TEXT("/RegistryTest")});
-	EXPECT_EQ(ListAssets(), FPaths());
+	EXPECT_EQ(ListAssets(), FPathList());
 	std::filesystem::rename(Aside, FileOf("BP_Away"));
-	EXPECT_EQ(ListAssets(), FPaths());
+	EXPECT_EQ(ListAssets(), FPathList());
 	Registry().ScanPathsSynchronous({TEXT("/RegistryTest")});
-	EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/BP_Away.BP_Away"}));
+	EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/BP_Away.BP_Away"}));
 }
 
 TEST_F(FAssetRegistryTest, ARemovedFileIsForgottenByEachKindOfScan)
@@ -119,7 +49,7 @@ TEST_F(FAssetRegistryTest, ARemovedFileIsForgottenByEachKindOfScan)
 		SaveAsset("BP_Gone2");
 		std::filesystem::remove(FileOf("BP_Gone"));
 		Scan();
-		EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/BP_Gone2.BP_Gone2"}));
+		EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/BP_Gone2.BP_Gone2"}));
 		EXPECT_FALSE(Registry().GetAssetByObjectPath(FSoftObjectPath(TEXT("/RegistryTest/BP_Gone.BP_Gone"))).IsValid());
 	}
 }
@@ -131,7 +61,7 @@ TEST_F(FAssetRegistryTest, AFileThatBecameAnotherPackageIsReadAnew)
 	// The asset inside keeps its name, whatever the file is called.
 	std::filesystem::copy_file(FileOf("Second"), FileOf("First"), std::filesystem::copy_options::overwrite_existing);
 	Registry().ScanPathsSynchronous({TEXT("/RegistryTest/First")});
-	EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/First.Second", "/RegistryTest/Second.Second"}));
+	EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/First.Second", "/RegistryTest/Second.Second"}));
 }
 
 TEST_F(FAssetRegistryTest, ABrokenFileCostsOneLogLineAndNoOtherAsset)
@@ -155,7 +85,7 @@ TEST_F(FAssetRegistryTest, ABrokenFileCostsOneLogLineAndNoOtherAsset)
 		std::ofstream(FileOf("BP_Broken"), std::ios::binary | std::ios::trunc) << Case;
 		Log.Clear();
 		Registry().ScanPathsSynchronous({TEXT("/RegistryTest")});
-		EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/BP_Good.BP_Good"}));
+		EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/BP_Good.BP_Good"}));
 		EXPECT_EQ(Log.Count("BP_Broken"), 1) << Log.ToText();
 	}
 }
@@ -178,7 +108,7 @@ TEST_F(FAssetRegistryTest, AnAssetThatBreaksIsNoLongerListed)
 	SaveAsset("BP_Breaks");
 	std::ofstream(FileOf("BP_Breaks"), std::ios::trunc) << "damaged";
 	Registry().ScanPathsSynchronous({TEXT("/RegistryTest/BP_Breaks")});
-	EXPECT_EQ(ListAssets(), FPaths());
+	EXPECT_EQ(ListAssets(), FPathList());
 }
 
 TEST_F(FAssetRegistryTest, AFolderIsNotMistakenForOneWhoseNameStartsAlike)
@@ -187,11 +117,12 @@ TEST_F(FAssetRegistryTest, AFolderIsNotMistakenForOneWhoseNameStartsAlike)
 	{
 		SaveAsset(Name);
 	}
-	EXPECT_EQ(ListAssets(TEXT("/RegistryTest/Doors"), false), (FPaths{"/RegistryTest/Doors/BP_A.BP_A"}));
-	EXPECT_EQ(ListAssets(TEXT("/RegistryTest/Doors"), true), (FPaths{"/RegistryTest/Doors/BP_A.BP_A", "/RegistryTest/Doors/Old/BP_B.BP_B"}));
+	EXPECT_EQ(ListAssets(TEXT("/RegistryTest/Doors"), false), (FPathList{"/RegistryTest/Doors/BP_A.BP_A"}));
+	EXPECT_EQ(ListAssets(TEXT("/RegistryTest/Doors"), true),
+		(FPathList{"/RegistryTest/Doors/BP_A.BP_A", "/RegistryTest/Doors/Old/BP_B.BP_B"}));
 	std::filesystem::remove_all(Directory / "Doors");
 	Registry().ScanPathsSynchronous({TEXT("/RegistryTest/Doors")});
-	EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/DoorsToo/BP_C.BP_C"}));
+	EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/DoorsToo/BP_C.BP_C"}));
 }
 
 TEST_F(FAssetRegistryTest, AnAssetInMemoryIsListedOnceUntilOnlyTheDiskIsAskedFor)
@@ -204,15 +135,15 @@ TEST_F(FAssetRegistryTest, AnAssetInMemoryIsListedOnceUntilOnlyTheDiskIsAskedFor
 	FAssetRegistryModule::AssetCreated(Blueprint);
 	Registry().OnAssetAdded().Remove(Handle);
 	ASSERT_EQ(Added.Num(), 1);
-	EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/BP_Memory.BP_Memory"}));
+	EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/BP_Memory.BP_Memory"}));
 	TArray<FAssetData> OnDisk;
 	EXPECT_FALSE(Registry().GetAssetsByPackageName(TEXT("/RegistryTest/BP_Memory"), OnDisk, true));
 	ASSERT_TRUE(UPackage::SavePackage(Package, Blueprint, *(Content + TEXT("BP_Memory.uasset")), FSavePackageArgs()));
-	EXPECT_EQ(ListAssets(), (FPaths{"/RegistryTest/BP_Memory.BP_Memory"}));
+	EXPECT_EQ(ListAssets(), (FPathList{"/RegistryTest/BP_Memory.BP_Memory"}));
 	EXPECT_TRUE(Registry().GetAssetsByPackageName(TEXT("/RegistryTest/BP_Memory"), OnDisk, true));
 	FAssetRegistryModule::AssetDeleted(Blueprint);
 	Blueprint->ClearFlags(RF_Standalone);
-	EXPECT_EQ(ListAssets(), FPaths());
+	EXPECT_EQ(ListAssets(), FPathList());
 }
 
 TEST_F(FAssetRegistryTest, ClassesAreAskedForWithAndWithoutTheirSubclasses)

@@ -85,8 +85,9 @@ TEST_P(BadDefaultTest, IsRefusedAtTheValue)
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, BadDefaultTest,
-	testing::Values("bool X = 1", "float X = 1banana", "float X = MAX_FLT", "float X = 1e999", "int32 X = 1.5", "int32 X = 12 + 3", "int32 X = 99999999999999999999", "int32 X = 0x",
-		"FString X = GetName()", "FVector X = FVector(1, 2)", "FVector X = FVector(A, B, C)", "FVector2D X = FVector2D(1)", "TArray<int32> X = {1, 2}", "UObject* X = GetWorld()",
+	testing::Values("bool X = 1", "float X = 1banana", "float X = MAX_FLT", "float X = 1e999", "int32 X = 1.5", "int32 X = 12 + 3",
+		"int32 X = 99999999999999999999", "int32 X = 0x", "FString X = GetName()", "FVector X = FVector(1, 2)",
+		"FVector X = FVector(A, B, C)", "FVector2D X = FVector2D(1)", "TArray<int32> X = {1, 2}", "UObject* X = GetWorld()",
 		"FText X = SomeText"));
 
 TEST(DefaultArguments, HugeComponentsAreNotCutOff)
@@ -100,7 +101,8 @@ TEST(DefaultArguments, HugeComponentsAreNotCutOff)
 
 TEST(DefaultArguments, EveryParameterHasItsOwnKey)
 {
-	const FParseResult Result = ParseParameter("int32 A = 1, FVector B = FVector(1, 2, 3), TMap<FName, int32> C = TMap<FName, int32>(), int32 D = 4");
+	const FParseResult Result =
+		ParseParameter("int32 A = 1, FVector B = FVector(1, 2, 3), TMap<FName, int32> C = TMap<FName, int32>(), int32 D = 4");
 	ASSERT_TRUE(Result.Succeeded());
 	const FMetaData& MetaData = Result.Header.Classes.at(0).Functions.at(0).MetaData;
 	ASSERT_EQ(MetaData.Pairs().size(), 4u);

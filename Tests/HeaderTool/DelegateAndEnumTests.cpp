@@ -7,7 +7,8 @@ namespace
 {
 using namespace HeaderParser;
 
-constexpr const char* Arities[] = {"", "_OneParam", "_TwoParams", "_ThreeParams", "_FourParams", "_FiveParams", "_SixParams", "_SevenParams", "_EightParams", "_NineParams"};
+constexpr const char* Arities[] = {"", "_OneParam", "_TwoParams", "_ThreeParams", "_FourParams", "_FiveParams", "_SixParams",
+	"_SevenParams", "_EightParams", "_NineParams"};
 
 /** ", int32, P0, int32, P1" */
 std::string MakeParameters(const size_t Count)
@@ -38,7 +39,8 @@ TEST_P(DelegateFormTest, IsReadWithEveryNumberOfParameters)
 {
 	for (size_t Count = 0; Count < std::size(Arities); ++Count)
 	{
-		const std::string Text = std::string(GetParam().Macro) + Arities[Count] + "(" + GetParam().Before + "FOnUsed" + GetParam().Behind + MakeParameters(Count) + ");";
+		const std::string Text = std::string(GetParam().Macro) + Arities[Count] + "(" + GetParam().Before + "FOnUsed" + GetParam().Behind +
+			MakeParameters(Count) + ");";
 		const FParseResult Result = ParseHeader(Text);
 		ASSERT_TRUE(Result.Succeeded()) << Text << "\n"
 										<< FormatDiagnostic("X.h", Result.Errors.at(0));
@@ -48,30 +50,37 @@ TEST_P(DelegateFormTest, IsReadWithEveryNumberOfParameters)
 		EXPECT_EQ(Delegate.Signature.ReturnValue.has_value(), GetParam().bReturns) << Text;
 		EXPECT_EQ(Delegate.bMulticast, GetParam().bMulticast) << Text;
 		EXPECT_EQ(Delegate.bSparse, GetParam().bSparse) << Text;
-		EXPECT_EQ(Delegate.Signature.Flags, FunctionFlags::Public | FunctionFlags::Delegate | (GetParam().bMulticast ? FunctionFlags::MulticastDelegate : 0)) << Text;
+		EXPECT_EQ(Delegate.Signature.Flags,
+			FunctionFlags::Public | FunctionFlags::Delegate | (GetParam().bMulticast ? FunctionFlags::MulticastDelegate : 0))
+			<< Text;
 	}
 }
 
 INSTANTIATE_TEST_SUITE_P(Forms, DelegateFormTest,
-	testing::Values(FDelegateForm{"DECLARE_DYNAMIC_DELEGATE", "", "", false, false, false}, FDelegateForm{"DECLARE_DYNAMIC_DELEGATE_RetVal", "bool, ", "", true, false, false},
+	testing::Values(FDelegateForm{"DECLARE_DYNAMIC_DELEGATE", "", "", false, false, false},
+		FDelegateForm{"DECLARE_DYNAMIC_DELEGATE_RetVal", "bool, ", "", true, false, false},
 		FDelegateForm{"DECLARE_DYNAMIC_MULTICAST_DELEGATE", "", "", false, true, false},
 		FDelegateForm{"DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE", "", ", AActor, OnUsed", false, true, true}));
 
 TEST(Delegates, ParametersKeepHowTheyArePassed)
 {
-	const FParseResult Result = ParseHeader("UDELEGATE(meta = (Ms = \"1\"))\nDECLARE_DYNAMIC_DELEGATE_ThreeParams(FAsk, const FString&, Text, UPARAM(ref) int32&, Count, const TArray<FName>&, Names);");
+	const FParseResult Result = ParseHeader("UDELEGATE(meta = (Ms = \"1\"))\nDECLARE_DYNAMIC_DELEGATE_ThreeParams(FAsk, const FString&, "
+											"Text, UPARAM(ref) int32&, Count, const TArray<FName>&, Names);");
 	ASSERT_TRUE(Result.Succeeded());
 	const FFunctionDeclaration& Signature = Result.Header.Delegates.at(0).Signature;
 	EXPECT_EQ(Signature.Parameters.at(0).Flags, PropertyFlags::Parm);
 	EXPECT_EQ(Signature.Parameters.at(1).Flags, PropertyFlags::Parm | PropertyFlags::OutParm | PropertyFlags::ReferenceParm);
-	EXPECT_EQ(Signature.Parameters.at(2).Flags, PropertyFlags::Parm | PropertyFlags::OutParm | PropertyFlags::ReferenceParm | PropertyFlags::ConstParm);
+	EXPECT_EQ(Signature.Parameters.at(2).Flags,
+		PropertyFlags::Parm | PropertyFlags::OutParm | PropertyFlags::ReferenceParm | PropertyFlags::ConstParm);
 	EXPECT_TRUE(Signature.Flags & FunctionFlags::HasOutParms);
 	EXPECT_TRUE(Signature.MetaData.Has("Ms"));
 }
 
 TEST(Delegates, MacrosThatReflectNothingArePassedOver)
 {
-	const FParseResult Result = ParseHeader("DECLARE_DELEGATE(FPlain);\nDECLARE_MULTICAST_DELEGATE_OneParam(FMany, std::vector<int>*);\nDECLARE_EVENT(UThing, FEvent);\n#define X DECLARE_DYNAMIC_DELEGATE(FNo);");
+	const FParseResult Result =
+		ParseHeader("DECLARE_DELEGATE(FPlain);\nDECLARE_MULTICAST_DELEGATE_OneParam(FMany, std::vector<int>*);\nDECLARE_EVENT(UThing, "
+					"FEvent);\n#define X DECLARE_DYNAMIC_DELEGATE(FNo);");
 	EXPECT_TRUE(Result.Succeeded());
 	EXPECT_TRUE(Result.Header.Delegates.empty());
 }
@@ -124,7 +133,8 @@ class EnumeratorValueTest : public testing::TestWithParam<FValueCase>
 
 TEST_P(EnumeratorValueTest, IsComputedWhereItCanBe)
 {
-	const FParseResult Result = ParseHeader(std::string("UENUM() enum class E : int64 { Two = 2, Four = 4, X = ") + GetParam().Expression + ", Next };");
+	const FParseResult Result =
+		ParseHeader(std::string("UENUM() enum class E : int64 { Two = 2, Four = 4, X = ") + GetParam().Expression + ", Next };");
 	ASSERT_TRUE(Result.Succeeded()) << FormatDiagnostic("X.h", Result.Errors.at(0));
 	const std::vector<FEnumeratorDeclaration>& Enumerators = Result.Header.Enums.at(0).Enumerators;
 	EXPECT_EQ(Enumerators.at(2).Value, GetParam().Value);
@@ -166,8 +176,10 @@ INSTANTIATE_TEST_SUITE_P(Expressions, EnumeratorValueTest, testing::ValuesIn(Val
 
 TEST(Enums, EnumeratorsCarryTheirMetaDataAndComments)
 {
-	const FParseResult Result = ParseHeader("UENUM(BlueprintType, Flags, meta = (Bitflags, UseEnumValuesAsMaskValuesInEditor = \"true\"))\nenum class EWay : uint8\n{\n\tNone = 0 UMETA(Hidden),\n\t/** To the left. */\n"
-											"\tLeft UMETA(DisplayName = \"Go, left\", ToolTip = \"T\"),\n\t// Behind it.\n\tBack UE_DEPRECATED(5.0, \"x\") = 1 << 3,\n\tMAX\n};");
+	const FParseResult Result = ParseHeader("UENUM(BlueprintType, Flags, meta = (Bitflags, UseEnumValuesAsMaskValuesInEditor = "
+											"\"true\"))\nenum class EWay : uint8\n{\n\tNone = 0 UMETA(Hidden),\n\t/** To the left. */\n"
+											"\tLeft UMETA(DisplayName = \"Go, left\", ToolTip = \"T\"),\n\t// Behind it.\n\tBack "
+											"UE_DEPRECATED(5.0, \"x\") = 1 << 3,\n\tMAX\n};");
 	ASSERT_TRUE(Result.Succeeded()) << FormatDiagnostic("X.h", Result.Errors.at(0));
 	const FEnumDeclaration& Enum = Result.Header.Enums.at(0);
 	EXPECT_TRUE(Enum.bFlags);
@@ -182,7 +194,8 @@ TEST(Enums, EnumeratorsCarryTheirMetaDataAndComments)
 
 TEST(Enums, NamespacedEnumIsNamedByItsNamespace)
 {
-	const FParseResult Result = ParseHeader("UENUM()\nnamespace ESide\n{\n\tenum Type : int\n\t{\n\t\tLeft,\n\t\tRight UMETA(Hidden),\n\t};\n}\nUENUM() enum class EWide : int64 { A };");
+	const FParseResult Result = ParseHeader("UENUM()\nnamespace ESide\n{\n\tenum Type : int\n\t{\n\t\tLeft,\n\t\tRight "
+											"UMETA(Hidden),\n\t};\n}\nUENUM() enum class EWide : int64 { A };");
 	ASSERT_TRUE(Result.Succeeded());
 	const FEnumDeclaration& Side = Result.Header.Enums.at(0);
 	EXPECT_EQ(Side.Form, EEnumForm::Namespaced);

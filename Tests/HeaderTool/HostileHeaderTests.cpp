@@ -112,7 +112,9 @@ TEST(HugeHeaders, LongListsAreReadInTime)
 	EXPECT_TRUE(ParseHeader("UENUM() enum E { A = " + Repeat("1+", Many) + "1 };").Succeeded());
 	EXPECT_TRUE(ParseHeader("UENUM() enum E { A = " + Repeat("-", Many) + "1 };").Succeeded());
 	EXPECT_TRUE(ParseHeader("UENUM() enum E { A = " + Repeat("B::", Many) + "C };").Succeeded());
-	EXPECT_EQ(ParseHeader("USTRUCT() struct F1 { " + Repeat("UPROPERTY() int32 A;", Many / 10) + " };").Header.Structs.at(0).Properties.size(), Many / 10);
+	EXPECT_EQ(
+		ParseHeader("USTRUCT() struct F1 { " + Repeat("UPROPERTY() int32 A;", Many / 10) + " };").Header.Structs.at(0).Properties.size(),
+		Many / 10);
 	EXPECT_TRUE(ParseHeader(Repeat("// a\n", 5 * Many) + "UENUM() enum E { A };").Succeeded());
 }
 
@@ -132,13 +134,18 @@ TEST(HugeHeaders, InterfacesWithoutBodiesAreFoundInTime)
 
 TEST(HostileText, StrayBracketsOutsideDeclarationsAreErrorsOrPassedOver)
 {
-	for (const char* const Text : {"}", ")", "]", ">", "}}}}", "({)}", "[", "(", "{", "class", "class I", "class I {", "DECLARE_DYNAMIC_DELEGATE", "DECLARE_DYNAMIC_DELEGATE(", "UDELEGATE",
-			 "UCLASS", "USTRUCT(", "UENUM()", "UINTERFACE()", "UENUM() enum", "UENUM() namespace", "UENUM() enum E {", "UENUM() enum E { A UMETA", "UENUM() enum E { A [",
-			 "UENUM() enum alignas", "USTRUCT() struct alignas", "USTRUCT() struct F1 :", "USTRUCT() struct F1 : A::", "USTRUCT() struct F1 : A<", "USTRUCT() struct F1 { UPROPERTY",
-			 "USTRUCT() struct F1 { UPROPERTY() alignas", "USTRUCT() struct F1 { UPROPERTY() UE_DEPRECATED", "USTRUCT() struct F1 { UPROPERTY() [", "USTRUCT() struct F1 { UPROPERTY() TMap<",
-			 "USTRUCT() struct F1 { UPROPERTY() int32 A {", "USTRUCT() struct F1 { UPROPERTY() int32 A :", "UCLASS() class U1 { UFUNCTION() void F() =", "UCLASS() class U1 { UFUNCTION() void F() A(",
-			 "UCLASS() class U1 { UFUNCTION() void F(int32 A = ", "UCLASS() class U1 { GENERATED_BODY", "UCLASS() class U1 { GENERATED_BODY(", "UCLASS(A =", "UCLASS(meta =", "UCLASS(meta = (", "UCLASS(A-",
-			 "UCLASS(meta = (A = TEXT(", "#", "#if", "#include \"", "\\", "\"\\", "R\"", "R\"(", "'\\", "//", "/*", "0x", "1e+", "::", "\xEF\xBB", "\xC3"})
+	for (const char* const Text :
+		{"}", ")", "]", ">", "}}}}", "({)}", "[", "(", "{", "class", "class I", "class I {", "DECLARE_DYNAMIC_DELEGATE",
+			"DECLARE_DYNAMIC_DELEGATE(", "UDELEGATE", "UCLASS", "USTRUCT(", "UENUM()", "UINTERFACE()", "UENUM() enum", "UENUM() namespace",
+			"UENUM() enum E {", "UENUM() enum E { A UMETA", "UENUM() enum E { A [", "UENUM() enum alignas", "USTRUCT() struct alignas",
+			"USTRUCT() struct F1 :", "USTRUCT() struct F1 : A::", "USTRUCT() struct F1 : A<", "USTRUCT() struct F1 { UPROPERTY",
+			"USTRUCT() struct F1 { UPROPERTY() alignas", "USTRUCT() struct F1 { UPROPERTY() UE_DEPRECATED",
+			"USTRUCT() struct F1 { UPROPERTY() [", "USTRUCT() struct F1 { UPROPERTY() TMap<", "USTRUCT() struct F1 { UPROPERTY() int32 A {",
+			"USTRUCT() struct F1 { UPROPERTY() int32 A :", "UCLASS() class U1 { UFUNCTION() void F() =",
+			"UCLASS() class U1 { UFUNCTION() void F() A(", "UCLASS() class U1 { UFUNCTION() void F(int32 A = ",
+			"UCLASS() class U1 { GENERATED_BODY", "UCLASS() class U1 { GENERATED_BODY(", "UCLASS(A =", "UCLASS(meta =", "UCLASS(meta = (",
+			"UCLASS(A-", "UCLASS(meta = (A = TEXT(", "#", "#if", "#include \"", "\\", "\"\\", "R\"", "R\"(", "'\\", "//", "/*", "0x", "1e+",
+			"::", "\xEF\xBB", "\xC3"})
 	{
 		ExpectErrorsInText(ParseHeader(Text), Text);
 	}

@@ -55,7 +55,18 @@ TEST_P(PropertyFlagsTest, DeclarationGivesKindAndFlags)
 	EXPECT_EQ(Property.Flags, GetParam().Flags | PropertyFlags::NativeAccessSpecifierPublic) << std::hex << Property.Flags;
 }
 
-INSTANTIATE_TEST_SUITE_P(Declarations, PropertyFlagsTest, testing::Values(FPropertyCase{"UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = A) int32 Count = 3;", "Count", ETypeKind::Int, 0x15}, FPropertyCase{"UPROPERTY(VisibleDefaultsOnly) TObjectPtr<class UBar> Bar;", "Bar", ETypeKind::Object, 0x4000000030001}, FPropertyCase{"UPROPERTY() const UBar* Bar{nullptr};", "Bar", ETypeKind::Object, 0}, FPropertyCase{"UPROPERTY(Transient) uint8 bFlag : 1;", "bFlag", ETypeKind::Bool, 0x2000}, FPropertyCase{"UPROPERTY() FString Old_DEPRECATED;", "Old", ETypeKind::String, 0x20000000}, FPropertyCase{"UPROPERTY(ReplicatedUsing = OnRep_X) TArray<FName> X;", "X", ETypeKind::Array, 0x100000020}, FPropertyCase{"UPROPERTY(BlueprintGetter = GetX) double X;", "X", ETypeKind::Double, 0x14}, FPropertyCase{"UPROPERTY(Instanced) UBar* Bar;", "Bar", ETypeKind::Object, 0x2000000080008}, FPropertyCase{"#if WITH_EDITORONLY_DATA\nUPROPERTY() bool bX;\n#endif", "bX", ETypeKind::Bool, 0x800000000}, FPropertyCase{"UPROPERTY(GlobalConfig) TSubclassOf<class AActor> X;", "X", ETypeKind::Class, 0x4000000044000}));
+INSTANTIATE_TEST_SUITE_P(Declarations, PropertyFlagsTest,
+	testing::Values(
+		FPropertyCase{"UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = A) int32 Count = 3;", "Count", ETypeKind::Int, 0x15},
+		FPropertyCase{"UPROPERTY(VisibleDefaultsOnly) TObjectPtr<class UBar> Bar;", "Bar", ETypeKind::Object, 0x4000000030001},
+		FPropertyCase{"UPROPERTY() const UBar* Bar{nullptr};", "Bar", ETypeKind::Object, 0},
+		FPropertyCase{"UPROPERTY(Transient) uint8 bFlag : 1;", "bFlag", ETypeKind::Bool, 0x2000},
+		FPropertyCase{"UPROPERTY() FString Old_DEPRECATED;", "Old", ETypeKind::String, 0x20000000},
+		FPropertyCase{"UPROPERTY(ReplicatedUsing = OnRep_X) TArray<FName> X;", "X", ETypeKind::Array, 0x100000020},
+		FPropertyCase{"UPROPERTY(BlueprintGetter = GetX) double X;", "X", ETypeKind::Double, 0x14},
+		FPropertyCase{"UPROPERTY(Instanced) UBar* Bar;", "Bar", ETypeKind::Object, 0x2000000080008},
+		FPropertyCase{"#if WITH_EDITORONLY_DATA\nUPROPERTY() bool bX;\n#endif", "bX", ETypeKind::Bool, 0x800000000},
+		FPropertyCase{"UPROPERTY(GlobalConfig) TSubclassOf<class AActor> X;", "X", ETypeKind::Class, 0x4000000044000}));
 
 struct FDefaultCase
 {
@@ -74,11 +85,25 @@ TEST_P(DefaultArgumentTest, IsKeptInImportForm)
 	EXPECT_EQ(MetaValue(Class.Functions[0].MetaData, "CPP_Default_X"), GetParam().Import);
 }
 
-INSTANTIATE_TEST_SUITE_P(Values, DefaultArgumentTest, testing::Values(FDefaultCase{"float X = 2.f", "2.000000"}, FDefaultCase{"int32 X = -1", "-1"}, FDefaultCase{"bool X = true", "true"}, FDefaultCase{"const FString& X = FString(TEXT(\"He said \\\"hi\\\"\"))", "He said \"hi\""}, FDefaultCase{"FName X = NAME_None", "None"}, FDefaultCase{"AActor* X = nullptr", "None"}, FDefaultCase{"FVector X = FVector(0, 0.5f, -1)", "0.000000,0.500000,-1.000000"}, FDefaultCase{"FVector X = FVector::ZeroVector", ""}, FDefaultCase{"FRotator X = FRotator(0.f, 90.f, 0.f)", "0.000000,90.000000,0.000000"}, FDefaultCase{"FVector2D X = FVector2D(1.f, 2.f)", "(X=1.000,Y=2.000)"}, FDefaultCase{"FLinearColor X = FLinearColor(0.0, 0.66, 1.0)", "(R=0.000000,G=0.660000,B=1.000000,A=1.000000)"}, FDefaultCase{"FLinearColor X = FLinearColor::Red", "(R=1.000000,G=0.000000,B=0.000000,A=1.000000)"}, FDefaultCase{"ESpawn X = ESpawn::AlwaysSpawn", "AlwaysSpawn"}, FDefaultCase{"TEnumAsByte<ESide::Type> X = ESide::Left", "Left"}, FDefaultCase{"ECollisionChannel X = ECC_Visibility", "ECC_Visibility"}, FDefaultCase{"FText X = INVTEXT(\"a, b\")", "INVTEXT(\"a, b\")"}, FDefaultCase{"const TMap<FName, int32>& X = TMap<FName, int32>(), int32 Y = 3", "()"}));
+INSTANTIATE_TEST_SUITE_P(Values, DefaultArgumentTest,
+	testing::Values(FDefaultCase{"float X = 2.f", "2.000000"}, FDefaultCase{"int32 X = -1", "-1"}, FDefaultCase{"bool X = true", "true"},
+		FDefaultCase{"const FString& X = FString(TEXT(\"He said \\\"hi\\\"\"))", "He said \"hi\""},
+		FDefaultCase{"FName X = NAME_None", "None"}, FDefaultCase{"AActor* X = nullptr", "None"},
+		FDefaultCase{"FVector X = FVector(0, 0.5f, -1)", "0.000000,0.500000,-1.000000"},
+		FDefaultCase{"FVector X = FVector::ZeroVector", ""},
+		FDefaultCase{"FRotator X = FRotator(0.f, 90.f, 0.f)", "0.000000,90.000000,0.000000"},
+		FDefaultCase{"FVector2D X = FVector2D(1.f, 2.f)", "(X=1.000,Y=2.000)"},
+		FDefaultCase{"FLinearColor X = FLinearColor(0.0, 0.66, 1.0)", "(R=0.000000,G=0.660000,B=1.000000,A=1.000000)"},
+		FDefaultCase{"FLinearColor X = FLinearColor::Red", "(R=1.000000,G=0.000000,B=0.000000,A=1.000000)"},
+		FDefaultCase{"ESpawn X = ESpawn::AlwaysSpawn", "AlwaysSpawn"}, FDefaultCase{"TEnumAsByte<ESide::Type> X = ESide::Left", "Left"},
+		FDefaultCase{"ECollisionChannel X = ECC_Visibility", "ECC_Visibility"},
+		FDefaultCase{"FText X = INVTEXT(\"a, b\")", "INVTEXT(\"a, b\")"},
+		FDefaultCase{"const TMap<FName, int32>& X = TMap<FName, int32>(), int32 Y = 3", "()"}));
 
 TEST(Parser, ParameterPassingGivesFlags)
 {
-	const FClassDeclaration Class = ParseClass("UFUNCTION() void Use(const TArray<int32>& In, int32& Out, UPARAM(ref, DisplayName = \"Both\") FHitResult& InOut, const UObject* World, const FString& Text);");
+	const FClassDeclaration Class = ParseClass("UFUNCTION() void Use(const TArray<int32>& In, int32& Out, UPARAM(ref, DisplayName = "
+											   "\"Both\") FHitResult& InOut, const UObject* World, const FString& Text);");
 	const std::vector<FPropertyDeclaration>& Parameters = Class.Functions.at(0).Parameters;
 	ASSERT_EQ(Parameters.size(), 5u);
 	EXPECT_EQ(Parameters[0].Flags, 0x8000182u);
@@ -98,7 +123,8 @@ TEST(Parser, PureStaticFunctionHasTheFlagsOfAMathNode)
 
 TEST(Parser, ConstFunctionWithOutputIsPureUnlessItSaysNo)
 {
-	const FClassDeclaration Class = ParseClass("UFUNCTION(BlueprintCallable) bool IsOpen() const;\nUFUNCTION(BlueprintCallable, BlueprintPure = false) bool Ask() const;\nUFUNCTION(BlueprintCallable) void Tell() const;");
+	const FClassDeclaration Class = ParseClass("UFUNCTION(BlueprintCallable) bool IsOpen() const;\nUFUNCTION(BlueprintCallable, "
+											   "BlueprintPure = false) bool Ask() const;\nUFUNCTION(BlueprintCallable) void Tell() const;");
 	EXPECT_TRUE(Class.Functions.at(0).Flags & FunctionFlags::BlueprintPure);
 	EXPECT_FALSE(Class.Functions.at(1).Flags & FunctionFlags::BlueprintPure);
 	EXPECT_FALSE(Class.Functions.at(2).Flags & FunctionFlags::BlueprintPure);
@@ -106,7 +132,9 @@ TEST(Parser, ConstFunctionWithOutputIsPureUnlessItSaysNo)
 
 TEST(Parser, ConstructorsAndTheLineOfTheBodyAreNoted)
 {
-	const FHeader Header = Parse("UCLASS()\nclass X_API UThing final : public UBase, public IUsable\n{\n\tGENERATED_BODY()\n\tUThing(const FObjectInitializer& X = FObjectInitializer::Get());\n\t~UThing() override { if (a) { b(); } }\n\tvirtual void Must() = 0;\n};");
+	const FHeader Header = Parse(
+		"UCLASS()\nclass X_API UThing final : public UBase, public IUsable\n{\n\tGENERATED_BODY()\n\tUThing(const FObjectInitializer& X = "
+		"FObjectInitializer::Get());\n\t~UThing() override { if (a) { b(); } }\n\tvirtual void Must() = 0;\n};");
 	const FClassDeclaration& Class = Header.Classes.at(0);
 	EXPECT_EQ(Class.BodyLine, 4);
 	EXPECT_TRUE(Class.Constructors.bObjectInitializer);
@@ -119,7 +147,9 @@ TEST(Parser, ConstructorsAndTheLineOfTheBodyAreNoted)
 
 TEST(Parser, EnumFormsKeepNamesAndCountValues)
 {
-	const FHeader Header = Parse("UENUM(BlueprintType)\nenum class EDoor : uint8 { Closed, Open = 1 << 2 UMETA(DisplayName = \"Is Open\"), Ajar, Both = Open | Closed, Far = sizeof(int) };\nUENUM()\nnamespace ESide { enum Type : int { Left = -1, Right }; }\nUENUM()\nenum EPlain { PL_A };");
+	const FHeader Header = Parse(
+		"UENUM(BlueprintType)\nenum class EDoor : uint8 { Closed, Open = 1 << 2 UMETA(DisplayName = \"Is Open\"), Ajar, Both = Open | "
+		"Closed, Far = sizeof(int) };\nUENUM()\nnamespace ESide { enum Type : int { Left = -1, Right }; }\nUENUM()\nenum EPlain { PL_A };");
 	ASSERT_EQ(Header.Enums.size(), 3u);
 	const FEnumDeclaration& Door = Header.Enums[0];
 	EXPECT_EQ(Door.QualifiedName(Door.Enumerators[1]), "EDoor::Open");
@@ -134,7 +164,9 @@ TEST(Parser, EnumFormsKeepNamesAndCountValues)
 
 TEST(Parser, DelegateMacrosBecomeSignatures)
 {
-	const FHeader Header = Parse("DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnUsed, AActor*, Who, const TMap<FName, int32>&, Map);\nUCLASS() class UThing : public UObject { GENERATED_BODY() DECLARE_DYNAMIC_DELEGATE_RetVal(bool, FAsk); };");
+	const FHeader Header =
+		Parse("DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnUsed, AActor*, Who, const TMap<FName, int32>&, Map);\nUCLASS() class UThing "
+			  ": public UObject { GENERATED_BODY() DECLARE_DYNAMIC_DELEGATE_RetVal(bool, FAsk); };");
 	ASSERT_EQ(Header.Delegates.size(), 2u);
 	EXPECT_EQ(Header.Delegates[0].Signature.Name, "OnUsed__DelegateSignature");
 	EXPECT_TRUE(Header.Delegates[0].bMulticast);
@@ -145,7 +177,9 @@ TEST(Parser, DelegateMacrosBecomeSignatures)
 
 TEST(Parser, ToolTipIsTheCommentWithoutItsMarks)
 {
-	const FClassDeclaration Class = ParseClass("/**\n * Opens it.\n *   Slowly.\n *\n * @param Speed\tcm/s\n */\nUFUNCTION() void Open(float Speed);\n// One line.\n// And one more.\nUPROPERTY() int32 A; // of A\nUPROPERTY() int32 B;");
+	const FClassDeclaration Class =
+		ParseClass("/**\n * Opens it.\n *   Slowly.\n *\n * @param Speed\tcm/s\n */\nUFUNCTION() void Open(float Speed);\n// One line.\n// "
+				   "And one more.\nUPROPERTY() int32 A; // of A\nUPROPERTY() int32 B;");
 	EXPECT_EQ(MetaValue(Class.Functions.at(0).MetaData, "ToolTip"), "Opens it.\n  Slowly.\n\n@param Speed\tcm/s");
 	EXPECT_EQ(MetaValue(Class.Properties.at(0).MetaData, "ToolTip"), "One line.\nAnd one more.");
 	EXPECT_EQ(MetaValue(Class.Properties.at(1).MetaData, "ToolTip"), "(missing)");
@@ -153,7 +187,8 @@ TEST(Parser, ToolTipIsTheCommentWithoutItsMarks)
 
 TEST(Parser, DirectivesNameThePackageAndExtendNativeClasses)
 {
-	const FHeader Header = Parse("// Package: /Script/Engine\n\n/** The actor. */\n// Extends native\nUCLASS()\nclass AActor : public UObject\n{\n};");
+	const FHeader Header =
+		Parse("// Package: /Script/Engine\n\n/** The actor. */\n// Extends native\nUCLASS()\nclass AActor : public UObject\n{\n};");
 	EXPECT_EQ(Header.Package, "/Script/Engine");
 	EXPECT_TRUE(Header.Classes.at(0).bExtendsNative);
 	EXPECT_EQ(MetaValue(Header.Classes[0].MetaData, "ToolTip"), "The actor.");
@@ -161,7 +196,9 @@ TEST(Parser, DirectivesNameThePackageAndExtendNativeClasses)
 
 TEST(Parser, PreprocessorConditionsChooseWhatIsRead)
 {
-	const FHeader Header = Parse("#if !CPP\nUSTRUCT(noexport) struct FA { UPROPERTY() int32 X; };\n#endif\n#if CPP || 0\nstruct FA { UPROPERTY() };\n#else\nUSTRUCT() struct FB { GENERATED_BODY() };\n#endif\n#if 0\nit's not code\n#endif\n#define UCLASS_LIKE(x) \\\n\tUCLASS( x");
+	const FHeader Header = Parse("#if !CPP\nUSTRUCT(noexport) struct FA { UPROPERTY() int32 X; };\n#endif\n#if CPP || 0\nstruct FA { "
+								 "UPROPERTY() };\n#else\nUSTRUCT() struct FB { GENERATED_BODY() };\n#endif\n#if 0\nit's not "
+								 "code\n#endif\n#define UCLASS_LIKE(x) \\\n\tUCLASS( x");
 	ASSERT_EQ(Header.Structs.size(), 2u);
 	EXPECT_TRUE(Header.Structs[0].bNoExport);
 	EXPECT_EQ(Header.Structs[1].Name, "FB");
@@ -169,7 +206,10 @@ TEST(Parser, PreprocessorConditionsChooseWhatIsRead)
 
 TEST(Parser, DeclarationsWithoutMacrosArePassedOver)
 {
-	const FHeader Header = Parse("template <typename T, int N = (3 > 2)> struct TFoo { T operator[](int) const { return {'}'}; } };\nnamespace X { class UNot { UPROPERTY() int32 A; }; }\nextern const char* Raw = R\"x(})\")x\";\nenum ENot { A };\nUSTRUCT() struct FYes { GENERATED_BODY() struct FNested { int B[2]; }; template <class T> void F() {} UPROPERTY() int32 C; };");
+	const FHeader Header =
+		Parse("template <typename T, int N = (3 > 2)> struct TFoo { T operator[](int) const { return {'}'}; } };\nnamespace X { class UNot "
+			  "{ UPROPERTY() int32 A; }; }\nextern const char* Raw = R\"x(})\")x\";\nenum ENot { A };\nUSTRUCT() struct FYes { "
+			  "GENERATED_BODY() struct FNested { int B[2]; }; template <class T> void F() {} UPROPERTY() int32 C; };");
 	ASSERT_EQ(Header.Structs.size(), 1u);
 	ASSERT_EQ(Header.Structs[0].Properties.size(), 1u);
 	EXPECT_TRUE(Header.Classes.empty());
@@ -177,7 +217,8 @@ TEST(Parser, DeclarationsWithoutMacrosArePassedOver)
 
 TEST(Parser, InterfaceTakesTheFunctionsOfItsBody)
 {
-	const FHeader Header = Parse("UINTERFACE(Blueprintable)\nclass UUsable : public UInterface { GENERATED_BODY() };\nclass X_API IUsable\n{\n\tGENERATED_BODY()\npublic:\n\tUFUNCTION(BlueprintNativeEvent) bool Use(AActor* Who);\n};");
+	const FHeader Header = Parse("UINTERFACE(Blueprintable)\nclass UUsable : public UInterface { GENERATED_BODY() };\nclass X_API "
+								 "IUsable\n{\n\tGENERATED_BODY()\npublic:\n\tUFUNCTION(BlueprintNativeEvent) bool Use(AActor* Who);\n};");
 	const FClassDeclaration& Class = Header.Classes.at(0);
 	ASSERT_TRUE(Class.InterfaceBody);
 	EXPECT_EQ(Class.InterfaceBody->BodyLine, 5);
@@ -196,7 +237,20 @@ class ParserErrorTest : public testing::TestWithParam<FErrorCase>
 
 TEST_P(ParserErrorTest, SaysWhereAndWhatWasExpected) { EXPECT_EQ(FirstError(GetParam().Text), GetParam().Error); }
 
-INSTANTIATE_TEST_SUITE_P(Mistakes, ParserErrorTest, testing::Values(FErrorCase{"UCLASS()\nstruct UThing {};", "X.h:2:1: error: expected 'class', found 'struct'"}, FErrorCase{"USTRUCT()\nstruct FThing\n{\n\tUPROPERTY(EditAnyware)\n\tint32 X;\n};", "X.h:4:12: error: expected a property specifier, found 'EditAnyware'"}, FErrorCase{"USTRUCT() struct FThing { UPROPERTY() UBar Bar; };", "X.h:1:44: error: expected '*' after the object class 'UBar', found 'Bar'"}, FErrorCase{"USTRUCT() struct FThing { UPROPERTY() TArray<int32> };", "X.h:1:53: error: expected a property's name, found '}'"}, FErrorCase{"USTRUCT() struct FThing {", "X.h:1:26: error: expected '}' at the end of 'FThing', found the end of the file"}, FErrorCase{"UENUM()\nenum EX : float { A };", "X.h:2:11: error: expected an integer type, found 'float'"}, FErrorCase{"/* \xC3\xA9", "X.h:1:1: error: expected */, found the end of the file"}, FErrorCase{"/*\xC3\xA9*/ UCLASS(", "X.h:1:14: error: expected a specifier, found the end of the file"}, FErrorCase{"#endif", "X.h:1:1: error: expected #if before #endif"}, FErrorCase{"USTRUCT() struct FThing { UPROPERTY() std::vector<int> X; };", "X.h:1:39: error: expected a reflected type, found the template 'vector'"}));
+INSTANTIATE_TEST_SUITE_P(Mistakes, ParserErrorTest,
+	testing::Values(FErrorCase{"UCLASS()\nstruct UThing {};", "X.h:2:1: error: expected 'class', found 'struct'"},
+		FErrorCase{"USTRUCT()\nstruct FThing\n{\n\tUPROPERTY(EditAnyware)\n\tint32 X;\n};",
+			"X.h:4:12: error: expected a property specifier, found 'EditAnyware'"},
+		FErrorCase{"USTRUCT() struct FThing { UPROPERTY() UBar Bar; };",
+			"X.h:1:44: error: expected '*' after the object class 'UBar', found 'Bar'"},
+		FErrorCase{"USTRUCT() struct FThing { UPROPERTY() TArray<int32> };", "X.h:1:53: error: expected a property's name, found '}'"},
+		FErrorCase{"USTRUCT() struct FThing {", "X.h:1:26: error: expected '}' at the end of 'FThing', found the end of the file"},
+		FErrorCase{"UENUM()\nenum EX : float { A };", "X.h:2:11: error: expected an integer type, found 'float'"},
+		FErrorCase{"/* \xC3\xA9", "X.h:1:1: error: expected */, found the end of the file"},
+		FErrorCase{"/*\xC3\xA9*/ UCLASS(", "X.h:1:14: error: expected a specifier, found the end of the file"},
+		FErrorCase{"#endif", "X.h:1:1: error: expected #if before #endif"},
+		FErrorCase{"USTRUCT() struct FThing { UPROPERTY() std::vector<int> X; };",
+			"X.h:1:39: error: expected a reflected type, found the template 'vector'"}));
 
 TEST(Parser, NestingAndSizeAreLimited)
 {
@@ -216,7 +270,11 @@ TEST(Parser, NestingAndSizeAreLimited)
 
 TEST(Parser, EveryPrefixOfAHeaderEndsWithoutACrash)
 {
-	const std::string Text = "// Package: /Script/X\n#if WITH_EDITOR\n/** Doc */ UCLASS(meta = (A = \"b\\\"\", C))\nclass X_API UThing : public UObject, public IUsable\n{\nGENERATED_BODY()\nUFUNCTION(BlueprintCallable) static TMap<FName, TArray<int32>> F(UPARAM(ref) FHit& H, float X = -1.5e3f) const { return {}; }\nUPROPERTY() uint8 bX : 1 = 0;\nDECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FD, int32, A);\n};\nUENUM() namespace E { enum Type { A = ~(1 << 3), B UMETA(Hidden) }; }\n#endif\n";
+	const std::string Text =
+		"// Package: /Script/X\n#if WITH_EDITOR\n/** Doc */ UCLASS(meta = (A = \"b\\\"\", C))\nclass X_API UThing : public UObject, public "
+		"IUsable\n{\nGENERATED_BODY()\nUFUNCTION(BlueprintCallable) static TMap<FName, TArray<int32>> F(UPARAM(ref) FHit& H, float X = "
+		"-1.5e3f) const { return {}; }\nUPROPERTY() uint8 bX : 1 = 0;\nDECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FD, int32, "
+		"A);\n};\nUENUM() namespace E { enum Type { A = ~(1 << 3), B UMETA(Hidden) }; }\n#endif\n";
 	ASSERT_TRUE(ParseHeader(Text).Succeeded()) << FirstError(Text);
 	int32_t Failures = 0;
 	for (size_t Length = 0; Length < Text.size(); ++Length)

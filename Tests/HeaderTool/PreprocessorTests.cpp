@@ -18,7 +18,8 @@ class ConditionTest : public testing::TestWithParam<FConditionCase>
 
 TEST_P(ConditionTest, ChoosesTheBranch)
 {
-	const FParseResult Result = ParseHeader(std::string("#if ") + GetParam().Condition + "\nUENUM() enum EThen { A };\n#else\nUENUM() enum EElse { A };\n#endif");
+	const FParseResult Result =
+		ParseHeader(std::string("#if ") + GetParam().Condition + "\nUENUM() enum EThen { A };\n#else\nUENUM() enum EElse { A };\n#endif");
 	ASSERT_TRUE(Result.Succeeded()) << FormatDiagnostic("X.h", Result.Errors.at(0));
 	ASSERT_EQ(Result.Header.Enums.size(), 1u);
 	EXPECT_EQ(Result.Header.Enums[0].Name, GetParam().bHolds ? "EThen" : "EElse");
@@ -64,12 +65,16 @@ using FNames = std::vector<std::string>;
 
 TEST(Preprocessor, OnlyTheFirstBranchThatHoldsIsRead)
 {
-	EXPECT_EQ(EnumsOf("#if 0\nUENUM() enum EA { X };\n#elif 1\nUENUM() enum EB { X };\n#elif 1\nUENUM() enum EC { X };\n#else\nUENUM() enum ED { X };\n#endif\nUENUM() enum EE { X };"), (FNames{"EB", "EE"}));
+	EXPECT_EQ(EnumsOf("#if 0\nUENUM() enum EA { X };\n#elif 1\nUENUM() enum EB { X };\n#elif 1\nUENUM() enum EC { X };\n#else\nUENUM() "
+					  "enum ED { X };\n#endif\nUENUM() enum EE { X };"),
+		(FNames{"EB", "EE"}));
 }
 
 TEST(Preprocessor, NothingInsideABranchLeftOutIsRead)
 {
-	EXPECT_EQ(EnumsOf("#if 0\n#if 1\nUENUM() enum EA { X };\n#else\nUENUM() enum EB { X };\n#endif\nUENUM() broken \" text\n#include \"No.h\"\n#endif\nUENUM() enum EC { X };"), FNames{"EC"});
+	EXPECT_EQ(EnumsOf("#if 0\n#if 1\nUENUM() enum EA { X };\n#else\nUENUM() enum EB { X };\n#endif\nUENUM() broken \" text\n#include "
+					  "\"No.h\"\n#endif\nUENUM() enum EC { X };"),
+		FNames{"EC"});
 	EXPECT_TRUE(ParseHeader("#if 0\n#include \"No.h\"\n#endif").Header.Includes.empty());
 }
 
@@ -81,12 +86,14 @@ TEST(Preprocessor, BlanksMayStandInDirectives)
 
 TEST(Preprocessor, MacroTextIsNotRead)
 {
-	EXPECT_EQ(EnumsOf("#define DECLARE(Name) \\\n\tUENUM() \\\n\tenum Name { X };\n#pragma once\n#undef DECLARE\nUENUM() enum EA { X };"), FNames{"EA"});
+	EXPECT_EQ(EnumsOf("#define DECLARE(Name) \\\n\tUENUM() \\\n\tenum Name { X };\n#pragma once\n#undef DECLARE\nUENUM() enum EA { X };"),
+		FNames{"EA"});
 }
 
 TEST(Preprocessor, IncludesAreThoseInQuotes)
 {
-	const FParseResult Result = ParseHeader("\xEF\xBB\xBF#include \"A/B.h\"\n#include <vector>\n#include \"C.h\" // why\n#include MACRO\n#include \"Open.h\n");
+	const FParseResult Result =
+		ParseHeader("\xEF\xBB\xBF#include \"A/B.h\"\n#include <vector>\n#include \"C.h\" // why\n#include MACRO\n#include \"Open.h\n");
 	ASSERT_GE(Result.Header.Includes.size(), 2u);
 	EXPECT_EQ(Result.Header.Includes[0], "A/B.h");
 	EXPECT_EQ(Result.Header.Includes[1], "C.h");
@@ -110,7 +117,8 @@ TEST_P(UnbalancedConditionTest, IsAnError)
 }
 
 INSTANTIATE_TEST_SUITE_P(Mistakes, UnbalancedConditionTest,
-	testing::Values(FUnbalancedCase{"\n#else\n", "X.h:2:1: error: expected #if before #else"}, FUnbalancedCase{"#if 1\n#endif\n#elif 0", "X.h:3:1: error: expected #if before #elif"},
+	testing::Values(FUnbalancedCase{"\n#else\n", "X.h:2:1: error: expected #if before #else"},
+		FUnbalancedCase{"#if 1\n#endif\n#elif 0", "X.h:3:1: error: expected #if before #elif"},
 		FUnbalancedCase{"#ifdef A\n", "X.h:2:1: error: expected #endif, found the end of the file"},
 		FUnbalancedCase{"#if 0\n/* open", "X.h:2:1: error: expected */, found the end of the file"},
 		FUnbalancedCase{"\"open", "X.h:1:1: error: expected \" before the end of the line"},
@@ -120,8 +128,10 @@ INSTANTIATE_TEST_SUITE_P(Mistakes, UnbalancedConditionTest,
 
 TEST(EditorOnly, IsWhatStandsInTheEditorsConditions)
 {
-	const FParseResult Result = ParseHeader("UCLASS() class UThing : public UObject { GENERATED_BODY()\n#if WITH_EDITORONLY_DATA\n#if 1\nUPROPERTY() int32 A;\n#endif\n#endif\nUPROPERTY() int32 B;\n"
-											"#if WITH_EDITOR\nUFUNCTION() void F();\n#endif\nUFUNCTION() void G();\n#if 0\n#else\nUPROPERTY() int32 C;\n#endif\n};");
+	const FParseResult Result = ParseHeader(
+		"UCLASS() class UThing : public UObject { GENERATED_BODY()\n#if WITH_EDITORONLY_DATA\n#if 1\nUPROPERTY() int32 "
+		"A;\n#endif\n#endif\nUPROPERTY() int32 B;\n"
+		"#if WITH_EDITOR\nUFUNCTION() void F();\n#endif\nUFUNCTION() void G();\n#if 0\n#else\nUPROPERTY() int32 C;\n#endif\n};");
 	ASSERT_TRUE(Result.Succeeded()) << FormatDiagnostic("X.h", Result.Errors.at(0));
 	constexpr uint64_t EditorOnlyProperty = 0x800000000;
 	constexpr uint32_t EditorOnlyFunction = 0x20000000;
@@ -135,8 +145,10 @@ TEST(EditorOnly, IsWhatStandsInTheEditorsConditions)
 
 TEST(ToolTips, AreOfTheNearestCommentAlone)
 {
-	const FParseResult Result = ParseHeader("// A file's banner.\n\n/** Of the struct. */\nUSTRUCT()\nstruct FThing\n{\n\tint32 Plain; // trailing\n\tUPROPERTY()\n\tint32 A;\n"
-											"\t//~ a note\n\tUPROPERTY()\n\tint32 B;\n\t// far\n\n\t// near\n\tUPROPERTY()\n\tint32 C;\n\t/** x */ UPROPERTY(meta = (ToolTip = \"Given\"))\n\tint32 D;\n\t/***/\n\tUPROPERTY() int32 E;\n};");
+	const FParseResult Result = ParseHeader(
+		"// A file's banner.\n\n/** Of the struct. */\nUSTRUCT()\nstruct FThing\n{\n\tint32 Plain; // trailing\n\tUPROPERTY()\n\tint32 A;\n"
+		"\t//~ a note\n\tUPROPERTY()\n\tint32 B;\n\t// far\n\n\t// near\n\tUPROPERTY()\n\tint32 C;\n\t/** x */ UPROPERTY(meta = (ToolTip = "
+		"\"Given\"))\n\tint32 D;\n\t/***/\n\tUPROPERTY() int32 E;\n};");
 	ASSERT_TRUE(Result.Succeeded());
 	const FStructDeclaration& Struct = Result.Header.Structs.at(0);
 	const auto ToolTip = [](const FMetaData& MetaData)

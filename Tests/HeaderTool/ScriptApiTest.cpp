@@ -83,7 +83,9 @@ protected:
 /** Types of Core and of reflection itself, which no header of these folders declares. */
 bool IsCoreType(const std::string& Name)
 {
-	static const std::set<std::string> Names = {"FVector", "FVector2D", "FVector4", "FRotator", "FQuat", "FTransform", "FLinearColor", "FColor", "FDateTime", "FTimespan", "FRandomStream", "FGuid", "FPrimaryAssetId", "FIntPoint", "UObject", "UClass", "UInterface", "UEnum", "UFunction"};
+	static const std::set<std::string> Names = {"FVector", "FVector2D", "FVector4", "FRotator", "FQuat", "FTransform", "FLinearColor",
+		"FColor", "FDateTime", "FTimespan", "FRandomStream", "FGuid", "FPrimaryAssetId", "FIntPoint", "UObject", "UClass", "UInterface",
+		"UEnum", "UFunction"};
 	return Names.contains(Name);
 }
 
@@ -148,7 +150,8 @@ TEST_F(ScriptApiTest, EveryNameIsDeclared)
 		} });
 	for (const std::string& Name : Names)
 	{
-		EXPECT_TRUE(IsCoreType(Name) || Types.FindClass(Name) || Types.FindStruct(Name) || Types.FindEnum(Name) || Types.FindDelegate(Name)) << Name;
+		EXPECT_TRUE(IsCoreType(Name) || Types.FindClass(Name) || Types.FindStruct(Name) || Types.FindEnum(Name) || Types.FindDelegate(Name))
+			<< Name;
 	}
 }
 
@@ -171,7 +174,8 @@ TEST_F(ScriptApiTest, PrintStringHasTheEditorsDefaults)
 {
 	const FFunctionDeclaration* const Function = FindFunction("UKismetSystemLibrary", "PrintString");
 	ASSERT_TRUE(Function);
-	const std::pair<const char*, const char*> Defaults[] = {{"InString", "Hello"}, {"bPrintToScreen", "true"}, {"bPrintToLog", "true"}, {"TextColor", "(R=0.000000,G=0.660000,B=1.000000,A=1.000000)"}, {"Duration", "2.000000"}, {"Key", "None"}};
+	const std::pair<const char*, const char*> Defaults[] = {{"InString", "Hello"}, {"bPrintToScreen", "true"}, {"bPrintToLog", "true"},
+		{"TextColor", "(R=0.000000,G=0.660000,B=1.000000,A=1.000000)"}, {"Duration", "2.000000"}, {"Key", "None"}};
 	for (const auto& [Name, Value] : Defaults)
 	{
 		const std::string* const Default = Function->MetaData.Find(std::string("CPP_Default_") + Name);

@@ -10,8 +10,9 @@ using namespace HeaderParser;
 /** Kind, name and arguments in one line: "Map(Name, Array(Object:UFoo))". */
 std::string Describe(const FTypeReference& Type)
 {
-	static constexpr const char* KindNames[] = {"Void", "Bool", "Byte", "Int8", "Int16", "Int", "Int64", "UInt16", "UInt32", "UInt64", "Float", "Double", "Name", "String",
-		"Text", "Object", "WeakObject", "LazyObject", "SoftObject", "Class", "SoftClass", "Interface", "EnumAsByte", "Named", "Array", "Set", "Map", "Optional", "FieldPath"};
+	static constexpr const char* KindNames[] = {"Void", "Bool", "Byte", "Int8", "Int16", "Int", "Int64", "UInt16", "UInt32", "UInt64",
+		"Float", "Double", "Name", "String", "Text", "Object", "WeakObject", "LazyObject", "SoftObject", "Class", "SoftClass", "Interface",
+		"EnumAsByte", "Named", "Array", "Set", "Map", "Optional", "FieldPath"};
 	std::string Text = KindNames[static_cast<size_t>(Type.Kind)];
 	Text += Type.Name.empty() ? "" : ":" + Type.Name;
 	std::string Arguments;
@@ -74,7 +75,8 @@ const FTypeCase TypeCases[] = {
 	{"TArray<TObjectPtr<UFoo>>", "Array(Object:UFoo)", "TArray<TObjectPtr<UFoo>>"},
 	{"TArray<int32, FMemoryImageAllocator>", "Array(Int)", "TArray<int32, FMemoryImageAllocator>"},
 	{"TMap<FName,TSubclassOf<AActor> >", "Map(Name, Class:AActor)", "TMap<FName, TSubclassOf<AActor>>"},
-	{"TMap<TEnumAsByte<ESide::Type>, TObjectPtr<UFoo>>", "Map(EnumAsByte:ESide, Object:UFoo)", "TMap<TEnumAsByte<ESide::Type>, TObjectPtr<UFoo>>"},
+	{"TMap<TEnumAsByte<ESide::Type>, TObjectPtr<UFoo>>", "Map(EnumAsByte:ESide, Object:UFoo)",
+		"TMap<TEnumAsByte<ESide::Type>, TObjectPtr<UFoo>>"},
 	{"TSet<TSoftObjectPtr<UFoo>>", "Set(SoftObject:UFoo)", "TSet<TSoftObjectPtr<UFoo>>"},
 };
 
@@ -133,7 +135,8 @@ TEST(Members, ArrayDimensionIsANumberWhereItIsWrittenAsOne)
 
 TEST(Members, InitialisersAreKeptWhateverTheyHold)
 {
-	const FParseResult Result = ParseMember("FVector A{1, (2), 3};\nUPROPERTY() FString B = TEXT(\"a;b}\");\nUPROPERTY() uint8 bC : 1 = true;\nUPROPERTY() TMap<FName, int32> D = {{\"x\", 1}};\nUPROPERTY() int32 E;");
+	const FParseResult Result = ParseMember("FVector A{1, (2), 3};\nUPROPERTY() FString B = TEXT(\"a;b}\");\nUPROPERTY() uint8 bC : 1 = "
+											"true;\nUPROPERTY() TMap<FName, int32> D = {{\"x\", 1}};\nUPROPERTY() int32 E;");
 	ASSERT_TRUE(Result.Succeeded()) << FormatDiagnostic("X.h", Result.Errors.at(0));
 	const std::vector<FPropertyDeclaration>& Properties = Result.Header.Structs.at(0).Properties;
 	ASSERT_EQ(Properties.size(), 5u);

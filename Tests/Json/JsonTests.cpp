@@ -93,10 +93,10 @@ private:
 
 TEST(Json, DocumentsComeBackAsTheyWere)
 {
-	for (const char* const Text : {
-			 "{}", "{\"a\":1}", "{\"s\":\"text\",\"n\":-0.5,\"t\":true,\"f\":false,\"z\":null,\"o\":{\"x\":{}},\"l\":[1,[2,[]],{\"k\":\"v\"}]}",
-			 "{\"\":\"empty name\"}", "{\"q\":\"\\\"\\\\\\b\\f\\n\\r\\t\\u0001\"}", "{\"u\":\"T\xC3\xBCr \xE9\x96\x80 \xF0\x9F\x9A\xAA\"}",
-			 "{\"b\":2,\"a\":1,\"c\":3}"})
+	for (const char* const Text :
+		{"{}", "{\"a\":1}", "{\"s\":\"text\",\"n\":-0.5,\"t\":true,\"f\":false,\"z\":null,\"o\":{\"x\":{}},\"l\":[1,[2,[]],{\"k\":\"v\"}]}",
+			"{\"\":\"empty name\"}", "{\"q\":\"\\\"\\\\\\b\\f\\n\\r\\t\\u0001\"}", "{\"u\":\"T\xC3\xBCr \xE9\x96\x80 \xF0\x9F\x9A\xAA\"}",
+			"{\"b\":2,\"a\":1,\"c\":3}"})
 	{
 		EXPECT_EQ(Write(ReadObject(UTF8_TO_TCHAR(Text))), Text);
 	}
@@ -112,7 +112,8 @@ TEST(Json, PrettyTextIsIndentedWithTabsAndReadsBack)
 
 TEST(Json, NumbersKeepTheirValue)
 {
-	for (const double Number : {0.0, 1.0, -1.0, 0.1, 1e300, -1e-300, 5e-324, 1.7976931348623157e308, 123456789.125, 9007199254740992.0, 1.0 / 3.0})
+	for (const double Number :
+		{0.0, 1.0, -1.0, 0.1, 1e300, -1e-300, 5e-324, 1.7976931348623157e308, 123456789.125, 9007199254740992.0, 1.0 / 3.0})
 	{
 		const TSharedPtr<FJsonObject> Object = MakeShared<FJsonObject>();
 		Object->SetNumberField(TEXT("n"), Number);

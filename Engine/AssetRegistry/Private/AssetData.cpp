@@ -4,7 +4,8 @@
 #include "UObject/AssetRegistryTagsContext.h"
 #include "UObject/Package.h"
 
-FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPath, TMap<FName, FString> InTags, uint32 InPackageFlags)
+FAssetData::FAssetData(FName InPackageName, FName InPackagePath, FName InAssetName, FTopLevelAssetPath InAssetClassPath,
+	FAssetDataTagMap InTags, uint32 InPackageFlags)
 	: PackageName(InPackageName)
 	, PackagePath(InPackagePath)
 	, AssetName(InAssetName)
@@ -28,10 +29,12 @@ FAssetData::FAssetData(const UObject* InAsset)
 	PackageFlags = Package->GetPackageFlags();
 	TMap<FName, UObject::FAssetRegistryTag> Tags;
 	InAsset->GetAssetRegistryTags(FAssetRegistryTagsContext(InAsset, Tags));
-	for (const TPair<FName, UObject::FAssetRegistryTag>& Tag : Tags)
+	FAssetDataTagMap Values;
+	for (TPair<FName, UObject::FAssetRegistryTag>& Tag : Tags)
 	{
-		TagsAndValues.Add(Tag.Key, Tag.Value.Value);
+		Values.Add(Tag.Key, MoveTemp(Tag.Value.Value));
 	}
+	TagsAndValues = FAssetDataTagMapSharedView(MoveTemp(Values));
 }
 
 FString FAssetData::GetObjectPathString() const
@@ -50,6 +53,32 @@ bool FAssetData::IsInstanceOf(const UClass* BaseClass) const
 	return Class && Class->IsChildOf(BaseClass);
 }
 
+bool FAssetData::IsUAsset() const
+{
+	return IsValid() && FPackageName::GetShortFName(PackageName) == AssetName;
+}
+
+bool FAssetData::IsRedirector() const
+{
+	return AssetClassPath == FTopLevelAssetPath(TEXT("/Script/CoreUObject"), TEXT("ObjectRedirector"));
+}
+
+UObject* FAssetData::FastGetAsset(bool bLoad) const
+{
+	UObject* const InMemory = IsValid() ? FindObject<UObject>(nullptr, *GetObjectPathString()) : nullptr;
+	return InMemory || !bLoad ? InMemory : GetAsset();
+}
+
+UPackage* FAssetData::GetPackage() const
+{
+	if (PackageName.IsNone())
+	{
+		return nullptr;
+	}
+	UPackage* const InMemory = FindPackage(nullptr, *PackageName.ToString());
+	return InMemory ? InMemory : LoadPackage(nullptr, *PackageName.ToString(), LOAD_NoWarn | LOAD_Quiet);
+}
+
 UObject* FAssetData::GetAsset() const
 {
 	return IsValid() ? LoadObject<UObject>(nullptr, *GetObjectPathString(), nullptr, LOAD_NoWarn | LOAD_Quiet) : nullptr;
@@ -62,10 +91,10 @@ bool FAssetData::IsAssetLoaded() const
 
 bool FAssetData::GetTagValue(const FName Tag, FString& OutTagValue) const
 {
-	const FString* const Value = TagsAndValues.Find(Tag);
-	if (Value)
+	const FAssetTagValueRef Value = TagsAndValues.FindTag(Tag);
+	if (Value.IsSet())
 	{
-		OutTagValue = *Value;
+		OutTagValue = Value.AsString();
 	}
-	return Value != nullptr;
+	return Value.IsSet();
 }

@@ -10,7 +10,8 @@ using HeaderTool::FModuleOptions;
 constexpr int StatusFailed = 1;
 constexpr int StatusUsage = 2;
 
-constexpr std::string_view Usage = "usage: HeaderTool --module NAME --root DIR --headers MANIFEST --output DIR [--includes LIST] [--depfile FILE]\n";
+constexpr std::string_view Usage =
+	"usage: HeaderTool --module NAME --root DIR --headers MANIFEST --output DIR [--includes LIST] [--depfile FILE]\n";
 
 struct FArguments
 {
@@ -73,7 +74,8 @@ std::optional<FArguments> ReadArguments(const std::vector<std::string>& Words)
 			return std::nullopt;
 		}
 	}
-	const bool bComplete = !Arguments.Module.ModuleName.empty() && !Arguments.Module.Root.empty() && !Arguments.Manifest.empty() && !Arguments.Module.Output.empty();
+	const bool bComplete = !Arguments.Module.ModuleName.empty() && !Arguments.Module.Root.empty() && !Arguments.Manifest.empty() &&
+		!Arguments.Module.Output.empty();
 	return Words.size() % 2 == 0 && bComplete ? std::optional(std::move(Arguments)) : std::nullopt;
 }
 

@@ -386,6 +386,9 @@ public:
 	using UObject::PostDuplicate;
 	virtual void PostDuplicate(bool bDuplicateForPIE) override;
 	virtual void Serialize(FArchive& Ar) override;
+	/** What the asset registry tells of a Blueprint that is not loaded: its classes above all. */
+	virtual void GetAssetRegistryTags(TArray<FAssetRegistryTag>& OutTags) const override;
+	using UObject::GetAssetRegistryTags;
 
 private:
 	FChangedEvent ChangedEvent;

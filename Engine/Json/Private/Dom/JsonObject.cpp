@@ -4,7 +4,7 @@
 
 TSharedPtr<FJsonValue> FJsonObject::TryGetField(FStringView FieldName) const
 {
-	const TSharedPtr<FJsonValue>* const Field = Values.Find(FString(FieldName));
+	const TSharedPtr<FJsonValue>* const Field = Values.FindByHash(GetTypeHash(FieldName), FieldName);
 	return Field ? *Field : nullptr;
 }
 
@@ -16,6 +16,11 @@ bool FJsonObject::HasField(FStringView FieldName) const
 void FJsonObject::SetField(FString FieldName, const TSharedPtr<FJsonValue>& Value)
 {
 	Values.Add(MoveTemp(FieldName), Value);
+}
+
+void FJsonObject::SetField(FString FieldName, TSharedPtr<FJsonValue>&& Value)
+{
+	Values.Add(MoveTemp(FieldName), MoveTemp(Value));
 }
 
 void FJsonObject::RemoveField(FStringView FieldName)

@@ -1,32 +1,35 @@
 #include "Serialization/JsonWriter.h"
 
+#include "Containers/StringConv.h"
+#include "Serialization/Archive.h"
+
 #include <rapidjson/prettywriter.h>
+#include <rapidjson/stringbuffer.h>
 #include <rapidjson/writer.h>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
 
 namespace UE::Json::Private
 {
 namespace
 {
 using FEncoding = rapidjson::UTF16<TCHAR>;
+using FBuffer = rapidjson::GenericStringBuffer<FEncoding>;
 
-/** RapidJSON's output stream over an FString. */
-struct FStringStream
-{
-	using Ch = TCHAR;
-
-	void Put(TCHAR Character) { Output.AppendChar(Character); }
-	void Flush() {}
-
-	FString& Output;
-};
+/** "-1.7976931348623157e+308" has 24 characters. */
+constexpr size_t MaxNumberChars = 32;
+constexpr int32 DigitsOfDouble = 17;
+/** Whole numbers below have so few digits that their form with 17 digits is the plain one. */
+constexpr double MaxPlainInteger = 1e15;
 
 template <typename WriterType>
 class TDocumentWriter final : public IDocumentWriter
 {
 public:
-	explicit TDocumentWriter(FString& Output)
-		: Stream{Output}
-		, Writer(Stream)
+	TDocumentWriter()
+		: Writer(Buffer)
 	{
 		if constexpr (requires { Writer.SetIndent(TEXT('\t'), 1u); })
 		{
@@ -39,29 +42,60 @@ public:
 	virtual void StartArray() override { Writer.StartArray(); }
 	virtual void EndArray() override { Writer.EndArray(); }
 	virtual void Key(FStringView Name) override { Writer.Key(Name.GetData() ? Name.GetData() : TEXT(""), rapidjson::SizeType(Name.Len())); }
-	virtual void String(FStringView Value) override { Writer.String(Value.GetData() ? Value.GetData() : TEXT(""), rapidjson::SizeType(Value.Len())); }
+	virtual void String(FStringView Value) override
+	{
+		Writer.String(Value.GetData() ? Value.GetData() : TEXT(""), rapidjson::SizeType(Value.Len()));
+	}
 	virtual void RawNumber(FStringView Text) override { Writer.RawValue(Text.GetData(), size_t(Text.Len()), rapidjson::kNumberType); }
+	virtual void Number(double Value) override
+	{
+		if (std::abs(Value) < MaxPlainInteger && Value == std::trunc(Value) && !(Value == 0.0 && std::signbit(Value)))
+		{
+			Writer.Int64(int64_t(Value));
+			return;
+		}
+		if (!std::isfinite(Value))
+		{
+			Writer.Int(0);
+			return;
+		}
+		ANSICHAR Text[MaxNumberChars];
+		const ANSICHAR* const End = std::to_chars(Text, Text + MaxNumberChars, Value, std::chars_format::general, DigitsOfDouble).ptr;
+		TCHAR Wide[MaxNumberChars];
+		std::copy(static_cast<const ANSICHAR*>(Text), End, Wide);
+		RawNumber(FStringView(Wide, int32(End - Text)));
+	}
+	virtual void Integer(int64 Value) override { Writer.Int64(Value); }
+	virtual void Unsigned(uint64 Value) override { Writer.Uint64(Value); }
 	virtual void Bool(bool bValue) override { Writer.Bool(bValue); }
 	virtual void Null() override { Writer.Null(); }
 	virtual bool IsComplete() const override { return Writer.IsComplete(); }
+	virtual FStringView GetText() const override { return FStringView(Buffer.GetString(), int32(Buffer.GetSize() / sizeof(TCHAR))); }
+	virtual void ClearText() override { Buffer.Clear(); }
 
 private:
-	FStringStream Stream;
+	FBuffer Buffer;
 	WriterType Writer;
 };
 }
 
-TUniquePtr<IDocumentWriter> MakeDocumentWriter(FString& Output, bool bPretty)
+TUniquePtr<IDocumentWriter> MakeDocumentWriter(bool bPretty)
 {
 	if (bPretty)
 	{
-		return MakeUnique<TDocumentWriter<rapidjson::PrettyWriter<FStringStream, FEncoding, FEncoding>>>(Output);
+		return MakeUnique<TDocumentWriter<rapidjson::PrettyWriter<FBuffer, FEncoding, FEncoding>>>();
 	}
-	return MakeUnique<TDocumentWriter<rapidjson::Writer<FStringStream, FEncoding, FEncoding>>>(Output);
+	return MakeUnique<TDocumentWriter<rapidjson::Writer<FBuffer, FEncoding, FEncoding>>>();
 }
 
-FString NumberToText(double Value)
+void WriteText(FArchive& Archive, FStringView Text, bool bUtf8)
 {
-	return FMath::IsFinite(Value) ? FString::Printf(TEXT("%.17g"), Value) : FString(TEXT("0"));
+	if (!bUtf8)
+	{
+		Archive.Serialize(const_cast<TCHAR*>(Text.GetData()), int64(Text.Len()) * int64(sizeof(TCHAR)));
+		return;
+	}
+	const FTCHARToUTF8 Utf8(Text.GetData(), Text.Len());
+	Archive.Serialize(const_cast<void*>(static_cast<const void*>(Utf8.Get())), Utf8.Length());
 }
 }

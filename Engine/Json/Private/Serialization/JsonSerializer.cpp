@@ -4,25 +4,103 @@
 
 // RapidJSON asserts that an escape is no lone low surrogate. Texts are outside bytes: such a one becomes U+FFFD like any bad one.
 #define RAPIDJSON_ASSERT(Condition) static_cast<void>(Condition)
-#include <rapidjson/encodedstream.h>
 #include <rapidjson/error/en.h>
-#include <rapidjson/memorystream.h>
 #include <rapidjson/reader.h>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <string>
 
 namespace
 {
 /** An integer beyond this may lose digits as a double, and one beyond it may round to just this. */
 constexpr double MaxExactInteger = double(1ll << 53);
+/** Integers of so many digits are exact whatever they are. */
+constexpr size_t MaxExactDigits = 15;
+constexpr ANSICHAR ByteOrderMark[] = "\xEF\xBB\xBF";
+
+bool IsAscii(const ANSICHAR* Text, size_t Length)
+{
+	uint8 Any = 0;
+	for (size_t Index = 0; Index < Length; ++Index)
+	{
+		Any |= static_cast<uint8>(Text[Index]);
+	}
+	return Any < 0x80;
+}
+
+FString ToString(const ANSICHAR* Utf8, size_t Length)
+{
+	if (!IsAscii(Utf8, Length))
+	{
+		const FUTF8ToTCHAR Converted(Utf8, int32(Length));
+		return FString::ConstructFromPtrSize(Converted.Get(), Converted.Length());
+	}
+	FString Text;
+	if (Length > 0)
+	{
+		TArray<TCHAR>& Characters = Text.GetCharArray();
+		Characters.SetNumUninitialized(int32(Length) + 1);
+		TCHAR* const Out = Characters.GetData();
+		for (size_t Index = 0; Index < Length; ++Index)
+		{
+			Out[Index] = static_cast<uint8>(Utf8[Index]);
+		}
+		Out[Length] = 0;
+	}
+	return Text;
+}
+
+/** The text as UTF-8. Runs of ASCII, which most of a document is, are narrowed without looking at each character's kind. */
+std::string ToUtf8(FStringView Text)
+{
+	std::string Result;
+	Result.resize(size_t(Text.Len()));
+	const TCHAR* const End = Text.GetData() + Text.Len();
+	size_t Used = 0;
+	for (const TCHAR* Next = Text.GetData(); Next != End;)
+	{
+		const TCHAR* Run = Next;
+		for (; Run != End && *Run < 0x80; ++Run)
+		{
+			Result[Used++] = static_cast<char>(*Run);
+		}
+		for (Next = Run; Next != End && *Next >= 0x80; ++Next)
+		{
+		}
+		if (Run != Next)
+		{
+			const FTCHARToUTF8 Wide(Run, int32(Next - Run));
+			Result.resize(Used + size_t(Wide.Length()) + size_t(End - Next));
+			FMemory::Memcpy(Result.data() + Used, Wide.Get(), size_t(Wide.Length()));
+			Used += size_t(Wide.Length());
+		}
+	}
+	Result.resize(Used);
+	return Result;
+}
+
+/** Values that never change need not be made more than once. */
+const TSharedPtr<FJsonValue>& GetBoolean(bool bValue)
+{
+	static const TSharedPtr<FJsonValue> True = MakeShared<FJsonValueBoolean>(true);
+	static const TSharedPtr<FJsonValue> False = MakeShared<FJsonValueBoolean>(false);
+	return bValue ? True : False;
+}
+
+const TSharedPtr<FJsonValue>& GetNull()
+{
+	static const TSharedPtr<FJsonValue> Null = MakeShared<FJsonValueNull>();
+	return Null;
+}
 
 /** Builds the document from RapidJSON's events. */
 class FDocumentBuilder
 {
 public:
-	bool Null() { return Add(MakeShared<FJsonValueNull>()); }
-	bool Bool(bool bValue) { return Add(MakeShared<FJsonValueBoolean>(bValue)); }
+	bool Null() { return Add(TSharedPtr<FJsonValue>(GetNull())); }
+	bool Bool(bool bValue) { return Add(TSharedPtr<FJsonValue>(GetBoolean(bValue))); }
 	bool RawNumber(const ANSICHAR* Text, rapidjson::SizeType Length, bool) { return Number(FAnsiStringView(Text, int32(Length))); }
 	// Never called, since numbers come as their text.
 	bool Int(int) { return false; }
@@ -30,90 +108,100 @@ public:
 	bool Int64(int64_t) { return false; }
 	bool Uint64(uint64_t) { return false; }
 	bool Double(double) { return false; }
-	bool String(const ANSICHAR* Text, rapidjson::SizeType Length, bool) { return Add(MakeShared<FJsonValueString>(ToString(Text, Length))); }
-	bool StartObject() { return Open(true); }
+	bool String(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
+	{
+		return Add(MakeShared<FJsonValueString>(ToString(Text, Length)));
+	}
+	bool StartObject() { return Open(); }
 	bool Key(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
 	{
-		Levels.Last().Key = ToString(Text, Length);
+		Keys.Add(ToString(Text, Length));
 		return true;
 	}
-	bool EndObject(rapidjson::SizeType) { return Close(); }
-	bool StartArray() { return Open(false); }
-	bool EndArray(rapidjson::SizeType) { return Close(); }
+	bool EndObject(rapidjson::SizeType Count) { return CloseObject(int32(Count)); }
+	bool StartArray() { return Open(); }
+	bool EndArray(rapidjson::SizeType Count) { return CloseArray(int32(Count)); }
 
 	/** Why the builder stopped the reader; null when it did not. */
 	const ANSICHAR* GetFailure() const { return Failure; }
 	TSharedPtr<FJsonValue> Document;
 
 private:
-	struct FLevel
+	bool Open()
 	{
-		/** Null for an array. */
-		TSharedPtr<FJsonObject> Object;
+		return ++Depth <= FJsonSerializer::MaxDepth || Fail("The document is nested too deeply.");
+	}
+
+	/** The last values and keys are the object's. Its table gets its size at once, which costs it two allocations in all. */
+	bool CloseObject(int32 Count)
+	{
+		--Depth;
+		TSharedPtr<FJsonObject> Object = MakeShared<FJsonObject>();
+		Object->Values.Reserve(Count);
+		const int32 FirstKey = Keys.Num() - Count;
+		const int32 FirstValue = Values.Num() - Count;
+		for (int32 Index = 0; Index < Count; ++Index)
+		{
+			Object->Values.Add(MoveTemp(Keys[FirstKey + Index]), MoveTemp(Values[FirstValue + Index]));
+		}
+		Keys.SetNum(FirstKey, EAllowShrinking::No);
+		Values.SetNum(FirstValue, EAllowShrinking::No);
+		return Add(MakeShared<FJsonValueObject>(MoveTemp(Object)));
+	}
+
+	bool CloseArray(int32 Count)
+	{
+		--Depth;
 		TArray<TSharedPtr<FJsonValue>> Elements;
-		FString Key;
-	};
-
-	bool Open(bool bObject)
-	{
-		if (Levels.Num() == FJsonSerializer::MaxDepth)
+		Elements.Reserve(Count);
+		const int32 First = Values.Num() - Count;
+		for (int32 Index = 0; Index < Count; ++Index)
 		{
-			return Fail("The document is nested too deeply.");
+			Elements.Add(MoveTemp(Values[First + Index]));
 		}
-		Levels.AddDefaulted();
-		if (bObject)
-		{
-			Levels.Last().Object = MakeShared<FJsonObject>();
-		}
-		return true;
+		Values.SetNum(First, EAllowShrinking::No);
+		return Add(MakeShared<FJsonValueArray>(MoveTemp(Elements)));
 	}
 
-	bool Close()
+	bool Add(TSharedPtr<FJsonValue>&& Value)
 	{
-		FLevel Level = Levels.Pop();
-		return Level.Object ? Add(MakeShared<FJsonValueObject>(Level.Object)) : Add(MakeShared<FJsonValueArray>(MoveTemp(Level.Elements)));
-	}
-
-	bool Add(const TSharedPtr<FJsonValue>& Value)
-	{
-		if (Levels.IsEmpty())
+		if (Depth == 0)
 		{
-			Document = Value;
+			Document = MoveTemp(Value);
+			return true;
 		}
-		else if (Levels.Last().Object)
-		{
-			Levels.Last().Object->SetField(MoveTemp(Levels.Last().Key), Value);
-		}
-		else
-		{
-			Levels.Last().Elements.Add(Value);
-		}
+		Values.Add(MoveTemp(Value));
 		return true;
 	}
 
 	bool Number(FAnsiStringView Text)
 	{
-		// Wider than the answer, because a number too small for a double is 0 and one too large for it is an error.
-		long double Wide = 0.0;
-		const std::errc Failed = std::from_chars(Text.GetData(), Text.GetData() + Text.Len(), Wide).ec;
-		double Value = 0.0;
-		if (Failed != std::errc() || (std::from_chars(Text.GetData(), Text.GetData() + Text.Len(), Value).ec != std::errc() && std::abs(Wide) > 1.0))
+		const ANSICHAR* const First = Text.GetData();
+		const ANSICHAR* const End = First + Text.Len();
+		const bool bInteger = std::all_of(First, End, [](ANSICHAR Character)
+			{ return Character == '-' || (Character >= '0' && Character <= '9'); });
+		if (bInteger && size_t(Text.Len()) <= MaxExactDigits)
 		{
-			return Fail("A number is out of range.");
+			int64 Small = 0;
+			std::from_chars(First, End, Small);
+			return Add(MakeShared<FJsonValueNumber>(Small == 0 && *First == '-' ? -0.0 : double(Small)));
 		}
-		int32 Ignored = INDEX_NONE;
-		const bool bInteger = !Text.FindChar('.', Ignored) && !Text.FindChar('e', Ignored) && !Text.FindChar('E', Ignored);
+		double Value = 0.0;
+		if (std::from_chars(First, End, Value).ec != std::errc())
+		{
+			// Wider than the answer, because a number too small for a double is 0 and one too large for it is an error.
+			long double Wide = 0.0;
+			if (std::from_chars(First, End, Wide).ec != std::errc() || std::abs(Wide) > 1.0)
+			{
+				return Fail("A number is out of range.");
+			}
+			Value = 0.0;
+		}
 		if (bInteger && FMath::Abs(Value) >= MaxExactInteger)
 		{
-			return Add(MakeShared<FJsonValueNumberString>(ToString(Text.GetData(), size_t(Text.Len()))));
+			return Add(MakeShared<FJsonValueNumberString>(ToString(First, size_t(Text.Len()))));
 		}
 		return Add(MakeShared<FJsonValueNumber>(Value));
-	}
-
-	static FString ToString(const ANSICHAR* Utf8, size_t Length)
-	{
-		const FUTF8ToTCHAR Converted(Utf8, int32(Length));
-		return FString::ConstructFromPtrSize(Converted.Get(), Converted.Length());
 	}
 
 	bool Fail(const ANSICHAR* Reason)
@@ -122,105 +210,112 @@ private:
 		return false;
 	}
 
-	TArray<FLevel> Levels;
+	/** Of what is open: values that are read, innermost last, and the keys of those that are fields. */
+	TArray<TSharedPtr<FJsonValue>> Values;
+	TArray<FString> Keys;
+	int32 Depth = 0;
 	const ANSICHAR* Failure = nullptr;
 };
 
 /** "Missing a comma or '}' after an object member. Line: 3 Ch: 14" */
-FString MakeErrorMessage(FAnsiStringView Utf8, size_t Offset, const ANSICHAR* Reason)
+FString MakeErrorMessage(const std::string& Utf8, size_t Offset, const ANSICHAR* Reason)
 {
 	int32 Line = 1;
 	int32 Character = 1;
-	for (int32 Index = 0; Index < Utf8.Len() && size_t(Index) < Offset; ++Index)
+	for (size_t Index = 0; Index < Utf8.size() && Index < Offset; ++Index)
 	{
 		const ANSICHAR Byte = Utf8[Index];
 		const bool bContinuation = (uint8(Byte) & 0xC0) == 0x80;
 		Line += Byte == '\n' ? 1 : 0;
-		Character = Byte == '\n' ? 1 : bContinuation ? Character
-													 : Character + 1;
+		Character = Byte == '\n' ? 1 : Character + (bContinuation ? 0 : 1);
 	}
 	return FString::Printf(TEXT("%s Line: %d Ch: %d"), *FString(Reason), Line, Character);
 }
-}
 
-bool FJsonSerializer::Deserialize(const TSharedRef<TJsonReader<TCHAR>>& Reader, TSharedPtr<FJsonValue>& OutValue)
+/** What was wrong with a text: the place in its bytes, and the reason; null for a text that was read. */
+struct FReadResult
 {
-	OutValue.Reset();
-	// RapidJSON reads UTF-8: its numbers-as-text mode is sound for no other encoding.
-	const FTCHARToUTF8 Utf8(*Reader->GetText(), Reader->GetText().Len());
-	const FAnsiStringView Text(reinterpret_cast<const ANSICHAR*>(Utf8.Get()), Utf8.Length());
+	size_t Offset = 0;
+	const ANSICHAR* Reason = nullptr;
+};
+
+/** The bytes are read in place, and are not what they were afterwards. */
+FReadResult ReadDocument(std::string& Bytes, TSharedPtr<FJsonValue>& OutValue)
+{
+	const size_t Start = Bytes.starts_with(ByteOrderMark) ? sizeof(ByteOrderMark) - 1 : 0;
 	FDocumentBuilder Builder;
 	rapidjson::Reader Parser;
-	rapidjson::MemoryStream Bytes(Text.GetData(), size_t(Text.Len()));
-	rapidjson::EncodedInputStream<rapidjson::UTF8<>, rapidjson::MemoryStream> Stream(Bytes);
+	rapidjson::InsituStringStream Stream(Bytes.data() + Start);
 	// Iterative, so that a hostile text cannot exhaust the stack. Numbers as their text, because the reader's own exact conversion
 	// asserts on some that are long or far out of range.
-	constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag;
+	constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseInsituFlag;
 	const rapidjson::ParseResult Result = Parser.Parse<Flags>(Stream, Builder);
 	if (Result.IsError())
 	{
-		const ANSICHAR* const Reason = Builder.GetFailure() ? Builder.GetFailure() : rapidjson::GetParseError_En(Result.Code());
-		Reader->SetErrorMessage(MakeErrorMessage(Text, Result.Offset(), Reason));
-		return false;
+		return {Start + Result.Offset(), Builder.GetFailure() ? Builder.GetFailure() : rapidjson::GetParseError_En(Result.Code())};
 	}
 	// RapidJSON takes a null character for the end of the text.
-	if (Stream.Tell() != size_t(Text.Len()))
+	if (Start + Stream.Tell() != Bytes.size())
 	{
-		Reader->SetErrorMessage(MakeErrorMessage(Text, Stream.Tell(), "A null character is in the text."));
-		return false;
+		return {Start + Stream.Tell(), "A null character is in the text."};
 	}
 	if (Builder.Document->Type != EJson::Object && Builder.Document->Type != EJson::Array)
 	{
-		Reader->SetErrorMessage(MakeErrorMessage(Text, 0, "An object or an array is expected."));
-		return false;
+		return {0, "An object or an array is expected."};
 	}
-	OutValue = Builder.Document;
-	return true;
+	OutValue = MoveTemp(Builder.Document);
+	return {};
 }
 
-bool FJsonSerializer::Deserialize(const TSharedRef<TJsonReader<TCHAR>>& Reader, TSharedPtr<FJsonObject>& OutObject)
+template <typename ToBytesType>
+bool ReadText(ToBytesType ToBytes, TSharedPtr<FJsonValue>& OutValue, FString& OutError)
 {
-	OutObject.Reset();
-	TSharedPtr<FJsonValue> Value;
-	if (!Deserialize(Reader, Value))
+	OutValue.Reset();
+	std::string Bytes = ToBytes();
+	const FReadResult Result = ReadDocument(Bytes, OutValue);
+	if (Result.Reason)
 	{
-		return false;
+		OutError = MakeErrorMessage(ToBytes(), Result.Offset, Result.Reason);
 	}
+	return Result.Reason == nullptr;
+}
+}
+
+bool FJsonSerializer::Read(FStringView Text, TSharedPtr<FJsonValue>& OutValue, FString& OutError)
+{
+	// RapidJSON reads UTF-8: its numbers-as-text mode is sound for no other encoding.
+	return ReadText([Text]
+		{ return ToUtf8(Text); },
+		OutValue, OutError);
+}
+
+bool FJsonSerializer::Read(FUtf8StringView Text, TSharedPtr<FJsonValue>& OutValue, FString& OutError)
+{
+	return ReadText([Text]
+		{ return std::string(reinterpret_cast<const char*>(Text.GetData()), size_t(Text.Len())); },
+		OutValue, OutError);
+}
+
+bool FJsonSerializer::TakeObject(const TSharedPtr<FJsonValue>& Value, TSharedPtr<FJsonObject>& OutObject, FString& OutError)
+{
 	const TSharedPtr<FJsonObject>* Object = nullptr;
 	if (!Value->TryGetObject(Object))
 	{
-		Reader->SetErrorMessage(MakeErrorMessage({}, 0, "An object is expected."));
+		OutError = MakeErrorMessage({}, 0, "An object is expected.");
 		return false;
 	}
 	OutObject = *Object;
 	return true;
 }
 
-bool FJsonSerializer::Deserialize(const TSharedRef<TJsonReader<TCHAR>>& Reader, TArray<TSharedPtr<FJsonValue>>& OutArray)
+bool FJsonSerializer::TakeArray(const TSharedPtr<FJsonValue>& Value, TArray<TSharedPtr<FJsonValue>>& OutArray, FString& OutError)
 {
-	OutArray.Reset();
-	TSharedPtr<FJsonValue> Value;
-	if (!Deserialize(Reader, Value))
-	{
-		return false;
-	}
 	const TArray<TSharedPtr<FJsonValue>>* Array = nullptr;
 	if (!Value->TryGetArray(Array))
 	{
-		Reader->SetErrorMessage(MakeErrorMessage({}, 0, "An array is expected."));
+		OutError = MakeErrorMessage({}, 0, "An array is expected.");
 		return false;
 	}
 	OutArray = *Array;
 	return true;
-}
-
-FString FJsonSerializer::NumberToText(const FJsonValue& Value)
-{
-	FString Text;
-	// A FJsonValueNumberString answers its own text; for a number the writer's form is wanted, which has all digits.
-	if (dynamic_cast<const FJsonValueNumberString*>(&Value) && Value.TryGetString(Text))
-	{
-		return Text;
-	}
-	return UE::Json::Private::NumberToText(Value.AsNumber());
 }

@@ -4,7 +4,10 @@
 #include "Containers/Map.h"
 #include "Dom/JsonValue.h"
 
-/** A JSON object. Fields keep the order in which they were set. The Get forms log an error for a field that is missing or of another type. */
+/**
+ * A JSON object. Fields keep the order in which they were set. The Get forms log an error for a field that is missing or of another
+ * type.
+ */
 class JSON_API FJsonObject
 {
 public:
@@ -34,6 +37,7 @@ public:
 	}
 
 	void SetField(FString FieldName, const TSharedPtr<FJsonValue>& Value);
+	void SetField(FString FieldName, TSharedPtr<FJsonValue>&& Value);
 	void RemoveField(FStringView FieldName);
 
 	double GetNumberField(FStringView FieldName) const;

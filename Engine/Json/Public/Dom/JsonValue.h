@@ -5,7 +5,10 @@
 
 class FJsonObject;
 
-/** A value of a JSON document. The Try forms answer false where the value is of another type; the As forms log an error and answer a default. */
+/**
+ * A value of a JSON document. The Try forms answer false where the value is of another type; the As forms log an error and answer a
+ * default.
+ */
 class JSON_API FJsonValue
 {
 public:
@@ -48,7 +51,12 @@ protected:
 
 	virtual FString GetType() const = 0;
 
+	/** The text that the value holds, to be written without a copy; null for a value that holds none. */
+	virtual const FString* FindText() const { return nullptr; }
+
 	void ErrorMessage(const TCHAR* InType) const;
+
+	friend class FJsonSerializer;
 };
 
 inline bool operator==(const FJsonValue& Lhs, const FJsonValue& Rhs)
@@ -72,6 +80,7 @@ public:
 
 protected:
 	virtual FString GetType() const override { return TEXT("String"); }
+	virtual const FString* FindText() const override { return &Value; }
 
 	FString Value;
 };
@@ -115,6 +124,7 @@ public:
 
 protected:
 	virtual FString GetType() const override { return TEXT("NumberString"); }
+	virtual const FString* FindText() const override { return &Value; }
 
 	FString Value;
 };

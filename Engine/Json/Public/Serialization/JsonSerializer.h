@@ -14,9 +14,14 @@ public:
 	static constexpr int32 MaxDepth = 256;
 
 	/** A document that is an object or an array. False, with the reader's message, for anything else; the output is then unset. */
-	static bool Deserialize(const TSharedRef<TJsonReader<TCHAR>>& Reader, TSharedPtr<FJsonValue>& OutValue);
-	static bool Deserialize(const TSharedRef<TJsonReader<TCHAR>>& Reader, TSharedPtr<FJsonObject>& OutObject);
-	static bool Deserialize(const TSharedRef<TJsonReader<TCHAR>>& Reader, TArray<TSharedPtr<FJsonValue>>& OutArray);
+	template <class CharType, class OutType>
+	static bool Deserialize(const TSharedRef<TJsonReader<CharType>>& Reader, OutType& OutDocument)
+	{
+		FString Error;
+		const bool bRead = Read(Reader->GetView(), OutDocument, Error);
+		Reader->SetErrorMessage(MoveTemp(Error));
+		return bRead;
+	}
 
 	template <class CharType, class PrintPolicy>
 	static bool Serialize(const TSharedRef<FJsonObject>& Object, const TSharedRef<TJsonWriter<CharType, PrintPolicy>>& Writer)
@@ -31,6 +36,27 @@ public:
 	}
 
 private:
+	static bool Read(FStringView Text, TSharedPtr<FJsonValue>& OutValue, FString& OutError);
+	static bool Read(FUtf8StringView Text, TSharedPtr<FJsonValue>& OutValue, FString& OutError);
+	static bool TakeObject(const TSharedPtr<FJsonValue>& Value, TSharedPtr<FJsonObject>& OutObject, FString& OutError);
+	static bool TakeArray(const TSharedPtr<FJsonValue>& Value, TArray<TSharedPtr<FJsonValue>>& OutArray, FString& OutError);
+
+	template <class ViewType>
+	static bool Read(ViewType Text, TSharedPtr<FJsonObject>& OutObject, FString& OutError)
+	{
+		OutObject.Reset();
+		TSharedPtr<FJsonValue> Value;
+		return Read(Text, Value, OutError) && TakeObject(Value, OutObject, OutError);
+	}
+
+	template <class ViewType>
+	static bool Read(ViewType Text, TArray<TSharedPtr<FJsonValue>>& OutArray, FString& OutError)
+	{
+		OutArray.Reset();
+		TSharedPtr<FJsonValue> Value;
+		return Read(Text, Value, OutError) && TakeArray(Value, OutArray, OutError);
+	}
+
 	template <typename WriterType>
 	static bool WriteObject(const FJsonObject& Object, WriterType& Writer, int32 Depth)
 	{
@@ -80,10 +106,10 @@ private:
 				Writer.WriteNull();
 				return true;
 			case EJson::String:
-				Writer.WriteValue(Value->AsString());
+				WriteText(*Value, Writer);
 				return true;
 			case EJson::Number:
-				Writer.WriteRawJSONValue(NumberToText(*Value));
+				WriteNumber(*Value, Writer);
 				return true;
 			case EJson::Boolean:
 				Writer.WriteValue(Value->AsBool());
@@ -101,6 +127,26 @@ private:
 		return false;
 	}
 
-	/** A number as it is written: one that was kept as its text, as that text. */
-	static FString NumberToText(const FJsonValue& Value);
+	template <typename WriterType>
+	static void WriteText(const FJsonValue& Value, WriterType& Writer)
+	{
+		if (const FString* const Text = Value.FindText())
+		{
+			Writer.WriteValue(*Text);
+			return;
+		}
+		Writer.WriteValue(Value.AsString());
+	}
+
+	/** One that was kept as its text, as that text. */
+	template <typename WriterType>
+	static void WriteNumber(const FJsonValue& Value, WriterType& Writer)
+	{
+		if (const FString* const Text = Value.FindText())
+		{
+			Writer.WriteRawJSONValue(*Text);
+			return;
+		}
+		Writer.WriteValue(Value.AsNumber());
+	}
 };

@@ -72,7 +72,10 @@ std::string ArgumentList(const FFunctionDeclaration& Function)
 	return Text;
 }
 
-std::string ReturnTypeOf(const FFunctionDeclaration& Function) { return Function.ReturnValue ? DeclaredType(Function.ReturnValue->Type) : "void"; }
+std::string ReturnTypeOf(const FFunctionDeclaration& Function)
+{
+	return Function.ReturnValue ? DeclaredType(Function.ReturnValue->Type) : "void";
+}
 
 bool IsEvent(const FFunctionDeclaration& Function) { return (Function.Flags & (FunctionFlags::BlueprintEvent | FunctionFlags::Net)) != 0; }
 
@@ -98,7 +101,8 @@ std::vector<std::string> ReflectedInterfaces(const FClassDeclaration& Class, con
 
 bool IsIntrinsicClass(const std::string_view Name)
 {
-	static constexpr std::string_view Intrinsic[] = {"UObject", "UField", "UStruct", "UScriptStruct", "UFunction", "UDelegateFunction", "USparseDelegateFunction", "UEnum", "UClass", "UPackage", "UInterface"};
+	static constexpr std::string_view Intrinsic[] = {"UObject", "UField", "UStruct", "UScriptStruct", "UFunction", "UDelegateFunction",
+		"USparseDelegateFunction", "UEnum", "UClass", "UPackage", "UInterface"};
 	return std::find(std::begin(Intrinsic), std::end(Intrinsic), Name) != std::end(Intrinsic);
 }
 }

@@ -24,7 +24,8 @@ namespace HeaderTool
 [[nodiscard]] bool HasImplementation(const HeaderParser::FFunctionDeclaration& Function);
 
 /** Interfaces among the class's bases that are reflected. */
-[[nodiscard]] std::vector<std::string> ReflectedInterfaces(const HeaderParser::FClassDeclaration& Class, const HeaderParser::FTypeIndex& Types);
+[[nodiscard]] std::vector<std::string> ReflectedInterfaces(const HeaderParser::FClassDeclaration& Class,
+	const HeaderParser::FTypeIndex& Types);
 
 /** The classes that reflection itself is made of describe themselves, so no emitted function makes them. */
 [[nodiscard]] bool IsIntrinsicClass(std::string_view Name);

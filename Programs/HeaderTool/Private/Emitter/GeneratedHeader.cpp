@@ -78,7 +78,8 @@ void AddConstructors(FBodyMacro& Macro, const FClassDeclaration& Class, const FT
 	if (IsConstructible(Class))
 	{
 		const std::string Argument = bDefault ? "" : "X";
-		Macro.Add("\tstatic void __DefaultConstructor(const FObjectInitializer& X) { new ((EInternal*)X.GetObj()) " + Name + "(" + Argument + "); }");
+		Macro.Add("\tstatic void __DefaultConstructor(const FObjectInitializer& X) { new ((EInternal*)X.GetObj()) " + Name + "(" +
+			Argument + "); }");
 	}
 }
 
@@ -88,7 +89,8 @@ void AddEvents(FBodyMacro& Macro, const std::vector<FFunctionDeclaration>& Funct
 	{
 		if (HasImplementation(Function) && !Function.bDeclaresImplementation)
 		{
-			Macro.Add("\tvirtual " + ReturnTypeOf(Function) + " " + Function.Name + "_Implementation(" + ParameterList(Function) + ")" + (Function.bConst ? " const;" : ";"));
+			Macro.Add("\tvirtual " + ReturnTypeOf(Function) + " " + Function.Name + "_Implementation(" + ParameterList(Function) + ")" +
+				(Function.bConst ? " const;" : ";"));
 		}
 	}
 }
@@ -137,7 +139,8 @@ void AddInterfaceEvents(FBodyMacro& Macro, const FClassDeclaration& Interface)
 		const std::string Const = Function.bConst ? " const" : "";
 		if (HasImplementation(Function) && !Function.bDeclaresImplementation)
 		{
-			Macro.Add("\tvirtual " + Return + " " + Function.Name + "_Implementation(" + ParameterList(Function) + ")" + Const + " { return " + Return + "(); }");
+			Macro.Add("\tvirtual " + Return + " " + Function.Name + "_Implementation(" + ParameterList(Function) + ")" + Const +
+				" { return " + Return + "(); }");
 		}
 		const std::string Object = Function.bConst ? "const UObject* O" : "UObject* O";
 		const std::string Parameters = ParameterList(Function);

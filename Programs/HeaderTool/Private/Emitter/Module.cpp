@@ -18,7 +18,8 @@ std::string MakeFileId(const std::string& ModuleName, const std::string& Relativ
 	std::string Id = "FID_" + ModuleName + "_" + RelativePath;
 	for (char& Character : Id)
 	{
-		const bool bWord = (Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z') || (Character >= '0' && Character <= '9');
+		const bool bWord =
+			(Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z') || (Character >= '0' && Character <= '9');
 		Character = bWord ? Character : '_';
 	}
 	return Id;
@@ -57,7 +58,8 @@ std::vector<std::string> ScanIncludes(const std::string_view Text)
 
 bool MayDeclareReflectedTypes(const std::string_view Text)
 {
-	return Text.find(".generated.h\"") != std::string_view::npos || Text.find("DECLARE_DYNAMIC_") != std::string_view::npos || Text.find("noexport") != std::string_view::npos;
+	return Text.find(".generated.h\"") != std::string_view::npos || Text.find("DECLARE_DYNAMIC_") != std::string_view::npos ||
+		Text.find("noexport") != std::string_view::npos;
 }
 }
 
@@ -192,7 +194,8 @@ bool FModule::Write()
 	{
 		const fs::path HeaderPath = Options.Output / (Header->Stem + ".generated.h");
 		const fs::path SourcePath = Options.Output / (Header->Stem + ".gen.cpp");
-		if (!WriteFileIfChanged(HeaderPath, EmitGeneratedHeader(*Header, Types)) || !WriteFileIfChanged(SourcePath, EmitGeneratedSource(*Header, Types)))
+		if (!WriteFileIfChanged(HeaderPath, EmitGeneratedHeader(*Header, Types)) ||
+			!WriteFileIfChanged(SourcePath, EmitGeneratedSource(*Header, Types)))
 		{
 			ErrorLines.push_back(SourcePath.string() + ": error: expected a file that can be written");
 			return false;

@@ -152,7 +152,9 @@ std::string FForeignFunctions::Delegate(const std::string& Name)
 
 std::string FPropertyEmitter::FParams::Initialiser() const
 {
-	return "{" + Quote(Name) + ", UECodeGen_Private::EPropertyGenKind::" + Kind + ", (EPropertyFlags)" + Hex(Flags) + ", " + ArrayDim + ", " + Offset + ", " + ElementSize + ", " + TypeFunction + ", " + MetaClassFunction + ", " + SetBit + ", " + Inner + ", " + Value + ", " + RepNotify + ", " + MetaData + "}";
+	return "{" + Quote(Name) + ", UECodeGen_Private::EPropertyGenKind::" + Kind + ", (EPropertyFlags)" + Hex(Flags) + ", " + ArrayDim +
+		", " + Offset + ", " + ElementSize + ", " + TypeFunction + ", " + MetaClassFunction + ", " + SetBit + ", " + Inner + ", " + Value +
+		", " + RepNotify + ", " + MetaData + "}";
 }
 
 void FPropertyEmitter::Add(const FPropertyDeclaration& Property)
@@ -184,7 +186,8 @@ void FPropertyEmitter::DescribeMember(const FPropertyDeclaration& Property, FPar
 	{
 		Out.SetBit = "NewProp_" + Property.CppName + "_SetBit";
 		const std::string Element = Property.ArrayDim.empty() ? "" : "[0]";
-		Preamble += "\tstatic void " + Out.SetBit + "(void* Owner) { static_cast<" + OwnerCpp + "*>(Owner)->" + Property.CppName + Element + " = 1; }\n";
+		Preamble += "\tstatic void " + Out.SetBit + "(void* Owner) { static_cast<" + OwnerCpp + "*>(Owner)->" + Property.CppName + Element +
+			" = 1; }\n";
 	}
 	Out.ElementSize = bBitField ? "sizeof(bool)" : "sizeof(std::remove_extent_t<decltype(" + Member + ")>)";
 	Out.Offset = bBitField ? "0" : "offsetof(" + OwnerCpp + ", " + Property.CppName + ")";
@@ -272,7 +275,8 @@ std::string FPropertyEmitter::AddInner(const FTypeReference& Type, const std::st
 {
 	const std::string InnerName = Name + Suffix;
 	FParams Params;
-	Params.Name = std::string_view(Suffix) == "_Inner" ? Name.substr(std::string_view("NewProp_").size()) : InnerName.substr(std::string_view("NewProp_").size());
+	Params.Name = std::string_view(Suffix) == "_Inner" ? Name.substr(std::string_view("NewProp_").size())
+													   : InnerName.substr(std::string_view("NewProp_").size());
 	Params.Flags = Type.bWrapper ? PropertyFlags::UObjectWrapper : 0;
 	Params.ElementSize = "sizeof(" + Type.CppText + ")";
 	Describe(Type, InnerName, Params);

@@ -106,7 +106,8 @@ std::string WithoutBlanks(const std::string_view Text)
 /** Default construction in any of its spellings: `FFoo()`, `FFoo(ForceInit)`, `FFoo{}`, `{}`. */
 bool IsDefaultConstruction(const std::string& Text, const std::string& Type)
 {
-	return Text == Type + "()" || Text == Type + "{}" || Text == "{}" || Text == Type + "(ForceInit)" || Text == Type + "(EForceInit::ForceInit)";
+	return Text == Type + "()" || Text == Type + "{}" || Text == "{}" || Text == Type + "(ForceInit)" ||
+		Text == Type + "(EForceInit::ForceInit)";
 }
 
 struct FNamedValue
@@ -204,7 +205,8 @@ std::optional<std::string> ConvertNamed(const FTypeReference& Type, const FToken
 	}
 	if (IsDefaultConstruction(Text, Type.Name))
 	{
-		const bool bKnownZero = Type.Name == "FVector" || Type.Name == "FRotator" || Type.Name == "FVector2D" || Type.Name == "FTransform" || Type.Name == "FQuat";
+		const bool bKnownZero = Type.Name == "FVector" || Type.Name == "FRotator" || Type.Name == "FVector2D" ||
+			Type.Name == "FTransform" || Type.Name == "FQuat";
 		return bKnownZero || Type.Name[0] == 'E' ? std::string() : std::string("()");
 	}
 	if (const std::optional<std::vector<double>> Numbers = ReadCall(Tokens, Type.Name))

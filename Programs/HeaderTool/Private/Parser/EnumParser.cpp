@@ -60,11 +60,15 @@ private:
 		int32_t Precedence;
 	};
 
-	[[nodiscard]] bool At(const std::string_view Text, const size_t Ahead = 0) const { return Index + Ahead < End && Tokens[Index + Ahead].Is(Text); }
+	[[nodiscard]] bool At(const std::string_view Text, const size_t Ahead = 0) const
+	{
+		return Index + Ahead < End && Tokens[Index + Ahead].Is(Text);
+	}
 
 	std::optional<FOperator> TakeOperator(const int32_t MinPrecedence)
 	{
-		static constexpr FOperator Operators[] = {{"|", 0}, {"^", 1}, {"&", 2}, {"<<", 3}, {">>", 3}, {"+", 4}, {"-", 4}, {"*", 5}, {"/", 5}, {"%", 5}};
+		static constexpr FOperator Operators[] = {{"|", 0}, {"^", 1}, {"&", 2}, {"<<", 3}, {">>", 3}, {"+", 4}, {"-", 4}, {"*", 5},
+			{"/", 5}, {"%", 5}};
 		for (const FOperator& Operator : Operators)
 		{
 			const bool bDouble = Operator.Text.size() == 2;
@@ -234,6 +238,10 @@ bool ParseEnumerator(FTokenCursor& Cursor, FEnumDeclaration& Enum)
 				return false;
 			}
 		}
+		if (Cursor.Mark() == First)
+		{
+			return Cursor.FailExpected("the value of '" + Enumerator.Name + "'");
+		}
 		Enumerator.Value = FValueEvaluator(Enum, Cursor.GetHeader().Tokens, First, Cursor.Mark()).Run();
 		if (Cursor.TakeIf("UMETA") && !ParseSpecifiers(Cursor, Meta))
 		{
@@ -304,7 +312,8 @@ bool ParseEnum(FTokenCursor& Cursor, FEnumDeclaration& Out)
 	{
 		Out.Form = EEnumForm::Namespaced;
 		Out.Position = Cursor.Peek().Position;
-		if (!Cursor.ExpectIdentifier(Out.Name, "the enum's namespace") || !Cursor.Expect("{") || !Cursor.Expect("enum") || !Cursor.ExpectIdentifier(Out.InnerName, "the enum's name"))
+		if (!Cursor.ExpectIdentifier(Out.Name, "the enum's namespace") || !Cursor.Expect("{") || !Cursor.Expect("enum") ||
+			!Cursor.ExpectIdentifier(Out.InnerName, "the enum's name"))
 		{
 			return false;
 		}

@@ -339,7 +339,8 @@ private:
 		{
 			const char Character = Text[End];
 			const bool bSeparator = Character == '\'' && End + 1 < Text.size() && IsIdentifierPart(Text[End + 1]);
-			const bool bExponentSign = (Character == '+' || Character == '-') && !bHexadecimal && (Text[End - 1] == 'e' || Text[End - 1] == 'E');
+			const bool bExponentSign =
+				(Character == '+' || Character == '-') && !bHexadecimal && (Text[End - 1] == 'e' || Text[End - 1] == 'E');
 			if (!IsIdentifierPart(Character) && Character != '.' && !bSeparator && !bExponentSign)
 			{
 				break;

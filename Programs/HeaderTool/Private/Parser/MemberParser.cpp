@@ -79,7 +79,8 @@ bool ParseBitWidth(FTokenCursor& Cursor, FPropertyDeclaration& Property)
 	}
 	const std::optional<int64_t> Width = ParseInteger(Cursor.Peek().Text);
 	const ETypeKind Kind = Property.Type.Kind;
-	const bool bUnsigned = Kind == ETypeKind::Byte || Kind == ETypeKind::UInt16 || Kind == ETypeKind::UInt32 || Kind == ETypeKind::UInt64 || Kind == ETypeKind::Bool;
+	const bool bUnsigned = Kind == ETypeKind::Byte || Kind == ETypeKind::UInt16 || Kind == ETypeKind::UInt32 || Kind == ETypeKind::UInt64 ||
+		Kind == ETypeKind::Bool;
 	if (!bUnsigned || Width != 1)
 	{
 		return Cursor.FailExpected("a bit-field of one bit of an unsigned type");
@@ -200,7 +201,8 @@ bool ParseParameterDefault(FTokenCursor& Cursor, FPropertyDeclaration& Parameter
 	const std::optional<std::string> Import = ConvertDefault(Parameter.Type, Parameter.DefaultText);
 	if (!Import)
 	{
-		return Cursor.Fail(Position, "expected a default value of type '" + Parameter.Type.CppText + "', found '" + Parameter.DefaultText + "'");
+		return Cursor.Fail(Position,
+			"expected a default value of type '" + Parameter.Type.CppText + "', found '" + Parameter.DefaultText + "'");
 	}
 	FunctionMetaData.Set("CPP_Default_" + Parameter.Name, *Import);
 	return true;
@@ -275,7 +277,8 @@ bool TakeFunctionPrefix(FTokenCursor& Cursor, FFunctionDeclaration& Function)
 		const bool bStatic = Token.Is("static");
 		const bool bVirtual = Token.Is("virtual");
 		const bool bApi = Token.IsIdentifier() && EndsWith(Token.Text, "_API");
-		const bool bInline = Token.Is("inline") || Token.Is("FORCEINLINE") || Token.Is("FORCENOINLINE") || Token.Is("constexpr") || Token.Is("FORCEINLINE_DEBUGGABLE");
+		const bool bInline = Token.Is("inline") || Token.Is("FORCEINLINE") || Token.Is("FORCENOINLINE") || Token.Is("constexpr") ||
+			Token.Is("FORCEINLINE_DEBUGGABLE");
 		if (!bStatic && !bVirtual && !bApi && !bInline)
 		{
 			return true;
@@ -355,7 +358,8 @@ struct FDelegateMacro
 
 std::optional<FDelegateMacro> ReadDelegateMacro(std::string_view Name)
 {
-	static constexpr std::string_view Counts[] = {"", "OneParam", "TwoParams", "ThreeParams", "FourParams", "FiveParams", "SixParams", "SevenParams", "EightParams", "NineParams"};
+	static constexpr std::string_view Counts[] = {"", "OneParam", "TwoParams", "ThreeParams", "FourParams", "FiveParams", "SixParams",
+		"SevenParams", "EightParams", "NineParams"};
 	const auto Take = [&Name](const std::string_view Part)
 	{
 		const bool bTaken = StartsWith(Name, Part);
@@ -391,7 +395,8 @@ bool ParseDelegateParameters(FTokenCursor& Cursor, const int32_t Count, FFunctio
 	for (int32_t Index = 0; Index < Count; ++Index)
 	{
 		FPropertyDeclaration& Parameter = Signature.Parameters.emplace_back();
-		if (!Cursor.Expect(",") || !ParseParameterType(Cursor, Parameter) || !Cursor.Expect(",") || !Cursor.ExpectIdentifier(Parameter.Name, "a parameter's name"))
+		if (!Cursor.Expect(",") || !ParseParameterType(Cursor, Parameter) || !Cursor.Expect(",") ||
+			!Cursor.ExpectIdentifier(Parameter.Name, "a parameter's name"))
 		{
 			return false;
 		}
@@ -404,7 +409,8 @@ bool ParseDelegateParameters(FTokenCursor& Cursor, const int32_t Count, FFunctio
 bool SkipSparseOwner(FTokenCursor& Cursor)
 {
 	std::string Name;
-	return Cursor.Expect(",") && Cursor.ExpectIdentifier(Name, "the class that owns the delegate") && Cursor.Expect(",") && Cursor.ExpectIdentifier(Name, "the delegate's property");
+	return Cursor.Expect(",") && Cursor.ExpectIdentifier(Name, "the class that owns the delegate") && Cursor.Expect(",") &&
+		Cursor.ExpectIdentifier(Name, "the delegate's property");
 }
 }
 
@@ -438,7 +444,8 @@ bool ParseProperty(FTokenCursor& Cursor, const EAccess Access, FPropertyDeclarat
 	}
 	SetMemberName(Out);
 	Out.Flags |= GetTypePropertyFlags(Out.Type);
-	return ParseArrayDim(Cursor, Out) && ParseBitWidth(Cursor, Out) && ParseMemberInitialiser(Cursor, Out) && Cursor.Expect(";") && ApplyPropertySpecifiers(Cursor, Out);
+	return ParseArrayDim(Cursor, Out) && ParseBitWidth(Cursor, Out) && ParseMemberInitialiser(Cursor, Out) && Cursor.Expect(";") &&
+		ApplyPropertySpecifiers(Cursor, Out);
 }
 
 bool ParseFunction(FTokenCursor& Cursor, const EAccess Access, FFunctionDeclaration& Out)

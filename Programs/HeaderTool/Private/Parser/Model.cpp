@@ -91,6 +91,7 @@ void FTypeIndex::Add(const FHeader& Header)
 
 std::string FormatDiagnostic(const std::string_view Path, const FDiagnostic& Diagnostic)
 {
-	return std::string(Path) + ":" + std::to_string(Diagnostic.Position.Line) + ":" + std::to_string(Diagnostic.Position.Column) + ": error: " + Diagnostic.Message;
+	return std::string(Path) + ":" + std::to_string(Diagnostic.Position.Line) + ":" + std::to_string(Diagnostic.Position.Column) +
+		": error: " + Diagnostic.Message;
 }
 }

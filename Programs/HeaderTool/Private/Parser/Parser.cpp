@@ -48,8 +48,13 @@ public:
 		{
 			Header.Package = FindDirective(Cursor, Cursor.Peek(), "Package").value_or("");
 		}
-		while (!Cursor.AtEnd() && ReadFileItem())
+		while (!Cursor.AtEnd() && !Cursor.HasTooManyErrors())
 		{
+			const size_t Start = Cursor.Mark();
+			if (!ReadFileItem())
+			{
+				Cursor.RecoverDeclaration(Start);
+			}
 		}
 	}
 
@@ -73,17 +78,28 @@ private:
 		}
 		if (Token.Is("UENUM"))
 		{
-			return ParseEnum(Cursor, Header.Enums.emplace_back());
+			return Keep(Header.Enums, ParseEnum(Cursor, Header.Enums.emplace_back()));
 		}
 		if (IsDelegate(Cursor))
 		{
-			return ParseDelegate(Cursor, "", Header.Delegates.emplace_back());
+			return Keep(Header.Delegates, ParseDelegate(Cursor, "", Header.Delegates.emplace_back()));
 		}
 		if (FClassDeclaration* const Interface = FindInterfaceOfBody())
 		{
 			return ReadInterfaceBody(*Interface);
 		}
 		return SkipItem();
+	}
+
+	/** Takes back the entry that was begun for a declaration when that could not be read. */
+	template <typename EntryType>
+	static bool Keep(std::vector<EntryType>& Entries, const bool bRead)
+	{
+		if (!bRead)
+		{
+			Entries.pop_back();
+		}
+		return bRead;
 	}
 
 	bool SkipItem()
@@ -202,7 +218,8 @@ private:
 			Class.Super = Bases.front();
 			Class.Interfaces.assign(Bases.begin() + 1, Bases.end());
 		}
-		Class.Flags = ClassFlags::Native | (bApi ? ClassFlags::RequiredAPI : 0) | (bInterface ? ClassFlags::Interface | ClassFlags::Abstract : 0);
+		Class.Flags =
+			ClassFlags::Native | (bApi ? ClassFlags::RequiredAPI : 0) | (bInterface ? ClassFlags::Interface | ClassFlags::Abstract : 0);
 		FBody Body;
 		Body.Name = Class.Name;
 		Body.OuterClassOfDelegates = Class.Name;
@@ -241,7 +258,8 @@ private:
 		}
 		if (!Body.Properties.empty())
 		{
-			return Cursor.Fail(Body.Properties.front().Position, "expected functions alone in an interface, found the property '" + Body.Properties.front().Name + "'");
+			return Cursor.Fail(Body.Properties.front().Position,
+				"expected functions alone in an interface, found the property '" + Body.Properties.front().Name + "'");
 		}
 		Out.Super = Bases.empty() ? "" : Bases.front();
 		Out.BodyLine = Body.BodyLine;
@@ -276,7 +294,8 @@ private:
 		}
 		if (!Body.Functions.empty())
 		{
-			return Cursor.Fail(Body.Functions.front().Position, "expected properties alone in a struct, found the function '" + Body.Functions.front().Name + "'");
+			return Cursor.Fail(Body.Functions.front().Position,
+				"expected properties alone in a struct, found the function '" + Body.Functions.front().Name + "'");
 		}
 		Struct.Flags |= bApi ? StructFlags::RequiredAPI : 0;
 		AddToolTip(Cursor, Macro, Struct.MetaData);
@@ -294,11 +313,13 @@ private:
 		}
 		while (!Cursor.TakeIf("}"))
 		{
-			if (Cursor.AtEnd())
+			if (Cursor.AtEnd() || BeginsDeclaration(Cursor.Peek()))
 			{
 				return Cursor.FailExpected("'}' at the end of '" + Body.Name + "'");
 			}
-			if (!ReadMember(Body))
+			const size_t Start = Cursor.Mark();
+			const bool bGoOn = ReadMember(Body) || Cursor.RecoverMember(Start) || Cursor.Peek().Is("}");
+			if (!bGoOn || Cursor.HasTooManyErrors())
 			{
 				return false;
 			}
@@ -315,15 +336,15 @@ private:
 		const FToken& Token = Cursor.Peek();
 		if (Token.Is("UPROPERTY"))
 		{
-			return ParseProperty(Cursor, Body.Access, Body.Properties.emplace_back());
+			return Keep(Body.Properties, ParseProperty(Cursor, Body.Access, Body.Properties.emplace_back()));
 		}
 		if (Token.Is("UFUNCTION"))
 		{
-			return ParseFunction(Cursor, Body.Access, Body.Functions.emplace_back());
+			return Keep(Body.Functions, ParseFunction(Cursor, Body.Access, Body.Functions.emplace_back()));
 		}
 		if (IsDelegate(Cursor))
 		{
-			return ParseDelegate(Cursor, Body.OuterClassOfDelegates, Header.Delegates.emplace_back());
+			return Keep(Header.Delegates, ParseDelegate(Cursor, Body.OuterClassOfDelegates, Header.Delegates.emplace_back()));
 		}
 		if (Token.IsIdentifier() && Token.Text.substr(0, 10) == "GENERATED_")
 		{
@@ -355,7 +376,8 @@ private:
 	bool ReadGeneratedBody(FBody& Body)
 	{
 		const FToken& Token = Cursor.Take();
-		Body.bLegacyBody = Token.Is("GENERATED_UCLASS_BODY") || Token.Is("GENERATED_UINTERFACE_BODY") || Token.Is("GENERATED_IINTERFACE_BODY");
+		Body.bLegacyBody =
+			Token.Is("GENERATED_UCLASS_BODY") || Token.Is("GENERATED_UINTERFACE_BODY") || Token.Is("GENERATED_IINTERFACE_BODY");
 		Body.BodyLine = Token.Position.Line;
 		if (Body.bLegacyBody)
 		{
@@ -368,7 +390,8 @@ private:
 	void NoteMember(FBody& Body)
 	{
 		const FToken& Token = Cursor.Peek();
-		if (Token.Is("=") && Cursor.Peek(1).Is("0") && Cursor.Peek(2).Is(";") && (Cursor.Previous().Is(")") || Cursor.Previous().Is("const") || Cursor.Previous().Is("override")))
+		if (Token.Is("=") && Cursor.Peek(1).Is("0") && Cursor.Peek(2).Is(";") &&
+			(Cursor.Previous().Is(")") || Cursor.Previous().Is("const") || Cursor.Previous().Is("override")))
 		{
 			Body.bDeclaresPureVirtual = true;
 		}
@@ -393,9 +416,11 @@ private:
 	void NoteConstructor(FConstructorFacts& Constructors)
 	{
 		const size_t FirstParameter = 2;
-		const bool bVoid = Cursor.Peek(FirstParameter).Is(")") || (Cursor.Peek(FirstParameter).Is("void") && Cursor.Peek(FirstParameter + 1).Is(")"));
+		const bool bVoid =
+			Cursor.Peek(FirstParameter).Is(")") || (Cursor.Peek(FirstParameter).Is("void") && Cursor.Peek(FirstParameter + 1).Is(")"));
 		const size_t TypeAt = FirstParameter + (Cursor.Peek(FirstParameter).Is("const") ? 1 : 0);
-		const bool bObjectInitializer = Cursor.Peek(TypeAt).Is("FObjectInitializer") || (Cursor.Peek(TypeAt).Is("class") && Cursor.Peek(TypeAt + 1).Is("FObjectInitializer"));
+		const bool bObjectInitializer = Cursor.Peek(TypeAt).Is("FObjectInitializer") ||
+			(Cursor.Peek(TypeAt).Is("class") && Cursor.Peek(TypeAt + 1).Is("FObjectInitializer"));
 		if (bVoid)
 		{
 			Constructors.bDefault = true;
@@ -420,7 +445,8 @@ FParseResult ParseHeader(const std::string_view Text, const FParseLimits& Limits
 	FParseResult Result;
 	if (Text.size() > Limits.MaxBytes)
 	{
-		Result.Errors.push_back({{1, 1}, "expected at most " + std::to_string(Limits.MaxBytes) + " bytes, found " + std::to_string(Text.size())});
+		Result.Errors.push_back(
+			{{1, 1}, "expected at most " + std::to_string(Limits.MaxBytes) + " bytes, found " + std::to_string(Text.size())});
 		return Result;
 	}
 	FTokenizedHeader Tokens = Tokenize(Text);

@@ -41,7 +41,8 @@ constexpr FSpecifierRow PropertyRows[] = {
 	{"NonTransactional", PropertyFlags::NonTransactional},
 	{"Export", PropertyFlags::ExportObject},
 	{"EditInline", 0, "EditInline", "true"},
-	{"Instanced", PropertyFlags::PersistentInstance | PropertyFlags::ExportObject | PropertyFlags::InstancedReference, "EditInline", "true"},
+	{"Instanced", PropertyFlags::PersistentInstance | PropertyFlags::ExportObject | PropertyFlags::InstancedReference, "EditInline",
+		"true"},
 	{"NoClear", PropertyFlags::NoClear},
 	{"EditFixedSize", PropertyFlags::EditFixedSize},
 	{"Replicated", PropertyFlags::Net},
@@ -196,7 +197,8 @@ std::string JoinValues(const FSpecifier& Specifier)
 
 /** Answers the flags through Flags; metadata given in `meta=` wins over what a specifier implies. */
 template <size_t Count>
-bool ApplyRows(FTokenCursor& Cursor, const FSpecifierRow (&Rows)[Count], const std::string_view What, const FSpecifierList& List, uint64_t& Flags, FMetaData& MetaData)
+bool ApplyRows(FTokenCursor& Cursor, const FSpecifierRow (&Rows)[Count], const std::string_view What, const FSpecifierList& List,
+	uint64_t& Flags, FMetaData& MetaData)
 {
 	for (const FSpecifier& Specifier : List.Specifiers)
 	{
@@ -278,7 +280,8 @@ bool ApplyFunctionSpecifiers(FTokenCursor& Cursor, FFunctionDeclaration& Functio
 		Flags = (Flags | FunctionFlags::Event) & ~static_cast<uint64_t>(FunctionFlags::Final);
 	}
 	const bool bHasOutput = Function.ReturnValue || (Flags & FunctionFlags::HasOutParms);
-	if ((Flags & FunctionFlags::BlueprintCallable) && (Flags & FunctionFlags::Const) && bHasOutput && !bImpure && !(Flags & FunctionFlags::BlueprintEvent))
+	if ((Flags & FunctionFlags::BlueprintCallable) && (Flags & FunctionFlags::Const) && bHasOutput && !bImpure &&
+		!(Flags & FunctionFlags::BlueprintEvent))
 	{
 		Flags |= FunctionFlags::BlueprintPure;
 	}

@@ -4,6 +4,13 @@ namespace HeaderParser
 {
 namespace
 {
+bool BeginsMember(const FToken& Token, const FToken& Next)
+{
+	const bool bSection = (Token.Is("public") || Token.Is("protected") || Token.Is("private")) && Next.Is(":");
+	const bool bMacro = Token.Is("UPROPERTY") || Token.Is("UFUNCTION") || Token.Is("UDELEGATE") || Token.Is("GENERATED_BODY");
+	return bSection || bMacro || Token.Text.substr(0, 16) == "DECLARE_DYNAMIC_";
+}
+
 bool IsWord(const FToken& Token) { return Token.Kind == ETokenKind::Identifier || Token.Kind == ETokenKind::Number; }
 
 bool IsOpening(const FToken& Token) { return Token.Is("(") || Token.Is("{") || Token.Is("["); }
@@ -24,6 +31,11 @@ bool BeginsTemplate(const FToken& Token)
 }
 
 char ToLower(const char Character) { return Character >= 'A' && Character <= 'Z' ? static_cast<char>(Character + ('a' - 'A')) : Character; }
+}
+
+bool BeginsDeclaration(const FToken& Token)
+{
+	return Token.Is("UCLASS") || Token.Is("USTRUCT") || Token.Is("UENUM") || Token.Is("UINTERFACE");
 }
 
 bool EqualsIgnoringCase(const std::string_view Left, const std::string_view Right)
@@ -64,9 +76,52 @@ bool FTokenCursor::FailExpected(const std::string_view What)
 
 bool FTokenCursor::Fail(const FPosition& Position, std::string Message)
 {
-	if (Errors.empty())
+	if (!bFailed && !HasTooManyErrors())
 	{
 		Errors.push_back({Position, std::move(Message)});
+	}
+	bFailed = true;
+	return false;
+}
+
+void FTokenCursor::Recover(const size_t Mark)
+{
+	bFailed = false;
+	Depth = 0;
+	Index = Mark;
+	Take();
+}
+
+void FTokenCursor::RecoverDeclaration(const size_t Mark)
+{
+	Recover(Mark);
+	int32_t Braces = 0;
+	while (!AtEnd() && !BeginsDeclaration(Peek()))
+	{
+		const FToken& Token = Take();
+		Braces += Token.Is("{") ? 1 : Token.Is("}") ? -1
+													: 0;
+		if (Braces <= 0 && (Token.Is(";") || Token.Is("}")))
+		{
+			TakeIf(";");
+			return;
+		}
+	}
+}
+
+bool FTokenCursor::RecoverMember(const size_t Mark)
+{
+	Recover(Mark);
+	int32_t Braces = 0;
+	while (!AtEnd() && !BeginsDeclaration(Peek()))
+	{
+		if (Braces == 0 && (Peek().Is("}") || BeginsMember(Peek(), Peek(1))))
+		{
+			return !Peek().Is("}");
+		}
+		const FToken& Token = Take();
+		Braces += Token.Is("{") ? 1 : Token.Is("}") ? -1
+													: 0;
 	}
 	return false;
 }
@@ -143,7 +198,8 @@ std::string FTokenCursor::Join(const size_t First, const size_t End) const
 		{
 			const FToken& Before = Header.Tokens[Position - 1];
 			const bool bTouching = Before.Text.data() + Before.Text.size() == Token.Text.data();
-			const bool bOperator = Token.Is("|") || Token.Is("+") || Token.Is("=") || Before.Is("|") || Before.Is("+") || Before.Is("=") || Before.Is(",");
+			const bool bOperator =
+				Token.Is("|") || Token.Is("+") || Token.Is("=") || Before.Is("|") || Before.Is("+") || Before.Is("=") || Before.Is(",");
 			if (!bTouching && ((IsWord(Before) && IsWord(Token)) || bOperator))
 			{
 				Text += ' ';

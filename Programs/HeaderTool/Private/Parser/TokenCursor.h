@@ -7,8 +7,8 @@
 namespace HeaderParser
 {
 /**
- * A place in the tokens, and the first error. Functions that answer bool fail with the error already recorded, so callers
- * only pass the false on.
+ * A place in the tokens, and the errors. Functions that answer bool fail with the error already recorded, so callers only pass the
+ * false on; whoever goes on after a failure calls Recover first, and until then no other error is recorded.
  */
 class FTokenCursor
 {
@@ -52,6 +52,13 @@ public:
 	/** Text of the source between two tokens, with white space and comments made single spaces where words would join. */
 	[[nodiscard]] std::string Join(size_t First, size_t End) const;
 
+	/** Takes what is left of a declaration of a file that began at the mark: to its end, or to the next macro that begins one. */
+	void RecoverDeclaration(size_t Mark);
+	/** The same of a member. False when no member follows in this body: at its end, and where another declaration begins. */
+	[[nodiscard]] bool RecoverMember(size_t Mark);
+	/** Whether there are so many errors that more would help nobody. */
+	[[nodiscard]] bool HasTooManyErrors() const { return Errors.size() >= MaxErrors; }
+
 	[[nodiscard]] size_t Mark() const { return Index; }
 	void Rewind(const size_t Mark) { Index = Mark; }
 
@@ -63,12 +70,21 @@ public:
 	[[nodiscard]] const std::vector<FDiagnostic>& GetErrors() const { return Errors; }
 
 private:
+	static constexpr size_t MaxErrors = 100;
+
+	/** Goes back to the token behind the mark, with the failure behind it. */
+	void Recover(size_t Mark);
+
 	const FTokenizedHeader& Header;
 	const FParseLimits& Limits;
 	size_t Index = 0;
 	int32_t Depth = 0;
+	bool bFailed = false;
 	std::vector<FDiagnostic> Errors;
 };
+
+/** UCLASS and its like, which stand in no other declaration. */
+[[nodiscard]] bool BeginsDeclaration(const FToken& Token);
 
 [[nodiscard]] bool EqualsIgnoringCase(std::string_view Left, std::string_view Right);
 }

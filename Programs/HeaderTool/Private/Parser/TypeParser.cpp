@@ -78,7 +78,8 @@ void SkipElaboration(FTokenCursor& Cursor, bool& bConst)
 		{
 			bConst = true;
 		}
-		else if (!Cursor.TakeIf("class") && !Cursor.TakeIf("struct") && !Cursor.TakeIf("enum") && !Cursor.TakeIf("typename") && !Cursor.TakeIf("mutable") && !Cursor.TakeIf("volatile") && !Cursor.TakeIf("::"))
+		else if (!Cursor.TakeIf("class") && !Cursor.TakeIf("struct") && !Cursor.TakeIf("enum") && !Cursor.TakeIf("typename") &&
+			!Cursor.TakeIf("mutable") && !Cursor.TakeIf("volatile") && !Cursor.TakeIf("::"))
 		{
 			return;
 		}

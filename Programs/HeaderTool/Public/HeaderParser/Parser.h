@@ -13,9 +13,9 @@ struct FParseLimits
 
 struct FParseResult
 {
-	/** What was read before the first error. */
+	/** The declarations that were understood. */
 	FHeader Header;
-	/** Empty when the whole text was understood. */
+	/** One for each declaration that was not, in their order, up to a hundred. Empty when the whole text was understood. */
 	std::vector<FDiagnostic> Errors;
 
 	[[nodiscard]] bool Succeeded() const { return Errors.empty(); }
