@@ -4,7 +4,8 @@ using FEnums = FObjectTest;
 
 namespace
 {
-UEnum* MakeEnum(UPackage* Package, const TCHAR* Name, const TArray<TPair<FName, int64>>& Names, UEnum::ECppForm Form, EEnumFlags Flags = EEnumFlags::None)
+UEnum* MakeEnum(UPackage* Package, const TCHAR* Name, const TArray<TPair<FName, int64>>& Names, UEnum::ECppForm Form,
+	EEnumFlags Flags = EEnumFlags::None)
 {
 	UEnum* const Enum = NewObject<UEnum>(Package, Name);
 	EXPECT_TRUE(Enum->SetEnums(Names, Form, Flags));
@@ -14,7 +15,8 @@ UEnum* MakeEnum(UPackage* Package, const TCHAR* Name, const TArray<TPair<FName, 
 
 TEST_F(FEnums, EnumeratorsAreFoundByShortAndFullNamesOfTheirFormOnly)
 {
-	const UEnum* const Scoped = MakeEnum(Package, TEXT("EDay"), {{TEXT("EDay::Monday"), -1}, {TEXT("EDay::Friday"), 4}}, UEnum::ECppForm::EnumClass);
+	const UEnum* const Scoped =
+		MakeEnum(Package, TEXT("EDay"), {{TEXT("EDay::Monday"), -1}, {TEXT("EDay::Friday"), 4}}, UEnum::ECppForm::EnumClass);
 	EXPECT_EQ(Scoped->GetIndexByNameString(TEXT("Friday")), 1);
 	EXPECT_EQ(Scoped->GetIndexByNameString(TEXT("EDay::friday")), 1);
 	EXPECT_EQ(Scoped->GetIndexByNameString(TEXT("EOther::Friday")), INDEX_NONE);
@@ -32,7 +34,9 @@ TEST_F(FEnums, EnumeratorsAreFoundByShortAndFullNamesOfTheirFormOnly)
 
 TEST_F(FEnums, FlagsOfABitfieldAreNamedAndChecked)
 {
-	const UEnum* const Flags = MakeEnum(Package, TEXT("EBits"), {{TEXT("EBits::None"), 0}, {TEXT("EBits::A"), 1}, {TEXT("EBits::B"), 2}, {TEXT("EBits::C"), 8}}, UEnum::ECppForm::EnumClass, EEnumFlags::Flags);
+	const UEnum* const Flags =
+		MakeEnum(Package, TEXT("EBits"), {{TEXT("EBits::None"), 0}, {TEXT("EBits::A"), 1}, {TEXT("EBits::B"), 2}, {TEXT("EBits::C"), 8}},
+			UEnum::ECppForm::EnumClass, EEnumFlags::Flags);
 	EXPECT_EQ(Flags->GetValueOrBitfieldAsString(10), TEXT("B | C"));
 	EXPECT_EQ(Flags->GetValueOrBitfieldAsString(0), TEXT("None"));
 	EXPECT_TRUE(Flags->IsValidEnumValueOrBitfield(11));

@@ -60,7 +60,8 @@ TEST(HostileText, EveryCutOffLengthIsRefused)
 TEST(HostileText, AnyCharacterAnywhereIsReadOrRefused)
 {
 	const FString Whole(EveryKindText);
-	for (const TCHAR Replacement : {TEXT('('), TEXT(')'), TEXT('"'), TEXT('\\'), TEXT(','), TEXT('\''), TEXT('='), TEXT('\n'), TEXT('-'), static_cast<TCHAR>(0xD800)})
+	for (const TCHAR Replacement : {TEXT('('), TEXT(')'), TEXT('"'), TEXT('\\'), TEXT(','), TEXT('\''), TEXT('='), TEXT('\n'), TEXT('-'),
+			 static_cast<TCHAR>(0xD800)})
 	{
 		for (int32 Position = 0; Position < Whole.Len(); ++Position)
 		{

@@ -92,14 +92,16 @@ TEST(SoftObjectPath, EveryPrefixOfExportTextIsAPathOrNone)
 
 TEST(TopLevelAssetPath, SubObjectsAndRelativePathsAreRefused)
 {
-	for (const TCHAR* const Bad : {TEXT(""), TEXT("/"), TEXT("Actor"), TEXT("Engine.Actor"), TEXT("/Game/A.A:B"), TEXT("/Game/A.A.B"), TEXT("/Game/A."), TEXT("Class'/Game/A.A:B'")})
+	for (const TCHAR* const Bad : {TEXT(""), TEXT("/"), TEXT("Actor"), TEXT("Engine.Actor"), TEXT("/Game/A.A:B"), TEXT("/Game/A.A.B"),
+			 TEXT("/Game/A."), TEXT("Class'/Game/A.A:B'")})
 	{
 		FTopLevelAssetPath Path(TEXT("/Game/Old"), TEXT("Old"));
 		EXPECT_FALSE(Path.TrySetPath(FStringView(Bad))) << Utf8(Bad);
 		EXPECT_TRUE(Path.IsNull()) << Utf8(Bad);
 		EXPECT_EQ(Path.ToString(), FString()) << Utf8(Bad);
 	}
-	const TCHAR* const Good[][2] = {{TEXT("/Game/A"), TEXT("/Game/A")}, {TEXT("/Game/A.B"), TEXT("/Game/A.B")}, {TEXT("/Script/CoreUObject.Class'/Script/Engine.Actor'"), TEXT("/Script/Engine.Actor")}};
+	const TCHAR* const Good[][2] = {{TEXT("/Game/A"), TEXT("/Game/A")}, {TEXT("/Game/A.B"), TEXT("/Game/A.B")},
+		{TEXT("/Script/CoreUObject.Class'/Script/Engine.Actor'"), TEXT("/Script/Engine.Actor")}};
 	for (const auto& Row : Good)
 	{
 		EXPECT_EQ(Utf8(FTopLevelAssetPath(FStringView(Row[0])).ToString()), Utf8(Row[1]));
@@ -179,7 +181,9 @@ TEST(PackageNames, ValidNamesAreKnownFromBadOnesWithAReason)
 TEST(PackageNames, NoNameLeadsOutOfItsMountedFolder)
 {
 	FPackageName::RegisterMountPoint(TEXT("/Trap/"), TEXT("/trap/content"));
-	for (const TCHAR* const Name : {TEXT("/Trap/../secret"), TEXT("/Trap/A/../../secret"), TEXT("/Trap/.."), TEXT("/Trap/A/..\\..\\secret"), TEXT("/Trap\\..\\secret"), TEXT("/Trap/A\\../../b"), TEXT("/etc/passwd"), TEXT("Trap/A"), TEXT("")})
+	for (const TCHAR* const Name :
+		{TEXT("/Trap/../secret"), TEXT("/Trap/A/../../secret"), TEXT("/Trap/.."), TEXT("/Trap/A/..\\..\\secret"),
+			TEXT("/Trap\\..\\secret"), TEXT("/Trap/A\\../../b"), TEXT("/etc/passwd"), TEXT("Trap/A"), TEXT("")})
 	{
 		FString Filename;
 		EXPECT_FALSE(FPackageName::TryConvertLongPackageNameToFilename(Name, Filename)) << Utf8(Name) << " gave " << Utf8(Filename);

@@ -12,7 +12,10 @@ using UECodeGen_Private::EPropertyGenKind;
 class FErrorText : public FOutputDevice
 {
 public:
-	void Serialize(const TCHAR* Message, ELogVerbosity::Type Verbosity, const FName& Category) override { Text += FString(Message) + TEXT("\n"); }
+	void Serialize(const TCHAR* Message, ELogVerbosity::Type Verbosity, const FName& Category) override
+	{
+		Text += FString(Message) + TEXT("\n");
+	}
 
 	FString Text;
 };

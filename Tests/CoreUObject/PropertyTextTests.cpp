@@ -92,8 +92,10 @@ const FTextCase TextCases[] = {
 	{"Text", &OfKind<EPropertyGenKind::Text>, TEXT("NSLOCTEXT(\"ns\", \"key\", \"source \\\"text\\\"\")"), nullptr},
 	{"NullObject", &OfObject, TEXT("None"), nullptr},
 	{"ObjectQuotedWhole", &OfObject, TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\""), nullptr},
-	{"ObjectQuotedInside", &OfObject, TEXT("/Script/CoreUObject.Class'\"/Script/CoreUObject.Object\"'"), TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\"")},
-	{"ObjectShortClass", &OfObject, TEXT("Class'/Script/CoreUObject.Object'"), TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\"")},
+	{"ObjectQuotedInside", &OfObject, TEXT("/Script/CoreUObject.Class'\"/Script/CoreUObject.Object\"'"),
+		TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\"")},
+	{"ObjectShortClass", &OfObject, TEXT("Class'/Script/CoreUObject.Object'"),
+		TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\"")},
 	{"ObjectPlainPath", &OfObject, TEXT("/Script/CoreUObject.Object"), TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\"")},
 	{"Class", &OfClass, TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Package'\""), nullptr},
 	{"MissingAsset", &OfObject, TEXT("\"/Script/Engine.Texture2D'/Game/Nowhere/T_Missing.T_Missing'\""), nullptr},
@@ -119,7 +121,8 @@ TEST_P(FPropertyText, ReadsAndWrites)
 	MakeTestPackage(TEXT("/Script/PropertyTests"));
 	FTestValue Value(GetParam().Describe());
 	ASSERT_TRUE(Value.Import(GetParam().Text)) << TCHAR_TO_UTF8(*Value.Errors.Text);
-	EXPECT_EQ(std::string(TCHAR_TO_UTF8(*Value.Export())), std::string(TCHAR_TO_UTF8(GetParam().Written ? GetParam().Written : GetParam().Text)));
+	EXPECT_EQ(std::string(TCHAR_TO_UTF8(*Value.Export())),
+		std::string(TCHAR_TO_UTF8(GetParam().Written ? GetParam().Written : GetParam().Text)));
 }
 
 INSTANTIATE_TEST_SUITE_P(Kinds, FPropertyText, testing::ValuesIn(TextCases), [](const testing::TestParamInfo<FTextCase>& Info)
@@ -195,7 +198,8 @@ TEST(PropertyText, StaticArrayElementsAreNamedByIndex)
 
 TEST(PropertyText, MemberNamesMayHoldBlanksAndBrackets)
 {
-	UScriptStruct* const Struct = MakeTestStruct(MakeTestPackage(TEXT("/Script/PropertyTests")), TEXT("Odd"), {Describe(EPropertyGenKind::Int, TEXT("Speed (cm)"))});
+	UScriptStruct* const Struct = MakeTestStruct(
+		MakeTestPackage(TEXT("/Script/PropertyTests")), TEXT("Odd"), {Describe(EPropertyGenKind::Int, TEXT("Speed (cm)"))});
 	FTestValue Value(Describe(EPropertyGenKind::Struct, TEXT("Value"), Struct));
 	ASSERT_TRUE(Value.Import(TEXT("(Speed (cm)=12)")));
 	EXPECT_EQ(Value.Export(), TEXT("(Speed (cm)=12)"));

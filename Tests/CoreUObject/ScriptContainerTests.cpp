@@ -283,7 +283,8 @@ TEST(ScriptSet, HoldsAnEqualElementOnceAndFindsTheRestAfterRemoval)
 TEST(ScriptSet, StructElementsAreFoundByTheirMembers)
 {
 	UScriptStruct* const Key = MakeTestStruct(MakeTestPackage(TEXT("/Script/PropertyTests")), TEXT("SetKey"),
-		{Describe(EPropertyGenKind::Str, TEXT("Name")), Describe(EPropertyGenKind::Int, TEXT("Count")), Describe(EPropertyGenKind::Bool, TEXT("bFlag"))});
+		{Describe(EPropertyGenKind::Str, TEXT("Name")), Describe(EPropertyGenKind::Int, TEXT("Count")),
+			Describe(EPropertyGenKind::Bool, TEXT("bFlag"))});
 	FTestValue Value(DescribeContainer(EPropertyGenKind::Set, Describe(EPropertyGenKind::Struct, TEXT("Key"), Key)));
 	EXPECT_TRUE(CastFieldChecked<FSetProperty>(Value.Property.Get())->ElementProp->HasAnyPropertyFlags(CPF_HasGetValueTypeHash));
 	ASSERT_TRUE(Value.Import(TEXT("((Name=\"a\",Count=1),(Name=\"a\",Count=2),(Count=1,Name=\"a\"),(Name=\"a\",Count=1,bFlag=True))")));

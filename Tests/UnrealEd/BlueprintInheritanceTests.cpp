@@ -1,7 +1,11 @@
+#include "Components/SceneComponent.h"
 #include "EdGraphSchema_K2.h"
 #include "EditorFixture.h"
 #include "Engine/Blueprint.h"
 #include "Engine/MemberReference.h"
+#include "Engine/SCS_Node.h"
+#include "Engine/SimpleConstructionScript.h"
+#include "Engine/World.h"
 #include "GameFramework/Actor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/KismetEditorUtilities.h"
@@ -105,5 +109,64 @@ TEST_F(FBlueprintInheritanceTest, AReferenceFollowsARenameByItsIdFromInsideAndOu
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	EXPECT_EQ(External.ResolveMember<FProperty>(Blueprint->GeneratedClass.Get()), nullptr);
 	EXPECT_EQ(Self.ResolveMember<FProperty>(AActor::StaticClass()), nullptr);
+}
+
+TEST_F(FBlueprintInheritanceTest, WhatAChildDidNotChangeFollowsItsParentWhenTheLayoutChanges)
+{
+	UBlueprint* const Parent = MakeBlueprint(TEXT("BP_FollowedParent"));
+	FBlueprintEditorUtils::AddMemberVariable(Parent, FName(TEXT("Kept")), IntType(), TEXT("1"));
+	FBlueprintEditorUtils::AddMemberVariable(Parent, FName(TEXT("Own")), IntType(), TEXT("2"));
+	FKismetEditorUtilities::CompileBlueprint(Parent);
+	UBlueprint* const Child = MakeBlueprint(TEXT("BP_FollowingChild"), Parent->GeneratedClass.Get());
+	FindInt(*Child, TEXT("Own"))->SetPropertyValue_InContainer(Child->GeneratedClass->GetDefaultObject(), 20);
+	// The parent's next compile gives the variable another default.
+	FBlueprintEditorUtils::RemoveMemberVariable(Parent, FName(TEXT("Kept")));
+	FBlueprintEditorUtils::AddMemberVariable(Parent, FName(TEXT("Kept")), IntType(), TEXT("10"));
+	FBlueprintEditorUtils::AddMemberVariable(Parent, FName(TEXT("Added")), IntType(), TEXT("3"));
+	FKismetEditorUtilities::CompileBlueprint(Parent);
+	EXPECT_EQ(GetDefault(*Child, TEXT("Kept")), GetDefault(*Parent, TEXT("Kept")));
+	EXPECT_EQ(GetDefault(*Child, TEXT("Own")), 20);
+	EXPECT_EQ(GetDefault(*Child, TEXT("Added")), 3);
+}
+
+TEST_F(FBlueprintInheritanceTest, AValueWhoseTypeChangedGoesThroughItsTextOrIsDropped)
+{
+	UBlueprint* const Blueprint = MakeBlueprint(TEXT("BP_Retyped"));
+	FBlueprintEditorUtils::AddMemberVariable(Blueprint, FName(TEXT("Number")), IntType(), TEXT("42"));
+	FEdGraphPinType Text = IntType();
+	Text.PinCategory = UEdGraphSchema_K2::PC_String;
+	FBlueprintEditorUtils::AddMemberVariable(Blueprint, FName(TEXT("Word")), Text, TEXT("many"));
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	FBlueprintEditorUtils::ChangeMemberVariableType(Blueprint, FName(TEXT("Number")), Text);
+	FBlueprintEditorUtils::ChangeMemberVariableType(Blueprint, FName(TEXT("Word")), IntType());
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	const FStrProperty* const Number = FindFProperty<FStrProperty>(Blueprint->GeneratedClass.Get(), TEXT("Number"));
+	ASSERT_NE(Number, nullptr);
+	EXPECT_EQ(Number->GetPropertyValue_InContainer(Blueprint->GeneratedClass->GetDefaultObject()), TEXT("42"));
+	EXPECT_EQ(GetDefault(*Blueprint, TEXT("Word")), 0);
+}
+
+TEST_F(FBlueprintInheritanceTest, ComponentsOfInstancesHaveTheNearestTemplateAsArchetype)
+{
+	UBlueprint* const Parent = MakeBlueprint(TEXT("BP_TemplateParent"));
+	USimpleConstructionScript* const Script = Parent->SimpleConstructionScript;
+	USCS_Node* const Node = Script->CreateNode(USceneComponent::StaticClass(), TEXT("Arm"));
+	Script->AddNode(Node);
+	FKismetEditorUtilities::CompileBlueprint(Parent);
+	UBlueprint* const Child = MakeBlueprint(TEXT("BP_TemplateChild"), Parent->GeneratedClass.Get());
+	UWorld* const World = UWorld::CreateWorld(EWorldType::Editor, false);
+	for (const UBlueprint* const Blueprint : {Parent, Child})
+	{
+		const AActor* const Actor = World->SpawnActor<AActor>(Blueprint->GeneratedClass, FVector::ZeroVector, FRotator::ZeroRotator);
+		const UObject* const Arm = FindObjectFast<USceneComponent>(const_cast<AActor*>(Actor), TEXT("Arm"));
+		ASSERT_NE(Arm, nullptr);
+		EXPECT_EQ(Arm->GetArchetype(), Node->ComponentTemplate);
+		EXPECT_TRUE(Arm->IsBasedOnArchetype(Node->ComponentTemplate));
+	}
+	// A name that no variable has, or a class that the template is not of, leads to the class's own defaults.
+	EXPECT_EQ(Child->GeneratedClass->FindArchetype(USceneComponent::StaticClass(), TEXT("Leg")), nullptr);
+	EXPECT_EQ(Child->GeneratedClass->FindArchetype(UBlueprint::StaticClass(), TEXT("Arm")), nullptr);
+	EXPECT_EQ(Node->ComponentTemplate->GetArchetype(), USceneComponent::StaticClass()->GetDefaultObject());
+	World->DestroyWorld(false);
 }
 }

@@ -266,7 +266,8 @@ FString FPackageName::ObjectPathToObjectName(const FString& InObjectPath)
 bool FPackageName::ParseExportTextPath(const FString& InExportTextPath, FString* OutClassName, FString* OutObjectPath)
 {
 	int32 Apostrophe = INDEX_NONE;
-	if (!InExportTextPath.FindChar(TEXT('\''), Apostrophe) || !InExportTextPath.EndsWith(TEXT("'")) || Apostrophe + 1 == InExportTextPath.Len())
+	if (!InExportTextPath.FindChar(TEXT('\''), Apostrophe) || !InExportTextPath.EndsWith(TEXT("'")) ||
+		Apostrophe + 1 == InExportTextPath.Len())
 	{
 		return false;
 	}
@@ -306,7 +307,8 @@ bool FPackageName::DoesPackageExist(const FString& LongPackageName, FString* Out
 {
 	const FString PackageName = ObjectPathToPackageName(LongPackageName);
 	FString Filename;
-	return !IsScriptPackage(PackageName) && TryConvertLongPackageNameToFilename(PackageName, Filename) && FindPackageFileWithoutExtension(Filename, OutFilename ? *OutFilename : Filename);
+	return !IsScriptPackage(PackageName) && TryConvertLongPackageNameToFilename(PackageName, Filename) &&
+		FindPackageFileWithoutExtension(Filename, OutFilename ? *OutFilename : Filename);
 }
 
 bool FPackageName::FindPackageFileWithoutExtension(const FString& InPackageFilename, FString& OutFilename)
@@ -355,7 +357,8 @@ bool FPackageName::MountPointExists(const FString& RootPath)
 		{ return MountPoint.Root == Root; });
 }
 
-void FPackageName::QueryRootContentPaths(TArray<FString>& OutRootContentPaths, bool bIncludeReadOnlyRoots, bool bWithoutLeadingSlashes, bool bWithoutTrailingSlashes)
+void FPackageName::QueryRootContentPaths(
+	TArray<FString>& OutRootContentPaths, bool bIncludeReadOnlyRoots, bool bWithoutLeadingSlashes, bool bWithoutTrailingSlashes)
 {
 	TArray<FString> Roots;
 	for (const FMountPoint& MountPoint : GetAllMountPoints())

@@ -8,7 +8,8 @@ namespace
 /** Packages from before complete type names have a tag of their own before the elements of an array of structs. */
 bool HasInnerTag(const FArchive& Ar, const FProperty* Inner)
 {
-	return Inner->IsA<FStructProperty>() && Ar.UEVer() >= VER_UE4_INNER_ARRAY_TAG_INFO && Ar.UEVer() < EUnrealEngineObjectUE5Version::PROPERTY_TAG_COMPLETE_TYPE_NAME;
+	return Inner->IsA<FStructProperty>() && Ar.UEVer() >= VER_UE4_INNER_ARRAY_TAG_INFO &&
+		Ar.UEVer() < EUnrealEngineObjectUE5Version::PROPERTY_TAG_COMPLETE_TYPE_NAME;
 }
 
 void ReadElements(FArchive& Ar, FScriptArrayHelper& Helper, const FElementReader& Reader, int32 Count)
@@ -42,7 +43,8 @@ void ReadTaggedStructElements(FArchive& Ar, FArrayProperty* Property, FScriptArr
 		ReadElements(Ar, Helper, Reader, Count);
 		return;
 	}
-	UE_LOG(LogClass, Warning, TEXT("%s: elements of %s are of struct %s, which cannot become %s"), *Ar.GetArchiveName(), *Property->GetPathName(), *InnerTag.StructName.ToString(), *Property->Inner->GetCPPType());
+	UE_LOG(LogClass, Warning, TEXT("%s: elements of %s are of struct %s, which cannot become %s"), *Ar.GetArchiveName(),
+		*Property->GetPathName(), *InnerTag.StructName.ToString(), *Property->Inner->GetCPPType());
 	Helper.EmptyValues();
 	Ar.Seek(Start + InnerTag.Size);
 }
@@ -141,7 +143,8 @@ void FArrayProperty::LinkInternal(FArchive& Ar)
 	PropagateFlagsToElement(this, Inner, CPF_PropagateToArrayInner);
 }
 
-bool FArrayProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FArrayProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	return Inner->ContainsObjectReference(EncounteredStructProps, InReferenceType);
 }
@@ -197,7 +200,8 @@ void FArrayProperty::SerializeItem(FArchive& Ar, void* Value, const void* Defaul
 	}
 }
 
-EConvertFromTypeResult FArrayProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FArrayProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (!Tag.IsType(GetID()))
 	{
@@ -229,7 +233,8 @@ void FArrayProperty::CollectReferences(void* Value, FReferenceCollector& Collect
 	}
 }
 
-void FArrayProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FArrayProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FScriptArrayHelper Helper(this, PropertyValue);
 	if (Helper.Num() == 0)
@@ -243,12 +248,14 @@ void FArrayProperty::ExportText_Internal(FString& ValueStr, const void* Property
 	for (int32 Index = 0; Index < Helper.Num(); ++Index)
 	{
 		ValueStr += Index > 0 ? TEXT(",") : TEXT("");
-		Inner->ExportTextItem_Direct(ValueStr, Helper.GetRawPtr(Index), bIsStruct ? StructDefault.Get() : nullptr, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+		Inner->ExportTextItem_Direct(ValueStr, Helper.GetRawPtr(Index), bIsStruct ? StructDefault.Get() : nullptr, Parent,
+			PortFlags | PPF_Delimited, ExportRootScope);
 	}
 	ValueStr += TEXT(")");
 }
 
-const TCHAR* FArrayProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FArrayProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FScriptArrayHelper Helper(this, PropertyValue);
 	const TCHAR* Text = FPropertyHelpers::SkipWhitespace(Buffer);

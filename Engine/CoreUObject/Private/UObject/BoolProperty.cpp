@@ -13,7 +13,8 @@ struct FBoolWord
 	bool bValue;
 };
 
-constexpr FBoolWord BoolWords[] = {{TEXT("True"), true}, {TEXT("False"), false}, {TEXT("Yes"), true}, {TEXT("No"), false}, {TEXT("1"), true}, {TEXT("0"), false}};
+constexpr FBoolWord BoolWords[] = {
+	{TEXT("True"), true}, {TEXT("False"), false}, {TEXT("Yes"), true}, {TEXT("No"), false}, {TEXT("1"), true}, {TEXT("0"), false}};
 
 constexpr uint8 NativeBoolFieldMask = 0xff;
 }
@@ -121,7 +122,8 @@ void FBoolProperty::SerializeItem(FArchive& Ar, void* Value, const void* Default
 	}
 }
 
-EConvertFromTypeResult FBoolProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FBoolProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (Tag.IsType(GetID()))
 	{
@@ -143,12 +145,14 @@ EConvertFromTypeResult FBoolProperty::ConvertFromType(const FPropertyTag& Tag, F
 	return EConvertFromTypeResult::Converted;
 }
 
-void FBoolProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FBoolProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += GetPropertyValue(PropertyValue) ? TEXT("True") : TEXT("False");
 }
 
-const TCHAR* FBoolProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FBoolProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FString Token;
 	const TCHAR* const Start = FPropertyHelpers::SkipWhitespace(Buffer);

@@ -105,7 +105,8 @@ bool UClass::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlagsType Fl
 	// The default object goes where its class goes, under the class's name.
 	if (bRenamed && ClassDefaultObject && !(Flags & REN_Test))
 	{
-		ClassDefaultObject->Rename(*GetDefaultObjectName().ToString(), GetOuter(), Flags | REN_DoNotDirty | REN_DontCreateRedirectors | REN_NonTransactional);
+		ClassDefaultObject->Rename(
+			*GetDefaultObjectName().ToString(), GetOuter(), Flags | REN_DoNotDirty | REN_DontCreateRedirectors | REN_NonTransactional);
 	}
 	return bRenamed;
 }
@@ -149,9 +150,11 @@ UObject* UClass::CreateDefaultObject()
 	}
 	checkf(ClassConstructor, TEXT("Class %s has no constructor"), *GetName());
 	const bool bNative = IsNativeClass(this);
-	const EObjectFlags Flags = static_cast<EObjectFlags>(RF_Public | RF_ClassDefaultObject | RF_ArchetypeObject | (bNative ? RF_MarkAsRootSet : RF_NoFlags));
+	const EObjectFlags Flags =
+		static_cast<EObjectFlags>(RF_Public | RF_ClassDefaultObject | RF_ArchetypeObject | (bNative ? RF_MarkAsRootSet : RF_NoFlags));
 	ClassDefaultObject = StaticAllocateObject(this, GetOuter(), NAME_None, Flags);
-	ClassConstructor(FObjectInitializer(ClassDefaultObject, ParentDefaults, bNative ? EObjectInitializerOptions::None : EObjectInitializerOptions::InitializeProperties));
+	ClassConstructor(FObjectInitializer(
+		ClassDefaultObject, ParentDefaults, bNative ? EObjectInitializerOptions::None : EObjectInitializerOptions::InitializeProperties));
 	return ClassDefaultObject;
 }
 
@@ -177,18 +180,27 @@ UObject* UClass::GetArchetypeForCDO() const
 void UClass::AddFunctionToFunctionMap(UFunction* Function, FName FuncName)
 {
 	FuncMap.Add(FuncName, Function);
-	ClearFunctionMapsCaches();
-	TArray<UClass*> Derived;
-	GetDerivedClasses(this, Derived);
-	for (UClass* const Class : Derived)
+	ClearFunctionMapsCachesOfFamily();
+}
+
+void UClass::AddFunctionsToFunctionMap(TConstArrayView<UFunction*> Functions)
+{
+	for (UFunction* const Function : Functions)
 	{
-		Class->ClearFunctionMapsCaches();
+		FuncMap.Add(Function->GetFName(), Function);
 	}
+	ClearFunctionMapsCachesOfFamily();
 }
 
 void UClass::RemoveFunctionFromFunctionMap(UFunction* Function)
 {
 	FuncMap.Remove(Function->GetFName());
+	ClearFunctionMapsCachesOfFamily();
+}
+
+void UClass::ClearFunctionMapsCachesOfFamily()
+{
+	ClearFunctionMapsCaches();
 	TArray<UClass*> Derived;
 	GetDerivedClasses(this, Derived);
 	for (UClass* const Class : Derived)
@@ -249,7 +261,8 @@ const FImplementedInterface* UClass::FindImplementedInterface(const UClass* Some
 
 bool UClass::ImplementsInterface(const UClass* SomeInterface) const
 {
-	return SomeInterface && SomeInterface->HasAnyClassFlags(CLASS_Interface) && SomeInterface != UObject::StaticClass() && FindImplementedInterface(SomeInterface) != nullptr;
+	return SomeInterface && SomeInterface->HasAnyClassFlags(CLASS_Interface) && SomeInterface != UObject::StaticClass() &&
+		FindImplementedInterface(SomeInterface) != nullptr;
 }
 
 UClass* UClass::FindCommonBase(UClass* InClassA, UClass* InClassB)

@@ -191,7 +191,9 @@ UClass* ConstructClass(UClass*& Singleton, const FClassParams& Params)
 	{
 		ConstructRegisteredClass(Super);
 	}
-	Class->ClassWithin = Params.WithinFunc ? Params.WithinFunc() : (Class->GetSuperClass() ? Class->GetSuperClass()->ClassWithin.Get() : UObject::StaticClass());
+	Class->ClassWithin = Params.WithinFunc
+		? Params.WithinFunc()
+		: (Class->GetSuperClass() ? Class->GetSuperClass()->ClassWithin.Get() : UObject::StaticClass());
 	for (int32 Index = 0; Index < Params.NumProperties; ++Index)
 	{
 		if (FProperty* const Property = ConstructProperty(Class, Params.Properties[Index], Params.SizeOf))
@@ -266,7 +268,8 @@ UEnum* ConstructEnum(UEnum*& Singleton, const FEnumParams& Params)
 	SetMetaData(Enum, Params.MetaData, Params.NumMetaData);
 	for (int32 Index = 0; Index < Params.NumEnumerators; ++Index)
 	{
-		SetMetaData(Enum, Params.Enumerators[Index].MetaData, Params.Enumerators[Index].NumMetaData, Enum->GetNameStringByIndex(Index) + TEXT("."));
+		SetMetaData(Enum, Params.Enumerators[Index].MetaData, Params.Enumerators[Index].NumMetaData,
+			Enum->GetNameStringByIndex(Index) + TEXT("."));
 	}
 	return Enum;
 }
@@ -283,7 +286,8 @@ UFunction* ConstructFunction(UFunction*& Singleton, const FFunctionParams& Param
 		return Singleton;
 	}
 	const FName Name(UTF8_TO_TCHAR(Params.NameUTF8));
-	UFunction* const Function = (Params.FunctionFlags & FUNC_Delegate) ? static_cast<UFunction*>(NewType<UDelegateFunction>(Outer, Name)) : NewType<UFunction>(Outer, Name);
+	UFunction* const Function = (Params.FunctionFlags & FUNC_Delegate) ? static_cast<UFunction*>(NewType<UDelegateFunction>(Outer, Name))
+																	   : NewType<UFunction>(Outer, Name);
 	Singleton = Function;
 	Function->FunctionFlags = Params.FunctionFlags;
 	if (UClass* const Class = Function->GetOuterUClass(); Class && Class->GetSuperClass())
@@ -303,7 +307,8 @@ UFunction* ConstructFunction(UFunction*& Singleton, const FFunctionParams& Param
 	return Function;
 }
 
-FRegisterCompiledIn::FRegisterCompiledIn(UClass* (*const* Classes)(), int32 NumClasses, UScriptStruct* (*const* Structs)(), int32 NumStructs, UEnum* (*const* Enums)(), int32 NumEnums)
+FRegisterCompiledIn::FRegisterCompiledIn(UClass* (*const* Classes)(), int32 NumClasses, UScriptStruct* (*const* Structs)(),
+	int32 NumStructs, UEnum* (*const* Enums)(), int32 NumEnums)
 {
 	GetQueue().push_back({Classes, NumClasses, Structs, NumStructs, Enums, NumEnums});
 }

@@ -58,7 +58,9 @@ public:
 	UObject* Resolve(const UE::Core::FDelegateObject& Object) override
 	{
 		const FUObjectItem* const Item = Object.ObjectSerialNumber ? GUObjectArray.IndexToObject(Object.ObjectIndex) : nullptr;
-		return Item && Item->SerialNumber == Object.ObjectSerialNumber && !Item->IsUnreachable() && !Item->IsGarbage() ? static_cast<UObject*>(Item->Object) : nullptr;
+		return Item && Item->SerialNumber == Object.ObjectSerialNumber && !Item->IsUnreachable() && !Item->IsGarbage()
+			? static_cast<UObject*>(Item->Object)
+			: nullptr;
 	}
 	bool HasFunction(UObject* Object, FName FunctionName) override { return Object->FindFunction(FunctionName) != nullptr; }
 	bool CallFunction(UObject* Object, FName FunctionName, void* Parameters) override

@@ -107,7 +107,8 @@ bool FDelegateProperty::Identical(const void* A, const void* B, uint32 PortFlags
 	return B ? Left == GetPropertyValue(B) : Left == FScriptDelegate();
 }
 
-bool FDelegateProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FDelegateProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	return EnumHasAnyFlags(InReferenceType, EPropertyObjectReferenceType::Weak);
 }
@@ -117,12 +118,14 @@ void FDelegateProperty::SerializeItem(FArchive& Ar, void* Value, const void* Def
 	Ar << *GetPropertyValuePtr(Value);
 }
 
-void FDelegateProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FDelegateProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += ExportDelegate(GetPropertyValue(PropertyValue));
 }
 
-const TCHAR* FDelegateProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FDelegateProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	const TCHAR* const End = ImportDelegate(FPropertyHelpers::SkipWhitespace(Buffer), OwnerObject, *GetPropertyValuePtr(PropertyValue));
 	return End ? End : FPropertyHelpers::RefuseText(ErrorText, this, TEXT("does not name a function of an object"), Buffer);
@@ -182,7 +185,8 @@ bool FMulticastDelegateProperty::Identical(const void* A, const void* B, uint32 
 	return B ? Left == GetPropertyValue(B) : Left.InvocationList.IsEmpty();
 }
 
-bool FMulticastDelegateProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FMulticastDelegateProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	return EnumHasAnyFlags(InReferenceType, EPropertyObjectReferenceType::Weak);
 }
@@ -192,7 +196,8 @@ void FMulticastDelegateProperty::SerializeItem(FArchive& Ar, void* Value, const 
 	Ar << *GetPropertyValuePtr(Value);
 }
 
-void FMulticastDelegateProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FMulticastDelegateProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue,
+	UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += TEXT("(");
 	bool bIsFirst = true;
@@ -204,7 +209,8 @@ void FMulticastDelegateProperty::ExportText_Internal(FString& ValueStr, const vo
 	ValueStr += TEXT(")");
 }
 
-const TCHAR* FMulticastDelegateProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FMulticastDelegateProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	const TCHAR* Text = FPropertyHelpers::SkipWhitespace(Buffer);
 	if (*Text != TEXT('('))

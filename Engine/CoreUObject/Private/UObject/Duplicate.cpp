@@ -141,8 +141,8 @@ FObjectDuplicationParameters::FObjectDuplicationParameters(UObject* InSourceObje
 {
 }
 
-FObjectDuplicationParameters InitStaticDuplicateObjectParams(UObject const* SourceObject, UObject* DestOuter, const FName DestName, EObjectFlags FlagMask, UClass* DestClass,
-	EDuplicateMode::Type DuplicateMode, EInternalObjectFlags InternalFlagsMask)
+FObjectDuplicationParameters InitStaticDuplicateObjectParams(UObject const* SourceObject, UObject* DestOuter, const FName DestName,
+	EObjectFlags FlagMask, UClass* DestClass, EDuplicateMode::Type DuplicateMode, EInternalObjectFlags InternalFlagsMask)
 {
 	FObjectDuplicationParameters Parameters(const_cast<UObject*>(SourceObject), DestOuter);
 	Parameters.DestName = DestName;
@@ -153,10 +153,11 @@ FObjectDuplicationParameters InitStaticDuplicateObjectParams(UObject const* Sour
 	return Parameters;
 }
 
-UObject* StaticDuplicateObject(UObject const* SourceObject, UObject* DestOuter, const FName DestName, EObjectFlags FlagMask, UClass* DestClass, EDuplicateMode::Type DuplicateMode,
-	EInternalObjectFlags InternalFlagsMask)
+UObject* StaticDuplicateObject(UObject const* SourceObject, UObject* DestOuter, const FName DestName, EObjectFlags FlagMask,
+	UClass* DestClass, EDuplicateMode::Type DuplicateMode, EInternalObjectFlags InternalFlagsMask)
 {
-	FObjectDuplicationParameters Parameters = InitStaticDuplicateObjectParams(SourceObject, DestOuter, DestName, FlagMask, DestClass, DuplicateMode, InternalFlagsMask);
+	FObjectDuplicationParameters Parameters =
+		InitStaticDuplicateObjectParams(SourceObject, DestOuter, DestName, FlagMask, DestClass, DuplicateMode, InternalFlagsMask);
 	return StaticDuplicateObjectEx(Parameters);
 }
 
@@ -167,7 +168,9 @@ UObject* StaticDuplicateObjectEx(FObjectDuplicationParameters& Parameters)
 	{
 		return nullptr;
 	}
-	constexpr EObjectFlags NeverCopied = static_cast<EObjectFlags>(RF_ClassDefaultObject | RF_MarkAsRootSet | RF_MarkAsNative | RF_NeedLoad | RF_NeedPostLoad | RF_NeedPostLoadSubobjects | RF_WasLoaded | RF_LoadCompleted | RF_BeginDestroyed | RF_FinishDestroyed | RF_MirroredGarbage | RF_HasExternalPackage | RF_BeingRegenerated | RF_TagGarbageTemp);
+	constexpr EObjectFlags NeverCopied = static_cast<EObjectFlags>(RF_ClassDefaultObject | RF_MarkAsRootSet | RF_MarkAsNative |
+		RF_NeedLoad | RF_NeedPostLoad | RF_NeedPostLoadSubobjects | RF_WasLoaded | RF_LoadCompleted | RF_BeginDestroyed |
+		RF_FinishDestroyed | RF_MirroredGarbage | RF_HasExternalPackage | RF_BeingRegenerated | RF_TagGarbageTemp);
 	Parameters.FlagMask = static_cast<EObjectFlags>(Parameters.FlagMask & ~NeverCopied);
 	Source->PreDuplicate(Parameters);
 	FCopyMaker Maker(Parameters);

@@ -66,7 +66,8 @@ int32 UEnum::GetIndexByNameString(const FString& InSearchString, EGetByNameFlags
 	{
 		for (int32 Index = 0; Index < Names.Num(); ++Index)
 		{
-			if (GetNameStringByIndex(Index).Equals(Search, ESearchCase::CaseSensitive) || Names[Index].Key.ToString().Equals(Search, ESearchCase::CaseSensitive))
+			if (GetNameStringByIndex(Index).Equals(Search, ESearchCase::CaseSensitive) ||
+				Names[Index].Key.ToString().Equals(Search, ESearchCase::CaseSensitive))
 			{
 				return Index;
 			}
@@ -112,7 +113,8 @@ FString UEnum::GetNameStringByIndex(int32 InIndex) const
 		return FString();
 	}
 	const FString FullName = Names[InIndex].Key.ToString();
-	const int32 Separator = CppForm == ECppForm::Regular ? INDEX_NONE : FullName.Find(TEXT("::"), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+	const int32 Separator =
+		CppForm == ECppForm::Regular ? INDEX_NONE : FullName.Find(TEXT("::"), ESearchCase::CaseSensitive, ESearchDir::FromEnd);
 	return Separator == INDEX_NONE ? FullName : FullName.Mid(Separator + 2);
 }
 

@@ -123,12 +123,14 @@ void FEnumProperty::SerializeItem(FArchive& Ar, void* Value, const void* Default
 	int32 Index = Enum->GetIndexByName(EnumValueName);
 	if (Index == INDEX_NONE && !EnumValueName.IsNone())
 	{
-		UE_LOG(LogClass, Warning, TEXT("%s: enum %s has no %s, used by property %s"), *Ar.GetArchiveName(), *Enum->GetName(), *EnumValueName.ToString(), *GetName());
+		UE_LOG(LogClass, Warning, TEXT("%s: enum %s has no %s, used by property %s"), *Ar.GetArchiveName(), *Enum->GetName(),
+			*EnumValueName.ToString(), *GetName());
 	}
 	UnderlyingProp->SetIntPropertyValue(Value, Index == INDEX_NONE ? Enum->GetMaxEnumValue() : Enum->GetValueByIndex(Index));
 }
 
-EConvertFromTypeResult FEnumProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FEnumProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (Tag.IsType(GetID()))
 	{
@@ -147,7 +149,8 @@ EConvertFromTypeResult FEnumProperty::ConvertFromType(const FPropertyTag& Tag, F
 	return UnderlyingProp->ConvertFromType(Tag, Ar, Data, DefaultsStruct, Defaults);
 }
 
-void FEnumProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FEnumProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const int64 Value = UnderlyingProp->GetSignedIntPropertyValue(PropertyValue);
 	if (!Enum || (PortFlags & PPF_ConsoleVariable))
@@ -164,7 +167,8 @@ void FEnumProperty::ExportText_Internal(FString& ValueStr, const void* PropertyV
 	ValueStr += PortFlags & PPF_PropertyWindow ? Enum->GetDisplayNameTextByIndex(Index).ToString() : Enum->GetNameStringByIndex(Index);
 }
 
-const TCHAR* FEnumProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FEnumProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FString Token;
 	const TCHAR* const Start = FPropertyHelpers::SkipWhitespace(Buffer);
@@ -180,7 +184,8 @@ const TCHAR* FEnumProperty::ImportText_Internal(const TCHAR* Buffer, void* Prope
 		UnderlyingProp->SetNumericPropertyValueFromString(PropertyValue, *Token);
 		return End;
 	}
-	return FPropertyHelpers::RefuseText(ErrorText, this, *FString::Printf(TEXT("is not an enumerator of %s"), Enum ? *Enum->GetName() : TEXT("its enum")), Start);
+	return FPropertyHelpers::RefuseText(
+		ErrorText, this, *FString::Printf(TEXT("is not an enumerator of %s"), Enum ? *Enum->GetName() : TEXT("its enum")), Start);
 }
 
 void FEnumProperty::CopyValuesInternal(void* Dest, const void* Src, int32 Count) const

@@ -89,14 +89,16 @@ bool FFieldPathProperty::SameType(const FProperty* Other) const
 	return Super::SameType(Other) && PropertyClass == static_cast<const FFieldPathProperty*>(Other)->PropertyClass;
 }
 
-void FFieldPathProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FFieldPathProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FFieldPath& Value = GetPropertyValue(PropertyValue);
 	const FString Text = Value.IsEmpty() ? FString(TEXT("None")) : Value.ToString();
 	ValueStr += PortFlags & PPF_Delimited ? FPropertyHelpers::QuoteAndEscape(Text) : Text;
 }
 
-const TCHAR* FFieldPathProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FFieldPathProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FString Text;
 	const TCHAR* const Start = FPropertyHelpers::SkipWhitespace(Buffer);

@@ -122,7 +122,9 @@ UClass* UFunction::GetOuterUClass() const
 
 uint64 UFunction::GetDefaultIgnoredSignatureCompatibilityFlags()
 {
-	return CPF_PersistentInstance | CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference | CPF_ComputedFlags | CPF_ConstParm | CPF_UObjectWrapper | CPF_TObjectPtr | CPF_NativeAccessSpecifiers | CPF_AdvancedDisplay | CPF_BlueprintVisible | CPF_BlueprintReadOnly;
+	return CPF_PersistentInstance | CPF_ExportObject | CPF_InstancedReference | CPF_ContainsInstancedReference | CPF_ComputedFlags |
+		CPF_ConstParm | CPF_UObjectWrapper | CPF_TObjectPtr | CPF_NativeAccessSpecifiers | CPF_AdvancedDisplay | CPF_BlueprintVisible |
+		CPF_BlueprintReadOnly;
 }
 
 bool UFunction::IsSignatureCompatibleWith(const UFunction* OtherFunction) const

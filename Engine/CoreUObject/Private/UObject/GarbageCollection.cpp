@@ -1,6 +1,7 @@
 #include "UObject/GarbageCollection.h"
 
 #include "HAL/PlatformProcess.h"
+#include "ReferenceSchemaVisit.h"
 #include "UObject/GCObject.h"
 #include "UObject/StrongObjectPtr.h"
 #include "UObject/UnrealType.h"
@@ -29,11 +30,6 @@ struct FHolders
 class FReachabilityMarker final : public FReferenceCollector
 {
 public:
-	void MarkFrom(UObject* Root)
-	{
-		Mark(Root);
-		Drain();
-	}
 	void Mark(UObject* Object)
 	{
 		FUObjectItem& Item = GUObjectArray.IndexToObjectUnsafe(static_cast<int32>(Object->GetUniqueID()));
@@ -45,17 +41,24 @@ public:
 	}
 	void Drain()
 	{
-		while (!Pending.empty())
+		const auto Handle = [this](UObject*& Object, const FProperty*)
+		{ Enqueue(Object); };
+		while (!Pending.empty() || FlushQueue())
 		{
 			UObject* const Object = Pending.back();
 			Pending.pop_back();
 			UClass* const Class = Object->GetClass();
-			Mark(Class);
+			if (Class != LastClass)
+			{
+				Mark(Class);
+				LastClass = Class;
+				LastSchema = &Class->GetReferenceSchema();
+			}
 			if (UObject* const Outer = Object->GetOuter())
 			{
 				Mark(Outer);
 			}
-			Class->GetReferenceSchema().Visit(Object, *this, Object);
+			VisitReferences(*LastSchema, Object, *this, Object, Handle);
 			if (Class->ClassAddReferencedObjects)
 			{
 				Class->ClassAddReferencedObjects(Object, *this);
@@ -66,16 +69,7 @@ public:
 protected:
 	void HandleObjectReference(UObject*& Object, const UObject* ReferencingObject, const FProperty* ReferencingProperty) override
 	{
-		if (!Object)
-		{
-			return;
-		}
-		if (Object->HasAnyInternalFlags(EInternalObjectFlags::Garbage))
-		{
-			Object = nullptr;
-			return;
-		}
-		Mark(Object);
+		MarkOrClear(Object);
 	}
 	void HandleStableReference(UObject*& Object) override
 	{
@@ -86,12 +80,78 @@ protected:
 	}
 
 private:
+	/**
+	 * Objects lie all over memory, and reading the index of each at once would wait for it. Instead a reference waits in a ring while
+	 * its object, then its item, is fetched. What holds it must not move until then: no AddReferencedObjects may resize a reflected
+	 * member.
+	 */
+	void Enqueue(UObject*& Reference)
+	{
+		if (!Reference)
+		{
+			return;
+		}
+		__builtin_prefetch(Reference);
+		const uint32 Slot = NumQueued++ % QueueLength;
+		UObject** const Oldest = Queue[Slot];
+		Queue[Slot] = &Reference;
+		if (Oldest)
+		{
+			MarkOrClear(*Oldest);
+		}
+		UObject** const Middle = Queue[(Slot + QueueLength / 2) % QueueLength];
+		// An object's own function may have cleared it meanwhile.
+		if (Middle && *Middle)
+		{
+			__builtin_prefetch(&GUObjectArray.IndexToObjectUnsafe(static_cast<int32>((*Middle)->GetUniqueID())));
+		}
+	}
+	/** Whether that found more objects to visit. */
+	bool FlushQueue()
+	{
+		for (UObject**& Reference : Queue)
+		{
+			if (Reference)
+			{
+				MarkOrClear(*Reference);
+				Reference = nullptr;
+			}
+		}
+		return !Pending.empty();
+	}
+	/** References to what was given up become null; an item's flags say all that the choice needs. */
+	void MarkOrClear(UObject*& Object)
+	{
+		if (!Object)
+		{
+			return;
+		}
+		FUObjectItem& Item = GUObjectArray.IndexToObjectUnsafe(static_cast<int32>(Object->GetUniqueID()));
+		if (Item.IsGarbage())
+		{
+			Object = nullptr;
+			return;
+		}
+		if (Item.IsUnreachable())
+		{
+			Item.ClearFlags(EInternalObjectFlags::Unreachable);
+			Pending.push_back(Object);
+		}
+	}
+
+	static constexpr uint32 QueueLength = 32;
+	UObject** Queue[QueueLength] = {};
+	uint32 NumQueued = 0;
 	std::vector<UObject*> Pending;
+	/** Objects that are made together are mostly of one class, and are found together. */
+	const UClass* LastClass = nullptr;
+	const FReferenceSchema* LastSchema = nullptr;
 };
 
 bool IsRoot(const FUObjectItem& Item, EObjectFlags KeepFlags)
 {
-	if (Item.HasAnyFlags(EInternalObjectFlags::RootSet | EInternalObjectFlags::Native | EInternalObjectFlags::Async | EInternalObjectFlags::AsyncLoading | EInternalObjectFlags::LoaderImport))
+	if (Item.HasAnyFlags(EInternalObjectFlags::RootSet | EInternalObjectFlags::Native | EInternalObjectFlags::Async |
+			EInternalObjectFlags::AsyncLoading | EInternalObjectFlags::LoaderImport))
 	{
 		return true;
 	}
@@ -143,6 +203,15 @@ std::vector<UObject*> MarkReachable(EObjectFlags KeepFlags)
 	return Unreachable;
 }
 
+/** An object that is being destroyed cannot be held: a strong pointer made of it meanwhile would outlive it. */
+void DropStrongReferences()
+{
+	FHolders& Holders = FHolders::Get();
+	const std::scoped_lock Lock(Holders.Mutex);
+	std::erase_if(Holders.StrongCounts, [](const auto& Pair)
+		{ return Pair.first->IsUnreachable(); });
+}
+
 void Purge(std::vector<UObject*>& Objects)
 {
 	// Types go last: instances need them to know what they are made of.
@@ -152,6 +221,7 @@ void Purge(std::vector<UObject*>& Objects)
 	{
 		Object->ConditionalBeginDestroy();
 	}
+	DropStrongReferences();
 	for (UObject* const Object : Objects)
 	{
 		while (!Object->IsReadyForFinishDestroy())
@@ -182,7 +252,8 @@ void CollectGarbage(EObjectFlags KeepFlags, bool bPerformFullPurge)
 	GIsGarbageCollecting = false;
 	FCoreUObjectDelegates::PostPurgeGarbageDelegate.Broadcast();
 	FCoreUObjectDelegates::GetPostGarbageCollect().Broadcast();
-	UE_LOG(LogGarbage, Verbose, TEXT("Collected %d objects, %d are left"), static_cast<int32>(Unreachable.size()), GUObjectArray.GetObjectArrayNumMinusAvailable());
+	UE_LOG(LogGarbage, Verbose, TEXT("Collected %d objects, %d are left"), static_cast<int32>(Unreachable.size()),
+		GUObjectArray.GetObjectArrayNumMinusAvailable());
 }
 
 bool TryCollectGarbage(EObjectFlags KeepFlags, bool bPerformFullPurge)

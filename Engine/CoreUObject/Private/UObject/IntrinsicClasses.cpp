@@ -43,23 +43,22 @@ struct TIntrinsicClass
 	static inline UClass* Singleton = nullptr;
 	static const FClassParams& GetParams(const char* NameUTF8)
 	{
-		static const FClassParams Params = {T::StaticPackageUTF8(), NameUTF8, std::is_same_v<T, UObject> ? nullptr : &TSuper::StaticClass, nullptr, nullptr, sizeof(T), alignof(T),
-			T::StaticClassFlags | CLASS_Intrinsic, &T::__DefaultConstructor, GetReferenceFunction<T>(), nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0};
+		static const FClassParams Params = {T::StaticPackageUTF8(), NameUTF8, std::is_same_v<T, UObject> ? nullptr : &TSuper::StaticClass,
+			nullptr, nullptr, sizeof(T), alignof(T), T::StaticClassFlags | CLASS_Intrinsic, &T::__DefaultConstructor,
+			GetReferenceFunction<T>(), nullptr, 0, nullptr, 0, nullptr, 0, nullptr, 0};
 		return Params;
 	}
 };
 
 #define IMPLEMENT_CORE_INTRINSIC_CLASS(TClass, TSuperClass) \
-	void TClass::__DefaultConstructor(const FObjectInitializer& X) \
-	{ \
-		::new (static_cast<void*>(X.GetObj())) TClass(X); \
-	} \
+	void TClass::__DefaultConstructor(const FObjectInitializer& X) { ::new (static_cast<void*>(X.GetObj())) TClass(X); } \
 	UClass* TClass::StaticClass() \
 	{ \
 		if (!TIntrinsicClass<TClass, TSuperClass>::Singleton) \
 		{ \
 			EnsureBootstrapped(); \
-			UECodeGen_Private::GetClass(TIntrinsicClass<TClass, TSuperClass>::Singleton, TIntrinsicClass<TClass, TSuperClass>::GetParams(&(#TClass)[1])); \
+			UECodeGen_Private::GetClass( \
+				TIntrinsicClass<TClass, TSuperClass>::Singleton, TIntrinsicClass<TClass, TSuperClass>::GetParams(&(#TClass)[1])); \
 			TIntrinsicClass<TClass, TSuperClass>::Singleton->ClassCastFlags |= TClass::StaticClassCastFlags; \
 		} \
 		return TIntrinsicClass<TClass, TSuperClass>::Singleton; \
@@ -68,7 +67,8 @@ struct TIntrinsicClass
 	UClass* Z_Construct_UClass_##TClass() \
 	{ \
 		TClass::StaticClass(); \
-		return ConstructClass(TIntrinsicClass<TClass, TSuperClass>::Singleton, TIntrinsicClass<TClass, TSuperClass>::GetParams(&(#TClass)[1])); \
+		return ConstructClass( \
+			TIntrinsicClass<TClass, TSuperClass>::Singleton, TIntrinsicClass<TClass, TSuperClass>::GetParams(&(#TClass)[1])); \
 	}
 
 namespace
@@ -97,8 +97,9 @@ void EnsureBootstrapped()
 		return;
 	}
 	GBootstrapped = true;
-	UClass** const First[] = {&TIntrinsicClass<UObject, UObject>::Singleton, &TIntrinsicClass<UField, UObject>::Singleton, &TIntrinsicClass<UStruct, UField>::Singleton,
-		&TIntrinsicClass<UClass, UStruct>::Singleton, &TIntrinsicClass<UPackage, UObject>::Singleton};
+	UClass** const First[] = {&TIntrinsicClass<UObject, UObject>::Singleton, &TIntrinsicClass<UField, UObject>::Singleton,
+		&TIntrinsicClass<UStruct, UField>::Singleton, &TIntrinsicClass<UClass, UStruct>::Singleton,
+		&TIntrinsicClass<UPackage, UObject>::Singleton};
 	for (UClass** const Class : First)
 	{
 		*Class = AllocateUnregisteredClass();
@@ -158,9 +159,11 @@ namespace
 void AddExecuteUbergraph()
 {
 	static UFunction* Singleton = nullptr;
-	static constexpr FPropertyParams Parameters[] = {{"EntryPoint", EPropertyGenKind::Int, CPF_Parm | CPF_ZeroConstructor | CPF_IsPlainOldData | CPF_NoDestructor, 1, 0, sizeof(int32),
-		nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, 0}};
-	static const FFunctionParams Params = {&UObject::StaticClass, nullptr, "ExecuteUbergraph", FUNC_Event | FUNC_Public | FUNC_BlueprintEvent, Parameters, 1, nullptr, 0};
+	static constexpr FPropertyParams Parameters[] = {
+		{"EntryPoint", EPropertyGenKind::Int, CPF_Parm | CPF_ZeroConstructor | CPF_IsPlainOldData | CPF_NoDestructor, 1, 0, sizeof(int32),
+			nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, nullptr, 0}};
+	static const FFunctionParams Params = {
+		&UObject::StaticClass, nullptr, "ExecuteUbergraph", FUNC_Event | FUNC_Public | FUNC_BlueprintEvent, Parameters, 1, nullptr, 0};
 	UFunction* const Function = ConstructFunction(Singleton, Params);
 	UObject::StaticClass()->Children = Function;
 	UObject::StaticClass()->AddFunctionToFunctionMap(Function, Function->GetFName());
@@ -175,9 +178,11 @@ void ConstructIntrinsicClasses()
 		return;
 	}
 	bDone = true;
-	UClass* const Classes[] = {Z_Construct_UClass_UObject(), Z_Construct_UClass_UField(), Z_Construct_UClass_UStruct(), Z_Construct_UClass_UScriptStruct(), Z_Construct_UClass_UFunction(),
-		Z_Construct_UClass_UDelegateFunction(), Z_Construct_UClass_USparseDelegateFunction(), Z_Construct_UClass_UEnum(), Z_Construct_UClass_UClass(), Z_Construct_UClass_UPackage(),
-		Z_Construct_UClass_UInterface(), Z_Construct_UClass_UMetaData(), Z_Construct_UClass_UObjectRedirector()};
+	UClass* const Classes[] = {Z_Construct_UClass_UObject(), Z_Construct_UClass_UField(), Z_Construct_UClass_UStruct(),
+		Z_Construct_UClass_UScriptStruct(), Z_Construct_UClass_UFunction(), Z_Construct_UClass_UDelegateFunction(),
+		Z_Construct_UClass_USparseDelegateFunction(), Z_Construct_UClass_UEnum(), Z_Construct_UClass_UClass(),
+		Z_Construct_UClass_UPackage(), Z_Construct_UClass_UInterface(), Z_Construct_UClass_UMetaData(),
+		Z_Construct_UClass_UObjectRedirector()};
 	AddExecuteUbergraph();
 	for (const UClass* const Class : Classes)
 	{

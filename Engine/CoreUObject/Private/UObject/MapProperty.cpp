@@ -133,16 +133,19 @@ void FMapProperty::LinkInternal(FArchive& Ar)
 	check(KeyProp && ValueProp);
 	KeyProp->LinkWithoutChangingOffset(Ar);
 	ValueProp->LinkWithoutChangingOffset(Ar);
-	MapLayout = FScriptMap::GetScriptLayout(KeyProp->GetSize(), KeyProp->GetMinAlignment(), ValueProp->GetSize(), ValueProp->GetMinAlignment());
+	MapLayout =
+		FScriptMap::GetScriptLayout(KeyProp->GetSize(), KeyProp->GetMinAlignment(), ValueProp->GetSize(), ValueProp->GetMinAlignment());
 	ValueProp->SetOffset_Internal(MapLayout.ValueOffset);
 	ElementSize = sizeof(FScriptMap);
 	PropagateFlagsToElement(this, KeyProp, CPF_PropagateToMapKey);
 	PropagateFlagsToElement(this, ValueProp, CPF_PropagateToMapValue);
 }
 
-bool FMapProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FMapProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
-	return KeyProp->ContainsObjectReference(EncounteredStructProps, InReferenceType) || ValueProp->ContainsObjectReference(EncounteredStructProps, InReferenceType);
+	return KeyProp->ContainsObjectReference(EncounteredStructProps, InReferenceType) ||
+		ValueProp->ContainsObjectReference(EncounteredStructProps, InReferenceType);
 }
 
 bool FMapProperty::Identical(const void* A, const void* B, uint32 PortFlags) const
@@ -214,7 +217,8 @@ void FMapProperty::SerializeItem(FArchive& Ar, void* Value, const void* Defaults
 	}
 }
 
-EConvertFromTypeResult FMapProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FMapProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	const FPairReader Reader(this, Tag.GetType().GetParameter(0), Tag.GetType().GetParameter(1));
 	if (!Tag.IsType(GetID()) || !Reader.Key.CanRead() || !Reader.Value.CanRead())
@@ -238,7 +242,8 @@ void FMapProperty::CollectReferences(void* Value, FReferenceCollector& Collector
 	}
 }
 
-void FMapProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FMapProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FScriptMapHelper Helper(this, PropertyValue);
 	const FPropertyTemporary KeyDefault(KeyProp);
@@ -251,13 +256,15 @@ void FMapProperty::ExportText_Internal(FString& ValueStr, const void* PropertyVa
 		ValueStr += It.GetLogicalIndex() > 0 ? TEXT(",(") : TEXT("(");
 		KeyProp->ExportTextItem_Direct(ValueStr, Helper.GetKeyPtr(*It), KeyStructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 		ValueStr += TEXT(", ");
-		ValueProp->ExportTextItem_Direct(ValueStr, Helper.GetValuePtr(*It), ValueStructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+		ValueProp->ExportTextItem_Direct(
+			ValueStr, Helper.GetValuePtr(*It), ValueStructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 		ValueStr += TEXT(")");
 	}
 	ValueStr += TEXT(")");
 }
 
-const TCHAR* FMapProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FMapProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FScriptMapHelper Helper(this, PropertyValue);
 	const TCHAR* Text = FPropertyHelpers::SkipWhitespace(Buffer);
@@ -280,13 +287,15 @@ const TCHAR* FMapProperty::ImportText_Internal(const TCHAR* Buffer, void* Proper
 			return FPropertyHelpers::RefuseText(ErrorText, this, TEXT("has something that is not a pair"), Text);
 		}
 		Key.Clear();
-		Text = KeyProp->ImportText_Direct(FPropertyHelpers::SkipWhitespace(Text + 1), Key.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
+		Text = KeyProp->ImportText_Direct(
+			FPropertyHelpers::SkipWhitespace(Text + 1), Key.Get(), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
 		Text = Text ? FPropertyHelpers::SkipWhitespace(Text) : nullptr;
 		if (!Text || *Text != TEXT(','))
 		{
 			return Text ? FPropertyHelpers::RefuseText(ErrorText, this, TEXT("has a key without a value"), Text) : nullptr;
 		}
-		Text = ValueProp->ImportText_Direct(FPropertyHelpers::SkipWhitespace(Text + 1), Helper.FindOrAdd(Key.Get()), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
+		Text = ValueProp->ImportText_Direct(
+			FPropertyHelpers::SkipWhitespace(Text + 1), Helper.FindOrAdd(Key.Get()), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
 		Text = Text ? FPropertyHelpers::SkipWhitespace(Text) : nullptr;
 		if (!Text || *Text != TEXT(')'))
 		{

@@ -8,6 +8,8 @@
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
+#include <algorithm>
+#include <cstdio>
 #include <limits>
 
 IMPLEMENT_ABSTRACT_FIELD(FNumericProperty)
@@ -105,11 +107,28 @@ const TCHAR* SkipInteger(const TCHAR* Buffer)
 
 const TCHAR* SkipFloat(const TCHAR* Buffer)
 {
-	while (FChar::IsDigit(*Buffer) || *Buffer == TEXT('-') || *Buffer == TEXT('+') || *Buffer == TEXT('.') || *Buffer == TEXT('e') || *Buffer == TEXT('E'))
+	while (FChar::IsDigit(*Buffer) || *Buffer == TEXT('-') || *Buffer == TEXT('+') || *Buffer == TEXT('.') || *Buffer == TEXT('e') ||
+		*Buffer == TEXT('E'))
 	{
 		++Buffer;
 	}
 	return *Buffer == TEXT('f') || *Buffer == TEXT('F') ? Buffer + 1 : Buffer;
+}
+
+/** "inf", "-inf" or "nan", as such numbers are written. Null when the text is none of them. */
+const TCHAR* ReadSpecialFloat(const FNumericProperty& Property, void* Value, const TCHAR* Text)
+{
+	constexpr int32 WordLength = 3;
+	const bool bHasSign = *Text == TEXT('-') || *Text == TEXT('+');
+	const TCHAR* const Word = bHasSign ? Text + 1 : Text;
+	const bool bIsNan = FCString::Strnicmp(Word, TEXT("nan"), WordLength) == 0;
+	if (!bIsNan && FCString::Strnicmp(Word, TEXT("inf"), WordLength) != 0)
+	{
+		return nullptr;
+	}
+	const double Number = bIsNan ? std::numeric_limits<double>::quiet_NaN() : std::numeric_limits<double>::infinity();
+	Property.SetFloatingPointPropertyValue(Value, *Text == TEXT('-') ? -Number : Number);
+	return Word + WordLength;
 }
 
 template <typename T>
@@ -176,13 +195,15 @@ bool ReadEnumeratorAsNumber(const FPropertyTag& Tag, FArchive& Ar, const UEnum* 
 	OutValue = Index == INDEX_NONE ? Enum->GetMaxEnumValue() : Enum->GetValueByIndex(Index);
 	if (Index == INDEX_NONE)
 	{
-		UE_LOG(LogClass, Warning, TEXT("%s: enum %s has no %s, used by property %s"), *Ar.GetArchiveName(), *Enum->GetName(), *Name.ToString(), *Tag.Name.ToString());
+		UE_LOG(LogClass, Warning, TEXT("%s: enum %s has no %s, used by property %s"), *Ar.GetArchiveName(), *Enum->GetName(),
+			*Name.ToString(), *Tag.Name.ToString());
 	}
 	return true;
 }
 }
 
-EConvertFromTypeResult FNumericProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FNumericProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (Tag.Type == GetID())
 	{
@@ -215,7 +236,8 @@ EConvertFromTypeResult FNumericProperty::ConvertFromType(const FPropertyTag& Tag
 	return EConvertFromTypeResult::Converted;
 }
 
-const TCHAR* FNumericProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FNumericProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	const TCHAR* const Start = FPropertyHelpers::SkipWhitespace(Buffer);
 	if (IsInteger() && FChar::IsAlpha(*Start))
@@ -231,16 +253,15 @@ const TCHAR* FNumericProperty::ImportText_Internal(const TCHAR* Buffer, void* Pr
 		SetIntPropertyValue(PropertyValue, Value);
 		return End;
 	}
-	const bool bSpecialFloat = IsFloatingPoint() && (FCString::Strnicmp(Start, TEXT("nan"), 3) == 0 || FCString::Strnicmp(Start, TEXT("inf"), 3) == 0);
-	if (bSpecialFloat)
+	if (const TCHAR* const SpecialEnd = IsFloatingPoint() ? ReadSpecialFloat(*this, PropertyValue, Start) : nullptr)
 	{
-		const double Infinity = std::numeric_limits<double>::infinity();
-		SetFloatingPointPropertyValue(PropertyValue, FChar::ToLower(*Start) == TEXT('n') ? std::numeric_limits<double>::quiet_NaN() : Infinity);
-		return Start + 3;
+		return SpecialEnd;
 	}
-	const TCHAR* const End = !IsNumberStart(Start) ? Start : IsInteger() ? SkipInteger(Start)
-																		 : SkipFloat(Start);
-	if (End == Start)
+	const bool bStartsNumber = IsNumberStart(Start);
+	const TCHAR* const End = bStartsNumber && IsInteger() ? SkipInteger(Start) : bStartsNumber ? SkipFloat(Start)
+																							   : Start;
+	if (std::none_of(Start, End, [](TCHAR Char)
+			{ return FChar::IsDigit(Char); }))
 	{
 		return FPropertyHelpers::RefuseText(ErrorText, this, TEXT("is not a number"), Start);
 	}
@@ -284,7 +305,9 @@ void TProperty_Numeric<T>::SetNumericPropertyValueFromString(void* Data, const T
 	{
 		const bool bHex = Value[0] == TEXT('0') && (Value[1] == TEXT('x') || Value[1] == TEXT('X'));
 		const int32 Base = bHex ? 16 : 10;
-		this->SetPropertyValue(Data, std::is_signed_v<T> && !bHex ? static_cast<T>(FCString::Strtoi64(Value, nullptr, Base)) : static_cast<T>(FCString::Strtoui64(Value, nullptr, Base)));
+		this->SetPropertyValue(Data,
+			std::is_signed_v<T> && !bHex ? static_cast<T>(FCString::Strtoi64(Value, nullptr, Base))
+										 : static_cast<T>(FCString::Strtoui64(Value, nullptr, Base)));
 	}
 }
 
@@ -307,13 +330,17 @@ FString TProperty_Numeric<T>::GetNumericPropertyValueToString(const void* Data) 
 }
 
 template <typename T>
-void TProperty_Numeric<T>::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void TProperty_Numeric<T>::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	if constexpr (std::is_floating_point_v<T>)
 	{
 		if (!(PortFlags & PPF_PropertyWindow))
 		{
-			ValueStr += FString::Printf(TEXT("%f"), static_cast<double>(this->GetPropertyValue(PropertyValue)));
+			// The greatest double has 309 digits before the point.
+			char Digits[400];
+			const int Length = std::snprintf(Digits, sizeof(Digits), "%f", static_cast<double>(this->GetPropertyValue(PropertyValue)));
+			ValueStr += FString(FAnsiStringView(Digits, Length));
 			return;
 		}
 	}
@@ -375,7 +402,8 @@ void FByteProperty::SerializeItem(FArchive& Ar, void* Value, const void* Default
 	}
 }
 
-EConvertFromTypeResult FByteProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FByteProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	const bool bTagHasName = Tag.IsType(TEXT("EnumProperty")) || (Tag.IsType(TEXT("ByteProperty")) && !Tag.EnumName.IsNone());
 	if (Enum && bTagHasName)
@@ -404,7 +432,8 @@ EConvertFromTypeResult FByteProperty::ConvertFromType(const FPropertyTag& Tag, F
 	return Super::ConvertFromType(Tag, Ar, Data, DefaultsStruct, Defaults);
 }
 
-void FByteProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FByteProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	if (!Enum || (PortFlags & PPF_ConsoleVariable))
 	{
@@ -420,7 +449,8 @@ void FByteProperty::ExportText_Internal(FString& ValueStr, const void* PropertyV
 	ValueStr += PortFlags & PPF_PropertyWindow ? Enum->GetDisplayNameTextByIndex(Index).ToString() : Enum->GetNameStringByIndex(Index);
 }
 
-const TCHAR* FByteProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FByteProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	if (!Enum)
 	{

@@ -17,7 +17,8 @@ UObject::UObject() = default;
 
 UObject::UObject(const FObjectInitializer& ObjectInitializer)
 {
-	checkf(ObjectInitializer.GetObj() == this || !ObjectInitializer.GetObj(), TEXT("An initializer belongs to the object that it was made for"));
+	checkf(ObjectInitializer.GetObj() == this || !ObjectInitializer.GetObj(),
+		TEXT("An initializer belongs to the object that it was made for"));
 }
 
 bool IsValid(const UObject* Test)
@@ -125,7 +126,9 @@ bool UObject::Modify(bool bAlwaysMarkDirty)
 	}
 	bool bSaved = false;
 	const UPackage* const Package = GetOutermost();
-	if (Package && (!Package->HasAnyPackageFlags(PKG_PlayInEditor | PKG_ContainsScript | PKG_CompiledIn) || GetClass()->HasAnyClassFlags(CLASS_DefaultConfig | CLASS_Config)))
+	if (Package &&
+		(!Package->HasAnyPackageFlags(PKG_PlayInEditor | PKG_ContainsScript | PKG_CompiledIn) ||
+			GetClass()->HasAnyClassFlags(CLASS_DefaultConfig | CLASS_Config)))
 	{
 		bSaved = SaveToTransaction(bAlwaysMarkDirty);
 		if (!bSaved && bAlwaysMarkDirty)
@@ -139,7 +142,8 @@ bool UObject::Modify(bool bAlwaysMarkDirty)
 
 bool UObject::IsAsset() const
 {
-	return !HasAnyFlags(static_cast<EObjectFlags>(RF_Transient | RF_ClassDefaultObject)) && HasAnyFlags(RF_Public) && IsValid(this) && GetOuter() && GetOuter()->GetClass() == UPackage::StaticClass() && GetOuter() != GetTransientPackageAsObject();
+	return !HasAnyFlags(static_cast<EObjectFlags>(RF_Transient | RF_ClassDefaultObject)) && HasAnyFlags(RF_Public) && IsValid(this) &&
+		GetOuter() && GetOuter()->GetClass() == UPackage::StaticClass() && GetOuter() != GetTransientPackageAsObject();
 }
 
 UWorld* UObject::GetWorld() const
@@ -168,7 +172,8 @@ void UObject::GetAssetRegistryTags(TArray<FAssetRegistryTag>& OutTags) const
 		FString Value;
 		Property->ExportTextItem_InContainer(Value, this, nullptr, nullptr, PPF_None);
 		const bool bNumber = Property->IsA<FNumericProperty>() || Property->IsA<FBoolProperty>();
-		OutTags.Add(FAssetRegistryTag(Property->GetFName(), Value, bNumber ? FAssetRegistryTag::TT_Numerical : FAssetRegistryTag::TT_Alphabetical));
+		OutTags.Add(FAssetRegistryTag(
+			Property->GetFName(), Value, bNumber ? FAssetRegistryTag::TT_Numerical : FAssetRegistryTag::TT_Alphabetical));
 	}
 }
 
@@ -238,7 +243,8 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlagsType F
 	FName Name = NewName ? FName(NewName) : OldName;
 	if (!NewName && (IsTaken(Name) || (Flags & REN_ForceGlobalUnique)))
 	{
-		Name = MakeUniqueObjectName(Outer, GetClass(), NAME_None, (Flags & REN_ForceGlobalUnique) ? EUniqueObjectNameOptions::GloballyUnique : EUniqueObjectNameOptions::None);
+		Name = MakeUniqueObjectName(Outer, GetClass(), NAME_None,
+			(Flags & REN_ForceGlobalUnique) ? EUniqueObjectNameOptions::GloballyUnique : EUniqueObjectNameOptions::None);
 	}
 	if (NewOuter && (NewOuter == this || NewOuter->IsIn(this)))
 	{
@@ -249,7 +255,8 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlagsType F
 	{
 		if (!(Flags & REN_Test))
 		{
-			UE_LOG(LogObj, Error, TEXT("Renaming %s to %s in %s: an object of that name exists"), *GetFullName(), *Name.ToString(), *GetPathNameSafe(Outer));
+			UE_LOG(LogObj, Error, TEXT("Renaming %s to %s in %s: an object of that name exists"), *GetFullName(), *Name.ToString(),
+				*GetPathNameSafe(Outer));
 		}
 		return false;
 	}
@@ -280,9 +287,11 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlagsType F
 	return true;
 }
 
-UObject* UObject::CreateDefaultSubobject(FName SubobjectFName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient)
+UObject* UObject::CreateDefaultSubobject(
+	FName SubobjectFName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient)
 {
-	return FObjectInitializer::Get().CreateDefaultSubobject(this, SubobjectFName, ReturnType, ClassToCreateByDefault, bIsRequired, bIsTransient);
+	return FObjectInitializer::Get().CreateDefaultSubobject(
+		this, SubobjectFName, ReturnType, ClassToCreateByDefault, bIsRequired, bIsTransient);
 }
 
 UObject* UObject::GetDefaultSubobjectByName(FName ToFind)
@@ -321,7 +330,9 @@ UObject* UObject::GetArchetypeFromRequiredInfo(const UClass* Class, const UObjec
 				return Found;
 			}
 		}
-		const UClass* const OuterClass = (ObjectFlags & RF_InheritableComponentTemplate) && Outer->IsA<UClass>() ? static_cast<const UClass*>(Outer)->GetSuperClass() : Outer->GetClass();
+		const UClass* const OuterClass = (ObjectFlags & RF_InheritableComponentTemplate) && Outer->IsA<UClass>()
+			? static_cast<const UClass*>(Outer)->GetSuperClass()
+			: Outer->GetClass();
 		if (UObject* const Found = OuterClass ? OuterClass->FindArchetype(Class, Name) : nullptr)
 		{
 			return Found;
@@ -385,6 +396,17 @@ UFunction* UObject::FindFunctionChecked(FName InName) const
 
 void UObject::ProcessEvent(UFunction* Function, void* Parms)
 {
+	// What the function would have written is a default value then, never what the caller's memory held.
+	for (const FField* Field = Function && Parms ? Function->ChildProperties : nullptr; Field; Field = Field->Next)
+	{
+		const FProperty* const Parameter = CastField<FProperty>(Field);
+		const bool bIsInput = !Parameter || !Parameter->HasAnyPropertyFlags(CPF_OutParm) || Parameter->HasAnyPropertyFlags(CPF_ConstParm) ||
+			(Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) && !Parameter->HasAnyPropertyFlags(CPF_ReturnParm));
+		for (int32 Index = 0; !bIsInput && Index < Parameter->ArrayDim; ++Index)
+		{
+			Parameter->ClearValue(Parameter->ContainerPtrToValuePtr<void>(Parms, Index));
+		}
+	}
 	UE_LOG(LogObj, Verbose, TEXT("%s: script is not run here, the call of %s does nothing"), *GetFullName(), *GetNameSafe(Function));
 }
 
@@ -392,7 +414,8 @@ bool UObject::IsInBlueprint() const
 {
 	for (const UObject* Object = this; Object; Object = Object->GetOuter())
 	{
-		if (Object->GetClass()->HasAnyClassFlags(CLASS_CompiledFromBlueprint) || (Object->IsA<UClass>() && static_cast<const UClass*>(Object)->HasAnyClassFlags(CLASS_CompiledFromBlueprint)))
+		if (Object->GetClass()->HasAnyClassFlags(CLASS_CompiledFromBlueprint) ||
+			(Object->IsA<UClass>() && static_cast<const UClass*>(Object)->HasAnyClassFlags(CLASS_CompiledFromBlueprint)))
 		{
 			return true;
 		}

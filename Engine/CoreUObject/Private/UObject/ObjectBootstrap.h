@@ -16,6 +16,8 @@ struct FObjectBootstrap
 		EInternalObjectFlags InternalFlags = EInternalObjectFlags::None;
 		/** Off for the first classes, which have no class of their own yet. */
 		bool bRegister = true;
+		/** Of an object that is in the array and the tables already. */
+		int32 KnownIndex = INDEX_NONE;
 	};
 	/** Taken by the next UObjectBase constructor, which must be that of Memory. */
 	static FIdentity Pending;
@@ -26,6 +28,11 @@ struct FObjectBootstrap
 		Object->NamePrivate = Name;
 	}
 	static void SetOuterUnregistered(UObjectBase* Object, UObject* Outer) { Object->OuterPrivate = Outer; }
+	/** Bytes that an object of a stand-in class takes, so that it can become more than it is known to be. */
+	static constexpr int32 StandInCapacity = 4096;
+	static bool FitsStandIn(const UClass* Class);
+	/** Runs the constructor of its class, which has got another super, over a plain object. Its identity and its place stay. */
+	static void ConstructAnew(UObject* Object, UObject* Template);
 	/** Into the object array and the hash tables. */
 	static void Register(UObjectBase* Object, EInternalObjectFlags InternalFlags);
 };

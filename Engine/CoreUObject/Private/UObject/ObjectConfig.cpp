@@ -119,7 +119,8 @@ bool UObject::TryUpdateDefaultConfigFile(const FString& SpecificFileLocation)
 	{
 		return false;
 	}
-	const FString File = SpecificFileLocation.IsEmpty() ? FPaths::ProjectConfigDir() / (TEXT("Default") + Name + TEXT(".ini")) : SpecificFileLocation;
+	const FString File =
+		SpecificFileLocation.IsEmpty() ? FPaths::ProjectConfigDir() / (TEXT("Default") + Name + TEXT(".ini")) : SpecificFileLocation;
 	for (const FProperty* Property = GetClass()->PropertyLink; Property; Property = Property->PropertyLinkNext)
 	{
 		if (Property->HasAnyPropertyFlags(CPF_Config))

@@ -19,13 +19,14 @@ void DestroyInPlace(UObject* Object)
 
 void ReportNameTaken(UObject* Existing, const UClass* Class)
 {
-	UE_LOG(LogUObjectGlobals, Error, TEXT("%s is in the way of a new object of class %s and is moved to the transient package."), *Existing->GetFullName(), *Class->GetName());
+	UE_LOG(LogUObjectGlobals, Error, TEXT("%s is in the way of a new object of class %s and is moved to the transient package."),
+		*Existing->GetFullName(), *Class->GetName());
 	Existing->Rename(nullptr, GetTransientPackageAsObject(), REN_ForceGlobalUnique | REN_DoNotDirty | REN_NonTransactional);
 }
 }
 
-UObject* StaticAllocateObject(const UClass* Class, UObject* InOuter, FName Name, EObjectFlags SetFlags, EInternalObjectFlags InternalSetFlags, bool bCanReuseSubobjects,
-	bool* bOutReusedSubobject, UPackage* ExternalPackage)
+UObject* StaticAllocateObject(const UClass* Class, UObject* InOuter, FName Name, EObjectFlags SetFlags,
+	EInternalObjectFlags InternalSetFlags, bool bCanReuseSubobjects, bool* bOutReusedSubobject, UPackage* ExternalPackage)
 {
 	if (bOutReusedSubobject)
 	{
@@ -64,7 +65,7 @@ UObject* StaticAllocateObject(const UClass* Class, UObject* InOuter, FName Name,
 			Memory = Existing;
 		}
 	}
-	const SIZE_T Size = static_cast<SIZE_T>(Class->GetStructureSize());
+	const SIZE_T Size = static_cast<SIZE_T>(Class->bStandsInForUnknown ? FObjectBootstrap::StandInCapacity : Class->GetStructureSize());
 	if (!Memory)
 	{
 		Memory = FMemory::Malloc(Size, static_cast<uint32>(std::max(16, Class->GetMinAlignment())));
@@ -78,9 +79,31 @@ UObject* StaticAllocateObject(const UClass* Class, UObject* InOuter, FName Name,
 	Identity.Name = Name;
 	Identity.Outer = InOuter;
 	Identity.Flags = SetFlags;
-	Identity.InternalFlags = InternalSetFlags | ((SetFlags & RF_MarkAsRootSet) ? EInternalObjectFlags::RootSet : EInternalObjectFlags::None) | ((SetFlags & RF_MarkAsNative) ? EInternalObjectFlags::Native : EInternalObjectFlags::None);
+	Identity.InternalFlags = InternalSetFlags |
+		((SetFlags & RF_MarkAsRootSet) ? EInternalObjectFlags::RootSet : EInternalObjectFlags::None) |
+		((SetFlags & RF_MarkAsNative) ? EInternalObjectFlags::Native : EInternalObjectFlags::None);
 	Identity.bRegister = true;
 	return static_cast<UObject*>(Memory);
+}
+
+bool FObjectBootstrap::FitsStandIn(const UClass* Class)
+{
+	constexpr int32 ObjectAlignment = 16;
+	return Class->GetStructureSize() <= StandInCapacity && Class->GetMinAlignment() <= ObjectAlignment;
+}
+
+void FObjectBootstrap::ConstructAnew(UObject* Object, UObject* Template)
+{
+	check(!Pending.Memory);
+	Pending.Memory = Object;
+	Pending.Class = Object->GetClass();
+	Pending.Name = Object->GetFName();
+	Pending.Outer = Object->GetOuter();
+	Pending.Flags = Object->GetFlags();
+	Pending.KnownIndex = static_cast<int32>(Object->GetUniqueID());
+	FMemory::Memzero(static_cast<void*>(Object), static_cast<SIZE_T>(Pending.Class->GetStructureSize()));
+	Pending.Class->ClassConstructor(FObjectInitializer(static_cast<UObject*>(Pending.Memory), Template,
+		EObjectInitializerOptions::InitializeProperties));
 }
 
 UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& Params)
@@ -119,7 +142,8 @@ UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& 
 
 	bool bReused = false;
 	const bool bCanReuse = IsNativeClass(Class) && !Params.Template && (Params.SetFlags & RF_DefaultSubObject);
-	UObject* const Object = StaticAllocateObject(Class, Params.Outer, Params.Name, Params.SetFlags, Params.InternalSetFlags, bCanReuse, &bReused, Params.ExternalPackage);
+	UObject* const Object = StaticAllocateObject(
+		Class, Params.Outer, Params.Name, Params.SetFlags, Params.InternalSetFlags, bCanReuse, &bReused, Params.ExternalPackage);
 	if (bReused)
 	{
 		return Object;
@@ -160,7 +184,8 @@ FName MakeObjectNameFromDisplayLabel(const FString& DisplayLabel, const FName Cu
 	FString Name;
 	for (const TCHAR Character : DisplayLabel)
 	{
-		const bool bKeep = (Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z') || (Character >= '0' && Character <= '9') || Character == '_' || Character == '-';
+		const bool bKeep = (Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z') ||
+			(Character >= '0' && Character <= '9') || Character == '_' || Character == '-';
 		if (bKeep)
 		{
 			Name.AppendChar(Character);

@@ -16,7 +16,8 @@ struct FMatch
 	bool operator()(const UObject* Object) const
 	{
 		const bool bClassFits = !Class || (bExactClass ? Object->GetClass() == Class : Object->IsA(Class));
-		return bClassFits && !Object->HasAnyFlags(ExclusiveFlags) && !Object->HasAnyInternalFlags(ExclusiveInternalFlags | EInternalObjectFlags::Unreachable);
+		return bClassFits && !Object->HasAnyFlags(ExclusiveFlags) &&
+			!Object->HasAnyInternalFlags(ExclusiveInternalFlags | EInternalObjectFlags::Unreachable);
 	}
 };
 
@@ -53,7 +54,8 @@ FName FindName(FStringView Text)
 }
 }
 
-UObject* StaticFindObjectFastInternal(const UClass* Class, const UObject* InOuter, FName InName, bool bExactClass, EObjectFlags ExclusiveFlags, EInternalObjectFlags ExclusiveInternalFlags)
+UObject* StaticFindObjectFastInternal(const UClass* Class, const UObject* InOuter, FName InName, bool bExactClass,
+	EObjectFlags ExclusiveFlags, EInternalObjectFlags ExclusiveInternalFlags)
 {
 	if (InName == NAME_None)
 	{
@@ -67,7 +69,8 @@ UObject* StaticFindObjectFastInternal(const UClass* Class, const UObject* InOute
 	return FUObjectHashTables::Get().FindInOuter(InOuter, InName, Match);
 }
 
-UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass, EObjectFlags ExclusiveFlags, EInternalObjectFlags ExclusiveInternalFlags)
+UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass, EObjectFlags ExclusiveFlags,
+	EInternalObjectFlags ExclusiveInternalFlags)
 {
 	return StaticFindObjectFastInternal(Class, InOuter, InName, ExactClass, ExclusiveFlags, ExclusiveInternalFlags);
 }
@@ -127,7 +130,8 @@ UObject* StaticFindObjectSafe(UClass* Class, UObject* InOuter, const TCHAR* Name
 	return GIsSavingPackage || IsGarbageCollecting() ? nullptr : StaticFindObject(Class, InOuter, Name, ExactClass);
 }
 
-UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjectOptions Options, ELogVerbosity::Type AmbiguousMessageVerbosity, const TCHAR* CurrentOperation)
+UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjectOptions Options,
+	ELogVerbosity::Type AmbiguousMessageVerbosity, const TCHAR* CurrentOperation)
 {
 	const FStringView Text = StripExportText(FStringView(Name));
 	const int32 Separator = FindSeparator(Text);
@@ -144,7 +148,8 @@ UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjec
 		[&](UObject* Object)
 		{
 			const bool bBetterKind = !First || UE::CoreUObject::IsPlaceholder(First) || !UE::CoreUObject::IsPlaceholder(Object);
-			const bool bKeepNative = First && EnumHasAnyFlags(Options, EFindFirstObjectOptions::NativeFirst) && First->IsNative() && !Object->IsNative();
+			const bool bKeepNative =
+				First && EnumHasAnyFlags(Options, EFindFirstObjectOptions::NativeFirst) && First->IsNative() && !Object->IsNative();
 			if (Match(Object) && bBetterKind && !bKeepNative)
 			{
 				First = Object;
@@ -154,7 +159,8 @@ UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjec
 	return First;
 }
 
-bool ResolveName(UObject*& Outer, FStringView& ObjectsReferenceString, bool Create, bool Throw, uint32 LoadFlags, const FLinkerInstancingContext* InstancingContext)
+bool ResolveName(UObject*& Outer, FStringView& ObjectsReferenceString, bool Create, bool Throw, uint32 LoadFlags,
+	const FLinkerInstancingContext* InstancingContext)
 {
 	FString Reference(ObjectsReferenceString);
 	const bool bResolved = ResolveName(Outer, Reference, Create, Throw, LoadFlags, InstancingContext);
@@ -162,7 +168,8 @@ bool ResolveName(UObject*& Outer, FStringView& ObjectsReferenceString, bool Crea
 	return bResolved;
 }
 
-bool ResolveName(UObject*& Outer, FString& ObjectsReferenceString, bool Create, bool Throw, uint32 LoadFlags, const FLinkerInstancingContext* InstancingContext)
+bool ResolveName(UObject*& Outer, FString& ObjectsReferenceString, bool Create, bool Throw, uint32 LoadFlags,
+	const FLinkerInstancingContext* InstancingContext)
 {
 	FStringView Rest = StripExportText(FStringView(ObjectsReferenceString));
 	for (int32 Separator = FindSeparator(Rest); Separator != INDEX_NONE; Separator = FindSeparator(Rest))
@@ -185,7 +192,8 @@ bool ResolveName(UObject*& Outer, FString& ObjectsReferenceString, bool Create, 
 	return true;
 }
 
-UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags, UPackageMap* Sandbox, bool bAllowObjectReconciliation, const FLinkerInstancingContext* InstancingContext)
+UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags,
+	UPackageMap* Sandbox, bool bAllowObjectReconciliation, const FLinkerInstancingContext* InstancingContext)
 {
 	if (!Name || !*Name)
 	{
@@ -220,7 +228,8 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 	return Found;
 }
 
-UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags, UPackageMap* Sandbox)
+UClass* StaticLoadClass(
+	UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename, uint32 LoadFlags, UPackageMap* Sandbox)
 {
 	UClass* const Class = static_cast<UClass*>(StaticLoadObject(UClass::StaticClass(), InOuter, Name, Filename, LoadFlags, Sandbox));
 	if (Class && BaseClass && !Class->IsChildOf(BaseClass))

@@ -60,11 +60,24 @@ private:
 	bool bMayMakeParts = false;
 };
 
+/** A C++ constructor gives no values to members that were added to the class's supers at run time; the super's default object has them. */
+void InheritRunTimeMembers(UObject* Defaults, const UClass* Super, const UObject* SuperDefaults)
+{
+	for (const FProperty* Property = Super->PostConstructLink; Property && SuperDefaults; Property = Property->PostConstructLinkNext)
+	{
+		if (HasRunTimeStorage(Property))
+		{
+			Property->CopyCompleteValue_InContainer(Defaults, SuperDefaults);
+		}
+	}
+}
+
 void CopyValues(UObject* Instance, const UObject* Source)
 {
 	for (const FProperty* Property = Instance->GetClass()->PropertyLink; Property; Property = Property->PropertyLinkNext)
 	{
-		if (Property->IsInContainer(Source->GetClass()) && (!Property->HasAnyPropertyFlags(TransientFlags) || !Property->ContainsInstancedObjectProperty()))
+		if (Property->IsInContainer(Source->GetClass()) &&
+			(!Property->HasAnyPropertyFlags(TransientFlags) || !Property->ContainsInstancedObjectProperty()))
 		{
 			Property->CopyCompleteValue_InContainer(Instance, Source);
 		}
@@ -113,8 +126,9 @@ UObject* FObjectInstancingGraph::InstancePart(UObject* TemplatePart, UObject* In
 		FStaticConstructObjectParameters Params(TemplatePart->GetClass());
 		Params.Outer = Outer;
 		Params.Name = TemplatePart->GetFName();
-		Params.SetFlags = static_cast<EObjectFlags>(
-			TemplatePart->GetMaskedFlags(static_cast<EObjectFlags>(RF_Public | RF_Transactional | RF_DefaultSubObject | RF_TextExportTransient)) | Outer->GetMaskedFlags(RF_PropagateToSubObjects));
+		Params.SetFlags = static_cast<EObjectFlags>(TemplatePart->GetMaskedFlags(static_cast<EObjectFlags>(
+														RF_Public | RF_Transactional | RF_DefaultSubObject | RF_TextExportTransient)) |
+			Outer->GetMaskedFlags(RF_PropagateToSubObjects));
 		Params.Template = TemplatePart;
 		Params.InstanceGraph = this;
 		UObject* const Made = StaticConstructObject_Internal(Params);
@@ -149,7 +163,8 @@ FObjectInitializer::FObjectInitializer(UObject* InObj, const FStaticConstructObj
 	GTopInitializer = this;
 }
 
-FObjectInitializer::FObjectInitializer(UObject* InObj, UObject* InObjectArchetype, EObjectInitializerOptions InOptions, FObjectInstancingGraph* InInstanceGraph)
+FObjectInitializer::FObjectInitializer(
+	UObject* InObj, UObject* InObjectArchetype, EObjectInitializerOptions InOptions, FObjectInstancingGraph* InInstanceGraph)
 	: Obj(InObj)
 	, ObjectArchetype(InObjectArchetype)
 	, bCopyTransientsFromClassDefaults(EnumHasAnyFlags(InOptions, EObjectInitializerOptions::CopyTransientsFromClassDefaults))
@@ -197,19 +212,22 @@ const FObjectInitializer& FObjectInitializer::DoNotCreateDefaultSubobject(FName 
 	return SetDefaultSubobjectClass(SubobjectName, static_cast<const UClass*>(nullptr));
 }
 
-UObject* FObjectInitializer::CreateDefaultSubobject(UObject* Outer, FName SubobjectFName, const UClass* ReturnType, const UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient) const
+UObject* FObjectInitializer::CreateDefaultSubobject(UObject* Outer, FName SubobjectFName, const UClass* ReturnType,
+	const UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient) const
 {
 	checkf(Outer == Obj, TEXT("Default sub-objects are made in their outer's own constructor: %s"), *GetFullNameSafe(Outer));
 	const UClass* const* const Override = SubobjectOverrides.Find(SubobjectFName);
 	const UClass* Class = Override ? *Override : ClassToCreateByDefault;
 	if (!Class && bIsRequired)
 	{
-		UE_LOG(LogUObjectGlobals, Warning, TEXT("The sub-object %s of %s is required and cannot be left out."), *SubobjectFName.ToString(), *Obj->GetFullName());
+		UE_LOG(LogUObjectGlobals, Warning, TEXT("The sub-object %s of %s is required and cannot be left out."),
+			*SubobjectFName.ToString(), *Obj->GetFullName());
 		Class = ClassToCreateByDefault;
 	}
 	if (Class && !Class->IsChildOf(ReturnType))
 	{
-		UE_LOG(LogUObjectGlobals, Error, TEXT("Sub-object %s of %s cannot be a %s: it is no %s."), *SubobjectFName.ToString(), *Obj->GetFullName(), *Class->GetName(), *ReturnType->GetName());
+		UE_LOG(LogUObjectGlobals, Error, TEXT("Sub-object %s of %s cannot be a %s: it is no %s."), *SubobjectFName.ToString(),
+			*Obj->GetFullName(), *Class->GetName(), *ReturnType->GetName());
 		Class = ClassToCreateByDefault;
 	}
 	if (!Class || Class->HasAnyClassFlags(CLASS_Abstract))
@@ -220,7 +238,8 @@ UObject* FObjectInitializer::CreateDefaultSubobject(UObject* Outer, FName Subobj
 	FStaticConstructObjectParameters Params(Class);
 	Params.Outer = Outer;
 	Params.Name = SubobjectFName;
-	Params.SetFlags = static_cast<EObjectFlags>(RF_DefaultSubObject | Outer->GetMaskedFlags(RF_PropagateToSubObjects) | (bIsTransient ? RF_Transient : RF_NoFlags));
+	Params.SetFlags = static_cast<EObjectFlags>(
+		RF_DefaultSubObject | Outer->GetMaskedFlags(RF_PropagateToSubObjects) | (bIsTransient ? RF_Transient : RF_NoFlags));
 	if (Outer->HasAnyFlags(RF_ClassDefaultObject))
 	{
 		Params.SetFlags = static_cast<EObjectFlags>(Params.SetFlags | RF_ArchetypeObject | RF_Public);
@@ -254,6 +273,14 @@ void FObjectInitializer::PostConstructInit()
 			ObjectArchetype = Defaults;
 			InstanceSubobjects();
 		}
+	}
+	if (bIsCDO)
+	{
+		if (IsNativeClass(Class) && Base != Class)
+		{
+			InheritRunTimeMembers(Obj, Base, Defaults);
+		}
+		Class->ApplyOwnDeclaredDefaults(Obj);
 	}
 	if (bIsCDO && Class->HasAnyClassFlags(CLASS_Config))
 	{

@@ -28,8 +28,12 @@ FStringView PathOfExportText(FStringView Text)
 
 void AppendTextItem(FString& ValueStr, const FString& Path, int32 PortFlags)
 {
-	const FString Text = Path.IsEmpty() ? FString(TEXT("None")) : Path;
-	ValueStr += (PortFlags & PPF_Delimited) && !Path.IsEmpty() ? TEXT("\"") + Text + TEXT("\"") : Text;
+	if (Path.IsEmpty())
+	{
+		ValueStr += TEXT("None");
+		return;
+	}
+	ValueStr += PortFlags & PPF_Delimited ? FPropertyHelpers::QuoteAndEscape(Path) : Path;
 }
 
 /** Reads "Class'/Path'", a quoted path, or a bare one. */
@@ -143,7 +147,8 @@ FArchive& operator<<(FArchive& Ar, FTopLevelAssetPath& Path)
 	return Ar;
 }
 
-bool FTopLevelAssetPath::ExportTextItem(FString& ValueStr, const FTopLevelAssetPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FTopLevelAssetPath::ExportTextItem(
+	FString& ValueStr, const FTopLevelAssetPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	AppendTextItem(ValueStr, ToString(), PortFlags);
 	return true;
@@ -295,7 +300,8 @@ void FSoftObjectPath::SerializePath(FArchive& Ar)
 	}
 }
 
-bool FSoftObjectPath::ExportTextItem(FString& ValueStr, const FSoftObjectPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FSoftObjectPath::ExportTextItem(
+	FString& ValueStr, const FSoftObjectPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	AppendTextItem(ValueStr, ToString(), PortFlags);
 	return true;

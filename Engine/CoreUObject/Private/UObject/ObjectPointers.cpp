@@ -157,7 +157,8 @@ FString FPrimaryAssetId::ToString() const
 	return IsValid() ? PrimaryAssetType.ToString() + TEXT(":") + PrimaryAssetName.ToString() : FString();
 }
 
-bool FPrimaryAssetId::ExportTextItem(FString& ValueStr, const FPrimaryAssetId& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FPrimaryAssetId::ExportTextItem(
+	FString& ValueStr, const FPrimaryAssetId& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FString Text = ToString();
 	ValueStr += (PortFlags & PPF_Delimited) ? TEXT("\"") + Text + TEXT("\"") : Text;

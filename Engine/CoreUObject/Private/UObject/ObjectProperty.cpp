@@ -2,6 +2,7 @@
 
 #include "Serialization/Archive.h"
 #include "UObject/Class.h"
+#include "UObject/PlaceholderObject.h"
 #include "UObject/PropertyHelper.h"
 #include "UObject/PropertyTag.h"
 #include "UObject/UObjectGlobals.h"
@@ -36,7 +37,9 @@ FString MakeTemplateCPPType(FString* ExtendedTypeText, const TCHAR* Template, co
 /** The saved types whose values are soft paths. */
 bool IsSoftPathTag(const FPropertyTag& Tag)
 {
-	return Tag.IsType(TEXT("SoftObjectProperty")) || Tag.IsType(TEXT("SoftClassProperty")) || Tag.IsType(TEXT("AssetObjectProperty")) || Tag.IsType(TEXT("AssetClassProperty")) || (Tag.IsType(TEXT("StructProperty")) && (Tag.StructName == TEXT("SoftObjectPath") || Tag.StructName == TEXT("SoftClassPath")));
+	return Tag.IsType(TEXT("SoftObjectProperty")) || Tag.IsType(TEXT("SoftClassProperty")) || Tag.IsType(TEXT("AssetObjectProperty")) ||
+		Tag.IsType(TEXT("AssetClassProperty")) ||
+		(Tag.IsType(TEXT("StructProperty")) && (Tag.StructName == TEXT("SoftObjectPath") || Tag.StructName == TEXT("SoftClassPath")));
 }
 }
 
@@ -71,6 +74,27 @@ bool FObjectPropertyBase::SameType(const FProperty* Other) const
 bool FObjectPropertyBase::ContainsInstancedObjectProperty() const
 {
 	return HasAnyPropertyFlags(CPF_InstancedReference | CPF_ContainsInstancedReference);
+}
+
+void FObjectPropertyBase::FitLoadedValue(FArchive& Ar, void* Value) const
+{
+	UObject* const Object = Ar.IsLoading() && PropertyClass ? GetObjectPropertyValue(Value) : nullptr;
+	if (!Object || Object->IsA(PropertyClass) || PropertyClass->bStandsInForUnknown)
+	{
+		return;
+	}
+	// While a class is rebuilt, values of its old and new layouts stand for one another.
+	if ((Object->GetClass()->ClassFlags | PropertyClass->ClassFlags) & CLASS_NewerVersionExists)
+	{
+		return;
+	}
+	UObject* const Fitting = UE::CoreUObject::FitPlaceholder(Object, PropertyClass);
+	SetObjectPropertyValue(Value, Fitting);
+	if (!Fitting)
+	{
+		UE_LOG(LogClass, Warning, TEXT("%s: %s holds %s, which is no %s; the reference is cleared"), *Ar.GetArchiveName(), *GetPathName(),
+			*Object->GetFullName(), *PropertyClass->GetName());
+	}
 }
 
 FString FObjectPropertyBase::GetInnerCPPTypeName() const
@@ -125,9 +149,11 @@ void FObjectProperty::CollectReferences(void* Value, FReferenceCollector& Collec
 	}
 }
 
-EConvertFromTypeResult FObjectProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FObjectProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
-	if (Tag.IsType(GetID()) || Tag.IsType(TEXT("ObjectProperty")) || Tag.IsType(TEXT("ClassProperty")) || Tag.IsType(TEXT("ObjectPtrProperty")))
+	if (Tag.IsType(GetID()) || Tag.IsType(TEXT("ObjectProperty")) || Tag.IsType(TEXT("ClassProperty")) ||
+		Tag.IsType(TEXT("ObjectPtrProperty")))
 	{
 		return EConvertFromTypeResult::UseSerializeItem;
 	}
@@ -188,7 +214,8 @@ FString FClassProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFl
 
 FString FWeakObjectProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFlags) const
 {
-	return MakeTemplateCPPType(ExtendedTypeText, HasAnyPropertyFlags(CPF_AutoWeak) ? TEXT("TAutoWeakObjectPtr") : TEXT("TWeakObjectPtr"), GetInnerCPPTypeName());
+	return MakeTemplateCPPType(
+		ExtendedTypeText, HasAnyPropertyFlags(CPF_AutoWeak) ? TEXT("TAutoWeakObjectPtr") : TEXT("TWeakObjectPtr"), GetInnerCPPTypeName());
 }
 
 FString FLazyObjectProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFlags) const
@@ -216,7 +243,8 @@ bool FSoftObjectProperty::Identical(const void* A, const void* B, uint32 PortFla
 	return B ? GetPropertyValue(A) == GetPropertyValue(B) : GetPropertyValue(A).IsNull();
 }
 
-EConvertFromTypeResult FSoftObjectProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FSoftObjectProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (Tag.IsType(GetID()) || IsSoftPathTag(Tag))
 	{
@@ -251,7 +279,8 @@ EConvertFromTypeResult FSoftObjectProperty::ConvertFromType(const FPropertyTag& 
 	return EConvertFromTypeResult::CannotConvert;
 }
 
-void FSoftObjectProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FSoftObjectProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FSoftObjectPtr& Pointer = GetPropertyValue(PropertyValue);
 	// The object's path of today, if it was renamed while the pointer held it.
@@ -260,7 +289,8 @@ void FSoftObjectProperty::ExportText_Internal(FString& ValueStr, const void* Pro
 	Path.ExportTextItem(ValueStr, Path, Parent, PortFlags, ExportRootScope);
 }
 
-const TCHAR* FSoftObjectProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FSoftObjectProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FSoftObjectPath Path;
 	const TCHAR* const Start = Buffer;
@@ -334,7 +364,8 @@ bool FInterfaceProperty::SameType(const FProperty* Other) const
 
 FString FInterfaceProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFlags) const
 {
-	return MakeTemplateCPPType(ExtendedTypeText, TEXT("TScriptInterface"), TEXT("I") + (InterfaceClass ? InterfaceClass->GetName() : FString(TEXT("Interface"))));
+	return MakeTemplateCPPType(ExtendedTypeText, TEXT("TScriptInterface"),
+		TEXT("I") + (InterfaceClass ? InterfaceClass->GetName() : FString(TEXT("Interface"))));
 }
 
 bool FInterfaceProperty::Identical(const void* A, const void* B, uint32 PortFlags) const
@@ -342,7 +373,8 @@ bool FInterfaceProperty::Identical(const void* A, const void* B, uint32 PortFlag
 	return GetPropertyValue(A).GetObject() == (B ? GetPropertyValue(B).GetObject() : nullptr);
 }
 
-bool FInterfaceProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FInterfaceProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	return EnumHasAnyFlags(InReferenceType, EPropertyObjectReferenceType::Strong);
 }
@@ -373,16 +405,18 @@ void FInterfaceProperty::SerializeItem(FArchive& Ar, void* Value, const void* De
 	}
 }
 
-void FInterfaceProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FInterfaceProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += FObjectPropertyBase::GetExportPath(GetPropertyValue(PropertyValue).GetObject(), Parent, ExportRootScope, PortFlags);
 }
 
-const TCHAR* FInterfaceProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FInterfaceProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	TObjectPtr<UObject> Object;
 	const TCHAR* const Start = Buffer;
-	if (!FObjectPropertyBase::ParseObjectPropertyValue(this, OwnerObject, UObject::StaticClass(), PortFlags, Buffer, Object))
+	if (!FObjectPropertyBase::ParseObjectPropertyValue(this, OwnerObject, nullptr, PortFlags, Buffer, Object))
 	{
 		return FPropertyHelpers::RefuseText(ErrorText, this, TEXT("is not an object reference"), Start);
 	}

@@ -18,7 +18,8 @@ struct FReferenceText
 
 bool EndsPlainReference(TCHAR Char)
 {
-	return Char == TEXT('\0') || Char == TEXT(',') || Char == TEXT('(') || Char == TEXT(')') || Char == TEXT('=') || Char == TEXT('"') || FChar::IsLinebreak(Char);
+	return Char == TEXT('\0') || Char == TEXT(',') || Char == TEXT('(') || Char == TEXT(')') || Char == TEXT('=') || Char == TEXT('"') ||
+		FChar::IsLinebreak(Char);
 }
 
 FString Unquote(const FString& Text)
@@ -132,7 +133,8 @@ FString FObjectPropertyBase::GetExportPath(const UObject* Object, const UObject*
 	return FString::Printf(TEXT("\"%s'%s'\""), *Object->GetClass()->GetPathName(), *Path);
 }
 
-bool FObjectPropertyBase::ParseObjectPropertyValue(const FProperty* Property, UObject* OwnerObject, UClass* RequiredMetaClass, uint32 PortFlags, const TCHAR*& Buffer, TObjectPtr<UObject>& OutResolvedValue)
+bool FObjectPropertyBase::ParseObjectPropertyValue(const FProperty* Property, UObject* OwnerObject, UClass* RequiredMetaClass,
+	uint32 PortFlags, const TCHAR*& Buffer, TObjectPtr<UObject>& OutResolvedValue)
 {
 	FReferenceText Reference;
 	const TCHAR* const End = ReadReference(Buffer, Reference);
@@ -161,7 +163,8 @@ bool FObjectPropertyBase::ParseObjectPropertyValue(const FProperty* Property, UO
 	return true;
 }
 
-UObject* FObjectPropertyBase::FindImportedObject(const FProperty* Property, UObject* OwnerObject, UClass* ObjectClass, UClass* RequiredMetaClass, const TCHAR* Text, uint32 PortFlags)
+UObject* FObjectPropertyBase::FindImportedObject(
+	const FProperty* Property, UObject* OwnerObject, UClass* ObjectClass, UClass* RequiredMetaClass, const TCHAR* Text, uint32 PortFlags)
 {
 	const bool bIsFullPath = *Text == TEXT('/');
 	UObject* Result = nullptr;
@@ -187,22 +190,26 @@ UObject* FObjectPropertyBase::FindImportedObject(const FProperty* Property, UObj
 		}
 	}
 	const UClass* const ResultClass = Cast<UClass>(Result);
-	const bool bIsOutsideMetaClass = RequiredMetaClass && ResultClass && !ResultClass->IsChildOf(RequiredMetaClass) && !UE::CoreUObject::IsPlaceholder(ResultClass);
+	const bool bIsOutsideMetaClass =
+		RequiredMetaClass && ResultClass && !ResultClass->IsChildOf(RequiredMetaClass) && !UE::CoreUObject::IsPlaceholder(ResultClass);
 	return bIsOutsideMetaClass || (RequiredMetaClass && Result && !ResultClass && !UE::CoreUObject::IsPlaceholder(Result)) ? nullptr : Result;
 }
 
-void FObjectPropertyBase::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FObjectPropertyBase::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ValueStr += GetExportPath(GetObjectPropertyValue(PropertyValue), Parent, ExportRootScope, PortFlags);
 }
 
-const TCHAR* FObjectPropertyBase::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FObjectPropertyBase::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	TObjectPtr<UObject> Object;
 	const TCHAR* const Start = Buffer;
 	if (!ParseObjectPropertyValue(this, OwnerObject, GetRequiredMetaClass(), PortFlags, Buffer, Object))
 	{
-		return FPropertyHelpers::RefuseText(ErrorText, this, *FString::Printf(TEXT("does not name a %s"), PropertyClass ? *PropertyClass->GetName() : TEXT("object")), Start);
+		return FPropertyHelpers::RefuseText(ErrorText, this,
+			*FString::Printf(TEXT("does not name a %s"), PropertyClass ? *PropertyClass->GetName() : TEXT("object")), Start);
 	}
 	SetObjectPropertyValue(PropertyValue, Object);
 	return Buffer;

@@ -122,7 +122,8 @@ void FOptionalProperty::LinkInternal(FArchive& Ar)
 	PropagateFlagsToElement(this, ValueProperty, CPF_PropagateToArrayInner);
 }
 
-bool FOptionalProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FOptionalProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	return ValueProperty->ContainsObjectReference(EncounteredStructProps, InReferenceType);
 }
@@ -160,7 +161,8 @@ void FOptionalProperty::CollectReferences(void* Value, FReferenceCollector& Coll
 	}
 }
 
-void FOptionalProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FOptionalProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	if (!IsSet(PropertyValue))
 	{
@@ -173,7 +175,8 @@ void FOptionalProperty::ExportText_Internal(FString& ValueStr, const void* Prope
 	ValueStr += TEXT(")");
 }
 
-const TCHAR* FOptionalProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FOptionalProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	const TCHAR* Text = FPropertyHelpers::SkipWhitespace(Buffer);
 	if (*Text != TEXT('('))
@@ -186,7 +189,8 @@ const TCHAR* FOptionalProperty::ImportText_Internal(const TCHAR* Buffer, void* P
 		MarkUnset(PropertyValue);
 		return Text + 1;
 	}
-	Text = ValueProperty->ImportText_Direct(Text, MarkSetAndGetInitializedValuePointerToReplace(PropertyValue), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
+	Text = ValueProperty->ImportText_Direct(
+		Text, MarkSetAndGetInitializedValuePointerToReplace(PropertyValue), OwnerObject, PortFlags | PPF_Delimited, ErrorText);
 	Text = Text ? FPropertyHelpers::SkipWhitespace(Text) : nullptr;
 	if (!Text || *Text != TEXT(')'))
 	{

@@ -28,7 +28,8 @@ void UPackage::Serialize(FArchive& Ar)
 
 void UPackage::SetDirtyFlag(bool bInIsDirty)
 {
-	if (GetOutermost() == GetTransientPackage() || HasAnyPackageFlags(PKG_CompiledIn | PKG_PlayInEditor | PKG_ContainsScript) || IsInPlaceholderPackage(this))
+	if (GetOutermost() == GetTransientPackage() || HasAnyPackageFlags(PKG_CompiledIn | PKG_PlayInEditor | PKG_ContainsScript) ||
+		IsInPlaceholderPackage(this))
 	{
 		return;
 	}
@@ -47,7 +48,10 @@ UObject* UPackage::FindAssetInPackage(EObjectFlags RequiredTopLevelFlags) const
 	UObject* Asset = nullptr;
 	for (UObject* const Object : TopLevel)
 	{
-		if (Object->IsAsset() && Object->HasAllFlags(RequiredTopLevelFlags) && (!Asset || Object->GetFName() == FName(*FString(GetName()).RightChop(GetName().Find(TEXT("/"), ESearchCase::CaseSensitive, ESearchDir::FromEnd) + 1))))
+		if (Object->IsAsset() && Object->HasAllFlags(RequiredTopLevelFlags) &&
+			(!Asset ||
+				Object->GetFName() ==
+					FName(*FString(GetName()).RightChop(GetName().Find(TEXT("/"), ESearchCase::CaseSensitive, ESearchDir::FromEnd) + 1))))
 		{
 			Asset = Object;
 		}

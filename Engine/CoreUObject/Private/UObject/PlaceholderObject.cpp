@@ -1,9 +1,11 @@
 #include "UObject/PlaceholderObject.h"
 
+#include "ObjectBootstrap.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UObjectIterator.h"
 #include "UObject/UnrealType.h"
+#include "UObjectHashTables.h"
 
 namespace
 {
@@ -97,15 +99,34 @@ private:
 	const TMap<UObject*, UObject*>& Replacements;
 };
 
-void FinishStandInClass(UClass* Class, UClass* Super)
+void LinkStandInClass(UClass* Class, UClass* Super)
 {
 	Class->SetSuperStruct(Super);
 	Class->ClassFlags |= CLASS_Abstract | CLASS_NotPlaceable;
 	Class->ClassWithin = UObject::StaticClass();
+	Class->bStandsInForUnknown = true;
 	Class->Bind();
 	Class->StaticLink(true);
+}
+
+void FinishStandInClass(UClass* Class, UClass* Super)
+{
+	LinkStandInClass(Class, Super);
 	Class->GetDefaultObject();
 	Remember(Class->GetDefaultObject());
+}
+
+/** A stand-in for a type is a type that can be asked. */
+void FinishStandIn(UObject* Object)
+{
+	if (Object->IsA<UClass>())
+	{
+		FinishStandInClass(static_cast<UClass*>(Object), UObject::StaticClass());
+	}
+	else if (Object->IsA<UStruct>())
+	{
+		static_cast<UStruct*>(Object)->StaticLink(true);
+	}
 }
 
 UObject* MakeStandIn(UClass* Class, UObject* Outer, FName Name)
@@ -135,15 +156,63 @@ UObject* MakeStandIn(UClass* Class, UObject* Outer, FName Name)
 		return nullptr;
 	}
 	Remember(Object);
-	if (Object->IsA<UClass>())
-	{
-		FinishStandInClass(static_cast<UClass*>(Object), UObject::StaticClass());
-	}
-	else if (Object->IsA<UStruct>())
-	{
-		static_cast<UStruct*>(Object)->StaticLink(true);
-	}
+	FinishStandIn(Object);
 	return Object;
+}
+
+/** Hands a stand-in's children and every reference to it on to another object, and gives it up. */
+void TakePlace(UObject* Placeholder, UObject* Successor)
+{
+	TArray<UObject*> Children;
+	GetObjectsWithOuter(Placeholder, Children, false);
+	for (UObject* const Child : Children)
+	{
+		if (!StaticFindObjectFast(nullptr, Successor, Child->GetFName()))
+		{
+			Child->Rename(nullptr, Successor, REN_DoNotDirty | REN_NonTransactional | REN_DontCreateRedirectors);
+		}
+	}
+	TMap<UObject*, UObject*> Replacements;
+	Replacements.Add(Placeholder, Successor);
+	UE::CoreUObject::ReplaceObjectReferences(Replacements);
+	GetStandIns().Remove(FWeakObjectPtr(Placeholder));
+	GetUnknownKinds().Remove(FWeakObjectPtr(Placeholder));
+	Placeholder->MarkAsGarbage();
+}
+
+/** Whether all that is known of the stand-in class is that it is an object's, and SuperClass says more and fits. */
+bool CanReparent(const UClass* Class, const UClass* SuperClass)
+{
+	const TArray<UClass*>* const Derived = FUObjectHashTables::Get().FindDirectSubclasses(Class);
+	TArray<UObject*> Instances;
+	if (SuperClass->HasAnyCastFlag(CASTCLASS_UField))
+	{
+		// A type that was read from a package is more than its C++ type, and that is not known.
+		GetObjectsOfClass(Class, Instances, false, RF_ClassDefaultObject);
+	}
+	const bool bHasReadType = Instances.ContainsByPredicate([](const UObject* Instance)
+		{ return !UE::CoreUObject::IsPlaceholder(Instance); });
+	return !bHasReadType && UE::CoreUObject::IsPlaceholder(Class) && Class->GetSuperClass() == UObject::StaticClass() && SuperClass != UObject::StaticClass() &&
+		!SuperClass->IsChildOf(Class) && (!Derived || Derived->IsEmpty()) && FObjectBootstrap::FitsStandIn(SuperClass);
+}
+
+/** Gives a stand-in class its better parent. Objects of the class stay where they are and become objects of the parent's C++ type. */
+void Reparent(UClass* Class, UClass* SuperClass)
+{
+	TArray<UObject*> Instances;
+	GetObjectsOfClass(Class, Instances, false, RF_ClassDefaultObject);
+	Class->ClassConstructor = nullptr;
+	Class->ClassAddReferencedObjects = nullptr;
+	LinkStandInClass(Class, SuperClass);
+	if (Class->ClassDefaultObject)
+	{
+		FObjectBootstrap::ConstructAnew(Class->ClassDefaultObject, SuperClass->GetDefaultObject());
+	}
+	for (UObject* const Instance : Instances)
+	{
+		FObjectBootstrap::ConstructAnew(Instance, Class->ClassDefaultObject);
+		FinishStandIn(Instance);
+	}
 }
 
 UObject* FindOrCreateOuter(const TArray<FString>& Parts)
@@ -247,53 +316,56 @@ UClass* FindOrCreatePlaceholderClass(const FTopLevelAssetPath& ClassPath, UClass
 {
 	UObject* const Object = FindOrCreatePlaceholder(UClass::StaticClass(), ClassPath.ToString());
 	UClass* const Class = Object && Object->IsA<UClass>() ? static_cast<UClass*>(Object) : nullptr;
-	if (Class && SuperClass && IsPlaceholder(Class) && Class->GetSuperClass() == UObject::StaticClass() && SuperClass != Class && !SuperClass->IsChildOf(Class))
+	if (Class && SuperClass && CanReparent(Class, SuperClass))
 	{
-		// Its default object is only a name so far; the better parent's layout needs a new one.
-		if (UObject* const OldDefaults = Class->ClassDefaultObject)
-		{
-			OldDefaults->Rename(nullptr, GetTransientPackageAsObject(), REN_DoNotDirty | REN_NonTransactional | REN_ForceGlobalUnique);
-			OldDefaults->ClearFlags(RF_ClassDefaultObject);
-			Class->ClassDefaultObject = nullptr;
-		}
-		Class->ClassConstructor = nullptr;
-		Class->ClassAddReferencedObjects = nullptr;
-		FinishStandInClass(Class, SuperClass);
+		Reparent(Class, SuperClass);
 	}
 	return Class;
 }
 
 bool IsPlaceholder(const UObject* Object)
 {
-	return Object && GUObjectArray.GetSerialNumber(static_cast<int32>(Object->GetUniqueID())) != 0 && GetStandIns().Contains(FWeakObjectPtr(Object));
+	return Object && GUObjectArray.GetSerialNumber(static_cast<int32>(Object->GetUniqueID())) != 0 &&
+		GetStandIns().Contains(FWeakObjectPtr(Object));
 }
 
 void VacatePlaceholderName(UObject* Placeholder)
 {
-	Placeholder->Rename(*MakeUniqueObjectName(GetTransientPackageAsObject(), Placeholder->GetClass()).ToString(), GetTransientPackageAsObject(), REN_DoNotDirty | REN_NonTransactional | REN_DontCreateRedirectors);
+	Placeholder->Rename(*MakeUniqueObjectName(GetTransientPackageAsObject(), Placeholder->GetClass()).ToString(),
+		GetTransientPackageAsObject(), REN_DoNotDirty | REN_NonTransactional | REN_DontCreateRedirectors);
 }
 
 void ReplacePlaceholder(UObject* Placeholder, UObject* RealObject)
 {
-	TArray<UObject*> Children;
-	GetObjectsWithOuter(Placeholder, Children, false);
-	for (UObject* const Child : Children)
-	{
-		if (!StaticFindObjectFast(nullptr, RealObject, Child->GetFName()))
-		{
-			Child->Rename(nullptr, RealObject, REN_DoNotDirty | REN_NonTransactional | REN_DontCreateRedirectors);
-		}
-	}
-	TMap<UObject*, UObject*> Replacements;
-	Replacements.Add(Placeholder, RealObject);
-	ReplaceObjectReferences(Replacements);
-	GetStandIns().Remove(FWeakObjectPtr(Placeholder));
-	GetUnknownKinds().Remove(FWeakObjectPtr(Placeholder));
+	TakePlace(Placeholder, RealObject);
 	if (UObject* const Package = RealObject->GetOutermost())
 	{
 		GetStandIns().Remove(FWeakObjectPtr(Package));
 	}
-	Placeholder->MarkAsGarbage();
+}
+
+UObject* FitPlaceholder(UObject* Object, UClass* RequiredClass)
+{
+	if (!Object->IsA(RequiredClass) && CanReparent(Object->GetClass(), RequiredClass))
+	{
+		Reparent(Object->GetClass(), RequiredClass);
+	}
+	if (Object->IsA(RequiredClass))
+	{
+		return Object;
+	}
+	UObject* const Outer = Object->GetOuter();
+	const FName Name = Object->GetFName();
+	if (IsPlaceholder(Object) && GetUnknownKinds().Contains(FWeakObjectPtr(Object)) && Outer)
+	{
+		VacatePlaceholderName(Object);
+		if (UObject* const New = MakeStandIn(RequiredClass, Outer, Name))
+		{
+			TakePlace(Object, New);
+		}
+	}
+	UObject* const Successor = StaticFindObjectFast(nullptr, Outer, Name);
+	return Successor && Successor->IsA(RequiredClass) ? Successor : nullptr;
 }
 
 void ReplaceObjectReferences(const TMap<UObject*, UObject*>& Replacements)

@@ -66,7 +66,8 @@ bool FProperty::SameType(const FProperty* Other) const
 	return Other && GetClass() == Other->GetClass();
 }
 
-bool FProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	return false;
 }
@@ -211,7 +212,8 @@ void FProperty::SerializeBinProperty(FArchive& Ar, void* Container) const
 	}
 }
 
-EConvertFromTypeResult FProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	return Tag.Type == GetID() ? EConvertFromTypeResult::UseSerializeItem : EConvertFromTypeResult::CannotConvert;
 }
@@ -223,15 +225,18 @@ bool FProperty::ShouldSerializeValue(FArchive& Ar) const
 		return false;
 	}
 	const bool bIsTransientForArchive = HasAnyPropertyFlags(CPF_Transient) && Ar.IsPersistent() && !Ar.IsSerializingDefaults();
-	const bool bIsDeprecatedForSaving = HasAnyPropertyFlags(CPF_Deprecated) && !Ar.HasAllPortFlags(PPF_UseDeprecatedProperties) && (Ar.IsSaving() || Ar.IsTransacting() || Ar.WantBinaryPropertySerialization());
+	const bool bIsDeprecatedForSaving = HasAnyPropertyFlags(CPF_Deprecated) && !Ar.HasAllPortFlags(PPF_UseDeprecatedProperties) &&
+		(Ar.IsSaving() || Ar.IsTransacting() || Ar.WantBinaryPropertySerialization());
 	const bool bIsTransientForDuplication = HasAnyPropertyFlags(CPF_DuplicateTransient) && (Ar.GetPortFlags() & PPF_Duplicate) != 0;
 	const bool bIsEditorOnlyForCooking = IsEditorOnlyProperty() && Ar.IsFilterEditorOnly();
 	const bool bIsNotForUndo = HasAnyPropertyFlags(CPF_NonTransactional) && Ar.IsTransacting();
 	const bool bIsNotSaveGame = Ar.IsSaveGame() && !HasAnyPropertyFlags(CPF_SaveGame);
-	return !(bIsTransientForArchive || bIsDeprecatedForSaving || bIsTransientForDuplication || bIsEditorOnlyForCooking || bIsNotForUndo || bIsNotSaveGame);
+	return !(bIsTransientForArchive || bIsDeprecatedForSaving || bIsTransientForDuplication || bIsEditorOnlyForCooking || bIsNotForUndo ||
+		bIsNotSaveGame);
 }
 
-bool FProperty::ExportText_Direct(FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FProperty::ExportText_Direct(
+	FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	if (Data != Delta && Delta && Identical(Data, Delta, PortFlags))
 	{
@@ -241,29 +246,34 @@ bool FProperty::ExportText_Direct(FString& ValueStr, const void* Data, const voi
 	return true;
 }
 
-bool FProperty::ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Diff, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+bool FProperty::ExportText_InContainer(
+	int32 Index, FString& ValueStr, const void* Data, const void* Diff, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	const void* const Value = ContainerPtrToValuePtr<void>(Data, Index);
 	const void* const Default = Diff ? ContainerPtrToValuePtr<void>(Diff, Index) : nullptr;
 	return ExportText_Direct(ValueStr, Value, Value == Default ? nullptr : Default, Parent, PortFlags, ExportRootScope);
 }
 
-void FProperty::ExportTextItem_InContainer(FString& ValueStr, const void* Container, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FProperty::ExportTextItem_InContainer(
+	FString& ValueStr, const void* Container, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
 	ExportText_Internal(ValueStr, ContainerPtrToValuePtr<void>(Container), DefaultValue, Parent, PortFlags, ExportRootScope);
 }
 
-void FProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FProperty::ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	ExportText_Internal(ValueStr, PropertyValue, DefaultValue, Parent, PortFlags, ExportRootScope);
 }
 
-const TCHAR* FProperty::ImportText_Direct(const TCHAR* Buffer, void* PropertyPtr, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FProperty::ImportText_Direct(
+	const TCHAR* Buffer, void* PropertyPtr, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	return Buffer ? ImportText_Internal(Buffer, PropertyPtr, OwnerObject, PortFlags, ErrorText) : nullptr;
 }
 
-const TCHAR* FProperty::ImportText_InContainer(const TCHAR* Buffer, void* Container, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FProperty::ImportText_InContainer(
+	const TCHAR* Buffer, void* Container, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	return ImportText_Direct(Buffer, ContainerPtrToValuePtr<void>(Container), OwnerObject, PortFlags, ErrorText);
 }

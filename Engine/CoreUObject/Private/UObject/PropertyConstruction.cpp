@@ -79,7 +79,8 @@ bool SetType(FProperty* Property, UField* Type, UClass* MetaClass)
 
 bool NeedsInner(EPropertyGenKind Kind)
 {
-	return Kind == EPropertyGenKind::Array || Kind == EPropertyGenKind::Set || Kind == EPropertyGenKind::Map || Kind == EPropertyGenKind::Optional || Kind == EPropertyGenKind::Enum;
+	return Kind == EPropertyGenKind::Array || Kind == EPropertyGenKind::Set || Kind == EPropertyGenKind::Map ||
+		Kind == EPropertyGenKind::Optional || Kind == EPropertyGenKind::Enum;
 }
 
 /** Finds the byte and bit that the emitted setter touches, in an owner of zeros. */
@@ -116,7 +117,8 @@ FProperty* ConstructUnlinked(FFieldVariant Owner, const FPropertyParams& Params,
 	{
 		Property->SetMetaData(FName(UTF8_TO_TCHAR(Params.MetaData[Index].NameUTF8)), UTF8_TO_TCHAR(Params.MetaData[Index].ValueUTF8));
 	}
-	const bool bHasType = SetType(Property, Params.TypeFunc ? Params.TypeFunc() : nullptr, Params.MetaClassFunc ? Params.MetaClassFunc() : nullptr);
+	const bool bHasType =
+		SetType(Property, Params.TypeFunc ? Params.TypeFunc() : nullptr, Params.MetaClassFunc ? Params.MetaClassFunc() : nullptr);
 	checkf(bHasType, TEXT("%s has no type"), *Property->GetFullName());
 	if (FBoolProperty* const Bool = CastField<FBoolProperty>(Property))
 	{
@@ -155,7 +157,8 @@ FProperty* ConstructPropertyFromDescription(FFieldVariant Owner, const FProperty
 	{
 		return nullptr;
 	}
-	TUniquePtr<FProperty> Property(CastFieldChecked<FProperty>(GetFieldClass(Description.Kind)->Construct(Owner, Description.Name, RF_Public)));
+	TUniquePtr<FProperty> Property(
+		CastFieldChecked<FProperty>(GetFieldClass(Description.Kind)->Construct(Owner, Description.Name, RF_Public)));
 	Property->PropertyFlags = Description.PropertyFlags;
 	Property->ArrayDim = FMath::Max(Description.ArrayDim, 1);
 	Property->RepNotifyFunc = Description.RepNotifyFunc;

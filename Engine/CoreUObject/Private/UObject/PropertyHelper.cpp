@@ -8,7 +8,8 @@ namespace
 {
 bool IsTokenChar(TCHAR Char, bool bDottedNames)
 {
-	return FChar::IsAlnum(Char) || Char == TEXT('_') || Char == TEXT('-') || Char == TEXT('+') || (bDottedNames && (Char == TEXT('.') || Char == TEXT(':') || Char == TEXT('/')));
+	return FChar::IsAlnum(Char) || Char == TEXT('_') || Char == TEXT('-') || Char == TEXT('+') ||
+		(bDottedNames && (Char == TEXT('.') || Char == TEXT(':') || Char == TEXT('/')));
 }
 
 constexpr int32 MaxValueDepth = 100;

@@ -1,5 +1,6 @@
 #include "UObject/GarbageCollectionSchema.h"
 
+#include "ReferenceSchemaVisit.h"
 #include "UObject/ReferenceCollector.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
@@ -10,7 +11,8 @@ void FReferenceSchema::AddStruct(const UStruct* Struct, int32 BaseOffset)
 	{
 		AddProperty(Property, BaseOffset);
 	}
-	const UScriptStruct* const ScriptStruct = Struct->GetClass()->HasAnyCastFlag(CASTCLASS_UScriptStruct) ? static_cast<const UScriptStruct*>(Struct) : nullptr;
+	const UScriptStruct* const ScriptStruct =
+		Struct->GetClass()->HasAnyCastFlag(CASTCLASS_UScriptStruct) ? static_cast<const UScriptStruct*>(Struct) : nullptr;
 	ICppStructOps* const Ops = ScriptStruct ? ScriptStruct->GetCppStructOps() : nullptr;
 	if (Ops && Ops->HasAddStructReferencedObjects())
 	{
@@ -56,42 +58,13 @@ void FReferenceSchema::AddProperty(const FProperty* Property, int32 BaseOffset)
 
 void FReferenceSchema::Visit(void* Data, FReferenceCollector& Collector, const UObject* ReferencingObject) const
 {
-	for (const FMember& Member : Members)
-	{
-		uint8* const Value = static_cast<uint8*>(Data) + Member.Offset;
-		switch (Member.Kind)
-		{
-			case EKind::Object:
-				Collector.AddReferencedObject(*reinterpret_cast<UObject**>(Value), ReferencingObject, Member.Property);
-				break;
-			case EKind::ObjectArray:
-				for (UObject*& Object : *reinterpret_cast<TArray<UObject*>*>(Value))
-				{
-					Collector.AddReferencedObject(Object, ReferencingObject, Member.Property);
-				}
-				break;
-			case EKind::StructArray:
-			{
-				const FScriptArray& Array = *reinterpret_cast<const FScriptArray*>(Value);
-				uint8* const Elements = static_cast<uint8*>(const_cast<void*>(static_cast<const void*>(Array.GetData())));
-				const FReferenceSchema& ElementSchema = Member.ElementStruct->GetReferenceSchema();
-				for (int32 Index = 0; Index < Array.Num(); ++Index)
-				{
-					ElementSchema.Visit(Elements + static_cast<SIZE_T>(Index) * Member.Stride, Collector, ReferencingObject);
-				}
-				break;
-			}
-			case EKind::StructFunction:
-				Member.Function(Value, Collector);
-				break;
-			case EKind::Property:
-				Member.Property->CollectReferences(Value, Collector, ReferencingObject);
-				break;
-		}
-	}
+	const auto Handle = [&Collector, ReferencingObject](UObject*& Object, const FProperty* Property)
+	{ Collector.AddReferencedObject(Object, ReferencingObject, Property); };
+	VisitReferences(*this, Data, Collector, ReferencingObject, Handle);
 }
 
-void FReferenceCollector::AddReferencedObjects(const UScriptStruct*& ScriptStruct, void* StructMemory, const UObject* ReferencingObject, const FProperty* ReferencingProperty)
+void FReferenceCollector::AddReferencedObjects(
+	const UScriptStruct*& ScriptStruct, void* StructMemory, const UObject* ReferencingObject, const FProperty* ReferencingProperty)
 {
 	AddReferencedObject(ScriptStruct, ReferencingObject, ReferencingProperty);
 	AddPropertyReferencesWithStructARO(ScriptStruct, StructMemory, ReferencingObject);
@@ -110,8 +83,8 @@ void FReferenceCollector::AddPropertyReferencesWithStructARO(const UStruct* Stru
 	}
 }
 
-FReferenceFinder::FReferenceFinder(TArray<UObject*>& InObjectArray, UObject* InOuter, bool bInRequireDirectOuter, bool bInShouldIgnoreArchetype, bool bInSerializeRecursively,
-	bool bInShouldIgnoreTransient)
+FReferenceFinder::FReferenceFinder(TArray<UObject*>& InObjectArray, UObject* InOuter, bool bInRequireDirectOuter,
+	bool bInShouldIgnoreArchetype, bool bInSerializeRecursively, bool bInShouldIgnoreTransient)
 	: ObjectArray(InObjectArray)
 	, LimitOuter(InOuter)
 	, bRequireDirectOuter(bInRequireDirectOuter)

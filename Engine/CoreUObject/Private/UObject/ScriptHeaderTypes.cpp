@@ -1,8 +1,7 @@
 #include "ScriptHeaderTypes.h"
 
 #include "CompiledInTypes.h"
-#include "HeaderParser/Parser.h"
-#include "UObject/EnumProperty.h"
+#include "ScriptHeaderText.h"
 #include "UObject/Interface.h"
 #include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
@@ -11,93 +10,17 @@
 #include "UObject/UnrealType.h"
 
 using namespace HeaderParser;
-using UECodeGen_Private::EPropertyGenKind;
+using namespace ScriptHeaderText;
 
 namespace
 {
 constexpr EObjectFlags TypeFlags = static_cast<EObjectFlags>(RF_Public | RF_Transient | RF_MarkAsNative);
-
-FString ToText(const std::string& Text)
-{
-	return FString(FUtf8StringView(reinterpret_cast<const UTF8CHAR*>(Text.data()), static_cast<int32>(Text.size())));
-}
-
-FName ToName(const std::string& Text)
-{
-	return FName(*ToText(Text));
-}
-
-/** Names of types carry a prefix in C++ and none in reflection. */
-FName WithoutPrefix(const std::string& CppName)
-{
-	return ToName(CppName.substr(1));
-}
-
-TMap<FName, FString> ToMap(const HeaderParser::FMetaData& MetaData, const std::string& Prefix = std::string())
-{
-	TMap<FName, FString> Map;
-	for (const auto& [Key, Value] : MetaData.Pairs())
-	{
-		Map.Add(ToName(Prefix + Key), ToText(Value));
-	}
-	return Map;
-}
 
 void SetMetaData(UField* Field, const HeaderParser::FMetaData& MetaData)
 {
 	if (!MetaData.Pairs().empty())
 	{
 		Field->GetPackage()->GetMetaData().SetObjectValues(Field, ToMap(MetaData));
-	}
-}
-
-/** Kinds that say all about themselves, in the order of ETypeKind; the others are answered by Describe. */
-constexpr EPropertyGenKind GenKinds[] = {
-	EPropertyGenKind::Struct,
-	EPropertyGenKind::Bool,
-	EPropertyGenKind::Byte,
-	EPropertyGenKind::Int8,
-	EPropertyGenKind::Int16,
-	EPropertyGenKind::Int,
-	EPropertyGenKind::Int64,
-	EPropertyGenKind::UInt16,
-	EPropertyGenKind::UInt32,
-	EPropertyGenKind::UInt64,
-	EPropertyGenKind::Float,
-	EPropertyGenKind::Double,
-	EPropertyGenKind::Name,
-	EPropertyGenKind::Str,
-	EPropertyGenKind::Text,
-	EPropertyGenKind::Object,
-	EPropertyGenKind::WeakObject,
-	EPropertyGenKind::LazyObject,
-	EPropertyGenKind::SoftObject,
-	EPropertyGenKind::Class,
-	EPropertyGenKind::SoftClass,
-	EPropertyGenKind::Interface,
-	EPropertyGenKind::Byte,
-	EPropertyGenKind::Struct,
-	EPropertyGenKind::Array,
-	EPropertyGenKind::Set,
-	EPropertyGenKind::Map,
-	EPropertyGenKind::Optional,
-	EPropertyGenKind::FieldPath,
-};
-static_assert(UE_ARRAY_COUNT(GenKinds) == static_cast<size_t>(ETypeKind::FieldPath) + 1);
-
-EPropertyGenKind UnderlyingKind(const FEnumDeclaration& Enum)
-{
-	const bool bUnsigned = Enum.UnderlyingType.empty() || Enum.UnderlyingType[0] == 'u';
-	switch (Enum.UnderlyingSize())
-	{
-		case 2:
-			return bUnsigned ? EPropertyGenKind::UInt16 : EPropertyGenKind::Int16;
-		case 4:
-			return bUnsigned ? EPropertyGenKind::UInt32 : EPropertyGenKind::Int;
-		case 8:
-			return bUnsigned ? EPropertyGenKind::UInt64 : EPropertyGenKind::Int64;
-		default:
-			return bUnsigned ? EPropertyGenKind::Byte : EPropertyGenKind::Int8;
 	}
 }
 }
@@ -172,6 +95,7 @@ void FScriptHeaderTypes::MakeEnum(const FEnumDeclaration& Declaration, const FSo
 {
 	UPackage* const Package = GetPackage(Source);
 	const FName Name = ToName(Declaration.Name);
+	EnumDeclarations[Declaration.Name] = &Declaration;
 	UObject* const Existing = StaticFindObjectFast(UEnum::StaticClass(), Package, Name);
 	if (Existing && !UE::CoreUObject::IsPlaceholder(Existing))
 	{
@@ -217,7 +141,8 @@ void FScriptHeaderTypes::NameStruct(const FStructDeclaration& Declaration, const
 	Struct.Declaration = &Declaration;
 	Struct.Source = &Source;
 	Struct.bDone = bKnown;
-	Struct.Struct = bKnown ? static_cast<UScriptStruct*>(Existing) : NewObject<UScriptStruct>(Package, WithoutPrefix(Declaration.Name), TypeFlags);
+	Struct.Struct =
+		bKnown ? static_cast<UScriptStruct*>(Existing) : NewObject<UScriptStruct>(Package, WithoutPrefix(Declaration.Name), TypeFlags);
 	if (!bKnown)
 	{
 		StructOrder.push_back(Declaration.Name);
@@ -275,7 +200,8 @@ void FScriptHeaderTypes::NameDelegate(const FDelegateDeclaration& Declaration, c
 		NativeTypes["delegate " + Declaration.Name] = static_cast<UFunction*>(Existing);
 		return;
 	}
-	UFunction* const Function = Declaration.bSparse ? NewObject<USparseDelegateFunction>(Outer, Name, TypeFlags) : NewObject<UDelegateFunction>(Outer, Name, TypeFlags);
+	UFunction* const Function = Declaration.bSparse ? NewObject<USparseDelegateFunction>(Outer, Name, TypeFlags)
+													: NewObject<UDelegateFunction>(Outer, Name, TypeFlags);
 	// Members of its type are made before it is completed, and ask whether it is multicast.
 	Function->FunctionFlags = static_cast<EFunctionFlags>(Declaration.Signature.Flags);
 	Delegates[Declaration.Name] = Function;
@@ -310,10 +236,11 @@ void FScriptHeaderTypes::CompleteStruct(FStructInProgress& Struct)
 	}
 	SetMetaData(Struct.Struct, Declaration.MetaData);
 	StructsBeingLaidOut.Add(Struct.Struct);
-	AddProperties(Struct.Struct, Declaration.Properties, *Struct.Source);
+	const TArray<FProperty*> Added = AddProperties(Struct.Struct, Declaration.Properties, *Struct.Source);
 	StructsBeingLaidOut.Remove(Struct.Struct);
 	MarkInstancedReferences(Struct.Struct);
 	Struct.Struct->StaticLink(true);
+	ReadDefaults(Struct.Struct, Added, Declaration.Properties, *Struct.Source);
 }
 
 void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
@@ -346,9 +273,10 @@ void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
 	Class.Class->Bind();
 	SetMetaData(Class.Class, Declaration.MetaData);
 	AddInterfaces(Class);
-	AddProperties(Class.Class, Declaration.Properties, *Class.Source);
+	const TArray<FProperty*> Added = AddProperties(Class.Class, Declaration.Properties, *Class.Source);
 	MarkInstancedReferences(Class.Class);
 	Class.Class->StaticLink(true);
+	ReadDefaults(Class.Class, Added, Declaration.Properties, *Class.Source);
 }
 
 void FScriptHeaderTypes::ExtendClass(FClassInProgress& Extension)
@@ -389,6 +317,7 @@ void FScriptHeaderTypes::ExtendClass(FClassInProgress& Extension)
 		Member->PropertiesSize = End;
 		Member->StaticLink();
 	}
+	ReadDefaults(Class, Added, Extension.Declaration->Properties, *Extension.Source);
 }
 
 void FScriptHeaderTypes::AddInterfaces(FClassInProgress& Class)
@@ -414,10 +343,12 @@ void FScriptHeaderTypes::AddFunctions(FClassInProgress& Class)
 	{
 		Tail = Tail->Next;
 	}
+	TArray<UFunction*> Added;
 	for (const FFunctionDeclaration& Declaration : Class.Declaration->Functions)
 	{
 		const FName Name = ToName(Declaration.Name);
-		if (Class.Class->FindFunctionByName(Name, EIncludeSuperFlag::ExcludeSuper))
+		// A function that C++ or another header has stays, and so does the first of two in this one.
+		if (StaticFindObjectFast(UFunction::StaticClass(), Class.Class, Name))
 		{
 			continue;
 		}
@@ -429,9 +360,10 @@ void FScriptHeaderTypes::AddFunctions(FClassInProgress& Class)
 		MakeFunction(Function, Declaration, *Class.Source);
 		(Tail ? Tail->Next : Class.Class->Children) = Function;
 		Tail = Function;
-		Class.Class->AddFunctionToFunctionMap(Function, Name);
-		++Report.NumFunctions;
+		Added.Add(Function);
 	}
+	Class.Class->AddFunctionsToFunctionMap(Added);
+	Report.NumFunctions += Added.Num();
 }
 
 void FScriptHeaderTypes::MakeFunction(UFunction* Function, const FFunctionDeclaration& Declaration, const FSource& Source)
@@ -444,195 +376,4 @@ void FScriptHeaderTypes::MakeFunction(UFunction* Function, const FFunctionDeclar
 	}
 	SetMetaData(Function, Declaration.MetaData);
 	Function->StaticLink(true);
-}
-
-TArray<FProperty*> FScriptHeaderTypes::AddProperties(UStruct* Struct, const std::vector<FPropertyDeclaration>& Properties, const FSource& Source)
-{
-	TArray<FProperty*> Added;
-	FField** Tail = &Struct->ChildProperties;
-	while (*Tail)
-	{
-		Tail = &(*Tail)->Next;
-	}
-	for (const FPropertyDeclaration& Declaration : Properties)
-	{
-		FPropertyDescription Description;
-		Description.Name = ToName(Declaration.Name);
-		if (Struct->FindChildProperty(Description.Name))
-		{
-			continue;
-		}
-		if (Struct->IsA<UClass>() && static_cast<UClass*>(Struct)->GetDefaultObject(false))
-		{
-			AddError(Source, Declaration.Position, FString::Printf(TEXT("%s has a default object already and takes no more properties"), *Struct->GetName()));
-			continue;
-		}
-		if (!Describe(Declaration.Type, Description, Source, Declaration.Position))
-		{
-			continue;
-		}
-		if (Description.Kind == EPropertyGenKind::Struct && StructsBeingLaidOut.Contains(Description.Type))
-		{
-			AddError(Source, Declaration.Position, FString::Printf(TEXT("%s would hold a value of itself"), *Description.Type->GetName()));
-			continue;
-		}
-		Description.PropertyFlags = static_cast<EPropertyFlags>(Declaration.Flags);
-		Description.ArrayDim = static_cast<int32>(std::clamp<int64_t>(Declaration.ArrayDimValue.value_or(1), 1, MAX_uint16));
-		Description.RepNotifyFunc = Declaration.RepNotifyFunction.empty() ? FName() : ToName(Declaration.RepNotifyFunction);
-		Description.MetaData = ToMap(Declaration.MetaData);
-		if (FProperty* const Property = ConstructPropertyFromDescription(Struct, Description))
-		{
-			*Tail = Property;
-			Tail = &Property->Next;
-			Added.Add(Property);
-		}
-	}
-	return Added;
-}
-
-bool FScriptHeaderTypes::Describe(const FTypeReference& Type, FPropertyDescription& Out, const FSource& Source, const FPosition& Position)
-{
-	Out.Kind = GenKinds[static_cast<size_t>(Type.Kind)];
-	Out.PropertyFlags |= Type.bWrapper ? CPF_UObjectWrapper : CPF_None;
-	bool bFound = true;
-	switch (Type.Kind)
-	{
-		case ETypeKind::Object:
-		case ETypeKind::WeakObject:
-		case ETypeKind::LazyObject:
-		case ETypeKind::SoftObject:
-			Out.Type = FindClass(Type.Name);
-			bFound = Out.Type != nullptr;
-			break;
-		case ETypeKind::Class:
-		case ETypeKind::SoftClass:
-			Out.Type = UClass::StaticClass();
-			Out.MetaClass = FindClass(Type.Name);
-			bFound = Out.MetaClass != nullptr;
-			break;
-		case ETypeKind::Interface:
-			Out.Type = FindClass("U" + Type.Name.substr(1));
-			bFound = Out.Type != nullptr;
-			break;
-		case ETypeKind::EnumAsByte:
-			Out.Type = FindEnum(Type.Name);
-			bFound = Out.Type != nullptr;
-			break;
-		case ETypeKind::Array:
-		case ETypeKind::Set:
-		case ETypeKind::Map:
-		case ETypeKind::Optional:
-			Out.Inner = MakeShared<FPropertyDescription>();
-			Out.Inner->Name = Type.Kind == ETypeKind::Map ? FName(*(Out.Name.ToString() + TEXT("_Key"))) : Out.Name;
-			if (!Describe(Type.Arguments[0], *Out.Inner, Source, Position))
-			{
-				return false;
-			}
-			if (Type.Kind == ETypeKind::Map)
-			{
-				Out.Value = MakeShared<FPropertyDescription>();
-				Out.Value->Name = Out.Name;
-				return Describe(Type.Arguments[1], *Out.Value, Source, Position);
-			}
-			return true;
-		case ETypeKind::Named:
-			bFound = DescribeNamed(Type, Out);
-			break;
-		default:
-			break;
-	}
-	if (!bFound)
-	{
-		AddError(Source, Position, FString::Printf(TEXT("there is no type %s, which %s has"), *ToText(Type.Name), *Out.Name.ToString()));
-	}
-	return bFound;
-}
-
-bool FScriptHeaderTypes::DescribeNamed(const FTypeReference& Type, FPropertyDescription& Out)
-{
-	const auto Delegate = Delegates.find(Type.Name);
-	const auto NativeDelegate = NativeTypes.find("delegate " + Type.Name);
-	if (Delegate != Delegates.end() || NativeDelegate != NativeTypes.end())
-	{
-		UFunction* const Signature = Delegate != Delegates.end() ? Delegate->second : static_cast<UFunction*>(NativeDelegate->second);
-		Out.Kind = Signature->HasAnyFunctionFlags(FUNC_MulticastDelegate) ? EPropertyGenKind::MulticastInlineDelegate : EPropertyGenKind::Delegate;
-		Out.Type = Signature;
-		return true;
-	}
-	if (UScriptStruct* const Struct = FindStruct(Type.Name))
-	{
-		Out.Kind = EPropertyGenKind::Struct;
-		Out.Type = Struct;
-		return true;
-	}
-	UEnum* const Enum = FindEnum(Type.Name);
-	if (!Enum)
-	{
-		return false;
-	}
-	Out.Type = Enum;
-	Out.Kind = Enum->GetCppForm() == UEnum::ECppForm::EnumClass ? EPropertyGenKind::Enum : EPropertyGenKind::Byte;
-	if (Out.Kind == EPropertyGenKind::Enum)
-	{
-		Out.Inner = MakeShared<FPropertyDescription>();
-		Out.Inner->Name = FName(TEXT("UnderlyingType"));
-		Out.Inner->Kind = EPropertyGenKind::Byte;
-		for (const FSource& Source : Sources)
-		{
-			for (const FEnumDeclaration& Declaration : Source.Header.Enums)
-			{
-				if (Declaration.Name == Type.Name)
-				{
-					Out.Inner->Kind = UnderlyingKind(Declaration);
-				}
-			}
-		}
-	}
-	return true;
-}
-
-UField* FScriptHeaderTypes::FindNative(UClass* TypeClass, const std::string& Name)
-{
-	if (Name.empty())
-	{
-		return nullptr;
-	}
-	const std::string Key = std::string(1, static_cast<char>('0' + (TypeClass == UClass::StaticClass()) + 2 * (TypeClass == UEnum::StaticClass()))) + Name;
-	const auto Known = NativeTypes.find(Key);
-	if (Known != NativeTypes.end())
-	{
-		return Known->second;
-	}
-	UObject* const Found = StaticFindFirstObject(TypeClass, *ToText(Name), EFindFirstObjectOptions::NativeFirst);
-	UField* const Field = Found && Found->IsNative() ? static_cast<UField*>(Found) : nullptr;
-	NativeTypes[Key] = Field;
-	return Field;
-}
-
-UClass* FScriptHeaderTypes::FindClass(const std::string& CppName)
-{
-	const auto Found = Classes.find(CppName);
-	if (Found != Classes.end())
-	{
-		return Found->second.Class;
-	}
-	return CppName.empty() ? nullptr : static_cast<UClass*>(FindNative(UClass::StaticClass(), CppName.substr(1)));
-}
-
-UScriptStruct* FScriptHeaderTypes::FindStruct(const std::string& CppName)
-{
-	const auto Found = Structs.find(CppName);
-	if (Found != Structs.end())
-	{
-		// Its size must be known before a member of it is placed.
-		CompleteStruct(Found->second);
-		return Found->second.Struct;
-	}
-	return CppName.empty() ? nullptr : static_cast<UScriptStruct*>(FindNative(UScriptStruct::StaticClass(), CppName.substr(1)));
-}
-
-UEnum* FScriptHeaderTypes::FindEnum(const std::string& CppName)
-{
-	const auto Found = Enums.find(CppName);
-	return Found != Enums.end() ? Found->second : static_cast<UEnum*>(FindNative(UEnum::StaticClass(), CppName));
 }

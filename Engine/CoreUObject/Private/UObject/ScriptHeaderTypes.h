@@ -54,9 +54,22 @@ private:
 	void AddFunctions(FClassInProgress& Class);
 	void MakeFunction(UFunction* Function, const HeaderParser::FFunctionDeclaration& Declaration, const FSource& Source);
 	/** Makes the properties that the struct does not have. */
-	TArray<FProperty*> AddProperties(UStruct* Struct, const std::vector<HeaderParser::FPropertyDeclaration>& Properties, const FSource& Source);
-	bool Describe(const HeaderParser::FTypeReference& Type, FPropertyDescription& Out, const FSource& Source, const HeaderParser::FPosition& Position);
+	TArray<FProperty*> AddProperties(
+		UStruct* Struct, const std::vector<HeaderParser::FPropertyDeclaration>& Properties, const FSource& Source);
+	/** Initial values of members just added, in the order of their declarations. The struct is linked. */
+	void ReadDefaults(UStruct* Struct, const TArray<FProperty*>& Added,
+		const std::vector<HeaderParser::FPropertyDeclaration>& Declarations, const FSource& Source);
+	bool Describe(const HeaderParser::FTypeReference& Type, FPropertyDescription& Out, const FSource& Source,
+		const HeaderParser::FPosition& Position);
+	/** What a struct's, an enum's or a delegate's name means as a member's type. */
+	struct FNamedType
+	{
+		UECodeGen_Private::EPropertyGenKind Kind = UECodeGen_Private::EPropertyGenKind::Struct;
+		UField* Type = nullptr;
+		UECodeGen_Private::EPropertyGenKind UnderlyingKind = UECodeGen_Private::EPropertyGenKind::Byte;
+	};
 	bool DescribeNamed(const HeaderParser::FTypeReference& Type, FPropertyDescription& Out);
+	bool FindNamed(const std::string& Name, FNamedType& Out);
 
 	UPackage* GetPackage(const FSource& Source) const;
 	UClass* FindClass(const std::string& CppName);
@@ -70,6 +83,8 @@ private:
 	std::unordered_map<std::string, FClassInProgress> Classes;
 	std::unordered_map<std::string, FStructInProgress> Structs;
 	std::unordered_map<std::string, UEnum*> Enums;
+	std::unordered_map<std::string, const HeaderParser::FEnumDeclaration*> EnumDeclarations;
+	std::unordered_map<std::string, FNamedType> NamedTypes;
 	std::unordered_map<std::string, TDeclared<HeaderParser::FDelegateDeclaration>> DelegateDeclarations;
 	std::unordered_map<std::string, UFunction*> Delegates;
 	std::unordered_map<std::string, UField*> NativeTypes;

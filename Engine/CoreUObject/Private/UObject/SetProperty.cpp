@@ -109,7 +109,8 @@ void FSetProperty::LinkInternal(FArchive& Ar)
 	PropagateFlagsToElement(this, ElementProp, CPF_PropagateToSetElement);
 }
 
-bool FSetProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FSetProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	return ElementProp->ContainsObjectReference(EncounteredStructProps, InReferenceType);
 }
@@ -174,7 +175,8 @@ void FSetProperty::SerializeItem(FArchive& Ar, void* Value, const void* Defaults
 	}
 }
 
-EConvertFromTypeResult FSetProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FSetProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	const FElementReader Reader(ElementProp, Tag.GetType().GetParameter(0));
 	if (!Tag.IsType(GetID()) || !Reader.CanRead())
@@ -197,7 +199,8 @@ void FSetProperty::CollectReferences(void* Value, FReferenceCollector& Collector
 	}
 }
 
-void FSetProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FSetProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FScriptSetHelper Helper(this, PropertyValue);
 	const FPropertyTemporary ElementDefault(ElementProp);
@@ -206,12 +209,14 @@ void FSetProperty::ExportText_Internal(FString& ValueStr, const void* PropertyVa
 	for (FScriptSetHelper::FIterator It(Helper); It; ++It)
 	{
 		ValueStr += It.GetLogicalIndex() > 0 ? TEXT(",") : TEXT("");
-		ElementProp->ExportTextItem_Direct(ValueStr, Helper.GetElementPtr(*It), StructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+		ElementProp->ExportTextItem_Direct(
+			ValueStr, Helper.GetElementPtr(*It), StructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 	}
 	ValueStr += TEXT(")");
 }
 
-const TCHAR* FSetProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FSetProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FScriptSetHelper Helper(this, PropertyValue);
 	const TCHAR* Text = FPropertyHelpers::SkipWhitespace(Buffer);

@@ -38,7 +38,8 @@ bool ReadStringLike(const FPropertyTag& Tag, FArchive& Ar, FString& OutString)
 }
 
 /** A whole buffer when the value stands alone, else a quoted string or a word. Null (and a reported error) when there is neither. */
-const TCHAR* ReadDelimitedString(const FProperty* Property, const TCHAR* Buffer, int32 PortFlags, FOutputDevice* ErrorText, FString& OutString)
+const TCHAR* ReadDelimitedString(
+	const FProperty* Property, const TCHAR* Buffer, int32 PortFlags, FOutputDevice* ErrorText, FString& OutString)
 {
 	if (!(PortFlags & PPF_Delimited))
 	{
@@ -56,7 +57,8 @@ FString FNameProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFla
 	return TEXT("FName");
 }
 
-EConvertFromTypeResult FNameProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FNameProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (Tag.IsType(GetID()))
 	{
@@ -71,7 +73,8 @@ EConvertFromTypeResult FNameProperty::ConvertFromType(const FPropertyTag& Tag, F
 	return EConvertFromTypeResult::Converted;
 }
 
-void FNameProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FNameProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FName Value = GetPropertyValue(PropertyValue);
 	if (PortFlags & PPF_Delimited)
@@ -83,7 +86,8 @@ void FNameProperty::ExportText_Internal(FString& ValueStr, const void* PropertyV
 	ValueStr += Value.ToString();
 }
 
-const TCHAR* FNameProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FNameProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FString Text;
 	const TCHAR* const End = ReadDelimitedString(this, Buffer, PortFlags, ErrorText, Text);
@@ -109,7 +113,8 @@ bool FStrProperty::Identical(const void* A, const void* B, uint32 PortFlags) con
 	return B ? GetPropertyValue(A).Equals(GetPropertyValue(B), ESearchCase::CaseSensitive) : GetPropertyValue(A).IsEmpty();
 }
 
-EConvertFromTypeResult FStrProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FStrProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (Tag.IsType(GetID()))
 	{
@@ -119,7 +124,9 @@ EConvertFromTypeResult FStrProperty::ConvertFromType(const FPropertyTag& Tag, FA
 	{
 		return EConvertFromTypeResult::Converted;
 	}
-	const bool bIsSoftPath = Tag.IsType(TEXT("SoftObjectProperty")) || Tag.IsType(TEXT("SoftClassProperty")) || Tag.IsType(TEXT("AssetObjectProperty")) || (Tag.IsType(TEXT("StructProperty")) && (Tag.StructName == TEXT("SoftObjectPath") || Tag.StructName == TEXT("SoftClassPath")));
+	const bool bIsSoftPath = Tag.IsType(TEXT("SoftObjectProperty")) || Tag.IsType(TEXT("SoftClassProperty")) ||
+		Tag.IsType(TEXT("AssetObjectProperty")) ||
+		(Tag.IsType(TEXT("StructProperty")) && (Tag.StructName == TEXT("SoftObjectPath") || Tag.StructName == TEXT("SoftClassPath")));
 	if (!bIsSoftPath)
 	{
 		return EConvertFromTypeResult::CannotConvert;
@@ -135,13 +142,15 @@ FString FStrProperty::ExportCppHardcodedText(const FString& InSource, const FStr
 	return FPropertyHelpers::QuoteAndEscape(InSource);
 }
 
-void FStrProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FStrProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FString& Value = GetPropertyValue(PropertyValue);
 	ValueStr += PortFlags & PPF_Delimited ? FPropertyHelpers::QuoteAndEscape(Value) : Value;
 }
 
-const TCHAR* FStrProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FStrProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	FString Text;
 	const TCHAR* const End = ReadDelimitedString(this, Buffer, PortFlags, ErrorText, Text);
@@ -165,7 +174,8 @@ bool FTextProperty::Identical_Implementation(const FText& A, const FText& B, uin
 	const TOptional<FString> KeyB = FTextInspector::GetKey(B);
 	const auto IsSame = [](const TOptional<FString>& Left, const TOptional<FString>& Right)
 	{ return Left.Get(FString()).Equals(Right.Get(FString()), ESearchCase::CaseSensitive); };
-	return A.ToString().Equals(B.ToString(), ESearchCase::CaseSensitive) && A.IsCultureInvariant() == B.IsCultureInvariant() && IsSame(SpaceA, SpaceB) && IsSame(KeyA, KeyB);
+	return A.ToString().Equals(B.ToString(), ESearchCase::CaseSensitive) && A.IsCultureInvariant() == B.IsCultureInvariant() &&
+		IsSame(SpaceA, SpaceB) && IsSame(KeyA, KeyB);
 }
 
 bool FTextProperty::Identical(const void* A, const void* B, uint32 PortFlags) const
@@ -178,7 +188,8 @@ void FTextProperty::SerializeItem(FArchive& Ar, void* Value, const void* Default
 	Ar << *GetPropertyValuePtr(Value);
 }
 
-EConvertFromTypeResult FTextProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FTextProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (Tag.IsType(GetID()))
 	{
@@ -193,7 +204,8 @@ EConvertFromTypeResult FTextProperty::ConvertFromType(const FPropertyTag& Tag, F
 	return EConvertFromTypeResult::Converted;
 }
 
-void FTextProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FTextProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	const FText& Value = GetPropertyValue(PropertyValue);
 	if (PortFlags & PPF_PropertyWindow)
@@ -204,8 +216,10 @@ void FTextProperty::ExportText_Internal(FString& ValueStr, const void* PropertyV
 	FTextStringHelper::WriteToBuffer(ValueStr, Value, (PortFlags & PPF_Delimited) != 0);
 }
 
-const TCHAR* FTextProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FTextProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
-	const TCHAR* const End = FTextStringHelper::ReadFromBuffer(Buffer, *GetPropertyValuePtr(PropertyValue), nullptr, nullptr, (PortFlags & PPF_Delimited) != 0);
+	const TCHAR* const End = FTextStringHelper::ReadFromBuffer(
+		Buffer, *GetPropertyValuePtr(PropertyValue), nullptr, nullptr, (PortFlags & PPF_Delimited) != 0);
 	return End ? End : FPropertyHelpers::RefuseText(ErrorText, this, TEXT("is not a text"), Buffer);
 }

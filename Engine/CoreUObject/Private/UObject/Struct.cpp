@@ -1,4 +1,6 @@
 #include "UObject/Class.h"
+
+#include "DeclaredDefaults.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
@@ -52,6 +54,7 @@ void UStruct::FinishDestroy()
 
 void UStruct::DestroyChildPropertiesAndResetPropertyLinks()
 {
+	SetDeclaredDefaults(nullptr);
 	FField* Field = ChildProperties;
 	ChildProperties = nullptr;
 	PropertyLink = RefLink = DestructorLink = PostConstructLink = nullptr;
@@ -150,7 +153,8 @@ void UStruct::RebuildBaseChain()
 	}
 	BaseChain.Add(this);
 	Depth = BaseChain.Num() - 1;
-	if (const TArray<UClass*>* const Derived = GetClass() && IsA<UClass>() ? FUObjectHashTables::Get().FindDirectSubclasses(static_cast<UClass*>(this)) : nullptr)
+	if (const TArray<UClass*>* const Derived =
+			GetClass() && IsA<UClass>() ? FUObjectHashTables::Get().FindDirectSubclasses(static_cast<UClass*>(this)) : nullptr)
 	{
 		for (UClass* const Class : *Derived)
 		{
@@ -269,6 +273,7 @@ void UStruct::InitializeStruct(void* Dest, int32 ArrayDim) const
 				Property->InitializeValue_InContainer(Element);
 			}
 		}
+		ApplyDeclaredDefaults(Element);
 	}
 }
 

@@ -78,7 +78,8 @@ void FStructProperty::LinkInternal(FArchive& Ar)
 	}
 }
 
-bool FStructProperty::ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
+bool FStructProperty::ContainsObjectReference(
+	TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const
 {
 	if (!Struct || EncounteredStructProps.Contains(this))
 	{
@@ -129,7 +130,8 @@ void FStructProperty::SerializeItem(FArchive& Ar, void* Value, const void* Defau
 	}
 }
 
-EConvertFromTypeResult FStructProperty::ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
+EConvertFromTypeResult FStructProperty::ConvertFromType(
+	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
 	if (!Struct)
 	{
@@ -164,7 +166,8 @@ void FStructProperty::CollectReferences(void* Value, FReferenceCollector& Collec
 	}
 }
 
-void FStructProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
+void FStructProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+	int32 PortFlags, UObject* ExportRootScope) const
 {
 	if (Struct)
 	{
@@ -172,7 +175,8 @@ void FStructProperty::ExportText_Internal(FString& ValueStr, const void* Propert
 	}
 }
 
-const TCHAR* FStructProperty::ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
+const TCHAR* FStructProperty::ImportText_Internal(
+	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
 	if (!Struct)
 	{

@@ -104,7 +104,8 @@ void Warn(FOutputDevice* Device, const FString& Message)
 }
 }
 
-const TCHAR* FProperty::ImportSingleProperty(const TCHAR* Str, void* DestData, const UStruct* ObjectStruct, UObject* SubobjectOuter, int32 PortFlags, FOutputDevice* Warnings, TArray<FDefinedProperty>& DefinedProperties)
+const TCHAR* FProperty::ImportSingleProperty(const TCHAR* Str, void* DestData, const UStruct* ObjectStruct, UObject* SubobjectOuter,
+	int32 PortFlags, FOutputDevice* Warnings, TArray<FDefinedProperty>& DefinedProperties)
 {
 	const TCHAR* const Start = FPropertyHelpers::SkipWhitespace(Str);
 	const TCHAR* const Equals = FindEquals(Start);
@@ -123,10 +124,13 @@ const TCHAR* FProperty::ImportSingleProperty(const TCHAR* Str, void* DestData, c
 		return SkipMemberValue(Value);
 	}
 	const FArrayProperty* const Array = CastField<FArrayProperty>(Property);
-	const bool bIsArrayElement = Array && Key.Name != WholeName;
+	// An index means an element of the static array where the member is one, even of arrays.
+	const bool bIsArrayElement = Array && Property->ArrayDim == 1 && Key.Name != WholeName;
 	if (Key.Index < 0 || (!bIsArrayElement && Key.Index >= Property->ArrayDim))
 	{
-		Warn(Warnings, FString::Printf(TEXT("Out of bound array default property (%d/%d) in %s: %s"), Key.Index, Property->ArrayDim, *ObjectStruct->GetName(), *Key.Name));
+		Warn(Warnings,
+			FString::Printf(TEXT("Out of bound array default property (%d/%d) in %s: %s"), Key.Index, Property->ArrayDim,
+				*ObjectStruct->GetName(), *Key.Name));
 		return SkipMemberValue(Value);
 	}
 	const FDefinedProperty Defined{Property, Key.Index};
@@ -137,23 +141,28 @@ const TCHAR* FProperty::ImportSingleProperty(const TCHAR* Str, void* DestData, c
 	DefinedProperties.AddUnique(Defined);
 	if (!bIsArrayElement)
 	{
-		return Property->ImportText_Direct(Value, Property->ContainerPtrToValuePtr<void>(DestData, Key.Index), SubobjectOuter, PortFlags | PPF_Delimited, Warnings);
+		return Property->ImportText_Direct(
+			Value, Property->ContainerPtrToValuePtr<void>(DestData, Key.Index), SubobjectOuter, PortFlags | PPF_Delimited, Warnings);
 	}
 	// An index in text is not a size to trust: elements come one after the other.
 	FScriptArrayHelper Helper(Array, Array->ContainerPtrToValuePtr<void>(DestData));
 	if (Key.Index > Helper.Num())
 	{
-		Warn(Warnings, FString::Printf(TEXT("Out of bound array default property (%d/%d) in %s: %s"), Key.Index, Helper.Num(), *ObjectStruct->GetName(), *Key.Name));
+		Warn(Warnings,
+			FString::Printf(TEXT("Out of bound array default property (%d/%d) in %s: %s"), Key.Index, Helper.Num(),
+				*ObjectStruct->GetName(), *Key.Name));
 		return SkipMemberValue(Value);
 	}
 	Helper.ExpandForIndex(Key.Index);
 	return Array->Inner->ImportText_Direct(Value, Helper.GetRawPtr(Key.Index), SubobjectOuter, PortFlags | PPF_Delimited, Warnings);
 }
 
-void UScriptStruct::ExportText(FString& ValueStr, const void* Value, const void* Defaults, UObject* OwnerObject, int32 PortFlags, UObject* ExportRootScope, bool bAllowNativeOverride) const
+void UScriptStruct::ExportText(FString& ValueStr, const void* Value, const void* Defaults, UObject* OwnerObject, int32 PortFlags,
+	UObject* ExportRootScope, bool bAllowNativeOverride) const
 {
 	ICppStructOps* const Ops = GetCppStructOps();
-	if (bAllowNativeOverride && Ops && Ops->HasExportTextItem() && Ops->ExportTextItem(ValueStr, Value, Defaults, OwnerObject, PortFlags, ExportRootScope))
+	if (bAllowNativeOverride && Ops && Ops->HasExportTextItem() &&
+		Ops->ExportTextItem(ValueStr, Value, Defaults, OwnerObject, PortFlags, ExportRootScope))
 	{
 		return;
 	}
@@ -168,21 +177,25 @@ void UScriptStruct::ExportText(FString& ValueStr, const void* Value, const void*
 		}
 		for (int32 Index = 0; Index < It->ArrayDim; ++Index)
 		{
-			FString InnerValue;
-			if (!It->ExportText_InContainer(Index, InnerValue, Value, PortFlags & PPF_ExternalEditor ? nullptr : MemberDefaults, OwnerObject, PortFlags | PPF_Delimited, ExportRootScope))
+			// The name is written first and taken back where the value turns out to be the default.
+			const int32 Start = ValueStr.Len();
+			ValueStr += Count == 0 ? TEXT("(") : TEXT(",");
+			ValueStr += PortFlags & (PPF_ExternalEditor | PPF_BlueprintDebugView) ? It->GetAuthoredName() : It->GetName();
+			ValueStr += It->ArrayDim == 1 ? FString(TEXT("=")) : FString::Printf(TEXT("[%i]="), Index);
+			const void* const Diff = PortFlags & PPF_ExternalEditor ? nullptr : MemberDefaults;
+			if (It->ExportText_InContainer(Index, ValueStr, Value, Diff, OwnerObject, PortFlags | PPF_Delimited, ExportRootScope))
 			{
+				++Count;
 				continue;
 			}
-			ValueStr += Count++ == 0 ? TEXT("(") : TEXT(",");
-			const FString MemberName = PortFlags & (PPF_ExternalEditor | PPF_BlueprintDebugView) ? It->GetAuthoredName() : It->GetName();
-			ValueStr += It->ArrayDim == 1 ? FString::Printf(TEXT("%s="), *MemberName) : FString::Printf(TEXT("%s[%i]="), *MemberName, Index);
-			ValueStr += InnerValue;
+			ValueStr.LeftInline(Start);
 		}
 	}
 	ValueStr += Count > 0 ? TEXT(")") : TEXT("()");
 }
 
-const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText, const FString& StructName, bool bAllowNativeOverride) const
+const TCHAR* UScriptStruct::ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText,
+	const FString& StructName, bool bAllowNativeOverride) const
 {
 	ICppStructOps* const Ops = GetCppStructOps();
 	if (bAllowNativeOverride && Ops && Ops->HasImportTextItem())

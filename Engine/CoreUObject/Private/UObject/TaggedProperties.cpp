@@ -14,7 +14,8 @@ bool SavesDifferences(const FArchive& Ar)
 
 bool HasClassControlByte(const FArchive& Ar, const UStruct* Struct)
 {
-	return Struct->IsA(UClass::StaticClass()) && Ar.UEVer() >= EUnrealEngineObjectUE5Version::PROPERTY_TAG_EXTENSION_AND_OVERRIDABLE_SERIALIZATION;
+	return Struct->IsA(UClass::StaticClass()) &&
+		Ar.UEVer() >= EUnrealEngineObjectUE5Version::PROPERTY_TAG_EXTENSION_AND_OVERRIDABLE_SERIALIZATION;
 }
 
 /** Flags before an object's properties: whether it overrides its archetype's values by operations. */
@@ -60,7 +61,8 @@ void KeepUnknown(FArchive& Ar, const FPropertyTag& Tag, int64 Start)
 }
 
 /** Reads the value after a tag. False when it has no place here. */
-bool ReadValue(FArchive& Ar, const FPropertyTag& Tag, FProperty* Property, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
+bool ReadValue(FArchive& Ar, const FPropertyTag& Tag, FProperty* Property, const UStruct* Struct, uint8* Data,
+	const UStruct* DefaultsStruct, uint8* Defaults)
 {
 	if (!Property || Tag.ArrayIndex >= Property->ArrayDim)
 	{
@@ -72,7 +74,8 @@ bool ReadValue(FArchive& Ar, const FPropertyTag& Tag, FProperty* Property, const
 		return true;
 	}
 	uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Tag.ArrayIndex);
-	const uint8* const Default = SavesDifferences(Ar) ? Property->ContainerPtrToValuePtrForDefaults<uint8>(DefaultsStruct, Defaults, Tag.ArrayIndex) : nullptr;
+	const uint8* const Default =
+		SavesDifferences(Ar) ? Property->ContainerPtrToValuePtrForDefaults<uint8>(DefaultsStruct, Defaults, Tag.ArrayIndex) : nullptr;
 	const FSerializedPathScope Scope(Property->GetFName(), Tag.ArrayIndex);
 	switch (Property->ConvertFromType(Tag, Ar, Value, const_cast<UStruct*>(Struct), Default))
 	{
@@ -105,13 +108,16 @@ void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, cons
 		{
 			if (Property)
 			{
-				UE_LOG(LogClass, Warning, TEXT("%s: property %s of %s was saved as %s and cannot become %s; its value is kept as it was"), *Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName(), *Tag.GetType().ToString(), *Property->GetClass()->GetName());
+				UE_LOG(LogClass, Warning, TEXT("%s: property %s of %s was saved as %s and cannot become %s; its value is kept as it was"),
+					*Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName(), *Tag.GetType().ToString(),
+					*Property->GetClass()->GetName());
 			}
 			KeepUnknown(Ar, Tag, Start);
 		}
 		if (Ar.IsError())
 		{
-			UE_LOG(LogClass, Error, TEXT("%s: bad value of property %s of %s at offset %lld"), *Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName(), static_cast<long long>(Start));
+			UE_LOG(LogClass, Error, TEXT("%s: bad value of property %s of %s at offset %lld"), *Ar.GetArchiveName(), *Tag.Name.ToString(),
+				*Struct->GetName(), static_cast<long long>(Start));
 			return;
 		}
 		if (Ar.Tell() != Start + Tag.Size)
@@ -180,7 +186,8 @@ void WriteTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, con
 }
 }
 
-void UStruct::SerializeTaggedProperties(FArchive& Ar, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults, const UObject* BreakRecursionIfFullyLoad) const
+void UStruct::SerializeTaggedProperties(
+	FArchive& Ar, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults, const UObject* BreakRecursionIfFullyLoad) const
 {
 	if (IsA(UClass::StaticClass()))
 	{

@@ -37,7 +37,12 @@ UObjectBase::UObjectBase()
 	NamePrivate = Pending.Name;
 	OuterPrivate = Pending.Outer;
 	Pending.Memory = nullptr;
-	if (Pending.bRegister)
+	if (Pending.KnownIndex != INDEX_NONE)
+	{
+		InternalIndex = Pending.KnownIndex;
+		Pending.KnownIndex = INDEX_NONE;
+	}
+	else if (Pending.bRegister)
 	{
 		FObjectBootstrap::Register(this, Pending.InternalFlags);
 	}

@@ -18,7 +18,8 @@ FUObjectItem& ItemOf(const UObjectBaseUtility* Object)
 TCHAR SeparatorBefore(const UObject* Object)
 {
 	const UObject* const Outer = Object->GetOuter();
-	const bool bOuterIsTopLevel = Outer->GetClass() != UPackage::StaticClass() && Outer->GetOuter() && Outer->GetOuter()->GetClass() == UPackage::StaticClass();
+	const bool bOuterIsTopLevel =
+		Outer->GetClass() != UPackage::StaticClass() && Outer->GetOuter() && Outer->GetOuter()->GetClass() == UPackage::StaticClass();
 	return bOuterIsTopLevel ? TCHAR(':') : TCHAR('.');
 }
 
@@ -213,7 +214,8 @@ bool UObjectBaseUtility::IsTemplate(EObjectFlags TemplateTypes) const
 
 bool UObjectBaseUtility::IsDefaultSubobject() const
 {
-	return !HasAnyFlags(RF_ClassDefaultObject) && GetOuter() && (HasAnyFlags(RF_DefaultSubObject) || GetOuter()->HasAnyFlags(RF_ClassDefaultObject));
+	return !HasAnyFlags(RF_ClassDefaultObject) && GetOuter() &&
+		(HasAnyFlags(RF_DefaultSubObject) || GetOuter()->HasAnyFlags(RF_ClassDefaultObject));
 }
 
 bool UObjectBaseUtility::IsA(const UClass* SomeBase) const

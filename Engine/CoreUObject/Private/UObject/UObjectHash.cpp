@@ -193,7 +193,8 @@ bool IsExcluded(const UObject* Object, EObjectFlags ExclusionFlags, EInternalObj
 }
 }
 
-void GetObjectsWithOuter(const UObjectBase* Outer, TArray<UObject*>& Results, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
+void GetObjectsWithOuter(const UObjectBase* Outer, TArray<UObject*>& Results, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags,
+	EInternalObjectFlags ExclusionInternalFlags)
 {
 	const FUObjectHashTables& Tables = FUObjectHashTables::Get();
 	TArray<UObject*> Found;
@@ -213,7 +214,8 @@ void GetObjectsWithOuter(const UObjectBase* Outer, TArray<UObject*>& Results, bo
 	}
 }
 
-void ForEachObjectWithOuter(const UObjectBase* Outer, TFunctionRef<void(UObject*)> Operation, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
+void ForEachObjectWithOuter(const UObjectBase* Outer, TFunctionRef<void(UObject*)> Operation, bool bIncludeNestedObjects,
+	EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
 {
 	ForEachObjectWithOuterBreakable(
 		Outer,
@@ -225,7 +227,8 @@ void ForEachObjectWithOuter(const UObjectBase* Outer, TFunctionRef<void(UObject*
 		bIncludeNestedObjects, ExclusionFlags, ExclusionInternalFlags);
 }
 
-bool ForEachObjectWithOuterBreakable(const UObjectBase* Outer, TFunctionRef<bool(UObject*)> Operation, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
+bool ForEachObjectWithOuterBreakable(const UObjectBase* Outer, TFunctionRef<bool(UObject*)> Operation, bool bIncludeNestedObjects,
+	EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
 {
 	TArray<UObject*> Objects;
 	GetObjectsWithOuter(Outer, Objects, bIncludeNestedObjects, ExclusionFlags, ExclusionInternalFlags);
@@ -270,7 +273,8 @@ void GetDerivedClasses(const UClass* ClassToLookFor, TArray<UClass*>& Results, b
 	}
 }
 
-void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results, bool bIncludeDerivedClasses, EObjectFlags ExcludeFlags, EInternalObjectFlags ExclusionInternalFlags)
+void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results, bool bIncludeDerivedClasses, EObjectFlags ExcludeFlags,
+	EInternalObjectFlags ExclusionInternalFlags)
 {
 	TArray<UClass*> Classes;
 	Classes.Add(const_cast<UClass*>(ClassToLookFor));
@@ -292,7 +296,8 @@ void GetObjectsOfClass(const UClass* ClassToLookFor, TArray<UObject*>& Results, 
 	}
 }
 
-void ForEachObjectOfClass(const UClass* ClassToLookFor, TFunctionRef<void(UObject*)> Operation, bool bIncludeDerivedClasses, EObjectFlags ExcludeFlags, EInternalObjectFlags ExclusionInternalFlags)
+void ForEachObjectOfClass(const UClass* ClassToLookFor, TFunctionRef<void(UObject*)> Operation, bool bIncludeDerivedClasses,
+	EObjectFlags ExcludeFlags, EInternalObjectFlags ExclusionInternalFlags)
 {
 	TArray<UObject*> Objects;
 	GetObjectsOfClass(ClassToLookFor, Objects, bIncludeDerivedClasses, ExcludeFlags, ExclusionInternalFlags);
@@ -308,7 +313,8 @@ bool ClassHasInstancesAsyncLoading(const UClass* ClassToLookFor)
 	return false;
 }
 
-void GetObjectsWithPackage(const UPackage* Outer, TArray<UObject*>& Results, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
+void GetObjectsWithPackage(const UPackage* Outer, TArray<UObject*>& Results, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags,
+	EInternalObjectFlags ExclusionInternalFlags)
 {
 	TArray<UObject*> Inside;
 	GetObjectsWithOuter(Outer, Inside, bIncludeNestedObjects, ExclusionFlags, ExclusionInternalFlags);
@@ -323,14 +329,16 @@ void GetObjectsWithPackage(const UPackage* Outer, TArray<UObject*>& Results, boo
 	for (int32 Index = 0; Index < GUObjectArray.GetObjectArrayNum(); ++Index)
 	{
 		UObject* const Object = static_cast<UObject*>(GUObjectArray.IndexToObjectUnsafe(Index).Object);
-		if (Object && Object->HasAnyFlags(RF_HasExternalPackage) && Object->GetExternalPackage() == Outer && !Object->IsIn(Outer) && !IsExcluded(Object, ExclusionFlags, ExclusionInternalFlags))
+		if (Object && Object->HasAnyFlags(RF_HasExternalPackage) && Object->GetExternalPackage() == Outer && !Object->IsIn(Outer) &&
+			!IsExcluded(Object, ExclusionFlags, ExclusionInternalFlags))
 		{
 			Results.Add(Object);
 		}
 	}
 }
 
-void ForEachObjectWithPackage(const UPackage* Outer, TFunctionRef<bool(UObject*)> Operation, bool bIncludeNestedObjects, EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
+void ForEachObjectWithPackage(const UPackage* Outer, TFunctionRef<bool(UObject*)> Operation, bool bIncludeNestedObjects,
+	EObjectFlags ExclusionFlags, EInternalObjectFlags ExclusionInternalFlags)
 {
 	TArray<UObject*> Objects;
 	GetObjectsWithPackage(Outer, Objects, bIncludeNestedObjects, ExclusionFlags, ExclusionInternalFlags);

@@ -14,7 +14,8 @@ public:
 	static bool TryConvertFilenameToLongPackageName(const FString& InFilename, FString& OutPackageName, FString* OutFailureReason = nullptr);
 	/** Empty when the file is below no mount point, which is logged. */
 	static FString FilenameToLongPackageName(const FString& InFilename);
-	static bool TryConvertLongPackageNameToFilename(const FString& InLongPackageName, FString& OutFilename, const FString& InExtension = TEXT(""));
+	static bool TryConvertLongPackageNameToFilename(
+		const FString& InLongPackageName, FString& OutFilename, const FString& InExtension = TEXT(""));
 	/** The file's path without an extension unless one is given; empty when no mount point fits. */
 	static FString LongPackageNameToFilename(const FString& InLongPackageName, const FString& InExtension = TEXT(""));
 
@@ -49,5 +50,6 @@ public:
 	static void RegisterMountPoint(const FString& RootPath, const FString& ContentPath);
 	static void UnRegisterMountPoint(const FString& RootPath, const FString& ContentPath);
 	static bool MountPointExists(const FString& RootPath);
-	static void QueryRootContentPaths(TArray<FString>& OutRootContentPaths, bool bIncludeReadOnlyRoots = false, bool bWithoutLeadingSlashes = false, bool bWithoutTrailingSlashes = false);
+	static void QueryRootContentPaths(TArray<FString>& OutRootContentPaths, bool bIncludeReadOnlyRoots = false,
+		bool bWithoutLeadingSlashes = false, bool bWithoutTrailingSlashes = false);
 };

@@ -99,7 +99,9 @@ FORCEINLINE auto CastChecked(From* Src, ECastCheckedType::Type CheckType = ECast
 	auto* const Result = Cast<To>(Src);
 	if (!Result && (Src || CheckType == ECastCheckedType::NullChecked))
 	{
-		CastLogError(Src ? GetFullNameSafe(static_cast<const UObjectBaseUtility*>(UE::CoreUObject::Private::ToObject(Src))) : FString(TEXT("nullptr")), FString(ANSI_TO_TCHAR(typeid(To).name())));
+		CastLogError(Src ? GetFullNameSafe(static_cast<const UObjectBaseUtility*>(UE::CoreUObject::Private::ToObject(Src)))
+						 : FString(TEXT("nullptr")),
+			FString(ANSI_TO_TCHAR(typeid(To).name())));
 	}
 	return Result;
 }

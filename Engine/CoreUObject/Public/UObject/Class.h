@@ -13,6 +13,7 @@ class FStructuredArchiveSlot;
 class UFunction;
 class UPackage;
 class UStruct;
+class FDeclaredDefaults;
 struct FReferenceSchema;
 
 namespace EIncludeSuperFlag
@@ -57,8 +58,10 @@ public:
 	const FString& GetMetaData(const TCHAR* Key) const;
 	const FString& GetMetaData(const FName& Key) const;
 	/** The value as text, found in the localization namespace and key when those are given. */
-	FText GetMetaDataText(const TCHAR* MetaDataKey, const FString LocalizationNamespace = FString(), const FString LocalizationKey = FString()) const;
-	FText GetMetaDataText(const FName& MetaDataKey, const FString LocalizationNamespace = FString(), const FString LocalizationKey = FString()) const;
+	FText GetMetaDataText(
+		const TCHAR* MetaDataKey, const FString LocalizationNamespace = FString(), const FString LocalizationKey = FString()) const;
+	FText GetMetaDataText(
+		const FName& MetaDataKey, const FString LocalizationNamespace = FString(), const FString LocalizationKey = FString()) const;
 	void SetMetaData(const TCHAR* Key, const TCHAR* InValue);
 	void SetMetaData(const FName& Key, const TCHAR* InValue);
 	bool GetBoolMetaData(const TCHAR* Key) const;
@@ -155,7 +158,8 @@ public:
 	void SerializeBin(FArchive& Ar, void* Data) const;
 	void SerializeBinEx(FArchive& Ar, void* Data, const void* DefaultData, const UStruct* DefaultStruct) const;
 	/** Tag and value of every property that differs from Defaults, then None. */
-	virtual void SerializeTaggedProperties(FArchive& Ar, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults, const UObject* BreakRecursionIfFullyLoad = nullptr) const;
+	virtual void SerializeTaggedProperties(FArchive& Ar, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults,
+		const UObject* BreakRecursionIfFullyLoad = nullptr) const;
 
 	/** "A", "U" or "F". */
 	virtual const TCHAR* GetPrefixCPP() const { return TEXT("F"); }
@@ -170,6 +174,12 @@ public:
 	/** What the collector visits in a value of this type. Built at first use, dropped by Link. */
 	const FReferenceSchema& GetReferenceSchema() const;
 
+	/** Values that this struct's own members start with where that is not zero. Takes them over. */
+	void SetDeclaredDefaults(FDeclaredDefaults* InDefaults);
+	void ApplyOwnDeclaredDefaults(void* Container) const;
+	/** Of the supers too, root first. */
+	void ApplyDeclaredDefaults(void* Container) const;
+
 protected:
 	void RebuildBaseChain();
 	void DropReferenceSchema();
@@ -180,6 +190,7 @@ private:
 	TArray<const UStruct*> BaseChain;
 	int32 Depth = 0;
 	mutable FReferenceSchema* ReferenceSchema = nullptr;
+	FDeclaredDefaults* DeclaredDefaults = nullptr;
 
 	friend struct FObjectBootstrap;
 };
@@ -217,8 +228,10 @@ public:
 	virtual void SerializeItem(FArchive& Ar, void* Value, void const* Defaults);
 
 	/** Whole values in their text form; see FProperty for arguments. */
-	void ExportText(FString& ValueStr, const void* Value, const void* Defaults, UObject* OwnerObject, int32 PortFlags, UObject* ExportRootScope, bool bAllowNativeOverride = true) const;
-	const TCHAR* ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText, const FString& StructName, bool bAllowNativeOverride = true) const;
+	void ExportText(FString& ValueStr, const void* Value, const void* Defaults, UObject* OwnerObject, int32 PortFlags,
+		UObject* ExportRootScope, bool bAllowNativeOverride = true) const;
+	const TCHAR* ImportText(const TCHAR* Buffer, void* Value, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText,
+		const FString& StructName, bool bAllowNativeOverride = true) const;
 
 	/** Null for a struct that has no C++ type. */
 	FORCEINLINE ICppStructOps* GetCppStructOps() const { return CppStructOps; }
@@ -290,7 +303,8 @@ public:
 
 class COREUOBJECT_API USparseDelegateFunction : public UDelegateFunction
 {
-	DECLARE_CASTED_CLASS_INTRINSIC(USparseDelegateFunction, UDelegateFunction, CLASS_None, "/Script/CoreUObject", CASTCLASS_USparseDelegateFunction)
+	DECLARE_CASTED_CLASS_INTRINSIC(
+		USparseDelegateFunction, UDelegateFunction, CLASS_None, "/Script/CoreUObject", CASTCLASS_USparseDelegateFunction)
 
 public:
 	FName OwningClassName;
@@ -373,7 +387,8 @@ public:
 
 	// Definition
 	/** Replaces the enumerators and, when asked, appends the _MAX of the form. */
-	virtual bool SetEnums(const TArray<TPair<FName, int64>>& InNames, ECppForm InCppForm, EEnumFlags InFlags = EEnumFlags::None, bool bAddMaxKeyIfMissing = true);
+	virtual bool SetEnums(const TArray<TPair<FName, int64>>& InNames, ECppForm InCppForm, EEnumFlags InFlags = EEnumFlags::None,
+		bool bAddMaxKeyIfMissing = true);
 	/** "EDoor" of EDoor::Open..., the longest prefix that all enumerators share for a regular one. */
 	FString GenerateEnumPrefix() const;
 	virtual FString GenerateFullEnumName(const TCHAR* InEnumName) const;
@@ -455,6 +470,8 @@ public:
 	bool bNeedsDynamicSubobjectInstancing = false;
 	/** Declared by a header without C++: native to everybody but the allocator and the collector. */
 	bool bLaidOutAtRunTime = false;
+	/** Made for a class that this host does not have; see UObject/PlaceholderObject.h. */
+	bool bStandsInForUnknown = false;
 	TArray<FImplementedInterface> Interfaces;
 	TObjectPtr<UObject> ClassDefaultObject = nullptr;
 
@@ -502,6 +519,8 @@ public:
 
 	// Functions
 	void AddFunctionToFunctionMap(UFunction* Function, FName FuncName);
+	/** As many calls of the above, but the caches of derived classes are cleared only once. */
+	void AddFunctionsToFunctionMap(TConstArrayView<UFunction*> Functions);
 	void RemoveFunctionFromFunctionMap(UFunction* Function);
 	void ClearFunctionMapsCaches() { SuperFuncMap.Empty(); }
 	UFunction* FindFunctionByName(FName InName, EIncludeSuperFlag::Type IncludeSuper = EIncludeSuperFlag::IncludeSuper) const;
@@ -545,6 +564,8 @@ public:
 	static UField* TryFindTypeByName(UClass* TypeClass, const FString& InPathNameOrShortName);
 
 private:
+	void ClearFunctionMapsCachesOfFamily();
+
 	TMap<FName, TObjectPtr<UFunction>> FuncMap;
 	mutable TMap<FName, UFunction*> SuperFuncMap;
 };

@@ -22,16 +22,20 @@ class COREUOBJECT_API FStructProperty : public FProperty
 	bool PassCPPArgsByRef() const override { return true; }
 	int32 GetMinAlignment() const override;
 	void LinkInternal(FArchive& Ar) override;
-	bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
+	bool ContainsObjectReference(
+		TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
 	bool ContainsInstancedObjectProperty() const override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 	void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* ReferencingObject) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const override;
 	void InitializeValueInternal(void* Dest) const override;
 	void DestroyValueInternal(void* Dest) const override;
@@ -59,16 +63,20 @@ class COREUOBJECT_API FArrayProperty : public TProperty<FScriptArray, FProperty>
 	bool SameType(const FProperty* Other) const override;
 	bool PassCPPArgsByRef() const override { return true; }
 	void LinkInternal(FArchive& Ar) override;
-	bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
+	bool ContainsObjectReference(
+		TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
 	bool ContainsInstancedObjectProperty() const override { return Inner->ContainsInstancedObjectProperty(); }
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 	void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* ReferencingObject) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const override;
 	void InitializeValueInternal(void* Dest) const override;
 	void DestroyValueInternal(void* Dest) const override;
@@ -98,16 +106,20 @@ class COREUOBJECT_API FSetProperty : public TProperty<FScriptSet, FProperty>
 	bool SameType(const FProperty* Other) const override;
 	bool PassCPPArgsByRef() const override { return true; }
 	void LinkInternal(FArchive& Ar) override;
-	bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
+	bool ContainsObjectReference(
+		TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
 	bool ContainsInstancedObjectProperty() const override { return ElementProp->ContainsInstancedObjectProperty(); }
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 	void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* ReferencingObject) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const override;
 	void InitializeValueInternal(void* Dest) const override;
 	void DestroyValueInternal(void* Dest) const override;
@@ -139,16 +151,23 @@ class COREUOBJECT_API FMapProperty : public TProperty<FScriptMap, FProperty>
 	bool SameType(const FProperty* Other) const override;
 	bool PassCPPArgsByRef() const override { return true; }
 	void LinkInternal(FArchive& Ar) override;
-	bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
-	bool ContainsInstancedObjectProperty() const override { return KeyProp->ContainsInstancedObjectProperty() || ValueProp->ContainsInstancedObjectProperty(); }
+	bool ContainsObjectReference(
+		TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
+	bool ContainsInstancedObjectProperty() const override
+	{
+		return KeyProp->ContainsInstancedObjectProperty() || ValueProp->ContainsInstancedObjectProperty();
+	}
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 	void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* ReferencingObject) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const override;
 	void InitializeValueInternal(void* Dest) const override;
 	void DestroyValueInternal(void* Dest) const override;

@@ -90,7 +90,8 @@ struct COREUOBJECT_API ICppStructOps
 	/** False when the struct cannot compare itself; bOutResult is the answer otherwise. */
 	virtual bool Identical(const void* A, const void* B, uint32 PortFlags, bool& bOutResult) = 0;
 	virtual bool HasExportTextItem() const = 0;
-	virtual bool ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) = 0;
+	virtual bool ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) = 0;
 	virtual bool HasImportTextItem() const = 0;
 	virtual bool ImportTextItem(const TCHAR*& Buffer, void* Data, int32 PortFlags, UObject* OwnerObject, FOutputDevice* ErrorText) = 0;
 	virtual bool HasAddStructReferencedObjects() const = 0;
@@ -102,7 +103,8 @@ struct COREUOBJECT_API ICppStructOps
 	virtual uint32 GetStructTypeHash(const void* Src) = 0;
 	EPropertyFlags GetComputedPropertyFlags() const
 	{
-		return (HasZeroConstructor() ? CPF_ZeroConstructor : CPF_None) | (IsPlainOldData() ? CPF_IsPlainOldData : CPF_None) | (HasDestructor() ? CPF_None : CPF_NoDestructor) | (HasGetTypeHash() ? CPF_HasGetValueTypeHash : CPF_None);
+		return (HasZeroConstructor() ? CPF_ZeroConstructor : CPF_None) | (IsPlainOldData() ? CPF_IsPlainOldData : CPF_None) |
+			(HasDestructor() ? CPF_None : CPF_NoDestructor) | (HasGetTypeHash() ? CPF_HasGetValueTypeHash : CPF_None);
 	}
 
 private:
@@ -218,13 +220,15 @@ struct TCppStructOps final : public ICppStructOps
 		}
 	}
 	bool HasExportTextItem() const override { return TTraits::WithExportTextItem; }
-	bool ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) override
+	bool ExportTextItem(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) override
 	{
 		if constexpr (TTraits::WithExportTextItem)
 		{
 			// A struct without a default to compare with still gets a default value to refer to.
 			const CPPSTRUCT* const Value = static_cast<const CPPSTRUCT*>(PropertyValue);
-			return Value->ExportTextItem(ValueStr, DefaultValue ? *static_cast<const CPPSTRUCT*>(DefaultValue) : *Value, Parent, PortFlags, ExportRootScope);
+			return Value->ExportTextItem(
+				ValueStr, DefaultValue ? *static_cast<const CPPSTRUCT*>(DefaultValue) : *Value, Parent, PortFlags, ExportRootScope);
 		}
 		else
 		{

@@ -18,12 +18,15 @@ class COREUOBJECT_API FDelegateProperty : public TProperty<FScriptDelegate, FPro
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool SameType(const FProperty* Other) const override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
+	bool ContainsObjectReference(
+		TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 };
 
 class COREUOBJECT_API FMulticastDelegateProperty : public TProperty<FMulticastScriptDelegate, FProperty>
@@ -34,7 +37,10 @@ class COREUOBJECT_API FMulticastDelegateProperty : public TProperty<FMulticastSc
 	UFunction* SignatureFunction = nullptr;
 
 	const FMulticastScriptDelegate* GetMulticastDelegate(const void* PropertyValue) const { return GetPropertyValuePtr(PropertyValue); }
-	void SetMulticastDelegate(void* PropertyValue, FMulticastScriptDelegate ScriptDelegate) const { SetPropertyValue(PropertyValue, ScriptDelegate); }
+	void SetMulticastDelegate(void* PropertyValue, FMulticastScriptDelegate ScriptDelegate) const
+	{
+		SetPropertyValue(PropertyValue, ScriptDelegate);
+	}
 	void AddDelegate(FScriptDelegate ScriptDelegate, UObject* Parent = nullptr, void* PropertyValue = nullptr) const;
 	void RemoveDelegate(const FScriptDelegate& ScriptDelegate, UObject* Parent = nullptr, void* PropertyValue = nullptr) const;
 	void ClearDelegate(UObject* Parent = nullptr, void* PropertyValue = nullptr) const;
@@ -45,12 +51,15 @@ class COREUOBJECT_API FMulticastDelegateProperty : public TProperty<FMulticastSc
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool SameType(const FProperty* Other) const override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
-	bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
+	bool ContainsObjectReference(
+		TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 
 private:
 	FMulticastScriptDelegate& ResolveDelegate(UObject* Parent, void* PropertyValue) const;

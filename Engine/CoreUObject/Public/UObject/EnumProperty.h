@@ -25,11 +25,14 @@ class COREUOBJECT_API FEnumProperty : public FProperty
 	void LinkInternal(FArchive& Ar) override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const override;
 	void InitializeValueInternal(void* Dest) const override;
 	void DestroyValueInternal(void* Dest) const override {}

@@ -212,7 +212,8 @@ public:
 	/** Empty where the key is missing. */
 	const FString& GetMetaData(const TCHAR* Key) const;
 	const FString& GetMetaData(const FName& Key) const;
-	FText GetMetaDataText(const TCHAR* MetaDataKey, const FString LocalizationNamespace = FString(), const FString LocalizationKey = FString()) const;
+	FText GetMetaDataText(
+		const TCHAR* MetaDataKey, const FString LocalizationNamespace = FString(), const FString LocalizationKey = FString()) const;
 	void SetMetaData(const TCHAR* Key, const TCHAR* InValue);
 	void SetMetaData(const FName& Key, const TCHAR* InValue);
 	void SetMetaData(const TCHAR* Key, FString&& InValue);
@@ -237,7 +238,8 @@ public:
 	FText GetToolTipText(bool bShortTooltip = false) const;
 
 	/** Null when no class of that name is known or it is abstract. */
-	static FField* TryConstruct(const FName& FieldTypeName, const FFieldVariant& InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
+	static FField* TryConstruct(
+		const FName& FieldTypeName, const FFieldVariant& InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
 	static FField* Construct(const FName& FieldTypeName, const FFieldVariant& InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
 	/** A copy of the definition (and its metadata) for another owner. */
 	static FField* Duplicate(const FField* InField, const FFieldVariant& DestOwner, const FName DestName = NAME_None);

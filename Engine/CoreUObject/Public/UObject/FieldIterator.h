@@ -56,7 +56,9 @@ public:
 	TFieldIterator(const UStruct* InStruct, EFieldIteratorFlags::SuperClassFlags InSuper,
 		EFieldIteratorFlags::DeprecatedPropertyFlags InDeprecated = EFieldIteratorFlags::IncludeDeprecated,
 		EFieldIteratorFlags::InterfaceClassFlags InInterface = EFieldIteratorFlags::ExcludeInterfaces)
-		: TFieldIterator(InStruct, static_cast<EFieldIterationFlags>(static_cast<int32>(InSuper) | static_cast<int32>(InDeprecated) | static_cast<int32>(InInterface)))
+		: TFieldIterator(InStruct,
+			  static_cast<EFieldIterationFlags>(
+				  static_cast<int32>(InSuper) | static_cast<int32>(InDeprecated) | static_cast<int32>(InInterface)))
 	{
 	}
 
@@ -95,7 +97,8 @@ private:
 	{
 		if constexpr (std::is_same_v<FLink, FField>)
 		{
-			return Field->template IsA<FieldType>() && (EnumHasAnyFlags(Flags, EFieldIterationFlags::IncludeDeprecated) || !IsDeprecatedField(Field));
+			return Field->template IsA<FieldType>() &&
+				(EnumHasAnyFlags(Flags, EFieldIterationFlags::IncludeDeprecated) || !IsDeprecatedField(Field));
 		}
 		else
 		{

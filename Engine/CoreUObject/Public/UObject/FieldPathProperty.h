@@ -18,6 +18,8 @@ class COREUOBJECT_API FFieldPathProperty : public TProperty_WithEqualityAndSeria
 	bool SameType(const FProperty* Other) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 };

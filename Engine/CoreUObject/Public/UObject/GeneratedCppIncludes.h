@@ -193,7 +193,7 @@ COREUOBJECT_API UFunction* ConstructFunction(UFunction*& Singleton, const FFunct
 /** A static of one of these in each emitted file puts the file's types in the queue of ProcessNewlyLoadedUObjects(). */
 struct FRegisterCompiledIn
 {
-	COREUOBJECT_API FRegisterCompiledIn(
-		UClass* (*const* Classes)(), int32 NumClasses, UScriptStruct* (*const* Structs)(), int32 NumStructs, UEnum* (*const* Enums)(), int32 NumEnums);
+	COREUOBJECT_API FRegisterCompiledIn(UClass* (*const* Classes)(), int32 NumClasses, UScriptStruct* (*const* Structs)(),
+		int32 NumStructs, UEnum* (*const* Enums)(), int32 NumEnums);
 };
 }

@@ -44,7 +44,9 @@ struct FGuid
 };
 
 /** A point or vector in 3-D space. */
-USTRUCT(immutable, noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector"))
+USTRUCT(immutable, noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector"))
 struct FVector
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Vector, SaveGame)
@@ -56,7 +58,9 @@ struct FVector
 };
 
 /** A point or vector in 3-D space, in single precision. */
-USTRUCT(immutable, noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector3f", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector3f"))
+USTRUCT(immutable, noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector3f",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector3f"))
 struct FVector3f
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Vector3f, SaveGame)
@@ -68,7 +72,9 @@ struct FVector3f
 };
 
 /** A vector in 4-D space. */
-USTRUCT(immutable, noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector4", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector4"))
+USTRUCT(immutable, noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector4",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector4"))
 struct FVector4
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Vector4, SaveGame)
@@ -82,7 +88,9 @@ struct FVector4
 };
 
 /** A point or vector in 2-D space. */
-USTRUCT(immutable, noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector2D", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector2D"))
+USTRUCT(immutable, noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector2D",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakVector2D"))
 struct FVector2D
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Vector2D, SaveGame)
@@ -100,7 +108,9 @@ struct FPlane : public FVector
 };
 
 /** A rotation around the three axes, in degrees. */
-USTRUCT(immutable, noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeRotator", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakRotator"))
+USTRUCT(immutable, noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeRotator",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakRotator"))
 struct FRotator
 {
 	/** Rotation around the right axis: looking up and down. */
@@ -115,7 +125,8 @@ struct FRotator
 };
 
 /** A rotation as a quaternion. */
-USTRUCT(immutable, noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeQuat", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakQuat"))
+USTRUCT(immutable, noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeQuat", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakQuat"))
 struct FQuat
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Quat, SaveGame)
@@ -143,7 +154,9 @@ struct FMatrix
 };
 
 /** A rotation, a translation and a scale, applied scale first. */
-USTRUCT(noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeTransform", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakTransform"))
+USTRUCT(noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeTransform",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakTransform"))
 struct FTransform
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Transform, SaveGame)
@@ -217,7 +230,9 @@ struct FBox
 };
 
 /** A stream of random numbers that a seed repeats. */
-USTRUCT(noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeRandomStream", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakRandomStream"))
+USTRUCT(noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeRandomStream",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakRandomStream"))
 struct FRandomStream
 {
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = RandomStream, SaveGame)
@@ -227,14 +242,18 @@ struct FRandomStream
 };
 
 /** A date and time. */
-USTRUCT(noexport, immutable, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeDateTime", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakDateTime"))
+USTRUCT(noexport, immutable, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeDateTime",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakDateTime"))
 struct FDateTime
 {
 	int64 Ticks;
 };
 
 /** A span of time. */
-USTRUCT(noexport, immutable, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeTimespan", HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakTimespan"))
+USTRUCT(noexport, immutable, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeTimespan",
+		HasNativeBreak = "/Script/Engine.KismetMathLibrary.BreakTimespan"))
 struct FTimespan
 {
 	int64 Ticks;
@@ -251,7 +270,9 @@ struct FTopLevelAssetPath
 };
 
 /** The path of an object that need not be loaded. */
-USTRUCT(noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetSystemLibrary.MakeSoftObjectPath", HasNativeBreak = "/Script/Engine.KismetSystemLibrary.BreakSoftObjectPath"))
+USTRUCT(noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetSystemLibrary.MakeSoftObjectPath",
+		HasNativeBreak = "/Script/Engine.KismetSystemLibrary.BreakSoftObjectPath"))
 struct FSoftObjectPath
 {
 	UPROPERTY()
@@ -261,7 +282,9 @@ struct FSoftObjectPath
 };
 
 /** The path of a class that need not be loaded. */
-USTRUCT(noexport, BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetSystemLibrary.MakeSoftClassPath", HasNativeBreak = "/Script/Engine.KismetSystemLibrary.BreakSoftClassPath"))
+USTRUCT(noexport, BlueprintType,
+	meta = (HasNativeMake = "/Script/Engine.KismetSystemLibrary.MakeSoftClassPath",
+		HasNativeBreak = "/Script/Engine.KismetSystemLibrary.BreakSoftClassPath"))
 struct FSoftClassPath : public FSoftObjectPath
 {
 };

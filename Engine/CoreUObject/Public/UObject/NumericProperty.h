@@ -24,12 +24,17 @@ class COREUOBJECT_API FNumericProperty : public FProperty
 	virtual uint64 GetUnsignedIntPropertyValue(const void* Data) const = 0;
 	virtual double GetFloatingPointPropertyValue(const void* Data) const = 0;
 	virtual FString GetNumericPropertyValueToString(const void* Data) const = 0;
-	int64 GetSignedIntPropertyValue_InContainer(const void* Container, int32 ArrayIndex = 0) const { return GetSignedIntPropertyValue(ContainerPtrToValuePtr<void>(Container, ArrayIndex)); }
+	int64 GetSignedIntPropertyValue_InContainer(const void* Container, int32 ArrayIndex = 0) const
+	{
+		return GetSignedIntPropertyValue(ContainerPtrToValuePtr<void>(Container, ArrayIndex));
+	}
 
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 
 protected:
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 };
 
 /** What the number properties share; instantiated in NumericProperty.cpp. */
@@ -54,7 +59,8 @@ public:
 	FString GetNumericPropertyValueToString(const void* Data) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
 };
 
 class COREUOBJECT_API FInt8Property : public TProperty_Numeric<int8>
@@ -116,11 +122,14 @@ class COREUOBJECT_API FByteProperty : public TProperty_Numeric<uint8>
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	UEnum* GetIntPropertyEnum() const override { return Enum; }
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 };
 
 /** A native `bool`, or one bit of a byte. */
@@ -132,8 +141,14 @@ class COREUOBJECT_API FBoolProperty : public FProperty
 	void SetBoolSize(uint32 InSize, bool bIsNativeBool = false, uint32 InBitMask = 0);
 	bool GetPropertyValue(const void* A) const;
 	void SetPropertyValue(void* A, bool Value) const;
-	bool GetPropertyValue_InContainer(const void* A, int32 ArrayIndex = 0) const { return GetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex)); }
-	void SetPropertyValue_InContainer(void* A, bool Value, int32 ArrayIndex = 0) const { SetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex), Value); }
+	bool GetPropertyValue_InContainer(const void* A, int32 ArrayIndex = 0) const
+	{
+		return GetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex));
+	}
+	void SetPropertyValue_InContainer(void* A, bool Value, int32 ArrayIndex = 0) const
+	{
+		SetPropertyValue(ContainerPtrToValuePtr<void>(A, ArrayIndex), Value);
+	}
 	bool GetOptionalPropertyValue(const void* A) const { return A && GetPropertyValue(A); }
 	bool IsNativeBool() const { return FieldMask == 0xff; }
 	uint8 GetFieldMask() const { return FieldMask; }
@@ -148,11 +163,14 @@ class COREUOBJECT_API FBoolProperty : public FProperty
 	int32 SetupOffset(int32 Offset) override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
-	EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
+	EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults) override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const override;
 	void InitializeValueInternal(void* Dest) const override;
 	void DestroyValueInternal(void* Dest) const override {}

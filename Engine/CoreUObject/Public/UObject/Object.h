@@ -105,7 +105,10 @@ public:
 	virtual bool NeedsLoadForClient() const { return true; }
 	virtual bool NeedsLoadForServer() const { return true; }
 	virtual bool IsPostLoadThreadSafe() const { return false; }
-	virtual bool IsNameStableForNetworking() const { return HasAnyFlags(static_cast<EObjectFlags>(RF_WasLoaded | RF_DefaultSubObject)) || IsNative(); }
+	virtual bool IsNameStableForNetworking() const
+	{
+		return HasAnyFlags(static_cast<EObjectFlags>(RF_WasLoaded | RF_DefaultSubObject)) || IsNative();
+	}
 	virtual bool IsSelectable() const { return true; }
 	/** One line about the object for a list. */
 	virtual FString GetDesc() { return FString(); }
@@ -135,7 +138,8 @@ public:
 
 	// Sub-objects
 	/** Only in a constructor: makes a part that every instance has. */
-	UObject* CreateDefaultSubobject(FName SubobjectFName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient);
+	UObject* CreateDefaultSubobject(
+		FName SubobjectFName, UClass* ReturnType, UClass* ClassToCreateByDefault, bool bIsRequired, bool bIsTransient);
 	template <class TReturnType>
 	TReturnType* CreateDefaultSubobject(FName SubobjectName, bool bTransient = false)
 	{
@@ -181,7 +185,8 @@ public:
 
 	// Config
 	/** Reads the config properties from the class's ini; a class default object does so when it is made. */
-	void LoadConfig(UClass* ConfigClass = nullptr, const TCHAR* Filename = nullptr, uint32 PropagationFlags = 0, FProperty* PropertyToLoad = nullptr);
+	void LoadConfig(
+		UClass* ConfigClass = nullptr, const TCHAR* Filename = nullptr, uint32 PropagationFlags = 0, FProperty* PropertyToLoad = nullptr);
 	void SaveConfig(uint64 Flags = CPF_Config, const TCHAR* Filename = nullptr);
 	bool TryUpdateDefaultConfigFile(const FString& SpecificFileLocation = FString());
 

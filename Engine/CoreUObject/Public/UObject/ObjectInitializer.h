@@ -29,7 +29,8 @@ public:
 	/** For an object whose values are left as the constructor set them. */
 	FObjectInitializer();
 	FObjectInitializer(UObject* InObj, const FStaticConstructObjectParameters& StaticConstructParams);
-	FObjectInitializer(UObject* InObj, UObject* InObjectArchetype, EObjectInitializerOptions InOptions, FObjectInstancingGraph* InInstanceGraph = nullptr);
+	FObjectInitializer(UObject* InObj, UObject* InObjectArchetype, EObjectInitializerOptions InOptions,
+		FObjectInstancingGraph* InInstanceGraph = nullptr);
 	~FObjectInitializer();
 	FObjectInitializer(const FObjectInitializer&) = delete;
 	FObjectInitializer& operator=(const FObjectInitializer&) = delete;
@@ -41,7 +42,8 @@ public:
 	UObject* GetArchetype() const { return ObjectArchetype; }
 	UClass* GetClass() const;
 
-	UObject* CreateDefaultSubobject(UObject* Outer, FName SubobjectFName, const UClass* ReturnType, const UClass* ClassToCreateByDefault, bool bIsRequired = true, bool bIsTransient = false) const;
+	UObject* CreateDefaultSubobject(UObject* Outer, FName SubobjectFName, const UClass* ReturnType, const UClass* ClassToCreateByDefault,
+		bool bIsRequired = true, bool bIsTransient = false) const;
 	template <class TReturnType>
 	TReturnType* CreateDefaultSubobject(UObject* Outer, FName SubobjectName, bool bTransient = false) const
 	{

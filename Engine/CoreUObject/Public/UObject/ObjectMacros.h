@@ -61,7 +61,8 @@ ENUM_CLASS_FLAGS(EObjectFlags)
 
 #define RF_AllFlags ((EObjectFlags)0xffffffff)
 #define RF_Load \
-	((EObjectFlags)(RF_Public | RF_Standalone | RF_Transactional | RF_ClassDefaultObject | RF_ArchetypeObject | RF_DefaultSubObject | RF_TextExportTransient | RF_InheritableComponentTemplate | RF_DuplicateTransient | RF_NonPIEDuplicateTransient))
+	((EObjectFlags)(RF_Public | RF_Standalone | RF_Transactional | RF_ClassDefaultObject | RF_ArchetypeObject | RF_DefaultSubObject | \
+		RF_TextExportTransient | RF_InheritableComponentTemplate | RF_DuplicateTransient | RF_NonPIEDuplicateTransient))
 #define RF_PropagateToSubObjects ((EObjectFlags)(RF_Public | RF_ArchetypeObject | RF_Transactional | RF_Transient))
 
 /** Flags kept in the object array, not in the object. */
@@ -123,7 +124,10 @@ ENUM_CLASS_FLAGS(EClassFlags)
 
 /** Flags that a class takes from its super class. */
 #define CLASS_Inherit \
-	((EClassFlags)(CLASS_Transient | CLASS_Optional | CLASS_DefaultConfig | CLASS_Config | CLASS_PerObjectConfig | CLASS_ConfigDoNotCheckDefaults | CLASS_NotPlaceable | CLASS_Const | CLASS_HasInstancedReference | CLASS_Deprecated | CLASS_DefaultToInstanced | CLASS_GlobalUserConfig | CLASS_ProjectUserConfig | CLASS_PerPlatformConfig | CLASS_NeedsDeferredDependencyLoading))
+	((EClassFlags)(CLASS_Transient | CLASS_Optional | CLASS_DefaultConfig | CLASS_Config | CLASS_PerObjectConfig | \
+		CLASS_ConfigDoNotCheckDefaults | CLASS_NotPlaceable | CLASS_Const | CLASS_HasInstancedReference | CLASS_Deprecated | \
+		CLASS_DefaultToInstanced | CLASS_GlobalUserConfig | CLASS_ProjectUserConfig | CLASS_PerPlatformConfig | \
+		CLASS_NeedsDeferredDependencyLoading))
 /** Flags that a Blueprint's class keeps when it is compiled again. */
 #define CLASS_RecompilerClear \
 	((EClassFlags)(CLASS_Inherit | CLASS_Abstract | CLASS_Native | CLASS_Intrinsic | CLASS_TokenStreamAssembled))
@@ -229,7 +233,10 @@ enum EStructFlags
 	STRUCT_Visitor = 0x04000000,
 
 	STRUCT_Inherit = STRUCT_HasInstancedReference | STRUCT_Atomic,
-	STRUCT_ComputedFlags = STRUCT_NetDeltaSerializeNative | STRUCT_NetSerializeNative | STRUCT_SerializeNative | STRUCT_PostSerializeNative | STRUCT_CopyNative | STRUCT_IsPlainOldData | STRUCT_NoDestructor | STRUCT_ZeroConstructor | STRUCT_IdenticalNative | STRUCT_AddStructReferencedObjects | STRUCT_ExportTextItemNative | STRUCT_ImportTextItemNative | STRUCT_SerializeFromMismatchedTag | STRUCT_PostScriptConstruct | STRUCT_NetSharedSerialization,
+	STRUCT_ComputedFlags = STRUCT_NetDeltaSerializeNative | STRUCT_NetSerializeNative | STRUCT_SerializeNative |
+		STRUCT_PostSerializeNative | STRUCT_CopyNative | STRUCT_IsPlainOldData | STRUCT_NoDestructor | STRUCT_ZeroConstructor |
+		STRUCT_IdenticalNative | STRUCT_AddStructReferencedObjects | STRUCT_ExportTextItemNative | STRUCT_ImportTextItemNative |
+		STRUCT_SerializeFromMismatchedTag | STRUCT_PostScriptConstruct | STRUCT_NetSharedSerialization,
 };
 ENUM_CLASS_FLAGS(EStructFlags)
 
@@ -302,7 +309,8 @@ ENUM_CLASS_FLAGS(EPropertyFlags)
 	((EPropertyFlags)(CPF_NativeAccessSpecifierPublic | CPF_NativeAccessSpecifierProtected | CPF_NativeAccessSpecifierPrivate))
 #define CPF_ParmFlags ((EPropertyFlags)(CPF_Parm | CPF_OutParm | CPF_ReturnParm | CPF_RequiredParm | CPF_ReferenceParm | CPF_ConstParm))
 #define CPF_PropagateToArrayInner \
-	((EPropertyFlags)(CPF_ExportObject | CPF_PersistentInstance | CPF_InstancedReference | CPF_ContainsInstancedReference | CPF_Config | CPF_EditConst | CPF_Deprecated | CPF_EditorOnly | CPF_AutoWeak | CPF_UObjectWrapper))
+	((EPropertyFlags)(CPF_ExportObject | CPF_PersistentInstance | CPF_InstancedReference | CPF_ContainsInstancedReference | CPF_Config | \
+		CPF_EditConst | CPF_Deprecated | CPF_EditorOnly | CPF_AutoWeak | CPF_UObjectWrapper))
 #define CPF_PropagateToMapValue ((EPropertyFlags)(CPF_PropagateToArrayInner | CPF_Edit))
 #define CPF_PropagateToMapKey ((EPropertyFlags)(CPF_PropagateToArrayInner | CPF_Edit))
 #define CPF_PropagateToSetElement ((EPropertyFlags)(CPF_PropagateToArrayInner | CPF_Edit))

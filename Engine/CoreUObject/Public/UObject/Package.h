@@ -69,7 +69,8 @@ public:
 
 	/** Writes the file whole or not at all. Null Base saves what has one of TopLevelFlags. */
 	static bool SavePackage(UPackage* InOuter, UObject* InAsset, const TCHAR* Filename, const struct FSavePackageArgs& SaveArgs);
-	static struct FSavePackageResultStruct Save(UPackage* InOuter, UObject* InAsset, const TCHAR* Filename, const struct FSavePackageArgs& SaveArgs);
+	static struct FSavePackageResultStruct Save(
+		UPackage* InOuter, UObject* InAsset, const TCHAR* Filename, const struct FSavePackageArgs& SaveArgs);
 
 private:
 	uint32 PackageFlags = PKG_None;

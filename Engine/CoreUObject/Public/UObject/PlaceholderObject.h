@@ -22,6 +22,13 @@ COREUOBJECT_API UObject* FindOrCreatePlaceholder(UClass* Class, const FString& O
 /** A stand-in class of that path whose super is the best known parent (null: UObject). */
 COREUOBJECT_API UClass* FindOrCreatePlaceholderClass(const FTopLevelAssetPath& ClassPath, UClass* SuperClass = nullptr);
 
+/**
+ * Makes an object of an unknown class fit a reference to RequiredClass: where no more was known of its class than that it is an
+ * object's, the class becomes a child of RequiredClass, and its objects get that C++ type in place.
+ * @return The object, or the stand-in that takes its place. Null when it is of a class that is known not to be RequiredClass.
+ */
+COREUOBJECT_API UObject* FitPlaceholder(UObject* Object, UClass* RequiredClass);
+
 /** Whether the object stands in for a missing one. */
 COREUOBJECT_API bool IsPlaceholder(const UObject* Object);
 /** Frees a stand-in's name for the real object, which takes over its children and every reference. */

@@ -36,9 +36,13 @@ struct COREUOBJECT_API FPrimaryAssetId
 	FString ToString() const;
 	static FPrimaryAssetId FromString(const FString& String) { return FPrimaryAssetId(String); }
 	bool operator==(const FPrimaryAssetId& Other) const = default;
-	friend uint32 GetTypeHash(const FPrimaryAssetId& Key) { return GetTypeHash(Key.PrimaryAssetType) * 31u + GetTypeHash(Key.PrimaryAssetName); }
+	friend uint32 GetTypeHash(const FPrimaryAssetId& Key)
+	{
+		return GetTypeHash(Key.PrimaryAssetType) * 31u + GetTypeHash(Key.PrimaryAssetName);
+	}
 
-	bool ExportTextItem(FString& ValueStr, const FPrimaryAssetId& DefaultValue, class UObject* Parent, int32 PortFlags, class UObject* ExportRootScope) const;
+	bool ExportTextItem(FString& ValueStr, const FPrimaryAssetId& DefaultValue, class UObject* Parent, int32 PortFlags,
+		class UObject* ExportRootScope) const;
 	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, class UObject* Parent, class FOutputDevice* ErrorText);
 
 	FPrimaryAssetType PrimaryAssetType;

@@ -77,7 +77,8 @@ class COREUOBJECT_API FProperty : public FField
 	virtual FString GetCPPMacroType(FString& ExtendedTypeText) const;
 	/** Whether values of the two properties are interchangeable, inner types included. */
 	virtual bool SameType(const FProperty* Other) const;
-	virtual bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType = EPropertyObjectReferenceType::Strong) const;
+	virtual bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps,
+		EPropertyObjectReferenceType InReferenceType = EPropertyObjectReferenceType::Strong) const;
 	bool ContainsWeakObjectReference() const;
 	virtual bool ContainsInstancedObjectProperty() const;
 	virtual bool PassCPPArgsByRef() const { return false; }
@@ -139,7 +140,10 @@ class COREUOBJECT_API FProperty : public FField
 	void DestroyValue(void* Dest) const;
 	void DestroyValue_InContainer(void* Container) const { DestroyValue(ContainerPtrToValuePtr<void>(Container)); }
 	void ClearValue(void* Data) const;
-	void ClearValue_InContainer(void* Container, int32 ArrayIndex = 0) const { ClearValue(ContainerPtrToValuePtr<void>(Container, ArrayIndex)); }
+	void ClearValue_InContainer(void* Container, int32 ArrayIndex = 0) const
+	{
+		ClearValue(ContainerPtrToValuePtr<void>(Container, ArrayIndex));
+	}
 	void CopySingleValue(void* Dest, const void* Src) const;
 	void CopyCompleteValue(void* Dest, const void* Src) const;
 	void CopyCompleteValue_InContainer(void* DestContainer, const void* SrcContainer) const;
@@ -163,20 +167,27 @@ class COREUOBJECT_API FProperty : public FField
 	/** Every element of a static array, without tags. */
 	void SerializeBinProperty(FArchive& Ar, void* Container) const;
 	/** Reads a value that was saved under another type. */
-	virtual EConvertFromTypeResult ConvertFromType(const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults);
+	virtual EConvertFromTypeResult ConvertFromType(
+		const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults);
 	/** Whether the archive wants this property: no transients in packages, and so on. */
 	bool ShouldSerializeValue(FArchive& Ar) const;
 
 	// Text form
 	/** Appends the text of one element when it differs from Diff (or Diff is null). Answers whether it did. */
-	bool ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Diff, UObject* Parent, int32 PortFlags, UObject* ExportRootScope = nullptr) const;
-	bool ExportText_Direct(FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags, UObject* ExportRootScope = nullptr) const;
-	void ExportTextItem_InContainer(FString& ValueStr, const void* Container, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope = nullptr) const;
+	bool ExportText_InContainer(int32 Index, FString& ValueStr, const void* Data, const void* Diff, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const;
+	bool ExportText_Direct(FString& ValueStr, const void* Data, const void* Delta, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const;
+	void ExportTextItem_InContainer(FString& ValueStr, const void* Container, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const;
 	/** Appends the text of the value. A struct leaves out members that equal DefaultValue's. */
-	void ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope = nullptr) const;
+	void ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope = nullptr) const;
 	/** Reads the value from the front of Buffer. Answers what follows it, or null when the text is not of this type; the reason goes to ErrorText. */
-	const TCHAR* ImportText_Direct(const TCHAR* Buffer, void* PropertyPtr, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText = nullptr) const;
-	const TCHAR* ImportText_InContainer(const TCHAR* Buffer, void* Container, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText = nullptr) const;
+	const TCHAR* ImportText_Direct(
+		const TCHAR* Buffer, void* PropertyPtr, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText = nullptr) const;
+	const TCHAR* ImportText_InContainer(
+		const TCHAR* Buffer, void* Container, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText = nullptr) const;
 	bool ShouldPort(uint32 PortFlags = 0) const;
 
 	// Flags
@@ -198,14 +209,17 @@ class COREUOBJECT_API FProperty : public FField
 	int32 GetPropertyArrayDim() const { return ArrayDim; }
 
 	/** Where a member named in text ("Index(3)=") wants its value. Reads one "Name=Value" line and sets it in the container. */
-	static const TCHAR* ImportSingleProperty(const TCHAR* Str, void* DestData, const UStruct* ObjectStruct, UObject* SubobjectOuter, int32 PortFlags, FOutputDevice* Warn, TArray<struct FDefinedProperty>& DefinedProperties);
+	static const TCHAR* ImportSingleProperty(const TCHAR* Str, void* DestData, const UStruct* ObjectStruct, UObject* SubobjectOuter,
+		int32 PortFlags, FOutputDevice* Warn, TArray<struct FDefinedProperty>& DefinedProperties);
 
 protected:
 	int32 ElementSize = 0;
 	int32 Offset_Internal = 0;
 
-	virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const = 0;
-	virtual const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const = 0;
+	virtual void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
+		int32 PortFlags, UObject* ExportRootScope) const = 0;
+	virtual const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const = 0;
 	virtual void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const = 0;
 	virtual void InitializeValueInternal(void* Dest) const = 0;
 	virtual void DestroyValueInternal(void* Dest) const = 0;
@@ -254,9 +268,18 @@ public:
 	{
 		*GetPropertyValuePtr(A) = Value;
 	}
-	TCppType* GetPropertyValuePtr_InContainer(void* A, int32 ArrayIndex = 0) const { return this->template ContainerPtrToValuePtr<TCppType>(A, ArrayIndex); }
-	const TCppType* GetPropertyValuePtr_InContainer(const void* A, int32 ArrayIndex = 0) const { return this->template ContainerPtrToValuePtr<TCppType>(A, ArrayIndex); }
-	const TCppType& GetPropertyValue_InContainer(const void* A, int32 ArrayIndex = 0) const { return *GetPropertyValuePtr_InContainer(A, ArrayIndex); }
+	TCppType* GetPropertyValuePtr_InContainer(void* A, int32 ArrayIndex = 0) const
+	{
+		return this->template ContainerPtrToValuePtr<TCppType>(A, ArrayIndex);
+	}
+	const TCppType* GetPropertyValuePtr_InContainer(const void* A, int32 ArrayIndex = 0) const
+	{
+		return this->template ContainerPtrToValuePtr<TCppType>(A, ArrayIndex);
+	}
+	const TCppType& GetPropertyValue_InContainer(const void* A, int32 ArrayIndex = 0) const
+	{
+		return *GetPropertyValuePtr_InContainer(A, ArrayIndex);
+	}
 	void SetPropertyValue_InContainer(void* A, const TCppType& Value, int32 ArrayIndex = 0) const
 		requires std::is_copy_assignable_v<TCppType>
 	{

@@ -10,7 +10,8 @@ class UObject;
 /** What an edit changed. Included through UObject/UnrealType.h, as in the engine. */
 struct FPropertyChangedEvent
 {
-	explicit FPropertyChangedEvent(FProperty* InProperty, EPropertyChangeType::Type InChangeType = EPropertyChangeType::Unspecified, TArrayView<const UObject* const> InTopLevelObjects = {})
+	explicit FPropertyChangedEvent(FProperty* InProperty, EPropertyChangeType::Type InChangeType = EPropertyChangeType::Unspecified,
+		TArrayView<const UObject* const> InTopLevelObjects = {})
 		: Property(InProperty)
 		, MemberProperty(InProperty)
 		, ChangeType(InChangeType)

@@ -28,15 +28,18 @@ class COREUOBJECT_API FOptionalProperty : public FProperty
 	bool PassCPPArgsByRef() const override { return true; }
 	int32 GetMinAlignment() const override;
 	void LinkInternal(FArchive& Ar) override;
-	bool ContainsObjectReference(TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
+	bool ContainsObjectReference(
+		TArray<const FStructProperty*>& EncounteredStructProps, EPropertyObjectReferenceType InReferenceType) const override;
 	bool ContainsInstancedObjectProperty() const override { return ValueProperty->ContainsInstancedObjectProperty(); }
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
 	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override;
 	void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* ReferencingObject) const override;
 
 protected:
-	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const override;
-	const TCHAR* ImportText_Internal(const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
+	void ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
+		UObject* ExportRootScope) const override;
+	const TCHAR* ImportText_Internal(
+		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	void CopyValuesInternal(void* Dest, const void* Src, int32 Count) const override;
 	void InitializeValueInternal(void* Dest) const override;
 	void DestroyValueInternal(void* Dest) const override;

@@ -18,15 +18,18 @@ public:
 	requires std::is_convertible_v<UObjectType*, const UObject*>
 	void AddReferencedObject(UObjectType*& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
 	{
-		HandleObjectReference(*reinterpret_cast<UObject**>(const_cast<std::remove_const_t<UObjectType>**>(&Object)), ReferencingObject, ReferencingProperty);
+		HandleObjectReference(*reinterpret_cast<UObject**>(const_cast<std::remove_const_t<UObjectType>**>(&Object)), ReferencingObject,
+			ReferencingProperty);
 	}
 	template <class UObjectType>
-	void AddReferencedObject(TObjectPtr<UObjectType>& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
+	void AddReferencedObject(
+		TObjectPtr<UObjectType>& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
 	{
 		HandleObjectReference(*reinterpret_cast<UObject**>(&Object), ReferencingObject, ReferencingProperty);
 	}
 	template <class UObjectType>
-	void AddReferencedObject(TWeakObjectPtr<UObjectType>& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
+	void AddReferencedObject(
+		TWeakObjectPtr<UObjectType>& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
 	{
 		UObject* Value = (UObject*)Object.Get(true);
 		HandleObjectReference(Value, ReferencingObject, ReferencingProperty);
@@ -38,7 +41,8 @@ public:
 		HandleStableReference(*reinterpret_cast<UObject**>(Object));
 	}
 	template <class ContainerType>
-	void AddReferencedObjects(ContainerType& Objects, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr) requires requires
+	void AddReferencedObjects(ContainerType& Objects, const UObject* ReferencingObject = nullptr,
+		const FProperty* ReferencingProperty = nullptr) requires requires
 	{
 		Objects.begin();
 	}
@@ -57,7 +61,8 @@ public:
 		}
 	}
 	/** The references of a struct value, by its reflection. */
-	void AddReferencedObjects(const UScriptStruct*& ScriptStruct, void* StructMemory, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr);
+	void AddReferencedObjects(const UScriptStruct*& ScriptStruct, void* StructMemory, const UObject* ReferencingObject = nullptr,
+		const FProperty* ReferencingProperty = nullptr);
 	void AddPropertyReferences(const UScriptStruct* Struct, void* Instance, const UObject* ReferencingObject = nullptr);
 	void AddPropertyReferencesWithStructARO(const UStruct* Struct, void* Instance, const UObject* ReferencingObject = nullptr);
 
@@ -88,8 +93,8 @@ class COREUOBJECT_API FReferenceFinder : public FReferenceCollector
 {
 public:
 	/** Only objects below LimitOuter when that is given. */
-	FReferenceFinder(TArray<UObject*>& InObjectArray, UObject* InOuter = nullptr, bool bInRequireDirectOuter = true, bool bInShouldIgnoreArchetype = false,
-		bool bInSerializeRecursively = false, bool bInShouldIgnoreTransient = false);
+	FReferenceFinder(TArray<UObject*>& InObjectArray, UObject* InOuter = nullptr, bool bInRequireDirectOuter = true,
+		bool bInShouldIgnoreArchetype = false, bool bInSerializeRecursively = false, bool bInShouldIgnoreTransient = false);
 
 	virtual void FindReferences(UObject* Object, UObject* ReferencingObject = nullptr, FProperty* ReferencingProperty = nullptr);
 

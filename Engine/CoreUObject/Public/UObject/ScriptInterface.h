@@ -24,7 +24,10 @@ public:
 		InterfacePointer = nullptr;
 	}
 	void SetInterface(void* InInterfacePointer) { InterfacePointer = InInterfacePointer; }
-	bool operator==(const FScriptInterface& Other) const { return GetInterface() == Other.GetInterface() && ObjectPointer == Other.ObjectPointer; }
+	bool operator==(const FScriptInterface& Other) const
+	{
+		return GetInterface() == Other.GetInterface() && ObjectPointer == Other.ObjectPointer;
+	}
 	friend uint32 GetTypeHash(const FScriptInterface& Instance) { return ::PointerHash(Instance.ObjectPointer); }
 	friend FArchive& operator<<(FArchive& Ar, FScriptInterface& Value)
 	{

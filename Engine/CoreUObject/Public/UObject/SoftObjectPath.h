@@ -64,7 +64,8 @@ struct COREUOBJECT_API FSoftObjectPath
 	bool Serialize(FArchive& Ar);
 	/** The path itself, without asking the archive how it stores soft paths. */
 	void SerializePath(FArchive& Ar);
-	bool ExportTextItem(FString& ValueStr, const FSoftObjectPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	bool ExportTextItem(
+		FString& ValueStr, const FSoftObjectPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
 	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 	/** Reads properties that were names, strings or object references before. */
 	bool SerializeFromMismatchedTag(const FPropertyTag& Tag, FArchive& Ar);

@@ -42,7 +42,8 @@ struct COREUOBJECT_API FTopLevelAssetPath
 	}
 	COREUOBJECT_API friend FArchive& operator<<(FArchive& Ar, FTopLevelAssetPath& Path);
 
-	bool ExportTextItem(FString& ValueStr, const FTopLevelAssetPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
+	bool ExportTextItem(
+		FString& ValueStr, const FTopLevelAssetPath& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const;
 	bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 
 	FName PackageName;

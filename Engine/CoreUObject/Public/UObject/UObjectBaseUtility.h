@@ -79,7 +79,10 @@ public:
 	/** Where the object's C++ interface base is; null when the class does not implement it in C++. */
 	void* GetInterfaceAddress(UClass* InterfaceClass);
 	void* GetNativeInterfaceAddress(UClass* InterfaceClass);
-	const void* GetNativeInterfaceAddress(UClass* InterfaceClass) const { return const_cast<UObjectBaseUtility*>(this)->GetNativeInterfaceAddress(InterfaceClass); }
+	const void* GetNativeInterfaceAddress(UClass* InterfaceClass) const
+	{
+		return const_cast<UObjectBaseUtility*>(this)->GetNativeInterfaceAddress(InterfaceClass);
+	}
 };
 
 /** Nearest name of an object that may be null: "None" then. */

@@ -96,8 +96,8 @@ requires std::is_base_of_v<UObject, T>
 	return static_cast<T*>(StaticConstructObject_Internal(Params));
 }
 template <class T>
-T* NewObject(UObject* Outer, FName Name, EObjectFlags Flags = RF_NoFlags, UObject* Template = nullptr, bool bCopyTransientsFromClassDefaults = false,
-	FObjectInstancingGraph* InInstanceGraph = nullptr)
+T* NewObject(UObject* Outer, FName Name, EObjectFlags Flags = RF_NoFlags, UObject* Template = nullptr,
+	bool bCopyTransientsFromClassDefaults = false, FObjectInstancingGraph* InInstanceGraph = nullptr)
 {
 	FStaticConstructObjectParameters Params(T::StaticClass());
 	Params.Outer = Outer;
@@ -173,8 +173,8 @@ T* DuplicateObject(const TObjectPtr<T>& SourceObject, UObject* Outer, const FNam
 // Finding; none of these loads anything.
 
 /** The object of that name directly in the outer (null: a package). Names only, no paths. */
-COREUOBJECT_API UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass = false, EObjectFlags ExclusiveFlags = RF_NoFlags,
-	EInternalObjectFlags ExclusiveInternalFlags = EInternalObjectFlags::None);
+COREUOBJECT_API UObject* StaticFindObjectFast(UClass* Class, UObject* InOuter, FName InName, bool ExactClass = false,
+	EObjectFlags ExclusiveFlags = RF_NoFlags, EInternalObjectFlags ExclusiveInternalFlags = EInternalObjectFlags::None);
 COREUOBJECT_API UObject* StaticFindObjectFastInternal(const UClass* Class, const UObject* InOuter, FName InName, bool bExactClass = false,
 	EObjectFlags ExclusiveFlags = RF_NoFlags, EInternalObjectFlags ExclusiveInternalFlags = EInternalObjectFlags::None);
 /** By path, relative to the outer when there is one. A class of null matches any. */
@@ -182,7 +182,8 @@ COREUOBJECT_API UObject* StaticFindObject(UClass* Class, UObject* InOuter, const
 COREUOBJECT_API UObject* StaticFindObject(UClass* Class, FTopLevelAssetPath ObjectPath, bool ExactClass = false);
 COREUOBJECT_API UObject* StaticFindObjectChecked(UClass* Class, UObject* InOuter, const TCHAR* Name, bool ExactClass = false);
 COREUOBJECT_API UObject* StaticFindObjectSafe(UClass* Class, UObject* InOuter, const TCHAR* Name, bool ExactClass = false);
-COREUOBJECT_API UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name, EFindFirstObjectOptions Options = EFindFirstObjectOptions::None,
+COREUOBJECT_API UObject* StaticFindFirstObject(UClass* Class, const TCHAR* Name,
+	EFindFirstObjectOptions Options = EFindFirstObjectOptions::None,
 	ELogVerbosity::Type AmbiguousMessageVerbosity = ELogVerbosity::NoLogging, const TCHAR* CurrentOperation = nullptr);
 
 template <class T>
@@ -235,16 +236,17 @@ T* FindFirstObjectSafe(const TCHAR* Name, EFindFirstObjectOptions Options = EFin
 
 // Loading: in memory, or else in a package that LoadPackage finds.
 
-COREUOBJECT_API UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None,
-	class UPackageMap* Sandbox = nullptr, bool bAllowObjectReconciliation = true, const FLinkerInstancingContext* InstancingContext = nullptr);
-COREUOBJECT_API UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None,
-	class UPackageMap* Sandbox = nullptr);
-COREUOBJECT_API UPackage* LoadPackage(UPackage* InOuter, const TCHAR* InLongPackageName, uint32 LoadFlags, class FArchive* InReaderOverride = nullptr,
+COREUOBJECT_API UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr,
+	uint32 LoadFlags = LOAD_None, class UPackageMap* Sandbox = nullptr, bool bAllowObjectReconciliation = true,
 	const FLinkerInstancingContext* InstancingContext = nullptr);
+COREUOBJECT_API UClass* StaticLoadClass(UClass* BaseClass, UObject* InOuter, const TCHAR* Name, const TCHAR* Filename = nullptr,
+	uint32 LoadFlags = LOAD_None, class UPackageMap* Sandbox = nullptr);
+COREUOBJECT_API UPackage* LoadPackage(UPackage* InOuter, const TCHAR* InLongPackageName, uint32 LoadFlags,
+	class FArchive* InReaderOverride = nullptr, const FLinkerInstancingContext* InstancingContext = nullptr);
 
 template <class T>
-T* LoadObject(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None, class UPackageMap* Sandbox = nullptr,
-	const FLinkerInstancingContext* InstancingContext = nullptr)
+T* LoadObject(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None,
+	class UPackageMap* Sandbox = nullptr, const FLinkerInstancingContext* InstancingContext = nullptr)
 {
 	return static_cast<T*>(StaticLoadObject(T::StaticClass(), Outer, Name, Filename, LoadFlags, Sandbox, true, InstancingContext));
 }
@@ -254,7 +256,8 @@ T* LoadObject(FTopLevelAssetPath InPath, uint32 LoadFlags = LOAD_None)
 	return static_cast<T*>(StaticLoadObject(T::StaticClass(), nullptr, *InPath.ToString(), nullptr, LoadFlags));
 }
 template <class T>
-UClass* LoadClass(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None, class UPackageMap* Sandbox = nullptr)
+UClass* LoadClass(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nullptr, uint32 LoadFlags = LOAD_None,
+	class UPackageMap* Sandbox = nullptr)
 {
 	return StaticLoadClass(T::StaticClass(), Outer, Name, Filename, LoadFlags, Sandbox);
 }
@@ -264,16 +267,18 @@ UClass* LoadClass(UObject* Outer, const TCHAR* Name, const TCHAR* Filename = nul
 /** Turns "Package.Sub.Name" into the name and its outer; Create makes the package, and loads it unless told not to. */
 COREUOBJECT_API bool ResolveName(UObject*& Outer, FString& ObjectsReferenceString, bool Create, bool Throw, uint32 LoadFlags = LOAD_None,
 	const FLinkerInstancingContext* InstancingContext = nullptr);
-COREUOBJECT_API bool ResolveName(UObject*& Outer, FStringView& ObjectsReferenceString, bool Create, bool Throw, uint32 LoadFlags = LOAD_None,
-	const FLinkerInstancingContext* InstancingContext = nullptr);
+COREUOBJECT_API bool ResolveName(UObject*& Outer, FStringView& ObjectsReferenceString, bool Create, bool Throw,
+	uint32 LoadFlags = LOAD_None, const FLinkerInstancingContext* InstancingContext = nullptr);
 /** "Class_0" and on: a name that no object in the outer has, counting on from the last one given out for the class there. */
-COREUOBJECT_API FName MakeUniqueObjectName(UObject* Outer, const UClass* Class, FName BaseName = NAME_None, EUniqueObjectNameOptions Options = EUniqueObjectNameOptions::None);
+COREUOBJECT_API FName MakeUniqueObjectName(
+	UObject* Outer, const UClass* Class, FName BaseName = NAME_None, EUniqueObjectNameOptions Options = EUniqueObjectNameOptions::None);
 COREUOBJECT_API FName MakeObjectNameFromDisplayLabel(const FString& DisplayLabel, const FName CurrentObjectName);
 /** The package of that name, made if need be. */
 COREUOBJECT_API UPackage* CreatePackage(const TCHAR* PackageName);
 /** Null when it is not in memory. */
 COREUOBJECT_API UPackage* FindPackage(UObject* InOuter, const TCHAR* PackageName);
-COREUOBJECT_API bool IsReferenced(UObject*& Res, EObjectFlags KeepFlags, EInternalObjectFlags InternalKeepFlags, bool bCheckSubObjects = false);
+COREUOBJECT_API bool IsReferenced(
+	UObject*& Res, EObjectFlags KeepFlags, EInternalObjectFlags InternalKeepFlags, bool bCheckSubObjects = false);
 
 // Collection
 

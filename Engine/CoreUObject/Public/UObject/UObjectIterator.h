@@ -19,7 +19,8 @@ public:
 	explicit TObjectIterator(EObjectFlags AdditionalExclusionFlags = RF_ClassDefaultObject, bool bInIncludeDerivedClasses = true,
 		EInternalObjectFlags InInternalExclusionFlags = EInternalObjectFlags::None)
 		: ExclusionFlags(AdditionalExclusionFlags)
-		, InternalExclusionFlags(InInternalExclusionFlags | EInternalObjectFlags::Unreachable | EInternalObjectFlags::PendingConstruction | EInternalObjectFlags::Garbage)
+		, InternalExclusionFlags(InInternalExclusionFlags | EInternalObjectFlags::Unreachable |
+			  EInternalObjectFlags::PendingConstruction | EInternalObjectFlags::Garbage)
 		, bIncludeDerivedClasses(bInIncludeDerivedClasses)
 	{
 		Advance();

@@ -102,9 +102,15 @@ struct TWeakObjectPtr : private TWeakObjectPtrBase
 	/** The object held strongly, or an empty pointer. */
 	T& operator*() const { return *Get(); }
 	T* operator->() const { return Get(); }
-	bool IsValid(bool bEvenIfGarbage, bool bThreadsafeTest = false) const { return TWeakObjectPtrBase::IsValid(bEvenIfGarbage, bThreadsafeTest); }
+	bool IsValid(bool bEvenIfGarbage, bool bThreadsafeTest = false) const
+	{
+		return TWeakObjectPtrBase::IsValid(bEvenIfGarbage, bThreadsafeTest);
+	}
 	bool IsValid() const { return TWeakObjectPtrBase::IsValid(); }
-	bool IsStale(bool bIncludingGarbage = true, bool bThreadsafeTest = false) const { return TWeakObjectPtrBase::IsStale(bIncludingGarbage, bThreadsafeTest); }
+	bool IsStale(bool bIncludingGarbage = true, bool bThreadsafeTest = false) const
+	{
+		return TWeakObjectPtrBase::IsStale(bIncludingGarbage, bThreadsafeTest);
+	}
 	using TWeakObjectPtrBase::IsExplicitlyNull;
 	bool HasSameIndexAndSerialNumber(const TWeakObjectPtr& Other) const { return TWeakObjectPtrBase::HasSameIndexAndSerialNumber(Other); }
 	explicit operator bool() const { return IsValid(); }
@@ -120,7 +126,8 @@ struct TWeakObjectPtr : private TWeakObjectPtrBase
 		return (const UObject*)Get() == (const UObject*)Other;
 	}
 	template <class U>
-	requires(std::is_convertible_v<const U*, const T*> || std::is_convertible_v<const T*, const U*>) bool operator==(const TObjectPtr<U>& Other) const
+	requires(std::is_convertible_v<const U*, const T*> || std::is_convertible_v<const T*, const U*>) bool operator==(
+		const TObjectPtr<U>& Other) const
 	{
 		return *this == Other.Get();
 	}

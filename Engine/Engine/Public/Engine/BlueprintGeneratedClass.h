@@ -9,6 +9,7 @@
 
 class UActorComponent;
 class UInheritableComponentHandler;
+class USCS_Node;
 class USimpleConstructionScript;
 class UTimelineTemplate;
 
@@ -56,4 +57,10 @@ public:
 	// UClass
 	/** The class of the last compile: of a skeleton class too. */
 	virtual UClass* GetAuthoritativeClass() override;
+	/** What a component that this class or a parent of its adds is made from: the nearest class's own template for it. */
+	virtual UObject* FindArchetype(const UClass* ArchetypeClass, const FName ArchetypeName) const override;
+
+private:
+	/** The template of a component of Owner's that instances of this class are made from. */
+	UActorComponent* FindActualTemplate(const USCS_Node& Node, const UBlueprintGeneratedClass& Owner) const;
 };

@@ -22,6 +22,9 @@ struct FComponentKey
 
 	UPROPERTY()
 	FGuid AssociatedGuid;
+
+	/** By the id where both have one, since the name may change. */
+	bool Match(const FComponentKey& OtherKey) const;
 };
 
 /** A Blueprint's own template for an inherited component. */
@@ -45,6 +48,10 @@ UCLASS()
 class ENGINE_API UInheritableComponentHandler : public UObject
 {
 	GENERATED_BODY()
+
+public:
+	/** Null when the component is not overridden. */
+	UActorComponent* GetOverridenComponentTemplate(const FComponentKey& InKey) const;
 
 private:
 	UPROPERTY()

@@ -5,6 +5,7 @@
 #include "Engine/BlueprintGeneratedClass.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "GameFramework/Actor.h"
+#include "UObject/LayoutTransfer.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
@@ -36,40 +37,6 @@ const FProperty* FindOldProperty(const UClass& OldClass, const TMap<FName, FGuid
 	return bIsAnothers ? nullptr : OldClass.FindPropertyByName(NewProperty.GetFName());
 }
 
-void CopyValues(const UObject& From, UObject& To, const TMap<FName, FGuid>& OldGuids)
-{
-	for (TFieldIterator<FProperty> It(To.GetClass()); It; ++It)
-	{
-		// The new object made its own parts; their values are copied part by part.
-		const FProperty* const OldProperty = It->ContainsInstancedObjectProperty() ? nullptr : FindOldProperty(*From.GetClass(), OldGuids, **It);
-		if (!OldProperty)
-		{
-			continue;
-		}
-		if (OldProperty->SameType(*It) && OldProperty->ArrayDim == It->ArrayDim)
-		{
-			It->CopyCompleteValue(It->ContainerPtrToValuePtr<void>(&To), OldProperty->ContainerPtrToValuePtr<void>(&From));
-			continue;
-		}
-		FString Text;
-		OldProperty->ExportTextItem_Direct(Text, OldProperty->ContainerPtrToValuePtr<void>(&From), nullptr, nullptr, PPF_None);
-		It->ImportText_Direct(*Text, It->ContainerPtrToValuePtr<void>(&To), &To, PPF_None);
-	}
-	TArray<UObject*> OldParts;
-	GetObjectsWithOuter(&From, OldParts, false);
-	for (const UObject* const OldPart : OldParts)
-	{
-		UObject* const NewPart = StaticFindObjectFast(OldPart->GetClass(), &To, OldPart->GetFName());
-		if (NewPart)
-		{
-			CopyValues(*OldPart, *NewPart, {});
-		}
-	}
-}
-}
-
-namespace
-{
 /** Gives a placed actor's successor its components: anew what the Blueprint adds, and from the old actor what it was given itself. */
 void ConstructActor(AActor& Old, AActor& New)
 {
@@ -204,13 +171,20 @@ void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FSt
 	Class.InheritableComponentHandler = Blueprint.InheritableComponentHandler;
 }
 
-void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors) const
+void FBlueprintCompileReinstancer::TransferValues(UObject& From, UObject& To, const TMap<FName, FGuid>& OldGuids)
+{
+	const auto FindOld = [&From, &OldGuids](const FProperty& Property)
+	{ return FindOldProperty(*From.GetClass(), OldGuids, Property); };
+	UE::CoreUObject::TransferValues(From, To, FindOld, Replacements);
+}
+
+void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors)
 {
 	UObject* const NewDefaultObject = Rebuilt.Class->GetDefaultObject();
 	ApplyVariableDefaults(Rebuilt, OutErrors);
 	if (Rebuilt.OldDefaultObject)
 	{
-		CopyValues(*Rebuilt.OldDefaultObject, *NewDefaultObject, GetOldPropertyGuids(Rebuilt));
+		TransferValues(*Rebuilt.OldDefaultObject, *NewDefaultObject, GetOldPropertyGuids(Rebuilt));
 	}
 }
 
@@ -243,7 +217,6 @@ void FBlueprintCompileReinstancer::ApplyVariableDefaults(const FRebuiltClass& Re
 
 void FBlueprintCompileReinstancer::ReplaceObjects()
 {
-	TMap<UObject*, UObject*> Replacements;
 	UObject* const Transient = GetTransientPackageAsObject();
 	for (FRebuiltClass& Rebuilt : Classes)
 	{
@@ -262,7 +235,7 @@ void FBlueprintCompileReinstancer::ReplaceObjects()
 			{
 				ConstructActor(*OldActor, *CastChecked<AActor>(New));
 			}
-			CopyValues(*Old, *New, GetOldPropertyGuids(Rebuilt));
+			TransferValues(*Old, *New, GetOldPropertyGuids(Rebuilt));
 			Replacements.Add(Old, New);
 		}
 	}

@@ -34,7 +34,9 @@ private:
 	void MoveOldLayoutAway(FRebuiltClass& Rebuilt);
 	static void MoveObjectToClass(UObject& Object, UClass& NewClass) { Object.SetClass(&NewClass); }
 	static void BuildClass(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors);
-	void CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors) const;
+	void CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors);
+	/** What From was given itself; what it inherited, To inherits from its own archetype. */
+	void TransferValues(UObject& From, UObject& To, const TMap<FName, FGuid>& OldGuids);
 	/** Ids of the old properties of the class and of the ancestors that are rebuilt with it, by their old names. */
 	TMap<FName, FGuid> GetOldPropertyGuids(const FRebuiltClass& Rebuilt) const;
 	static void ApplyVariableDefaults(const FRebuiltClass& Rebuilt, TArray<FString>& OutErrors);
@@ -42,4 +44,6 @@ private:
 
 	/** Parents first. */
 	TArray<FRebuiltClass> Classes;
+	/** What takes the place of each old object, parts included. */
+	TMap<UObject*, UObject*> Replacements;
 };

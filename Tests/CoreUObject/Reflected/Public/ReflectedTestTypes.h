@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Templates/Function.h"
 #include "UObject/Interface.h"
 #include "UObject/ObjectInitializer.h"
 #include "UObject/UObjectGlobals.h"
@@ -23,6 +24,25 @@ struct FReflectedLink
 
 	UPROPERTY()
 	int32 Weight = 1;
+};
+
+/** Flags that share a byte. */
+USTRUCT()
+struct FReflectedBits
+{
+	GENERATED_BODY()
+
+	UPROPERTY()
+	uint8 bFirst : 1 = false;
+
+	UPROPERTY()
+	uint8 bSecond : 1 = false;
+
+	UPROPERTY()
+	uint8 bThird : 1 = false;
+
+	UPROPERTY()
+	int32 Count = 5;
 };
 
 UINTERFACE()
@@ -114,6 +134,36 @@ inline int32 UReflectedThing::Add(int32 Left, const FString& Right)
 {
 	return Left + Right.Len();
 }
+
+/** Tells how it dies. */
+UCLASS()
+class UReflectedMortal : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	void BeginDestroy() override
+	{
+		// Whoever dies with this one is still whole.
+		Log += !Watched || Watched->IsA<UReflectedMortal>() ? TEXT("B") : TEXT("?");
+		if (OnBeginDestroy)
+		{
+			OnBeginDestroy(this);
+		}
+		Super::BeginDestroy();
+	}
+	void FinishDestroy() override
+	{
+		Log += TEXT("F");
+		Super::FinishDestroy();
+	}
+
+	UPROPERTY()
+	TObjectPtr<UReflectedMortal> Watched = nullptr;
+
+	static inline FString Log;
+	static inline TFunction<void(UReflectedMortal*)> OnBeginDestroy;
+};
 
 UCLASS()
 class UReflectedDerivedThing : public UReflectedThing
