@@ -135,11 +135,21 @@ void FScriptHeaderTypes::MakeAll()
 		}
 		for (const FClassDeclaration& Class : Source.Header.Classes)
 		{
-			NameClass(Class, Source);
+			if (!Class.bContinues)
+			{
+				NameClass(Class, Source);
+			}
 		}
 	}
 	for (const FSource& Source : Sources)
 	{
+		for (const FClassDeclaration& Class : Source.Header.Classes)
+		{
+			if (Class.bContinues)
+			{
+				NameContinuation(Class, Source);
+			}
+		}
 		for (const FDelegateDeclaration& Delegate : Source.Header.Delegates)
 		{
 			NameDelegate(Delegate, Source);
@@ -261,6 +271,17 @@ void FScriptHeaderTypes::NameClass(const FClassDeclaration& Declaration, const F
 	++Report.NumClasses;
 }
 
+void FScriptHeaderTypes::NameContinuation(const FClassDeclaration& Declaration, const FSource& Source)
+{
+	const auto Class = Classes.find(Declaration.Name);
+	if (Class == Classes.end() || !Class->second.Declaration || Class->second.Declaration->Super != Declaration.Super)
+	{
+		AddError(Source, Declaration.Position, FString::Printf(TEXT("there is no class %s of the same base to continue"), *ToText(Declaration.Name)));
+		return;
+	}
+	Class->second.Continuations.push_back({&Declaration, &Source});
+}
+
 void FScriptHeaderTypes::NameDelegate(const FDelegateDeclaration& Declaration, const FSource& Source)
 {
 	UObject* Outer = Declaration.OuterClass.empty() ? static_cast<UObject*>(GetPackage(Source)) : FindClass(Declaration.OuterClass);
@@ -346,7 +367,7 @@ void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
 	Class.Class->Bind();
 	SetMetaData(Class.Class, Declaration.MetaData);
 	AddInterfaces(Class);
-	AddProperties(Class.Class, Declaration.Properties, *Class.Source);
+	AddClassProperties(Class);
 	MarkInstancedReferences(Class.Class);
 	Class.Class->StaticLink(true);
 }
@@ -362,7 +383,7 @@ void FScriptHeaderTypes::ExtendClass(FClassInProgress& Extension)
 		}
 	}
 	AddInterfaces(Extension);
-	const TArray<FProperty*> Added = AddProperties(Class, Extension.Declaration->Properties, *Extension.Source);
+	const TArray<FProperty*> Added = AddClassProperties(Extension);
 	if (Added.IsEmpty())
 	{
 		return;
@@ -409,29 +430,48 @@ void FScriptHeaderTypes::AddInterfaces(FClassInProgress& Class)
 
 void FScriptHeaderTypes::AddFunctions(FClassInProgress& Class)
 {
-	UField* Tail = Class.Class->Children;
+	AddFunctions(Class.Class, Class.Declaration->Functions, *Class.Source);
+	for (const TDeclared<FClassDeclaration>& Continuation : Class.Continuations)
+	{
+		AddFunctions(Class.Class, Continuation.Declaration->Functions, *Continuation.Source);
+	}
+}
+
+void FScriptHeaderTypes::AddFunctions(UClass* Class, const std::vector<FFunctionDeclaration>& Functions, const FSource& Source)
+{
+	UField* Tail = Class->Children;
 	while (Tail && Tail->Next)
 	{
 		Tail = Tail->Next;
 	}
-	for (const FFunctionDeclaration& Declaration : Class.Declaration->Functions)
+	for (const FFunctionDeclaration& Declaration : Functions)
 	{
 		const FName Name = ToName(Declaration.Name);
-		if (Class.Class->FindFunctionByName(Name, EIncludeSuperFlag::ExcludeSuper))
+		if (Class->FindFunctionByName(Name, EIncludeSuperFlag::ExcludeSuper))
 		{
 			continue;
 		}
-		UFunction* const Function = NewObject<UFunction>(Class.Class, Name, TypeFlags);
-		if (const UClass* const Super = Class.Class->GetSuperClass())
+		UFunction* const Function = NewObject<UFunction>(Class, Name, TypeFlags);
+		if (const UClass* const Super = Class->GetSuperClass())
 		{
 			Function->SetSuperStruct(Super->FindFunctionByName(Name));
 		}
-		MakeFunction(Function, Declaration, *Class.Source);
-		(Tail ? Tail->Next : Class.Class->Children) = Function;
+		MakeFunction(Function, Declaration, Source);
+		(Tail ? Tail->Next : Class->Children) = Function;
 		Tail = Function;
-		Class.Class->AddFunctionToFunctionMap(Function, Name);
+		Class->AddFunctionToFunctionMap(Function, Name);
 		++Report.NumFunctions;
 	}
+}
+
+TArray<FProperty*> FScriptHeaderTypes::AddClassProperties(FClassInProgress& Class)
+{
+	TArray<FProperty*> Added = AddProperties(Class.Class, Class.Declaration->Properties, *Class.Source);
+	for (const TDeclared<FClassDeclaration>& Continuation : Class.Continuations)
+	{
+		Added.Append(AddProperties(Class.Class, Continuation.Declaration->Properties, *Continuation.Source));
+	}
+	return Added;
 }
 
 void FScriptHeaderTypes::MakeFunction(UFunction* Function, const FFunctionDeclaration& Declaration, const FSource& Source)
