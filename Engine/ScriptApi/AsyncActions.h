@@ -1,8 +1,10 @@
 // Package: /Script/Engine
 #pragma once
 
-#include "Kismet/BlueprintFunctionLibrary.h"
+#include "CoreMinimal.h"
 #include "AsyncActions.generated.h"
+
+DECLARE_DYNAMIC_MULTICAST_DELEGATE(FOnPrimaryAssetBundlesChanged);
 
 /** A node that goes on later. */
 UCLASS()
@@ -15,8 +17,6 @@ public:
 	UFUNCTION(BlueprintCallable, meta = (BlueprintInternalUseOnly = "true"))
 	void Activate();
 };
-
-DECLARE_DYNAMIC_MULTICAST_DELEGATE(FOnPrimaryAssetBundlesChanged);
 
 /** Loads and unloads bundles of primary assets. */
 UCLASS()

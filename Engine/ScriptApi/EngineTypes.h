@@ -147,71 +147,6 @@ enum Type : int
 };
 }
 
-/** Whether a component may move. */
-UENUM(BlueprintType)
-namespace EComponentMobility
-{
-enum Type : int
-{
-	Static,
-	Stationary,
-	Movable
-};
-}
-
-/** How a part of a transform is kept when a component is attached. */
-UENUM(BlueprintType)
-enum class EAttachmentRule : uint8
-{
-	KeepRelative,
-	KeepWorld,
-	SnapToTarget
-};
-
-/** How a part of a transform is kept when a component is detached. */
-UENUM(BlueprintType)
-enum class EDetachmentRule : uint8
-{
-	KeepRelative,
-	KeepWorld
-};
-
-/** Why an actor leaves play. */
-UENUM(BlueprintType)
-namespace EEndPlayReason
-{
-enum Type : int
-{
-	Destroyed,
-	LevelTransition,
-	EndPlayInEditor,
-	RemovedFromWorld,
-	Quit
-};
-}
-
-/** Which way a timeline plays. */
-UENUM(BlueprintType)
-namespace ETimelineDirection
-{
-enum Type : int
-{
-	Forward,
-	Backward
-};
-}
-
-/** What a machine may do with a replicated actor. */
-UENUM(BlueprintType)
-enum ENetRole : int
-{
-	ROLE_None,
-	ROLE_SimulatedProxy,
-	ROLE_AutonomousProxy,
-	ROLE_Authority,
-	ROLE_MAX
-};
-
 /** How a character moves. */
 UENUM(BlueprintType)
 enum EMovementMode : int
@@ -337,16 +272,6 @@ struct FVector_NetQuantizeNormal : public FVector
 	GENERATED_BODY()
 };
 
-/** Names a timer that runs. */
-USTRUCT(BlueprintType)
-struct ENGINE_API FTimerHandle
-{
-	GENERATED_BODY()
-
-	UPROPERTY(Transient)
-	uint64 Handle;
-};
-
 /** Where a node goes on that takes time. */
 USTRUCT(BlueprintInternalUseOnly)
 struct ENGINE_API FLatentActionInfo
@@ -367,12 +292,3 @@ struct ENGINE_API FLatentActionInfo
 };
 
 DECLARE_DYNAMIC_DELEGATE(FTimerDynamicDelegate);
-
-/** How a surface behaves in physics. */
-UCLASS(BlueprintType)
-class ENGINE_API UPhysicalMaterial : public UObject
-{
-	GENERATED_BODY()
-
-public:
-};

@@ -1,7 +1,7 @@
 // Package: /Script/Engine
 #pragma once
 
-#include "InputCore.h"
+#include "ActorComponent.h"
 #include "InputComponent.generated.h"
 
 /** A key of an action was pressed or released. */
@@ -15,3 +15,17 @@ DECLARE_DYNAMIC_DELEGATE_OneParam(FInputVectorAxisHandlerDynamicSignature, FVect
 
 /** A finger touched the screen, moved on it or left it. */
 DECLARE_DYNAMIC_DELEGATE_TwoParams(FInputTouchHandlerDynamicSignature, ETouchIndex::Type, FingerIndex, FVector, Location);
+
+/** Input of an actor. */
+UCLASS(transient, config = Input, hidecategories = (Activation, "Components|Activation"))
+class ENGINE_API UInputComponent : public UActorComponent
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY(BlueprintReadOnly, Category = "Input")
+	int32 Priority;
+
+	UPROPERTY(BlueprintReadWrite, Category = "Input")
+	uint8 bBlockInput : 1;
+};

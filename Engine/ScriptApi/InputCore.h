@@ -4,16 +4,6 @@
 #include "CoreMinimal.h"
 #include "InputCore.generated.h"
 
-/** A key, button or axis of an input device, by its name. */
-USTRUCT(BlueprintType)
-struct FKey
-{
-	GENERATED_BODY()
-
-	UPROPERTY(EditAnywhere, Category = "Key")
-	FName KeyName;
-};
-
 /** Which finger touches the screen. */
 UENUM(BlueprintType)
 namespace ETouchIndex

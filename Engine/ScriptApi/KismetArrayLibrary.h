@@ -4,6 +4,14 @@
 #include "Kismet/BlueprintFunctionLibrary.h"
 #include "KismetArrayLibrary.generated.h"
 
+/** Which items come first. */
+UENUM(BlueprintType)
+enum class EArraySortOrder : uint8
+{
+	Ascending,
+	Descending
+};
+
 /** Arrays of any type. The declared element type stands for the wildcard that ArrayParm names. */
 UCLASS(meta = (BlueprintThreadSafe, ScriptName = "ArrayLibrary"))
 class ENGINE_API UKismetArrayLibrary : public UBlueprintFunctionLibrary
@@ -94,4 +102,48 @@ public:
 	/** A random item and its place. */
 	UFUNCTION(BlueprintCallable, CustomThunk, BlueprintPure, Category = "Utilities|Array", meta = (DisplayName = "Random Array Item", CompactNodeTitle = "RANDOM", ArrayParm = "TargetArray", ArrayTypeDependentParams = "OutItem"))
 	static void Array_Random(const TArray<int32>& TargetArray, int32& OutItem, int32& OutIndex);
+
+	/** True if both arrays have equal items in the same order. */
+	UFUNCTION(BlueprintPure, CustomThunk, Category = "Utilities|Array", meta = (DisplayName = "Identical", CompactNodeTitle = "==", ArrayParm = "ArrayA,ArrayB", ArrayTypeDependentParams = "ArrayB"))
+	static bool Array_Identical(const TArray<int32>& ArrayA, const TArray<int32>& ArrayB);
+
+	/** Brings the items into an order of a stream. */
+	UFUNCTION(BlueprintCallable, CustomThunk, Category = "Utilities|Array", meta = (DisplayName = "Shuffle from Stream", CompactNodeTitle = "SHUFFLE", ArrayParm = "TargetArray"))
+	static void Array_ShuffleFromStream(const TArray<int32>& TargetArray, UPARAM(ref) FRandomStream& RandomStream);
+
+	/** An item of a stream's choice and its place. */
+	UFUNCTION(BlueprintPure, CustomThunk, Category = "Utilities|Array", meta = (DisplayName = "Random Array Item from Stream", CompactNodeTitle = "RANDOM", ArrayParm = "TargetArray", ArrayTypeDependentParams = "OutItem"))
+	static void Array_RandomFromStream(const TArray<int32>& TargetArray, UPARAM(ref) FRandomStream& RandomStream, int32& OutItem, int32& OutIndex);
+
+	/** Sets a property by name. */
+	UFUNCTION(BlueprintCallable, CustomThunk, Category = "Utilities|Array", meta = (BlueprintInternalUseOnly = "true", ArrayParm = "Value"))
+	static void SetArrayPropertyByName(UObject* Object, FName PropertyName, const TArray<int32>& Value);
+
+	/** The actors of a class. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Array", meta = (DeterminesOutputType = "FilterClass", DynamicOutputParam = "FilteredArray"))
+	static void FilterArray(const TArray<AActor*>& TargetArray, TSubclassOf<AActor> FilterClass, TArray<AActor*>& FilteredArray);
+
+	/** Sorts texts. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Array", meta = (DisplayName = "Sort String Array", CompactNodeTitle = "SORT"))
+	static void SortStringArray(UPARAM(ref) TArray<FString>& TargetArray, bool bStableSort = false, EArraySortOrder SortOrder = EArraySortOrder::Ascending);
+
+	/** Sorts names. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Array", meta = (DisplayName = "Sort Name Array", CompactNodeTitle = "SORT"))
+	static void SortNameArray(UPARAM(ref) TArray<FName>& TargetArray, bool bStableSort = false, bool bLexicalSort = true, EArraySortOrder SortOrder = EArraySortOrder::Ascending);
+
+	/** Sorts numbers. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Array", meta = (DisplayName = "Sort Byte Array", CompactNodeTitle = "SORT"))
+	static void SortByteArray(UPARAM(ref) TArray<uint8>& TargetArray, bool bStableSort = false, EArraySortOrder SortOrder = EArraySortOrder::Ascending);
+
+	/** Sorts numbers. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Array", meta = (DisplayName = "Sort Integer Array", CompactNodeTitle = "SORT"))
+	static void SortIntArray(UPARAM(ref) TArray<int32>& TargetArray, bool bStableSort = false, EArraySortOrder SortOrder = EArraySortOrder::Ascending);
+
+	/** Sorts numbers. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Array", meta = (DisplayName = "Sort Integer64 Array", CompactNodeTitle = "SORT"))
+	static void SortInt64Array(UPARAM(ref) TArray<int64>& TargetArray, bool bStableSort = false, EArraySortOrder SortOrder = EArraySortOrder::Ascending);
+
+	/** Sorts numbers. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Array", meta = (DisplayName = "Sort Float Array", CompactNodeTitle = "SORT"))
+	static void SortFloatArray(UPARAM(ref) TArray<double>& TargetArray, bool bStableSort = false, EArraySortOrder SortOrder = EArraySortOrder::Ascending);
 };

@@ -185,4 +185,124 @@ public:
 	/** True if the text is a number. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
 	static bool IsNumeric(const FString& SourceString);
+
+	/** Text of a number. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Float)", CompactNodeTitle = "->", BlueprintAutocast, DeprecatedFunction))
+	static FString Conv_FloatToString(float InFloat);
+
+	/** Text of a vector. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Vector3f)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_Vector3fToString(FVector3f InVec);
+
+	/** Text of a vector. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (IntVector)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_IntVectorToString(FIntVector InIntVec);
+
+	/** Text of a point. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (IntPoint)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_IntPointToString(FIntPoint InIntPoint);
+
+	/** Text of a matrix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Matrix)", CompactNodeTitle = "->", BlueprintAutocast))
+	static FString Conv_MatrixToString(const FMatrix& InMatrix);
+
+	/** Number at the start of a text, or 0. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Integer64 (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static int64 Conv_StringToInt64(const FString& InString);
+
+	/** Reads a vector. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Vector (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static void Conv_StringToVector(const FString& InString, FVector& OutConvertedVector, bool& OutIsValid);
+
+	/** Reads a vector. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Vector3f (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static void Conv_StringToVector3f(const FString& InString, FVector3f& OutConvertedVector, bool& OutIsValid);
+
+	/** Reads a vector. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Vector2D (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static void Conv_StringToVector2D(const FString& InString, FVector2D& OutConvertedVector2D, bool& OutIsValid);
+
+	/** Reads a rotation. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Rotator (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static void Conv_StringToRotator(const FString& InString, FRotator& OutConvertedRotator, bool& OutIsValid);
+
+	/** Reads a colour. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Color (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	static void Conv_StringToColor(const FString& InString, FLinearColor& OutConvertedColor, bool& OutIsValid);
+
+	/** A text, a prefix, a truth value and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Boolean)"))
+	static FString BuildString_Bool(const FString& AppendTo, const FString& Prefix, bool InBool, const FString& Suffix);
+
+	/** A text, a prefix, a vector and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Vector)"))
+	static FString BuildString_Vector(const FString& AppendTo, const FString& Prefix, FVector InVector, const FString& Suffix);
+
+	/** A text, a prefix, a vector and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (IntVector)"))
+	static FString BuildString_IntVector(const FString& AppendTo, const FString& Prefix, FIntVector InIntVector, const FString& Suffix);
+
+	/** A text, a prefix, a vector and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Vector2d)"))
+	static FString BuildString_Vector2d(const FString& AppendTo, const FString& Prefix, FVector2D InVector2D, const FString& Suffix);
+
+	/** A text, a prefix, a rotation and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Rotator)"))
+	static FString BuildString_Rotator(const FString& AppendTo, const FString& Prefix, FRotator InRot, const FString& Suffix);
+
+	/** A text, a prefix, an object's name and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Object)"))
+	static FString BuildString_Object(const FString& AppendTo, const FString& Prefix, UObject* InObj, const FString& Suffix);
+
+	/** A text, a prefix, a colour and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Color)"))
+	static FString BuildString_Color(const FString& AppendTo, const FString& Prefix, FLinearColor InColor, const FString& Suffix);
+
+	/** A text, a prefix, a name and a suffix. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Build String (Name)"))
+	static FString BuildString_Name(const FString& AppendTo, const FString& Prefix, FName InName, const FString& Suffix);
+
+	/** The characters of a text. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static TArray<FString> GetCharacterArrayFromString(const FString& SourceString);
+
+	/** The text with blanks before it, up to a length. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString LeftPad(const FString& SourceString, int32 ChCount);
+
+	/** The text with blanks behind it, up to a length. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString RightPad(const FString& SourceString, int32 ChCount);
+
+	/** The text without its last characters. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString LeftChop(const FString& SourceString, int32 Count);
+
+	/** The text without its first characters. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString RightChop(const FString& SourceString, int32 Count);
+
+	/** The text without white space at its end. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString TrimTrailing(const FString& SourceString);
+
+	/** True if the text matches a pattern of * and ? */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static bool MatchesWildcard(const FString& SourceString, const FString& Wildcard, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+
+	/** The parts before and behind a separator. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static bool Split(const FString& SourceString, const FString& InStr, FString& LeftS, FString& RightS, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase, ESearchDir::Type SearchDir = ESearchDir::FromStart);
+
+	/** Puts one text in place of another, in a variable. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|String")
+	static int32 ReplaceInline(UPARAM(ref) FString& SourceString, const FString& SearchText, const FString& ReplacementText, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+
+	/** Takes empty texts out of an array. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static int32 CullArray(const FString& SourceString, UPARAM(ref) TArray<FString>& InArray);
+
+	/** Seconds as minutes, seconds and hundredths. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|String")
+	static FString TimeSecondsToString(float InSeconds);
 };

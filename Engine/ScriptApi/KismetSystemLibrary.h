@@ -40,7 +40,7 @@ enum Type : int
 };
 }
 
-/** Printing, timers, traces, overlaps and other services for Blueprints. */
+// Continues
 UCLASS()
 class ENGINE_API UKismetSystemLibrary : public UBlueprintFunctionLibrary
 {
@@ -151,90 +151,6 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Components", meta = (Latent, LatentInfo = "LatentInfo", WorldContext = "WorldContextObject", ExpandEnumAsExecs = "MoveAction", OverTime = "0.2"))
 	static void MoveComponentTo(USceneComponent* Component, FVector TargetRelativeLocation, FRotator TargetRelativeRotation, bool bEaseOut, bool bEaseIn, float OverTime, bool bForceShortestRotationPath, TEnumAsByte<EMoveComponentAction::Type> MoveAction, FLatentActionInfo LatentInfo);
 
-	/** Calls an event after some time, once or again and again. Setting the same event again starts its time anew. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Time", meta = (DisplayName = "Set Timer by Event", ScriptName = "SetTimerDelegate", AdvancedDisplay = "InitialStartDelay, InitialStartDelayVariance"))
-	static FTimerHandle K2_SetTimerDelegate(UPARAM(DisplayName = "Event") FTimerDynamicDelegate Delegate, float Time, bool bLooping, bool bMaxOncePerFrame = false, float InitialStartDelay = 0.f, float InitialStartDelayVariance = 0.f);
-
-	/** Calls a function of an object after some time, once or again and again. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Time", meta = (DisplayName = "Set Timer by Function Name", ScriptName = "SetTimer", DefaultToSelf = "Object", AdvancedDisplay = "InitialStartDelay, InitialStartDelayVariance"))
-	static FTimerHandle K2_SetTimer(UObject* Object, FString FunctionName, float Time, bool bLooping, bool bMaxOncePerFrame = false, float InitialStartDelay = 0.f, float InitialStartDelayVariance = 0.f);
-
-	/** Ends the timer of a handle and clears the handle. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Time", meta = (DisplayName = "Clear and Invalidate Timer by Handle", ScriptName = "ClearAndInvalidateTimerHandle", WorldContext = "WorldContextObject"))
-	static void K2_ClearAndInvalidateTimerHandle(const UObject* WorldContextObject, UPARAM(ref) FTimerHandle& Handle);
-
-	/** Ends the timer of a function. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Time", meta = (DisplayName = "Clear Timer by Function Name", ScriptName = "ClearTimer", DefaultToSelf = "Object"))
-	static void K2_ClearTimer(UObject* Object, FString FunctionName);
-
-	/** Ends the timer of a handle. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Time", meta = (DisplayName = "Clear Timer by Handle", ScriptName = "ClearTimerHandle", WorldContext = "WorldContextObject"))
-	static void K2_ClearTimerHandle(const UObject* WorldContextObject, FTimerHandle Handle);
-
-	/** Stops the timer of a handle for a while. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Time", meta = (DisplayName = "Pause Timer by Handle", ScriptName = "PauseTimerHandle", WorldContext = "WorldContextObject"))
-	static void K2_PauseTimerHandle(const UObject* WorldContextObject, FTimerHandle Handle);
-
-	/** Goes on with the timer of a handle. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Time", meta = (DisplayName = "Unpause Timer by Handle", ScriptName = "UnPauseTimerHandle", WorldContext = "WorldContextObject"))
-	static void K2_UnPauseTimerHandle(const UObject* WorldContextObject, FTimerHandle Handle);
-
-	/** True if the timer of a handle is there and not paused. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Time", meta = (DisplayName = "Is Timer Active by Handle", ScriptName = "IsTimerActiveHandle", WorldContext = "WorldContextObject"))
-	static bool K2_IsTimerActiveHandle(const UObject* WorldContextObject, FTimerHandle Handle);
-
-	/** True if the handle is set. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Time", meta = (DisplayName = "Is Valid Timer Handle", ScriptName = "IsValidTimerHandle"))
-	static bool K2_IsValidTimerHandle(FTimerHandle Handle);
-
-	/** Finds the first thing that blocks a line. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (bIgnoreSelf = "true", WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Line Trace By Channel", AdvancedDisplay = "TraceColor,TraceHitColor,DrawTime", Keywords = "raycast"))
-	static bool LineTraceSingle(const UObject* WorldContextObject, const FVector Start, const FVector End, ETraceTypeQuery TraceChannel, bool bTraceComplex, const TArray<AActor*>& ActorsToIgnore, EDrawDebugTrace::Type DrawDebugType, FHitResult& OutHit, bool bIgnoreSelf, FLinearColor TraceColor = FLinearColor::Red, FLinearColor TraceHitColor = FLinearColor::Green, float DrawTime = 5.0f);
-
-	/** Finds what a line touches, up to the first thing that blocks it. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (bIgnoreSelf = "true", WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Multi Line Trace By Channel", AdvancedDisplay = "TraceColor,TraceHitColor,DrawTime", Keywords = "raycast"))
-	static bool LineTraceMulti(const UObject* WorldContextObject, const FVector Start, const FVector End, ETraceTypeQuery TraceChannel, bool bTraceComplex, const TArray<AActor*>& ActorsToIgnore, EDrawDebugTrace::Type DrawDebugType, TArray<FHitResult>& OutHits, bool bIgnoreSelf, FLinearColor TraceColor = FLinearColor::Red, FLinearColor TraceHitColor = FLinearColor::Green, float DrawTime = 5.0f);
-
-	/** Finds the first object of some types on a line. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (bIgnoreSelf = "true", WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Line Trace For Objects", AdvancedDisplay = "TraceColor,TraceHitColor,DrawTime", Keywords = "raycast"))
-	static bool LineTraceSingleForObjects(const UObject* WorldContextObject, const FVector Start, const FVector End, const TArray<TEnumAsByte<EObjectTypeQuery>>& ObjectTypes, bool bTraceComplex, const TArray<AActor*>& ActorsToIgnore, EDrawDebugTrace::Type DrawDebugType, FHitResult& OutHit, bool bIgnoreSelf, FLinearColor TraceColor = FLinearColor::Red, FLinearColor TraceHitColor = FLinearColor::Green, float DrawTime = 5.0f);
-
-	/** Finds the first thing that blocks a line for a collision profile. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (bIgnoreSelf = "true", WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Line Trace By Profile", AdvancedDisplay = "TraceColor,TraceHitColor,DrawTime", Keywords = "raycast"))
-	static bool LineTraceSingleByProfile(const UObject* WorldContextObject, const FVector Start, const FVector End, FName ProfileName, bool bTraceComplex, const TArray<AActor*>& ActorsToIgnore, EDrawDebugTrace::Type DrawDebugType, FHitResult& OutHit, bool bIgnoreSelf, FLinearColor TraceColor = FLinearColor::Red, FLinearColor TraceHitColor = FLinearColor::Green, float DrawTime = 5.0f);
-
-	/** Finds the first thing that blocks a moving sphere. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (bIgnoreSelf = "true", WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Sphere Trace By Channel", AdvancedDisplay = "TraceColor,TraceHitColor,DrawTime", Keywords = "sweep"))
-	static bool SphereTraceSingle(const UObject* WorldContextObject, const FVector Start, const FVector End, float Radius, ETraceTypeQuery TraceChannel, bool bTraceComplex, const TArray<AActor*>& ActorsToIgnore, EDrawDebugTrace::Type DrawDebugType, FHitResult& OutHit, bool bIgnoreSelf, FLinearColor TraceColor = FLinearColor::Red, FLinearColor TraceHitColor = FLinearColor::Green, float DrawTime = 5.0f);
-
-	/** Finds the first thing that blocks a moving capsule. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (bIgnoreSelf = "true", WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Capsule Trace By Channel", AdvancedDisplay = "TraceColor,TraceHitColor,DrawTime", Keywords = "sweep"))
-	static bool CapsuleTraceSingle(const UObject* WorldContextObject, const FVector Start, const FVector End, float Radius, float HalfHeight, ETraceTypeQuery TraceChannel, bool bTraceComplex, const TArray<AActor*>& ActorsToIgnore, EDrawDebugTrace::Type DrawDebugType, FHitResult& OutHit, bool bIgnoreSelf, FLinearColor TraceColor = FLinearColor::Red, FLinearColor TraceHitColor = FLinearColor::Green, float DrawTime = 5.0f);
-
-	/** Finds the first thing that blocks a moving box. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (bIgnoreSelf = "true", WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Box Trace By Channel", AdvancedDisplay = "TraceColor,TraceHitColor,DrawTime", Keywords = "sweep"))
-	static bool BoxTraceSingle(const UObject* WorldContextObject, const FVector Start, const FVector End, const FVector HalfSize, const FRotator Orientation, ETraceTypeQuery TraceChannel, bool bTraceComplex, const TArray<AActor*>& ActorsToIgnore, EDrawDebugTrace::Type DrawDebugType, FHitResult& OutHit, bool bIgnoreSelf, FLinearColor TraceColor = FLinearColor::Red, FLinearColor TraceHitColor = FLinearColor::Green, float DrawTime = 5.0f);
-
-	/** Finds the actors that a sphere overlaps. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Sphere Overlap Actors"))
-	static bool SphereOverlapActors(const UObject* WorldContextObject, const FVector SpherePos, float SphereRadius, const TArray<TEnumAsByte<EObjectTypeQuery>>& ObjectTypes, UClass* ActorClassFilter, const TArray<AActor*>& ActorsToIgnore, TArray<AActor*>& OutActors);
-
-	/** Finds the actors that a box overlaps. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (WorldContext = "WorldContextObject", AutoCreateRefTerm = "ActorsToIgnore", DisplayName = "Box Overlap Actors"))
-	static bool BoxOverlapActors(const UObject* WorldContextObject, const FVector BoxPos, FVector BoxExtent, const TArray<TEnumAsByte<EObjectTypeQuery>>& ObjectTypes, UClass* ActorClassFilter, const TArray<AActor*>& ActorsToIgnore, TArray<AActor*>& OutActors);
-
-	/** Draws a line for development. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Debug", meta = (WorldContext = "WorldContextObject", DevelopmentOnly))
-	static void DrawDebugLine(const UObject* WorldContextObject, const FVector LineStart, const FVector LineEnd, FLinearColor LineColor, float Duration = 0.f, float Thickness = 0.f);
-
-	/** Draws a sphere for development. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Debug", meta = (WorldContext = "WorldContextObject", DevelopmentOnly))
-	static void DrawDebugSphere(const UObject* WorldContextObject, const FVector Center, float Radius = 100.f, int32 Segments = 12, FLinearColor LineColor = FLinearColor::White, float Duration = 0.f, float Thickness = 0.f);
-
-	/** Draws a box for development. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Debug", meta = (WorldContext = "WorldContextObject", DevelopmentOnly))
-	static void DrawDebugBox(const UObject* WorldContextObject, const FVector Center, FVector Extent, FLinearColor LineColor, const FRotator Rotation = FRotator::ZeroRotator, float Duration = 0.f, float Thickness = 0.f);
-
 	/** Runs a console command. */
 	UFUNCTION(BlueprintCallable, Category = "Development", meta = (WorldContext = "WorldContextObject"))
 	static void ExecuteConsoleCommand(const UObject* WorldContextObject, const FString& Command, APlayerController* SpecificPlayer = nullptr);
@@ -255,10 +171,6 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Platform")
 	static void CollectGarbage();
 
-	/** Object of a reference that does not load it by itself, or null while it is not loaded. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "Resolve Soft Object Reference"))
-	static UObject* Conv_SoftObjectReferenceToObject(const TSoftObjectPtr<UObject>& SoftObject);
-
 	/** Loads an object now. */
 	UFUNCTION(BlueprintCallable, Category = "Utilities", meta = (DisplayName = "Load Asset Blocking", DeterminesOutputType = "Asset"))
 	static UObject* LoadAsset_Blocking(TSoftObjectPtr<UObject> Asset);
@@ -266,4 +178,272 @@ public:
 	/** Loads a class now. */
 	UFUNCTION(BlueprintCallable, Category = "Utilities", meta = (DeterminesOutputType = "AssetClass"))
 	static UClass* LoadClassAsset_Blocking(TSoftClassPtr<UObject> AssetClass);
+
+	/** Loads an object and goes on when it is there. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", BlueprintInternalUseOnly = "true"))
+	static void LoadAsset(const UObject* WorldContextObject, TSoftObjectPtr<UObject> Asset, FOnAssetLoaded OnLoaded, FLatentActionInfo LatentInfo);
+
+	/** Loads a class and goes on when it is there. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", BlueprintInternalUseOnly = "true"))
+	static void LoadAssetClass(const UObject* WorldContextObject, TSoftClassPtr<UObject> AssetClass, FOnAssetClassLoaded OnLoaded, FLatentActionInfo LatentInfo);
+
+	/** Value of a console variable. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static int32 GetConsoleVariableIntValue(const FString& VariableName);
+
+	/** Value of a console variable. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static float GetConsoleVariableFloatValue(const FString& VariableName);
+
+	/** Value of a console variable. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static bool GetConsoleVariableBoolValue(const FString& VariableName);
+
+	/** Value of a console variable. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static FString GetConsoleVariableStringValue(const FString& VariableName);
+
+	/** Seconds of the machine's clock. */
+	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (BlueprintThreadSafe, DeprecatedFunction))
+	static double GetPlatformTime_Seconds();
+
+	/** File of an object's package on disk. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static FString GetSystemPath(const UObject* Object);
+
+	/** Package of an object. */
+	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "Get Package"))
+	static UPackage* GetOuterMostPackage(const UObject* Object);
+
+	/** True if nobody is there to answer questions. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static bool IsUnattended();
+
+	/** Name of the game. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static FString GetGameName();
+
+	/** Identifier of the game on the platform. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static FString GetGameBundleId();
+
+	/** Version of the build. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static FString GetBuildVersion();
+
+	/** Configuration of the build. */
+	UFUNCTION(BlueprintPure, Category = "Utilities")
+	static FString GetBuildConfiguration();
+
+	/** Writes the calls that led here to the log. */
+	UFUNCTION(BlueprintCallable, Category = "Development", meta = (DisplayName = "Stack Trace", DevelopmentOnly))
+	static void StackTrace();
+
+	/** Sets the title of the game's window. */
+	UFUNCTION(BlueprintCallable, Category = "Development")
+	static void SetWindowTitle(const FText& Title);
+
+	/** Closes the editor. */
+	UFUNCTION(BlueprintCallable, Category = "Development")
+	static void ExitEditor();
+
+	/** Shows the platform's leader board. */
+	UFUNCTION(BlueprintCallable, Category = "Development")
+	static void ShowPlatformSpecificLeaderboardScreen(const FString& CategoryName);
+
+	/** Identifier of the machine. */
+	UFUNCTION(BlueprintPure, Category = "Development", meta = (DeprecatedFunction))
+	static FString GetUniqueDeviceId();
+
+	/** Identifier of the machine. */
+	UFUNCTION(BlueprintPure, Category = "Development")
+	static FString GetDeviceId();
+
+	/** Command line that the game was begun with. */
+	UFUNCTION(BlueprintPure, Category = "Development")
+	static FString GetCommandLine();
+
+	/** True if a command line has a switch. */
+	UFUNCTION(BlueprintPure, Category = "Development")
+	static bool ParseParam(const FString& InString, const FString& InParam);
+
+	/** Value of a switch of a command line. */
+	UFUNCTION(BlueprintPure, Category = "Development")
+	static bool ParseParamValue(const FString& InString, const FString& InParam, FString& OutValue);
+
+	/** Splits a command line. */
+	UFUNCTION(BlueprintCallable, Category = "Development")
+	static void ParseCommandLine(const FString& InCmdLine, TArray<FString>& OutTokens, TArray<FString>& OutSwitches, TMap<FString, FString>& OutParams);
+
+	/** Begins a step that can be undone. */
+	UFUNCTION(BlueprintCallable, Category = "Transactions")
+	static int32 BeginTransaction(const FString& Context, FText Description, UObject* PrimaryObject);
+
+	/** Ends a step that can be undone. */
+	UFUNCTION(BlueprintCallable, Category = "Transactions")
+	static int32 EndTransaction();
+
+	/** Gives up a step that can be undone. */
+	UFUNCTION(BlueprintCallable, Category = "Transactions")
+	static void CancelTransaction(const int32 Index);
+
+	/** Notes an object's state for the step that can be undone. */
+	UFUNCTION(BlueprintCallable, Category = "Transactions")
+	static void TransactObject(UObject* Object);
+
+	/** Notes an object's state while it is changed. */
+	UFUNCTION(BlueprintCallable, Category = "Transactions")
+	static void SnapshotObject(UObject* Object);
+
+	/** Folder of the user's documents. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString GetPlatformUserDir();
+
+	/** A file's path from the engine's folder. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString ConvertToRelativePath(const FString& Filename);
+
+	/** A file's whole path. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString ConvertToAbsolutePath(const FString& Filename);
+
+	/** A file's path with plain slashes. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString NormalizeFilename(const FString& InFilename);
+
+	/** True if players share the screen. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform", meta = (WorldContext = "WorldContextObject"))
+	static bool IsSplitScreen(const UObject* WorldContextObject);
+
+	/** Language and country of the user. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString GetDefaultLocale();
+
+	/** Language of the user. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString GetDefaultLanguage();
+
+	/** Code of the currency of the user's country. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString GetLocalCurrencyCode();
+
+	/** Sign of the currency of the user's country. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString GetLocalCurrencySymbol();
+
+	/** True if the player is logged in to the platform. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static bool IsLoggedIn(const APlayerController* SpecificPlayer);
+
+	/** True if a player number has a gamepad. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static bool IsControllerAssignedToGamepad(int32 ControllerId);
+
+	/** Picture name of a gamepad's button. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString GetGamepadButtonGlyph(const FString& ButtonKey, int32 ControllerIndex);
+
+	/** Name of a gamepad. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static FString GetGamepadControllerName(int32 ControllerId);
+
+	/** Forgets which gamepad is whose. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void ResetGamepadAssignments();
+
+	/** Forgets the gamepad of a player number. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void ResetGamepadAssignmentToController(int32 ControllerId);
+
+	/** Hides the message of a change of level. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform", meta = (WorldContext = "WorldContextObject"))
+	static void SetSuppressViewportTransitionMessage(const UObject* WorldContextObject, bool bState);
+
+	/** Switches rumble of gamepads. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void SetGamepadsBlockDeviceFeedback(bool bBlock);
+
+	/** Whether the volume buttons are the system's. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void SetVolumeButtonsHandledBySystem(bool bEnabled);
+
+	/** True if the volume buttons are the system's. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static bool GetVolumeButtonsHandledBySystem();
+
+	/** Allows or forbids the screen saver. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void ControlScreensaver(bool bAllowScreenSaver);
+
+	/** Closes the advertisement. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void ForceCloseAdBanner();
+
+	/** Shows an advertisement. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void ShowAdBanner(int32 AdIdIndex, bool bShowOnBottomOfScreen);
+
+	/** Hides the advertisement. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void HideAdBanner();
+
+	/** Number of advertisement identifiers. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static int32 GetAdIDCount();
+
+	/** Loads an advertisement of the whole screen. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void LoadInterstitialAd(int32 AdIdIndex);
+
+	/** True if an advertisement of the whole screen is loaded. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static bool IsInterstitialAdAvailable();
+
+	/** True if an advertisement of the whole screen is being loaded. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static bool IsInterstitialAdRequested();
+
+	/** Shows the advertisement of the whole screen. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void ShowInterstitialAd();
+
+	/** Asks for messages of the platform. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void RegisterForRemoteNotifications();
+
+	/** Asks for no more messages of the platform. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void UnregisterForRemoteNotifications();
+
+	/** Tells the platform what the player does. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void SetUserActivity(const FUserActivity& UserActivity);
+
+	/** Window sizes that fit the screen. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static bool GetConvenientWindowedResolutions(TArray<FIntPoint>& Resolutions);
+
+	/** Screen sizes that the machine can show. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static bool GetSupportedFullscreenResolutions(TArray<FIntPoint>& Resolutions);
+
+	/** Fewest lines that the interface is made for. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static int32 GetMinYResolutionForUI();
+
+	/** Fewest lines that the world is drawn with. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static int32 GetMinYResolutionFor3DView();
+
+	/** How much detail is drawn. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static int32 GetRenderingDetailMode();
+
+	/** How good materials are drawn. */
+	UFUNCTION(BlueprintPure, Category = "Utilities|Platform")
+	static int32 GetRenderingMaterialQualityLevel();
+
+	/** Shows the platform's achievements. */
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Platform")
+	static void ShowPlatformSpecificAchievementsScreen(const APlayerController* SpecificPlayer);
 };

@@ -9,12 +9,21 @@ using namespace UE::CoreUObject;
 
 namespace
 {
+FScriptHeaderReport LoadTexts(const std::initializer_list<const char*> Texts)
+{
+	TArray<FScriptHeaderSource> Sources;
+	for (const char* const Text : Texts)
+	{
+		FScriptHeaderSource& Source = Sources.AddDefaulted_GetRef();
+		Source.Path = TEXT("Test.h");
+		Source.Text.Append(reinterpret_cast<const uint8*>(Text), static_cast<int32>(std::strlen(Text)));
+	}
+	return LoadScriptHeaderSources(Sources);
+}
+
 FScriptHeaderReport LoadText(const char* Text)
 {
-	FScriptHeaderSource Source;
-	Source.Path = TEXT("Test.h");
-	Source.Text.Append(reinterpret_cast<const uint8*>(Text), static_cast<int32>(std::strlen(Text)));
-	return LoadScriptHeaderSources({Source});
+	return LoadTexts({Text});
 }
 }
 
@@ -100,6 +109,53 @@ TEST_F(FScriptHeaders, NativeClassTakesFunctions)
 												"};\n");
 	EXPECT_EQ(Report.Errors, TArray<FString>());
 	EXPECT_NE(UReflectedStrongPart::StaticClass()->FindFunctionByName(TEXT("Break")), nullptr);
+}
+
+TEST_F(FScriptHeaders, ClassIsContinuedInAnotherHeader)
+{
+	const FScriptHeaderReport Report = LoadTexts({"// Package: /Script/HeaderTestC\n"
+												  "// Continues\n"
+												  "UCLASS()\n"
+												  "class UScriptLong : public UObject\n"
+												  "{\n"
+												  "\tGENERATED_BODY()\n"
+												  "\tUFUNCTION(BlueprintCallable) void Second();\n"
+												  "\tUPROPERTY() int32 SecondValue;\n"
+												  "};\n",
+		"// Package: /Script/HeaderTestC\n"
+		"UCLASS(meta = (Short = \"no\"))\n"
+		"class UScriptLong : public UObject\n"
+		"{\n"
+		"\tGENERATED_BODY()\n"
+		"\tUFUNCTION(BlueprintCallable) void First();\n"
+		"\tUPROPERTY() int32 FirstValue;\n"
+		"};\n"});
+	EXPECT_EQ(Report.Errors, TArray<FString>());
+	EXPECT_EQ(Report.NumClasses, 1);
+	EXPECT_EQ(Report.NumFunctions, 2);
+	const UClass* const Long = FindObject<UClass>(nullptr, TEXT("/Script/HeaderTestC.ScriptLong"));
+	ASSERT_NE(Long, nullptr);
+	EXPECT_EQ(Long->GetMetaData(TEXT("Short")), TEXT("no"));
+	EXPECT_NE(Long->FindFunctionByName(TEXT("First")), nullptr);
+	EXPECT_NE(Long->FindFunctionByName(TEXT("Second")), nullptr);
+	const FProperty* const First = Long->FindPropertyByName(TEXT("FirstValue"));
+	const FProperty* const Second = Long->FindPropertyByName(TEXT("SecondValue"));
+	ASSERT_TRUE(First && Second);
+	EXPECT_NE(First->GetOffset_ForInternal(), Second->GetOffset_ForInternal());
+}
+
+TEST_F(FScriptHeaders, ContinuationWithoutItsClassIsAnError)
+{
+	const FScriptHeaderReport Report = LoadText("// Package: /Script/HeaderTestD\n"
+												"// Continues\n"
+												"UCLASS()\n"
+												"class UScriptNobody : public UObject\n"
+												"{\n"
+												"\tGENERATED_BODY()\n"
+												"};\n");
+	ASSERT_EQ(Report.Errors.Num(), 1);
+	EXPECT_TRUE(Report.Errors[0].StartsWith(TEXT("Test.h:4:"))) << TCHAR_TO_UTF8(*Report.Errors[0]);
+	EXPECT_EQ(FindObject<UClass>(nullptr, TEXT("/Script/HeaderTestD.ScriptNobody")), nullptr);
 }
 
 TEST_F(FScriptHeaders, StockLoadsQuickly)

@@ -192,6 +192,8 @@ TEST(Parser, DirectivesNameThePackageAndExtendNativeClasses)
 	EXPECT_EQ(Header.Package, "/Script/Engine");
 	EXPECT_TRUE(Header.Classes.at(0).bExtendsNative);
 	EXPECT_EQ(MetaValue(Header.Classes[0].MetaData, "ToolTip"), "The actor.");
+	EXPECT_FALSE(Header.Classes[0].bContinues);
+	EXPECT_TRUE(Parse("// Continues\nUCLASS()\nclass AActor : public UObject\n{\n};").Classes.at(0).bContinues);
 }
 
 TEST(Parser, PreprocessorConditionsChooseWhatIsRead)

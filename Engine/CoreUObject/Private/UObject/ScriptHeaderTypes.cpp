@@ -58,11 +58,21 @@ void FScriptHeaderTypes::MakeAll()
 		}
 		for (const FClassDeclaration& Class : Source.Header.Classes)
 		{
-			NameClass(Class, Source);
+			if (!Class.bContinues)
+			{
+				NameClass(Class, Source);
+			}
 		}
 	}
 	for (const FSource& Source : Sources)
 	{
+		for (const FClassDeclaration& Class : Source.Header.Classes)
+		{
+			if (Class.bContinues)
+			{
+				NameContinuation(Class, Source);
+			}
+		}
 		for (const FDelegateDeclaration& Delegate : Source.Header.Delegates)
 		{
 			NameDelegate(Delegate, Source);
@@ -186,6 +196,17 @@ void FScriptHeaderTypes::NameClass(const FClassDeclaration& Declaration, const F
 	++Report.NumClasses;
 }
 
+void FScriptHeaderTypes::NameContinuation(const FClassDeclaration& Declaration, const FSource& Source)
+{
+	const auto Class = Classes.find(Declaration.Name);
+	if (Class == Classes.end() || !Class->second.Declaration || Class->second.Declaration->Super != Declaration.Super)
+	{
+		AddError(Source, Declaration.Position, FString::Printf(TEXT("there is no class %s of the same base to continue"), *ToText(Declaration.Name)));
+		return;
+	}
+	Class->second.Continuations.push_back({&Declaration, &Source});
+}
+
 void FScriptHeaderTypes::NameDelegate(const FDelegateDeclaration& Declaration, const FSource& Source)
 {
 	UObject* Outer = Declaration.OuterClass.empty() ? static_cast<UObject*>(GetPackage(Source)) : FindClass(Declaration.OuterClass);
@@ -273,7 +294,7 @@ void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
 	Class.Class->Bind();
 	SetMetaData(Class.Class, Declaration.MetaData);
 	AddInterfaces(Class);
-	const TArray<FProperty*> Added = AddProperties(Class.Class, Declaration.Properties, *Class.Source);
+	const TArray<FProperty*> Added = AddClassProperties(Class);
 	MarkInstancedReferences(Class.Class);
 	Class.Class->StaticLink(true);
 	ReadDefaults(Class.Class, Added, Declaration.Properties, *Class.Source);
@@ -290,7 +311,7 @@ void FScriptHeaderTypes::ExtendClass(FClassInProgress& Extension)
 		}
 	}
 	AddInterfaces(Extension);
-	const TArray<FProperty*> Added = AddProperties(Class, Extension.Declaration->Properties, *Extension.Source);
+	const TArray<FProperty*> Added = AddClassProperties(Extension);
 	if (Added.IsEmpty())
 	{
 		return;
@@ -338,32 +359,51 @@ void FScriptHeaderTypes::AddInterfaces(FClassInProgress& Class)
 
 void FScriptHeaderTypes::AddFunctions(FClassInProgress& Class)
 {
-	UField* Tail = Class.Class->Children;
+	AddFunctions(Class.Class, Class.Declaration->Functions, *Class.Source);
+	for (const TDeclared<FClassDeclaration>& Continuation : Class.Continuations)
+	{
+		AddFunctions(Class.Class, Continuation.Declaration->Functions, *Continuation.Source);
+	}
+}
+
+void FScriptHeaderTypes::AddFunctions(UClass* Class, const std::vector<FFunctionDeclaration>& Functions, const FSource& Source)
+{
+	UField* Tail = Class->Children;
 	while (Tail && Tail->Next)
 	{
 		Tail = Tail->Next;
 	}
 	TArray<UFunction*> Added;
-	for (const FFunctionDeclaration& Declaration : Class.Declaration->Functions)
+	for (const FFunctionDeclaration& Declaration : Functions)
 	{
 		const FName Name = ToName(Declaration.Name);
 		// A function that C++ or another header has stays, and so does the first of two in this one.
-		if (StaticFindObjectFast(UFunction::StaticClass(), Class.Class, Name))
+		if (StaticFindObjectFast(UFunction::StaticClass(), Class, Name))
 		{
 			continue;
 		}
-		UFunction* const Function = NewObject<UFunction>(Class.Class, Name, TypeFlags);
-		if (const UClass* const Super = Class.Class->GetSuperClass())
+		UFunction* const Function = NewObject<UFunction>(Class, Name, TypeFlags);
+		if (const UClass* const Super = Class->GetSuperClass())
 		{
 			Function->SetSuperStruct(Super->FindFunctionByName(Name));
 		}
-		MakeFunction(Function, Declaration, *Class.Source);
-		(Tail ? Tail->Next : Class.Class->Children) = Function;
+		MakeFunction(Function, Declaration, Source);
+		(Tail ? Tail->Next : Class->Children) = Function;
 		Tail = Function;
 		Added.Add(Function);
 	}
-	Class.Class->AddFunctionsToFunctionMap(Added);
+	Class->AddFunctionsToFunctionMap(Added);
 	Report.NumFunctions += Added.Num();
+}
+
+TArray<FProperty*> FScriptHeaderTypes::AddClassProperties(FClassInProgress& Class)
+{
+	TArray<FProperty*> Added = AddProperties(Class.Class, Class.Declaration->Properties, *Class.Source);
+	for (const TDeclared<FClassDeclaration>& Continuation : Class.Continuations)
+	{
+		Added.Append(AddProperties(Class.Class, Continuation.Declaration->Properties, *Continuation.Source));
+	}
+	return Added;
 }
 
 void FScriptHeaderTypes::MakeFunction(UFunction* Function, const FFunctionDeclaration& Declaration, const FSource& Source)

@@ -34,6 +34,8 @@ private:
 	struct FClassInProgress : TDeclared<HeaderParser::FClassDeclaration>
 	{
 		UClass* Class = nullptr;
+		/** Declarations of more members of the class, in other headers. */
+		std::vector<TDeclared<HeaderParser::FClassDeclaration>> Continuations;
 		bool bExtends = false;
 		bool bDone = false;
 	};
@@ -46,12 +48,15 @@ private:
 	void MakeEnum(const HeaderParser::FEnumDeclaration& Declaration, const FSource& Source);
 	void NameStruct(const HeaderParser::FStructDeclaration& Declaration, const FSource& Source);
 	void NameClass(const HeaderParser::FClassDeclaration& Declaration, const FSource& Source);
+	void NameContinuation(const HeaderParser::FClassDeclaration& Declaration, const FSource& Source);
 	void NameDelegate(const HeaderParser::FDelegateDeclaration& Declaration, const FSource& Source);
 	void CompleteStruct(FStructInProgress& Struct);
 	void CompleteClass(FClassInProgress& Class);
 	void ExtendClass(FClassInProgress& Class);
 	void AddInterfaces(FClassInProgress& Class);
 	void AddFunctions(FClassInProgress& Class);
+	void AddFunctions(UClass* Class, const std::vector<HeaderParser::FFunctionDeclaration>& Functions, const FSource& Source);
+	TArray<FProperty*> AddClassProperties(FClassInProgress& Class);
 	void MakeFunction(UFunction* Function, const HeaderParser::FFunctionDeclaration& Declaration, const FSource& Source);
 	/** Makes the properties that the struct does not have. */
 	TArray<FProperty*> AddProperties(

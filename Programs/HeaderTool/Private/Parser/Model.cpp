@@ -70,7 +70,7 @@ void FTypeIndex::Add(const FHeader& Header)
 {
 	for (const FClassDeclaration& Class : Header.Classes)
 	{
-		if (!Class.bExtendsNative)
+		if (!Class.bExtendsNative && !Class.bContinues)
 		{
 			Classes.emplace(Class.Name, &Class);
 		}

@@ -202,6 +202,7 @@ private:
 		const FToken& Macro = Cursor.Take();
 		Class.bInterface = bInterface;
 		Class.bExtendsNative = FindDirective(Cursor, Macro, "Extends native").has_value();
+		Class.bContinues = FindDirective(Cursor, Macro, "Continues").has_value();
 		bool bApi = false;
 		std::vector<std::string> Bases;
 		if (!ParseSpecifiers(Cursor, Class.Specifiers) || !ReadTypeName("class", Class.Name, Class.Position, bApi) || !ReadBases(Bases))

@@ -268,6 +268,8 @@ struct FClassDeclaration
 	bool bInterface = false;
 	/** `// Extends native` stands before the declaration: functions and properties are added to a class that exists. */
 	bool bExtendsNative = false;
+	/** `// Continues` stands before the declaration: its members belong to the class of the same name in another header. */
+	bool bContinues = false;
 	bool bDeclaresPureVirtual = false;
 	bool bDeclaresAddReferencedObjects = false;
 	int32_t BodyLine = 0;
