@@ -34,12 +34,7 @@ FLumBlueprintCompound::FLumBlueprintCompound(UBlueprint& Blueprint)
 
 TVexelExpected<UBlueprint*> FLumBlueprintCompound::GetBlueprint() const
 {
-	UBlueprint* const Blueprint = WeakBlueprint.Get();
-	if (!Blueprint)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Blueprint object is not valid");
-	}
-	return Blueprint;
+	return FLumHelper::GetValid(WeakBlueprint, TEXT("Blueprint object is not valid"));
 }
 
 TVexelExpected<TVexelPropTypeId> FLumBlueprintCompound::GetCompoundType() const

@@ -94,11 +94,7 @@ FLumGraphCompound::FLumGraphCompound(UEdGraph& Graph)
 
 TVexelExpected<UEdGraph*> FLumGraphCompound::GetGraph() const
 {
-	UEdGraph* const Graph = WeakGraph.Get();
-	if (!Graph)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Graph object is not valid");
-	}
+	VEXEL_TRY(UEdGraph* const Graph, FLumHelper::GetValid(WeakGraph, TEXT("Graph object is not valid")));
 	if (!Graph->GetSchema())
 	{
 		return VEXEL_ERROR(FLumError_Read, "Graph object has no schema");

@@ -44,12 +44,7 @@ FLumNodeCompound::FLumNodeCompound(UEdGraphNode& Node)
 
 TVexelExpected<UEdGraphNode*> FLumNodeCompound::GetNode() const
 {
-	UEdGraphNode* const Node = WeakNode.Get();
-	if (!Node)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Node object is not valid");
-	}
-	return Node;
+	return FLumHelper::GetValid(WeakNode, TEXT("Node object is not valid"));
 }
 
 TVexelExpected<TVexelPropTypeId> FLumNodeCompound::GetCompoundType() const
