@@ -111,6 +111,17 @@ FString FVexelError::ToShortString() const
 	return Title.IsEmpty() ? OneLine(Message) : Title + TEXT(": ") + OneLine(Message);
 }
 
+FString FVexelError::ToChainString() const
+{
+	FString Text;
+	int32 NumPrinted = 0;
+	for (const FVexelError* Error = this; Error && NumPrinted < MaxPrintedCauses; Error = Error->GetCause())
+	{
+		Text += (NumPrinted++ == 0 ? TEXT("") : TEXT(": ")) + Error->ToShortString();
+	}
+	return Text;
+}
+
 FString FVexelError::ToString() const
 {
 	FString Text;

@@ -81,6 +81,9 @@ public:
 	/** Title and message on one line, without causes: for a user. */
 	FString ToShortString() const;
 
+	/** The short strings of this error and of its causes, joined with ": ", on one line: for a user who has to act on it. */
+	FString ToChainString() const;
+
 	/** The whole chain for a log: title, message, kind and place of this error, then of each cause behind "caused by". */
 	FString ToString() const;
 
