@@ -80,6 +80,11 @@ FVexelClient::ELoginState FVexelClient::GetLoginState()
 	}
 }
 
+TOptional<FVexelError> FVexelClient::GetLoginFailure()
+{
+	return FVexelAuth::GetLoginFailure();
+}
+
 FString FVexelClient::GetApiUrl()
 {
 	return ApiUrlSetting.Get();
