@@ -54,6 +54,15 @@ FVexelError MakeError(const TCHAR* What, GError* Failure)
 bool FKeyringSecretStore::IsAvailable()
 {
 	GError* Failure = nullptr;
+	GDBusConnection* const Bus = g_bus_get_sync(G_BUS_TYPE_SESSION, nullptr, &Failure);
+	if (!Bus)
+	{
+		g_clear_error(&Failure);
+		return false;
+	}
+	// Its own way with a session that ends is to end the process.
+	g_dbus_connection_set_exit_on_close(Bus, FALSE);
+	g_object_unref(Bus);
 	SecretService* const Service = secret_service_get_sync(SECRET_SERVICE_OPEN_SESSION, nullptr, &Failure);
 	g_clear_error(&Failure);
 	if (!Service)
