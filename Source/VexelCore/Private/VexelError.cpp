@@ -65,7 +65,8 @@ FVexelError::FVexelError(const FVexelErrorPlace& Place, FString InTitle, FString
 {
 }
 
-FVexelError::FVexelError(const FVexelErrorKind& InKind, const FVexelErrorPlace& Place, FString InTitle, FString InMessage, const FVexelError* Cause)
+FVexelError::FVexelError(
+	const FVexelErrorKind& InKind, const FVexelErrorPlace& Place, FString InTitle, FString InMessage, const FVexelError* Cause)
 	: Kind(&InKind)
 	, Title(MoveTemp(InTitle))
 	, Message(MoveTemp(InMessage))

@@ -10,6 +10,7 @@
 #include "VexelErrorKinds.h"
 #include "VexelInternalConfig.h"
 #include "VexelLog.h"
+#include "VexelSecrets.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -100,6 +101,7 @@ TVexelExpected<void> FVexelSecureStorage::StoreValueString(const FString& Key, c
 	{
 		return VEXEL_ERROR(FVexelError_SecureStorage, "A key or value of the secure store is at most %d characters long", MaxLength);
 	}
+	VexelSecrets::Add(Value);
 	const TArray<TUniquePtr<ISecretStore>> Stores = MakeStores();
 	for (int32 Index = 0; Index < Stores.Num(); ++Index)
 	{
@@ -131,6 +133,7 @@ TVexelExpected<FString> FVexelSecureStorage::LoadValueString(const FString& Key)
 		VEXEL_TRY(const TOptional<FString> Value, Store->Load(Key), "while loading value '%s'", *Key);
 		if (Value)
 		{
+			VexelSecrets::Add(*Value);
 			return *Value;
 		}
 	}

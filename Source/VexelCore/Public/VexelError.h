@@ -147,4 +147,5 @@ private:
 	KindName(VEXEL_HERE, FString(TEXT(Title)), FString::Printf(TEXT(Format) __VA_OPT__(, ) __VA_ARGS__))
 
 /** The same with the earlier error that led to it. */
-#define VEXEL_ERROR_CAUSED(KindName, Cause, Format, ...) KindName(VEXEL_HERE, FString::Printf(TEXT(Format) __VA_OPT__(, ) __VA_ARGS__), &(Cause))
+#define VEXEL_ERROR_CAUSED(KindName, Cause, Format, ...) \
+	KindName(VEXEL_HERE, FString::Printf(TEXT(Format) __VA_OPT__(, ) __VA_ARGS__), &(Cause))

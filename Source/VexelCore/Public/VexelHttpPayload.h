@@ -56,6 +56,13 @@ struct VEXELCORE_API FRequestBody final : public IRequest
 };
 }
 
+/** A text of any type, sent as UTF-8. */
+struct FVexelHttpTextPayload
+{
+	FString ContentType;
+	FString Text;
+};
+
 /** A multipart form of binary file parts. Closed once, before it is sent. */
 class VEXELCORE_API FVexelHttpMultipartPayload
 {
@@ -109,6 +116,12 @@ template <>
 struct VEXELCORE_API TPayloadHelper<FVexelHttpUrlParams>
 {
 	static bool SetRequestData(const FVexelHttpUrlParams& Payload, IRequest& Request);
+};
+
+template <>
+struct VEXELCORE_API TPayloadHelper<FVexelHttpTextPayload>
+{
+	static bool SetRequestData(const FVexelHttpTextPayload& Payload, IRequest& Request);
 };
 
 template <>

@@ -178,6 +178,14 @@ bool TPayloadHelper<FVexelHttpUrlParams>::SetRequestData(const FVexelHttpUrlPara
 	return true;
 }
 
+bool TPayloadHelper<FVexelHttpTextPayload>::SetRequestData(const FVexelHttpTextPayload& Payload, IRequest& Request)
+{
+	TArray<uint8> Bytes;
+	AppendUtf8(Bytes, Payload.Text);
+	Request.SetContentBytes(Payload.ContentType, MoveTemp(Bytes));
+	return !Payload.ContentType.IsEmpty();
+}
+
 bool TPayloadHelper<FVexelHttpMultipartPayload>::SetRequestData(const FVexelHttpMultipartPayload& Payload, IRequest& Request)
 {
 	if (!Payload.IsClosed())
