@@ -40,12 +40,15 @@ TEST(Command, BadNamesGiveOneClearLine)
 	const FSampleProjectCopy Project;
 	const std::string Dir = Project.GetPath();
 	ExpectOneClearLine(RunVexel({"chat", "--project", Dir + "/Nowhere", "--message", "x"}), 1, "Nowhere");
-	ExpectOneClearLine(RunVexel({"chat", "--project", Dir, "--service", "http://127.0.0.1:1", "--message", "x"}), 1, "not logged in at http://127.0.0.1:1");
+	ExpectOneClearLine(RunVexel({"chat", "--project", Dir, "--service", "http://127.0.0.1:1", "--message", "x"}), 1,
+		"not logged in at http://127.0.0.1:1");
 	ExpectOneClearLine(RunVexel({"inspect", Dir + "/Lighthouse.uproject"}), 1, "this is not a package");
 	ExpectOneClearLine(RunVexel({"inspect", Dir + "/none.uasset"}), 1, "none.uasset");
-	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Nowhere"}), 1, "no Blueprint '/Game/BP_Nowhere'");
+	ExpectOneClearLine(
+		RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Nowhere"}), 1, "no Blueprint '/Game/BP_Nowhere'");
 	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "door"}), 1, "'door' is not an asset path");
-	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door", "--graph", "Cellar"}), 1, "no graph 'Cellar'");
+	ExpectOneClearLine(
+		RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door", "--graph", "Cellar"}), 1, "no graph 'Cellar'");
 	ExpectOneClearLine(RunVexel({"graph", "import", "--project", Dir, "--blueprint", "/Game/BP_New", Dir + "/none.t3d"}), 1, "none.t3d");
 	ExpectOneClearLine(RunVexel({"tool", "read_minds", "--project", Dir}), 1, "Tool 'read_minds' not found");
 	ExpectOneClearLine(RunVexel({"tool", "read_blueprint", "--project", Dir}), 1, "Missing `blueprint`");
@@ -75,7 +78,8 @@ TEST(Command, ABrokenProjectFileGivesOneClearLine)
 TEST(Command, ReadBlueprintGivesTheExport)
 {
 	const FSampleProjectCopy Project;
-	const FProgramResult Result = RunVexel({"tool", "read_blueprint", "--project", Project.GetPath(), "--input", R"({"blueprint":"/Game/BP_Enemy"})"});
+	const FProgramResult Result =
+		RunVexel({"tool", "read_blueprint", "--project", Project.GetPath(), "--input", R"({"blueprint":"/Game/BP_Enemy"})"});
 	ASSERT_EQ(Result.Status, 0) << Result.Errors;
 	const nlohmann::json Export = nlohmann::json::parse(Result.Output, nullptr, false);
 	ASSERT_TRUE(Export.is_object());
@@ -119,7 +123,8 @@ TEST(Command, AGraphGoesOutAndInAgain)
 	ASSERT_EQ(First.Status, 0) << First.Errors;
 	ASSERT_THAT(First.Output, StartsWith("Begin Object Class=/Script/BlueprintGraph."));
 	const FProgramResult Import =
-		RunVexel({"graph", "import", "--json", "--project", Dir, "--blueprint", "/Game/BP_Copy", "--graph", "EventGraph", "--save", "-"}, First.Output);
+		RunVexel({"graph", "import", "--json", "--project", Dir, "--blueprint", "/Game/BP_Copy", "--graph", "EventGraph", "--save", "-"},
+			First.Output);
 	ASSERT_EQ(Import.Status, 0) << Import.Errors;
 	const nlohmann::json Report = nlohmann::json::parse(Import.Output, nullptr, false);
 	EXPECT_TRUE(Report["skipped"].empty()) << Import.Output;

@@ -47,8 +47,12 @@ protected:
 	{
 		std::string Pattern = (fs::temp_directory_path() / "vexel-http-XXXXXX").string();
 		Root = mkdtemp(Pattern.data());
-		Server.AnswerWith("/guarded", [](const FScriptedRequest& Request)
-			{ return Request.GetHeader("Authorization") == "Bearer token-1" ? FScriptedAnswer().Text("in: " + Request.Body) : FScriptedAnswer(401); });
+		Server.AnswerWith("/guarded",
+			[](const FScriptedRequest& Request)
+			{
+				return Request.GetHeader("Authorization") == "Bearer token-1" ? FScriptedAnswer().Text("in: " + Request.Body)
+																			  : FScriptedAnswer(401);
+			});
 	}
 	virtual ~FHttpLimitTest() override { fs::remove_all(Root); }
 
@@ -143,7 +147,8 @@ TEST_F(FHttpLimitTest, HeadersThatCouldBeginAnotherOneAreRefusedUnsent)
 	ExpectTransportError(Get(TEXT("/a")));
 	Client->RemoveDefaultHeader(TEXT("X-Default"));
 	EXPECT_TRUE(Server.GetRequests().empty());
-	EXPECT_TRUE(Await(Client->Request(EVexelHttpVerb::Get, TEXT("/a")).WithHeader(TEXT("X-A"), TEXT("T\u00FCr\tb")).SendAndAwait()).HasValue());
+	EXPECT_TRUE(
+		Await(Client->Request(EVexelHttpVerb::Get, TEXT("/a")).WithHeader(TEXT("X-A"), TEXT("T\u00FCr\tb")).SendAndAwait()).HasValue());
 	EXPECT_EQ(Server.GetRequests().at(0).GetHeader("X-A"), "Tür\tb");
 }
 
@@ -285,7 +290,8 @@ TEST(UrlUtils, OriginsAreTheSameForTheSameService)
 
 TEST(UrlUtils, OnlyThisMachineIsLoopback)
 {
-	for (const TCHAR* const Url : {TEXT("http://localhost:4000/x"), TEXT("http://127.0.0.1"), TEXT("http://[::1]:80"), TEXT("http://LOCALHOST")})
+	for (const TCHAR* const Url :
+		{TEXT("http://localhost:4000/x"), TEXT("http://127.0.0.1"), TEXT("http://[::1]:80"), TEXT("http://LOCALHOST")})
 	{
 		EXPECT_TRUE(FVexelUrlUtils::IsLoopback(Url)) << ToUtf8(Url);
 	}

@@ -42,7 +42,8 @@ TEST_F(FHttpTest, GetAnswersStatusHeadersAndBody)
 	Server.Answer("/a", FScriptedAnswer::Json("{\"name\":\"Tür\"}").Header("X-Id", "17"));
 	FVexelHttpUrlParams Params;
 	Params.Add(TEXT("q"), TEXT("a b&c=d/ü")).Add(TEXT("empty"), TEXT("")).Add(TEXT("q"), TEXT("again"));
-	const auto Result = Client->Request(EVexelHttpVerb::Get, TEXT("/a")).WithURLParams(Params).WithHeader(TEXT("X-One"), TEXT("1")).SendAndAwait();
+	const auto Result =
+		Client->Request(EVexelHttpVerb::Get, TEXT("/a")).WithURLParams(Params).WithHeader(TEXT("X-One"), TEXT("1")).SendAndAwait();
 	const FResponse Response = Await(Result);
 	ASSERT_TRUE(Response.HasValue()) << ToUtf8(Response.GetError().ToString());
 	EXPECT_EQ(Response.GetValue()->GetStatus(), 200);
@@ -118,7 +119,8 @@ TEST_F(FHttpTest, BodyThatCannotBeSetFailsTheRequestUnsent)
 TEST_F(FHttpTest, ProgressGrowsByWhatArrivesAndEndsBeforeTheResult)
 {
 	FScriptedGate Gate;
-	Server.Answer("/stream", FScriptedAnswer().Chunk("first ").WaitFor(Gate).Chunk("second ").Pause(std::chrono::milliseconds(20)).Chunk("third"));
+	Server.Answer(
+		"/stream", FScriptedAnswer().Chunk("first ").WaitFor(Gate).Chunk("second ").Pause(std::chrono::milliseconds(20)).Chunk("third"));
 	std::vector<std::string> Seen;
 	std::atomic<int32> NumSeen = 0;
 	const auto Result = Client->Request(EVexelHttpVerb::Get, TEXT("/stream"))
@@ -180,7 +182,8 @@ TEST_F(FHttpTest, ErrorStatusesAreTheirKindsAndQuoteTheBody)
 		ASSERT_TRUE(Response.HasError());
 		EXPECT_EQ(&Response.GetError().GetKind(), &Case.Kind) << Case.Status;
 		const std::string Message = ToUtf8(Response.GetError().GetMessage());
-		EXPECT_THAT(Message, HasSubstr("GET " + ToUtf8(Server.GetUrl()) + Path + " was answered with HTTP status " + std::to_string(Case.Status)));
+		EXPECT_THAT(
+			Message, HasSubstr("GET " + ToUtf8(Server.GetUrl()) + Path + " was answered with HTTP status " + std::to_string(Case.Status)));
 		EXPECT_THAT(Message, testing::Not(HasSubstr("secret")));
 		EXPECT_LT(Message.size(), 1300u);
 		ASSERT_TRUE(Request->GetResponse().IsValid());
@@ -371,7 +374,8 @@ TEST_F(FHttpTest, WithoutATokenAnAuthenticatedRequestIsNotSent)
 		EXPECT_TRUE(Response.GetError().IsA<FVexelError_HttpUnauthorized>());
 	}
 	FVexelHttpManager::SetAuthProvider(nullptr);
-	EXPECT_TRUE(Await(Client->Request(EVexelHttpVerb::Get, TEXT("/a")).WithAuth().SendAndAwait()).GetError().IsA<FVexelError_HttpUnauthorized>());
+	EXPECT_TRUE(
+		Await(Client->Request(EVexelHttpVerb::Get, TEXT("/a")).WithAuth().SendAndAwait()).GetError().IsA<FVexelError_HttpUnauthorized>());
 	EXPECT_TRUE(Server.GetRequests().empty());
 }
 

@@ -22,7 +22,8 @@ constexpr FOptionRow ChatOptions[] = {
 	{TEXT("--message"), TEXT("TEXT"), TEXT("one message instead of an interactive chat")},
 	{TEXT("--continue"), nullptr, TEXT("goes on with the newest conversation instead of a new one")},
 	{TEXT("--service"), TEXT("URL"), TEXT("the service; a local one is started without it")},
-	{TEXT("--token-fd"), TEXT("N"), TEXT("an open file descriptor to read the service's refresh token from, once; it is kept in the secure store")},
+	{TEXT("--token-fd"), TEXT("N"),
+		TEXT("an open file descriptor to read the service's refresh token from, once; it is kept in the secure store")},
 	JsonOption,
 	VerboseOption,
 };

@@ -251,8 +251,9 @@ FExpression FExpressionWriter::CallOutput(const FBlueprintNode& Node, const FBlu
 FExpression FExpressionWriter::UnknownOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin)
 {
 	const bool bPure = !Node.HasExecPin(true) && !Node.HasExecPin(false);
-	const std::string Title = IsNodeType(Node, "call") ? FunctionTitle(Node) : IsNodeType(Node, "macro") ? std::string(LastSegment(Node.Type, '.'))
-																										 : NodeTitle(Node);
+	const std::string Title = IsNodeType(Node, "call") ? FunctionTitle(Node)
+		: IsNodeType(Node, "macro")                    ? std::string(LastSegment(Node.Type, '.'))
+													   : NodeTitle(Node);
 	const auto DataOutputs = std::count_if(Node.Pins.begin(), Node.Pins.end(), [](const FBlueprintPin& Candidate)
 		{ return !Candidate.bInput && !Candidate.IsExec(); });
 	const bool bOnlyResult = EqualIgnoringCase(Pin.Id, "ReturnValue") || Pin.Id.empty() || (IsNodeType(Node, "call") && DataOutputs == 1);

@@ -281,7 +281,8 @@ FExpression FExpressionWriter::Negation(FExpression Clause)
 		return {Clause.Text.substr(0, Clause.Text.size() - True.size()) + " is false", EExpressionForm::Predicate};
 	}
 	const std::size_t Verb = Clause.Text.find(" is ");
-	const bool bOneClause = Verb != std::string::npos && Clause.Text.find(" is ", Verb + 1) == std::string::npos && Clause.Text.find('"') == std::string::npos;
+	const bool bOneClause =
+		Verb != std::string::npos && Clause.Text.find(" is ", Verb + 1) == std::string::npos && Clause.Text.find('"') == std::string::npos;
 	if (bOneClause && Clause.Text.find(" is not ") == std::string::npos)
 	{
 		return {Clause.Text.insert(Verb + 3, " not"), EExpressionForm::Predicate};

@@ -122,7 +122,8 @@ TVexelExpected<void> FLumGraphCompound::Iterate(ILumPropertyCollector& Collector
 		return {};
 	}
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType());
-	VEXEL_TRY_VOID(Collector.Property(MakeShared<FLumNameProperty>(Type, Graph->GetFName())), "while registering editable graph name property");
+	VEXEL_TRY_VOID(
+		Collector.Property(MakeShared<FLumNameProperty>(Type, Graph->GetFName())), "while registering editable graph name property");
 
 	const FGraphEnds Ends(*Graph);
 	for (const UEdGraphPin* const Pin : GetParameterPins(Ends.Entry, EGPD_Output, GraphType))
