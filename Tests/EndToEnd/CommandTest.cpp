@@ -1,5 +1,7 @@
+#include "ClearLine.h"
 #include "Program.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -10,13 +12,9 @@ using testing::HasSubstr;
 using testing::Not;
 using testing::StartsWith;
 
-/** One line, said by vexel, with the expected words in it. */
-void ExpectOneClearLine(const FProgramResult& Result, int Status, const std::string& Words)
+void WriteFile(const std::filesystem::path& Path, const std::string& Text)
 {
-	EXPECT_EQ(Result.Status, Status) << Result.Errors;
-	EXPECT_THAT(Result.Errors, StartsWith("vexel: "));
-	EXPECT_THAT(Result.Errors, HasSubstr(Words));
-	EXPECT_EQ(std::count(Result.Errors.begin(), Result.Errors.end(), '\n'), 1) << Result.Errors;
+	std::ofstream(Path, std::ios::binary) << Text;
 }
 }
 
@@ -27,6 +25,13 @@ TEST(Command, WrongUsageIsStatusTwo)
 	ExpectOneClearLine(RunVexel({"chat", "--message"}), 2, "'--message' needs a value");
 	ExpectOneClearLine(RunVexel({"chat", "extra"}), 2, "unexpected argument 'extra'");
 	ExpectOneClearLine(RunVexel({"tool"}), 2, "which tool?");
+	ExpectOneClearLine(RunVexel({"chat", "--message", ""}), 2, "the message is empty");
+	ExpectOneClearLine(RunVexel({"chat", "--message", " \t\n"}), 2, "the message is empty");
+	ExpectOneClearLine(RunVexel({"chat", "--message", "x", "--service", "not an address"}), 2, "an address such as https://host is needed");
+	ExpectOneClearLine(RunVexel({"chat", "--message", "x", "--service", "ftp://host"}), 2, "an address such as https://host is needed");
+	ExpectOneClearLine(RunVexel({"chat", "--message", "x", "--service", "https://me:pw@host"}), 2, "a user name or a password");
+	ExpectOneClearLine(RunVexel({"chat", "--message", "x", "--service", "http://example.org"}), 2, "must be one of https");
+	ExpectOneClearLine(RunVexel({"chat", "--message", "x", "--token-fd", "3"}), 2, "--token-fd goes with --service");
 	ExpectOneClearLine(RunVexel({"graph", "paint", "--blueprint", "/Game/BP_Door"}), 2, "'export' or 'import'");
 }
 
@@ -35,23 +40,46 @@ TEST(Command, BadNamesGiveOneClearLine)
 	const FSampleProjectCopy Project;
 	const std::string Dir = Project.GetPath();
 	ExpectOneClearLine(RunVexel({"chat", "--project", Dir + "/Nowhere", "--message", "x"}), 1, "Nowhere");
-	ExpectOneClearLine(RunVexel({"chat", "--project", Dir, "--service", "http://127.0.0.1:1", "--message", "x"}), 1, "not logged in at http://127.0.0.1:1");
+	ExpectOneClearLine(RunVexel({"chat", "--project", Dir, "--service", "http://127.0.0.1:1", "--message", "x"}), 1,
+		"not logged in at http://127.0.0.1:1");
 	ExpectOneClearLine(RunVexel({"inspect", Dir + "/Lighthouse.uproject"}), 1, "this is not a package");
 	ExpectOneClearLine(RunVexel({"inspect", Dir + "/none.uasset"}), 1, "none.uasset");
-	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Nowhere"}), 1, "no Blueprint '/Game/BP_Nowhere'");
+	ExpectOneClearLine(
+		RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Nowhere"}), 1, "no Blueprint '/Game/BP_Nowhere'");
 	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "door"}), 1, "'door' is not an asset path");
-	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door", "--graph", "Cellar"}), 1, "no graph 'Cellar'");
+	ExpectOneClearLine(
+		RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door", "--graph", "Cellar"}), 1, "no graph 'Cellar'");
 	ExpectOneClearLine(RunVexel({"graph", "import", "--project", Dir, "--blueprint", "/Game/BP_New", Dir + "/none.t3d"}), 1, "none.t3d");
 	ExpectOneClearLine(RunVexel({"tool", "read_minds", "--project", Dir}), 1, "Tool 'read_minds' not found");
 	ExpectOneClearLine(RunVexel({"tool", "read_blueprint", "--project", Dir}), 1, "Missing `blueprint`");
 	ExpectOneClearLine(RunVexel({"tool", "read_blueprint", "--project", Dir, "--input", "{\"blueprint\":"}), 1, "not a JSON object");
+	ExpectOneClearLine(RunVexel({"tool", "read_blueprint", "--project", Dir, "--input", Dir + "/none.json"}), 1, "none.json");
+	ExpectOneClearLine(RunVexel({"graph", "import", "--project", Dir, "--blueprint", "/Game/BP_Door", "--graph", "Cellar", "-"}), 1,
+		"no graph 'Cellar'");
 	ExpectOneClearLine(RunVexel({"tool", "knowledge_search", "--project", Dir}), 1, "This tool produces no response");
+}
+
+TEST(Command, ABrokenProjectFileGivesOneClearLine)
+{
+	const FSampleProjectCopy Project;
+	const std::filesystem::path File = Project.GetPath() / "Lighthouse.uproject";
+	const std::vector<std::string> Words = {"graph", "export", "--project", File, "--blueprint", "/Game/BP_Door"};
+	ASSERT_EQ(RunVexel(Words).Status, 0);
+	WriteFile(File, "{\n\t\"FileVersion\": 3,\n");
+	ExpectOneClearLine(RunVexel(Words), 1, "Lighthouse.uproject' is not a project file");
+	WriteFile(File, R"({"FileVersion": 99})");
+	ExpectOneClearLine(RunVexel(Words), 1, "its 'FileVersion' is 99");
+	WriteFile(File, "\x1b[31m\r\xff");
+	const FProgramResult Result = RunVexel(Words);
+	ExpectOneClearLine(Result, 1, "Lighthouse.uproject' is not a project file");
+	EXPECT_THAT(Result.Errors, Not(HasSubstr("\x1b")));
 }
 
 TEST(Command, ReadBlueprintGivesTheExport)
 {
 	const FSampleProjectCopy Project;
-	const FProgramResult Result = RunVexel({"tool", "read_blueprint", "--project", Project.GetPath(), "--input", R"({"blueprint":"/Game/BP_Enemy"})"});
+	const FProgramResult Result =
+		RunVexel({"tool", "read_blueprint", "--project", Project.GetPath(), "--input", R"({"blueprint":"/Game/BP_Enemy"})"});
 	ASSERT_EQ(Result.Status, 0) << Result.Errors;
 	const nlohmann::json Export = nlohmann::json::parse(Result.Output, nullptr, false);
 	ASSERT_TRUE(Export.is_object());
@@ -95,7 +123,8 @@ TEST(Command, AGraphGoesOutAndInAgain)
 	ASSERT_EQ(First.Status, 0) << First.Errors;
 	ASSERT_THAT(First.Output, StartsWith("Begin Object Class=/Script/BlueprintGraph."));
 	const FProgramResult Import =
-		RunVexel({"graph", "import", "--json", "--project", Dir, "--blueprint", "/Game/BP_Copy", "--graph", "EventGraph", "--save", "-"}, First.Output);
+		RunVexel({"graph", "import", "--json", "--project", Dir, "--blueprint", "/Game/BP_Copy", "--graph", "EventGraph", "--save", "-"},
+			First.Output);
 	ASSERT_EQ(Import.Status, 0) << Import.Errors;
 	const nlohmann::json Report = nlohmann::json::parse(Import.Output, nullptr, false);
 	EXPECT_TRUE(Report["skipped"].empty()) << Import.Output;
@@ -120,8 +149,8 @@ TEST(Command, AFullDiskLosesNothing)
 	const std::string Dir = Project.GetPath();
 	const std::string Before = RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door"}).Output;
 	// A file size limit of one block stands in for the full disk: writing past it fails as writing to a full disk does.
-	const FProgramResult Import = RunProgram({"/bin/bash", "-c",
-		"trap '' XFSZ; ulimit -f 1; '" VEXEL_PROGRAM "' graph export --project '" + Dir + "' --blueprint /Game/BP_Door | '" VEXEL_PROGRAM "' graph import --project '" + Dir + "' --blueprint /Game/BP_Door --save -"});
+	const FProgramResult Import = RunVexelWithSmallFiles(
+		{"graph", "import", "--project", Dir, "--blueprint", "/Game/BP_Door", "--save", "-"}, FProgramSurroundings{.Input = Before});
 	EXPECT_EQ(Import.Status, 1);
 	EXPECT_THAT(Import.Errors, HasSubstr("cannot be saved"));
 	EXPECT_EQ(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door"}).Output, Before);

@@ -50,9 +50,12 @@ void Drain(FPipe& Pipe, std::string& Text)
 }
 }
 
-FProgramResult RunProgram(const std::vector<std::string>& Words, const std::string& Input, int TimeoutSeconds)
+FProgramResult RunProgram(const std::vector<std::string>& Words, const FProgramSurroundings& Surroundings)
 {
+	signal(SIGPIPE, SIG_IGN);
 	FProgramResult Result;
+	const std::string& Input = Surroundings.Input;
+	FPipe Third;
 	FPipe In;
 	FPipe Out;
 	FPipe Errors;
@@ -61,6 +64,21 @@ FProgramResult RunProgram(const std::vector<std::string>& Words, const std::stri
 	posix_spawn_file_actions_adddup2(&Actions, In.Ends[0], STDIN_FILENO);
 	posix_spawn_file_actions_adddup2(&Actions, Out.Ends[1], STDOUT_FILENO);
 	posix_spawn_file_actions_adddup2(&Actions, Errors.Ends[1], STDERR_FILENO);
+	if (Surroundings.ThirdDescriptor)
+	{
+		posix_spawn_file_actions_adddup2(&Actions, Third.Ends[0], 3);
+	}
+	std::vector<char*> RawEnvironment;
+	for (const std::string& Entry : Surroundings.Environment)
+	{
+		RawEnvironment.push_back(const_cast<char*>(Entry.c_str()));
+	}
+	for (char** Entry = environ; *Entry; ++Entry)
+	{
+		// The first of a name counts.
+		RawEnvironment.push_back(*Entry);
+	}
+	RawEnvironment.push_back(nullptr);
 	std::vector<char*> RawWords;
 	for (const std::string& Word : Words)
 	{
@@ -68,24 +86,30 @@ FProgramResult RunProgram(const std::vector<std::string>& Words, const std::stri
 	}
 	RawWords.push_back(nullptr);
 	pid_t Process = 0;
-	const int Failure = posix_spawn(&Process, RawWords[0], &Actions, nullptr, RawWords.data(), environ);
+	const int Failure = posix_spawn(&Process, RawWords[0], &Actions, nullptr, RawWords.data(), RawEnvironment.data());
 	posix_spawn_file_actions_destroy(&Actions);
 	if (Failure != 0)
 	{
 		Result.Errors = "the program could not be started: " + Words[0];
 		return Result;
 	}
+	Third.CloseEnd(0);
+	const std::string& Token = Surroundings.ThirdDescriptor.value_or("");
+	if (write(Third.Ends[1], Token.data(), Token.size()) < 0)
+	{
+		Result.Errors = "the program took nothing from descriptor 3";
+	}
+	Third.CloseEnd(1);
 	In.CloseEnd(0);
 	Out.CloseEnd(1);
 	Errors.CloseEnd(1);
-	signal(SIGPIPE, SIG_IGN);
 	if (!Input.empty() && write(In.Ends[1], Input.data(), Input.size()) < 0)
 	{
 		Result.Errors = "the program took no input";
 	}
 	In.CloseEnd(1);
 
-	const auto Deadline = std::chrono::steady_clock::now() + std::chrono::seconds(TimeoutSeconds);
+	const auto Deadline = std::chrono::steady_clock::now() + std::chrono::seconds(Surroundings.TimeoutSeconds);
 	while (Out.Ends[0] >= 0 || Errors.Ends[0] >= 0)
 	{
 		const auto Left = std::chrono::duration_cast<std::chrono::milliseconds>(Deadline - std::chrono::steady_clock::now()).count();
@@ -94,7 +118,7 @@ FProgramResult RunProgram(const std::vector<std::string>& Words, const std::stri
 		{
 			kill(Process, SIGKILL);
 			waitpid(Process, nullptr, 0);
-			Result.Errors += "\nkilled: it took longer than " + std::to_string(TimeoutSeconds) + " s";
+			Result.Errors += "\nkilled: it took longer than " + std::to_string(Surroundings.TimeoutSeconds) + " s";
 			return Result;
 		}
 		if (Polls[0].revents)
@@ -112,10 +136,17 @@ FProgramResult RunProgram(const std::vector<std::string>& Words, const std::stri
 	return Result;
 }
 
-FProgramResult RunVexel(std::vector<std::string> Arguments, const std::string& Input, int TimeoutSeconds)
+FProgramResult RunVexel(std::vector<std::string> Arguments, const FProgramSurroundings& Surroundings)
 {
 	Arguments.insert(Arguments.begin(), VEXEL_PROGRAM);
-	return RunProgram(Arguments, Input, TimeoutSeconds);
+	return RunProgram(Arguments, Surroundings);
+}
+
+FProgramResult RunVexelWithSmallFiles(const std::vector<std::string>& Arguments, const FProgramSurroundings& Surroundings)
+{
+	std::vector<std::string> Words = {"/bin/bash", "-c", "ulimit -f 1; exec \"$@\"", "bash", VEXEL_PROGRAM};
+	Words.insert(Words.end(), Arguments.begin(), Arguments.end());
+	return RunProgram(Words, Surroundings);
 }
 
 FSampleProjectCopy::FSampleProjectCopy()

@@ -1,5 +1,6 @@
 #include "Containers/StringConv.h"
 #include "HeadlessEditor.h"
+#include "ProjectDescriptor.h"
 
 #include <gtest/gtest.h>
 
@@ -11,13 +12,14 @@
 namespace
 {
 /** Starts an editor on a folder with these files, in a process of its own, and says on standard error what came of it. */
-[[noreturn]] void StartAndExit(const std::vector<std::string>& Files, const std::string& Project, const std::string& EngineDir)
+[[noreturn]] void StartAndExit(
+	const std::vector<std::string>& Files, const std::string& Project, const std::string& EngineDir, const std::string& Content = "{}")
 {
 	std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-start-test-XXXXXX").string();
 	const std::filesystem::path Directory = mkdtemp(Pattern.data());
 	for (const std::string& File : Files)
 	{
-		std::ofstream(Directory / File) << "{}";
+		std::ofstream(Directory / File) << Content;
 	}
 	FHeadlessEditorOptions Options;
 	Options.EngineDir = FString(UTF8_TO_TCHAR(EngineDir.c_str()));
@@ -39,5 +41,56 @@ TEST(HeadlessEditorStart, SaysInOneLineWhyItDidNotStart)
 	EXPECT_EXIT(StartAndExit({}, "Missing.uproject", Engine), testing::ExitedWithCode(0), "\\[There is no project '.*Missing.uproject'\\] not running");
 	EXPECT_EXIT(StartAndExit({"A.txt"}, "A.txt", Engine), testing::ExitedWithCode(0), "\\[.*its name does not end in .uproject\\] not running");
 	EXPECT_EXIT(StartAndExit({"A.uproject"}, "", "/no/such/engine"), testing::ExitedWithCode(0), "\\[There is no engine folder '/no/such/engine'\\] not running");
+}
+
+TEST(HeadlessEditorStart, SaysWhatIsWrongWithABrokenProjectFile)
+{
+	GTEST_FLAG_SET(death_test_style, "threadsafe");
+	const std::string Engine = VEXEL_SOURCE_DIR "/Engine";
+	const std::pair<std::string, std::string> Cases[] = {
+		{"", "is not a project file: "},
+		{"{\"FileVersion\": 3,", "is not a project file: "},
+		{"[1, 2]", "is not a project file: "},
+		{"{}", "it has no valid 'FileVersion'"},
+		{R"({"FileVersion": "three"})", "it has no valid 'FileVersion'"},
+		{R"({"FileVersion": 0})", "it has no valid 'FileVersion'"},
+		{R"({"FileVersion": 4})", "its 'FileVersion' is 4, and only versions up to 3 are known"},
+		{R"({"FileVersion": 3, "Modules": {}})", "'Modules' is not an array"},
+		{R"({"FileVersion": 3, "Modules": [{"Name": "A"}, 5]})", "entry 1 of 'Modules': it is not an object"},
+		{R"({"FileVersion": 3, "Modules": [{"Type": "Runtime"}]})", "entry 0 of 'Modules': it has no 'Name'"},
+		{R"({"FileVersion": 3, "Modules": [{"Name": "A", "Type": "Sometimes"}]})", "module 'A' has the unknown type 'Sometimes'"},
+		{R"({"FileVersion": 3, "Modules": [{"Name": "A", "LoadingPhase": "Late"}]})", "module 'A' has the unknown loading phase 'Late'"},
+		{R"({"FileVersion": 3, "Plugins": [{"Name": "P"}]})", "plug-in 'P' has no 'Enabled'"},
+	};
+	for (const auto& [Content, Reason] : Cases)
+	{
+		EXPECT_EXIT(StartAndExit({"A.uproject"}, "", Engine, Content), testing::ExitedWithCode(0), "\\['.*A.uproject' .*" + Reason + ".*\\] not running");
+	}
+}
+
+TEST(ProjectDescriptor, HoldsWhatTheFileSays)
+{
+	std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-project-test-XXXXXX").string();
+	const std::filesystem::path Directory = mkdtemp(Pattern.data());
+	std::ofstream(Directory / "Game.uproject") << "\xEF\xBB\xBF"
+												  R"({"FileVersion": 3, "EngineAssociation": "5.7", "Description": "T\u00fcr",
+		"Modules": [{"Name": "Game", "Type": "runtime", "LoadingPhase": "PreDefault", "AdditionalDependencies": ["Engine"]}, {"Name": "GameEditor", "Type": "Editor"}],
+		"Plugins": [{"Name": "Vexel", "Enabled": true}, {"Name": "Other", "Enabled": false, "Optional": true}], "Unknown": {"kept": "out"}})";
+	FProjectDescriptor Project;
+	FText Reason;
+	ASSERT_TRUE(Project.Load(FString(UTF8_TO_TCHAR((Directory / "Game.uproject").c_str())), Reason)) << TCHAR_TO_UTF8(*Reason.ToString());
+	EXPECT_EQ(Project.EngineAssociation, FString(TEXT("5.7")));
+	EXPECT_EQ(Project.Description, FString(TEXT("T\u00FCr")));
+	ASSERT_EQ(Project.Modules.Num(), 2);
+	EXPECT_EQ(Project.Modules[0].Name, FName(TEXT("Game")));
+	EXPECT_EQ(Project.Modules[0].Type, EHostType::Runtime);
+	EXPECT_EQ(Project.Modules[0].LoadingPhase, ELoadingPhase::PreDefault);
+	EXPECT_EQ(Project.Modules[0].AdditionalDependencies, TArray<FString>{TEXT("Engine")});
+	EXPECT_EQ(Project.Modules[1].Type, EHostType::Editor);
+	EXPECT_EQ(Project.Modules[1].LoadingPhase, ELoadingPhase::Default);
+	ASSERT_EQ(Project.Plugins.Num(), 2);
+	EXPECT_TRUE(Project.Plugins[0].bEnabled);
+	EXPECT_TRUE(Project.Plugins[1].bOptional);
+	std::filesystem::remove_all(Directory);
 }
 }

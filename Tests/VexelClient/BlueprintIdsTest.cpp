@@ -19,8 +19,10 @@ struct FNodeCase
 	const char* ExpectedId;
 };
 
-const TCHAR* const AddInts = TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.KismetMathLibrary'\",MemberName=\"Add_IntInt\")");
-const TCHAR* const AddDoubles = TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.KismetMathLibrary'\",MemberName=\"Add_DoubleDouble\")");
+const TCHAR* const AddInts =
+	TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.KismetMathLibrary'\",MemberName=\"Add_IntInt\")");
+const TCHAR* const AddDoubles =
+	TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.KismetMathLibrary'\",MemberName=\"Add_DoubleDouble\")");
 const TCHAR* const BeginPlay = TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.Actor'\",MemberName=\"ReceiveBeginPlay\")");
 const TCHAR* const OwnHealth = TEXT("(MemberName=\"Health\",bSelfContext=True)");
 const TCHAR* const LocalHealth = TEXT("(MemberScope=\"Heal\",MemberName=\"Health\")");
@@ -127,7 +129,9 @@ TEST_F(FBlueprintIdsTest, NodeClassWithoutARuleIsLoggedWithItsChain)
 {
 	const UEdGraphNode& Node = AddBareNode(TEXT("K2Node_Tunnel"));
 	EXPECT_TRUE(Mapping.MakeNodeTypeReference(Node).IsEmpty());
-	EXPECT_EQ(1, Log.Count("No handler found for node class 'K2Node_Tunnel' (K2Node_Tunnel -> K2Node_EditablePinBase -> K2Node -> EdGraphNode -> Object)"));
+	EXPECT_EQ(1,
+		Log.Count(
+			"No handler found for node class 'K2Node_Tunnel' (K2Node_Tunnel -> K2Node_EditablePinBase -> K2Node -> EdGraphNode -> Object)"));
 }
 
 TEST_F(FBlueprintIdsTest, OwnerPrefixLeavesOutWhatTheCompilerAdds)
@@ -140,8 +144,9 @@ TEST_F(FBlueprintIdsTest, OwnerPrefixLeavesOutWhatTheCompilerAdds)
 
 TEST_F(FBlueprintIdsTest, TypeIdsReadBackAsTheSameType)
 {
-	for (const TCHAR* const Id : {TEXT("bool"), TEXT("int"), TEXT("real"), TEXT("string"), TEXT("text"), TEXT("exec"), TEXT("byte"), TEXT("object.Actor"), TEXT("class.Actor"),
-			 TEXT("softobject.Actor"), TEXT("struct.Vector"), TEXT("enum.ECollisionChannel"), TEXT("array|object.Actor"), TEXT("set|name"), TEXT("map|string,object.Actor")})
+	for (const TCHAR* const Id : {TEXT("bool"), TEXT("int"), TEXT("real"), TEXT("string"), TEXT("text"), TEXT("exec"), TEXT("byte"),
+			 TEXT("object.Actor"), TEXT("class.Actor"), TEXT("softobject.Actor"), TEXT("struct.Vector"), TEXT("enum.ECollisionChannel"),
+			 TEXT("array|object.Actor"), TEXT("set|name"), TEXT("map|string,object.Actor")})
 	{
 		FEdGraphPinType Type;
 		ASSERT_TRUE(Mapping.ResolvePropType(TVexelPropTypeId(Id), Type)) << TCHAR_TO_UTF8(Id);
@@ -179,11 +184,14 @@ struct FBadTypeCase
 TEST_F(FBlueprintIdsTest, BadTypeIdsAreRefusedWithTheReason)
 {
 	const FBadTypeCase Cases[] = {
-		{TEXT("list|int"), "Unknown collection type 'list' in pin type reference 'list|int'", "Unknown collection type 'list' in pin type 'list|int'"},
-		{TEXT("ref|int"), "Unknown collection type 'ref' in pin type reference 'ref|int'", "Unknown collection type 'ref' in pin type 'ref|int'"},
+		{TEXT("list|int"), "Unknown collection type 'list' in pin type reference 'list|int'",
+			"Unknown collection type 'list' in pin type 'list|int'"},
+		{TEXT("ref|int"), "Unknown collection type 'ref' in pin type reference 'ref|int'",
+			"Unknown collection type 'ref' in pin type 'ref|int'"},
 		{TEXT("map|int"), "Map pin type 'map|int' is missing value type!", "Map pin type 'map|int' is missing value type!"},
 		{TEXT("map|int,"), "Map pin type 'map|int,' is missing value type!", "Map pin type 'map|int,' is missing value type!"},
-		{TEXT("map|nothing,int"), "Failed to resolve pin key type 'nothing' from `map|nothing,int`", "Failed to resolve pin key type 'nothing' from `map|nothing,int`"},
+		{TEXT("map|nothing,int"), "Failed to resolve pin key type 'nothing' from `map|nothing,int`",
+			"Failed to resolve pin key type 'nothing' from `map|nothing,int`"},
 		{TEXT("map|int,nothing"), "Failed to resolve pin value type 'nothing' from `map|int,nothing`",
 			"Failed to resolve map value type 'nothing' in pin type 'map|int,nothing'"},
 		{TEXT("object.NoSuchClass"), "Failed to load subcategory object 'NoSuchClass' for pin type 'object.NoSuchClass'!",
@@ -220,7 +228,9 @@ TEST_F(FBlueprintIdsTest, DescriptionIsTheSentenceOfTheMostSpecificSegments)
 	EXPECT_EQ("It calls KismetSystemLibrary.PrintString.", Describe(TEXT("call.KismetSystemLibrary.PrintString")));
 	EXPECT_EQ("It spawns an actor of type BP_Door in the world.", Describe(TEXT("call.spawn_actor.BP_Door")));
 	EXPECT_EQ("It gets the graph/function local variable Health.", Describe(TEXT("var.local.get.Health")));
-	EXPECT_EQ("It performs addition operation on numbers, integers, floats, vectors. This is the preferred way of adding numbers and vectors.", Describe(TEXT("call.op.Add")));
+	EXPECT_EQ(
+		"It performs addition operation on numbers, integers, floats, vectors. This is the preferred way of adding numbers and vectors.",
+		Describe(TEXT("call.op.Add")));
 	EXPECT_EQ("This is a blueprint node called Odd.", Describe(TEXT("quantum.flip")));
 }
 }

@@ -91,7 +91,8 @@ TEST(ChatMessage, BadStoredFormsAreRefusedAndSaid)
 	EXPECT_TRUE(Log.Contains("Unknown role 'tool' in FromJson"));
 	EXPECT_FALSE(Message.FromJson(Parse(TEXT(R"({"message_blocks":[]})"))));
 	EXPECT_TRUE(Log.Contains("Missing role field in FromJson"));
-	EXPECT_TRUE(Message.FromJson(Parse(TEXT(R"({"role":"user","message_blocks":[3,{"type":"text"},{"type":"poem"},{"type":"text","content":"x"}]})"))));
+	EXPECT_TRUE(Message.FromJson(
+		Parse(TEXT(R"({"role":"user","message_blocks":[3,{"type":"text"},{"type":"poem"},{"type":"text","content":"x"}]})"))));
 	EXPECT_EQ(Message.NumBlocks(), 1);
 	EXPECT_TRUE(Log.Contains("Invalid or missing message block in FromJson"));
 	EXPECT_TRUE(Log.Contains("Missing content field in FromJson for Text block"));
@@ -160,8 +161,9 @@ TEST(ChatConversation, RevertsToACheckpoint)
 TEST_F(ChatHistory, ConversationsComeBackNewestFirst)
 {
 	FVexelChatHistoryManager Written(Directory);
-	for (const TCHAR* const Stored : {TEXT(R"({"UserId":"u","ChatId":"newer","Title":"t","ChatMode":"vexel_agent","UpdateTime":"2026-03-01T10:00:00.500Z"})"),
-			 TEXT(R"({"UserId":"u","ChatId":"older","Title":"t","ChatMode":"vexel_agent","UpdateTime":"2026-03-01T10:00:00.499Z"})")})
+	for (const TCHAR* const Stored :
+		{TEXT(R"({"UserId":"u","ChatId":"newer","Title":"t","ChatMode":"vexel_agent","UpdateTime":"2026-03-01T10:00:00.500Z"})"),
+			TEXT(R"({"UserId":"u","ChatId":"older","Title":"t","ChatMode":"vexel_agent","UpdateTime":"2026-03-01T10:00:00.499Z"})")})
 	{
 		const TSharedRef<FVexelChatConversation> Conversation = MakeShared<FVexelChatConversation>();
 		ASSERT_TRUE(Conversation->FromJson(Parse(Stored)));

@@ -67,7 +67,8 @@ protected:
 		Subsystem->GetEvents().OnRequestStateChanged.AddLambda([this](const FString&, EVexelChatRequestState State, const FVexelError* Error)
 			{
 				LastState = State;
-				Failure = Error ? TCHAR_TO_UTF8(*Error->ToShortString()) : ""; });
+				Failure = Error ? TCHAR_TO_UTF8(*Error->ToShortString()) : "";
+				FailureChain = Error ? TCHAR_TO_UTF8(*Error->ToChainString()) : ""; });
 	}
 
 	virtual void TearDown() override
@@ -129,6 +130,7 @@ protected:
 	FString Streamed;
 	EVexelChatRequestState LastState = EVexelChatRequestState::Preparing;
 	std::string Failure;
+	std::string FailureChain;
 };
 }
 
@@ -245,6 +247,31 @@ TEST_F(ChatTurn, EachBadServiceGivesAClearReason)
 	FVexelInternalConfig::Find(TEXT("ApiUrl"))->SetOverride(TEXT("http://127.0.0.1:1"));
 	RunTurn(TEXT("Anyone?"));
 	EXPECT_EQ(LastState, EVexelChatRequestState::Failed);
+}
+
+TEST_F(ChatTurn, AServiceThatGoesSilentEndsTheTurnWithOneClearLine)
+{
+	FVexelConfigValue* const Setting = FVexelInternalConfig::Find(TEXT("ChatStallTimeoutSeconds"));
+	ASSERT_NE(Setting, nullptr);
+	EXPECT_EQ(Setting->GetNumber(1.0, 1000.0), 300.0);
+	Setting->SetOverride(TEXT("1"));
+	Server.Answer("/api/chat", FScriptedAnswer().Chunk("one moment").Stall());
+	RunTurn(TEXT("Well?"));
+	Setting->SetOverride(TEXT("300"));
+	EXPECT_EQ(LastState, EVexelChatRequestState::Failed);
+	EXPECT_THAT(FailureChain, HasSubstr("/api/chat: nothing came for 1 seconds"));
+	EXPECT_THAT(FailureChain, testing::Not(HasSubstr("\n")));
+	EXPECT_EQ(Streamed, FString(TEXT("one moment")));
+}
+
+TEST_F(ChatTurn, ASubAgentsIdCannotLeaveItsPlaceInTheAddress)
+{
+	Server.Answer("/api/chat",
+		FScriptedAnswer().Chunk("<SubChainStart info={\"sub_chat_id\":\"../../oauth/revoke?x\"}/>"
+								"<ToolCall info={\"tool_name\":\"none\",\"reply_id\":\"r\"}/>"));
+	RunTurn(TEXT("Delegate"));
+	EXPECT_TRUE(PumpUntil([this]
+		{ return FindBody("/api/tool_error/..%2F..%2Foauth%2Frevoke%3Fx").IsValid(); }));
 }
 
 TEST_F(ChatTurn, InvalidBytesAndTagsAreShownAsTheyAre)

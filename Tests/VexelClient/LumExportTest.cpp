@@ -15,7 +15,8 @@
 
 namespace
 {
-FEdGraphPinType MakeType(FName Category, FName SubCategory = NAME_None, UObject* Object = nullptr, EPinContainerType Container = EPinContainerType::None)
+FEdGraphPinType MakeType(
+	FName Category, FName SubCategory = NAME_None, UObject* Object = nullptr, EPinContainerType Container = EPinContainerType::None)
 {
 	return FEdGraphPinType(Category, SubCategory, Object, Container, false, FEdGraphTerminalType());
 }
@@ -97,7 +98,8 @@ TEST_F(FLumExportTest, NodesCarryTheirPinsAndLinks)
 	EXPECT_EQ(ToStd(Print.NodeGuid.ToString(EGuidFormats::Digits)), ToStd(PrintObject->GetStringField(TEXT("guid"))));
 
 	const UEdGraphPin& InString = *Print.FindPin(TEXT("InString"));
-	EXPECT_EQ("{\"id\":\"InString\",\"dir\":\"input\",\"guid\":\"" + ToStd(InString.PinId.ToString(EGuidFormats::Digits)) + "\",\"name\":\"In String\",\"type\":\"string\",\"value\":\"Who is there?\"}",
+	EXPECT_EQ("{\"id\":\"InString\",\"dir\":\"input\",\"guid\":\"" + ToStd(InString.PinId.ToString(EGuidFormats::Digits)) +
+			"\",\"name\":\"In String\",\"type\":\"string\",\"value\":\"Who is there?\"}",
 		ToStd(ToText(Find(PrintObject, TEXT("pins"), TEXT("InString")).ToSharedRef())));
 	const TSharedPtr<FJsonObject> Execute = Find(PrintObject, TEXT("pins"), TEXT("execute"));
 	ASSERT_TRUE(Execute.IsValid());
@@ -134,14 +136,16 @@ TEST_F(FLumExportTest, ValuesAreTheEnginesText)
 	EXPECT_EQ("Hello", ExportedValue(TEXT("Greeting"), MakeType(UEdGraphSchema_K2::PC_String), TEXT("Hello")));
 	EXPECT_EQ("1.500000", ExportedValue(TEXT("Speed"), MakeType(UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_Double), TEXT("1.500000")));
 	EXPECT_EQ("ref|None", ExportedValue(TEXT("Target"), MakeType(UEdGraphSchema_K2::PC_Object, NAME_None, UObject::StaticClass()), TEXT("")));
-	EXPECT_EQ("ref|/Script/Engine.Actor", ExportedValue(TEXT("Kind"), MakeType(UEdGraphSchema_K2::PC_Class, NAME_None, UObject::StaticClass()), TEXT("/Script/Engine.Actor")));
+	EXPECT_EQ("ref|/Script/Engine.Actor",
+		ExportedValue(
+			TEXT("Kind"), MakeType(UEdGraphSchema_K2::PC_Class, NAME_None, UObject::StaticClass()), TEXT("/Script/Engine.Actor")));
 }
 
 TEST_F(FLumExportTest, ElementsAndFieldsAreReachedByPath)
 {
 	UScriptStruct* const Vector = FindFirstObject<UScriptStruct>(TEXT("Vector"));
-	FBlueprintEditorUtils::AddMemberVariable(
-		Blueprint, TEXT("Stops"), MakeType(UEdGraphSchema_K2::PC_Struct, NAME_None, Vector, EPinContainerType::Array), TEXT("((X=1,Y=2,Z=3),(X=4,Y=5,Z=6))"));
+	FBlueprintEditorUtils::AddMemberVariable(Blueprint, TEXT("Stops"),
+		MakeType(UEdGraphSchema_K2::PC_Struct, NAME_None, Vector, EPinContainerType::Array), TEXT("((X=1,Y=2,Z=3),(X=4,Y=5,Z=6))"));
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	const TVexelExpected<TSharedRef<ILumProperty>> Y =
 		FLumHelper::CompoundPathResolve(MakeShared<FLumBlueprintCompound>(*Blueprint), TEXT("$ClassDefaultObject.Stops.1.Y"));
@@ -170,7 +174,8 @@ TEST_F(FLumExportTest, DefaultObjectShowsOnlyWhatDiffersFromItsParent)
 
 TEST_F(FLumExportTest, FunctionHasItsInputsAndLocalVariables)
 {
-	UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Heal"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Graph =
+		FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Heal"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Blueprint, Graph, true, nullptr);
 	TArray<UK2Node_FunctionEntry*> Entries;
 	Graph->GetNodesOfClass(Entries);
@@ -228,7 +233,8 @@ TEST_F(FLumExportTest, StructInsideAStructIsText)
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	const TSharedPtr<FJsonObject> Value = Find(Export(), TEXT("variables"), TEXT("Place"))->GetObjectField(TEXT("value"));
 	EXPECT_EQ("struct.Transform", ToStd(Value->GetStringField(TEXT("type"))));
-	EXPECT_EQ("(X=0.000000,Y=0.000000,Z=0.000000)", ToStd(Find(Value, TEXT("properties"), TEXT("Translation"))->GetStringField(TEXT("value"))));
+	EXPECT_EQ(
+		"(X=0.000000,Y=0.000000,Z=0.000000)", ToStd(Find(Value, TEXT("properties"), TEXT("Translation"))->GetStringField(TEXT("value"))));
 }
 
 TEST_F(FLumExportTest, PinDefaultsOfMathStructsAreTheirComponents)

@@ -31,7 +31,10 @@ public:
 	virtual TVexelExpected<TVexelPropTypeId> GetValueTypeId() const override { return TVexelPropTypeId(TEXT("endless")); }
 	virtual TVexelExpected<EPropertyFlags> GetFlags() const override { return CPF_None; }
 	virtual TVexelExpected<FString> GetCategory() const override { return FString(); }
-	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext&) const override { return MakeShared<FJsonValueString>(TEXT("")); }
+	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext&) const override
+	{
+		return MakeShared<FJsonValueString>(TEXT(""));
+	}
 
 private:
 	const TCHAR* Name;
@@ -74,7 +77,8 @@ TEST_F(FLumPathTest, PathOf256SegmentsResolvesAndALongerOneDoesNot)
 {
 	EXPECT_EQ("found", Resolve(MakePath(256)));
 	const FString TooLong = MakePath(257);
-	EXPECT_EQ("Exceeded maximum segments (256) while resolving path '" + std::string(TCHAR_TO_UTF8(*TooLong)) + "'\nwhile resolving path '" + TCHAR_TO_UTF8(*TooLong) + "'",
+	EXPECT_EQ("Exceeded maximum segments (256) while resolving path '" + std::string(TCHAR_TO_UTF8(*TooLong)) +
+			"'\nwhile resolving path '" + TCHAR_TO_UTF8(*TooLong) + "'",
 		Resolve(TooLong));
 }
 

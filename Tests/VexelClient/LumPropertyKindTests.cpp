@@ -113,7 +113,8 @@ TEST_F(FLumPropertyKindTest, ReferenceIsThePathOfItsObjectOrNone)
 	Thing->Class = ULumPart::StaticClass();
 	Thing->SoftObject = FSoftObjectPath(TEXT("/Game/Not/Loaded.Loaded"));
 	Thing->Weak = Target;
-	EXPECT_NE(std::string::npos, Export(TEXT("Object")).find(R"("value":"ref|)" + Utf8(Target->GetPathName()) + "\"")) << Export(TEXT("Object"));
+	EXPECT_NE(std::string::npos, Export(TEXT("Object")).find(R"("value":"ref|)" + Utf8(Target->GetPathName()) + "\""))
+		<< Export(TEXT("Object"));
 	EXPECT_NE(std::string::npos, Export(TEXT("Weak")).find(R"("value":"ref|)" + Utf8(Target->GetPathName()) + "\""));
 	EXPECT_NE(std::string::npos, Export(TEXT("Class")).find(R"("value":"ref|/Script/LumTestTypes.LumPart")")) << Export(TEXT("Class"));
 	EXPECT_NE(std::string::npos, Export(TEXT("SoftObject")).find(R"("value":"ref|/Game/Not/Loaded.Loaded")")) << Export(TEXT("SoftObject"));
@@ -139,15 +140,24 @@ TEST_F(FLumPropertyKindTest, PropertiesWithoutABlueprintTypeAreNotThere)
 {
 	for (const TCHAR* const Name : {TEXT("Fixed"), TEXT("OnDone"), TEXT("OnChanged"), TEXT("Hidden")})
 	{
-		EXPECT_EQ("Property '" + Utf8(Name) + "' not found in compound\nwhile resolving segment '" + Utf8(Name) + "'\nwhile resolving path '" + Utf8(Name) + "'", Export(Name));
+		EXPECT_EQ("Property '" + Utf8(Name) + "' not found in compound\nwhile resolving segment '" + Utf8(Name) +
+				"'\nwhile resolving path '" + Utf8(Name) + "'",
+			Export(Name));
 	}
 }
 
 TEST_F(FLumPropertyKindTest, StructIsAnObjectWithTheInnerOneAsText)
 {
-	EXPECT_NE(std::string::npos, Export(TEXT("Vector")).find(R"("type":"struct.Vector","value":{"type":"struct.Vector","properties":[{"id":"X","declared_in":"struct.Vector","type":"real","value":"1.000000")")) << Export(TEXT("Vector"));
+	EXPECT_NE(std::string::npos,
+		Export(TEXT("Vector"))
+			.find(
+				R"("type":"struct.Vector","value":{"type":"struct.Vector","properties":[{"id":"X","declared_in":"struct.Vector","type":"real","value":"1.000000")"))
+		<< Export(TEXT("Vector"));
 	const std::string Json = Export(TEXT("Struct"));
-	EXPECT_NE(std::string::npos, Json.find(R"x({"id":"Inner","declared_in":"struct.LumOuter","type":"struct.LumInner","value":"(Depth=2,Label=\"say \\\"x\\\"\")","category":"Outer","edit":true})x")) << Json;
+	EXPECT_NE(std::string::npos,
+		Json.find(
+			R"x({"id":"Inner","declared_in":"struct.LumOuter","type":"struct.LumInner","value":"(Depth=2,Label=\"say \\\"x\\\"\")","category":"Outer","edit":true})x"))
+		<< Json;
 	EXPECT_NE(std::string::npos, Json.find(R"("type":"array|struct.LumInner","value":{"type":"array|struct.LumInner"})")) << Json;
 }
 
@@ -156,13 +166,17 @@ TEST_F(FLumPropertyKindTest, ContainersHaveTheirElementsByIndex)
 	Thing->Numbers = {5, -6};
 	Thing->Names = {TEXT("First"), TEXT("Gone"), TEXT("Last")};
 	Thing->Names.Remove(TEXT("Gone"));
-	EXPECT_NE(std::string::npos, Export(TEXT("Numbers")).find(R"("type":"array|int32","value":{"type":"array|int32","properties":[{"id":"0")")) << Export(TEXT("Numbers"));
+	EXPECT_NE(
+		std::string::npos, Export(TEXT("Numbers")).find(R"("type":"array|int32","value":{"type":"array|int32","properties":[{"id":"0")"))
+		<< Export(TEXT("Numbers"));
 	EXPECT_NE(std::string::npos, Export(TEXT("Numbers.1")).find(R"("id":"1")"));
 	EXPECT_NE(std::string::npos, Export(TEXT("Numbers.1")).find(R"("value":"-6")"));
 	EXPECT_NE(std::string::npos, Export(TEXT("Names.1")).find(R"("value":"Last")")) << Export(TEXT("Names"));
 	EXPECT_EQ("Property '2' not found in compound\nwhile resolving segment '2'\nwhile resolving path 'Names.2'", Export(TEXT("Names.2")));
-	EXPECT_EQ("Property '-1' not found in compound\nwhile resolving segment '-1'\nwhile resolving path 'Numbers.-1'", Export(TEXT("Numbers.-1")));
-	EXPECT_EQ("Property '01' not found in compound\nwhile resolving segment '01'\nwhile resolving path 'Numbers.01'", Export(TEXT("Numbers.01")));
+	EXPECT_EQ(
+		"Property '-1' not found in compound\nwhile resolving segment '-1'\nwhile resolving path 'Numbers.-1'", Export(TEXT("Numbers.-1")));
+	EXPECT_EQ(
+		"Property '01' not found in compound\nwhile resolving segment '01'\nwhile resolving path 'Numbers.01'", Export(TEXT("Numbers.01")));
 }
 
 TEST_F(FLumPropertyKindTest, PathGoesThroughMapsStructsAndArrays)
@@ -174,10 +188,12 @@ TEST_F(FLumPropertyKindTest, PathGoesThroughMapsStructsAndArrays)
 	Thing->Structs.Add(TEXT("Here"), Outer);
 	Thing->Structs.Remove(TEXT("Gone"));
 	EXPECT_NE(std::string::npos, Export(TEXT("Structs.0.key")).find(R"("value":"Here")")) << Export(TEXT("Structs.0.key"));
-	EXPECT_NE(std::string::npos, Export(TEXT("Structs.0.value.List.1.Depth")).find(R"("value":"42")")) << Export(TEXT("Structs.0.value.List.1.Depth"));
+	EXPECT_NE(std::string::npos, Export(TEXT("Structs.0.value.List.1.Depth")).find(R"("value":"42")"))
+		<< Export(TEXT("Structs.0.value.List.1.Depth"));
 	EXPECT_NE(std::string::npos, Export(TEXT("structs.0.VALUE.inner.depth")).find(R"("value":"2")"));
 	EXPECT_NE(std::string::npos, Export(TEXT("Structs")).find(R"("type":"map|string|struct.LumOuter")"));
-	EXPECT_EQ("Property 'Depth' is not a compound property\nwhile resolving path 'Struct.Inner.Depth.X'", Export(TEXT("Struct.Inner.Depth.X")));
+	EXPECT_EQ(
+		"Property 'Depth' is not a compound property\nwhile resolving path 'Struct.Inner.Depth.X'", Export(TEXT("Struct.Inner.Depth.X")));
 	EXPECT_EQ("Property 'Name' is not a compound property\nwhile resolving path 'Name.X'", Export(TEXT("Name.X")));
 	EXPECT_EQ("Property 'Object' is not a compound property\nwhile resolving path 'Object.X'", Export(TEXT("Object.X")));
 }
@@ -187,14 +203,18 @@ TEST_F(FLumPropertyKindTest, PartsAreShownTwoLevelsDeepAndNeverInsideThemselves)
 	ULumPart* const First = NewObject<ULumPart>(Thing, TEXT("First"));
 	ULumPart* const Second = NewObject<ULumPart>(First, TEXT("Second"));
 	Thing->Part = First;
-	EXPECT_EQ("Property 'Next' does not contain a valid compound\nwhile resolving path 'Part.Next.Strength'", Export(TEXT("Part.Next.Strength")));
+	EXPECT_EQ(
+		"Property 'Next' does not contain a valid compound\nwhile resolving path 'Part.Next.Strength'", Export(TEXT("Part.Next.Strength")));
 	First->Strength = 8;
 	First->Next = Second;
 	Second->Strength = 9;
 	ULumPart* const Third = NewObject<ULumPart>(Second, TEXT("Third"));
 	Second->Next = Third;
 	const std::string Json = Export(TEXT("Part"));
-	EXPECT_NE(std::string::npos, Json.find(R"("value":{"type":"object.LumPart","properties":[{"id":"Strength","declared_in":"object.LumPart","type":"int32","value":"8")")) << Json;
+	EXPECT_NE(std::string::npos,
+		Json.find(
+			R"("value":{"type":"object.LumPart","properties":[{"id":"Strength","declared_in":"object.LumPart","type":"int32","value":"8")"))
+		<< Json;
 	EXPECT_NE(std::string::npos, Json.find(R"("value":"9")")) << Json;
 	EXPECT_NE(std::string::npos, Json.find(R"("value":"ref|)" + Utf8(Third->GetPathName()))) << Json;
 	EXPECT_NE(std::string::npos, Export(TEXT("Part.Next.Next.Strength")).find(R"("value":"3")"));
@@ -251,7 +271,8 @@ TEST_F(FLumPropertyKindTest, FirstErrorStopsTheIterationAndSaysWhere)
 
 	Thing->Numbers = {1, 2, 3};
 	FFailingCollector Second(2);
-	const TVexelExpected<void> Items = Resolve(TEXT("Numbers")).GetValue()->AsCompoundProperty()->GetCompound().GetValue()->IterateProperties(Second);
+	const TVexelExpected<void> Items =
+		Resolve(TEXT("Numbers")).GetValue()->AsCompoundProperty()->GetCompound().GetValue()->IterateProperties(Second);
 	ASSERT_TRUE(Items.HasError());
 	EXPECT_EQ("enough\nwhile collecting item at index 2\nwhile iterating properties", Utf8(Items.GetError().GetMessage()));
 }
@@ -273,6 +294,8 @@ TEST_F(FLumPropertyKindTest, ExportOfAnObjectShowsWhatDiffersAlone)
 	EXPECT_EQ(R"({"type":"object.LumThing"})", ToText(FLumUnrealObjectCompound(*Thing).JsonExportObject(Context).GetValue()));
 	Thing->bSecondBit = false;
 	const std::string Json = ToText(FLumUnrealObjectCompound(*Thing).JsonExportObject(Context).GetValue());
-	EXPECT_EQ(R"({"type":"object.LumThing","properties":[{"id":"bSecondBit","declared_in":"object.LumThing","type":"bool","value":"False","category":"","edit":true}]})", Json);
+	EXPECT_EQ(
+		R"({"type":"object.LumThing","properties":[{"id":"bSecondBit","declared_in":"object.LumThing","type":"bool","value":"False","category":"","edit":true}]})",
+		Json);
 }
 }

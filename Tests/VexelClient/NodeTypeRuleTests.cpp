@@ -48,11 +48,14 @@ TEST_F(FNodeTypeRuleTest, ClassesOfOneIdNeedNothingElse)
 
 TEST_F(FNodeTypeRuleTest, SubclassHasTheRuleOfItsNearestAncestor)
 {
-	const TCHAR* const Function = TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.KismetArrayLibrary'\",MemberName=\"Array_Add\")");
+	const TCHAR* const Function =
+		TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.KismetArrayLibrary'\",MemberName=\"Array_Add\")");
 	const UEdGraphNode& Array = AddBareNode(TEXT("K2Node_CallArrayFunction"), TEXT("FunctionReference"), Function);
 	EXPECT_EQ("call.KismetArrayLibrary.Array_Add", IdOf(Array));
 	EXPECT_EQ("call.KismetArrayLibrary.Array_Add", IdOf(Array));
-	EXPECT_EQ("event.Actor.ReceiveTick", IdOf(AddBareNode(TEXT("K2Node_ActorBoundEvent"), TEXT("EventReference"), TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.Actor'\",MemberName=\"ReceiveTick\")"))));
+	EXPECT_EQ("event.Actor.ReceiveTick",
+		IdOf(AddBareNode(TEXT("K2Node_ActorBoundEvent"), TEXT("EventReference"),
+			TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.Actor'\",MemberName=\"ReceiveTick\")"))));
 }
 
 TEST_F(FNodeTypeRuleTest, ClassWhoseChainHasNoRuleIsLoggedAtEachLookup)
@@ -60,25 +63,32 @@ TEST_F(FNodeTypeRuleTest, ClassWhoseChainHasNoRuleIsLoggedAtEachLookup)
 	for (int32 Times = 1; Times <= 2; ++Times)
 	{
 		EXPECT_EQ("", IdOf(AddBareNode(TEXT("K2Node_Composite"))));
-		EXPECT_EQ(Times, Log.Count("No handler found for node class 'K2Node_Composite' (K2Node_Composite -> K2Node_Tunnel -> K2Node_EditablePinBase -> K2Node -> EdGraphNode -> Object)"));
+		EXPECT_EQ(Times,
+			Log.Count(
+				"No handler found for node class 'K2Node_Composite' (K2Node_Composite -> K2Node_Tunnel -> K2Node_EditablePinBase -> K2Node -> EdGraphNode -> Object)"));
 	}
 	EXPECT_TRUE(FVexelBlueprintNodeTypeIdBuilder::Create(nullptr, Mapping).IsEmpty());
 }
 
 TEST_F(FNodeTypeRuleTest, AxisKeyCallOfAnotherClassIsRefused)
 {
-	const TCHAR* const Function = TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.Actor'\",MemberName=\"GetInputAxisKeyValue\")");
+	const TCHAR* const Function =
+		TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine.Actor'\",MemberName=\"GetInputAxisKeyValue\")");
 	const UEdGraphNode& Plain = AddBareNode(TEXT("K2Node_CallFunction"), TEXT("FunctionReference"), Function);
 	EXPECT_EQ("", IdOf(Plain));
-	EXPECT_TRUE(Log.Contains("MakeNodeTypeReference: UK2Node_CallFunction '" + ToStd(Plain.GetName()) + "' is a GetInputAxisKeyValue call, which should be handled by UK2Node_GetInputAxisValue!"));
+	EXPECT_TRUE(Log.Contains("MakeNodeTypeReference: UK2Node_CallFunction '" + ToStd(Plain.GetName()) +
+		"' is a GetInputAxisKeyValue call, which should be handled by UK2Node_GetInputAxisValue!"));
 	const UEdGraphNode& WithoutAxis = AddBareNode(TEXT("K2Node_GetInputAxisKeyValue"), TEXT("FunctionReference"), Function);
 	EXPECT_EQ("", IdOf(WithoutAxis));
-	EXPECT_TRUE(Log.Contains("is not of the expected class! Expected: K2Node_GetInputAxisKeyValue, Actual: K2Node_GetInputAxisKeyValue")) << Log.ToText();
+	EXPECT_TRUE(Log.Contains("is not of the expected class! Expected: K2Node_GetInputAxisKeyValue, Actual: K2Node_GetInputAxisKeyValue"))
+		<< Log.ToText();
 }
 
 TEST_F(FNodeTypeRuleTest, CallOnOneselfIsNamedByTheClassThatHasTheFunction)
 {
-	EXPECT_EQ("call.Actor.K2_GetActorLocation", IdOf(AddBareNode(TEXT("K2Node_CallFunction"), TEXT("FunctionReference"), TEXT("(MemberName=\"K2_GetActorLocation\",bSelfContext=True)"))));
+	EXPECT_EQ("call.Actor.K2_GetActorLocation",
+		IdOf(AddBareNode(
+			TEXT("K2Node_CallFunction"), TEXT("FunctionReference"), TEXT("(MemberName=\"K2_GetActorLocation\",bSelfContext=True)"))));
 }
 
 TEST_F(FNodeTypeRuleTest, TemporaryIsNamedByItsType)
@@ -114,7 +124,8 @@ TEST_F(FNodeTypeRuleTest, SpawnIsNamedByTheClassThatItsPinHolds)
 
 TEST_F(FNodeTypeRuleTest, MacroIsNamedByItsGraph)
 {
-	UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Twice"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Graph =
+		FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Twice"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddMacroGraph(Blueprint, Graph, true, nullptr);
 	UK2Node_MacroInstance& Macro = *CastChecked<UK2Node_MacroInstance>(&AddBareNode(TEXT("K2Node_MacroInstance")));
 	Macro.SetMacroGraph(Graph);
@@ -126,8 +137,10 @@ TEST_F(FNodeTypeRuleTest, MacroIsNamedByItsGraph)
 
 TEST_F(FNodeTypeRuleTest, BlueprintPathsThatNameNoneAreRefused)
 {
-	for (const TCHAR* const Path : {TEXT(""), TEXT("None"), TEXT("/"), TEXT("//"), TEXT("."), TEXT("/Game"), TEXT("/Game/"), TEXT("/Game/.."), TEXT("../../../etc/passwd"), TEXT("/Game/../../x.x"), TEXT("C:\\x"),
-			 TEXT("/Script/Engine.Actor"), TEXT("/Script/Engine"), TEXT("/Game/A.B.C.D"), TEXT("/Game/A:B:C"), TEXT("ref|/Game/A.A"), TEXT("/Game/%s%n.%s"), TEXT("/Game/a b\"c'.d"), TEXT("/Game/\u4e2d.\u4e2d")})
+	for (const TCHAR* const Path : {TEXT(""), TEXT("None"), TEXT("/"), TEXT("//"), TEXT("."), TEXT("/Game"), TEXT("/Game/"),
+			 TEXT("/Game/.."), TEXT("../../../etc/passwd"), TEXT("/Game/../../x.x"), TEXT("C:\\x"), TEXT("/Script/Engine.Actor"),
+			 TEXT("/Script/Engine"), TEXT("/Game/A.B.C.D"), TEXT("/Game/A:B:C"), TEXT("ref|/Game/A.A"), TEXT("/Game/%s%n.%s"),
+			 TEXT("/Game/a b\"c'.d"), TEXT("/Game/\u4e2d.\u4e2d")})
 	{
 		UBlueprint* Found = Blueprint;
 		Log.Clear();

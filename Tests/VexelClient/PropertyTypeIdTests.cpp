@@ -77,7 +77,8 @@ TEST_F(FPropertyTypeIdTest, MapWhoseValueHasNoIdHasNoneEither)
 
 TEST_F(FPropertyTypeIdTest, ContainersOfEveryKindOfTypeReadBack)
 {
-	for (const TCHAR* const Base : {TEXT("bool"), TEXT("int64"), TEXT("real"), TEXT("name"), TEXT("byte"), TEXT("object.Actor"), TEXT("class.Actor"), TEXT("softclass.Actor"), TEXT("struct.Vector"), TEXT("enum.ECollisionChannel")})
+	for (const TCHAR* const Base : {TEXT("bool"), TEXT("int64"), TEXT("real"), TEXT("name"), TEXT("byte"), TEXT("object.Actor"),
+			 TEXT("class.Actor"), TEXT("softclass.Actor"), TEXT("struct.Vector"), TEXT("enum.ECollisionChannel")})
 	{
 		for (const TCHAR* const Format : {TEXT("array|%s"), TEXT("set|%s"), TEXT("map|int,%s"), TEXT("map|%s,struct.Rotator")})
 		{
@@ -98,10 +99,12 @@ TEST_F(FPropertyTypeIdTest, IdsAreReadInAnyLetterCase)
 
 TEST_F(FPropertyTypeIdTest, IdsThatNameNoTypeAreRefused)
 {
-	for (const TCHAR* const Id : {TEXT(""), TEXT("."), TEXT(".."), TEXT("|"), TEXT("||"), TEXT("none|int"), TEXT("array|"), TEXT("|int"), TEXT("set||int"), TEXT("array|array|int"), TEXT("array|map|int,int"),
-			 TEXT("map|"), TEXT("map|,"), TEXT("map|,int"), TEXT("map|int,int,"), TEXT("map|a,b,c"), TEXT("map|array|int,int"), TEXT("object."), TEXT(".Actor"), TEXT("object..Actor"),
-			 TEXT("object.Actor.Actor"), TEXT("object.Actor "), TEXT(" int"), TEXT("struct.Actor"), TEXT("object.Vector"), TEXT("enum.Vector"), TEXT("class.ECollisionChannel"), TEXT("string.Actor"), TEXT("nonsense.Actor"),
-			 TEXT("object.Actor:Inner"), TEXT("object.None"), TEXT("None"), TEXT("object./"), TEXT("object.%s%n"), TEXT("object.\"'\\"), TEXT("object.\u00e9\u4e2d")})
+	for (const TCHAR* const Id : {TEXT(""), TEXT("."), TEXT(".."), TEXT("|"), TEXT("||"), TEXT("none|int"), TEXT("array|"), TEXT("|int"),
+			 TEXT("set||int"), TEXT("array|array|int"), TEXT("array|map|int,int"), TEXT("map|"), TEXT("map|,"), TEXT("map|,int"),
+			 TEXT("map|int,int,"), TEXT("map|a,b,c"), TEXT("map|array|int,int"), TEXT("object."), TEXT(".Actor"), TEXT("object..Actor"),
+			 TEXT("object.Actor.Actor"), TEXT("object.Actor "), TEXT(" int"), TEXT("struct.Actor"), TEXT("object.Vector"),
+			 TEXT("enum.Vector"), TEXT("class.ECollisionChannel"), TEXT("string.Actor"), TEXT("nonsense.Actor"), TEXT("object.Actor:Inner"),
+			 TEXT("object.None"), TEXT("None"), TEXT("object./"), TEXT("object.%s%n"), TEXT("object.\"'\\"), TEXT("object.\u00e9\u4e2d")})
 	{
 		FEdGraphPinType Type;
 		Type.PinCategory = TEXT("untouched");
@@ -116,7 +119,8 @@ TEST_F(FPropertyTypeIdTest, HugeIdsAreRefused)
 {
 	const FString Huge = FString::ChrN(200000, TEXT('a'));
 	FEdGraphPinType Type;
-	for (const FString& Id : {Huge, Huge + TEXT(".Actor"), TEXT("object.") + Huge, TEXT("array|") + Huge, TEXT("map|") + Huge + TEXT(",") + Huge, FString::ChrN(200000, TEXT('|')), FString::ChrN(200000, TEXT('.'))})
+	for (const FString& Id : {Huge, Huge + TEXT(".Actor"), TEXT("object.") + Huge, TEXT("array|") + Huge,
+			 TEXT("map|") + Huge + TEXT(",") + Huge, FString::ChrN(200000, TEXT('|')), FString::ChrN(200000, TEXT('.'))})
 	{
 		EXPECT_FALSE(Mapping.ResolvePropType(TVexelPropTypeId(Id), Type));
 	}

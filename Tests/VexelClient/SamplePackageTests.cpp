@@ -132,8 +132,9 @@ TEST_P(FSampleBlueprintTest, IsReadAsValidJson)
 }
 
 INSTANTIATE_TEST_SUITE_P(Packages, FSampleBlueprintTest,
-	testing::Values(FSample{"AirSim/Blueprints", "BP_CameraDirector"}, FSample{"AirSim/Blueprints", "BP_PIPCamera"}, FSample{"AirSim/Blueprints/Lights", "SpotLightBP"},
-		FSample{"UE56/DirectCycle", "DirectCycleA", false}, FSample{"UE56/SimpleRefs", "SimpleRefsRoot"}, FSample{"UE54/SimpleRefs", "SimpleRefsRoot"},
-		FSample{"UE52/SimpleRefs", "SimpleRefsRoot"}, FSample{"UE50/SimpleRefs", "SimpleRefsRoot"}, FSample{"UE427/SimpleRefs", "SimpleRefsRoot"},
-		FSample{"UE420/SimpleRefs", "SimpleRefsRoot"}));
+	testing::Values(FSample{"AirSim/Blueprints", "BP_CameraDirector"}, FSample{"AirSim/Blueprints", "BP_PIPCamera"},
+		FSample{"AirSim/Blueprints/Lights", "SpotLightBP"}, FSample{"UE56/DirectCycle", "DirectCycleA", false},
+		FSample{"UE56/SimpleRefs", "SimpleRefsRoot"}, FSample{"UE54/SimpleRefs", "SimpleRefsRoot"},
+		FSample{"UE52/SimpleRefs", "SimpleRefsRoot"}, FSample{"UE50/SimpleRefs", "SimpleRefsRoot"},
+		FSample{"UE427/SimpleRefs", "SimpleRefsRoot"}, FSample{"UE420/SimpleRefs", "SimpleRefsRoot"}));
 }

@@ -35,8 +35,8 @@ TEST(Crypto, Sha256GivesTheStandardsDigests)
 TEST(Crypto, Base64UrlHasNoPaddingAndItsOwnTwoCharacters)
 {
 	// RFC 4648, section 10.
-	const std::pair<const char*, const char*> Cases[] = {
-		{"", ""}, {"f", "Zg"}, {"fo", "Zm8"}, {"foo", "Zm9v"}, {"foob", "Zm9vYg"}, {"fooba", "Zm9vYmE"}, {"foobar", "Zm9vYmFy"}, {"\xfb\xff\xfe", "-__-"}};
+	const std::pair<const char*, const char*> Cases[] = {{"", ""}, {"f", "Zg"}, {"fo", "Zm8"}, {"foo", "Zm9v"}, {"foob", "Zm9vYg"},
+		{"fooba", "Zm9vYmE"}, {"foobar", "Zm9vYmFy"}, {"\xfb\xff\xfe", "-__-"}};
 	for (const auto& [Plain, Encoded] : Cases)
 	{
 		EXPECT_EQ(ToUtf8(FVexelCrypto::Base64UrlEncode(ToBytes(Plain))), Encoded);

@@ -82,7 +82,8 @@ TEST(ErrorKinds, ThreadsThatRegisterAtOnceGetOneKind)
 TEST(ErrorKindsDeathTest, OneNameBelowTwoParentsIsAFault)
 {
 	ASSERT_NE(FVexelError_Http::StaticKind().GetParent(), &FVexelError_Tool::StaticKind());
-	EXPECT_DEATH(FVexelErrorKind::Register(TEXT("FVexelError_Http"), &FVexelError_Tool::StaticKind(), TEXT("")), "registered below two parents");
+	EXPECT_DEATH(
+		FVexelErrorKind::Register(TEXT("FVexelError_Http"), &FVexelError_Tool::StaticKind(), TEXT("")), "registered below two parents");
 }
 
 TEST(Errors, CarryTheirPlaceAndTheKindsOwnTitle)

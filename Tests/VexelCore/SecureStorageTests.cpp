@@ -156,7 +156,9 @@ TEST_F(FSecureStorageTest, ProcessesAndThreadsThatWriteAtOnceLoseNothing)
 		bool bStored = true;
 		for (int32 Index = 0; Index < NumKeys; ++Index)
 		{
-			bStored = FVexelSecureStorage::StoreValueString(FString::Printf(TEXT("%d.%d"), Writer, Index), FString::FromInt(Index)).HasValue() && bStored;
+			bStored =
+				FVexelSecureStorage::StoreValueString(FString::Printf(TEXT("%d.%d"), Writer, Index), FString::FromInt(Index)).HasValue() &&
+				bStored;
 		}
 		return bStored;
 	};

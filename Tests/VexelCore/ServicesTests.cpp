@@ -7,6 +7,7 @@
 #include "VexelFile.h"
 #include "VexelInternalConfig.h"
 #include "VexelJson.h"
+#include "VexelStringUtil.h"
 
 #include <cstdlib>
 #include <filesystem>
@@ -132,4 +133,33 @@ TEST(JsonConversions, RecordsDescribeThemselves)
 	EXPECT_FALSE(Log.Contains("not a JSON object"));
 	EXPECT_FALSE(Person.FromJsonString(TEXT("[]")));
 	EXPECT_TRUE(Log.Contains("The text is not a JSON object: An object is expected. Line: 1 Ch: 1"));
+}
+
+TEST(VexelConfig, NumbersStayInTheirBoundsAndTheDefaultStandsInForOthers)
+{
+	static FVexelConfigValue Setting(TEXT("TestNumber"), TEXT("300"));
+	FLogCapture Log;
+	EXPECT_EQ(Setting.GetNumber(1.0, 1000.0), 300.0);
+	Setting.SetOverride(TEXT("2.5"));
+	EXPECT_EQ(Setting.GetNumber(1.0, 1000.0), 2.5);
+	Setting.SetOverride(TEXT("-7"));
+	EXPECT_EQ(Setting.GetNumber(1.0, 1000.0), 1.0);
+	Setting.SetOverride(TEXT("123456789"));
+	EXPECT_EQ(Setting.GetNumber(1.0, 1000.0), 1000.0);
+	for (const TCHAR* const NoNumber : {TEXT("soon"), TEXT(""), TEXT("nan"), TEXT("5 minutes"), TEXT("0x10")})
+	{
+		Setting.SetOverride(NoNumber);
+		EXPECT_EQ(Setting.GetNumber(1.0, 1000.0), 300.0) << ToUtf8(NoNumber);
+	}
+	EXPECT_EQ(Log.Count("which is no number; it counts as 300"), 5);
+}
+
+TEST(PrintableText, HoldsNothingThatATerminalWouldObey)
+{
+	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintable(u"T\u00FCr\t\u9580\n\U0001F6AA")), "Tür\t門\n🚪");
+	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintable(u"a\r\nb\rc")), "a\nb\uFFFDc");
+	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintable(u"\u001b[2J\u009b1m\u0007\u0008\u007f")), "\uFFFD[2J\uFFFD1m\uFFFD\uFFFD\uFFFD");
+	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintable(FStringView(u"a\0b", 3))), "a\uFFFDb");
+	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintableLine(u"\n one\r\n\t two  \u001bthree\n", 100)), "one two \uFFFDthree");
+	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintableLine(u"one two three", 7)), "one two…");
 }

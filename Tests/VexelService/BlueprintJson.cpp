@@ -57,7 +57,8 @@ FJson DataOut(const std::string& Id, const std::string& Type)
 
 FJson MakeNode(const std::string& Id, const std::string& NodeType, std::vector<FJson> Pins)
 {
-	return {{"type", "object.K2Node"}, {"id", Id}, {"node_type", NodeType}, {"guid", "00000000000000000000000000000000"}, {"pins", std::move(Pins)}};
+	return {{"type", "object.K2Node"}, {"id", Id}, {"node_type", NodeType}, {"guid", "00000000000000000000000000000000"},
+		{"pins", std::move(Pins)}};
 }
 
 FJson MakeGraph(const std::string& Id, const std::string& GraphType, std::vector<FJson> Nodes)
@@ -85,19 +86,23 @@ FJson MakeVariable(const std::string& Id, const std::string& Type, const std::st
 
 FJson MakeBlueprint(const std::string& Path, std::vector<FJson> Graphs, std::vector<FJson> Variables)
 {
-	return {{"type", "object.Blueprint"}, {"id", Path}, {"parent_chain", {"Actor", "Object"}}, {"bp_type", "normal"}, {"graphs", std::move(Graphs)}, {"variables", std::move(Variables)}};
+	return {{"type", "object.Blueprint"}, {"id", Path}, {"parent_chain", {"Actor", "Object"}}, {"bp_type", "normal"},
+		{"graphs", std::move(Graphs)}, {"variables", std::move(Variables)}};
 }
 
 FJson MakeDoor()
 {
-	FJson Graph = MakeGraph("EventGraph", "ubergraph", {
-														   MakeNode("EventBeginPlay_0", "event.Actor.ReceiveBeginPlay", {ExecOut()}),
-														   MakeNode("Branch_0", "flow.if", {ExecIn(), DataIn("Condition", "bool"), ExecOut("then"), ExecOut("else")}),
-														   MakeNode("GetHealth_0", "var.get.Health", {DataOut("Health", "real")}),
-														   MakeNode("LessEqual_0", "call.op.LessEqual", {DataIn("A", "real"), DataIn("B", "real", "0.000000"), DataOut("ReturnValue", "bool")}),
-														   MakeNode("DestroyActor_0", "call.Actor.K2_DestroyActor", {ExecIn(), DataIn("self", "object.Actor"), ExecOut()}),
-														   MakeNode("PrintString_0", "call.KismetSystemLibrary.PrintString", {ExecIn(), DataIn("InString", "string", "Hello"), DataIn("bPrintToScreen", "bool", "true"), ExecOut()}),
-													   });
+	FJson Graph = MakeGraph("EventGraph", "ubergraph",
+		{
+			MakeNode("EventBeginPlay_0", "event.Actor.ReceiveBeginPlay", {ExecOut()}),
+			MakeNode("Branch_0", "flow.if", {ExecIn(), DataIn("Condition", "bool"), ExecOut("then"), ExecOut("else")}),
+			MakeNode("GetHealth_0", "var.get.Health", {DataOut("Health", "real")}),
+			MakeNode(
+				"LessEqual_0", "call.op.LessEqual", {DataIn("A", "real"), DataIn("B", "real", "0.000000"), DataOut("ReturnValue", "bool")}),
+			MakeNode("DestroyActor_0", "call.Actor.K2_DestroyActor", {ExecIn(), DataIn("self", "object.Actor"), ExecOut()}),
+			MakeNode("PrintString_0", "call.KismetSystemLibrary.PrintString",
+				{ExecIn(), DataIn("InString", "string", "Hello"), DataIn("bPrintToScreen", "bool", "true"), ExecOut()}),
+		});
 	Link(Graph, "EventBeginPlay_0.then", "Branch_0.execute");
 	Link(Graph, "GetHealth_0.Health", "LessEqual_0.A");
 	Link(Graph, "LessEqual_0.ReturnValue", "Branch_0.Condition");

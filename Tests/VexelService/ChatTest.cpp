@@ -71,9 +71,11 @@ TEST_F(Chat, AnEditorsErrorIsPassedOnInPlainWords)
 	const auto Stream = Ask("chat-1", "Explain /Game/Nowhere");
 	const FJson Call = TagInfo(Stream->WaitFor("/>"), "ToolCall");
 	EXPECT_EQ(Call["blueprint"], "/Game/Nowhere");
-	const FJson Body = {{"chat_id", "chat-1"}, {"reply_id", Call["reply_id"]}, {"error_message", "Invalid input: Blueprint not found: `/Game/Nowhere`"}};
+	const FJson Body = {
+		{"chat_id", "chat-1"}, {"reply_id", Call["reply_id"]}, {"error_message", "Invalid input: Blueprint not found: `/Game/Nowhere`"}};
 	EXPECT_EQ(PostJson("/api/tool_error/chat-1", Body)->status, 200);
-	EXPECT_THAT(Stream->Finish(), HasSubstr("I could not read `/Game/Nowhere`. The editor says: Invalid input: Blueprint not found: `/Game/Nowhere`"));
+	EXPECT_THAT(Stream->Finish(),
+		HasSubstr("I could not read `/Game/Nowhere`. The editor says: Invalid input: Blueprint not found: `/Game/Nowhere`"));
 }
 
 TEST_F(Chat, ItMeansTheBlueprintNamedLast)

@@ -41,7 +41,8 @@ TEST(Describer, ABranchIsToldWithItsConditionAndBothWays)
 {
 	const std::string Text = Overview(MakeDoor());
 	EXPECT_THAT(Text, HasSubstr("**BP_Door** is a Blueprint with the parent class Actor."));
-	EXPECT_THAT(Text, HasSubstr("**When play begins**:\n\n- If Health is less than or equal to 0, destroys itself; otherwise prints \"Hello\"\n"));
+	EXPECT_THAT(
+		Text, HasSubstr("**When play begins**:\n\n- If Health is less than or equal to 0, destroys itself; otherwise prints \"Hello\"\n"));
 	EXPECT_THAT(Text, HasSubstr("- **Health**: number, 100 by default\n"));
 }
 
@@ -75,13 +76,16 @@ TEST(Describer, WaysThatMeetAgainGoOnTogether)
 
 TEST(Describer, ALoopTellsItsBodyAndWhatFollows)
 {
-	FJson Graph = MakeGraph("EventGraph", "GT_Ubergraph", {
-															  BeginPlay(),
-															  MakeNode("ForEachLoop_0", "macro.ForEachLoop", {ExecIn("Exec"), DataIn("Array", "array|object.Actor"), ExecOut("LoopBody"), DataOut("Array Element", "object.Actor"), DataOut("Array Index", "int"), ExecOut("Completed")}),
-															  MakeNode("GetDoors_0", "var.get.Doors", {DataOut("Doors", "array|object.Actor")}),
-															  MakeNode("DestroyActor_0", "call.Actor.K2_DestroyActor", {ExecIn(), DataIn("self", "object.Actor"), ExecOut()}),
-															  Print("PrintString_0", "Done"),
-														  });
+	FJson Graph = MakeGraph("EventGraph", "GT_Ubergraph",
+		{
+			BeginPlay(),
+			MakeNode("ForEachLoop_0", "macro.ForEachLoop",
+				{ExecIn("Exec"), DataIn("Array", "array|object.Actor"), ExecOut("LoopBody"), DataOut("Array Element", "object.Actor"),
+					DataOut("Array Index", "int"), ExecOut("Completed")}),
+			MakeNode("GetDoors_0", "var.get.Doors", {DataOut("Doors", "array|object.Actor")}),
+			MakeNode("DestroyActor_0", "call.Actor.K2_DestroyActor", {ExecIn(), DataIn("self", "object.Actor"), ExecOut()}),
+			Print("PrintString_0", "Done"),
+		});
 	Link(Graph, "EventBeginPlay_0.then", "ForEachLoop_0.Exec");
 	Link(Graph, "GetDoors_0.Doors", "ForEachLoop_0.Array");
 	Link(Graph, "ForEachLoop_0.LoopBody", "DestroyActor_0.execute");
@@ -102,30 +106,37 @@ TEST(Describer, AWireThatLeadsBackIsToldOnce)
 	Link(Graph, "PrintString_0.then", "Delay_0.execute");
 	Link(Graph, "Delay_0.then", "Knot_0.InputPin");
 	Link(Graph, "Knot_0.OutputPin", "PrintString_0.execute");
-	EXPECT_THAT(OverviewOf(Graph), HasSubstr("- Prints \"Tick\"\n- Waits 0.5 seconds\n- Goes back to the step \"prints \"Tick\"\" and repeats from there\n"));
+	EXPECT_THAT(OverviewOf(Graph),
+		HasSubstr("- Prints \"Tick\"\n- Waits 0.5 seconds\n- Goes back to the step \"prints \"Tick\"\" and repeats from there\n"));
 }
 
 TEST(Describer, DanglingWiresAndUnknownNodesAreSaidSo)
 {
-	FJson Graph = MakeGraph("EventGraph", "ubergraph", {BeginPlay(), MakeNode("Strange_0", "quantum.flip", {ExecIn(), DataIn("Speed", "real", "3.0"), ExecOut()}), Print("PrintString_0", "Never")});
+	FJson Graph = MakeGraph("EventGraph", "ubergraph",
+		{BeginPlay(), MakeNode("Strange_0", "quantum.flip", {ExecIn(), DataIn("Speed", "real", "3.0"), ExecOut()}),
+			Print("PrintString_0", "Never")});
 	Link(Graph, "EventBeginPlay_0.then", "Strange_0.execute");
 	Graph["nodes"][1]["pins"][2]["connections"].push_back({{"node", "Gone_0"}, {"pin", "execute"}});
 	Graph["nodes"][1]["pins"][1]["connections"].push_back({{"node", "Gone_1"}, {"pin", "Out"}});
 	const std::string Text = OverviewOf(Graph);
-	EXPECT_THAT(Text, HasSubstr("- Runs the node \"Strange\" (of the kind `quantum.flip`, which I cannot put into words) with Speed = a value from a node that the export does not show\n"));
+	EXPECT_THAT(Text,
+		HasSubstr(
+			"- Runs the node \"Strange\" (of the kind `quantum.flip`, which I cannot put into words) with Speed = a value from a node that the export does not show\n"));
 	EXPECT_THAT(Text, HasSubstr("- Goes on at a node that the export does not show\n"));
 	EXPECT_THAT(Text, HasSubstr("1 node is connected to no execution wire and never runs. It would do this:\n\n- Prints \"Never\"\n"));
 }
 
 TEST(Describer, ASwitchFoldsCasesThatDoTheSame)
 {
-	FJson Graph = MakeGraph("EventGraph", "ubergraph", {
-														   BeginPlay(),
-														   MakeNode("SwitchonName_0", "switch.name", {ExecIn(), DataIn("Selection", "name", "Red"), ExecOut("Red"), ExecOut("Blue"), ExecOut("Default")}),
-														   Print("PrintString_0", "Color"),
-														   Print("PrintString_1", "Color"),
-														   Print("PrintString_2", "None"),
-													   });
+	FJson Graph = MakeGraph("EventGraph", "ubergraph",
+		{
+			BeginPlay(),
+			MakeNode("SwitchonName_0", "switch.name",
+				{ExecIn(), DataIn("Selection", "name", "Red"), ExecOut("Red"), ExecOut("Blue"), ExecOut("Default")}),
+			Print("PrintString_0", "Color"),
+			Print("PrintString_1", "Color"),
+			Print("PrintString_2", "None"),
+		});
 	Link(Graph, "EventBeginPlay_0.then", "SwitchonName_0.execute");
 	Link(Graph, "SwitchonName_0.Red", "PrintString_0.execute");
 	Link(Graph, "SwitchonName_0.Blue", "PrintString_1.execute");
@@ -149,23 +160,32 @@ TEST(Describer, AFunctionTellsItsParametersAndWhatItReturns)
 	Link(Graph, "Add_0.ReturnValue", "SetHealth_0.Health");
 	Link(Graph, "SetHealth_0.then", "ReturnNode_0.execute");
 	Link(Graph, "SetHealth_0.Output_Get", "ReturnNode_0.NewHealth");
-	const std::optional<FBlueprintModel> Model = ReadBlueprintModel(MakeBlueprint("/Game/BP_Door.BP_Door", {Graph}, {MakeVariable("Health", "real", "5.0")}));
+	const std::optional<FBlueprintModel> Model =
+		ReadBlueprintModel(MakeBlueprint("/Game/BP_Door.BP_Door", {Graph}, {MakeVariable("Health", "real", "5.0")}));
 	const FBlueprintDescriber Describer(*Model);
-	EXPECT_THAT(Describer.Function("heal"), HasSubstr("**Function Heal** takes Amount (number) and gives back NewHealth (number):\n\n- Sets Health to Health + Amount\n- Returns NewHealth = Health\n"));
-	EXPECT_THAT(Describer.VariableUse("Health"), HasSubstr("**Health** is set in 1 step of **BP_Door**:\n\n- In Heal, set by the step \"sets Health to Health + Amount\"\n"));
+	EXPECT_THAT(Describer.Function("heal"),
+		HasSubstr(
+			"**Function Heal** takes Amount (number) and gives back NewHealth (number):\n\n- Sets Health to Health + Amount\n- Returns NewHealth = Health\n"));
+	EXPECT_THAT(Describer.VariableUse("Health"),
+		HasSubstr("**Health** is set in 1 step of **BP_Door**:\n\n- In Heal, set by the step \"sets Health to Health + Amount\"\n"));
 	EXPECT_THAT(Describer.VariableUse("Armor"), HasSubstr("**BP_Door** has no variable \"Armor\""));
 }
 
 TEST(Describer, EventsAreFoundByTheWordsOfPeople)
 {
-	FJson Graph = MakeGraph("EventGraph", "ubergraph", {
-														   BeginPlay(),
-														   MakeNode("EventActorBeginOverlap_0", "event.Actor.ReceiveActorBeginOverlap", {ExecOut(), DataOut("OtherActor", "object.Actor")}),
-														   MakeNode("CasttoBP_Player_0", "cast.BP_Player", {ExecIn(), DataIn("Object", "object.Object"), ExecOut("then"), ExecOut("CastFailed"), DataOut("AsBP Player", "object.BP_Player")}),
-														   MakeNode("Kill_0", "call.BP_Player.Kill", {ExecIn(), DataIn("self", "object.BP_Player"), DataIn("Delay", "real", "2.0"), ExecOut()}),
-														   MakeNode("F_0", "input.key.F", {ExecOut("Pressed"), ExecOut("Released"), DataOut("Key", "struct.Key")}),
-														   Print("PrintString_0", "F"),
-													   });
+	FJson Graph = MakeGraph("EventGraph", "ubergraph",
+		{
+			BeginPlay(),
+			MakeNode(
+				"EventActorBeginOverlap_0", "event.Actor.ReceiveActorBeginOverlap", {ExecOut(), DataOut("OtherActor", "object.Actor")}),
+			MakeNode("CasttoBP_Player_0", "cast.BP_Player",
+				{ExecIn(), DataIn("Object", "object.Object"), ExecOut("then"), ExecOut("CastFailed"),
+					DataOut("AsBP Player", "object.BP_Player")}),
+			MakeNode(
+				"Kill_0", "call.BP_Player.Kill", {ExecIn(), DataIn("self", "object.BP_Player"), DataIn("Delay", "real", "2.0"), ExecOut()}),
+			MakeNode("F_0", "input.key.F", {ExecOut("Pressed"), ExecOut("Released"), DataOut("Key", "struct.Key")}),
+			Print("PrintString_0", "F"),
+		});
 	Link(Graph, "EventActorBeginOverlap_0.then", "CasttoBP_Player_0.execute");
 	Link(Graph, "EventActorBeginOverlap_0.OtherActor", "CasttoBP_Player_0.Object");
 	Link(Graph, "CasttoBP_Player_0.then", "Kill_0.execute");
@@ -174,7 +194,9 @@ TEST(Describer, EventsAreFoundByTheWordsOfPeople)
 	const std::optional<FBlueprintModel> Model = ReadBlueprintModel(MakeBlueprint("/Game/BP_Trap.BP_Trap", {Graph}));
 	const FBlueprintDescriber Describer(*Model);
 	const std::string Overlap = Describer.WhenEvent("the player overlaps it");
-	EXPECT_THAT(Overlap, HasSubstr("**When another actor begins to overlap it**:\n\n- Goes on only if the other actor is a BP_Player\n- Calls Kill on the other actor (as BP_Player) with Delay = 2\n"));
+	EXPECT_THAT(Overlap,
+		HasSubstr(
+			"**When another actor begins to overlap it**:\n\n- Goes on only if the other actor is a BP_Player\n- Calls Kill on the other actor (as BP_Player) with Delay = 2\n"));
 	EXPECT_THAT(Overlap, Not(HasSubstr("key F")));
 	EXPECT_THAT(Describer.WhenEvent("F is released"), HasSubstr("**When the key F is released**:\n\n- Prints \"F\"\n"));
 	EXPECT_THAT(Describer.WhenEvent("the game starts"), HasSubstr("**When play begins**: nothing happens, since nothing is connected to it."));
@@ -228,9 +250,12 @@ TEST(Describer, GeneratedClassesAreCalledByTheirBlueprints)
 {
 	for (const char* const Class : {"BP_Player_C", "SKEL_BP_Player_C", "BP_Player"})
 	{
-		FJson Graph = MakeGraph("EventGraph", "ubergraph", {BeginPlay(), MakeNode("Cast_0", std::string("cast.") + Class, {ExecIn(), DataIn("Object", "object.Object"), ExecOut()})});
+		FJson Graph = MakeGraph("EventGraph", "ubergraph",
+			{BeginPlay(), MakeNode("Cast_0", std::string("cast.") + Class, {ExecIn(), DataIn("Object", "object.Object"), ExecOut()})});
 		Link(Graph, "EventBeginPlay_0.then", "Cast_0.execute");
-		EXPECT_THAT(OverviewOf(Graph, {MakeVariable("Owner", std::string("object.") + Class, "")}), testing::AllOf(HasSubstr("is a BP_Player\n"), HasSubstr("BP_Player reference"), Not(HasSubstr("_C")))) << Class;
+		EXPECT_THAT(OverviewOf(Graph, {MakeVariable("Owner", std::string("object.") + Class, "")}),
+			testing::AllOf(HasSubstr("is a BP_Player\n"), HasSubstr("BP_Player reference"), Not(HasSubstr("_C"))))
+			<< Class;
 	}
 }
 
@@ -284,17 +309,26 @@ TEST(Describer, ConditionsReadAsClauses)
 
 TEST(Describer, TimelinesSpawnsAndSequencesReadAsALayeredList)
 {
-	FJson Graph = MakeGraph("EventGraph", "ubergraph", {
-														   MakeNode("Open_0", "event.custom", {ExecOut(), DataOut("Speed", "real")}),
-														   MakeNode("Sequence_0", "flow.sequence", {ExecIn(), ExecOut("then_0"), ExecOut("then_1")}),
-														   MakeNode("Swing_0", "timeline.Swing", {ExecIn("Play"), ExecIn("Reverse"), ExecOut("Update"), ExecOut("Finished"), DataOut("Angle", "real")}),
-														   MakeNode("SetRelativeRotation_0", "call.SceneComponent.K2_SetRelativeRotation", {ExecIn(), DataIn("self", "object.SceneComponent"), DataIn("NewRotation", "struct.Rotator"), ExecOut()}),
-														   MakeNode("GetHinge_0", "var.get.Hinge", {DataOut("Hinge", "object.SceneComponent")}),
-														   MakeNode("MakeRotator_0", "call.KismetMathLibrary.MakeRotator", {DataIn("Roll", "real", "0.0"), DataIn("Pitch", "real", "0.0"), DataIn("Yaw", "real"), DataOut("ReturnValue", "struct.Rotator")}),
-														   MakeNode("SpawnActor_0", "call.spawn_actor.PointLight", {ExecIn(), DataIn("Class", "class.Actor", "ref|/Script/Engine.PointLight"), DataIn("SpawnTransform", "struct.Transform"), ExecOut(), DataOut("ReturnValue", "object.PointLight")}),
-														   MakeNode("SetLight_0", "var.set.Light", {ExecIn(), DataIn("Light", "object.PointLight"), ExecOut(), DataOut("Output_Get", "object.PointLight")}),
-														   MakeNode("SetActorHiddenInGame_0", "call.Actor.SetActorHiddenInGame", {ExecIn(), DataIn("self", "object.Actor"), DataIn("bNewHidden", "bool", "true"), ExecOut()}),
-													   });
+	FJson Graph = MakeGraph("EventGraph", "ubergraph",
+		{
+			MakeNode("Open_0", "event.custom", {ExecOut(), DataOut("Speed", "real")}),
+			MakeNode("Sequence_0", "flow.sequence", {ExecIn(), ExecOut("then_0"), ExecOut("then_1")}),
+			MakeNode("Swing_0", "timeline.Swing",
+				{ExecIn("Play"), ExecIn("Reverse"), ExecOut("Update"), ExecOut("Finished"), DataOut("Angle", "real")}),
+			MakeNode("SetRelativeRotation_0", "call.SceneComponent.K2_SetRelativeRotation",
+				{ExecIn(), DataIn("self", "object.SceneComponent"), DataIn("NewRotation", "struct.Rotator"), ExecOut()}),
+			MakeNode("GetHinge_0", "var.get.Hinge", {DataOut("Hinge", "object.SceneComponent")}),
+			MakeNode("MakeRotator_0", "call.KismetMathLibrary.MakeRotator",
+				{DataIn("Roll", "real", "0.0"), DataIn("Pitch", "real", "0.0"), DataIn("Yaw", "real"),
+					DataOut("ReturnValue", "struct.Rotator")}),
+			MakeNode("SpawnActor_0", "call.spawn_actor.PointLight",
+				{ExecIn(), DataIn("Class", "class.Actor", "ref|/Script/Engine.PointLight"), DataIn("SpawnTransform", "struct.Transform"),
+					ExecOut(), DataOut("ReturnValue", "object.PointLight")}),
+			MakeNode("SetLight_0", "var.set.Light",
+				{ExecIn(), DataIn("Light", "object.PointLight"), ExecOut(), DataOut("Output_Get", "object.PointLight")}),
+			MakeNode("SetActorHiddenInGame_0", "call.Actor.SetActorHiddenInGame",
+				{ExecIn(), DataIn("self", "object.Actor"), DataIn("bNewHidden", "bool", "true"), ExecOut()}),
+		});
 	Graph["nodes"][0]["properties"] = {{{"id", "name"}, {"type", "name"}, {"value", "OpenDoor"}}};
 	Link(Graph, "Open_0.then", "Sequence_0.execute");
 	Link(Graph, "Sequence_0.then_0", "SpawnActor_0.execute");
@@ -306,11 +340,13 @@ TEST(Describer, TimelinesSpawnsAndSequencesReadAsALayeredList)
 	Link(Graph, "GetHinge_0.Hinge", "SetRelativeRotation_0.self");
 	Link(Graph, "Swing_0.Angle", "MakeRotator_0.Yaw");
 	Link(Graph, "MakeRotator_0.ReturnValue", "SetRelativeRotation_0.NewRotation");
-	EXPECT_THAT(OverviewOf(Graph), HasSubstr("**The custom event OpenDoor**:\n\n"
-											 "- Spawns a PointLight\n"
-											 "- Sets Light to the new PointLight\n"
-											 "- Hides itself in the game\n"
-											 "- Plays the timeline Swing; while it plays, rotates Hinge to (Roll 0, Pitch 0, Yaw the value Angle of the timeline Swing) relative to its parent\n"));
+	EXPECT_THAT(OverviewOf(Graph),
+		HasSubstr(
+			"**The custom event OpenDoor**:\n\n"
+			"- Spawns a PointLight\n"
+			"- Sets Light to the new PointLight\n"
+			"- Hides itself in the game\n"
+			"- Plays the timeline Swing; while it plays, rotates Hinge to (Roll 0, Pitch 0, Yaw the value Angle of the timeline Swing) relative to its parent\n"));
 }
 
 TEST(Describer, SharedPureNodesDoNotExplode)
@@ -318,7 +354,8 @@ TEST(Describer, SharedPureNodesDoNotExplode)
 	std::vector<FJson> Nodes = {BeginPlay(), MakeNode("SetX_0", "var.set.X", {ExecIn(), DataIn("X", "real"), ExecOut()})};
 	for (int Index = 0; Index < 64; ++Index)
 	{
-		Nodes.push_back(MakeNode("Add_" + std::to_string(Index), "call.op.Add", {DataIn("A", "real"), DataIn("B", "real"), DataOut("ReturnValue", "real")}));
+		Nodes.push_back(MakeNode(
+			"Add_" + std::to_string(Index), "call.op.Add", {DataIn("A", "real"), DataIn("B", "real"), DataOut("ReturnValue", "real")}));
 	}
 	FJson Graph = MakeGraph("EventGraph", "ubergraph", Nodes);
 	Link(Graph, "EventBeginPlay_0.then", "SetX_0.execute");
@@ -341,7 +378,8 @@ TEST(Describer, DeepBranchesEndInsteadOfOverflowing)
 	std::vector<FJson> Nodes = {BeginPlay()};
 	for (int Index = 0; Index < 2000; ++Index)
 	{
-		Nodes.push_back(MakeNode("Branch_" + std::to_string(Index), "flow.if", {ExecIn(), DataIn("Condition", "bool", "true"), ExecOut("then"), ExecOut("else")}));
+		Nodes.push_back(MakeNode("Branch_" + std::to_string(Index), "flow.if",
+			{ExecIn(), DataIn("Condition", "bool", "true"), ExecOut("then"), ExecOut("else")}));
 		Nodes.back()["pins"][2]["connections"].push_back({{"node", "Branch_" + std::to_string(Index + 1)}, {"pin", "execute"}});
 	}
 	FJson Graph = MakeGraph("EventGraph", "ubergraph", Nodes);
@@ -367,13 +405,14 @@ TEST(Describer, AVeryLongListIsCutAndSaysSo)
 
 TEST(Describer, AnyJsonShapeIsSurvived)
 {
-	for (const char* const Text : {
-			 R"({"id":7,"graphs":{"nodes":1}})",
-			 R"({"graphs":[null,1,"x",[],{"nodes":[null,{"pins":[null,{"connections":[null,{"node":3}]}]}]}]})",
-			 R"({"id":"/Game/X","parent_chain":"Actor","graphs":[{"graph_type":"function","nodes":[{"node_type":"graph.entry","pins":[{"dir":"output","type":"exec","connections":[{}]}]}]}]})",
-			 R"({"variables":[{"value":{"properties":[{"value":{"properties":7}}]}},{"type":"map|"},{"type":"array|array|"},5]})",
-			 R"({"graphs":[{"nodes":[{"id":"a","node_type":"event","pins":[{"id":"","dir":"output","type":"exec","connections":[{"node":"b","pin":""}]}]},{"id":"b","node_type":"call","pins":[]},{"id":"c","node_type":"call.op.Add","pins":[{"dir":"output"}]}]}]})",
-		 })
+	for (const char* const Text :
+		{
+			R"({"id":7,"graphs":{"nodes":1}})",
+			R"({"graphs":[null,1,"x",[],{"nodes":[null,{"pins":[null,{"connections":[null,{"node":3}]}]}]}]})",
+			R"({"id":"/Game/X","parent_chain":"Actor","graphs":[{"graph_type":"function","nodes":[{"node_type":"graph.entry","pins":[{"dir":"output","type":"exec","connections":[{}]}]}]}]})",
+			R"({"variables":[{"value":{"properties":[{"value":{"properties":7}}]}},{"type":"map|"},{"type":"array|array|"},5]})",
+			R"({"graphs":[{"nodes":[{"id":"a","node_type":"event","pins":[{"id":"","dir":"output","type":"exec","connections":[{"node":"b","pin":""}]}]},{"id":"b","node_type":"call","pins":[]},{"id":"c","node_type":"call.op.Add","pins":[{"dir":"output"}]}]}]})",
+		})
 	{
 		const std::optional<FJson> Export = ParseJson(Text);
 		ASSERT_TRUE(Export) << Text;

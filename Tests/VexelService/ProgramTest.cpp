@@ -184,7 +184,8 @@ TEST(Program, WithoutExitWithParentAClosedInputMeansNothing)
 
 TEST(Program, BadOptionsAreUsageErrors)
 {
-	for (const std::vector<std::string>& Options : {std::vector<std::string>{"--no-such-option"}, {"--port"}, {"--port", "65536"}, {"--port", "x"}, {"--data", ""}})
+	for (const std::vector<std::string>& Options :
+		{std::vector<std::string>{"--no-such-option"}, {"--port"}, {"--port", "65536"}, {"--port", "x"}, {"--data", ""}})
 	{
 		FProgram Program(Options);
 		EXPECT_EQ(Program.WaitForExit(), 2) << Options.front();

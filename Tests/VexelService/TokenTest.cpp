@@ -33,7 +33,8 @@ TEST_F(Token, ARefreshAnswersTokensThatOpenTheApi)
 	ASSERT_EQ(User->status, 200);
 	const FJson Profile = FJson::parse(User->body);
 	EXPECT_EQ(Profile["features"], FJson({"vexel_agent", "vexel_agent_lite", "vexel_lite", "blueprint_agent"}));
-	EXPECT_TRUE(Profile["credits"].is_number_integer() && Profile["max_credits"].is_number_integer() && Profile["name"].is_string() && Profile["email"].is_string());
+	EXPECT_TRUE(Profile["credits"].is_number_integer() && Profile["max_credits"].is_number_integer() && Profile["name"].is_string() &&
+		Profile["email"].is_string());
 }
 
 TEST_F(Token, AnAccessTokenNamesTheUserTheClientAndItsTimes)
@@ -68,7 +69,8 @@ TEST_F(Token, ATokenThatWasTamperedWithIsRefused)
 	StartService();
 	LogIn();
 	const std::string Good = AccessToken;
-	const std::string Unsigned = Base64UrlEncode(R"({"alg":"none","typ":"JWT"})") + Good.substr(Good.find('.'), Good.rfind('.') - Good.find('.')) + ".";
+	const std::string Unsigned =
+		Base64UrlEncode(R"({"alg":"none","typ":"JWT"})") + Good.substr(Good.find('.'), Good.rfind('.') - Good.find('.')) + ".";
 	std::string Changed = Good;
 	Changed[Good.find('.') + 10] ^= 1;
 	const FAccessClaims Claims{.Subject = "user", .Audience = GetClientId(), .Family = "f", .IssuedAt = 0, .ExpiresAt = 1LL << 40};
@@ -139,7 +141,8 @@ TEST_F(Token, BadTokenRequestsAreRefusedByName)
 		{{{"grant_type", "refresh_token"}, {"refresh_token", "guess"}, {"client_id", GetClientId()}}, 400, "invalid_grant"},
 		{{{"grant_type", "password"}, {"refresh_token", Refresh}, {"client_id", GetClientId()}}, 400, "unsupported_grant_type"},
 		{{{"grant_type", "refresh_token"}, {"client_id", GetClientId()}}, 400, "invalid_request"},
-		{{{"grant_type", "refresh_token"}, {"refresh_token", Refresh}, {"refresh_token", "x"}, {"client_id", GetClientId()}}, 400, "invalid_request"},
+		{{{"grant_type", "refresh_token"}, {"refresh_token", Refresh}, {"refresh_token", "x"}, {"client_id", GetClientId()}}, 400,
+			"invalid_request"},
 	};
 	for (const auto& Case : Cases)
 	{

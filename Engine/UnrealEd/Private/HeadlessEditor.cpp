@@ -5,10 +5,12 @@
 #include "Editor/EditorEngine.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformTime.h"
+#include "Interfaces/IProjectManager.h"
 #include "Misc/App.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "ProjectDescriptor.h"
 #include "StandardMacros.h"
 #include "UObject/ScriptHeaderLoader.h"
 #include "UObject/UObjectGlobals.h"
@@ -81,6 +83,13 @@ FString FHeadlessEditor::Start(const FHeadlessEditorOptions& Options)
 	if (!FPaths::DirectoryExists(Options.EngineDir))
 	{
 		return FString::Printf(TEXT("There is no engine folder '%s'"), *Options.EngineDir);
+	}
+
+	// Read here first for the reason of a failure, which the manager only logs.
+	FText Reason;
+	if (!FProjectDescriptor().Load(ProjectFile, Reason) || !IProjectManager::Get().LoadProjectFile(ProjectFile))
+	{
+		return Reason.ToString();
 	}
 
 	FPaths::SetEngineDir(Options.EngineDir);

@@ -2,6 +2,7 @@
 #include "Commands.h"
 #include "Console.h"
 #include "Dom/JsonObject.h"
+#include "ForeignService.h"
 #include "HAL/PlatformMisc.h"
 #include "LineReader.h"
 #include "Misc/Paths.h"
@@ -32,34 +33,39 @@ const TCHAR* ToWord(EVexelChatRequestState State)
 	}
 }
 
-/** Sends one message and shows its answer to the end. Answers whether it succeeded; the reason is in the view. */
-bool RunTurn(UVexelChatSubsystem& Subsystem, FChatView& View, const FString& ChatId, const FString& Message, FString& OutFailure)
+/** Sends one message and shows its answer to the end. Answers why that failed, or nothing. */
+TOptional<FString> RunTurn(UVexelChatSubsystem& Subsystem, FChatView& View, const FString& ChatId, const FString& Message)
 {
 	View.BeginTurn();
 	const TVexelExpected<void> Sent = Subsystem.SendMessage(ChatId, Message);
 	if (Sent.HasError())
 	{
-		OutFailure = Sent.GetError().ToShortString();
-		return false;
+		return Sent.GetError().ToChainString();
 	}
-	if (!FSession::TickUntil([&]
-			{ return View.IsTurnOver(); }))
+	const auto IsOver = [&]
+	{ return View.IsTurnOver(); };
+	if (!FSession::TickUntil(IsOver))
 	{
 		FSession::TakeInterrupt();
 		Subsystem.CancelRequest(ChatId);
-		FSession::TickUntil([&]
-			{ return View.IsTurnOver(); });
+		FSession::TickUntil(IsOver);
 	}
-	OutFailure = View.GetFinalState() == EVexelChatRequestState::Cancelled ? FString(TEXT("cancelled")) : View.GetFailure();
-	return View.GetFinalState() == EVexelChatRequestState::Succeeded;
+	if (!View.IsTurnOver() || View.GetFinalState() == EVexelChatRequestState::Cancelled)
+	{
+		return FString(TEXT("cancelled"));
+	}
+	if (View.GetFinalState() == EVexelChatRequestState::Failed)
+	{
+		return View.GetFailure();
+	}
+	return View.GetSaveFailure().IsEmpty() ? NullOpt : TOptional<FString>(View.GetSaveFailure());
 }
 
 int32 RunOneMessage(UVexelChatSubsystem& Subsystem, const FString& ChatId, const FArguments& Arguments)
 {
 	const bool bJson = Arguments.Has(TEXT("--json"));
 	FChatView View(Subsystem, bJson);
-	FString Failure;
-	const bool bSucceeded = RunTurn(Subsystem, View, ChatId, Arguments.Get(TEXT("--message")), Failure);
+	const TOptional<FString> Failure = RunTurn(Subsystem, View, ChatId, Arguments.Get(TEXT("--message")));
 	if (bJson)
 	{
 		const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
@@ -68,9 +74,9 @@ int32 RunOneMessage(UVexelChatSubsystem& Subsystem, const FString& ChatId, const
 		Document->SetStringField(TEXT("answer"), View.GetAnswer());
 		WriteJson(Document);
 	}
-	if (!bSucceeded)
+	if (Failure)
 	{
-		FConsole::WriteError(Failure);
+		FConsole::WriteError(*Failure);
 		return ExitStatus::Failed;
 	}
 	return ExitStatus::Done;
@@ -82,7 +88,7 @@ int32 RunInteractive(UVexelChatSubsystem& Subsystem, const FString& ChatId)
 	FLineReader Reader(GetHistoryPath());
 	if (FConsole::IsTerminal())
 	{
-		FConsole::WriteLine(FConsole::Dim(TEXT("Ask about a Blueprint. Ctrl-C stops an answer, Ctrl-D ends the chat.")));
+		FConsole::WriteDim(TEXT("Ask about a Blueprint. Ctrl-C stops an answer, Ctrl-D ends the chat.\n"));
 	}
 	const FString Prompt = FConsole::IsTerminal() ? TEXT("> ") : TEXT("");
 	bool bLastSucceeded = true;
@@ -93,11 +99,11 @@ int32 RunInteractive(UVexelChatSubsystem& Subsystem, const FString& ChatId)
 		{
 			continue;
 		}
-		FString Failure;
-		bLastSucceeded = RunTurn(Subsystem, View, ChatId, Message, Failure);
-		if (!bLastSucceeded)
+		const TOptional<FString> Failure = RunTurn(Subsystem, View, ChatId, Message);
+		bLastSucceeded = !Failure;
+		if (Failure)
 		{
-			FConsole::WriteError(Failure);
+			FConsole::WriteError(*Failure);
 		}
 	}
 	// In a pipe the exit status is all that a script sees.
@@ -123,6 +129,24 @@ int32 RunChatCommand(const FArguments& Arguments)
 	{
 		FConsole::WriteError(TEXT("chat: --json goes with --message"));
 		return ExitStatus::WrongUsage;
+	}
+	if (Arguments.Has(TEXT("--message")) && Arguments.Get(TEXT("--message")).TrimStartAndEnd().IsEmpty())
+	{
+		FConsole::WriteError(TEXT("chat: the message is empty"));
+		return ExitStatus::WrongUsage;
+	}
+	if (Arguments.Has(TEXT("--token-fd")) && !Arguments.Has(TEXT("--service")))
+	{
+		FConsole::WriteError(TEXT("chat: --token-fd goes with --service; the local service needs no token"));
+		return ExitStatus::WrongUsage;
+	}
+	if (Arguments.Has(TEXT("--service")))
+	{
+		if (const TOptional<FString> Reason = ForeignService::CheckAddress(Arguments.Get(TEXT("--service"))))
+		{
+			FConsole::WriteError(*Reason);
+			return ExitStatus::WrongUsage;
+		}
 	}
 	FSession Session;
 	if (const TOptional<FString> Failure = Session.StartConnected(Arguments))

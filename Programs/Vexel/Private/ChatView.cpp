@@ -8,8 +8,13 @@ namespace
 /** How Markdown writes a "<" that begins no tag. The answer's text comes in pieces, so its end may hold the beginning of one. */
 const FString LessThanEntity = TEXT("&lt;");
 
-int32 CountEntityStartAtEnd(const FString& Text)
+/** How much of the end waits for what comes next: an entity that has begun, or the first half of a line end of two characters. */
+int32 CountUndecidedAtEnd(const FString& Text)
 {
+	if (Text.EndsWith(TEXT("\r")))
+	{
+		return 1;
+	}
 	for (int32 Length = FMath::Min(LessThanEntity.Len() - 1, Text.Len()); Length > 0; --Length)
 	{
 		if (Text.Right(Length).Equals(LessThanEntity.Left(Length)))
@@ -26,45 +31,41 @@ FChatView::FChatView(UVexelChatSubsystem& InSubsystem, bool bInQuiet)
 	, bQuiet(bInQuiet)
 {
 	FVexelChatEvents& Events = Subsystem.GetEvents();
-	Events.OnTextAppended.AddLambda([this](const FString&, FStringView Text)
-		{ OnText(Text); });
-	Events.OnBlockAdded.AddLambda([this](const FString&, const FVexelChatMessageBlock& Block)
-		{ OnBlock(Block); });
-	Events.OnToolStarted.AddLambda([this](const FString&, const FString&, const FString& ProgressText)
-		{ OnToolStarted(ProgressText); });
-	Events.OnToolFinished.AddLambda(
-		[this](const FString&, const FString&, const FString& DoneText, const FVexelError* Error)
-		{ OnToolFinished(DoneText, Error); });
-	Events.OnRequestStateChanged.AddLambda(
-		[this](const FString&, EVexelChatRequestState State, const FVexelError* Error)
-		{ OnState(State, Error); });
+	Events.OnTextAppended.AddRaw(this, &FChatView::OnText);
+	Events.OnBlockAdded.AddRaw(this, &FChatView::OnBlock);
+	Events.OnToolStarted.AddRaw(this, &FChatView::OnToolStarted);
+	Events.OnToolFinished.AddRaw(this, &FChatView::OnToolFinished);
+	Events.OnRequestStateChanged.AddRaw(this, &FChatView::OnState);
+	Events.OnSaveFailed.AddRaw(this, &FChatView::OnSaveFailed);
 }
 
 FChatView::~FChatView()
 {
 	FVexelChatEvents& Events = Subsystem.GetEvents();
-	Events.OnTextAppended.Clear();
-	Events.OnBlockAdded.Clear();
-	Events.OnToolStarted.Clear();
-	Events.OnToolFinished.Clear();
-	Events.OnRequestStateChanged.Clear();
+	Events.OnTextAppended.RemoveAll(this);
+	Events.OnBlockAdded.RemoveAll(this);
+	Events.OnToolStarted.RemoveAll(this);
+	Events.OnToolFinished.RemoveAll(this);
+	Events.OnRequestStateChanged.RemoveAll(this);
+	Events.OnSaveFailed.RemoveAll(this);
 }
 
 void FChatView::BeginTurn()
 {
 	Answer.Reset();
 	Failure.Reset();
+	SaveFailure.Reset();
 	HeldText.Reset();
 	FinalState.Reset();
 	bAtLineStart = true;
 	bProgressShown = false;
 }
 
-void FChatView::OnText(FStringView Text)
+void FChatView::OnText(const FString&, FStringView Text)
 {
 	Answer += Text;
 	HeldText += Text;
-	const int32 NumHeld = CountEntityStartAtEnd(HeldText);
+	const int32 NumHeld = CountUndecidedAtEnd(HeldText);
 	Write(HeldText.LeftChop(NumHeld).Replace(*LessThanEntity, TEXT("<")));
 	HeldText = HeldText.Right(NumHeld);
 }
@@ -76,7 +77,7 @@ void FChatView::FlushText()
 	Write(Rest);
 }
 
-void FChatView::OnBlock(const FVexelChatMessageBlock& Block)
+void FChatView::OnBlock(const FString&, const FVexelChatMessageBlock& Block)
 {
 	if (Block.GetType() == EVexelChatMessageBlockType::Error)
 	{
@@ -86,10 +87,10 @@ void FChatView::OnBlock(const FVexelChatMessageBlock& Block)
 	}
 }
 
-void FChatView::OnToolStarted(const FString& ProgressText)
+void FChatView::OnToolStarted(const FString&, const FString&, const FString& ProgressText)
 {
 	EndLine();
-	Write(FConsole::Dim(TEXT("[") + ProgressText + TEXT("]")));
+	WriteDim(TEXT("[") + ProgressText + TEXT("]"));
 	if (FConsole::IsTerminal())
 	{
 		bProgressShown = true;
@@ -98,34 +99,35 @@ void FChatView::OnToolStarted(const FString& ProgressText)
 	EndLine();
 }
 
-void FChatView::OnToolFinished(const FString& DoneText, const FVexelError* Error)
+void FChatView::OnToolFinished(const FString&, const FString&, const FString& DoneText, const FVexelError* Error)
 {
 	if (bProgressShown)
 	{
-		Write(TEXT("\r\x1b[K"));
+		FConsole::EraseLine();
 		bProgressShown = false;
 		bAtLineStart = true;
 	}
 	EndLine();
 	const FString Text = Error ? TEXT("failed: ") + Error->ToShortString() : DoneText;
-	Write(FConsole::Dim(TEXT("[") + Text + TEXT("]")));
+	WriteDim(TEXT("[") + Text + TEXT("]"));
 	EndLine();
 }
 
-void FChatView::OnState(EVexelChatRequestState State, const FVexelError* Error)
+void FChatView::OnState(const FString&, EVexelChatRequestState State, const FVexelError* Error)
 {
 	if (State <= EVexelChatRequestState::InProgress)
 	{
 		return;
 	}
 	FinalState = State;
-	Failure = Error ? Error->ToShortString() : FString();
-	// The cause says what the network or the service did; the short form alone only that the request failed.
-	for (const FVexelError* Cause = Error ? Error->GetCause() : nullptr; Cause; Cause = Cause->GetCause())
-	{
-		Failure += TEXT(": ") + Cause->ToShortString();
-	}
+	// The causes say what the network or the service did; the short form alone only that the request failed.
+	Failure = Error ? Error->ToChainString() : FString();
 	EndLine();
+}
+
+void FChatView::OnSaveFailed(const FString&, const FVexelError& Error)
+{
+	SaveFailure = Error.ToChainString();
 }
 
 void FChatView::EndLine()
@@ -147,5 +149,14 @@ void FChatView::Write(FStringView Text)
 	if (!bQuiet)
 	{
 		FConsole::Write(Text);
+	}
+}
+
+void FChatView::WriteDim(const FString& Text)
+{
+	bAtLineStart = false;
+	if (!bQuiet)
+	{
+		FConsole::WriteDim(Text);
 	}
 }

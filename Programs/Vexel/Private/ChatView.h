@@ -18,18 +18,22 @@ public:
 	EVexelChatRequestState GetFinalState() const { return *FinalState; }
 	/** Why the turn failed; empty unless it did. */
 	const FString& GetFailure() const { return Failure; }
+	/** Why the conversation is not stored as it stands; empty when it is. */
+	const FString& GetSaveFailure() const { return SaveFailure; }
 	/** All text of the turn's answer. */
 	const FString& GetAnswer() const { return Answer; }
 
 private:
-	void OnText(FStringView Text);
-	void OnBlock(const FVexelChatMessageBlock& Block);
-	void OnToolStarted(const FString& ProgressText);
-	void OnToolFinished(const FString& DoneText, const FVexelError* Error);
-	void OnState(EVexelChatRequestState State, const FVexelError* Error);
+	void OnText(const FString& ChatId, FStringView Text);
+	void OnBlock(const FString& ChatId, const FVexelChatMessageBlock& Block);
+	void OnToolStarted(const FString& ChatId, const FString& ReplyId, const FString& ProgressText);
+	void OnToolFinished(const FString& ChatId, const FString& ReplyId, const FString& DoneText, const FVexelError* Error);
+	void OnState(const FString& ChatId, EVexelChatRequestState State, const FVexelError* Error);
+	void OnSaveFailed(const FString& ChatId, const FVexelError& Error);
 	void FlushText();
 	void EndLine();
 	void Write(FStringView Text);
+	void WriteDim(const FString& Text);
 
 	UVexelChatSubsystem& Subsystem;
 	bool bQuiet;
@@ -40,5 +44,6 @@ private:
 	/** Text that waits for the next piece. */
 	FString HeldText;
 	FString Failure;
+	FString SaveFailure;
 	TOptional<EVexelChatRequestState> FinalState;
 };

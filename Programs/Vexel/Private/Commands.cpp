@@ -9,7 +9,8 @@
 
 namespace
 {
-constexpr FOptionRow ProjectOption = {TEXT("--project"), TEXT("DIR"), TEXT("the project's directory or .uproject; the sample project without it")};
+constexpr FOptionRow ProjectOption = {
+	TEXT("--project"), TEXT("DIR"), TEXT("the project's directory or .uproject; the sample project without it")};
 constexpr FOptionRow JsonOption = {TEXT("--json"), nullptr, TEXT("one JSON document on standard output")};
 constexpr FOptionRow VerboseOption = {TEXT("--verbose"), nullptr, TEXT("the log on standard error")};
 constexpr FOptionRow BlueprintOption = {TEXT("--blueprint"), TEXT("PATH"), TEXT("object path, such as /Game/BP_Door")};
@@ -21,6 +22,8 @@ constexpr FOptionRow ChatOptions[] = {
 	{TEXT("--message"), TEXT("TEXT"), TEXT("one message instead of an interactive chat")},
 	{TEXT("--continue"), nullptr, TEXT("goes on with the newest conversation instead of a new one")},
 	{TEXT("--service"), TEXT("URL"), TEXT("the service; a local one is started without it")},
+	{TEXT("--token-fd"), TEXT("N"),
+		TEXT("an open file descriptor to read the service's refresh token from, once; it is kept in the secure store")},
 	JsonOption,
 	VerboseOption,
 };
@@ -44,7 +47,8 @@ const FCommandRow Commands[] = {
 	{TEXT("chat"), TEXT("[--message TEXT]"), TEXT("a chat with the assistant about the project"), ChatOptions, 0, RunChatCommand},
 	{TEXT("tool"), TEXT("NAME --input JSON|FILE|-"), TEXT("calls one tool as the assistant would"), ToolOptions, 1, RunToolCommand},
 	{TEXT("tools"), TEXT(""), TEXT("the tool table"), ToolsOptions, 0, RunToolsCommand},
-	{TEXT("graph"), TEXT("export|import --blueprint PATH [FILE|-]"), TEXT("node text out of a graph, or into one"), GraphOptions, 2, RunGraphCommand},
+	{TEXT("graph"), TEXT("export|import --blueprint PATH [FILE|-]"), TEXT("node text out of a graph, or into one"), GraphOptions, 2,
+		RunGraphCommand},
 	{TEXT("inspect"), TEXT("FILE.uasset"), TEXT("the tables of a package file as JSON"), InspectOptions, 1, RunInspectCommand},
 	{TEXT("service"), TEXT("[--port N] [--data DIR]"), TEXT("runs the local service"), ServiceOptions, 0, RunServiceCommand},
 };
@@ -82,5 +86,19 @@ void WriteJson(const TSharedRef<FJsonObject>& Object)
 {
 	FString Text;
 	FVexelJsonConversions::JsonToPrettyString(Object, Text);
-	FConsole::WriteLine(Text);
+	// JSON escapes the first range of control characters by itself. The others stand inside strings alone, where an escape says the same.
+	FString Escaped;
+	Escaped.Reserve(Text.Len() + 1);
+	for (const TCHAR Character : Text)
+	{
+		if (Character >= 0x7F && Character <= 0x9F)
+		{
+			Escaped += FString::Printf(TEXT("\\u%04x"), uint32(Character));
+		}
+		else
+		{
+			Escaped.AppendChar(Character);
+		}
+	}
+	FConsole::WriteData(Escaped + TEXT("\n"));
 }

@@ -1,6 +1,7 @@
 #include "Console.h"
 
 #include "Containers/StringConv.h"
+#include "VexelStringUtil.h"
 
 #include <cstdio>
 #include <cstdlib>
@@ -8,6 +9,8 @@
 
 namespace
 {
+constexpr int32 MaxErrorLength = 2000;
+
 void WriteTo(FILE* Stream, FStringView Text)
 {
 	const FTCHARToUTF8 Utf8(Text.GetData(), Text.Len());
@@ -18,17 +21,36 @@ void WriteTo(FILE* Stream, FStringView Text)
 
 void FConsole::Write(FStringView Text)
 {
-	WriteTo(stdout, Text);
+	WriteTo(stdout, FVexelStringUtil::ToPrintable(Text));
 }
 
 void FConsole::WriteLine(FStringView Text)
 {
-	WriteTo(stdout, FString(Text) + TEXT("\n"));
+	Write(FString(Text) + TEXT("\n"));
+}
+
+void FConsole::WriteDim(FStringView Text)
+{
+	const FString Printable = FVexelStringUtil::ToPrintable(Text);
+	WriteTo(stdout, IsTerminal() ? TEXT("\x1b[2m") + Printable + TEXT("\x1b[0m") : Printable);
+}
+
+void FConsole::EraseLine()
+{
+	if (IsTerminal())
+	{
+		WriteTo(stdout, TEXT("\r\x1b[K"));
+	}
+}
+
+void FConsole::WriteData(FStringView Text)
+{
+	WriteTo(stdout, IsTerminal() ? FVexelStringUtil::ToPrintable(Text) : FString(Text));
 }
 
 void FConsole::WriteError(FStringView Text)
 {
-	WriteTo(stderr, FString(TEXT("vexel: ")) + Text + TEXT("\n"));
+	WriteTo(stderr, TEXT("vexel: ") + FVexelStringUtil::ToPrintableLine(Text, MaxErrorLength) + TEXT("\n"));
 }
 
 bool FConsole::IsTerminal()
@@ -39,9 +61,4 @@ bool FConsole::IsTerminal()
 		return isatty(STDOUT_FILENO) && Term && FString(Term) != TEXT("dumb");
 	}();
 	return bTerminal;
-}
-
-FString FConsole::Dim(const FString& Text)
-{
-	return IsTerminal() ? TEXT("\x1b[2m") + Text + TEXT("\x1b[0m") : Text;
 }

@@ -83,8 +83,8 @@ TOptional<int32> OpenGraph(const FArguments& Arguments, bool bCreate, UBlueprint
 	OutGraph = FindGraph(*OutBlueprint, Arguments.Get(TEXT("--graph")));
 	if (!OutGraph)
 	{
-		FConsole::WriteError(FString::Printf(TEXT("'%s' has no graph '%s'; it has: %s"), *OutBlueprint->GetName(), *Arguments.Get(TEXT("--graph")),
-			*JoinGraphNames(*OutBlueprint)));
+		FConsole::WriteError(FString::Printf(TEXT("'%s' has no graph '%s'; it has: %s"), *OutBlueprint->GetName(),
+			*Arguments.Get(TEXT("--graph")), *JoinGraphNames(*OutBlueprint)));
 		return ExitStatus::Failed;
 	}
 	return NullOpt;
@@ -107,7 +107,7 @@ int32 ExportGraph(const FArguments& Arguments)
 	FEdGraphUtilities::ExportNodesToText(Nodes, Text);
 	if (!Arguments.Has(TEXT("--json")))
 	{
-		FConsole::Write(Text);
+		FConsole::WriteData(Text);
 		return ExitStatus::Done;
 	}
 	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();

@@ -91,7 +91,8 @@ TOptional<FString> FLocalService::Start(const FString& ProgramPath)
 	const TArray<ANSICHAR> Greeting = ReadLine(Output[0]);
 	close(Output[0]);
 	TSharedPtr<FJsonObject> Object;
-	if (!FVexelJsonConversions::StringToJson(FString(UTF8_TO_TCHAR(Greeting.GetData())), Object) || !Object->TryGetStringField(TEXT("url"), Url) || !Object->TryGetStringField(TEXT("refresh_token"), RefreshToken))
+	const bool bRead = FVexelJsonConversions::StringToJson(FString(UTF8_TO_TCHAR(Greeting.GetData())), Object);
+	if (!bRead || !Object->TryGetStringField(TEXT("url"), Url) || !Object->TryGetStringField(TEXT("refresh_token"), RefreshToken))
 	{
 		return FString(TEXT("the local service started but did not say where it listens"));
 	}

@@ -36,6 +36,8 @@ int main(int NumWords, char** RawWords)
 	setlocale(LC_CTYPE, "");
 	// A pipe that closes is an ordinary end of output, and a connection that closes is an error value.
 	signal(SIGPIPE, SIG_IGN);
+	// So is a file that may grow no further: the write fails and says so.
+	signal(SIGXFSZ, SIG_IGN);
 
 	TArray<FString> Words;
 	for (int32 Index = 1; Index < NumWords; ++Index)

@@ -2,6 +2,7 @@
 
 #include "Arguments.h"
 #include "Console.h"
+#include "ForeignService.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformMisc.h"
 #include "HAL/PlatformProcess.h"
@@ -66,13 +67,17 @@ TOptional<FString> FSession::Start(const FArguments& Arguments)
 TOptional<FString> FSession::StartConnected(const FArguments& Arguments)
 {
 	FString Url = Arguments.Get(TEXT("--service"));
+	if (const TOptional<FString> Failure =
+			Url.IsEmpty() ? StartLocalService() : ForeignService::Prepare(Url, Arguments.Get(TEXT("--token-fd"))))
+	{
+		return Failure;
+	}
 	if (Url.IsEmpty())
 	{
-		if (const TOptional<FString> Failure = StartLocalService())
-		{
-			return Failure;
-		}
 		Url = LocalService.GetUrl();
+	}
+	while (Url.RemoveFromEnd(TEXT("/")))
+	{
 	}
 	for (const TCHAR* const Key : {TEXT("ApiUrl"), TEXT("AppUrl"), TEXT("InsightsApiUrl")})
 	{
@@ -131,11 +136,13 @@ TOptional<FString> FSession::WaitForLogin()
 	{
 		return FString(TEXT("the login was interrupted"));
 	}
-	if (FVexelClient::GetLoginState() == FVexelClient::ELoginState::LoggedOut)
+	if (FVexelClient::GetLoginState() != FVexelClient::ELoginState::LoggedOut)
 	{
-		return FString::Printf(TEXT("not logged in at %s: no login of an earlier session could be used there; the local service needs no --service"), *FVexelClient::GetApiUrl());
+		return NullOpt;
 	}
-	return NullOpt;
+	const TOptional<FVexelError> Failure = FVexelClient::GetLoginFailure();
+	const FString Reason = Failure ? Failure->ToChainString() : FString(TEXT("there is no stored login for it; give a token with --token-fd"));
+	return FString::Printf(TEXT("not logged in at %s: %s"), *FVexelClient::GetApiUrl(), *Reason);
 }
 
 bool FSession::TickUntil(TFunctionRef<bool()> Condition)

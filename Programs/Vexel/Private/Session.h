@@ -17,7 +17,10 @@ public:
 	/** Boots the editor with the project of "--project", or the sample project. Answers why it cannot, or nothing. */
 	TOptional<FString> Start(const FArguments& Arguments);
 
-	/** The same with the plug-in, logged in at the service of "--service", or at a local one started for this program. */
+	/**
+	 * The same with the plug-in, logged in at the service of "--service" with its stored token or that of "--token-fd", or at a
+	 * local service started for this program.
+	 */
 	TOptional<FString> StartConnected(const FArguments& Arguments);
 
 	/** Runs the editor until a condition holds; false when the user pressed Ctrl-C first. */

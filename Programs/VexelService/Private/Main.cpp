@@ -98,7 +98,8 @@ bool HasEnded(int Input)
 
 void WaitForStop(int StopSignals, bool bExitWithParent)
 {
-	pollfd Watched[] = {{.fd = StopSignals, .events = POLLIN, .revents = 0}, {.fd = bExitWithParent ? STDIN_FILENO : -1, .events = POLLIN, .revents = 0}};
+	pollfd Watched[] = {
+		{.fd = StopSignals, .events = POLLIN, .revents = 0}, {.fd = bExitWithParent ? STDIN_FILENO : -1, .events = POLLIN, .revents = 0}};
 	while (true)
 	{
 		if (poll(Watched, std::size(Watched), -1) < 0 && errno != EINTR)

@@ -2,10 +2,12 @@
 
 #include "Auth/VexelAuth.h"
 #include "Auth/VexelAuthProvider.h"
+#include "Misc/Paths.h"
 #include "Misc/ScopeLock.h"
 #include "Modules/ModuleManager.h"
 #include "VexelHttp.h"
 #include "VexelInternalConfig.h"
+#include "VexelSentry.h"
 
 namespace
 {
@@ -29,6 +31,7 @@ FVexelClient& FVexelClient::Get()
 void FVexelClient::StartupModule()
 {
 	Lock = MakeUnique<FCriticalSection>();
+	FVexelSentry::Start(FPaths::ProjectSavedDir() / TEXT("VexelCache/ErrorReports"));
 	AuthProvider = MakeUnique<FVexelAuthProvider>();
 	FVexelHttpManager::SetAuthProvider(AuthProvider.Get());
 	FVexelAuth::StartAutoLogin();
@@ -37,6 +40,7 @@ void FVexelClient::StartupModule()
 void FVexelClient::ShutdownModule()
 {
 	FVexelHttpManager::SetAuthProvider(nullptr);
+	FVexelSentry::Stop();
 	FVexelHttpManager::Shutdown();
 	FVexelAuth::Shutdown();
 	AuthProvider.Reset();
@@ -78,6 +82,11 @@ FVexelClient::ELoginState FVexelClient::GetLoginState()
 		default:
 			return ELoginState::Pending;
 	}
+}
+
+TOptional<FVexelError> FVexelClient::GetLoginFailure()
+{
+	return FVexelAuth::GetLoginFailure();
 }
 
 FString FVexelClient::GetApiUrl()

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Optional.h"
 #include "Modules/ModuleInterface.h"
 #include "Templates/SharedPointer.h"
+#include "VexelError.h"
 
 class FVexelAuthProvider;
 class FVexelConfigValue;
@@ -39,6 +41,8 @@ public:
 	};
 	/** Where the user's login stands. Any thread. */
 	static ELoginState GetLoginState();
+	/** Why the last login failed; unset when none did. Any thread. */
+	static TOptional<FVexelError> GetLoginFailure();
 
 	static FString GetApiUrl();
 	static FString GetAppUrl();

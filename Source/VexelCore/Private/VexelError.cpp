@@ -65,7 +65,8 @@ FVexelError::FVexelError(const FVexelErrorPlace& Place, FString InTitle, FString
 {
 }
 
-FVexelError::FVexelError(const FVexelErrorKind& InKind, const FVexelErrorPlace& Place, FString InTitle, FString InMessage, const FVexelError* Cause)
+FVexelError::FVexelError(
+	const FVexelErrorKind& InKind, const FVexelErrorPlace& Place, FString InTitle, FString InMessage, const FVexelError* Cause)
 	: Kind(&InKind)
 	, Title(MoveTemp(InTitle))
 	, Message(MoveTemp(InMessage))
@@ -109,6 +110,17 @@ FString FVexelError::ToShortString() const
 		return Title;
 	}
 	return Title.IsEmpty() ? OneLine(Message) : Title + TEXT(": ") + OneLine(Message);
+}
+
+FString FVexelError::ToChainString() const
+{
+	FString Text;
+	int32 NumPrinted = 0;
+	for (const FVexelError* Error = this; Error && NumPrinted < MaxPrintedCauses; Error = Error->GetCause())
+	{
+		Text += (NumPrinted++ == 0 ? TEXT("") : TEXT(": ")) + Error->ToShortString();
+	}
+	return Text;
 }
 
 FString FVexelError::ToString() const

@@ -6,6 +6,7 @@
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/Parse.h"
 #include "Misc/ScopeLock.h"
+#include "VexelLog.h"
 
 namespace
 {
@@ -39,6 +40,17 @@ FString FVexelConfigValue::Get() const
 	FScopeLock Guard(&Lock);
 	EnsureLoaded();
 	return Override ? *Override : *Loaded;
+}
+
+double FVexelConfigValue::GetNumber(double Min, double Max) const
+{
+	const FString Text = Get();
+	const bool bNumber = Text.IsNumeric();
+	if (!bNumber)
+	{
+		VEXEL_LOG(Warning, "The setting %s is '%s', which is no number; it counts as %s", *Key, *Text, *Default);
+	}
+	return FMath::Clamp(FCString::Atod(bNumber ? *Text : *Default), Min, Max);
 }
 
 void FVexelConfigValue::SetOverride(const FString& Value)

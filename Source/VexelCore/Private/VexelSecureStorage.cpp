@@ -4,10 +4,13 @@
 #include "HAL/PlatformMisc.h"
 #include "Misc/Paths.h"
 #include "Misc/ScopeLock.h"
-#include "Storage/PrivateFile.h"
-#include "Storage/SecretVault.h"
+#include "Storage/FileSecretStore.h"
+#include "Storage/KeyringSecretStore.h"
+#include "VexelCrypto.h"
 #include "VexelErrorKinds.h"
-#include "VexelStringUtil.h"
+#include "VexelInternalConfig.h"
+#include "VexelLog.h"
+#include "VexelSecrets.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -16,11 +19,16 @@ namespace
 {
 /** Longest key and longest value, in characters. */
 constexpr int32 MaxLength = 1 << 20;
+constexpr int32 MaxReadableName = 64;
+constexpr int32 DigestBytesInName = 9;
+
+FVexelConfigValue StoreSetting(TEXT("SecretStore"), TEXT("auto"));
 
 struct FStoreSettings
 {
 	FCriticalSection Lock;
 	FString Directory;
+	FString Scope;
 };
 
 /** Made at its first use and never destroyed: programs choose the directory before the engine has started. */
@@ -48,16 +56,42 @@ FString GetDefaultDirectory()
 	return DataHome.StartsWith(TEXT("/")) ? DataHome / TEXT("vexel") : GetHomeDirectory() / TEXT(".local/share/vexel");
 }
 
-std::string GetDirectory()
+/** A scope as the name of a directory: what it is, for people, and a digest of it, for two that look alike. */
+FString ToDirectoryName(const FString& Scope)
 {
-	FStoreSettings& Settings = GetSettings();
-	FScopeLock Guard(&Settings.Lock);
-	return FVexelStringUtil::ToStdStringUtf8(Settings.Directory.IsEmpty() ? GetDefaultDirectory() : Settings.Directory);
+	FString Name;
+	for (const TCHAR Character : Scope.Left(MaxReadableName))
+	{
+		Name.AppendChar(Character < 127 && FChar::IsAlnum(Character) ? Character : TEXT('_'));
+	}
+	const FTCHARToUTF8 Utf8(*Scope, Scope.Len());
+	const TArray<uint8> Digest =
+		FVexelCrypto::Sha256(TConstArrayView<uint8>(reinterpret_cast<const uint8*>(Utf8.Get()), Utf8.Length()));
+	return Name + TEXT("-") + FVexelCrypto::Base64UrlEncode(MakeArrayView(Digest).Left(DigestBytesInName));
 }
 
-std::string GetLockPath(const std::string& Directory)
+/** The places of the moment, the best first. A secret is stored in the first one that takes it. */
+TArray<TUniquePtr<ISecretStore>> MakeStores()
 {
-	return Directory + "/secrets.lock";
+	FString Directory;
+	FString Scope;
+	{
+		FStoreSettings& Settings = GetSettings();
+		FScopeLock Guard(&Settings.Lock);
+		Directory = Settings.Directory;
+		Scope = Settings.Scope;
+	}
+	TArray<TUniquePtr<ISecretStore>> Stores;
+	if (Directory.IsEmpty())
+	{
+		if (StoreSetting.Get() != TEXT("file") && FKeyringSecretStore::IsAvailable())
+		{
+			Stores.Add(MakeUnique<FKeyringSecretStore>(Scope));
+		}
+		Directory = Scope.IsEmpty() ? GetDefaultDirectory() : GetDefaultDirectory() / TEXT("services") / ToDirectoryName(Scope);
+	}
+	Stores.Add(MakeUnique<FFileSecretStore>(Directory));
+	return Stores;
 }
 }
 
@@ -67,25 +101,40 @@ TVexelExpected<void> FVexelSecureStorage::StoreValueString(const FString& Key, c
 	{
 		return VEXEL_ERROR(FVexelError_SecureStorage, "A key or value of the secure store is at most %d characters long", MaxLength);
 	}
-	const std::string Directory = GetDirectory();
-	VEXEL_TRY_VOID(PrivateFile::MakeDirectory(Directory), "while storing value '%s'", *Key);
-	VEXEL_TRY(const FFileLock Lock, FFileLock::Take(GetLockPath(Directory)), "while storing value '%s'", *Key);
-	VEXEL_TRY(FSecretVault Vault, FSecretVault::Open(Directory), "while storing value '%s'", *Key);
-	Vault.Set(FSecretBytes(Key), FSecretBytes(Value));
-	VEXEL_TRY_VOID(Vault.Save(Directory), "while storing value '%s'", *Key);
+	VexelSecrets::Add(Value);
+	const TArray<TUniquePtr<ISecretStore>> Stores = MakeStores();
+	for (int32 Index = 0; Index < Stores.Num(); ++Index)
+	{
+		TVexelExpected<void> Stored = Stores[Index]->Store(Key, Value);
+		const bool bLast = Index == Stores.Num() - 1;
+		if (Stored.HasError() && bLast)
+		{
+			VEXEL_TRY_VOID(MoveTemp(Stored), "while storing value '%s'", *Key);
+		}
+		if (Stored.HasError())
+		{
+			VEXEL_LOG(Warning, "%s", *Stored.GetError().ToShortString());
+			continue;
+		}
+		// An older value behind this one would come back when the keyring is away.
+		for (int32 Behind = Index + 1; Behind < Stores.Num(); ++Behind)
+		{
+			VEXEL_TRY_VOID(Stores[Behind]->Delete(Key), "while storing value '%s'", *Key);
+		}
+		break;
+	}
 	return TVexelExpected<void>();
 }
 
 TVexelExpected<FString> FVexelSecureStorage::LoadValueString(const FString& Key)
 {
-	const std::string Directory = GetDirectory();
-	if (PrivateFile::Exists(Directory))
+	for (const TUniquePtr<ISecretStore>& Store : MakeStores())
 	{
-		VEXEL_TRY(const FFileLock Lock, FFileLock::Take(GetLockPath(Directory)), "while loading value '%s'", *Key);
-		VEXEL_TRY(const FSecretVault Vault, FSecretVault::Open(Directory), "while loading value '%s'", *Key);
-		if (const FSecretBytes* const Value = Vault.Find(FSecretBytes(Key)))
+		VEXEL_TRY(const TOptional<FString> Value, Store->Load(Key), "while loading value '%s'", *Key);
+		if (Value)
 		{
-			return Value->ToText();
+			VexelSecrets::Add(*Value);
+			return *Value;
 		}
 	}
 	return VEXEL_ERROR(FVexelError_SecureStorage, "No stored value for '%s'", *Key);
@@ -93,18 +142,18 @@ TVexelExpected<FString> FVexelSecureStorage::LoadValueString(const FString& Key)
 
 TVexelExpected<void> FVexelSecureStorage::DeleteValue(const FString& Key)
 {
-	const std::string Directory = GetDirectory();
-	if (!PrivateFile::Exists(Directory))
+	for (const TUniquePtr<ISecretStore>& Store : MakeStores())
 	{
-		return TVexelExpected<void>();
-	}
-	VEXEL_TRY(const FFileLock Lock, FFileLock::Take(GetLockPath(Directory)), "while deleting value '%s'", *Key);
-	VEXEL_TRY(FSecretVault Vault, FSecretVault::Open(Directory), "while deleting value '%s'", *Key);
-	if (Vault.Remove(FSecretBytes(Key)))
-	{
-		VEXEL_TRY_VOID(Vault.Save(Directory), "while deleting value '%s'", *Key);
+		VEXEL_TRY_VOID(Store->Delete(Key), "while deleting value '%s'", *Key);
 	}
 	return TVexelExpected<void>();
+}
+
+void FVexelSecureStorage::SetScope(const FString& Scope)
+{
+	FStoreSettings& Settings = GetSettings();
+	FScopeLock Guard(&Settings.Lock);
+	Settings.Scope = Scope;
 }
 
 void FVexelSecureStorage::SetDirectory(const FString& Directory)

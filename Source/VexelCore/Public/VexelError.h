@@ -81,6 +81,9 @@ public:
 	/** Title and message on one line, without causes: for a user. */
 	FString ToShortString() const;
 
+	/** The short strings of this error and of its causes, joined with ": ", on one line: for a user who has to act on it. */
+	FString ToChainString() const;
+
 	/** The whole chain for a log: title, message, kind and place of this error, then of each cause behind "caused by". */
 	FString ToString() const;
 
@@ -144,4 +147,5 @@ private:
 	KindName(VEXEL_HERE, FString(TEXT(Title)), FString::Printf(TEXT(Format) __VA_OPT__(, ) __VA_ARGS__))
 
 /** The same with the earlier error that led to it. */
-#define VEXEL_ERROR_CAUSED(KindName, Cause, Format, ...) KindName(VEXEL_HERE, FString::Printf(TEXT(Format) __VA_OPT__(, ) __VA_ARGS__), &(Cause))
+#define VEXEL_ERROR_CAUSED(KindName, Cause, Format, ...) \
+	KindName(VEXEL_HERE, FString::Printf(TEXT(Format) __VA_OPT__(, ) __VA_ARGS__), &(Cause))

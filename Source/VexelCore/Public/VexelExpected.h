@@ -40,8 +40,8 @@ public:
 	using ValueType = T;
 
 	template <typename U = T>
-	requires(VexelInternal::CVexelValueOf<U&&, T> && !VexelInternal::CVexelError<U> && !VexelInternal::TIsVexelExpected<std::remove_cvref_t<U>>)
-		TVexelExpected(U&& Value)
+	requires(VexelInternal::CVexelValueOf<U&&, T> && !VexelInternal::CVexelError<U> &&
+		!VexelInternal::TIsVexelExpected<std::remove_cvref_t<U>>) TVexelExpected(U&& Value)
 		: Storage(TInPlaceType<T>(), Forward<U>(Value))
 	{
 	}

@@ -9,6 +9,7 @@ class FVexelHttpPendingRequest;
 class FVexelHttpRequest;
 class FVexelHttpResponse;
 class FVexelHttpTransfer;
+struct FVexelHttpTransferSetup;
 
 enum class EVexelHttpVerb : uint8
 {
@@ -52,6 +53,11 @@ public:
 		virtual ~IAuthProvider() = default;
 		/** Answers the state and, when authenticated, the access token. */
 		virtual EAuthResult GetAuthState(FString& OutToken) = 0;
+		/**
+		 * Gets a token in place of one that the service has refused, and completes when GetAuthState() answers it. Called at once
+		 * for several requests that the same token failed; must not wait. A provider that can get none answers an error.
+		 */
+		virtual TVexelTaskResult<void> RefreshToken(const FString& RefusedToken);
 	};
 
 	explicit FVexelHttp(const FVexelHttpClientConfig& Config);
@@ -87,9 +93,19 @@ public:
 	FVexelHttpPendingRequest& WithStallTimeout(float Seconds);
 	/** Appended as the query string. */
 	FVexelHttpPendingRequest& WithURLParams(const FVexelHttpUrlParams& Params);
-	/** Attaches the provider's access token; without one the request fails as FVexelError_HttpUnauthorized, unsent. */
+	/** Limits the answer's body; 1 GiB without it. A larger answer fails the request. */
+	FVexelHttpPendingRequest& WithAnswerLimit(int32 Bytes);
+	/** For requests that carry secrets: errors quote nothing of the answer, and no redirect is followed. */
+	FVexelHttpPendingRequest& WithSecrecy();
+	/**
+	 * Attaches the provider's access token; without one the request fails as FVexelError_HttpUnauthorized, unsent. When the
+	 * service refuses the token with status 401, the provider is asked for another one and the request is sent once more.
+	 */
 	FVexelHttpPendingRequest& WithAuth(bool bAuthenticated = true);
-	/** Replaces a default header of the same name. */
+	/**
+	 * Replaces a default header of the same name. A name or a value that could end its line and begin another header fails the
+	 * request, unsent.
+	 */
 	FVexelHttpPendingRequest& WithHeader(const FString& Name, const FString& Value);
 
 	/**
@@ -126,6 +142,8 @@ private:
 	TFunction<void(TConstArrayView<uint8>)> Progress;
 	float TimeoutSeconds = 0.0f;
 	float StallTimeoutSeconds = 0.0f;
+	int32 MaxAnswerBytes = 1 << 30;
+	bool bSecret = false;
 	bool bAuthenticated = false;
 	bool bPayloadValid = true;
 };
@@ -139,6 +157,8 @@ private:
 class VEXELCORE_API FVexelHttpRequest : public TSharedFromThis<FVexelHttpRequest>
 {
 public:
+	~FVexelHttpRequest();
+
 	TVexelTaskResult<TSharedRef<FVexelHttpResponse>> Await() const;
 
 	/**
@@ -154,10 +174,30 @@ private:
 	friend class FVexelHttpPendingRequest;
 
 	explicit FVexelHttpRequest(FVexelHttpPendingRequest&& Pending);
+	FVexelHttpRequest(const FVexelHttpRequest&) = delete;
 
-	static TSharedRef<FVexelHttpTransfer> MakeTransfer(FVexelHttpPendingRequest& Pending);
+	void Start(const FVexelHttpPendingRequest& Pending);
+	/** Sends once, with the provider's token of the moment where the request is authenticated. */
+	void SendTransfer();
+	void OnTransferComplete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value);
+	void OnTokenRefreshed(const TVexelExpected<void>& Refreshed, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& FirstAnswer);
+	void Complete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value);
+	FVexelError MakeCancelledError() const;
 
-	TSharedRef<FVexelHttpTransfer> Transfer;
+	TVexelTaskResult<TSharedRef<FVexelHttpResponse>> Result;
+	mutable FCriticalSection Lock;
+	/** The exchange under way or done. Behind Lock. */
+	TSharedPtr<FVexelHttpTransfer> Transfer;
+	bool bCancelled = false;
+	bool bRefreshing = false;
+
+	/** What the exchange needs, kept for a second one until the request is complete; one completion at a time touches it. */
+	TUniquePtr<FVexelHttpTransferSetup> Setup;
+	/** Method and address, for messages. */
+	const FString Address;
+	FString UsedToken;
+	bool bAuthenticated = false;
+	bool bSentAgain = false;
 };
 
 /** A finished answer. Immutable. */
@@ -193,6 +233,8 @@ public:
 
 	/** Asks the provider; NotAuthenticated without one. */
 	static FVexelHttp::IAuthProvider::EAuthResult GetAuthState(FString& OutToken);
+	/** Asks the provider for another token than that one. */
+	static TVexelTaskResult<void> RefreshToken(const FString& RefusedToken);
 
 	/** Cancels what is in flight and ends the network thread. A later request starts it again. */
 	static void Shutdown();

@@ -17,6 +17,8 @@ public:
 	const FString& GetKey() const { return Key; }
 	/** The value; read from its sources at the first use. */
 	FString Get() const;
+	/** The value as a number within bounds; a text that is no number counts as the default, with a line in the log. */
+	double GetNumber(double Min, double Max) const;
 	/** A program's own choice, above every other source, for the rest of the process. */
 	void SetOverride(const FString& Value);
 	/** Forgets what was read, so that the next use reads the sources again; an override stays. */

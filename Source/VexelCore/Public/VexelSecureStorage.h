@@ -4,8 +4,10 @@
 #include "VexelExpected.h"
 
 /**
- * Short secrets in the user's protected store, which outlive the editor. The store is an encrypted file (AES-256-GCM) with its
- * key beside it, both readable by the user alone, in the user's data directory. Any thread, any number of processes.
+ * Short secrets in the user's protected store, which outlive the editor. They stand in the desktop's keyring; where the session
+ * has none, in an encrypted file (AES-256-GCM) with its key beside it, both readable by the user alone, in the user's data
+ * directory. What an earlier session without a keyring left in the file is found there, and moves to the keyring when it is
+ * stored again. The setting "SecretStore" says "file" to leave the keyring alone. Any thread, any number of processes.
  */
 class VEXELCORE_API FVexelSecureStorage
 {
@@ -16,6 +18,9 @@ public:
 	/** Success also when there was nothing to delete. */
 	static TVexelExpected<void> DeleteValue(const FString& Key);
 
-	/** Directory of the store from now on: one a service, so that a local one's tokens never replace another's. */
+	/** Whose secrets from now on: the address of a service, so that one service's token never goes to another. Empty at first. */
+	static void SetScope(const FString& Scope);
+
+	/** Keeps the secrets in a file of that directory from now on, whatever the session has; the user's own store when empty. */
 	static void SetDirectory(const FString& Directory);
 };

@@ -181,7 +181,8 @@ public:
 		{
 			return Text;
 		}
-		return Text + "\nThis answer leaves out " + CountOf(LeftOut, "section") + " for its length; ask for an event or a function by name to read more.\n";
+		return Text + "\nThis answer leaves out " + CountOf(LeftOut, "section") +
+			" for its length; ask for an event or a function by name to read more.\n";
 	}
 
 private:
@@ -429,7 +430,8 @@ std::string FBlueprintDescriber::Graphs() const
 	for (std::size_t Index = 0; Index < std::min(Model.Graphs.size(), MaxListed); ++Index)
 	{
 		const FBlueprintGraph& Graph = Model.Graphs[Index];
-		Text += "- " + Bold(Graph.Title()) + ": " + KindWords[static_cast<int>(Graph.Kind)] + " with " + CountOf(Graph.Nodes.size(), "node") + "\n";
+		Text += "- " + Bold(Graph.Title()) + ": " + KindWords[static_cast<int>(Graph.Kind)] + " with " +
+			CountOf(Graph.Nodes.size(), "node") + "\n";
 	}
 	return Text;
 }
@@ -443,8 +445,10 @@ std::string FBlueprintDescriber::VariableUse(std::string_view Variable) const
 	if (Uses.empty())
 	{
 		const bool bKnown = Member != Model.Variables.end();
-		return bKnown ? Bold(Member->Id) + " is " + WithArticle(TypeAndDefault(*Member)) + ", but no step of " + Bold(Model.Name) + " reads or sets it.\n"
-					  : Bold(Model.Name) + " has no variable \"" + Shortened(Name, 100) + "\", and no step reads or sets one of that name.\n\n" + Variables();
+		return bKnown ? Bold(Member->Id) + " is " + WithArticle(TypeAndDefault(*Member)) + ", but no step of " + Bold(Model.Name) +
+				" reads or sets it.\n"
+					  : Bold(Model.Name) + " has no variable \"" + Shortened(Name, 100) +
+				"\", and no step reads or sets one of that name.\n\n" + Variables();
 	}
 	std::string Text = Bold(Member == Model.Variables.end() ? Name : Member->Id);
 	Text += " is " + Counted(Uses) + " of " + Bold(Model.Name) + ":\n\n";
@@ -552,7 +556,9 @@ std::string FBlueprintDescriber::GraphSection(const FBlueprintGraph& Graph) cons
 	{
 		return Text + ":\n\n- " + UpperFirst(Walker.Tell(*Return)) + "\n";
 	}
-	return Text + (Entry.Node ? ": it does nothing, since nothing is connected to its start.\n" : ": it has no entry from which I could follow it.\n");
+	return Text +
+		(Entry.Node ? ": it does nothing, since nothing is connected to its start.\n"
+					: ": it has no entry from which I could follow it.\n");
 }
 
 std::string FBlueprintDescriber::ListOfGraphs(EGraphKind Kind, const char* Noun) const

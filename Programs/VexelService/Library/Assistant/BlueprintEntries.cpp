@@ -113,15 +113,16 @@ std::string Stem(std::string Word)
 	}
 	// "stopped" and "overlapping" double the last letter of "stop" and "overlap"; "press" and "kill" have two of their own.
 	const std::size_t Size = Word.size();
-	const bool bDoubled = Size > 3 && Word[Size - 1] == Word[Size - 2] && std::string_view("aeiouls").find(Word.back()) == std::string_view::npos;
+	const bool bDoubled =
+		Size > 3 && Word[Size - 1] == Word[Size - 2] && std::string_view("aeiouls").find(Word.back()) == std::string_view::npos;
 	return bDoubled ? Word.substr(0, Size - 1) : Word;
 }
 
 std::set<std::string> Stems(std::string_view Text)
 {
-	static constexpr std::string_view Empty[] = {"the", "a", "an", "it", "its", "is", "are", "of", "on", "in", "to", "when", "with", "i", "my", "another",
-		"actor", "something", "someone", "that", "this", "by", "event", "custom", "input", "and", "for", "from", "at", "as", "then", "what", "happens",
-		"does", "do", "gets", "get", "bp"};
+	static constexpr std::string_view Empty[] = {"the", "a", "an", "it", "its", "is", "are", "of", "on", "in", "to", "when", "with", "i",
+		"my", "another", "actor", "something", "someone", "that", "this", "by", "event", "custom", "input", "and", "for", "from", "at",
+		"as", "then", "what", "happens", "does", "do", "gets", "get", "bp"};
 	std::set<std::string> Words;
 	std::string Word;
 	for (const char Character : LowerCase(Text) + " ")

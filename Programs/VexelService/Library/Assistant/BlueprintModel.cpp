@@ -145,7 +145,8 @@ void ReadVariables(const FJson& Object, std::vector<FBlueprintVariable>& Variabl
 		{
 			Scope = TextMember(Item, "scope_id");
 		}
-		Variables.push_back({IdMember(Item), TextMember(Item, "type"), ValueAsText(FindMember(Item, "value")), TextMember(Item, "category"), std::move(Scope)});
+		Variables.push_back({IdMember(Item), TextMember(Item, "type"), ValueAsText(FindMember(Item, "value")), TextMember(Item, "category"),
+			std::move(Scope)});
 	}
 }
 

@@ -433,7 +433,8 @@ void FGraphWalker::TellSuper(const FPlace& Place, FFlow& Flow)
 void FGraphWalker::TellMessage(const FPlace& Place, FFlow& Flow)
 {
 	const FBlueprintNode& Node = *Place.Node;
-	Flow.Text = WithArguments("sends the message " + Expressions.FunctionTitle(Node) + " to " + Expressions.Target(Node), Expressions.Arguments(Node));
+	Flow.Text = WithArguments(
+		"sends the message " + Expressions.FunctionTitle(Node) + " to " + Expressions.Target(Node), Expressions.Arguments(Node));
 	AddRemainingWays(Place, Flow);
 }
 
@@ -514,7 +515,8 @@ void FGraphWalker::TellReturn(const FPlace& Place, FFlow& Flow)
 void FGraphWalker::TellUnknown(const FPlace& Place, FFlow& Flow)
 {
 	const std::string& Type = Place.Node->Type;
-	const std::string Kind = Type.empty() ? "whose kind the export does not tell" : "of the kind `" + Shortened(Type, 80) + "`, which I cannot put into words";
+	const std::string Kind =
+		Type.empty() ? "whose kind the export does not tell" : "of the kind `" + Shortened(Type, 80) + "`, which I cannot put into words";
 	Flow.Text = WithArguments("runs the node \"" + NodeTitle(*Place.Node) + "\" (" + Kind + ")", Expressions.Arguments(*Place.Node));
 	AddRemainingWays(Place, Flow);
 }

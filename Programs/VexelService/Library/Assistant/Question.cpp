@@ -120,8 +120,9 @@ constexpr std::string_view Fillers[] = {"please", "the", "a", "an", "blueprint",
 constexpr std::string_view BackReferences[] = {"it", "its", "this", "that", "here", "there", "one"};
 
 // Where a message that names a Blueprint begins when it asks something, rather than wants something done.
-constexpr std::string_view Openers = "what|which|how|when|where|why|who|if|in|does|is|has|are|explain|describe|summarize|summarise|show|list|give|about|"
-									 "overview|summary|walk|read|inspect|understand";
+constexpr std::string_view Openers =
+	"what|which|how|when|where|why|who|if|in|does|is|has|are|explain|describe|summarize|summarise|show|list|give|about|"
+	"overview|summary|walk|read|inspect|understand";
 
 constexpr std::string_view MomentWords = "when|whenever|once|after|on|upon|if";
 constexpr std::string_view Prepositions = "in|of|on|with|for|inside|by";

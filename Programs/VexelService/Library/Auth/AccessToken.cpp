@@ -33,7 +33,8 @@ std::optional<FAccessClaims> ReadAccessToken(std::string_view Token, std::string
 {
 	const std::size_t FirstDot = Token.find('.');
 	const std::size_t LastDot = Token.rfind('.');
-	if (Token.size() > MaxTokenBytes || FirstDot == std::string_view::npos || FirstDot == LastDot || Token.substr(0, FirstDot) != Base64UrlEncode(Header))
+	if (Token.size() > MaxTokenBytes || FirstDot == std::string_view::npos || FirstDot == LastDot ||
+		Token.substr(0, FirstDot) != Base64UrlEncode(Header))
 	{
 		return std::nullopt;
 	}

@@ -89,7 +89,8 @@ std::string HmacSha256(std::string_view Key, std::string_view Bytes)
 {
 	std::string Digest(DigestBytes, '\0');
 	unsigned int Length = 0;
-	if (!HMAC(EVP_sha256(), Key.data(), static_cast<int>(Key.size()), AsBytes(Bytes), Bytes.size(), reinterpret_cast<unsigned char*>(Digest.data()), &Length))
+	if (!HMAC(EVP_sha256(), Key.data(), static_cast<int>(Key.size()), AsBytes(Bytes), Bytes.size(),
+			reinterpret_cast<unsigned char*>(Digest.data()), &Length))
 	{
 		EndWithoutCrypto("sign");
 	}

@@ -5,6 +5,7 @@
 #include "Chat/ChatTurn.h"
 #include "Chat/StreamWriter.h"
 #include "Server/ConnectionThreads.h"
+#include "Server/ReportStore.h"
 #include "Server/TurnChannel.h"
 #include "Support/JsonText.h"
 
@@ -180,6 +181,7 @@ public:
 		}
 		AddTokenRoutes();
 		AddApiRoutes();
+		AddReportRoutes();
 	}
 
 	~FImplementation()
@@ -256,10 +258,36 @@ private:
 								  { AnswerUser(Response); }));
 		Http.Post("/api/chat", ForUser([this](const httplib::Request& Request, httplib::Response& Response, const std::string& UserId)
 								   { AnswerChat(Request, Response, UserId); }));
-		Http.Post("/api/tool_reply/([^/]+)", ForUser([this](const httplib::Request& Request, httplib::Response& Response, const std::string& UserId)
-												 { AnswerToolResult(Request, Response, UserId, false); }));
-		Http.Post("/api/tool_error/([^/]+)", ForUser([this](const httplib::Request& Request, httplib::Response& Response, const std::string& UserId)
-												 { AnswerToolResult(Request, Response, UserId, true); }));
+		for (const bool bError : {false, true})
+		{
+			Http.Post(bError ? "/api/tool_error/([^/]+)" : "/api/tool_reply/([^/]+)",
+				ForUser([this, bError](const httplib::Request& Request, httplib::Response& Response, const std::string& UserId)
+					{ AnswerToolResult(Request, Response, UserId, bError); }));
+		}
+	}
+
+	void AddReportRoutes()
+	{
+		Http.Post("/api/[0-9]+/envelope/", [this](const httplib::Request& Request, httplib::Response& Response)
+			{ AnswerReport(Request, Response); });
+		Http.Get("/api/reports", ForUser([this](const httplib::Request&, httplib::Response& Response, const std::string&)
+									 { SendJson(Response, 200, {{"reports", Reports.GetReports()}}); }));
+	}
+
+	void AnswerReport(const httplib::Request& Request, httplib::Response& Response)
+	{
+		if (Request.get_header_value("X-Sentry-Auth").find("sentry_key=") == std::string::npos)
+		{
+			SendRefusal(Response, {401, "The header X-Sentry-Auth has no sentry_key."});
+			return;
+		}
+		const TOrRefusal<std::string> Id = Reports.Take(Request.body);
+		if (!Id)
+		{
+			SendRefusal(Response, Id.Error());
+			return;
+		}
+		SendJson(Response, 200, {{"id", *Id}});
 	}
 
 	void AnswerError(const httplib::Request& Request, httplib::Response& Response)
@@ -424,6 +452,7 @@ private:
 	const FServiceConfig Config;
 	const std::unique_ptr<FTokenService> Tokens;
 	FChatTurns Turns;
+	FReportStore Reports;
 	httplib::Server Http;
 	socket_t ListeningSocket = INVALID_SOCKET;
 	std::thread Listener;

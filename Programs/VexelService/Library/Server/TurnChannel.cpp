@@ -21,7 +21,8 @@ std::string InSeconds(std::chrono::milliseconds Time)
 
 }
 
-FTurnChannel::FTurnChannel(FChatTurn& InTurn, FStreamWriter& InWriter, std::chrono::milliseconds InToolTimeout, std::function<bool()> InIsListening)
+FTurnChannel::FTurnChannel(
+	FChatTurn& InTurn, FStreamWriter& InWriter, std::chrono::milliseconds InToolTimeout, std::function<bool()> InIsListening)
 	: Turn(InTurn)
 	, Writer(InWriter)
 	, ToolTimeout(InToolTimeout)

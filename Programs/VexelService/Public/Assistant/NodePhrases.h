@@ -19,8 +19,9 @@ enum class EExpressionForm
 
 /**
  * How calls of one function are worded. In a template "{Pin}" stands for the value of that input, "{self}" for the object that the
- * function is called on, "{self's}" for its possessive, "{Pin?hides:shows}" for one of two words by a Boolean input, and "{Pin& words %}" for the words with
- * the value in them, or for nothing where the input has none. "{it}" is "{self}" where a clause has another subject.
+ * function is called on, "{self's}" for its possessive, "{Pin?hides:shows}" for one of two words by a Boolean input, and
+ * "{Pin& words %}" for the words with the value in them, or for nothing where the input has none. "{it}" is "{self}" where a
+ * clause has another subject.
  */
 struct FActionPhrase
 {

@@ -5,6 +5,7 @@
 #include "VexelClient.h"
 #include "VexelCrypto.h"
 #include "VexelHttp.h"
+#include "VexelInternalConfig.h"
 #include "VexelJson.h"
 #include "VexelLog.h"
 #include "VexelSecureStorage.h"
@@ -14,7 +15,8 @@
 namespace
 {
 const FString RefreshTokenKey = TEXT("rt");
-constexpr float RequestTimeoutSeconds = 10.0f;
+constexpr double MaxTimeoutSeconds = 600.0;
+FVexelConfigValue TimeoutSetting(TEXT("AuthTimeoutSeconds"), TEXT("10"));
 
 /** Behind Lock, all of it. */
 struct FAuthData
@@ -26,6 +28,11 @@ struct FAuthData
 	FDateTime Expiry;
 	FString UserId;
 	FString ClientId;
+	TOptional<FVexelError> LoginFailure;
+	/** The refresh that is under way for refused tokens; refers to no task when none is. */
+	TVexelTaskResult<void> RunningRefresh;
+	/** Counts the ends of the module, so that an answer that comes late finds that it is nobody's. */
+	int32 Session = 0;
 	FVexelAuth::FOnAuthStateChanged OnStateChanged;
 };
 
@@ -33,6 +40,27 @@ FAuthData& GetData()
 {
 	static FAuthData Data;
 	return Data;
+}
+
+float GetTimeoutSeconds()
+{
+	return float(TimeoutSetting.GetNumber(0.1, MaxTimeoutSeconds));
+}
+
+int32 GetSession()
+{
+	FAuthData& Data = GetData();
+	FScopeLock Guard(&Data.Lock);
+	return Data.Session;
+}
+
+/**
+ * Whether the service has looked at the refresh token and refused it. A service that is down, busy or broken says nothing about
+ * the token, which is worth keeping then.
+ */
+bool WasTokenRefused(const FVexelError& Error)
+{
+	return Error.IsA<FVexelError_HttpStatusClientError>();
 }
 
 TSharedRef<FJsonObject> MakeScopeData(const TCHAR* Request, const TCHAR* Initiator)
@@ -112,7 +140,7 @@ TVexelTaskResult<FString> FVexelAuth::PreloadClientId()
 	return Try(FVexelClient::Get()
 				   .GetApiClient()
 				   ->Request(EVexelHttpVerb::Get, TEXT("/api/auth/plugin-client-id"))
-				   .WithTimeout(RequestTimeoutSeconds)
+				   .WithTimeout(GetTimeoutSeconds())
 				   .SendAndAwait())
 		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
 			{ return ReadClientId(Response); })
@@ -138,6 +166,10 @@ void FVexelAuth::StartAutoLogin()
 			return;
 		}
 	}
+	{
+		FScopeLock Guard(&Data.Lock);
+		Data.LoginFailure.Reset();
+	}
 	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
 	if (Stored.HasError() || Stored.GetValue().IsEmpty())
 	{
@@ -145,19 +177,82 @@ void FVexelAuth::StartAutoLogin()
 		return;
 	}
 	SetState(EState::LoggingIn);
-	InternalRefreshAccessToken(Stored.GetValue()).OnComplete([](const TVexelExpected<void>& Result)
+	InternalRefreshAccessToken(Stored.GetValue()).OnComplete([Session = GetSession()](const TVexelExpected<void>& Result)
 		{
-			if (!Result.HasError())
+			if (Result.HasError())
 			{
-				return;
-			}
-			const TVexelExpected<void> Deleted = FVexelSecureStorage::DeleteValue(RefreshTokenKey);
-			if (Deleted.HasError())
+				EndLogin(Result.GetError(), Session, TEXT("while performing auto-login"));
+			} });
+}
+
+void FVexelAuth::EndLogin(const FVexelError& Failure, int32 Session, const TCHAR* While)
+{
+	FAuthData& Data = GetData();
+	{
+		FScopeLock Guard(&Data.Lock);
+		if (Data.Session != Session)
+		{
+			return;
+		}
+		Data.LoginFailure = Failure;
+		Data.AccessToken.Empty();
+		Data.RefreshToken.Empty();
+		Data.UserId.Empty();
+	}
+	if (WasTokenRefused(Failure))
+	{
+		const TVexelExpected<void> Deleted = FVexelSecureStorage::DeleteValue(RefreshTokenKey);
+		if (Deleted.HasError())
+		{
+			ReportAuthError(Deleted.GetError(), TEXT("while clearing stored refresh token after failed auto-login"));
+		}
+	}
+	ReportAuthError(Failure, While);
+	SetState(EState::Offline);
+}
+
+TOptional<FVexelError> FVexelAuth::GetLoginFailure()
+{
+	FAuthData& Data = GetData();
+	FScopeLock Guard(&Data.Lock);
+	return Data.LoginFailure;
+}
+
+TVexelTaskResult<void> FVexelAuth::RefreshRefusedToken(const FString& RefusedToken)
+{
+	FAuthData& Data = GetData();
+	TVexelTaskResult<void> Refresh;
+	FString RefreshToken;
+	int32 Session = 0;
+	{
+		FScopeLock Guard(&Data.Lock);
+		if (!Data.AccessToken.Equals(RefusedToken))
+		{
+			return TVexelExpected<void>();
+		}
+		if (Data.RunningRefresh.IsValid())
+		{
+			return Data.RunningRefresh;
+		}
+		Refresh = TVexelTaskResult<void>::MakePending();
+		Data.RunningRefresh = Refresh;
+		RefreshToken = Data.RefreshToken;
+		Session = Data.Session;
+	}
+	// Outside the lock: a result that is complete at once goes on in this call.
+	InternalRefreshAccessToken(RefreshToken).OnComplete([Refresh, Session](const TVexelExpected<void>& Result)
+		{
+			FAuthData& Data = GetData();
 			{
-				ReportAuthError(Deleted.GetError(), TEXT("while clearing stored refresh token after failed auto-login"));
+				FScopeLock Guard(&Data.Lock);
+				Data.RunningRefresh = TVexelTaskResult<void>();
 			}
-			ReportAuthError(Result.GetError(), TEXT("while performing auto-login"));
-			SetState(EState::Offline); });
+			if (Result.HasError() && WasTokenRefused(Result.GetError()))
+			{
+				EndLogin(Result.GetError(), Session, TEXT("while refreshing access token"));
+			}
+			Refresh.Complete(Result); });
+	return Refresh;
 }
 
 FVexelAuth::EState FVexelAuth::GetState()
@@ -209,20 +304,24 @@ void FVexelAuth::Shutdown()
 	Data.RefreshToken.Empty();
 	Data.UserId.Empty();
 	Data.ClientId.Empty();
+	Data.LoginFailure.Reset();
+	Data.RunningRefresh = TVexelTaskResult<void>();
+	++Data.Session;
 	Data.OnStateChanged.Clear();
 }
 
 TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FString& RefreshToken)
 {
+	// Taken here, because a step may run when the module is gone already.
+	const TSharedPtr<FVexelHttp> ApiClient = FVexelClient::Get().GetApiClient();
 	return Try(PreloadClientId())
-		.Then([RefreshToken](const FString& ClientId)
+		.Then([RefreshToken, ApiClient](const FString& ClientId)
 			{
 				FVexelHttpUrlParams Form;
 				Form.Add(TEXT("grant_type"), TEXT("refresh_token")).Add(TEXT("refresh_token"), RefreshToken).Add(TEXT("client_id"), ClientId);
-				return FVexelClient::Get()
-					.GetApiClient()
-					->Request(EVexelHttpVerb::Post, TEXT("/oauth/token"))
-					.WithTimeout(RequestTimeoutSeconds)
+				return ApiClient->Request(EVexelHttpVerb::Post, TEXT("/oauth/token"))
+					.WithTimeout(GetTimeoutSeconds())
+					.WithSecrecy()
 					.WithPayload(Form)
 					.SendAndAwait(); })
 		.Then([](const TSharedRef<FVexelHttpResponse>& Response) -> TVexelExpected<FTokenResponse>
@@ -239,11 +338,11 @@ TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FString& Ref
 				}
 				VEXEL_LOG(Log, "OAuth token refresh successful");
 				return Tokens; })
-		.Then([](const FTokenResponse& Tokens)
-			{ return InternalProcessTokenResponse(Tokens); });
+		.Then([Session = GetSession()](const FTokenResponse& Tokens)
+			{ return InternalProcessTokenResponse(Tokens, Session); });
 }
 
-TVexelExpected<void> FVexelAuth::InternalProcessTokenResponse(const FTokenResponse& Response)
+TVexelExpected<void> FVexelAuth::InternalProcessTokenResponse(const FTokenResponse& Response, int32 Session)
 {
 	const FString UserId = ReadUserId(Response.AccessToken);
 	if (UserId.IsEmpty())
@@ -253,6 +352,11 @@ TVexelExpected<void> FVexelAuth::InternalProcessTokenResponse(const FTokenRespon
 	FAuthData& Data = GetData();
 	{
 		FScopeLock Guard(&Data.Lock);
+		if (Data.Session != Session)
+		{
+			return VEXEL_ERROR(FVexelError_Auth_TokenProcessing, "The tokens arrived after the end of the login");
+		}
+		Data.LoginFailure.Reset();
 		Data.UserId = UserId;
 		Data.AccessToken = Response.AccessToken;
 		Data.RefreshToken = Response.RefreshToken;

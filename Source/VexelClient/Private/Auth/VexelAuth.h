@@ -44,6 +44,16 @@ public:
 	static FDelegateHandle AddAuthStateChangedCallback(const FOnAuthStateChanged::FDelegate& Callback);
 	static void RemoveAuthStateChangedCallback(FDelegateHandle Handle);
 
+	/** Why the last login failed; unset while one is under way and after one that succeeded. */
+	static TOptional<FVexelError> GetLoginFailure();
+
+	/**
+	 * Gets another access token with the refresh token, in place of one that the service has refused. Several callers share one
+	 * refresh; one whose token is no longer the current one needs none. The login stays as it is unless the service refuses the
+	 * refresh token too: then it is over.
+	 */
+	static TVexelTaskResult<void> RefreshRefusedToken(const FString& RefusedToken);
+
 	/** Calls back with a copy of the access token taken under the lock. */
 	static void WithAccessToken(TFunctionRef<void(const FString& Token)> Callback);
 	static void WithAccessTokenAndUser(TFunctionRef<void(const FString& Token, const FString& UserId)> Callback);
@@ -53,6 +63,8 @@ public:
 
 private:
 	static TVexelTaskResult<void> InternalRefreshAccessToken(const FString& RefreshToken);
-	static TVexelExpected<void> InternalProcessTokenResponse(const FTokenResponse& Response);
+	/** Session is the one that the request was sent in; tokens that arrive after its end are nobody's. */
+	static TVexelExpected<void> InternalProcessTokenResponse(const FTokenResponse& Response, int32 Session);
+	static void EndLogin(const FVexelError& Failure, int32 Session, const TCHAR* While);
 	static void SetState(EState NewState);
 };

@@ -26,3 +26,8 @@ FVexelHttp::IAuthProvider::EAuthResult FVexelAuthProvider::GetAuthState(FString&
 	}
 	return EAuthResult::Authenticated;
 }
+
+TVexelTaskResult<void> FVexelAuthProvider::RefreshToken(const FString& RefusedToken)
+{
+	return FVexelAuth::RefreshRefusedToken(RefusedToken);
+}

@@ -7,4 +7,5 @@ class FVexelAuthProvider final : public FVexelHttp::IAuthProvider
 {
 public:
 	virtual EAuthResult GetAuthState(FString& OutToken) override;
+	virtual TVexelTaskResult<void> RefreshToken(const FString& RefusedToken) override;
 };

@@ -53,9 +53,11 @@ TVexelExpected<void> FVexelChatHistoryManager::Save(const FVexelChatConversation
 	FString Text;
 	if (!IsSafeChatId(Conversation.GetChatId()) || !FVexelJsonConversions::JsonToPrettyString(Conversation.ToJson(), Text))
 	{
-		return VEXEL_ERROR_TITLED(FVexelError, "Conversation not saved", "The conversation '%s' cannot be written as JSON", *Conversation.GetChatId());
+		return VEXEL_ERROR_TITLED(
+			FVexelError, "Conversation not saved", "The conversation '%s' cannot be written as JSON", *Conversation.GetChatId());
 	}
-	VEXEL_TRY_VOID(FVexelFile::SaveWhole(GetFilePath(Conversation.GetChatId()), Text), "while saving conversation '%s'", *Conversation.GetChatId());
+	VEXEL_TRY_VOID(
+		FVexelFile::SaveWhole(GetFilePath(Conversation.GetChatId()), Text), "while saving conversation '%s'", *Conversation.GetChatId());
 	return TVexelExpected<void>();
 }
 

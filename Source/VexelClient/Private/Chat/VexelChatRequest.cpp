@@ -3,12 +3,17 @@
 #include "Chat/VexelEditorContext.h"
 #include "Misc/EngineVersion.h"
 #include "VexelErrorContext.h"
+#include "VexelInternalConfig.h"
 #include "VexelLog.h"
 
 namespace
 {
 /** A service that sends nothing for that long, not even while a tool of ours runs, is taken for gone. */
-constexpr float StallTimeoutSeconds = 300.0f;
+FVexelConfigValue StallTimeoutSetting(TEXT("ChatStallTimeoutSeconds"), TEXT("300"));
+constexpr double MaxStallTimeoutSeconds = 24.0 * 60.0 * 60.0;
+
+/** No answer that a person reads comes near it. */
+constexpr int32 MaxAnswerBytes = 64 << 20;
 }
 
 FVexelChatRequest::FVexelChatRequest(
@@ -54,7 +59,8 @@ bool FVexelChatRequest::Send(FVexelHttp& ApiClient)
 	const TWeakPtr<FVexelChatRequest> WeakThis = AsWeak();
 	HttpRequest = ApiClient.Request(EVexelHttpVerb::Post, TEXT("/api/chat"))
 					  .WithAuth()
-					  .WithStallTimeout(StallTimeoutSeconds)
+					  .WithStallTimeout(float(StallTimeoutSetting.GetNumber(1.0, MaxStallTimeoutSeconds)))
+					  .WithAnswerLimit(MaxAnswerBytes)
 					  .WithPayload(Payload)
 					  .WithProgress([WeakThis](TConstArrayView<uint8> WholeBody)
 						  {
@@ -196,7 +202,8 @@ TSharedPtr<FJsonObject> FVexelChatRequest::PreparePayload() const
 	Payload->SetStringField(TEXT("checkpoint_id"), CheckpointId);
 	Payload->SetStringField(TEXT("conversation_title"), Conversation->GetTitle());
 	Payload->SetStringField(TEXT("chat_mode"), Conversation->GetChatMode().ChatMode);
-	Payload->SetStringField(TEXT("engine_version"), FString::Printf(TEXT("%d.%d"), int32(EngineVersion.GetMajor()), int32(EngineVersion.GetMinor())));
+	Payload->SetStringField(
+		TEXT("engine_version"), FString::Printf(TEXT("%d.%d"), int32(EngineVersion.GetMajor()), int32(EngineVersion.GetMinor())));
 	Payload->SetArrayField(TEXT("messages"), Messages);
 	Payload->SetObjectField(TEXT("context"), FVexelEditorContext::Capture().ToJson());
 	return Payload;

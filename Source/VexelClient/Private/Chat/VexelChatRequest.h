@@ -37,6 +37,8 @@ public:
 	EVexelChatRequestState GetState() const { return State; }
 	bool IsFinal() const { return State > EVexelChatRequestState::InProgress; }
 	const FString& GetChatId() const { return Conversation->GetChatId(); }
+	/** Who was logged in when the request was made. */
+	const FString& GetUserId() const { return UserId; }
 	const FString& GetCheckpointId() const { return CheckpointId; }
 	const TSharedRef<FVexelChatConversation>& GetConversation() const { return Conversation; }
 	const FVexelChatMessage& GetPrompt() const { return Prompt; }

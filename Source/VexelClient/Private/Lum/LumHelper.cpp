@@ -22,7 +22,8 @@ TVexelExpected<TSharedRef<ILumProperty>> ResolvePath(TSharedRef<ILumCompound> Co
 	FString Segment;
 	for (int32 NumSegments = 0; NumSegments < FLumHelper::MaxPathSegments; ++NumSegments)
 	{
-		VEXEL_TRY(const TSharedRef<ILumProperty> Property, FLumHelper::CompoundPathResolveSegment(Compound, Rest, Segment), "while resolving segment '%s'", *Segment);
+		VEXEL_TRY(const TSharedRef<ILumProperty> Property, FLumHelper::CompoundPathResolveSegment(Compound, Rest, Segment),
+			"while resolving segment '%s'", *Segment);
 		if (Rest.IsEmpty())
 		{
 			return Property;
@@ -161,7 +162,8 @@ TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolve(const T
 	return Property;
 }
 
-TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(const TSharedRef<ILumCompound>& Compound, FString& Rest, FString& Segment)
+TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(
+	const TSharedRef<ILumCompound>& Compound, FString& Rest, FString& Segment)
 {
 	FString Remaining;
 	if (!Rest.Split(TEXT("."), &Segment, &Remaining))

@@ -3,6 +3,8 @@
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
 #include "EdGraph/EdGraphPin.h"
+#include "Lum/LumErrors.h"
+#include "UObject/WeakObjectPtr.h"
 #include "VexelExpected.h"
 #include "VexelId.h"
 
@@ -32,7 +34,19 @@ public:
 	/** The property at a path of ids joined by points, such as "Items.3.Name". */
 	static TVexelExpected<TSharedRef<ILumProperty>> CompoundPathResolve(const TSharedRef<ILumCompound>& Compound, const FString& Path);
 	/** Takes the first segment off Rest, and answers the compound's property of that id. */
-	static TVexelExpected<TSharedRef<ILumProperty>> CompoundPathResolveSegment(const TSharedRef<ILumCompound>& Compound, FString& Rest, FString& Segment);
+	static TVexelExpected<TSharedRef<ILumProperty>> CompoundPathResolveSegment(
+		const TSharedRef<ILumCompound>& Compound, FString& Rest, FString& Segment);
+
+	/** The object, or a read error with that message when it is gone. */
+	template <typename ObjectType>
+	static TVexelExpected<ObjectType*> GetValid(const TWeakObjectPtr<ObjectType>& WeakObject, const TCHAR* Message)
+	{
+		if (ObjectType* const Object = WeakObject.Get())
+		{
+			return Object;
+		}
+		return FLumError_Read(VEXEL_HERE, FString(Message));
+	}
 
 	/** "ref|/Game/Path.Object", or "ref|None". */
 	static FString MakeReferenceString(const UObject* Object);

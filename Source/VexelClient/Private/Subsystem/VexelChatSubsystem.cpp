@@ -399,16 +399,22 @@ void UVexelChatSubsystem::SaveConversation(const FVexelChatConversation& Convers
 	TVexelExpected<void> Saved = HistoryManager->Save(Conversation);
 	if (Saved.HasError())
 	{
+		Events.OnSaveFailed.Broadcast(Conversation.GetChatId(), Saved.GetError());
 		FVexelSentry::CaptureError(MoveTemp(Saved).GetError(), VEXEL_HERE);
 	}
 }
 
 void UVexelChatSubsystem::OnAuthDataChanged()
 {
+	// The news may be older than a request that was made under the login it tells of.
+	const FString UserId = GetUserId();
 	TArray<TSharedRef<FVexelChatRequest>> Requests;
 	ActiveRequests.GenerateValueArray(Requests);
 	for (const TSharedRef<FVexelChatRequest>& Request : Requests)
 	{
-		Request->Cancel();
+		if (!Request->GetUserId().Equals(UserId))
+		{
+			Request->Cancel();
+		}
 	}
 }

@@ -3,6 +3,7 @@
 #include "Tools/VexelToolManager.h"
 #include "VexelLog.h"
 #include "VexelSentry.h"
+#include "VexelUrlUtils.h"
 
 namespace
 {
@@ -33,17 +34,20 @@ void Post(const TSharedPtr<FVexelHttp>& ApiClient, const FString& Path, const TS
 				} });
 }
 
-void PostResult(const TSharedPtr<FVexelHttp>& ApiClient, const FVexelToolContext& Context, const TVexelExpected<TSharedRef<FJsonObject>>& Result)
+void PostResult(
+	const TSharedPtr<FVexelHttp>& ApiClient, const FVexelToolContext& Context, const TVexelExpected<TSharedRef<FJsonObject>>& Result)
 {
 	const TSharedRef<FJsonObject> Reply = MakeReplyBase(Context);
+	// A sub-agent's id is the stream's own words.
+	const FString ChatId = FVexelUrlUtils::EncodeSegment(Context.ChatId);
 	if (Result.HasValue())
 	{
 		Reply->SetObjectField(TEXT("tool_reply"), Result.GetValue());
-		Post(ApiClient, FString::Printf(TEXT("/api/tool_reply/%s"), *Context.ChatId), Reply);
+		Post(ApiClient, TEXT("/api/tool_reply/") + ChatId, Reply);
 		return;
 	}
 	Reply->SetStringField(TEXT("error_message"), Result.GetError().ToShortString());
-	Post(ApiClient, FString::Printf(TEXT("/api/tool_error/%s"), *Context.ChatId), Reply);
+	Post(ApiClient, TEXT("/api/tool_error/") + ChatId, Reply);
 }
 }
 

@@ -7,7 +7,8 @@ TArray<FVexelToolInfo> FVexelTools::List()
 	TArray<FVexelToolInfo> Infos;
 	for (const TSharedRef<FVexelTool>& Tool : FVexelToolManager::Get().GetTools())
 	{
-		Infos.Add({Tool->GetName().ToString(), Tool->GetIcon().ToString(), Tool->GetProgressText(), Tool->GetDoneText(), Tool->ProducesResponse()});
+		Infos.Add({Tool->GetName().ToString(), Tool->GetIcon().ToString(), Tool->GetProgressText(), Tool->GetDoneText(),
+			Tool->ProducesResponse()});
 	}
 	return Infos;
 }

@@ -11,7 +11,10 @@ class ILumProperty;
 class ILumPropertyCollector;
 class ILumVariable;
 
-/** Something that owns properties, and for some kinds variables: a Blueprint, a graph, a node, an object, a struct, a container. Game thread. */
+/**
+ * Something that owns properties, and for some kinds variables: a Blueprint, a graph, a node, an object, a struct, a container.
+ * Game thread.
+ */
 class ILumCompound
 {
 public:

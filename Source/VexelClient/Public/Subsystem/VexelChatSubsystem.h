@@ -18,16 +18,21 @@ struct FVexelChatEvents
 	DECLARE_MULTICAST_DELEGATE_TwoParams(FOnTextAppended, const FString& /*ChatId*/, FStringView);
 	/** The error is null but for a failed request. */
 	DECLARE_MULTICAST_DELEGATE_ThreeParams(FOnRequestStateChanged, const FString& /*ChatId*/, EVexelChatRequestState, const FVexelError*);
-	DECLARE_MULTICAST_DELEGATE_ThreeParams(FOnToolStarted, const FString& /*ChatId*/, const FString& /*ReplyId*/, const FString& /*ProgressText*/);
+	DECLARE_MULTICAST_DELEGATE_ThreeParams(
+		FOnToolStarted, const FString& /*ChatId*/, const FString& /*ReplyId*/, const FString& /*ProgressText*/);
 	/** The error is null when the tool did its work. */
 	DECLARE_MULTICAST_DELEGATE_FourParams(
 		FOnToolFinished, const FString& /*ChatId*/, const FString& /*ReplyId*/, const FString& /*DoneText*/, const FVexelError*);
+
+	/** What was said stays in memory, and what was stored before as it was. */
+	DECLARE_MULTICAST_DELEGATE_TwoParams(FOnSaveFailed, const FString& /*ChatId*/, const FVexelError&);
 
 	FOnBlockAdded OnBlockAdded;
 	FOnTextAppended OnTextAppended;
 	FOnRequestStateChanged OnRequestStateChanged;
 	FOnToolStarted OnToolStarted;
 	FOnToolFinished OnToolFinished;
+	FOnSaveFailed OnSaveFailed;
 };
 
 /**

@@ -7,6 +7,7 @@
 #include "Misc/ScopeRWLock.h"
 #include "VexelErrorKinds.h"
 #include "VexelJson.h"
+#include "VexelSecrets.h"
 
 namespace
 {
@@ -47,10 +48,29 @@ void WakeThread()
 	}
 }
 
-/** A value that could begin a header of its own is none. */
-FString ToHeaderText(const FString& Text)
+bool IsHeaderName(const FString& Name)
 {
-	return Text.Replace(TEXT("\r"), TEXT("")).Replace(TEXT("\n"), TEXT(" "));
+	for (const TCHAR Character : Name)
+	{
+		if (Character <= TEXT(' ') || Character >= 127 || Character == TEXT(':'))
+		{
+			return false;
+		}
+	}
+	return !Name.IsEmpty();
+}
+
+/** Whether a value stays on its line. */
+bool IsHeaderValue(const FString& Value)
+{
+	for (const TCHAR Character : Value)
+	{
+		if ((Character < TEXT(' ') && Character != TEXT('\t')) || Character == 127)
+		{
+			return false;
+		}
+	}
+	return true;
 }
 
 /** Names compare without regard to case, as FString does. */
@@ -62,8 +82,8 @@ void RemoveHeader(TArray<TTuple<FString, FString>>& Headers, const FString& Name
 
 void SetHeader(TArray<TTuple<FString, FString>>& Headers, const FString& Name, const FString& Value)
 {
-	RemoveHeader(Headers, ToHeaderText(Name));
-	Headers.Emplace(ToHeaderText(Name), ToHeaderText(Value));
+	RemoveHeader(Headers, Name);
+	Headers.Emplace(Name, Value);
 }
 }
 
@@ -123,6 +143,18 @@ FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithURLParams(const FVexelHt
 	return *this;
 }
 
+FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithAnswerLimit(int32 Bytes)
+{
+	MaxAnswerBytes = Bytes;
+	return *this;
+}
+
+FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithSecrecy()
+{
+	bSecret = true;
+	return *this;
+}
+
 FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithAuth(bool bInAuthenticated)
 {
 	bAuthenticated = bInAuthenticated;
@@ -143,7 +175,9 @@ FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithProgress(TFunction<void(
 
 TSharedRef<FVexelHttpRequest> FVexelHttpPendingRequest::Send()
 {
-	return MakeShareable(new FVexelHttpRequest(MoveTemp(*this)));
+	const TSharedRef<FVexelHttpRequest> Request = MakeShareable(new FVexelHttpRequest(MoveTemp(*this)));
+	Request->Start(*this);
+	return Request;
 }
 
 TVexelTaskResult<TSharedRef<FVexelHttpResponse>> FVexelHttpPendingRequest::SendAndAwait()
@@ -151,67 +185,165 @@ TVexelTaskResult<TSharedRef<FVexelHttpResponse>> FVexelHttpPendingRequest::SendA
 	return Send()->Await();
 }
 
-FVexelHttpRequest::FVexelHttpRequest(FVexelHttpPendingRequest&& Pending)
-	: Transfer(MakeTransfer(Pending))
+TVexelTaskResult<void> FVexelHttp::IAuthProvider::RefreshToken(const FString&)
 {
+	return VEXEL_ERROR_TITLED(FVexelError_HttpUnauthorized, "Not logged in", "There is no other token");
 }
 
-TSharedRef<FVexelHttpTransfer> FVexelHttpRequest::MakeTransfer(FVexelHttpPendingRequest& Pending)
+FVexelHttpRequest::FVexelHttpRequest(FVexelHttpPendingRequest&& Pending)
+	: Result(TVexelTaskResult<TSharedRef<FVexelHttpResponse>>::MakePending())
+	, Setup(MakeUnique<FVexelHttpTransferSetup>())
+	, Address(FVexelHttpTransfer::Describe(Pending.Verb, Pending.Url))
+	, bAuthenticated(Pending.bAuthenticated)
 {
-	FVexelHttpTransferSetup Setup;
-	Setup.Verb = Pending.Verb;
-	Setup.Url = MoveTemp(Pending.Url);
-	Setup.Headers = MoveTemp(Pending.Headers);
-	Setup.Body = MoveTemp(Pending.Body);
-	Setup.Progress = MoveTemp(Pending.Progress);
-	Setup.TimeoutSeconds = Pending.TimeoutSeconds;
-	Setup.StallTimeoutSeconds = Pending.StallTimeoutSeconds;
-	if (!Setup.Body.ContentType.IsEmpty())
+	Setup->Verb = Pending.Verb;
+	Setup->Url = MoveTemp(Pending.Url);
+	Setup->Headers = MoveTemp(Pending.Headers);
+	if (!Pending.Body.ContentType.IsEmpty())
 	{
-		SetHeader(Setup.Headers, TEXT("Content-Type"), Setup.Body.ContentType);
+		SetHeader(Setup->Headers, TEXT("Content-Type"), Pending.Body.ContentType);
+		Setup->Body = MakeShared<const VexelInternal::Http::FRequestBody>(MoveTemp(Pending.Body));
 	}
+	Setup->Progress = MoveTemp(Pending.Progress);
+	Setup->TimeoutSeconds = Pending.TimeoutSeconds;
+	Setup->StallTimeoutSeconds = Pending.StallTimeoutSeconds;
+	Setup->MaxAnswerBytes = Pending.MaxAnswerBytes;
+	Setup->bSecret = Pending.bSecret;
+}
 
-	bool bAuthorized = true;
-	if (Pending.bAuthenticated)
-	{
-		FString Token;
-		bAuthorized = FVexelHttpManager::GetAuthState(Token) == FVexelHttp::IAuthProvider::EAuthResult::Authenticated;
-		if (bAuthorized)
-		{
-			SetHeader(Setup.Headers, TEXT("Authorization"), TEXT("Bearer ") + Token);
-		}
-	}
+FVexelHttpRequest::~FVexelHttpRequest() = default;
 
-	const TSharedRef<FVexelHttpTransfer> Transfer = MakeShared<FVexelHttpTransfer>(MoveTemp(Setup));
+void FVexelHttpRequest::Start(const FVexelHttpPendingRequest& Pending)
+{
+	const TTuple<FString, FString>* const BadHeader = Setup->Headers.FindByPredicate([](const TTuple<FString, FString>& Header)
+		{ return !IsHeaderName(Header.Get<0>()) || !IsHeaderValue(Header.Get<1>()); });
 	if (!Pending.bPayloadValid)
 	{
-		Transfer->Fail(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the body could not be set", *Transfer->Describe()));
+		Complete(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the body could not be set", *Address));
 	}
-	else if (!bAuthorized)
+	else if (BadHeader)
 	{
-		Transfer->Fail(VEXEL_ERROR_TITLED(FVexelError_HttpUnauthorized, "Not logged in", "%s needs a login", *Transfer->Describe()));
+		const FString Name = IsHeaderName(BadHeader->Get<0>()) ? BadHeader->Get<0>() : FString(TEXT("?"));
+		Complete(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the header '%s' is none that can be sent", *Address, *Name));
 	}
 	else
 	{
-		Submit(Transfer);
+		SendTransfer();
 	}
-	return Transfer;
+}
+
+void FVexelHttpRequest::SendTransfer()
+{
+	FVexelHttpTransferSetup Now = *Setup;
+	if (bAuthenticated)
+	{
+		if (FVexelHttpManager::GetAuthState(UsedToken) != FVexelHttp::IAuthProvider::EAuthResult::Authenticated)
+		{
+			Complete(VEXEL_ERROR_TITLED(FVexelError_HttpUnauthorized, "Not logged in", "%s needs a login", *Address));
+			return;
+		}
+		VexelSecrets::Add(UsedToken);
+		SetHeader(Now.Headers, TEXT("Authorization"), TEXT("Bearer ") + UsedToken);
+	}
+	const TSharedRef<FVexelHttpTransfer> Sent = MakeShared<FVexelHttpTransfer>(MoveTemp(Now));
+	Sent->GetResult().OnComplete([This = AsShared()](const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value)
+		{ This->OnTransferComplete(Value); });
+	{
+		FScopeLock Guard(&Lock);
+		Transfer = Sent;
+		if (bCancelled)
+		{
+			Sent->RequestCancel();
+		}
+	}
+	Submit(Sent);
+}
+
+void FVexelHttpRequest::OnTransferComplete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value)
+{
+	const bool bRefused = Value.HasError() && Value.GetError().IsA<FVexelError_HttpUnauthorized>();
+	if (!bAuthenticated || bSentAgain || !bRefused)
+	{
+		Complete(Value);
+		return;
+	}
+	bSentAgain = true;
+	{
+		FScopeLock Guard(&Lock);
+		bRefreshing = true;
+	}
+	FVexelHttpManager::RefreshToken(UsedToken).OnComplete([This = AsShared(), Value](const TVexelExpected<void>& Refreshed)
+		{ This->OnTokenRefreshed(Refreshed, Value); });
+}
+
+void FVexelHttpRequest::OnTokenRefreshed(
+	const TVexelExpected<void>& Refreshed, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& FirstAnswer)
+{
+	{
+		FScopeLock Guard(&Lock);
+		bRefreshing = false;
+	}
+	FString NewToken;
+	const bool bOnline = FVexelHttpManager::GetAuthState(NewToken) == FVexelHttp::IAuthProvider::EAuthResult::Authenticated;
+	if (Refreshed.HasError() || !bOnline || NewToken.Equals(UsedToken))
+	{
+		Complete(FirstAnswer);
+		return;
+	}
+	SendTransfer();
+}
+
+void FVexelHttpRequest::Complete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value)
+{
+	// What a callback captured must not live as long as somebody holds the request.
+	Setup->Progress = nullptr;
+	Setup->Body.Reset();
+	bool bNowCancelled = false;
+	{
+		FScopeLock Guard(&Lock);
+		bNowCancelled = bCancelled;
+	}
+	if (bNowCancelled && (Value.HasValue() || !Value.GetError().IsA<FVexelError_HttpCancelled>()))
+	{
+		Result.Complete(MakeCancelledError());
+		return;
+	}
+	Result.Complete(Value);
+}
+
+FVexelError FVexelHttpRequest::MakeCancelledError() const
+{
+	return VEXEL_ERROR_TITLED(FVexelError_HttpCancelled, "Request cancelled", "%s was cancelled", *Address);
 }
 
 TVexelTaskResult<TSharedRef<FVexelHttpResponse>> FVexelHttpRequest::Await() const
 {
-	return Transfer->GetResult();
+	return Result;
 }
 
 void FVexelHttpRequest::Cancel()
 {
-	Transfer->RequestCancel();
+	bool bBetweenTransfers = false;
+	{
+		FScopeLock Guard(&Lock);
+		bCancelled = true;
+		bBetweenTransfers = bRefreshing;
+		if (Transfer)
+		{
+			Transfer->RequestCancel();
+		}
+	}
+	if (bBetweenTransfers)
+	{
+		Result.Complete(MakeCancelledError());
+	}
 	WakeThread();
 }
 
 TSharedPtr<FVexelHttpResponse> FVexelHttpRequest::GetResponse() const
 {
-	return Transfer->GetResponse();
+	FScopeLock Guard(&Lock);
+	return Transfer && Result.IsComplete() ? Transfer->GetResponse() : nullptr;
 }
 
 FVexelHttpResponse::FVexelHttpResponse(int32 InStatus, TArray<uint8> InContent, TArray<TTuple<FString, FString>> InHeaders)
@@ -253,6 +385,17 @@ FVexelHttp::IAuthProvider::EAuthResult FVexelHttpManager::GetAuthState(FString& 
 	FManagerData& Manager = GetManager();
 	FReadScopeLock Guard(Manager.ProviderLock);
 	return Manager.Provider ? Manager.Provider->GetAuthState(OutToken) : FVexelHttp::IAuthProvider::EAuthResult::NotAuthenticated;
+}
+
+TVexelTaskResult<void> FVexelHttpManager::RefreshToken(const FString& RefusedToken)
+{
+	FManagerData& Manager = GetManager();
+	FReadScopeLock Guard(Manager.ProviderLock);
+	if (!Manager.Provider)
+	{
+		return VEXEL_ERROR_TITLED(FVexelError_HttpUnauthorized, "Not logged in", "Nobody provides tokens");
+	}
+	return Manager.Provider->RefreshToken(RefusedToken);
 }
 
 void FVexelHttpManager::Shutdown()

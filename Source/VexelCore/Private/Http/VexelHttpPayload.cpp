@@ -2,6 +2,7 @@
 
 #include "Containers/StringConv.h"
 #include "Dom/JsonObject.h"
+#include "HAL/FileManager.h"
 #include "Misc/Guid.h"
 #include "VexelJson.h"
 
@@ -73,23 +74,84 @@ FVexelHttpMultipartPayload::FVexelHttpMultipartPayload()
 
 void FVexelHttpMultipartPayload::AppendBinaryFile(const FString& FieldName, const FString& FileName, TConstArrayView<uint8> FileBytes)
 {
-	checkf(!bClosed, TEXT("A closed form takes no more parts"));
-	AppendUtf8(Bytes,
-		FString::Printf(TEXT("--%s\r\nContent-Disposition: form-data; name=\"%s\"; filename=\"%s\"\r\nContent-Type: application/octet-stream\r\n\r\n"),
-			*Boundary, *ToQuotedName(FieldName), *ToQuotedName(FileName)));
-	Bytes.Append(FileBytes.GetData(), FileBytes.Num());
-	AppendUtf8(Bytes, TEXT("\r\n"));
+	BeginPart(FieldName, FileName);
+	GetOpenBytes().Append(FileBytes.GetData(), FileBytes.Num());
+	AppendUtf8(GetOpenBytes(), TEXT("\r\n"));
+}
+
+bool FVexelHttpMultipartPayload::AppendFileFromDisk(const FString& FieldName, const FString& FileName, const FString& Path)
+{
+	const int64 NumFileBytes = IFileManager::Get().FileSize(*Path);
+	if (NumFileBytes < 0)
+	{
+		return false;
+	}
+	BeginPart(FieldName, FileName);
+	VexelInternal::Http::FBodyPiece& Piece = Pieces.AddDefaulted_GetRef();
+	Piece.Path = Path;
+	Piece.NumFileBytes = NumFileBytes;
+	AppendUtf8(GetOpenBytes(), TEXT("\r\n"));
+	return true;
 }
 
 void FVexelHttpMultipartPayload::CloseForm()
 {
 	checkf(!bClosed, TEXT("The form is closed already"));
-	AppendUtf8(Bytes, FString::Printf(TEXT("--%s--\r\n"), *Boundary));
+	AppendUtf8(GetOpenBytes(), FString::Printf(TEXT("--%s--\r\n"), *Boundary));
 	bClosed = true;
+}
+
+void FVexelHttpMultipartPayload::BeginPart(const FString& FieldName, const FString& FileName)
+{
+	checkf(!bClosed, TEXT("A closed form takes no more parts"));
+	const FString Disposition =
+		FString::Printf(TEXT("form-data; name=\"%s\"; filename=\"%s\""), *ToQuotedName(FieldName), *ToQuotedName(FileName));
+	AppendUtf8(GetOpenBytes(),
+		FString::Printf(
+			TEXT("--%s\r\nContent-Disposition: %s\r\nContent-Type: application/octet-stream\r\n\r\n"), *Boundary, *Disposition));
+}
+
+TArray<uint8>& FVexelHttpMultipartPayload::GetOpenBytes()
+{
+	if (Pieces.IsEmpty() || !Pieces.Last().Path.IsEmpty())
+	{
+		Pieces.AddDefaulted();
+	}
+	return Pieces.Last().Bytes;
 }
 
 namespace VexelInternal::Http
 {
+FString UrlEncode(const FString& Text)
+{
+	FString Encoded;
+	AppendUrlEncoded(Encoded, Text);
+	return Encoded;
+}
+
+void IRequest::SetContentBytes(const FString& ContentType, TArray<uint8> Bytes)
+{
+	TArray<FBodyPiece> Pieces;
+	Pieces.AddDefaulted_GetRef().Bytes = MoveTemp(Bytes);
+	SetContent(ContentType, MoveTemp(Pieces));
+}
+
+void FRequestBody::SetContent(const FString& InContentType, TArray<FBodyPiece> InPieces)
+{
+	ContentType = InContentType;
+	Pieces = MoveTemp(InPieces);
+}
+
+int64 FRequestBody::GetNum() const
+{
+	int64 Num = 0;
+	for (const FBodyPiece& Piece : Pieces)
+	{
+		Num += Piece.GetNum();
+	}
+	return Num;
+}
+
 bool TPayloadHelper<TSharedPtr<FJsonObject>>::SetRequestData(const TSharedPtr<FJsonObject>& Payload, IRequest& Request)
 {
 	FString Text;
@@ -99,7 +161,7 @@ bool TPayloadHelper<TSharedPtr<FJsonObject>>::SetRequestData(const TSharedPtr<FJ
 	}
 	TArray<uint8> Bytes;
 	AppendUtf8(Bytes, Text);
-	Request.SetContent(TEXT("application/json"), MoveTemp(Bytes));
+	Request.SetContentBytes(TEXT("application/json"), MoveTemp(Bytes));
 	return true;
 }
 
@@ -112,8 +174,16 @@ bool TPayloadHelper<FVexelHttpUrlParams>::SetRequestData(const FVexelHttpUrlPara
 {
 	TArray<uint8> Bytes;
 	AppendUtf8(Bytes, Payload.ToUrlEncodedString());
-	Request.SetContent(TEXT("application/x-www-form-urlencoded"), MoveTemp(Bytes));
+	Request.SetContentBytes(TEXT("application/x-www-form-urlencoded"), MoveTemp(Bytes));
 	return true;
+}
+
+bool TPayloadHelper<FVexelHttpTextPayload>::SetRequestData(const FVexelHttpTextPayload& Payload, IRequest& Request)
+{
+	TArray<uint8> Bytes;
+	AppendUtf8(Bytes, Payload.Text);
+	Request.SetContentBytes(Payload.ContentType, MoveTemp(Bytes));
+	return !Payload.ContentType.IsEmpty();
 }
 
 bool TPayloadHelper<FVexelHttpMultipartPayload>::SetRequestData(const FVexelHttpMultipartPayload& Payload, IRequest& Request)
@@ -122,7 +192,7 @@ bool TPayloadHelper<FVexelHttpMultipartPayload>::SetRequestData(const FVexelHttp
 	{
 		return false;
 	}
-	Request.SetContent(TEXT("multipart/form-data; boundary=") + Payload.GetBoundary(), Payload.GetBytes());
+	Request.SetContent(TEXT("multipart/form-data; boundary=") + Payload.GetBoundary(), Payload.GetPieces());
 	return true;
 }
 }

@@ -1,6 +1,7 @@
 #include "Http/VexelHttpTransfer.h"
 
 #include "Containers/StringConv.h"
+#include "HAL/PlatformTime.h"
 #include "Misc/ScopeLock.h"
 #include "VexelErrorKinds.h"
 #include "VexelTaskManager.h"
@@ -10,8 +11,6 @@
 
 namespace
 {
-/** Largest body that is taken in; a service that sends more is broken or hostile. */
-constexpr int32 MaxBodyBytes = 1 << 30;
 constexpr int32 MaxHeaderBytes = 256 * 1024;
 constexpr long MaxRedirects = 5;
 constexpr long ConnectTimeoutMilliseconds = 30'000;
@@ -89,11 +88,13 @@ bool FVexelHttpTransfer::Prepare()
 	HeaderList = curl_slist_append(HeaderList, "Expect:");
 	SetOptions();
 	SetBodyOptions();
+	LastArrivalTime = FPlatformTime::Seconds();
 	return true;
 }
 
 void FVexelHttpTransfer::SetOptions()
 {
+	const bool bProtected = Setup.Url.StartsWith(TEXT("https:"));
 	curl_easy_setopt(Handle, CURLOPT_URL, TCHAR_TO_UTF8(*Setup.Url));
 	curl_easy_setopt(Handle, CURLOPT_HTTPHEADER, HeaderList);
 	curl_easy_setopt(Handle, CURLOPT_PRIVATE, this);
@@ -102,13 +103,14 @@ void FVexelHttpTransfer::SetOptions()
 	curl_easy_setopt(Handle, CURLOPT_NOPROXY, GetHostsWithoutProxy().c_str());
 	curl_easy_setopt(Handle, CURLOPT_USERAGENT, "Vexel");
 	curl_easy_setopt(Handle, CURLOPT_PROTOCOLS_STR, "http,https");
-	curl_easy_setopt(Handle, CURLOPT_REDIR_PROTOCOLS_STR, "http,https");
-	curl_easy_setopt(Handle, CURLOPT_FOLLOWLOCATION, 1L);
+	// A redirect must not take what was meant for a protected connection to an open one, nor secrets to another place.
+	curl_easy_setopt(Handle, CURLOPT_REDIR_PROTOCOLS_STR, bProtected ? "https" : "http,https");
+	curl_easy_setopt(Handle, CURLOPT_FOLLOWLOCATION, Setup.bSecret ? 0L : 1L);
 	curl_easy_setopt(Handle, CURLOPT_MAXREDIRS, MaxRedirects);
 	curl_easy_setopt(Handle, CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_2TLS));
 	// Waiting for a connection that may be shared ends with the TLS handshake. Without TLS it would end with the first answer,
 	// and one slow answer would hold up every other request.
-	curl_easy_setopt(Handle, CURLOPT_PIPEWAIT, Setup.Url.StartsWith(TEXT("https:")) ? 1L : 0L);
+	curl_easy_setopt(Handle, CURLOPT_PIPEWAIT, bProtected ? 1L : 0L);
 	curl_easy_setopt(Handle, CURLOPT_ACCEPT_ENCODING, "");
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYPEER, 1L);
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYHOST, 2L);
@@ -130,30 +132,43 @@ void FVexelHttpTransfer::SetOptions()
 
 void FVexelHttpTransfer::SetBodyOptions()
 {
-	if (Setup.Verb == EVexelHttpVerb::Post)
+	if (Setup.Verb == EVexelHttpVerb::Get)
 	{
-		const ANSICHAR* const Bytes = Setup.Body.Bytes.IsEmpty() ? "" : reinterpret_cast<const ANSICHAR*>(Setup.Body.Bytes.GetData());
-		curl_easy_setopt(Handle, CURLOPT_POST, 1L);
-		curl_easy_setopt(Handle, CURLOPT_POSTFIELDS, Bytes);
-		curl_easy_setopt(Handle, CURLOPT_POSTFIELDSIZE_LARGE, curl_off_t(Setup.Body.Bytes.Num()));
-		// A 301 or 302 that turned a POST into a GET would lose the body; a 303 asks for just that.
-		curl_easy_setopt(Handle, CURLOPT_POSTREDIR, long(CURL_REDIR_POST_301 | CURL_REDIR_POST_302));
+		return;
 	}
-	else if (Setup.Verb == EVexelHttpVerb::Put)
+	const curl_off_t NumBytes = Setup.Body ? curl_off_t(Setup.Body->GetNum()) : 0;
+	if (NumBytes > 0)
 	{
-		curl_easy_setopt(Handle, CURLOPT_UPLOAD, 1L);
-		curl_easy_setopt(Handle, CURLOPT_INFILESIZE_LARGE, curl_off_t(Setup.Body.Bytes.Num()));
+		Upload = MakeUnique<FVexelHttpBodyReader>(*Setup.Body);
 		curl_easy_setopt(Handle, CURLOPT_READFUNCTION, &FVexelHttpTransfer::OnUpload);
 		curl_easy_setopt(Handle, CURLOPT_READDATA, this);
 		curl_easy_setopt(Handle, CURLOPT_SEEKFUNCTION, &FVexelHttpTransfer::OnSeek);
 		curl_easy_setopt(Handle, CURLOPT_SEEKDATA, this);
+	}
+	if (Setup.Verb == EVexelHttpVerb::Post)
+	{
+		curl_easy_setopt(Handle, CURLOPT_POST, 1L);
+		curl_easy_setopt(Handle, CURLOPT_POSTFIELDSIZE_LARGE, NumBytes);
+		if (NumBytes == 0)
+		{
+			curl_easy_setopt(Handle, CURLOPT_POSTFIELDS, "");
+		}
+		// A 301 or 302 that turned a POST into a GET would lose the body; a 303 asks for just that.
+		curl_easy_setopt(Handle, CURLOPT_POSTREDIR, long(CURL_REDIR_POST_301 | CURL_REDIR_POST_302));
+	}
+	else
+	{
+		curl_easy_setopt(Handle, CURLOPT_UPLOAD, 1L);
+		curl_easy_setopt(Handle, CURLOPT_INFILESIZE_LARGE, NumBytes);
 	}
 }
 
 void FVexelHttpTransfer::Release()
 {
 	Setup.Progress = nullptr;
-	Setup.Body.Bytes.Empty();
+	UnreadablePath = Upload ? Upload->GetFailedPath() : FString();
+	Upload.Reset();
+	Setup.Body.Reset();
 	curl_easy_cleanup(Handle);
 	Handle = nullptr;
 	curl_slist_free_all(HeaderList);
@@ -199,9 +214,9 @@ void FVexelHttpTransfer::Fail(FVexelError Error)
 	CompleteOnWorker(MoveTemp(Error));
 }
 
-FString FVexelHttpTransfer::Describe() const
+FString FVexelHttpTransfer::Describe(EVexelHttpVerb Verb, const FString& Url)
 {
-	FStringView Address = Setup.Url;
+	FStringView Address = Url;
 	int32 Index = INDEX_NONE;
 	for (const TCHAR EndOfPath : {TEXT('?'), TEXT('#')})
 	{
@@ -216,9 +231,9 @@ FString FVexelHttpTransfer::Describe() const
 	const FStringView Host = Rest.FindChar(TEXT('/'), Index) ? Rest.Left(Index) : Rest;
 	if (Host.FindLastChar(TEXT('@'), Index))
 	{
-		return FString(ToWord(Setup.Verb)) + TEXT(" ") + FString(Address.LeftChop(Rest.Len())) + FString(Rest.RightChop(Index + 1));
+		return FString(ToWord(Verb)) + TEXT(" ") + FString(Address.LeftChop(Rest.Len())) + FString(Rest.RightChop(Index + 1));
 	}
-	return FString(ToWord(Setup.Verb)) + TEXT(" ") + FString(Address);
+	return FString(ToWord(Verb)) + TEXT(" ") + FString(Address);
 }
 
 size_t FVexelHttpTransfer::OnBody(char* Bytes, size_t Size, size_t Count, void* Transfer)
@@ -236,23 +251,20 @@ size_t FVexelHttpTransfer::OnHeader(char* Bytes, size_t Size, size_t Count, void
 size_t FVexelHttpTransfer::OnUpload(char* Bytes, size_t Size, size_t Count, void* Transfer)
 {
 	FVexelHttpTransfer* const This = static_cast<FVexelHttpTransfer*>(Transfer);
-	const TArray<uint8>& Upload = This->Setup.Body.Bytes;
-	const int64 NumNow = FMath::Min(int64(Size * Count), int64(Upload.Num()) - This->NumUploaded);
-	FMemory::Memcpy(Bytes, Upload.GetData() + This->NumUploaded, SIZE_T(NumNow));
-	This->NumUploaded += NumNow;
-	return size_t(NumNow);
+	if (!This->Upload)
+	{
+		return 0;
+	}
+	const int64 NumRead = This->Upload->Read(reinterpret_cast<uint8*>(Bytes), int64(Size * Count));
+	return NumRead < 0 ? CURL_READFUNC_ABORT : size_t(NumRead);
 }
 
 /** A redirect and a connection that was closed under the request send the body again. */
 int FVexelHttpTransfer::OnSeek(void* Transfer, curl_off_t Offset, int Origin)
 {
 	FVexelHttpTransfer* const This = static_cast<FVexelHttpTransfer*>(Transfer);
-	if (Origin != SEEK_SET || Offset < 0 || Offset > This->Setup.Body.Bytes.Num())
-	{
-		return CURL_SEEKFUNC_CANTSEEK;
-	}
-	This->NumUploaded = Offset;
-	return CURL_SEEKFUNC_OK;
+	const bool bMoved = Origin == SEEK_SET && This->Upload && This->Upload->Seek(Offset);
+	return bMoved ? CURL_SEEKFUNC_OK : CURL_SEEKFUNC_CANTSEEK;
 }
 
 /** Answers how many bytes were taken; fewer than were given ends the transfer. */
@@ -262,7 +274,8 @@ size_t FVexelHttpTransfer::AppendBody(TConstArrayView<uint8> Bytes)
 	{
 		return 0;
 	}
-	if (Bytes.Num() > MaxBodyBytes - Body.Num())
+	LastArrivalTime = FPlatformTime::Seconds();
+	if (Bytes.Num() > Setup.MaxAnswerBytes - Body.Num())
 	{
 		bTooLarge = true;
 		return 0;
@@ -280,6 +293,7 @@ size_t FVexelHttpTransfer::AppendBody(TConstArrayView<uint8> Bytes)
 
 size_t FVexelHttpTransfer::AppendHeader(FStringView Line)
 {
+	LastArrivalTime = FPlatformTime::Seconds();
 	NumHeaderBytes += Line.Len();
 	if (NumHeaderBytes > MaxHeaderBytes)
 	{
@@ -359,7 +373,8 @@ FVexelError FVexelHttpTransfer::MakeCancelledError() const
 FVexelError FVexelHttpTransfer::MakeStatusError(int32 Status) const
 {
 	const TArray<uint8>& Content = Response->GetContent();
-	const FString Quote = ToText(TConstArrayView<uint8>(Content.GetData(), FMath::Min(Content.Num(), MaxQuotedBytes))).TrimStartAndEnd();
+	const int32 NumQuoted = Setup.bSecret ? 0 : FMath::Min(Content.Num(), MaxQuotedBytes);
+	const FString Quote = ToText(TConstArrayView<uint8>(Content.GetData(), NumQuoted)).TrimStartAndEnd();
 	const FString Message = FString::Printf(
 		TEXT("%s was answered with HTTP status %d%s%s"), *Describe(), Status, Quote.IsEmpty() ? TEXT("") : TEXT(": "), *Quote);
 	const FString Title = TEXT("Request failed");
@@ -380,10 +395,23 @@ FVexelError FVexelHttpTransfer::MakeTransportError(CURLcode Code) const
 	{
 		return MakeCancelledError();
 	}
+	return VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: %s", *Describe(), *GetTransportReason(Code));
+}
+
+FString FVexelHttpTransfer::GetTransportReason(CURLcode Code) const
+{
 	if (bTooLarge)
 	{
-		return VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the answer is too large", *Describe());
+		return TEXT("the answer is too large");
 	}
-	const FString Reason = FString(ErrorBuffer[0] ? ErrorBuffer : curl_easy_strerror(Code));
-	return VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: %s", *Describe(), *Reason);
+	if (!UnreadablePath.IsEmpty())
+	{
+		return FString::Printf(TEXT("the file '%s' cannot be read, or changed while it was sent"), *UnreadablePath);
+	}
+	const double SilentSeconds = FPlatformTime::Seconds() - LastArrivalTime;
+	if (Code == CURLE_OPERATION_TIMEDOUT && Setup.StallTimeoutSeconds > 0.0f && SilentSeconds >= double(Setup.StallTimeoutSeconds) - 1.0)
+	{
+		return FString::Printf(TEXT("nothing came for %d seconds"), FMath::CeilToInt(Setup.StallTimeoutSeconds));
+	}
+	return FString(ErrorBuffer[0] ? ErrorBuffer : curl_easy_strerror(Code));
 }

@@ -1,22 +1,26 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Http/VexelHttpBody.h"
 #include "VexelErrorContext.h"
 #include "VexelHttp.h"
 
 #include <atomic>
 #include <curl/curl.h>
 
-/** All that a request needs, taken over from the pending one. */
+/** All that one exchange needs. */
 struct FVexelHttpTransferSetup
 {
 	EVexelHttpVerb Verb = EVexelHttpVerb::Get;
 	FString Url;
 	TArray<TTuple<FString, FString>> Headers;
-	VexelInternal::Http::FRequestBody Body;
+	/** Null for none. */
+	TSharedPtr<const VexelInternal::Http::FRequestBody> Body;
 	TFunction<void(TConstArrayView<uint8>)> Progress;
 	float TimeoutSeconds = 0.0f;
 	float StallTimeoutSeconds = 0.0f;
+	int32 MaxAnswerBytes = 0;
+	bool bSecret = false;
 };
 
 /**
@@ -51,7 +55,8 @@ public:
 	void Complete(TVexelExpected<TSharedRef<FVexelHttpResponse>>&& Value);
 
 	/** "POST http://host/path", without query and fragment, for messages. */
-	FString Describe() const;
+	static FString Describe(EVexelHttpVerb Verb, const FString& Url);
+	FString Describe() const { return Describe(Setup.Verb, Setup.Url); }
 
 private:
 	void SetOptions();
@@ -70,6 +75,7 @@ private:
 	FVexelError MakeCancelledError() const;
 	FVexelError MakeStatusError(int32 Status) const;
 	FVexelError MakeTransportError(CURLcode Code) const;
+	FString GetTransportReason(CURLcode Code) const;
 
 	FVexelHttpTransferSetup Setup;
 	FVexelErrorContext Context;
@@ -82,7 +88,10 @@ private:
 	CURL* Handle = nullptr;
 	curl_slist* HeaderList = nullptr;
 	char ErrorBuffer[CURL_ERROR_SIZE] = {};
-	int64 NumUploaded = 0;
+	TUniquePtr<FVexelHttpBodyReader> Upload;
+	FString UnreadablePath;
+	/** When the exchange began or something last arrived. */
+	double LastArrivalTime = 0.0;
 	TArray<uint8> Body;
 	TArray<TTuple<FString, FString>> ResponseHeaders;
 	int32 NumHeaderBytes = 0;

@@ -158,8 +158,8 @@ TVexelExpected<FSecretVault> FSecretVault::Open(const std::string& Directory)
 	FSecretBytes Plain;
 	if (!Decrypt(Key, Stored, Plain) || !Vault.ReadEntries(Plain.View()))
 	{
-		return VEXEL_ERROR(
-			FVexelError_SecureStorage, "'%s' was changed by somebody else, or its key was; delete it to start anew", UTF8_TO_TCHAR(StorePath.c_str()));
+		return VEXEL_ERROR(FVexelError_SecureStorage, "'%s' was changed by somebody else, or its key was; delete it to start anew",
+			UTF8_TO_TCHAR(StorePath.c_str()));
 	}
 	return Vault;
 }

@@ -211,7 +211,8 @@ TVexelExpected<FEdGraphPinType> ParseBase(const FString& Text)
 	}
 
 	// A name that no FName can hold names nothing.
-	const FObjectCategory* const Category = CategoryText.Len() < NAME_SIZE && ObjectName.Len() < NAME_SIZE - 2 ? FindObjectCategory(FName(*CategoryText)) : nullptr;
+	const FObjectCategory* const Category =
+		CategoryText.Len() < NAME_SIZE && ObjectName.Len() < NAME_SIZE - 2 ? FindObjectCategory(FName(*CategoryText)) : nullptr;
 	UObject* Object = nullptr;
 	if (Category && !ObjectName.IsEmpty())
 	{
@@ -318,7 +319,8 @@ TVexelExpected<FEdGraphPinType> FVexelBlueprintPropTypeBuilder::ParseId(const TV
 	return Type;
 }
 
-TSharedRef<FVexelBlueprintPropType> FVexelBlueprintPropTypeBuilder::MakePropType(const FEdGraphPinType& PinType, const FAssetData* SubCategoryAsset)
+TSharedRef<FVexelBlueprintPropType> FVexelBlueprintPropTypeBuilder::MakePropType(
+	const FEdGraphPinType& PinType, const FAssetData* SubCategoryAsset)
 {
 	const TSharedRef<FVexelBlueprintPropType> PropType = MakeShared<FVexelBlueprintPropType>(FVexelBlueprintPropType::FPrivateToken());
 	const UObject* const Type = PinType.PinSubCategoryObject.Get();

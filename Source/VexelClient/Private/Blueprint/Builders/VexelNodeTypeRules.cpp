@@ -48,7 +48,8 @@ FString MakeCallId(const UK2Node_CallFunction& Node)
 	const FString FunctionName = Node.FunctionReference.GetMemberName().ToString();
 	if (FunctionName == AxisKeyFunction)
 	{
-		VEXEL_LOG(Warning, "MakeNodeTypeReference: UK2Node_CallFunction '%s' is a GetInputAxisKeyValue call, which should be handled by UK2Node_GetInputAxisValue!",
+		VEXEL_LOG(Warning,
+			"MakeNodeTypeReference: UK2Node_CallFunction '%s' is a GetInputAxisKeyValue call, which should be handled by UK2Node_GetInputAxisValue!",
 			*Node.GetName());
 		return FString();
 	}
@@ -57,7 +58,8 @@ FString MakeCallId(const UK2Node_CallFunction& Node)
 
 FString MakeMessageId(const UK2Node_Message& Node)
 {
-	return FString::Printf(TEXT("call.interface.%s%s"), *MakeOwnerPrefix(GetFunctionOwner(Node)), *Node.FunctionReference.GetMemberName().ToString());
+	return FString::Printf(
+		TEXT("call.interface.%s%s"), *MakeOwnerPrefix(GetFunctionOwner(Node)), *Node.FunctionReference.GetMemberName().ToString());
 }
 
 FString MakeOperatorId(const UEdGraphNode& Node)
@@ -330,7 +332,8 @@ constexpr FObjectRule ObjectRules[] = {
 	{TEXT("K2Node_AddComponent"), TEXT("call.add_component."), TEXT("TemplateType"), TEXT("UK2Node_AddComponent"), TEXT("template type")},
 	{TEXT("K2Node_BreakStruct"), TEXT("struct.break."), TEXT("StructType"), TEXT("UK2Node_BreakStruct"), TEXT("struct type")},
 	{TEXT("K2Node_MakeStruct"), TEXT("struct.make."), TEXT("StructType"), TEXT("UK2Node_MakeStruct"), TEXT("struct type")},
-	{TEXT("K2Node_SetFieldsInStruct"), TEXT("struct.set_members."), TEXT("StructType"), TEXT("UK2Node_SetFieldsInStruct"), TEXT("struct type")},
+	{TEXT("K2Node_SetFieldsInStruct"), TEXT("struct.set_members."), TEXT("StructType"), TEXT("UK2Node_SetFieldsInStruct"),
+		TEXT("struct type")},
 	{TEXT("K2Node_DynamicCast"), TEXT("cast."), TEXT("TargetType"), TEXT("UK2Node_DynamicCast"), TEXT("target type")},
 	{TEXT("K2Node_ClassDynamicCast"), TEXT("cast.class."), TEXT("TargetType"), TEXT("UK2Node_ClassDynamicCast"), TEXT("target type")},
 	{TEXT("K2Node_CastByteToEnum"), TEXT("cast.byte_to_enum."), TEXT("Enum"), TEXT("UK2Node_CastByteToEnum"), TEXT("enum type")},

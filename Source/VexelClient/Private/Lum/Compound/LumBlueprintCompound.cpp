@@ -34,12 +34,7 @@ FLumBlueprintCompound::FLumBlueprintCompound(UBlueprint& Blueprint)
 
 TVexelExpected<UBlueprint*> FLumBlueprintCompound::GetBlueprint() const
 {
-	UBlueprint* const Blueprint = WeakBlueprint.Get();
-	if (!Blueprint)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Blueprint object is not valid");
-	}
-	return Blueprint;
+	return FLumHelper::GetValid(WeakBlueprint, TEXT("Blueprint object is not valid"));
 }
 
 TVexelExpected<TVexelPropTypeId> FLumBlueprintCompound::GetCompoundType() const
@@ -64,8 +59,8 @@ TVexelExpected<void> FLumBlueprintCompound::Iterate(ILumPropertyCollector& Colle
 	}
 	for (const FName& Name : Names)
 	{
-		VEXEL_TRY_VOID(Collector.Variable(MakeShared<FLumBlueprintMemberVariable>(*Blueprint, Name)), "while processing member variable '%s' in blueprint '%s'",
-			*Name.ToString(), *BlueprintName);
+		VEXEL_TRY_VOID(Collector.Variable(MakeShared<FLumBlueprintMemberVariable>(*Blueprint, Name)),
+			"while processing member variable '%s' in blueprint '%s'", *Name.ToString(), *BlueprintName);
 	}
 	const UClass* const Class = Blueprint->GeneratedClass;
 	UObject* const DefaultObject = Class ? Class->GetDefaultObject(false) : nullptr;
@@ -95,7 +90,8 @@ TVexelExpected<TSharedRef<FJsonObject>> FLumBlueprintCompound::JsonExportObject(
 	{
 		if (Graph)
 		{
-			VEXEL_TRY(const TSharedRef<FJsonObject> GraphObject, FLumGraphCompound(*Graph).JsonExportObject(Context), "while processing graph '%s'", *Graph->GetName());
+			VEXEL_TRY(const TSharedRef<FJsonObject> GraphObject, FLumGraphCompound(*Graph).JsonExportObject(Context),
+				"while processing graph '%s'", *Graph->GetName());
 			GraphValues.Add(MakeShared<FJsonValueObject>(GraphObject));
 		}
 	}

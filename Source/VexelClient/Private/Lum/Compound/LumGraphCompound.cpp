@@ -94,11 +94,7 @@ FLumGraphCompound::FLumGraphCompound(UEdGraph& Graph)
 
 TVexelExpected<UEdGraph*> FLumGraphCompound::GetGraph() const
 {
-	UEdGraph* const Graph = WeakGraph.Get();
-	if (!Graph)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Graph object is not valid");
-	}
+	VEXEL_TRY(UEdGraph* const Graph, FLumHelper::GetValid(WeakGraph, TEXT("Graph object is not valid")));
 	if (!Graph->GetSchema())
 	{
 		return VEXEL_ERROR(FLumError_Read, "Graph object has no schema");
@@ -126,7 +122,8 @@ TVexelExpected<void> FLumGraphCompound::Iterate(ILumPropertyCollector& Collector
 		return {};
 	}
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType());
-	VEXEL_TRY_VOID(Collector.Property(MakeShared<FLumNameProperty>(Type, Graph->GetFName())), "while registering editable graph name property");
+	VEXEL_TRY_VOID(
+		Collector.Property(MakeShared<FLumNameProperty>(Type, Graph->GetFName())), "while registering editable graph name property");
 
 	const FGraphEnds Ends(*Graph);
 	for (const UEdGraphPin* const Pin : GetParameterPins(Ends.Entry, EGPD_Output, GraphType))

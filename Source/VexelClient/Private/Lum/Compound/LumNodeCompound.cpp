@@ -44,12 +44,7 @@ FLumNodeCompound::FLumNodeCompound(UEdGraphNode& Node)
 
 TVexelExpected<UEdGraphNode*> FLumNodeCompound::GetNode() const
 {
-	UEdGraphNode* const Node = WeakNode.Get();
-	if (!Node)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Node object is not valid");
-	}
-	return Node;
+	return FLumHelper::GetValid(WeakNode, TEXT("Node object is not valid"));
 }
 
 TVexelExpected<TVexelPropTypeId> FLumNodeCompound::GetCompoundType() const
@@ -74,7 +69,8 @@ TVexelExpected<void> FLumNodeCompound::IterateName(ILumPropertyCollector& Collec
 		return {};
 	}
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType());
-	VEXEL_TRY_VOID(Collector.Property(MakeShared<FLumNameProperty>(Type, Event->CustomFunctionName)), "while registering editable node name property");
+	VEXEL_TRY_VOID(
+		Collector.Property(MakeShared<FLumNameProperty>(Type, Event->CustomFunctionName)), "while registering editable node name property");
 	return {};
 }
 
@@ -85,7 +81,8 @@ TVexelExpected<void> FLumNodeCompound::IteratePins(ILumPropertyCollector& Collec
 	{
 		if (Pin && !(bSkipHidden && IsHidden(*Pin)))
 		{
-			VEXEL_TRY_VOID(Collector.Property(MakePin(*Node, *Pin)), "while iterating pin '%s' on node '%s'", *Pin->PinName.ToString(), *Node->GetName());
+			VEXEL_TRY_VOID(Collector.Property(MakePin(*Node, *Pin)), "while iterating pin '%s' on node '%s'", *Pin->PinName.ToString(),
+				*Node->GetName());
 		}
 	}
 	return {};
@@ -140,8 +137,8 @@ TVexelExpected<void> FLumEditablePinsNodeCompound::IterateEditablePins(ILumPrope
 	{
 		if (Pin && Editable->UserDefinedPinExists(Pin->PinName))
 		{
-			VEXEL_TRY_VOID(Collector.Variable(MakeShared<FLumEditablePinVariable>(*Pin)), "while iterating pin '%s' on node '%s'", *Pin->PinName.ToString(),
-				*Node->GetName());
+			VEXEL_TRY_VOID(Collector.Variable(MakeShared<FLumEditablePinVariable>(*Pin)), "while iterating pin '%s' on node '%s'",
+				*Pin->PinName.ToString(), *Node->GetName());
 		}
 	}
 	return {};

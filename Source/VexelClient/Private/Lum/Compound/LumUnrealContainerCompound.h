@@ -6,11 +6,14 @@ class FArrayProperty;
 class FMapProperty;
 class FSetProperty;
 
-/** The elements of an array. The array must outlive it. */
-class FLumUnrealArrayCompound : public ILumCollectionCompound
+/**
+ * The elements of an array or a set, or the entries of a map, in the container's iteration order. The container must outlive it.
+ */
+template <typename ContainerPropertyType>
+class TLumUnrealContainerCompound final : public ILumCollectionCompound
 {
 public:
-	FLumUnrealArrayCompound(const FArrayProperty& InProperty, void* InData)
+	TLumUnrealContainerCompound(const ContainerPropertyType& InProperty, void* InData)
 		: Property(InProperty)
 		, Data(InData)
 	{
@@ -23,48 +26,10 @@ protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
 
 private:
-	const FArrayProperty& Property;
+	const ContainerPropertyType& Property;
 	void* Data;
 };
 
-/** The elements of a set, in its iteration order. The set must outlive it. */
-class FLumUnrealSetCompound : public ILumCollectionCompound
-{
-public:
-	FLumUnrealSetCompound(const FSetProperty& InProperty, void* InData)
-		: Property(InProperty)
-		, Data(InData)
-	{
-	}
-
-	virtual TVexelExpected<TVexelPropTypeId> GetCompoundType() const override;
-	virtual TVexelExpected<int32> GetNum() const override;
-
-protected:
-	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
-
-private:
-	const FSetProperty& Property;
-	void* Data;
-};
-
-/** The entries of a map, in its iteration order. The map must outlive it. */
-class FLumUnrealMapCompound : public ILumCollectionCompound
-{
-public:
-	FLumUnrealMapCompound(const FMapProperty& InProperty, void* InData)
-		: Property(InProperty)
-		, Data(InData)
-	{
-	}
-
-	virtual TVexelExpected<TVexelPropTypeId> GetCompoundType() const override;
-	virtual TVexelExpected<int32> GetNum() const override;
-
-protected:
-	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
-
-private:
-	const FMapProperty& Property;
-	void* Data;
-};
+using FLumUnrealArrayCompound = TLumUnrealContainerCompound<FArrayProperty>;
+using FLumUnrealSetCompound = TLumUnrealContainerCompound<FSetProperty>;
+using FLumUnrealMapCompound = TLumUnrealContainerCompound<FMapProperty>;

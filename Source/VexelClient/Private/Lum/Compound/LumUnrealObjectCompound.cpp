@@ -3,6 +3,7 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumContext.h"
 #include "Lum/LumErrors.h"
+#include "Lum/LumHelper.h"
 #include "Lum/LumPropertyCollector.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 
@@ -28,12 +29,7 @@ FLumUnrealObjectCompound::FLumUnrealObjectCompound(UObject& Object)
 
 TVexelExpected<UObject*> FLumUnrealObjectCompound::GetObject() const
 {
-	UObject* const Object = WeakObject.Get();
-	if (!Object)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Invalid object");
-	}
-	return Object;
+	return FLumHelper::GetValid(WeakObject, TEXT("Invalid object"));
 }
 
 TVexelExpected<TVexelPropTypeId> FLumUnrealObjectCompound::GetCompoundType() const

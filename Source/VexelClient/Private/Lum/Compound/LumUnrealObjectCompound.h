@@ -6,7 +6,10 @@
 class FProperty;
 class UObject;
 
-/** The properties of an object that a user can edit or a Blueprint can see. An export shows those that differ from the object's archetype. */
+/**
+ * The properties of an object that a user can edit or a Blueprint can see. An export shows those that differ from the object's
+ * archetype.
+ */
 class FLumUnrealObjectCompound : public ILumCompound
 {
 public:
@@ -21,7 +24,8 @@ protected:
 
 private:
 	TVexelExpected<UObject*> GetObject() const;
-	TVexelExpected<void> IterateWhere(ILumPropertyCollector& Collector, TFunctionRef<bool(const FProperty& Property, const UObject& Object)> Condition) const;
+	TVexelExpected<void> IterateWhere(
+		ILumPropertyCollector& Collector, TFunctionRef<bool(const FProperty& Property, const UObject& Object)> Condition) const;
 
 	TWeakObjectPtr<UObject> WeakObject;
 };

@@ -16,7 +16,10 @@ public:
 	virtual TVexelExpected<TVexelPropTypeId> GetValueTypeId() const override { return Inner->GetValueTypeId(); }
 	virtual TVexelExpected<EPropertyFlags> GetFlags() const override { return Inner->GetFlags(); }
 	virtual TVexelExpected<FString> GetCategory() const override { return Inner->GetCategory(); }
-	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override { return Inner->JsonExportValue(Context); }
+	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override
+	{
+		return Inner->JsonExportValue(Context);
+	}
 	virtual const ILumCompoundProperty* AsCompoundProperty() const override { return Inner->AsCompoundProperty(); }
 
 protected:

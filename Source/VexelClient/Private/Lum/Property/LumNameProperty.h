@@ -18,7 +18,10 @@ public:
 	virtual TVexelExpected<TVexelPropTypeId> GetValueTypeId() const override { return TVexelPropTypeId(TEXT("string")); }
 	virtual TVexelExpected<EPropertyFlags> GetFlags() const override { return CPF_Edit; }
 	virtual TVexelExpected<FString> GetCategory() const override { return FString(); }
-	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext&) const override { return MakeShared<FJsonValueString>(Name.ToString()); }
+	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext&) const override
+	{
+		return MakeShared<FJsonValueString>(Name.ToString());
+	}
 
 private:
 	TVexelPropTypeId OwnerTypeId;

@@ -83,7 +83,8 @@ bool FLumUnrealBaseProperty::ExportText(FString& OutText) const
 
 TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FProperty& Property, void* Data)
 {
-	if (Property.ArrayDim != 1 || FLumHelper::GetPropertyTypeId(Property).HasError() || Property.IsA<FDelegateProperty>() || Property.IsA<FMulticastDelegateProperty>())
+	if (Property.ArrayDim != 1 || FLumHelper::GetPropertyTypeId(Property).HasError() || Property.IsA<FDelegateProperty>() ||
+		Property.IsA<FMulticastDelegateProperty>())
 	{
 		return nullptr;
 	}

@@ -1,14 +1,11 @@
 #pragma once
 
+#include "Lum/Compound/LumUnrealContainerCompound.h"
 #include "Lum/LumCompound.h"
 #include "Lum/LumErrors.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 
 #include "UObject/UnrealType.h"
-
-class FLumUnrealArrayCompound;
-class FLumUnrealMapCompound;
-class FLumUnrealSetCompound;
 
 /** A property that is a container, whose contents are a compound of their own. */
 template <typename PropertyType, typename CompoundType>

@@ -14,7 +14,10 @@ private:
 	TVexelExpected<FString> MakeReference() const;
 };
 
-/** An object that belongs to the one that refers to it. Its JSON is the object with its properties; a reference string where it is too deep, or none. */
+/**
+ * An object that belongs to the one that refers to it. Its JSON is the object with its properties; a reference string where it is
+ * too deep, or none.
+ */
 class FLumUnrealObjectInstanceProperty : public TLumUnrealProperty<ILumCompoundProperty>
 {
 public:

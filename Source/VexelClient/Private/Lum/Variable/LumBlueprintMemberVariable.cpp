@@ -15,14 +15,7 @@ TVexelExpected<TVexelVarScopeId> FLumBlueprintMemberVariable::GetVarScopeId() co
 TVexelExpected<const FBPVariableDescription*> FLumBlueprintMemberVariable::GetBpVariableDescription() const
 {
 	VEXEL_TRY(const UBlueprint* const Blueprint, GetBlueprint());
-	const FBPVariableDescription* const Description =
-		Blueprint->NewVariables.FindByPredicate([this](const FBPVariableDescription& Variable)
-			{ return Variable.VarName == Name; });
-	if (!Description)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Variable '%s' not found", *Name.ToString());
-	}
-	return Description;
+	return FindDescription(Blueprint->NewVariables);
 }
 
 TVexelExpected<TSharedPtr<ILumProperty>> FLumBlueprintMemberVariable::CreateLumValueWrapper() const

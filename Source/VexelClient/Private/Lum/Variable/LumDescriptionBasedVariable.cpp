@@ -2,6 +2,7 @@
 
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumErrors.h"
+#include "Lum/LumHelper.h"
 
 #include "Engine/Blueprint.h"
 
@@ -13,12 +14,19 @@ FLumDescriptionBasedVariable::FLumDescriptionBasedVariable(UBlueprint& Blueprint
 
 TVexelExpected<UBlueprint*> FLumDescriptionBasedVariable::GetBlueprint() const
 {
-	UBlueprint* const Blueprint = WeakBlueprint.Get();
-	if (!Blueprint)
+	return FLumHelper::GetValid(WeakBlueprint, TEXT("Blueprint object is not valid"));
+}
+
+TVexelExpected<const FBPVariableDescription*> FLumDescriptionBasedVariable::FindDescription(
+	const TArray<FBPVariableDescription>& Descriptions) const
+{
+	const FBPVariableDescription* const Description = Descriptions.FindByPredicate([this](const FBPVariableDescription& Variable)
+		{ return Variable.VarName == Name; });
+	if (!Description)
 	{
-		return VEXEL_ERROR(FLumError_Read, "Blueprint object is not valid");
+		return VEXEL_ERROR(FLumError_Read, "Variable '%s' not found", *Name.ToString());
 	}
-	return Blueprint;
+	return Description;
 }
 
 TVexelExpected<TVexelPropId> FLumDescriptionBasedVariable::GetPropId() const

@@ -26,6 +26,8 @@ protected:
 	/** Valid until the Blueprint changes. */
 	virtual TVexelExpected<const FBPVariableDescription*> GetBpVariableDescription() const = 0;
 	TVexelExpected<UBlueprint*> GetBlueprint() const;
+	/** The description of this variable's name among those; an error when it is not there. */
+	TVexelExpected<const FBPVariableDescription*> FindDescription(const TArray<FBPVariableDescription>& Descriptions) const;
 
 	const FName Name;
 

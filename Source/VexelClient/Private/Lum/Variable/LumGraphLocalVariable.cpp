@@ -22,19 +22,8 @@ TVexelExpected<TVexelVarScopeId> FLumGraphLocalVariable::GetVarScopeId() const
 
 TVexelExpected<const FBPVariableDescription*> FLumGraphLocalVariable::GetBpVariableDescription() const
 {
-	const UK2Node_FunctionEntry* const Entry = WeakEntry.Get();
-	if (!Entry)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Graph does not have a valid function scope");
-	}
-	const FBPVariableDescription* const Description =
-		Entry->LocalVariables.FindByPredicate([this](const FBPVariableDescription& Variable)
-			{ return Variable.VarName == Name; });
-	if (!Description)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Variable '%s' not found", *Name.ToString());
-	}
-	return Description;
+	VEXEL_TRY(const UK2Node_FunctionEntry* const Entry, FLumHelper::GetValid(WeakEntry, TEXT("Graph does not have a valid function scope")));
+	return FindDescription(Entry->LocalVariables);
 }
 
 TVexelExpected<TSharedPtr<ILumProperty>> FLumGraphLocalVariable::CreateLumValueWrapper() const

@@ -18,7 +18,8 @@ const TCHAR* const EditablePinKey = TEXT("is_editable_pin");
 bool CanHaveDefault(const UEdGraphPin& Pin)
 {
 	const FName Category = Pin.PinType.PinCategory;
-	return Category != UEdGraphSchema_K2::PC_Exec && Category != UEdGraphSchema_K2::PC_Delegate && Category != UEdGraphSchema_K2::PC_MCDelegate;
+	return Category != UEdGraphSchema_K2::PC_Exec && Category != UEdGraphSchema_K2::PC_Delegate &&
+		Category != UEdGraphSchema_K2::PC_MCDelegate;
 }
 
 TVexelExpected<FString> GetDefaultText(const UEdGraphPin& Pin)

@@ -21,10 +21,12 @@ TVexelExpected<TSharedRef<FJsonObject>> ReadBlueprint(const TSharedRef<FVexelBlu
 }
 }
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintLoad::Call(const FVexelToolContext& Context, const FVexelToolInput& Input) const
+TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintLoad::Call(
+	const FVexelToolContext& Context, const FVexelToolInput& Input) const
 {
 	// Outside a conversation nothing remembers node names, so a mapping for this call alone serves.
-	const TSharedRef<FVexelBlueprintMapping> Mapping = Context.Conversation ? Context.Conversation->GetMapping() : MakeShared<FVexelBlueprintMapping>();
+	const TSharedRef<FVexelBlueprintMapping> Mapping =
+		Context.Conversation ? Context.Conversation->GetMapping() : MakeShared<FVexelBlueprintMapping>();
 	TVexelExpected<TSharedRef<FJsonObject>> Export = ReadBlueprint(Mapping, Input);
 	if (Export.HasError() && !Export.GetError().IsA<FVexelError_ToolInvalidInput>())
 	{

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "Storage/SecretStore.h"
+
+#include <string>
+
+/** An encrypted file with its key beside it, both readable by the user alone. Any number of processes. */
+class FFileSecretStore final : public ISecretStore
+{
+public:
+	/** The directory is made when something is first stored. */
+	explicit FFileSecretStore(const FString& Directory);
+
+	virtual TVexelExpected<void> Store(const FString& Key, const FString& Value) override;
+	virtual TVexelExpected<TOptional<FString>> Load(const FString& Key) override;
+	virtual TVexelExpected<void> Delete(const FString& Key) override;
+
+private:
+	std::string GetLockPath() const { return Directory + "/secrets.lock"; }
+
+	std::string Directory;
+};

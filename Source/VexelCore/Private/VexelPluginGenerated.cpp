@@ -1,0 +1,6 @@
+#include "VexelPluginGenerated.h"
+
+FString FVexelPluginGenerated::GetVersionString()
+{
+	return TEXT(VEXEL_VERSION);
+}

@@ -1,0 +1,259 @@
+#include "HAL/Event.h"
+#include "HttpFixture.h"
+#include "VexelHttpServer.h"
+
+#include <arpa/inet.h>
+#include <atomic>
+#include <ifaddrs.h>
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+
+namespace
+{
+/** A raw connection to a port of an address; it fails a read after three seconds. */
+class FRawClient
+{
+public:
+	explicit FRawClient(int32 Port, in_addr_t Address = htonl(INADDR_LOOPBACK))
+		: Socket(socket(AF_INET, SOCK_STREAM, 0))
+	{
+		sockaddr_in To = {};
+		To.sin_family = AF_INET;
+		To.sin_addr.s_addr = Address;
+		To.sin_port = htons(uint16(Port));
+		const timeval Longest{3, 0};
+		setsockopt(Socket, SOL_SOCKET, SO_RCVTIMEO, &Longest, sizeof(Longest));
+		bConnected = connect(Socket, reinterpret_cast<sockaddr*>(&To), sizeof(To)) == 0;
+	}
+	~FRawClient() { close(Socket); }
+
+	/** Sends bytes and answers all that comes until the other side closes. */
+	std::string Ask(const std::string& Bytes) const
+	{
+		std::string Answer;
+		char Buffer[4096];
+		size_t NumSent = 0;
+		while (NumSent < Bytes.size())
+		{
+			const ssize_t Num = send(Socket, Bytes.data() + NumSent, Bytes.size() - NumSent, MSG_NOSIGNAL);
+			if (Num <= 0)
+			{
+				break;
+			}
+			NumSent += size_t(Num);
+		}
+		for (ssize_t Num = 0; (Num = recv(Socket, Buffer, sizeof(Buffer), 0)) > 0;)
+		{
+			Answer.append(Buffer, size_t(Num));
+		}
+		return Answer;
+	}
+
+	const int Socket;
+	bool bConnected = false;
+};
+
+class FHttpServerTest : public FTaskTest
+{
+protected:
+	virtual ~FHttpServerTest() override { FVexelHttpManager::Shutdown(); }
+
+	/** Runs the server with a handler of "/a" and answers a client of it. */
+	TSharedRef<FVexelHttp> Run(FVexelHttpServer::FHandler Handler)
+	{
+		EXPECT_TRUE(Server.AddRoute(EVexelHttpVerb::Get, TEXT("/a"), MoveTemp(Handler)).HasValue());
+		EXPECT_TRUE(Server.Start().HasValue());
+		return MakeShared<FVexelHttp>(FVexelHttpClientConfig(FString::Printf(TEXT("http://localhost:%d"), Server.GetPort())));
+	}
+
+	static std::string MakeGet(const std::string& Target, const std::string& Host = "localhost")
+	{
+		return "GET " + Target + " HTTP/1.1\r\nHost: " + Host + "\r\n\r\n";
+	}
+
+	FVexelHttpServer Server{0};
+};
+}
+
+TEST_F(FHttpServerTest, HandlersGetTheQueryAndTheirAnswerGoesOut)
+{
+	const TSharedRef<FVexelHttp> Client = Run(
+		[](const FVexelHttpServerRequest& Request)
+		{
+			FVexelHttpServerResponse Response(
+				201, Request.FindParam(TEXT("code")).Get(TEXT("none")) + TEXT("|") + Request.FindParam(TEXT("Code")).Get(TEXT("none")));
+			Response.Headers.Emplace(TEXT("X-Path"), Request.Path);
+			return Response;
+		});
+	FVexelHttpUrlParams Params;
+	Params.Add(TEXT("code"), TEXT("T\u00FCr & 1+1=2")).Add(TEXT("code"), TEXT("second"));
+	const FResponse Response = Await(Client->Request(EVexelHttpVerb::Get, TEXT("/a")).WithURLParams(Params).SendAndAwait());
+	ASSERT_TRUE(Response.HasValue()) << ToUtf8(Response.GetError().ToString());
+	EXPECT_EQ(Response.GetValue()->GetStatus(), 201);
+	EXPECT_EQ(ToUtf8(Response.GetValue()->GetContentString()), "Tür & 1+1=2|none");
+	EXPECT_EQ(ToUtf8(Response.GetValue()->GetHeader(TEXT("X-Path"))), "/a");
+}
+
+TEST_F(FHttpServerTest, BodiesArriveAndRedirectsAreSent)
+{
+	EXPECT_TRUE(Server.AddRoute(EVexelHttpVerb::Post, TEXT("/body"), [](const FVexelHttpServerRequest& Request)
+						  { return FVexelHttpServerResponse(200, FString::Printf(TEXT("%d bytes"), Request.Body.Num())); })
+					.HasValue());
+	const TSharedRef<FVexelHttp> Client = Run([](const FVexelHttpServerRequest&)
+		{
+			FVexelHttpServerResponse Response(302, FString());
+			Response.Headers.Emplace(TEXT("Location"), TEXT("https://host/auth/local?auth_request_id=1"));
+			return Response; });
+	FVexelHttpUrlParams Form;
+	Form.Add(TEXT("a"), TEXT("b"));
+	EXPECT_EQ(
+		ToUtf8(Await(Client->Request(EVexelHttpVerb::Post, TEXT("/body")).WithPayload(Form).SendAndAwait()).GetValue()->GetContentString()),
+		"3 bytes");
+	const std::string Answer = FRawClient(Server.GetPort()).Ask(MakeGet("/a"));
+	EXPECT_THAT(Answer, testing::StartsWith("HTTP/1.1 302"));
+	EXPECT_THAT(Answer, HasSubstr("Location: https://host/auth/local?auth_request_id=1\r\n"));
+}
+
+TEST_F(FHttpServerTest, OnlyRoutesAreAnsweredAndOnlyForThisMachinesName)
+{
+	std::atomic<int32> NumCalls = 0;
+	Run([&](const FVexelHttpServerRequest&)
+		{ ++NumCalls; return FVexelHttpServerResponse(200, TEXT("OK")); });
+	const auto Ask = [&](const std::string& Bytes)
+	{ return FRawClient(Server.GetPort()).Ask(Bytes).substr(0, 12); };
+	EXPECT_EQ(Ask(MakeGet("/a")), "HTTP/1.1 200");
+	EXPECT_EQ(Ask(MakeGet("/a?x", "127.0.0.1:" + std::to_string(Server.GetPort()))), "HTTP/1.1 200");
+	EXPECT_EQ(Ask(MakeGet("/a", "[::1]:4000")), "HTTP/1.1 200");
+	EXPECT_EQ(NumCalls, 3);
+	EXPECT_EQ(Ask(MakeGet("/")), "HTTP/1.1 404");
+	EXPECT_EQ(Ask(MakeGet("/ab")), "HTTP/1.1 404");
+	EXPECT_EQ(Ask(MakeGet("/A")), "HTTP/1.1 404");
+	EXPECT_EQ(Ask("POST /a HTTP/1.1\r\nHost: localhost\r\nContent-Length: 0\r\n\r\n"), "HTTP/1.1 405");
+	for (const std::string Host : {"evil.example", "localhost.evil.example", "127.0.0.1.evil.example:80", "", "evil.example:localhost"})
+	{
+		EXPECT_EQ(Ask(MakeGet("/a", Host)), "HTTP/1.1 400") << Host;
+	}
+	EXPECT_EQ(NumCalls, 3);
+}
+
+TEST_F(FHttpServerTest, LargeAndBrokenRequestsReachNoHandler)
+{
+	std::atomic<int32> NumCalls = 0;
+	const auto Count = [&](const FVexelHttpServerRequest&)
+	{ ++NumCalls; return FVexelHttpServerResponse(); };
+	EXPECT_TRUE(Server.AddRoute(EVexelHttpVerb::Post, TEXT("/a"), Count).HasValue());
+	Run(Count);
+	const std::string Requests[] = {
+		MakeGet("/a?" + std::string(100'000, 'x')),
+		"GET /a HTTP/1.1\r\nHost: localhost\r\nX-Long: " + std::string(100'000, 'x') + "\r\n\r\n",
+		"POST /a HTTP/1.1\r\nHost: localhost\r\nContent-Length: 1000000\r\n\r\n" + std::string(100'000, 'x'),
+		"POST /a HTTP/1.1\r\nHost: localhost\r\nContent-Length: -1\r\n\r\n",
+		"POST /a HTTP/1.1\r\nHost: localhost\r\nTransfer-Encoding: chunked\r\n\r\nfffffffff\r\nx",
+		"this is no HTTP\r\n\r\n",
+		std::string("\0\0\0\0\r\n\r\n", 8),
+	};
+	for (const std::string& Request : Requests)
+	{
+		const std::string Answer = FRawClient(Server.GetPort()).Ask(Request);
+		EXPECT_THAT(Answer, testing::Not(testing::StartsWith("HTTP/1.1 200"))) << Request.substr(0, 60);
+	}
+	EXPECT_EQ(NumCalls, 0);
+	EXPECT_THAT(FRawClient(Server.GetPort()).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200")) << "it goes on";
+}
+
+TEST_F(FHttpServerTest, AHeaderThatWouldBeginAnotherIsNotSent)
+{
+	Run([](const FVexelHttpServerRequest& Request)
+		{
+			FVexelHttpServerResponse Response(302, FString());
+			Response.Headers.Emplace(TEXT("Location"), TEXT("/?") + Request.FindParam(TEXT("id")).Get(FString()));
+			return Response; });
+	const std::string Answer = FRawClient(Server.GetPort()).Ask(MakeGet("/a?id=1%0d%0aX-Injected:%20yes"));
+	EXPECT_THAT(Answer, testing::StartsWith("HTTP/1.1 500"));
+	EXPECT_THAT(Answer, testing::Not(HasSubstr("X-Injected")));
+}
+
+TEST_F(FHttpServerTest, APortHasOneServerAndIsFreeAfterTheStop)
+{
+	Run([](const FVexelHttpServerRequest&)
+		{ return FVexelHttpServerResponse(); });
+	const int32 Port = Server.GetPort();
+	FVexelHttpServer Second(Port);
+	const TVexelExpected<void> Taken = Second.Start();
+	ASSERT_TRUE(Taken.HasError());
+	EXPECT_TRUE(Taken.GetError().IsA<FVexelError_Http>());
+	EXPECT_TRUE(Server.Start().HasError()) << "it runs already";
+	EXPECT_TRUE(Server.AddRoute(EVexelHttpVerb::Get, TEXT("/late"), [](const FVexelHttpServerRequest&)
+						  { return FVexelHttpServerResponse(); })
+					.HasError());
+	EXPECT_THAT(FRawClient(Port).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200"));
+	Server.Stop();
+	Server.Stop();
+	EXPECT_FALSE(FRawClient(Port).bConnected);
+	EXPECT_TRUE(Second.Start().HasValue());
+	EXPECT_EQ(Second.GetPort(), Port);
+	EXPECT_TRUE(Second.AddRoute(EVexelHttpVerb::Get, TEXT("no slash"), nullptr).HasError());
+}
+
+TEST_F(FHttpServerTest, OtherInterfacesDoNotAnswer)
+{
+	Run([](const FVexelHttpServerRequest&)
+		{ return FVexelHttpServerResponse(); });
+	ifaddrs* Interfaces = nullptr;
+	ASSERT_EQ(getifaddrs(&Interfaces), 0);
+	for (const ifaddrs* Interface = Interfaces; Interface; Interface = Interface->ifa_next)
+	{
+		if (Interface->ifa_addr && Interface->ifa_addr->sa_family == AF_INET)
+		{
+			const in_addr_t Address = reinterpret_cast<const sockaddr_in*>(Interface->ifa_addr)->sin_addr.s_addr;
+			EXPECT_EQ(FRawClient(Server.GetPort(), Address).bConnected, Address == htonl(INADDR_LOOPBACK)) << Interface->ifa_name;
+		}
+	}
+	freeifaddrs(Interfaces);
+}
+
+TEST_F(FHttpServerTest, StopWaitsForTheHandlerThatRuns)
+{
+	FEventRef Entered;
+	FEventRef MayAnswer;
+	std::atomic<bool> bAnswered = false;
+	Run([&](const FVexelHttpServerRequest&)
+		{
+			Entered->Trigger();
+			MayAnswer->Wait();
+			bAnswered = true;
+			return FVexelHttpServerResponse(200, TEXT("OK")); });
+	const int32 Port = Server.GetPort();
+	std::string Answer;
+	std::thread Asking([&]
+		{ Answer = FRawClient(Port).Ask(MakeGet("/a")); });
+	Entered->Wait();
+	std::atomic<bool> bAnsweredBefore = false;
+	std::thread Stopping([&]
+		{ Server.Stop(); bAnsweredBefore = bAnswered.load(); });
+	while (FRawClient(Port).bConnected)
+	{
+		std::this_thread::yield();
+	}
+	EXPECT_FALSE(bAnswered);
+	MayAnswer->Trigger();
+	Stopping.join();
+	Asking.join();
+	EXPECT_TRUE(bAnsweredBefore);
+	EXPECT_THAT(Answer, testing::EndsWith("OK"));
+}
+
+TEST_F(FHttpServerTest, SilentConnectionsHoldUpNeitherOthersNorTheStop)
+{
+	Run([](const FVexelHttpServerRequest&)
+		{ return FVexelHttpServerResponse(); });
+	const FRawClient Silent(Server.GetPort());
+	const FRawClient Half(Server.GetPort());
+	send(Half.Socket, "GET /a HT", 9, MSG_NOSIGNAL);
+	EXPECT_THAT(FRawClient(Server.GetPort()).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200"));
+	const double Start = FPlatformTime::Seconds();
+	Server.Stop();
+	EXPECT_LT(FPlatformTime::Seconds() - Start, 8.0);
+}
