@@ -74,6 +74,7 @@ void UK2Node_CustomEvent::OnRenameNode(const FString& NewName)
 	const FName Name(*NewName);
 	if (!NewName.IsEmpty() && !IsNameTaken(*this, Name))
 	{
+		Modify();
 		CustomFunctionName = Name;
 		UpdateDelegatePin();
 	}

@@ -207,6 +207,8 @@ void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FSt
 void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors) const
 {
 	UObject* const NewDefaultObject = Rebuilt.Class->GetDefaultObject();
+	// What a user edits as the class's defaults.
+	NewDefaultObject->SetFlags(RF_Transactional);
 	ApplyVariableDefaults(Rebuilt, OutErrors);
 	if (Rebuilt.OldDefaultObject)
 	{
