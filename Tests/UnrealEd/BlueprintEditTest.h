@@ -45,7 +45,8 @@ protected:
 	}
 
 	template <class NodeType>
-	static NodeType* AddNode(UEdGraph* ToGraph, TFunctionRef<void(NodeType&)> Prepare = [](NodeType&) {})
+	static NodeType* AddNode(
+		UEdGraph* ToGraph, TFunctionRef<void(NodeType&)> Prepare = [](NodeType&) {})
 	{
 		FGraphNodeCreator<NodeType> Creator(*ToGraph);
 		NodeType* const Node = Creator.CreateNode(false);
@@ -66,7 +67,8 @@ protected:
 
 	static UEdGraph* AddFunction(UBlueprint* ToBlueprint, const TCHAR* Name)
 	{
-		UEdGraph* const NewGraph = FBlueprintEditorUtils::CreateNewGraph(ToBlueprint, FName(Name), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+		UEdGraph* const NewGraph =
+			FBlueprintEditorUtils::CreateNewGraph(ToBlueprint, FName(Name), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 		FBlueprintEditorUtils::AddFunctionGraph<UClass>(ToBlueprint, NewGraph, true, nullptr);
 		return NewGraph;
 	}

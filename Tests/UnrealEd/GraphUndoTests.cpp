@@ -150,14 +150,16 @@ TEST_F(FGraphUndoTest, SplitPinsComeAndGoWithTheirValues)
 
 TEST_F(FGraphUndoTest, AnOrphanedPinBecomesAPinAgain)
 {
-	UK2Node_CustomEvent* const Event = AddNode<UK2Node_CustomEvent>(Graph, [](UK2Node_CustomEvent& Node)
-		{ Node.CustomFunctionName = TEXT("Open"); });
+	UK2Node_CustomEvent* const Event =
+		AddNode<UK2Node_CustomEvent>(Graph, [](UK2Node_CustomEvent& Node)
+			{ Node.CustomFunctionName = TEXT("Open"); });
 	Event->CreateUserDefinedPin(TEXT("Speed"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
 	FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
 	const UFunction* const Function = Blueprint->SkeletonGeneratedClass->FindFunctionByName(TEXT("Open"));
 	ASSERT_NE(Function, nullptr);
-	UK2Node_CallFunction* const Call = AddNode<UK2Node_CallFunction>(Graph, [Function](UK2Node_CallFunction& Node)
-		{ Node.SetFromFunction(Function); });
+	UK2Node_CallFunction* const Call =
+		AddNode<UK2Node_CallFunction>(Graph, [Function](UK2Node_CallFunction& Node)
+			{ Node.SetFromFunction(Function); });
 	ASSERT_NE(Call->FindPin(TEXT("Speed")), nullptr);
 	Schema().TrySetDefaultValue(*Call->FindPin(TEXT("Speed")), TEXT("5"));
 	{
@@ -174,7 +176,8 @@ TEST_F(FGraphUndoTest, AnOrphanedPinBecomesAPinAgain)
 	ASSERT_NE(Call->FindPin(TEXT("Speed")), nullptr);
 	EXPECT_FALSE(Call->FindPin(TEXT("Speed"))->bOrphanedPin);
 	EXPECT_EQ(Call->FindPin(TEXT("Speed"))->DefaultValue, TEXT("5"));
-	EXPECT_NE(Blueprint->SkeletonGeneratedClass->FindFunctionByName(TEXT("Open"))->FindPropertyByName(TEXT("Speed")), nullptr) << "the class follows";
+	EXPECT_NE(Blueprint->SkeletonGeneratedClass->FindFunctionByName(TEXT("Open"))->FindPropertyByName(TEXT("Speed")), nullptr)
+		<< "the class follows";
 	Redo();
 	EXPECT_TRUE(Call->FindPin(TEXT("Speed"))->bOrphanedPin);
 }
@@ -230,6 +233,30 @@ TEST_F(FGraphUndoTest, ARemovedFunctionIsBackAsItWasAndCanBeSaved)
 	EXPECT_EQ(Function->Nodes.Num(), NumNodes);
 	EXPECT_EQ(Function->GetFlags(), Flags) << "a transient graph is not saved";
 	EXPECT_NE(Blueprint->SkeletonGeneratedClass->FindFunctionByName(TEXT("Open")), nullptr);
+}
+
+TEST_F(FGraphUndoTest, TheClassFollowsEventsThatComeAndGo)
+{
+	const auto HasFunction = [this]
+	{ return Blueprint->SkeletonGeneratedClass->FindFunctionByName(TEXT("Knock")) != nullptr; };
+	UK2Node_CustomEvent* Event = nullptr;
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Add")));
+		Event = AddNode<UK2Node_CustomEvent>(Graph, [](UK2Node_CustomEvent& Node)
+			{ Node.CustomFunctionName = TEXT("Knock"); });
+		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
+	}
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Remove")));
+		FBlueprintEditorUtils::RemoveNode(Blueprint, Event);
+	}
+	EXPECT_FALSE(HasFunction());
+	Undo();
+	EXPECT_TRUE(HasFunction()) << "the event itself did not change, its graph did";
+	Undo();
+	EXPECT_FALSE(HasFunction());
+	Redo();
+	EXPECT_TRUE(HasFunction());
 }
 
 TEST_F(FGraphUndoTest, VariablesAreUndoneWithTheirClass)

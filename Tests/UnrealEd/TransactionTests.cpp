@@ -305,6 +305,24 @@ TEST_F(FTransactionTest, RecordsOfADefaultObjectSurviveARecompileIntoAnotherLayo
 	EXPECT_EQ(GetLast(), 42);
 }
 
+TEST_F(FTransactionTest, AVariableThatComesBackHasTheValueItWasGivenInTheDefaults)
+{
+	FBlueprintEditorUtils::AddMemberVariable(Blueprint, TEXT("Last"), MakeType(UEdGraphSchema_K2::PC_Int), TEXT("1"));
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	const UClass* const Class = Blueprint->GeneratedClass;
+	FindFProperty<FIntProperty>(Class, TEXT("Last"))->SetPropertyValue_InContainer(Class->GetDefaultObject(), 7);
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Remove")));
+		FBlueprintEditorUtils::RemoveMemberVariable(Blueprint, TEXT("Last"));
+	}
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	ASSERT_EQ(Class->FindPropertyByName(TEXT("Last")), nullptr);
+	Undo();
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	ASSERT_NE(Class->FindPropertyByName(TEXT("Last")), nullptr);
+	EXPECT_EQ(FindFProperty<FIntProperty>(Class, TEXT("Last"))->GetPropertyValue_InContainer(Class->GetDefaultObject()), 7);
+}
+
 /** Sets a number that no object holds. */
 class FNumberChange final : public FSwapChange
 {
@@ -347,7 +365,8 @@ TEST_F(FTransactionTest, AChangeThatRevertsItselfIsExecutedBothWays)
 class FCountingClient final : public FSelfRegisteringEditorUndoClient
 {
 public:
-	virtual bool MatchesContext(const FTransactionContext& InContext, const TArray<TPair<UObject*, FTransactionObjectEvent>>& Objects) const override
+	virtual bool MatchesContext(
+		const FTransactionContext& InContext, const TArray<TPair<UObject*, FTransactionObjectEvent>>& Objects) const override
 	{
 		return Objects.ContainsByPredicate([this](const TPair<UObject*, FTransactionObjectEvent>& Object)
 			{ return Object.Key == Wanted; });

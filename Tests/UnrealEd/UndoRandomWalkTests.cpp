@@ -1,4 +1,5 @@
 #include "BlueprintEditTest.h"
+#include "BlueprintText.h"
 #include "Components/ActorComponent.h"
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraph/EdGraphPin.h"
@@ -23,88 +24,6 @@
 
 namespace
 {
-/** Everything of a Blueprint that an undo must restore, as text. */
-class FBlueprintText
-{
-public:
-	static FString Take(const UBlueprint& Blueprint)
-	{
-		FString Text;
-		for (const FBPVariableDescription& Variable : Blueprint.NewVariables)
-		{
-			FString Line;
-			FBPVariableDescription::StaticStruct()->ExportText(Line, &Variable, nullptr, nullptr, PPF_None, nullptr);
-			Text += Line + TEXT("\n");
-		}
-		AddGraphs(TEXT("Ubergraphs"), Blueprint.UbergraphPages, Text);
-		AddGraphs(TEXT("Functions"), Blueprint.FunctionGraphs, Text);
-		AddGraphs(TEXT("Macros"), Blueprint.MacroGraphs, Text);
-		AddGraphs(TEXT("Dispatchers"), Blueprint.DelegateSignatureGraphs, Text);
-		for (const UTimelineTemplate* const Timeline : Blueprint.Timelines)
-		{
-			Text += FString::Printf(TEXT("Timeline %s %s\n"), *Timeline->GetPathName(), *Timeline->TimelineGuid.ToString());
-		}
-		for (const USCS_Node* const Node : Blueprint.SimpleConstructionScript->GetAllNodes())
-		{
-			const USCS_Node* const Parent = Blueprint.SimpleConstructionScript->FindParentNode(const_cast<USCS_Node*>(Node));
-			Text += FString::Printf(TEXT("Component %s %s below %s from %s\n"), *Node->GetVariableName().ToString(), *Node->VariableGuid.ToString(),
-				*GetNameSafe(Parent), *GetFullNameSafe(Node->ComponentTemplate.Get()));
-		}
-		return Text;
-	}
-
-private:
-	static void AddGraphs(const TCHAR* Kind, const TArray<TObjectPtr<UEdGraph>>& Graphs, FString& Text)
-	{
-		for (const UEdGraph* const Graph : Graphs)
-		{
-			AddGraph(Kind, *Graph, Text);
-			AddGraphs(TEXT("Subgraph"), Graph->SubGraphs, Text);
-		}
-	}
-
-	static void AddGraph(const TCHAR* Kind, const UEdGraph& Graph, FString& Text)
-	{
-		Text += FString::Printf(TEXT("%s %s %s flags %x\n"), Kind, *Graph.GetPathName(), *Graph.GraphGuid.ToString(), static_cast<uint32>(Graph.GetFlags()));
-		for (UEdGraphNode* const Node : Graph.Nodes)
-		{
-			FString NodeText;
-			FEdGraphUtilities::ExportNodesToText({Node}, NodeText);
-			TArray<FString> Lines;
-			NodeText.ParseIntoArrayLines(Lines);
-			for (const FString& Line : Lines)
-			{
-				// A compile's messages are no part of what the user edits.
-				const bool bIsMessage = Line.Contains(TEXT("ErrorMsg")) || Line.Contains(TEXT("ErrorType")) || Line.Contains(TEXT("bHasCompilerMessage"));
-				Text += bIsMessage ? FString() : Line + TEXT("\n");
-			}
-			CheckPins(*Node);
-		}
-	}
-
-	static void CheckPins(const UEdGraphNode& Node)
-	{
-		for (const UEdGraphPin* const Pin : Node.Pins)
-		{
-			ASSERT_FALSE(Pin->WasTrashed());
-			ASSERT_EQ(Pin->GetOwningNode(), &Node);
-			for (const UEdGraphPin* const Linked : Pin->LinkedTo)
-			{
-				ASSERT_FALSE(Linked->WasTrashed());
-				ASSERT_TRUE(Linked->LinkedTo.Contains(const_cast<UEdGraphPin*>(Pin)));
-				ASSERT_TRUE(Linked->GetOwningNode()->Pins.Contains(const_cast<UEdGraphPin*>(Linked)));
-				ASSERT_EQ(Linked->GetOwningNode()->GetGraph(), Node.GetGraph());
-				ASSERT_TRUE(Node.GetGraph()->Nodes.Contains(Linked->GetOwningNode()));
-			}
-			for (const UEdGraphPin* const SubPin : Pin->SubPins)
-			{
-				ASSERT_EQ(SubPin->ParentPin, Pin);
-				ASSERT_TRUE(Node.Pins.Contains(const_cast<UEdGraphPin*>(SubPin)));
-			}
-		}
-	}
-};
-
 /** Makes edits that a user could make, chosen by a seed. */
 class FRandomEditor
 {
@@ -175,7 +94,10 @@ private:
 		return Pick(3) > 0 ? FBlueprintEditorUtils::FindEventGraph(&Blueprint) : Graphs[Pick(Graphs.Num())];
 	}
 
-	UEdGraphNode* PickNode(const UEdGraph* Graph) { return Graph->Nodes.Num() > 0 ? Graph->Nodes[Pick(Graph->Nodes.Num())].Get() : nullptr; }
+	UEdGraphNode* PickNode(const UEdGraph* Graph)
+	{
+		return Graph->Nodes.Num() > 0 ? Graph->Nodes[Pick(Graph->Nodes.Num())].Get() : nullptr;
+	}
 
 	UEdGraphPin* PickPin(const UEdGraph* Graph)
 	{
@@ -185,8 +107,8 @@ private:
 
 	FEdGraphPinType PickType()
 	{
-		static const FName Categories[] = {UEdGraphSchema_K2::PC_Boolean, UEdGraphSchema_K2::PC_Int, UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_String,
-			UEdGraphSchema_K2::PC_Name, UEdGraphSchema_K2::PC_Struct, UEdGraphSchema_K2::PC_Object};
+		static const FName Categories[] = {UEdGraphSchema_K2::PC_Boolean, UEdGraphSchema_K2::PC_Int, UEdGraphSchema_K2::PC_Real,
+			UEdGraphSchema_K2::PC_String, UEdGraphSchema_K2::PC_Name, UEdGraphSchema_K2::PC_Struct, UEdGraphSchema_K2::PC_Object};
 		FEdGraphPinType Type;
 		Type.PinCategory = Categories[Pick(7)];
 		Type.PinSubCategory = Type.PinCategory == UEdGraphSchema_K2::PC_Real ? UEdGraphSchema_K2::PC_Double : FName();
@@ -202,7 +124,10 @@ private:
 		return Type;
 	}
 
-	FName PickVariable() { return Blueprint.NewVariables.Num() > 0 ? Blueprint.NewVariables[Pick(Blueprint.NewVariables.Num())].VarName : FName(); }
+	FName PickVariable()
+	{
+		return Blueprint.NewVariables.Num() > 0 ? Blueprint.NewVariables[Pick(Blueprint.NewVariables.Num())].VarName : FName();
+	}
 
 	UEdGraph* PickFunction()
 	{
@@ -218,7 +143,8 @@ private:
 	}
 
 	template <class NodeType>
-	NodeType* Place(UEdGraph* Graph, TFunctionRef<void(NodeType&)> Prepare = [](NodeType&) {})
+	NodeType* Place(
+		UEdGraph* Graph, TFunctionRef<void(NodeType&)> Prepare = [](NodeType&) {})
 	{
 		FGraphNodeCreator<NodeType> Creator(*Graph);
 		NodeType* const Node = Creator.CreateNode(false);
@@ -320,7 +246,8 @@ private:
 		{
 			UEdGraphPin* const From = PickPin(Graph);
 			UEdGraphPin* const To = PickPin(Graph);
-			const bool bCouldLink = From && To && From->Direction == EGPD_Output && To->Direction == EGPD_Input && !From->bHidden && !To->bHidden;
+			const bool bCouldLink =
+				From && To && From->Direction == EGPD_Output && To->Direction == EGPD_Input && !From->bHidden && !To->bHidden;
 			if (bCouldLink && Graph->GetSchema()->TryCreateConnection(From, To))
 			{
 				return;
@@ -355,7 +282,8 @@ private:
 
 	void SetDefault()
 	{
-		static const TCHAR* const Values[] = {TEXT("1"), TEXT("true"), TEXT("0.5"), TEXT("text \"quoted\""), TEXT("1, 2, 3"), TEXT(""), TEXT("42")};
+		static const TCHAR* const Values[] = {
+			TEXT("1"), TEXT("true"), TEXT("0.5"), TEXT("text \"quoted\""), TEXT("1, 2, 3"), TEXT(""), TEXT("42")};
 		const UEdGraph* const Graph = PickGraph();
 		for (int32 Try = 0; Try < 5; ++Try)
 		{
@@ -438,7 +366,8 @@ private:
 
 	void RenameVariable()
 	{
-		FBlueprintEditorUtils::RenameMemberVariable(&Blueprint, PickVariable(), FBlueprintEditorUtils::FindUniqueKismetName(&Blueprint, TEXT("Renamed")));
+		FBlueprintEditorUtils::RenameMemberVariable(
+			&Blueprint, PickVariable(), FBlueprintEditorUtils::FindUniqueKismetName(&Blueprint, TEXT("Renamed")));
 	}
 
 	void RetypeVariable()
@@ -455,7 +384,8 @@ private:
 	void AddFunction()
 	{
 		const FName Name = FBlueprintEditorUtils::GenerateUniqueGraphName(&Blueprint, TEXT("Function"));
-		UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(&Blueprint, Name, UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+		UEdGraph* const Graph =
+			FBlueprintEditorUtils::CreateNewGraph(&Blueprint, Name, UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 		FBlueprintEditorUtils::AddFunctionGraph<UClass>(&Blueprint, Graph, true, nullptr);
 	}
 
@@ -623,7 +553,8 @@ protected:
 			const bool bBack = GetPosition() > Position;
 			const FString Name = Names[bBack ? GetPosition() : GetPosition() + 1];
 			ASSERT_TRUE(bBack ? Undo() : Redo());
-			Expect(Snapshots[GetPosition()], FString::Printf(TEXT("%s of '%s', now at %d"), bBack ? TEXT("undo") : TEXT("redo"), *Name, GetPosition()));
+			Expect(Snapshots[GetPosition()],
+				FString::Printf(TEXT("%s of '%s', now at %d"), bBack ? TEXT("undo") : TEXT("redo"), *Name, GetPosition()));
 			Disturb(Editor);
 		}
 	}

@@ -13,7 +13,11 @@ public:
 	virtual ~FEditorUndoClient() = default;
 
 	/** Whether the client wants to hear of this undo or redo. Asked after it was done, with the objects that it touched. */
-	virtual bool MatchesContext(const FTransactionContext& InContext, const TArray<TPair<UObject*, FTransactionObjectEvent>>& TransactionObjectContexts) const { return true; }
+	virtual bool MatchesContext(
+		const FTransactionContext& InContext, const TArray<TPair<UObject*, FTransactionObjectEvent>>& TransactionObjectContexts) const
+	{
+		return true;
+	}
 	virtual void PostUndo(bool bSuccess) {}
 	virtual void PostRedo(bool bSuccess) {}
 	virtual FString GetTransactionContext() const { return FString(); }

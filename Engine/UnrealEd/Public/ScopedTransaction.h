@@ -13,7 +13,8 @@ class UNREALED_API FScopedTransaction
 public:
 	explicit FScopedTransaction(const FText& SessionName, const bool bShouldActuallyTransact = true);
 	/** TransactionContext names the part of the editor that makes it; PrimaryObject is what it is about, or null. */
-	FScopedTransaction(const TCHAR* TransactionContext, const FText& SessionName, UObject* PrimaryObject, const bool bShouldActuallyTransact = true);
+	FScopedTransaction(
+		const TCHAR* TransactionContext, const FText& SessionName, UObject* PrimaryObject, const bool bShouldActuallyTransact = true);
 	~FScopedTransaction();
 	FScopedTransaction(const FScopedTransaction&) = delete;
 	FScopedTransaction& operator=(const FScopedTransaction&) = delete;

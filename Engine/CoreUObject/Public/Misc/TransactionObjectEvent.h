@@ -32,8 +32,8 @@ class FTransactionObjectEvent
 {
 public:
 	FTransactionObjectEvent() = default;
-	FTransactionObjectEvent(const FGuid& InTransactionId, ETransactionObjectEventType InEventType, const FTransactionObjectDeltaChange& InDeltaChange,
-		FName InOriginalName, const FString& InOriginalOuterPath)
+	FTransactionObjectEvent(const FGuid& InTransactionId, ETransactionObjectEventType InEventType,
+		const FTransactionObjectDeltaChange& InDeltaChange, FName InOriginalName, const FString& InOriginalOuterPath)
 		: TransactionId(InTransactionId)
 		, EventType(InEventType)
 		, DeltaChange(InDeltaChange)

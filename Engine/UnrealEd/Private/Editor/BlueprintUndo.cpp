@@ -1,6 +1,6 @@
 #include "BlueprintUndo.h"
 
-#include "EdGraph/EdGraph.h"
+#include "EdGraph/EdGraphNode.h"
 #include "Engine/Blueprint.h"
 #include "Engine/UserDefinedEnum.h"
 #include "K2Node_EditablePinBase.h"
@@ -31,11 +31,13 @@ bool DeclaresMembers(const UObject& Object)
 	{
 		return Object.IsA<UK2Node_EditablePinBase>() || Object.IsA<UK2Node_Event>();
 	}
-	return !Object.IsA<UEdGraph>() && !Object.HasAnyFlags(RF_ClassDefaultObject);
+	// A graph that gained or lost nodes may have gained or lost an event or a result.
+	return !Object.HasAnyFlags(RF_ClassDefaultObject);
 }
 }
 
-bool FBlueprintUndo::MatchesContext(const FTransactionContext& InContext, const TArray<TPair<UObject*, FTransactionObjectEvent>>& TransactionObjectContexts) const
+bool FBlueprintUndo::MatchesContext(
+	const FTransactionContext& InContext, const TArray<TPair<UObject*, FTransactionObjectEvent>>& TransactionObjectContexts) const
 {
 	Touched.Empty();
 	Enums.Empty();
@@ -50,7 +52,7 @@ bool FBlueprintUndo::MatchesContext(const FTransactionContext& InContext, const 
 		if (Blueprint && IsValid(Blueprint))
 		{
 			bool& bMembersChanged = Touched.FindOrAdd(Blueprint, false);
-			bMembersChanged = bMembersChanged || DeclaresMembers(*Change.Key) || (Change.Key->IsA<UEdGraph>() && Change.Value.HasNameChange());
+			bMembersChanged = bMembersChanged || DeclaresMembers(*Change.Key);
 		}
 	}
 	return Touched.Num() > 0 || Enums.Num() > 0;

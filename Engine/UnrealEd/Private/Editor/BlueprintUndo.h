@@ -10,7 +10,8 @@ class UUserDefinedEnum;
 class FBlueprintUndo final : public FEditorUndoClient
 {
 public:
-	virtual bool MatchesContext(const FTransactionContext& InContext, const TArray<TPair<UObject*, FTransactionObjectEvent>>& TransactionObjectContexts) const override;
+	virtual bool MatchesContext(const FTransactionContext& InContext,
+		const TArray<TPair<UObject*, FTransactionObjectEvent>>& TransactionObjectContexts) const override;
 	virtual void PostUndo(bool bSuccess) override { Refresh(); }
 	virtual void PostRedo(bool bSuccess) override { Refresh(); }
 

@@ -32,10 +32,7 @@ void UEditorEngine::ShutdownTransactions()
 	BlueprintUndo.Reset();
 }
 
-bool UEditorEngine::CanTransact()
-{
-	return Trans && !GIsTransacting;
-}
+bool UEditorEngine::CanTransact() { return Trans && !GIsTransacting; }
 
 int32 UEditorEngine::BeginTransaction(const TCHAR* TransactionContext, const FText& Description, UObject* PrimaryObject)
 {
@@ -48,15 +45,9 @@ int32 UEditorEngine::BeginTransaction(const TCHAR* TransactionContext, const FTe
 	return Index;
 }
 
-int32 UEditorEngine::BeginTransaction(const FText& Description)
-{
-	return BeginTransaction(TEXT(""), Description, nullptr);
-}
+int32 UEditorEngine::BeginTransaction(const FText& Description) { return BeginTransaction(TEXT(""), Description, nullptr); }
 
-int32 UEditorEngine::EndTransaction()
-{
-	return Trans ? Trans->End() : INDEX_NONE;
-}
+int32 UEditorEngine::EndTransaction() { return Trans ? Trans->End() : INDEX_NONE; }
 
 void UEditorEngine::CancelTransaction(int32 Index)
 {
@@ -74,20 +65,11 @@ void UEditorEngine::ResetTransaction(const FText& Reason)
 	}
 }
 
-bool UEditorEngine::UndoTransaction(bool bCanRedo)
-{
-	return Trans && Trans->Undo(bCanRedo);
-}
+bool UEditorEngine::UndoTransaction(bool bCanRedo) { return Trans && Trans->Undo(bCanRedo); }
 
-bool UEditorEngine::RedoTransaction()
-{
-	return Trans && Trans->Redo();
-}
+bool UEditorEngine::RedoTransaction() { return Trans && Trans->Redo(); }
 
-bool UEditorEngine::IsTransactionActive() const
-{
-	return Trans && Trans->IsActive();
-}
+bool UEditorEngine::IsTransactionActive() const { return Trans && Trans->IsActive(); }
 
 FText UEditorEngine::GetTransactionName() const
 {
@@ -95,10 +77,7 @@ FText UEditorEngine::GetTransactionName() const
 	return bIsActive ? Trans->GetUndoContext(false).Title : FText::GetEmpty();
 }
 
-bool UEditorEngine::IsObjectInTransactionBuffer(const UObject* Object) const
-{
-	return Trans && Trans->IsObjectInTransactionBuffer(Object);
-}
+bool UEditorEngine::IsObjectInTransactionBuffer(const UObject* Object) const { return Trans && Trans->IsObjectInTransactionBuffer(Object); }
 
 void UEditorEngine::RegisterForUndo(FEditorUndoClient* UndoClient)
 {
@@ -108,12 +87,10 @@ void UEditorEngine::RegisterForUndo(FEditorUndoClient* UndoClient)
 	}
 }
 
-void UEditorEngine::UnregisterForUndo(FEditorUndoClient* UndoClient)
-{
-	UndoClients.Remove(UndoClient);
-}
+void UEditorEngine::UnregisterForUndo(FEditorUndoClient* UndoClient) { UndoClients.Remove(UndoClient); }
 
-void UEditorEngine::TellUndoClients(const FTransactionContext& Context, bool bSucceeded, int32 QueueIndex, void (FEditorUndoClient::*Tell)(bool))
+void UEditorEngine::TellUndoClients(
+	const FTransactionContext& Context, bool bSucceeded, int32 QueueIndex, void (FEditorUndoClient::*Tell)(bool))
 {
 	const FTransaction* const Transaction = bSucceeded ? Trans->GetTransaction(QueueIndex) : nullptr;
 	if (!Transaction)

@@ -210,6 +210,7 @@ void MoveGarbageAway(UObject& Object)
 	const bool bIsInTheWay = Outer != GetTransientPackageAsObject() && !Outer->HasAnyInternalFlags(EInternalObjectFlags::Garbage);
 	if (bIsInTheWay)
 	{
-		Object.Rename(nullptr, GetTransientPackageAsObject(), REN_ForceGlobalUnique | REN_DontCreateRedirectors | REN_NonTransactional | REN_DoNotDirty);
+		Object.Rename(nullptr, GetTransientPackageAsObject(),
+			REN_ForceGlobalUnique | REN_DontCreateRedirectors | REN_NonTransactional | REN_DoNotDirty);
 	}
 }

@@ -18,21 +18,12 @@ bool Refuse(FText* OutReason, const FText& Reason)
 	return false;
 }
 
-FText GetBusyReason()
-{
-	return LOCTEXT("CantUndoDuringTransaction", "(Can't undo while action is in progress)");
-}
+FText GetBusyReason() { return LOCTEXT("CantUndoDuringTransaction", "(Can't undo while action is in progress)"); }
 }
 
-void UTransBuffer::Initialize(SIZE_T InMaxMemory)
-{
-	MaxMemory = InMaxMemory;
-}
+void UTransBuffer::Initialize(SIZE_T InMaxMemory) { MaxMemory = InMaxMemory; }
 
-void UTransBuffer::UpdateOpenTransaction()
-{
-	GUndo = IsActive() && SerializationDisableCount == 0 ? &GetOpen() : nullptr;
-}
+void UTransBuffer::UpdateOpenTransaction() { GUndo = IsActive() && SerializationDisableCount == 0 ? &GetOpen() : nullptr; }
 
 int32 UTransBuffer::Begin(const TCHAR* SessionContext, const FText& Description)
 {
@@ -128,7 +119,8 @@ void UTransBuffer::DropOldest()
 	{
 		Barrier = FMath::Max(0, Barrier - Count);
 	}
-	UE_LOG(LogEditorTransaction, Verbose, TEXT("The oldest %d undo entries are dropped to stay within %llu bytes"), Count, static_cast<unsigned long long>(MaxMemory));
+	UE_LOG(LogEditorTransaction, Verbose, TEXT("The oldest %d undo entries are dropped to stay within %llu bytes"), Count,
+		static_cast<unsigned long long>(MaxMemory));
 }
 
 void UTransBuffer::Reset(const FText& Reason)
@@ -206,10 +198,7 @@ SIZE_T UTransBuffer::GetUndoSize() const
 	return Size;
 }
 
-void UTransBuffer::SetUndoBarrier()
-{
-	UndoBarriers.Add(GetPosition());
-}
+void UTransBuffer::SetUndoBarrier() { UndoBarriers.Add(GetPosition()); }
 
 void UTransBuffer::RemoveUndoBarrier()
 {
@@ -285,7 +274,8 @@ void UTransBuffer::SetPrimaryUndoObject(UObject* Object)
 
 bool UTransBuffer::IsObjectInTransactionBuffer(const UObject* Object) const
 {
-	return UndoBuffer.ContainsByPredicate([Object](const TSharedRef<FTransaction>& Transaction)
+	return UndoBuffer.ContainsByPredicate(
+		[Object](const TSharedRef<FTransaction>& Transaction)
 		{ return Transaction->ContainsObject(Object); });
 }
 

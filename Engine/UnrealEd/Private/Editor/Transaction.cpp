@@ -51,10 +51,7 @@ void FTransaction::BeginOperation() {}
 
 void FTransaction::EndOperation() {}
 
-FTransactionContext FTransaction::GetContext() const
-{
-	return FTransactionContext(Id, OperationId, Title, *Context, GetPrimaryObject());
-}
+FTransactionContext FTransaction::GetContext() const { return FTransactionContext(Id, OperationId, Title, *Context, GetPrimaryObject()); }
 
 void FTransaction::SetPrimaryObject(UObject* Object)
 {
@@ -64,10 +61,7 @@ void FTransaction::SetPrimaryObject(UObject* Object)
 	}
 }
 
-UObject* FTransaction::GetPrimaryObject() const
-{
-	return Implementation->PrimaryObject;
-}
+UObject* FTransaction::GetPrimaryObject() const { return Implementation->PrimaryObject; }
 
 void FTransaction::SaveObject(UObject* Object)
 {
@@ -97,7 +91,8 @@ void FTransaction::SnapshotObject(UObject* Object, TArrayView<const FProperty*> 
 	}
 	FTransactionObjectDeltaChange Delta;
 	Delta.bHasNonPropertyChanges = true;
-	const FTransactionObjectEvent Event(Id, ETransactionObjectEventType::Snapshot, Delta, Object->GetFName(), GetPathNameSafe(Object->GetOuter()));
+	const FTransactionObjectEvent Event(
+		Id, ETransactionObjectEventType::Snapshot, Delta, Object->GetFName(), GetPathNameSafe(Object->GetOuter()));
 	Object->PostTransacted(Event);
 	FCoreUObjectDelegates::OnObjectTransacted.Broadcast(Object, Event);
 }
@@ -114,10 +109,7 @@ bool FTransaction::ContainsObject(const UObject* Object) const
 	return TableIndex != INDEX_NONE && Implementation->RecordIndices.Contains(TableIndex);
 }
 
-int32 FTransaction::GetRecordCount() const
-{
-	return Implementation->Records.Num() + Implementation->Changes.Num();
-}
+int32 FTransaction::GetRecordCount() const { return Implementation->Records.Num() + Implementation->Changes.Num(); }
 
 void FTransaction::GetTransactionObjects(TArray<UObject*>& OutObjects) const
 {
@@ -127,10 +119,7 @@ void FTransaction::GetTransactionObjects(TArray<UObject*>& OutObjects) const
 	}
 }
 
-const TArray<TPair<UObject*, FTransactionObjectEvent>>& FTransaction::GetAppliedChanges() const
-{
-	return Implementation->AppliedChanges;
-}
+const TArray<TPair<UObject*, FTransactionObjectEvent>>& FTransaction::GetAppliedChanges() const { return Implementation->AppliedChanges; }
 
 void FTransaction::RemoveRecords(int32 Count)
 {
@@ -149,14 +138,12 @@ bool FTransaction::HasChanges() const
 	{
 		return true;
 	}
-	return Held.Records.ContainsByPredicate([&Held](const FObjectRecord& Record)
+	return Held.Records.ContainsByPredicate(
+		[&Held](const FObjectRecord& Record)
 		{ return !Record.State.IsCurrent(*Record.Object, Held.Table); });
 }
 
-SIZE_T FTransaction::DataSize() const
-{
-	return Implementation->DataSize;
-}
+SIZE_T FTransaction::DataSize() const { return Implementation->DataSize; }
 
 void FTransaction::FImplementation::UpdateDataSize()
 {

@@ -329,4 +329,3 @@ void FBlueprintEditorUtils::PreloadBlueprintSpecificData(UBlueprint* Blueprint)
 {
 	PreloadMembers(Blueprint);
 }
-

@@ -33,8 +33,9 @@ UK2Node_Timeline* FindTimelineNode(const UBlueprint& Blueprint, FName Name)
 {
 	TArray<UK2Node_Timeline*> Nodes;
 	FBlueprintEditorUtils::GetAllNodesOfClass(&Blueprint, Nodes);
-	UK2Node_Timeline* const* const Found = Nodes.FindByPredicate([Name](const UK2Node_Timeline* Node)
-		{ return Node->TimelineName == Name; });
+	UK2Node_Timeline* const* const Found =
+		Nodes.FindByPredicate([Name](const UK2Node_Timeline* Node)
+			{ return Node->TimelineName == Name; });
 	return Found ? *Found : nullptr;
 }
 }
@@ -72,7 +73,8 @@ void FBlueprintEditorUtils::RenameComponentMemberVariable(UBlueprint* Blueprint,
 	GetDependentBlueprints(Blueprint, Dependents);
 	for (UBlueprint* const Dependent : Dependents)
 	{
-		for (USCS_Node* const Child : Dependent->SimpleConstructionScript ? Dependent->SimpleConstructionScript->GetAllNodes() : TArray<USCS_Node*>())
+		for (USCS_Node* const Child :
+			Dependent->SimpleConstructionScript ? Dependent->SimpleConstructionScript->GetAllNodes() : TArray<USCS_Node*>())
 		{
 			if (Child && Child->ParentComponentOrVariableName == OldName && !Child->bIsParentComponentNative)
 			{
@@ -93,7 +95,8 @@ UTimelineTemplate* FBlueprintEditorUtils::AddNewTimeline(UBlueprint* Blueprint, 
 	}
 	Blueprint->Modify();
 	UObject* const Outer = Blueprint->GeneratedClass.Get();
-	UTimelineTemplate* const Template = NewObject<UTimelineTemplate>(Outer, FName(*UTimelineTemplate::TimelineVariableNameToTemplateName(TimelineVarName)), RF_Transactional);
+	UTimelineTemplate* const Template = NewObject<UTimelineTemplate>(
+		Outer, FName(*UTimelineTemplate::TimelineVariableNameToTemplateName(TimelineVarName)), RF_Transactional);
 	Template->TimelineGuid = FGuid::NewGuid();
 	Template->UpdateCachedNames();
 	Blueprint->Timelines.Add(Template);
@@ -127,7 +130,8 @@ bool FBlueprintEditorUtils::RenameTimeline(UBlueprint* Blueprint, const FName Ol
 	UTimelineTemplate* const Template = Blueprint->FindTimelineTemplateByVariableName(OldVarName);
 	const FString NewTemplateName = UTimelineTemplate::TimelineVariableNameToTemplateName(NewVarName);
 	const bool bIsFree = OldVarName == NewVarName ||
-		(FKismetNameValidator(Blueprint).IsValid(NewVarName.ToString()) == EValidatorResult::Ok && Template && !StaticFindObjectFast(nullptr, Template->GetOuter(), FName(*NewTemplateName)));
+		(FKismetNameValidator(Blueprint).IsValid(NewVarName.ToString()) == EValidatorResult::Ok && Template &&
+			!StaticFindObjectFast(nullptr, Template->GetOuter(), FName(*NewTemplateName)));
 	if (!Template || NewVarName.IsNone() || !bIsFree)
 	{
 		return false;

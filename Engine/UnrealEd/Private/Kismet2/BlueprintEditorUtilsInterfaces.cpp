@@ -38,7 +38,8 @@ void DetachFromInterface(UEdGraph& Graph)
 			Terminator->FunctionReference.SetSelfMember(Graph.GetFName());
 			for (TFieldIterator<FProperty> Parameter(Signature); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
 			{
-				const bool bIsInput = Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) || !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
+				const bool bIsInput =
+					Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) || !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
 				FEdGraphPinType Type;
 				if (bIsInput == bIsEntry && GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(*Parameter, Type))
 				{
@@ -76,7 +77,8 @@ void FBlueprintEditorUtils::AddInterfaceGraphs(UBlueprint& Blueprint, FBPInterfa
 	for (TFieldIterator<UFunction> It(Description.Interface.Get(), EFieldIteratorFlags::IncludeSuper); It; ++It)
 	{
 		UFunction* const Function = *It;
-		const bool bHasGraph = Description.Graphs.ContainsByPredicate([Function](const UEdGraph* Graph)
+		const bool bHasGraph = Description.Graphs.ContainsByPredicate(
+			[Function](const UEdGraph* Graph)
 			{ return Graph && Graph->GetFName() == Function->GetFName(); });
 		if (bHasGraph || !NeedsGraph(Function))
 		{
@@ -112,7 +114,8 @@ bool FBlueprintEditorUtils::ImplementNewInterface(UBlueprint* Blueprint, FTopLev
 void FBlueprintEditorUtils::RemoveInterface(UBlueprint* Blueprint, FTopLevelAssetPath InterfaceClassPathName, bool bPreserveFunctions)
 {
 	UClass* const Interface = FindObject<UClass>(InterfaceClassPathName);
-	const int32 Index = Blueprint->ImplementedInterfaces.IndexOfByPredicate([Interface](const FBPInterfaceDescription& Description)
+	const int32 Index = Blueprint->ImplementedInterfaces.IndexOfByPredicate(
+		[Interface](const FBPInterfaceDescription& Description)
 		{ return Interface && Description.Interface.Get() == Interface; });
 	if (Index == INDEX_NONE)
 	{
@@ -154,7 +157,8 @@ void FBlueprintEditorUtils::ConformImplementedInterfaces(UBlueprint* Blueprint)
 	MarkBlueprintAsStructurallyModified(Blueprint);
 }
 
-void FBlueprintEditorUtils::FindImplementedInterfaces(const UBlueprint* Blueprint, bool bGetAllInterfaces, TArray<UClass*>& ImplementedInterfaces)
+void FBlueprintEditorUtils::FindImplementedInterfaces(
+	const UBlueprint* Blueprint, bool bGetAllInterfaces, TArray<UClass*>& ImplementedInterfaces)
 {
 	for (const FBPInterfaceDescription& Description : Blueprint->ImplementedInterfaces)
 	{

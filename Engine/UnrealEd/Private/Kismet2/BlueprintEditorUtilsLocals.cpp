@@ -10,14 +10,17 @@ namespace
 {
 FBPVariableDescription* FindIn(UK2Node_FunctionEntry* Entry, FName Name)
 {
-	return Entry ? Entry->LocalVariables.FindByPredicate([Name](const FBPVariableDescription& Variable)
-					   { return Variable.VarName == Name; })
-				 : nullptr;
+	return Entry
+		? Entry->LocalVariables.FindByPredicate([Name](const FBPVariableDescription& Variable)
+			  { return Variable.VarName == Name; })
+		: nullptr;
 }
 
 UFunction* FindFunctionOf(const UBlueprint& Blueprint, const UEdGraph& Graph)
 {
-	return Blueprint.SkeletonGeneratedClass ? Blueprint.SkeletonGeneratedClass->FindFunctionByName(Graph.GetFName(), EIncludeSuperFlag::ExcludeSuper) : nullptr;
+	return Blueprint.SkeletonGeneratedClass
+		? Blueprint.SkeletonGeneratedClass->FindFunctionByName(Graph.GetFName(), EIncludeSuperFlag::ExcludeSuper)
+		: nullptr;
 }
 
 bool IsNameTaken(const UBlueprint& Blueprint, UEdGraph& Graph, const UK2Node_FunctionEntry& Entry, FName Name)
@@ -31,8 +34,9 @@ UEdGraph* FBlueprintEditorUtils::FindScopeGraph(const UBlueprint* InBlueprint, c
 {
 	TArray<UEdGraph*> Graphs;
 	InBlueprint->GetAllGraphs(Graphs);
-	UEdGraph* const* const Found = Graphs.FindByPredicate([InScope](const UEdGraph* Graph)
-		{ return InScope && Graph->GetFName() == InScope->GetFName(); });
+	UEdGraph* const* const Found =
+		Graphs.FindByPredicate([InScope](const UEdGraph* Graph)
+			{ return InScope && Graph->GetFName() == InScope->GetFName(); });
 	return Found ? *Found : nullptr;
 }
 
@@ -40,10 +44,12 @@ bool FBlueprintEditorUtils::DoesSupportLocalVariables(const UEdGraph* InGraph)
 {
 	const UBlueprint* const Blueprint = FindBlueprintForGraph(InGraph);
 	const UEdGraph* const Top = InGraph ? GetTopLevelGraph(InGraph) : nullptr;
-	return Blueprint && Blueprint->SupportsLocalVariables() && GetGraphType(Top) == GT_Function && !IsDelegateSignatureGraph(Top) && GetEntryNode(Top);
+	return Blueprint && Blueprint->SupportsLocalVariables() && GetGraphType(Top) == GT_Function && !IsDelegateSignatureGraph(Top) &&
+		GetEntryNode(Top);
 }
 
-FBPVariableDescription* FBlueprintEditorUtils::FindLocalVariable(const UBlueprint* InBlueprint, const UEdGraph* InScopeGraph, const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry)
+FBPVariableDescription* FBlueprintEditorUtils::FindLocalVariable(
+	const UBlueprint* InBlueprint, const UEdGraph* InScopeGraph, const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry)
 {
 	UK2Node_FunctionEntry* const Entry = InScopeGraph ? Cast<UK2Node_FunctionEntry>(GetEntryNode(GetTopLevelGraph(InScopeGraph))) : nullptr;
 	FBPVariableDescription* const Variable = FindIn(Entry, InVariableName);
@@ -54,12 +60,14 @@ FBPVariableDescription* FBlueprintEditorUtils::FindLocalVariable(const UBlueprin
 	return Variable;
 }
 
-FBPVariableDescription* FBlueprintEditorUtils::FindLocalVariable(UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry)
+FBPVariableDescription* FBlueprintEditorUtils::FindLocalVariable(
+	UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry)
 {
 	return FindLocalVariable(InBlueprint, FindScopeGraph(InBlueprint, InScope), InVariableName, OutFunctionEntry);
 }
 
-bool FBlueprintEditorUtils::AddLocalVariable(UBlueprint* Blueprint, UEdGraph* InTargetGraph, const FName InNewVarName, const FEdGraphPinType& InNewVarType, const FString& DefaultValue)
+bool FBlueprintEditorUtils::AddLocalVariable(UBlueprint* Blueprint, UEdGraph* InTargetGraph, const FName InNewVarName,
+	const FEdGraphPinType& InNewVarType, const FString& DefaultValue)
 {
 	if (!DoesSupportLocalVariables(InTargetGraph))
 	{
@@ -99,7 +107,8 @@ void FBlueprintEditorUtils::RemoveLocalVariable(UBlueprint* InBlueprint, const U
 	MarkBlueprintAsStructurallyModified(InBlueprint);
 }
 
-void FBlueprintEditorUtils::RenameLocalVariable(UBlueprint* InBlueprint, const UStruct* InScope, const FName InOldName, const FName InNewName)
+void FBlueprintEditorUtils::RenameLocalVariable(
+	UBlueprint* InBlueprint, const UStruct* InScope, const FName InOldName, const FName InNewName)
 {
 	UK2Node_FunctionEntry* Entry = nullptr;
 	FBPVariableDescription* const Variable = FindLocalVariable(InBlueprint, InScope, InOldName, &Entry);
@@ -110,12 +119,14 @@ void FBlueprintEditorUtils::RenameLocalVariable(UBlueprint* InBlueprint, const U
 	const TArray<FMemberUse> Uses = FMemberUses::FindOfLocalVariable(*InBlueprint, Entry->GetGraph()->GetName(), InOldName);
 	Entry->Modify();
 	Variable->VarName = InNewName;
-	Variable->FriendlyName = FName::NameToDisplayString(InNewName.ToString(), Variable->VarType.PinCategory == UEdGraphSchema_K2::PC_Boolean);
+	Variable->FriendlyName =
+		FName::NameToDisplayString(InNewName.ToString(), Variable->VarType.PinCategory == UEdGraphSchema_K2::PC_Boolean);
 	FMemberUses::Rename(Uses, InOldName, InNewName);
 	MarkBlueprintAsStructurallyModified(InBlueprint);
 }
 
-void FBlueprintEditorUtils::ChangeLocalVariableType(UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, const FEdGraphPinType& InNewPinType)
+void FBlueprintEditorUtils::ChangeLocalVariableType(
+	UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, const FEdGraphPinType& InNewPinType)
 {
 	UK2Node_FunctionEntry* Entry = nullptr;
 	FBPVariableDescription* const Variable = FindLocalVariable(InBlueprint, InScope, InVariableName, &Entry);
@@ -136,7 +147,8 @@ FName FBlueprintEditorUtils::FindLocalVariableNameByGuid(UBlueprint* InBlueprint
 	GetAllNodesOfClass(InBlueprint, Entries);
 	for (const UK2Node_FunctionEntry* const Entry : Entries)
 	{
-		const FBPVariableDescription* const Variable = Entry->LocalVariables.FindByPredicate([&InVariableGuid](const FBPVariableDescription& Candidate)
+		const FBPVariableDescription* const Variable = Entry->LocalVariables.FindByPredicate(
+			[&InVariableGuid](const FBPVariableDescription& Candidate)
 			{ return Candidate.VarGuid == InVariableGuid; });
 		if (Variable)
 		{

@@ -8,9 +8,11 @@
 #include "MemberUses.h"
 #include "UObject/UnrealType.h"
 
-void FBlueprintEditorUtils::RemoveVariableNodes(UBlueprint* Blueprint, const FName& VarName, bool const bForSelfOnly, UEdGraph* LocalGraphScope)
+void FBlueprintEditorUtils::RemoveVariableNodes(
+	UBlueprint* Blueprint, const FName& VarName, bool const bForSelfOnly, UEdGraph* LocalGraphScope)
 {
-	TArray<FMemberUse> Uses = LocalGraphScope ? FMemberUses::FindOfLocalVariable(*Blueprint, LocalGraphScope->GetName(), VarName) : FMemberUses::FindOfVariable(*Blueprint, VarName);
+	TArray<FMemberUse> Uses = LocalGraphScope ? FMemberUses::FindOfLocalVariable(*Blueprint, LocalGraphScope->GetName(), VarName)
+											  : FMemberUses::FindOfVariable(*Blueprint, VarName);
 	for (const FMemberUse& Use : Uses)
 	{
 		const bool bIsSelf = Use.Reference->IsSelfContext() || LocalGraphScope;
@@ -33,16 +35,20 @@ void FBlueprintEditorUtils::ReplaceFunctionReferences(UBlueprint* Blueprint, con
 
 bool FBlueprintEditorUtils::IsVariableUsed(const UBlueprint* Blueprint, const FName& VariableName, const UEdGraph* LocalGraphScope)
 {
-	const TArray<FMemberUse> Uses = LocalGraphScope ? FMemberUses::FindOfLocalVariable(*Blueprint, LocalGraphScope->GetName(), VariableName) : FMemberUses::FindOfVariable(*Blueprint, VariableName);
+	const TArray<FMemberUse> Uses = LocalGraphScope ? FMemberUses::FindOfLocalVariable(*Blueprint, LocalGraphScope->GetName(), VariableName)
+													: FMemberUses::FindOfVariable(*Blueprint, VariableName);
 	return Uses.ContainsByPredicate([Blueprint](const FMemberUse& Use)
 		{ return Use.Node->GetBlueprint() == Blueprint; });
 }
 
-void FBlueprintEditorUtils::GetUsedAndUnusedVariables(UBlueprint* Blueprint, TArray<FProperty*>& OutUsedVariables, TArray<FProperty*>& OutUnusedVariables)
+void FBlueprintEditorUtils::GetUsedAndUnusedVariables(
+	UBlueprint* Blueprint, TArray<FProperty*>& OutUsedVariables, TArray<FProperty*>& OutUnusedVariables)
 {
 	for (const FBPVariableDescription& Variable : Blueprint->NewVariables)
 	{
-		FProperty* const Property = Blueprint->SkeletonGeneratedClass ? FindFProperty<FProperty>(Blueprint->SkeletonGeneratedClass.Get(), Variable.VarName) : nullptr;
+		FProperty* const Property = Blueprint->SkeletonGeneratedClass
+			? FindFProperty<FProperty>(Blueprint->SkeletonGeneratedClass.Get(), Variable.VarName)
+			: nullptr;
 		if (Property)
 		{
 			(IsVariableUsed(Blueprint, Variable.VarName) ? OutUsedVariables : OutUnusedVariables).Add(Property);

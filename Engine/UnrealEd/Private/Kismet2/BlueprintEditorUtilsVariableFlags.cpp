@@ -43,7 +43,8 @@ void SetFlags(UBlueprint* Blueprint, const FName& VarName, uint64 Flags, bool bS
 }
 }
 
-void FBlueprintEditorUtils::SetBlueprintVariableMetaData(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, const FString& MetaDataValue)
+void FBlueprintEditorUtils::SetBlueprintVariableMetaData(
+	UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, const FString& MetaDataValue)
 {
 	if (const FVariableAccess Access = Find(Blueprint, VarName, InLocalVarScope))
 	{
@@ -53,7 +54,8 @@ void FBlueprintEditorUtils::SetBlueprintVariableMetaData(UBlueprint* Blueprint, 
 	}
 }
 
-bool FBlueprintEditorUtils::GetBlueprintVariableMetaData(const UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, FString& OutMetaDataValue)
+bool FBlueprintEditorUtils::GetBlueprintVariableMetaData(
+	const UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, FString& OutMetaDataValue)
 {
 	const FBPVariableDescription* const Variable = Find(Blueprint, VarName, InLocalVarScope).Variable;
 	if (!Variable || !Variable->HasMetaData(MetaDataKey))
@@ -65,7 +67,8 @@ bool FBlueprintEditorUtils::GetBlueprintVariableMetaData(const UBlueprint* Bluep
 	return true;
 }
 
-void FBlueprintEditorUtils::RemoveBlueprintVariableMetaData(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey)
+void FBlueprintEditorUtils::RemoveBlueprintVariableMetaData(
+	UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey)
 {
 	if (const FVariableAccess Access = Find(Blueprint, VarName, InLocalVarScope))
 	{
@@ -75,7 +78,8 @@ void FBlueprintEditorUtils::RemoveBlueprintVariableMetaData(UBlueprint* Blueprin
 	}
 }
 
-void FBlueprintEditorUtils::SetBlueprintVariableCategory(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FText& NewCategory, bool bDontRecompile)
+void FBlueprintEditorUtils::SetBlueprintVariableCategory(
+	UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FText& NewCategory, bool bDontRecompile)
 {
 	const FVariableAccess Access = Find(Blueprint, VarName, InLocalVarScope);
 	if (!Access || Access.Variable->Category.EqualTo(NewCategory))

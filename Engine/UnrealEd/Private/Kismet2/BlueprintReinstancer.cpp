@@ -204,6 +204,52 @@ void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FSt
 	Class.InheritableComponentHandler = Blueprint.InheritableComponentHandler;
 }
 
+namespace
+{
+/** The values that default objects had for variables that were removed since, as text by the variable's id: an undo may bring one back. */
+TMap<FGuid, FString>& GetLostDefaults()
+{
+	static TMap<FGuid, FString> Values;
+	return Values;
+}
+
+void RememberLostDefaults(const UObject& Old, const UBlueprintGeneratedClass& NewClass, const TMap<FName, FGuid>& OldGuids)
+{
+	constexpr int32 MaxValues = 10000;
+	TMap<FGuid, FString>& Lost = GetLostDefaults();
+	for (const TPair<FName, FGuid>& Pair : OldGuids)
+	{
+		const bool bIsLost = Pair.Value.IsValid() && NewClass.FindPropertyNameFromGuid(Pair.Value).IsNone();
+		const FProperty* const Property = bIsLost ? Old.GetClass()->FindPropertyByName(Pair.Key) : nullptr;
+		if (!Property)
+		{
+			continue;
+		}
+		FString Text;
+		Property->ExportTextItem_InContainer(Text, &Old, nullptr, nullptr, PPF_None);
+		if (Lost.Num() >= MaxValues)
+		{
+			Lost.Empty();
+		}
+		Lost.Add(Pair.Value, Text);
+	}
+}
+
+void ReturnLostDefaults(UObject& New, const UBlueprintGeneratedClass& NewClass)
+{
+	TMap<FGuid, FString>& Lost = GetLostDefaults();
+	for (const TPair<FName, FGuid>& Pair : NewClass.PropertyGuids)
+	{
+		FString Text;
+		const FProperty* const Property = Lost.Num() > 0 && Lost.RemoveAndCopyValue(Pair.Value, Text) ? NewClass.FindPropertyByName(Pair.Key) : nullptr;
+		if (Property)
+		{
+			Property->ImportText_InContainer(*Text, &New, &New, PPF_None);
+		}
+	}
+}
+}
+
 void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors) const
 {
 	UObject* const NewDefaultObject = Rebuilt.Class->GetDefaultObject();
@@ -213,6 +259,12 @@ void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt
 	if (Rebuilt.OldDefaultObject)
 	{
 		CopyValues(*Rebuilt.OldDefaultObject, *NewDefaultObject, GetOldPropertyGuids(Rebuilt));
+	}
+	const bool bIsWhatUsersEdit = Rebuilt.Blueprint->GeneratedClass.Get() == Rebuilt.Class;
+	if (Rebuilt.OldDefaultObject && bIsWhatUsersEdit)
+	{
+		RememberLostDefaults(*Rebuilt.OldDefaultObject, *Rebuilt.Class, Rebuilt.OldPropertyGuids);
+		ReturnLostDefaults(*NewDefaultObject, *Rebuilt.Class);
 	}
 }
 

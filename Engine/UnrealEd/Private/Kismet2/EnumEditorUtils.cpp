@@ -48,8 +48,9 @@ const FNumericProperty* FindNumber(const FProperty* Property, const UEnum& Enum)
 {
 	const FByteProperty* const Byte = CastField<FByteProperty>(Property);
 	const FEnumProperty* const EnumProperty = CastField<FEnumProperty>(Property);
-	return Byte && Byte->Enum == &Enum ? Byte : EnumProperty && EnumProperty->GetEnum() == &Enum ? EnumProperty->GetUnderlyingProperty()
-																								 : nullptr;
+	return Byte && Byte->Enum == &Enum                     ? Byte
+		: EnumProperty && EnumProperty->GetEnum() == &Enum ? EnumProperty->GetUnderlyingProperty()
+														   : nullptr;
 }
 
 void ChangeValues(const FProperty& Property, void* Value, const UEnum& Enum, const TMap<int64, int64>& Values);
@@ -135,8 +136,9 @@ void ReconstructNodesOf(const UEnum& Enum)
 	for (UObject* const Object : Nodes)
 	{
 		UK2Node* const Node = CastChecked<UK2Node>(Object);
-		const bool bHasPin = Node->Pins.ContainsByPredicate([&Enum](const UEdGraphPin* Pin)
-			{ return Pin->PinType.PinSubCategoryObject.Get() == &Enum; });
+		const bool bHasPin =
+			Node->Pins.ContainsByPredicate([&Enum](const UEdGraphPin* Pin)
+				{ return Pin->PinType.PinSubCategoryObject.Get() == &Enum; });
 		TArray<UObject*> References;
 		if (!bHasPin)
 		{

@@ -36,12 +36,13 @@ FText INameValidatorInterface::GetErrorText(const FString& Name, EValidatorResul
 		case EValidatorResult::AlreadyInUse:
 			return LOCTEXT("AlreadyInUse_Error", "Name is already in use.");
 		case EValidatorResult::TooLong:
-			return FText::Format(LOCTEXT("NameTooLong_Error", "Names must have fewer than {0} characters!"), FText::AsNumber(FKismetNameValidator::GetMaximumNameLength()));
+			return FText::Format(LOCTEXT("NameTooLong_Error", "Names must have fewer than {0} characters!"),
+				FText::AsNumber(FKismetNameValidator::GetMaximumNameLength()));
 		case EValidatorResult::LocallyInUse:
 			return LOCTEXT("LocallyInUse_Error", "Conflicts with another object in the same scope!");
 		case EValidatorResult::ContainsInvalidCharacters:
-			return FText::Format(LOCTEXT("ContainsInvalidCharacters_Error", "Name {0} cannot contain the following characters: {1}"), FText::FromString(Name),
-				FText::FromString(INVALID_OBJECTNAME_CHARACTERS));
+			return FText::Format(LOCTEXT("ContainsInvalidCharacters_Error", "Name {0} cannot contain the following characters: {1}"),
+				FText::FromString(Name), FText::FromString(INVALID_OBJECTNAME_CHARACTERS));
 		case EValidatorResult::ExistingName:
 		case EValidatorResult::Ok:
 			break;
@@ -95,7 +96,8 @@ FKismetNameValidator::FKismetNameValidator(const UBlueprint* Blueprint, FName In
 	}
 	// The function may have been declared after the skeleton class was built.
 	const UEdGraph* const ScopeGraph = InScope ? FBlueprintEditorUtils::FindScopeGraph(Blueprint, InScope) : nullptr;
-	const UK2Node_FunctionEntry* const Entry = ScopeGraph ? Cast<UK2Node_FunctionEntry>(FBlueprintEditorUtils::GetEntryNode(ScopeGraph)) : nullptr;
+	const UK2Node_FunctionEntry* const Entry =
+		ScopeGraph ? Cast<UK2Node_FunctionEntry>(FBlueprintEditorUtils::GetEntryNode(ScopeGraph)) : nullptr;
 	if (Entry)
 	{
 		for (const FBPVariableDescription& Local : Entry->LocalVariables)

@@ -15,7 +15,8 @@
 namespace
 {
 template <class NodeType>
-void Collect(FMemberReference NodeType::*Member, TFunctionRef<bool(const UK2Node&, const FMemberReference&)> IsUse, TArray<FMemberUse>& OutUses)
+void Collect(
+	FMemberReference NodeType::*Member, TFunctionRef<bool(const UK2Node&, const FMemberReference&)> IsUse, TArray<FMemberUse>& OutUses)
 {
 	TArray<UObject*> Nodes;
 	GetObjectsOfClass(NodeType::StaticClass(), Nodes, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
@@ -113,7 +114,8 @@ void FMemberUses::Rename(const TArray<FMemberUse>& Uses, FName OldName, FName Ne
 		}
 		else
 		{
-			Use.Reference->SetDirect(NewName, Use.Reference->GetMemberGuid(), Use.Reference->GetMemberParentClass(), Use.Reference->IsSelfContext());
+			Use.Reference->SetDirect(
+				NewName, Use.Reference->GetMemberGuid(), Use.Reference->GetMemberParentClass(), Use.Reference->IsSelfContext());
 		}
 		UEdGraphPin* const Pin = Use.Node->IsA<UK2Node_Variable>() ? Use.Node->FindPin(OldName) : nullptr;
 		if (Pin)

@@ -36,7 +36,8 @@ FName MakePropertyName(UUserDefinedStructEditorData& Data, const FString& Friend
 	{
 		Base.AppendChar(FChar::IsAlnum(Character) || Character == TEXT('_') ? Character : TEXT('_'));
 	}
-	return FName(*FString::Printf(TEXT("%s_%u_%s"), *Base, Data.GenerateUniqueNameIdForMemberVariable(), *Guid.ToString(EGuidFormats::Digits)));
+	return FName(
+		*FString::Printf(TEXT("%s_%u_%s"), *Base, Data.GenerateUniqueNameIdForMemberVariable(), *Guid.ToString(EGuidFormats::Digits)));
 }
 
 void AddDescription(UUserDefinedStructEditorData& Data, const FEdGraphPinType& Type)
@@ -47,7 +48,8 @@ void AddDescription(UUserDefinedStructEditorData& Data, const FEdGraphPinType& T
 	do
 	{
 		Variable.FriendlyName = FString::Printf(TEXT("MemberVar_%d"), Number++);
-	} while (Data.VariablesDescriptions.ContainsByPredicate([&Variable](const FStructVariableDescription& Other)
+	} while (Data.VariablesDescriptions.ContainsByPredicate(
+		[&Variable](const FStructVariableDescription& Other)
 		{ return Other.FriendlyName == Variable.FriendlyName; }));
 	Variable.VarName = MakePropertyName(Data, Variable.FriendlyName, Variable.VarGuid);
 	Variable.SetPinType(Type);
@@ -87,15 +89,9 @@ FEdGraphPinType FStructVariableDescription::ToPinType() const
 	return FEdGraphPinType(Category, SubCategory, SubCategoryObject.LoadSynchronous(), ContainerType, false, PinValueType);
 }
 
-UUserDefinedStruct* UUserDefinedStructEditorData::GetOwnerStruct() const
-{
-	return Cast<UUserDefinedStruct>(GetOuter());
-}
+UUserDefinedStruct* UUserDefinedStructEditorData::GetOwnerStruct() const { return Cast<UUserDefinedStruct>(GetOuter()); }
 
-uint32 UUserDefinedStructEditorData::GenerateUniqueNameIdForMemberVariable()
-{
-	return UniqueNameId++;
-}
+uint32 UUserDefinedStructEditorData::GenerateUniqueNameIdForMemberVariable() { return UniqueNameId++; }
 
 void UUserDefinedStructEditorData::PostEditUndo()
 {
@@ -129,7 +125,8 @@ bool FStructureEditorUtils::CanHaveAMemberVariableOfType(const UUserDefinedStruc
 	{
 		return Refuse(OutMsg, LOCTEXT("IncorrectStructType", "Incorrect struct type in a structure member variable."));
 	}
-	if (IsBad(VarType.PinCategory, VarType.PinSubCategoryObject.Get()) || (VarType.IsMap() && IsBad(VarType.PinValueType.TerminalCategory, VarType.PinValueType.TerminalSubCategoryObject.Get())))
+	if (IsBad(VarType.PinCategory, VarType.PinSubCategoryObject.Get()) ||
+		(VarType.IsMap() && IsBad(VarType.PinValueType.TerminalCategory, VarType.PinValueType.TerminalSubCategoryObject.Get())))
 	{
 		return Refuse(OutMsg, LOCTEXT("StructRecursion", "Struct recursion is not allowed."));
 	}
@@ -171,7 +168,8 @@ bool FStructureEditorUtils::RenameVariable(UUserDefinedStruct* Struct, FGuid Var
 {
 	UUserDefinedStructEditorData* const Data = GetData(Struct);
 	FStructVariableDescription* const Variable = GetVarDescByGuid(Struct, VarGuid);
-	const bool bIsName = !NewDisplayNameStr.TrimStartAndEnd().IsEmpty() && NewDisplayNameStr.Len() < MaxNameLength && IsUniqueVariableFriendlyName(Struct, NewDisplayNameStr);
+	const bool bIsName = !NewDisplayNameStr.TrimStartAndEnd().IsEmpty() && NewDisplayNameStr.Len() < MaxNameLength &&
+		IsUniqueVariableFriendlyName(Struct, NewDisplayNameStr);
 	if (!Variable || !bIsName)
 	{
 		return false;
@@ -262,8 +260,9 @@ bool FStructureEditorUtils::MoveVariable(UUserDefinedStruct* Struct, FGuid VarGu
 		return false;
 	}
 	TArray<FStructVariableDescription>& Variables = GetVarDesc(Struct);
-	const int32 Index = Variables.IndexOfByPredicate([&VarGuid](const FStructVariableDescription& Variable)
-		{ return Variable.VarGuid == VarGuid; });
+	const int32 Index =
+		Variables.IndexOfByPredicate([&VarGuid](const FStructVariableDescription& Variable)
+			{ return Variable.VarGuid == VarGuid; });
 	const int32 Target = MoveDirection == MD_Up ? Index - 1 : Index + 1;
 	if (!Variables.IsValidIndex(Target))
 	{
@@ -289,7 +288,8 @@ const TArray<FStructVariableDescription>& FStructureEditorUtils::GetVarDesc(cons
 FStructVariableDescription* FStructureEditorUtils::GetVarDescByGuid(UUserDefinedStruct* Struct, FGuid VarGuid)
 {
 	UUserDefinedStructEditorData* const Data = GetData(Struct);
-	return Data ? Data->VariablesDescriptions.FindByPredicate([&VarGuid](const FStructVariableDescription& Variable)
+	return Data ? Data->VariablesDescriptions.FindByPredicate(
+					  [&VarGuid](const FStructVariableDescription& Variable)
 					  { return Variable.VarGuid == VarGuid; })
 				: nullptr;
 }
@@ -308,15 +308,18 @@ FGuid FStructureEditorUtils::GetGuidForProperty(const FProperty* Property)
 FProperty* FStructureEditorUtils::GetPropertyByFriendlyName(const UUserDefinedStruct* Struct, FString DisplayName)
 {
 	const UUserDefinedStructEditorData* const Data = GetData(Struct);
-	const FStructVariableDescription* const Variable = Data ? Data->VariablesDescriptions.FindByPredicate([&DisplayName](const FStructVariableDescription& Candidate)
-																  { return Candidate.FriendlyName == DisplayName; })
-															: nullptr;
+	const FStructVariableDescription* const Variable = Data
+		? Data->VariablesDescriptions.FindByPredicate(
+			  [&DisplayName](const FStructVariableDescription& Candidate)
+			  { return Candidate.FriendlyName == DisplayName; })
+		: nullptr;
 	return Variable ? FindFProperty<FProperty>(Struct, Variable->VarName) : nullptr;
 }
 
 bool FStructureEditorUtils::IsUniqueVariableFriendlyName(const UUserDefinedStruct* Struct, const FString& DisplayName)
 {
-	return !GetVarDesc(Struct).ContainsByPredicate([&DisplayName](const FStructVariableDescription& Variable)
+	return !GetVarDesc(Struct).ContainsByPredicate(
+		[&DisplayName](const FStructVariableDescription& Variable)
 		{ return Variable.FriendlyName == DisplayName; });
 }
 

@@ -91,8 +91,10 @@ bool FUserDefinedStructCompiler::UsesRebuilt(const UStruct& Owner) const
 		[this, &bUses](const FProperty& Property)
 		{
 			const FStructProperty* const Member = CastField<FStructProperty>(&Property);
-			bUses = bUses || (Member && Structs.ContainsByPredicate([Member](const FRebuiltStruct& Rebuilt)
-										{ return Rebuilt.Struct == Member->Struct; }));
+			bUses = bUses ||
+				(Member &&
+					Structs.ContainsByPredicate([Member](const FRebuiltStruct& Rebuilt)
+						{ return Rebuilt.Struct == Member->Struct; }));
 		});
 	return bUses;
 }
@@ -103,9 +105,10 @@ void FUserDefinedStructCompiler::PointToOldStructs(UStruct& Owner) const
 		[this](FProperty& Property)
 		{
 			FStructProperty* const Member = CastField<FStructProperty>(&Property);
-			const FRebuiltStruct* const Rebuilt = Member ? Structs.FindByPredicate([Member](const FRebuiltStruct& Candidate)
-															   { return Candidate.Struct == Member->Struct; })
-														 : nullptr;
+			const FRebuiltStruct* const Rebuilt = Member
+				? Structs.FindByPredicate([Member](const FRebuiltStruct& Candidate)
+					  { return Candidate.Struct == Member->Struct; })
+				: nullptr;
 			if (Rebuilt)
 			{
 				Member->Struct = Rebuilt->OldStruct;
@@ -122,8 +125,8 @@ void FUserDefinedStructCompiler::BuildMembers(UUserDefinedStruct& Struct)
 	{
 		FPropertyDescription Description;
 		Variable.bInvalidMember = !DescribePinType(Variable.VarName, Variable.ToPinType(), nullptr, Description);
-		Description.PropertyFlags = static_cast<EPropertyFlags>(CPF_Edit | CPF_BlueprintVisible | (Variable.bDontEditOnInstance ? CPF_DisableEditOnInstance : CPF_None) |
-			(Variable.bEnableSaveGame ? CPF_SaveGame : CPF_None));
+		Description.PropertyFlags = static_cast<EPropertyFlags>(CPF_Edit | CPF_BlueprintVisible |
+			(Variable.bDontEditOnInstance ? CPF_DisableEditOnInstance : CPF_None) | (Variable.bEnableSaveGame ? CPF_SaveGame : CPF_None));
 		FProperty* const Property = Variable.bInvalidMember ? nullptr : ConstructPropertyFromDescription(&Struct, Description);
 		if (!Property)
 		{
@@ -146,7 +149,8 @@ void FUserDefinedStructCompiler::BuildMembers(UUserDefinedStruct& Struct)
 		{
 			for (const FStructVariableDescription& Variable : FStructureEditorUtils::GetVarDesc(&Struct))
 			{
-				const FProperty* const Property = Variable.DefaultValue.IsEmpty() ? nullptr : FindFProperty<FProperty>(&Struct, Variable.VarName);
+				const FProperty* const Property =
+					Variable.DefaultValue.IsEmpty() ? nullptr : FindFProperty<FProperty>(&Struct, Variable.VarName);
 				if (Property)
 				{
 					Property->ImportText_InContainer(*Variable.DefaultValue, Instance, &Struct, PPF_None);
@@ -164,8 +168,10 @@ void FUserDefinedStructCompiler::Compile()
 		const bool bIsInUse = Blueprint && (Blueprint->GeneratedClass.Get() == Class || Blueprint->SkeletonGeneratedClass.Get() == Class);
 		TArray<UObject*> Functions;
 		GetObjectsWithOuter(Class, Functions, false);
-		const bool bUses = UsesRebuilt(*Class) || Functions.ContainsByPredicate([this](const UObject* Function)
-													  { return Function->IsA<UFunction>() && UsesRebuilt(*CastChecked<UFunction>(Function)); });
+		const bool bUses = UsesRebuilt(*Class) ||
+			Functions.ContainsByPredicate(
+				[this](const UObject* Function)
+				{ return Function->IsA<UFunction>() && UsesRebuilt(*CastChecked<UFunction>(Function)); });
 		if (bIsInUse && bUses)
 		{
 			Classes.Add(Class);
@@ -173,7 +179,8 @@ void FUserDefinedStructCompiler::Compile()
 	}
 	for (FRebuiltStruct& Rebuilt : Structs)
 	{
-		const FName OldName = MakeUniqueObjectName(GetTransientPackageAsObject(), UUserDefinedStruct::StaticClass(), FName(*(TEXT("STRUCT_REINST_") + Rebuilt.Struct->GetName())));
+		const FName OldName = MakeUniqueObjectName(
+			GetTransientPackageAsObject(), UUserDefinedStruct::StaticClass(), FName(*(TEXT("STRUCT_REINST_") + Rebuilt.Struct->GetName())));
 		Rebuilt.OldStruct = NewObject<UUserDefinedStruct>(GetTransientPackageAsObject(), OldName, RF_Transient);
 		Rebuilt.Struct->MoveMembersTo(*Rebuilt.OldStruct);
 	}

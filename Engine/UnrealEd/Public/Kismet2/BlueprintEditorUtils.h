@@ -189,6 +189,8 @@ public:
 	static void MarkBlueprintAsStructurallyModified(UBlueprint* Blueprint);
 	static void RefreshAllNodes(UBlueprint* Blueprint);
 	static void ReconstructAllNodes(UBlueprint* Blueprint);
+	/** Gives a copy of a Blueprint, which names the classes of the original, classes, components and timelines of its own, and compiles it. */
+	static void PostDuplicateBlueprint(UBlueprint* Blueprint, bool bDuplicateForPIE);
 	static void PreloadMembers(UObject* InObject);
 	static void PreloadBlueprintSpecificData(UBlueprint* Blueprint);
 	static bool IsBlueprintFreshlyLoaded(const UBlueprint* Blueprint) { return Blueprint->Status == BS_Unknown; }
