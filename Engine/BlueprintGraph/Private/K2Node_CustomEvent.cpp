@@ -2,7 +2,9 @@
 
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
+#include "K2Node_CallFunction.h"
 #include "UObject/Class.h"
+#include "UObject/UObjectHash.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
@@ -31,6 +33,33 @@ bool IsNameTaken(const UK2Node_CustomEvent& Node, const FName Name)
 	const bool bIsVariable = Blueprint && Blueprint->NewVariables.ContainsByPredicate([Name](const FBPVariableDescription& Variable)
 											  { return Variable.VarName == Name; });
 	return bIsVariable || (Parent && (Parent->FindFunctionByName(Name) || Parent->FindPropertyByName(Name)));
+}
+
+/** Calls of the event in all loaded Blueprints know it by its name. */
+void RenameCalls(const UK2Node_CustomEvent& Event, FName NewName)
+{
+	TArray<UObject*> Calls;
+	GetObjectsOfClass(UK2Node_CallFunction::StaticClass(), Calls, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
+	for (UObject* const Object : Calls)
+	{
+		UK2Node_CallFunction* const Call = CastChecked<UK2Node_CallFunction>(Object);
+		FMemberReference& Reference = Call->FunctionReference;
+		if (Reference.GetMemberName() != Event.CustomFunctionName)
+		{
+			continue;
+		}
+		const UClass* const Scope = Reference.GetScope(Call->GetBlueprintClassFromNode());
+		bool bIsOfBlueprint = false;
+		for (const UClass* Class = Scope; Class && !bIsOfBlueprint; Class = Class->GetSuperClass())
+		{
+			bIsOfBlueprint = Class->ClassGeneratedBy == Event.GetBlueprint();
+		}
+		if (bIsOfBlueprint)
+		{
+			Call->Modify();
+			Reference.SetDirect(NewName, Reference.GetMemberGuid(), Reference.GetMemberParentClass(), Reference.IsSelfContext());
+		}
+	}
 }
 }
 
@@ -74,6 +103,8 @@ void UK2Node_CustomEvent::OnRenameNode(const FString& NewName)
 	const FName Name(*NewName);
 	if (!NewName.IsEmpty() && !IsNameTaken(*this, Name))
 	{
+		RenameCalls(*this, Name);
+		Modify();
 		CustomFunctionName = Name;
 		UpdateDelegatePin();
 	}

@@ -82,6 +82,7 @@ UEdGraphPin* UK2Node_EditablePinBase::CreateUserDefinedPin(const FName InPinName
 	{
 		Name = FName(*FString::Printf(TEXT("%s%d"), *InPinName.ToString(), Number));
 	}
+	Modify();
 	const TSharedPtr<FUserPinInfo> Info = MakeShared<FUserPinInfo>();
 	Info->PinName = Name;
 	Info->PinType = InPinType;
@@ -94,6 +95,7 @@ void UK2Node_EditablePinBase::RemoveUserDefinedPin(TSharedPtr<FUserPinInfo> PinT
 {
 	if (PinToRemove)
 	{
+		Modify();
 		RemovePin(FindPin(PinToRemove->PinName, PinToRemove->DesiredPinDirection));
 		UserDefinedPins.Remove(PinToRemove);
 	}
@@ -126,6 +128,7 @@ bool UK2Node_EditablePinBase::ModifyUserDefinedPinDefaultValue(TSharedPtr<FUserP
 	{
 		return false;
 	}
+	Modify();
 	PinInfo->PinDefaultValue = NewDefaultValue;
 	if (Pin)
 	{

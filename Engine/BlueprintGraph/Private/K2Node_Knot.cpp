@@ -88,6 +88,11 @@ void UK2Node_Knot::PropagatePinType()
 	Type = End ? End->PinType : Type;
 	for (UK2Node_Knot* const Knot : Chain)
 	{
+		if (Knot->GetInputPin()->PinType == Type && Knot->GetOutputPin()->PinType == Type)
+		{
+			continue;
+		}
+		Knot->Modify();
 		Knot->GetInputPin()->PinType = Type;
 		Knot->GetOutputPin()->PinType = Type;
 	}

@@ -104,18 +104,28 @@ bool UObject::ConditionalFinishDestroy()
 	return true;
 }
 
-bool UObject::SaveToTransaction(bool bMarkDirty)
+bool SaveToTransactionBuffer(UObject* Object, bool bMarkDirty)
 {
-	if (!GUndo || !HasAnyFlags(RF_Transactional) || GetOutermost()->HasAnyPackageFlags(PKG_ContainsScript))
+	// A struct or a class is made again from what declares it; its own state would not fit the instances that it has by then.
+	const bool bIsRebuilt = Object->GetClass()->HasAnyCastFlag(CASTCLASS_UStruct);
+	if (!GUndo || bIsRebuilt || !Object->HasAnyFlags(RF_Transactional) || Object->GetOutermost()->HasAnyPackageFlags(PKG_ContainsScript))
 	{
 		return false;
 	}
 	if (bMarkDirty)
 	{
-		MarkPackageDirty();
+		Object->MarkPackageDirty();
 	}
-	GUndo->SaveObject(this);
+	GUndo->SaveObject(Object);
 	return true;
+}
+
+void SnapshotTransactionBuffer(UObject* Object, TArrayView<const FProperty*> Properties)
+{
+	if (GUndo && Object->HasAnyFlags(RF_Transactional))
+	{
+		GUndo->SnapshotObject(Object, Properties);
+	}
 }
 
 bool UObject::Modify(bool bAlwaysMarkDirty)
@@ -130,7 +140,7 @@ bool UObject::Modify(bool bAlwaysMarkDirty)
 		(!Package->HasAnyPackageFlags(PKG_PlayInEditor | PKG_ContainsScript | PKG_CompiledIn) ||
 			GetClass()->HasAnyClassFlags(CLASS_DefaultConfig | CLASS_Config)))
 	{
-		bSaved = SaveToTransaction(bAlwaysMarkDirty);
+		bSaved = SaveToTransactionBuffer(this, bAlwaysMarkDirty);
 		if (!bSaved && bAlwaysMarkDirty)
 		{
 			MarkPackageDirty();
@@ -270,7 +280,7 @@ bool UObject::Rename(const TCHAR* NewName, UObject* NewOuter, ERenameFlagsType F
 	}
 	if (!(Flags & REN_NonTransactional))
 	{
-		SaveToTransaction(false);
+		SaveToTransactionBuffer(this, false);
 	}
 	const bool bDirty = !(Flags & REN_DoNotDirty);
 	if (bDirty && !HasAnyFlags(RF_Transient))

@@ -1,3 +1,4 @@
+#include "Misc/ITransaction.h"
 #include "ObjectBootstrap.h"
 #include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
@@ -22,6 +23,19 @@ void ReportNameTaken(UObject* Existing, const UClass* Class)
 	UE_LOG(LogUObjectGlobals, Error, TEXT("%s is in the way of a new object of class %s and is moved to the transient package."),
 		*Existing->GetFullName(), *Class->GetName());
 	Existing->Rename(nullptr, GetTransientPackageAsObject(), REN_ForceGlobalUnique | REN_DoNotDirty | REN_NonTransactional);
+}
+
+/** Before it was made the object was not there: to the open transaction it is as one that was given up. */
+void RememberCreation(UObject& Object, const FStaticConstructObjectParameters& Params)
+{
+	constexpr EObjectFlags NotForUndo = static_cast<EObjectFlags>(RF_ClassDefaultObject | RF_NeedLoad);
+	const bool bRemember = GUndo && (Params.SetFlags & RF_Transactional) != 0 && (Params.SetFlags & NotForUndo) == 0 && !Object.IsA<UField>();
+	if (bRemember)
+	{
+		Object.MarkAsGarbage();
+		SaveToTransactionBuffer(&Object, false);
+		Object.ClearGarbage();
+	}
 }
 }
 
@@ -56,6 +70,11 @@ UObject* StaticAllocateObject(const UClass* Class, UObject* InOuter, FName Name,
 				*bOutReusedSubobject = true;
 			}
 			return Existing;
+		}
+		else if (GUndo && Existing->HasAnyFlags(RF_Transactional) && !Existing->HasAnyFlags(static_cast<EObjectFlags>(RF_ClassDefaultObject | RF_DefaultSubObject)))
+		{
+			// An undo may bring it back, so it is not there to be overwritten.
+			Existing->Rename(nullptr, GetTransientPackageAsObject(), REN_ForceGlobalUnique | REN_DoNotDirty | REN_DontCreateRedirectors);
 		}
 		else
 		{
@@ -157,6 +176,7 @@ UObject* StaticConstructObject_Internal(const FStaticConstructObjectParameters& 
 	{
 		UE::CoreUObject::ReplacePlaceholder(Replaced, Object);
 	}
+	RememberCreation(*Object, Params);
 	return Object;
 }
 

@@ -54,7 +54,7 @@ void UObject::Serialize(FArchive& Ar)
 		FName Name;
 		UObject* Outer = nullptr;
 		SerializeIdentityForUndo(Ar, this, Name, Outer);
-		if (Ar.IsLoading() && (Name != GetFName() || Outer != GetOuter()))
+		if (Ar.IsLoading() && (!Name.IsEqual(GetFName(), ENameCase::CaseSensitive) || Outer != GetOuter()))
 		{
 			LowLevelRename(Name, Outer);
 		}

@@ -94,7 +94,7 @@ public:
 	void SerializeScriptProperties(FArchive& Ar) const;
 	/** What the object holds beyond reflected properties. A class may declare its own; it calls Super's. */
 	static void AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector) {}
-	/** Remembers the state in the open transaction. Answers whether it was remembered. */
+	/** Call before each change: remembers the state in the open transaction. Answers whether it was remembered. */
 	virtual bool Modify(bool bAlwaysMarkDirty = true);
 	virtual bool CanModify() const { return true; }
 	virtual bool IsAsset() const;
@@ -195,8 +195,6 @@ public:
 	static bool IsReferenced(UObject*& Res, EObjectFlags KeepFlags, EInternalObjectFlags InternalKeepFlags, bool bCheckSubObjects = false);
 
 private:
-	bool SaveToTransaction(bool bMarkDirty);
-
 	friend class FObjectInitializer;
 	friend struct FObjectBootstrap;
 };

@@ -280,6 +280,13 @@ COREUOBJECT_API UPackage* FindPackage(UObject* InOuter, const TCHAR* PackageName
 COREUOBJECT_API bool IsReferenced(
 	UObject*& Res, EObjectFlags KeepFlags, EInternalObjectFlags InternalKeepFlags, bool bCheckSubObjects = false);
 
+// Undo
+
+/** Remembers the object in the open transaction. False when there is none or the object takes no part in undo. */
+COREUOBJECT_API bool SaveToTransactionBuffer(UObject* Object, bool bMarkDirty);
+/** Tells those who follow a change in progress that the object has changed; all its properties when none are named. */
+COREUOBJECT_API void SnapshotTransactionBuffer(UObject* Object, TArrayView<const FProperty*> Properties = TArrayView<const FProperty*>());
+
 // Collection
 
 /** Frees what nothing keeps: no root, native type, FGCObject, object with one of KeepFlags, nor anything these refer to. */

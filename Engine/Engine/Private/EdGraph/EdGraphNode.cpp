@@ -8,6 +8,7 @@
 #include "Serialization/Archive.h"
 #include "UObject/BlueprintsObjectVersion.h"
 #include "UObject/UnrealType.h"
+#include "UObject/WeakObjectPtrTemplates.h"
 
 #define LOCTEXT_NAMESPACE "EdGraph"
 
@@ -16,6 +17,13 @@ namespace
 /** Pixels of one character of a title, and of what stands beside it. */
 constexpr int32 TitleCharacterWidth = 7;
 constexpr int32 TitleMargin = 80;
+
+/** Nodes that a node was linked to before an undo that is going on. */
+TMap<const UEdGraphNode*, TArray<TWeakObjectPtr<UEdGraphNode>>>& GetFormerNeighbours()
+{
+	static TMap<const UEdGraphNode*, TArray<TWeakObjectPtr<UEdGraphNode>>> Neighbours;
+	return Neighbours;
+}
 }
 
 UEdGraphNode::UEdGraphNode(const FObjectInitializer& ObjectInitializer)
@@ -351,10 +359,34 @@ void UEdGraphNode::PostDuplicate(bool bDuplicateForPIE)
 	UEdGraphPin::SanitizePinsPostUndoRedo(this, Pins);
 }
 
+void UEdGraphNode::PreEditUndo()
+{
+	Super::PreEditUndo();
+	TArray<TWeakObjectPtr<UEdGraphNode>> Neighbours;
+	for (const UEdGraphPin* const Pin : Pins)
+	{
+		for (const UEdGraphPin* const Linked : Pin->LinkedTo)
+		{
+			Neighbours.AddUnique(Linked->GetOwningNodeUnchecked());
+		}
+	}
+	GetFormerNeighbours().Add(this, MoveTemp(Neighbours));
+}
+
 void UEdGraphNode::PostEditUndo()
 {
 	Super::PostEditUndo();
 	UEdGraphPin::SanitizePinsPostUndoRedo(this, Pins);
+	// A neighbour that the transaction knows nothing of keeps its end of a link that this node's restored state does not have.
+	TArray<TWeakObjectPtr<UEdGraphNode>> Neighbours;
+	GetFormerNeighbours().RemoveAndCopyValue(this, Neighbours);
+	for (const TWeakObjectPtr<UEdGraphNode>& Neighbour : Neighbours)
+	{
+		if (UEdGraphNode* const Node = Neighbour.Get(true))
+		{
+			UEdGraphPin::SanitizePinsPostUndoRedo(Node, Node->Pins);
+		}
+	}
 }
 
 void UEdGraphNode::PostEditImport()

@@ -1,14 +1,17 @@
 #include "Engine/SimpleConstructionScript.h"
 
-#include "Components/ActorComponent.h"
+#include "Components/SceneComponent.h"
 #include "Engine/BlueprintGeneratedClass.h"
 #include "Engine/SCS_Node.h"
+#include "GameFramework/Actor.h"
 #include "UObject/UObjectGlobals.h"
 
 FString USCS_Node::ComponentTemplateNameSuffix(TEXT("_GEN_VARIABLE"));
 
 namespace
 {
+const TCHAR* const DefaultSceneRootName = TEXT("DefaultSceneRoot");
+
 /** A pointer array of the wrapped type has the layout of one of the raw type. */
 template <typename T>
 const TArray<T*>& AsRawArray(const TArray<TObjectPtr<T>>& Array)
@@ -148,6 +151,59 @@ void USimpleConstructionScript::AddNode(USCS_Node* Node)
 	Modify();
 	RootNodes.Add(Node);
 	AllNodes.AddUnique(Node);
+	ValidateSceneRootNodes();
+}
+
+void USimpleConstructionScript::ValidateSceneRootNodes()
+{
+	const UClass* const ParentClass = GetParentClass();
+	const AActor* const ParentDefaults = ParentClass && ParentClass->IsChildOf(AActor::StaticClass()) ? GetDefault<AActor>(ParentClass) : nullptr;
+	if (!ParentDefaults)
+	{
+		return;
+	}
+	TArray<const UBlueprintGeneratedClass*> Parents;
+	UBlueprintGeneratedClass::GetGeneratedClassesHierarchy(ParentClass, Parents);
+	const auto IsSceneRoot = [this](const USCS_Node* Node)
+	{ return Node && Node != DefaultSceneRootNode && Node->ComponentTemplate && Node->ComponentTemplate->IsA<USceneComponent>(); };
+	const bool bParentHasRoot = ParentDefaults->GetRootComponent() || Parents.ContainsByPredicate([](const UBlueprintGeneratedClass* Parent)
+																		  { return Parent->SimpleConstructionScript && Parent->SimpleConstructionScript->GetRootNodes().Num() > 0; });
+	const bool bNeedsDefault = !bParentHasRoot && !RootNodes.ContainsByPredicate([&IsSceneRoot](const USCS_Node* Node)
+													  { return IsSceneRoot(Node); });
+	const bool bHasDefault = DefaultSceneRootNode && RootNodes.Contains(DefaultSceneRootNode);
+	if (bNeedsDefault && !bHasDefault)
+	{
+		Modify();
+		if (!DefaultSceneRootNode)
+		{
+			DefaultSceneRootNode = CreateNode(USceneComponent::StaticClass(), DefaultSceneRootName);
+		}
+		RootNodes.Add(DefaultSceneRootNode);
+		AllNodes.AddUnique(DefaultSceneRootNode);
+	}
+	else if (!bNeedsDefault && bHasDefault)
+	{
+		Modify();
+		// What hung below it hangs below the component that takes its place.
+		TObjectPtr<USCS_Node>* const Successor = RootNodes.FindByPredicate([&IsSceneRoot](const USCS_Node* Node)
+			{ return IsSceneRoot(Node); });
+		DefaultSceneRootNode->Modify();
+		const TArray<TObjectPtr<USCS_Node>> Children = DefaultSceneRootNode->ChildNodes;
+		DefaultSceneRootNode->ChildNodes.Empty();
+		RootNodes.Remove(DefaultSceneRootNode);
+		AllNodes.Remove(DefaultSceneRootNode);
+		for (USCS_Node* const Child : Children)
+		{
+			if (Successor)
+			{
+				(*Successor)->AddChildNode(Child, false);
+			}
+			else
+			{
+				RootNodes.Add(Child);
+			}
+		}
+	}
 }
 
 void USimpleConstructionScript::RemoveFromAllNodes(USCS_Node* Node)
@@ -174,9 +230,9 @@ void USimpleConstructionScript::RemoveNode(USCS_Node* Node, const bool bValidate
 	{
 		Parent->RemoveChildNode(Node);
 	}
-	if (Node == DefaultSceneRootNode)
+	if (bValidateSceneRootNodes)
 	{
-		DefaultSceneRootNode = nullptr;
+		ValidateSceneRootNodes();
 	}
 }
 
@@ -191,7 +247,7 @@ void USimpleConstructionScript::RemoveNodeAndPromoteChildren(USCS_Node* Node)
 	const TArray<TObjectPtr<USCS_Node>> Children = Node->ChildNodes;
 	Node->Modify();
 	Node->ChildNodes.Empty();
-	RemoveNode(Node);
+	RemoveNode(Node, false);
 	for (USCS_Node* const Child : Children)
 	{
 		if (Parent)
@@ -203,6 +259,7 @@ void USimpleConstructionScript::RemoveNodeAndPromoteChildren(USCS_Node* Node)
 			AddNode(Child);
 		}
 	}
+	ValidateSceneRootNodes();
 }
 
 USCS_Node* USimpleConstructionScript::FindSCSNode(const FName InName) const

@@ -287,6 +287,7 @@ public:
 	virtual void PostLoad() override;
 	using UObject::PostDuplicate;
 	virtual void PostDuplicate(bool bDuplicateForPIE) override;
+	virtual void PreEditUndo() override;
 	virtual void PostEditUndo() override;
 	virtual void PostEditImport() override;
 	virtual void BeginDestroy() override;

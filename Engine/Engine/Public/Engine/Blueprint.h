@@ -212,19 +212,19 @@ public:
 	uint8 bRecompileOnLoad : 1;
 
 	/** The generated class was built by this session. */
-	UPROPERTY(Transient)
+	UPROPERTY(NonTransactional, Transient)
 	uint8 bHasBeenRegenerated : 1;
 
-	UPROPERTY(Transient)
+	UPROPERTY(NonTransactional, Transient)
 	uint8 bIsRegeneratingOnLoad : 1;
 
-	UPROPERTY(Transient)
+	UPROPERTY(NonTransactional, Transient)
 	uint8 bBeingCompiled : 1;
 
-	UPROPERTY(Transient)
+	UPROPERTY(NonTransactional, Transient)
 	uint8 bQueuedForCompilation : 1;
 
-	UPROPERTY(Transient)
+	UPROPERTY(NonTransactional, Transient)
 	uint8 bIsNewlyCreated : 1;
 
 	UPROPERTY()
@@ -249,7 +249,7 @@ public:
 	mutable uint8 bDuplicatingReadOnly : 1;
 
 	/** EBlueprintStatus of the last compile. */
-	UPROPERTY(Transient)
+	UPROPERTY(NonTransactional, Transient)
 	TEnumAsByte<enum EBlueprintStatus> Status = BS_Unknown;
 
 	UPROPERTY()

@@ -17,11 +17,11 @@ public:
 	UBlueprintCore(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
 	/** Class with the signatures alone, rebuilt at each structural change; what the editor asks for members. */
-	UPROPERTY(Transient)
+	UPROPERTY(NonTransactional, Transient)
 	TSubclassOf<UObject> SkeletonGeneratedClass;
 
 	/** Class of the last compile. */
-	UPROPERTY()
+	UPROPERTY(NonTransactional)
 	TSubclassOf<UObject> GeneratedClass;
 
 	UPROPERTY()

@@ -24,6 +24,9 @@ public:
 	/** Removes the node; its children take its place. */
 	void RemoveNodeAndPromoteChildren(USCS_Node* Node);
 
+	/** Has the default scene root be a root while actors would have no other scene component there, and only then. */
+	void ValidateSceneRootNodes();
+
 	/** Makes the actor's components, of which the first scene component becomes its root if it has none. */
 	void ExecuteScriptOnActor(AActor* Actor);
 

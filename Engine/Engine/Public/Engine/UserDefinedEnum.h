@@ -21,8 +21,13 @@ public:
 
 	virtual FText GetDisplayNameTextByIndex(int32 NameIndex) const override;
 	FString GenerateNewEnumeratorName();
+	/** The enumerators that the last undo or redo replaced. */
+	TArray<TPair<FName, int64>> TakeEnumeratorsBeforeUndo() { return MoveTemp(EnumeratorsBeforeUndo); }
+	virtual void PreEditUndo() override;
 
 private:
 	UPROPERTY()
 	uint32 UniqueNameIndex = 0;
+
+	TArray<TPair<FName, int64>> EnumeratorsBeforeUndo;
 };

@@ -52,6 +52,7 @@ void UEditorEngine::InitializeEditor()
 	ULevel::MakeLevelScriptBlueprint.BindStatic(&MakeLevelScript);
 	EditorContext = &CreateNewWorldContext(EWorldType::Editor);
 	EditorContext->SetCurrentWorld(UWorld::CreateWorld(EWorldType::Editor, false));
+	InitializeTransactions();
 	EditorSubsystemCollection.Initialize(this);
 }
 
@@ -69,6 +70,7 @@ void UEditorEngine::OpenStartupMap()
 		UE_LOG(LogEditor, Warning, TEXT("The map %s cannot be opened"), *Map);
 		return;
 	}
+	ResetTransaction(NSLOCTEXT("UnrealEd", "LoadMap", "Load Map"));
 	EditorContext->World()->DestroyWorld(false);
 	World->WorldType = EWorldType::Editor;
 	EditorContext->SetCurrentWorld(World);
@@ -78,6 +80,7 @@ void UEditorEngine::ShutdownEditor()
 {
 	ULevel::MakeLevelScriptBlueprint.Unbind();
 	EditorSubsystemCollection.Deinitialize();
+	ShutdownTransactions();
 	if (EditorContext && EditorContext->World())
 	{
 		EditorContext->World()->DestroyWorld(false);

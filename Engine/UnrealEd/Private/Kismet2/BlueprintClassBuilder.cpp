@@ -12,6 +12,7 @@
 #include "K2Node_Event.h"
 #include "K2Node_FunctionEntry.h"
 #include "K2Node_FunctionResult.h"
+#include "PinTypeProperty.h"
 #include "UObject/Interface.h"
 #include "UObject/PropertyConstruction.h"
 #include "UObject/UObjectGlobals.h"
@@ -48,31 +49,6 @@ NodeType* FindNode(const UEdGraph& Graph)
 	Graph.GetNodesOfClass(Nodes);
 	return Nodes.Num() > 0 ? Nodes[0] : nullptr;
 }
-
-/** Categories whose properties need nothing but their kind. */
-bool FindSimpleKind(const FEdGraphPinType& Type, EKind& OutKind)
-{
-	static const TMap<FName, EKind> Kinds = {
-		{UEdGraphSchema_K2::PC_Boolean, EKind::Bool},
-		{UEdGraphSchema_K2::PC_Int, EKind::Int},
-		{UEdGraphSchema_K2::PC_Int64, EKind::Int64},
-		{UEdGraphSchema_K2::PC_Name, EKind::Name},
-		{UEdGraphSchema_K2::PC_String, EKind::Str},
-		{UEdGraphSchema_K2::PC_Text, EKind::Text},
-		{UEdGraphSchema_K2::PC_FieldPath, EKind::FieldPath},
-	};
-	if (Type.PinCategory == UEdGraphSchema_K2::PC_Real)
-	{
-		OutKind = Type.PinSubCategory == UEdGraphSchema_K2::PC_Float ? EKind::Float : EKind::Double;
-		return true;
-	}
-	if (const EKind* const Kind = Kinds.Find(Type.PinCategory))
-	{
-		OutKind = *Kind;
-		return true;
-	}
-	return false;
-}
 }
 
 void FBlueprintClassBuilder::Build(TArray<FString>& OutErrors)
@@ -86,90 +62,10 @@ void FBlueprintClassBuilder::Build(TArray<FString>& OutErrors)
 	AddEvents();
 }
 
-bool FBlueprintClassBuilder::DescribeTerminal(const FEdGraphPinType& Type, FPropertyDescription& OutDescription)
-{
-	if (FindSimpleKind(Type, OutDescription.Kind))
-	{
-		return true;
-	}
-	UObject* const TypeObject = Type.PinSubCategory == UEdGraphSchema_K2::PSC_Self ? &Class : Type.PinSubCategoryObject.Get();
-	const FName Category = Type.PinCategory;
-	if (Category == UEdGraphSchema_K2::PC_Byte || Category == UEdGraphSchema_K2::PC_Enum)
-	{
-		UEnum* const Enum = Cast<UEnum>(TypeObject);
-		OutDescription.Kind = Enum && Enum->GetCppForm() == UEnum::ECppForm::EnumClass ? EKind::Enum : EKind::Byte;
-		OutDescription.Type = Enum;
-		return true;
-	}
-	if (Category == UEdGraphSchema_K2::PC_Struct)
-	{
-		OutDescription.Kind = EKind::Struct;
-		OutDescription.Type = Cast<UScriptStruct>(TypeObject);
-		return OutDescription.Type != nullptr;
-	}
-	if (Category == UEdGraphSchema_K2::PC_Delegate || Category == UEdGraphSchema_K2::PC_MCDelegate)
-	{
-		OutDescription.Kind = Category == UEdGraphSchema_K2::PC_Delegate ? EKind::Delegate : EKind::MulticastInlineDelegate;
-		OutDescription.Type = FMemberReference::ResolveSimpleMemberReference<UFunction>(Type.PinSubCategoryMemberReference, &Class);
-		return OutDescription.Type != nullptr;
-	}
-
-	UClass* const ObjectClass = Cast<UClass>(TypeObject);
-	const bool bIsClassKind = Category == UEdGraphSchema_K2::PC_Class || Category == UEdGraphSchema_K2::PC_SoftClass;
-	if (Category == UEdGraphSchema_K2::PC_Object)
-	{
-		OutDescription.Kind = Type.bIsWeakPointer ? EKind::WeakObject : EKind::Object;
-	}
-	else if (Category == UEdGraphSchema_K2::PC_SoftObject)
-	{
-		OutDescription.Kind = EKind::SoftObject;
-	}
-	else if (Category == UEdGraphSchema_K2::PC_Interface)
-	{
-		OutDescription.Kind = EKind::Interface;
-	}
-	else if (bIsClassKind)
-	{
-		OutDescription.Kind = Category == UEdGraphSchema_K2::PC_Class ? EKind::Class : EKind::SoftClass;
-	}
-	else
-	{
-		return false;
-	}
-	OutDescription.Type = bIsClassKind ? UClass::StaticClass() : ObjectClass;
-	OutDescription.MetaClass = bIsClassKind ? ObjectClass : nullptr;
-	return ObjectClass != nullptr;
-}
-
-bool FBlueprintClassBuilder::Describe(FName Name, const FEdGraphPinType& Type, FPropertyDescription& OutDescription)
-{
-	OutDescription.Name = Name;
-	if (!Type.IsContainer())
-	{
-		return DescribeTerminal(Type, OutDescription);
-	}
-	OutDescription.Kind = Type.IsArray() ? EKind::Array : Type.IsSet() ? EKind::Set
-																	   : EKind::Map;
-	OutDescription.Inner = MakeShared<FPropertyDescription>();
-	// A map's key is named apart from the map, as its saved definition has it.
-	OutDescription.Inner->Name = Type.IsMap() ? FName(*(Name.ToString() + TEXT("_Key"))) : Name;
-	if (!DescribeTerminal(Type, *OutDescription.Inner))
-	{
-		return false;
-	}
-	if (Type.IsMap())
-	{
-		OutDescription.Value = MakeShared<FPropertyDescription>();
-		OutDescription.Value->Name = Name;
-		return DescribeTerminal(FEdGraphPinType::GetPinTypeForTerminalType(Type.PinValueType), *OutDescription.Value);
-	}
-	return true;
-}
-
 FProperty* FBlueprintClassBuilder::AddProperty(FName Name, const FEdGraphPinType& Type, uint64 Flags)
 {
 	FPropertyDescription Description;
-	if (!Describe(Name, Type, Description))
+	if (!DescribePinType(Name, Type, &Class, Description))
 	{
 		Errors->Add(FString::Printf(TEXT("The variable type of %s is unknown; try changing the variable's type."), *Name.ToString()));
 		return nullptr;
@@ -283,7 +179,7 @@ UFunction* FBlueprintClassBuilder::AddFunction(FName Name, uint32 Flags, const T
 		for (const UEdGraphPin* const Pin : Pins)
 		{
 			FPropertyDescription Description;
-			if (!Describe(Pin->PinName, Pin->PinType, Description))
+			if (!DescribePinType(Pin->PinName, Pin->PinType, &Class, Description))
 			{
 				Errors->Add(FString::Printf(TEXT("The type of parameter %s of %s is unknown."), *Pin->GetName(), *Function->GetName()));
 				continue;
@@ -342,7 +238,7 @@ void FBlueprintClassBuilder::AddFunctionOfGraph(const UEdGraph& Graph)
 	for (const FBPVariableDescription& Local : Entry->LocalVariables)
 	{
 		FPropertyDescription Description;
-		if (Describe(Local.VarName, Local.VarType, Description))
+		if (DescribePinType(Local.VarName, Local.VarType, &Class, Description))
 		{
 			Description.PropertyFlags = static_cast<EPropertyFlags>(Local.PropertyFlags & ~static_cast<uint64>(CPF_ParmFlags));
 			if (FProperty* const Property = ConstructPropertyFromDescription(Function, Description))

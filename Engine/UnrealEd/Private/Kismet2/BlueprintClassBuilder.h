@@ -9,7 +9,6 @@ class UEdGraph;
 class UEdGraphPin;
 class UFunction;
 struct FEdGraphPinType;
-struct FPropertyDescription;
 
 /** Gives a Blueprint's class the members that the Blueprint declares: variables, components, timelines, dispatchers, functions, events. */
 class FBlueprintClassBuilder
@@ -35,8 +34,6 @@ private:
 	UFunction* AddFunction(FName Name, uint32 Flags, const TArray<UEdGraphPin*>& Parameters, const TArray<UEdGraphPin*>& Results);
 	FProperty* AddProperty(FName Name, const FEdGraphPinType& Type, uint64 Flags);
 	void AddObjectProperty(FName Name, UClass* ObjectClass);
-	bool Describe(FName Name, const FEdGraphPinType& Type, FPropertyDescription& OutDescription);
-	bool DescribeTerminal(const FEdGraphPinType& Type, FPropertyDescription& OutDescription);
 
 	UBlueprint& Blueprint;
 	UBlueprintGeneratedClass& Class;

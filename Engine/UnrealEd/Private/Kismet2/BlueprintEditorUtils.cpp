@@ -4,15 +4,52 @@
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/BlueprintGeneratedClass.h"
-#include "Engine/SimpleConstructionScript.h"
-#include "Engine/TimelineTemplate.h"
 #include "GameFramework/Actor.h"
+#include "K2Node_CustomEvent.h"
+#include "K2Node_FunctionEntry.h"
+#include "K2Node_FunctionResult.h"
+#include "K2Node_Tunnel.h"
 #include "Kismet2/KismetEditorUtilities.h"
+#include "MemberUses.h"
 #include "UObject/Interface.h"
 #include "UObject/Package.h"
+#include "UObject/ReferenceCollector.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
+
+namespace
+{
+/** Whether a variable, an interface or a node of the Blueprint refers to an object that the predicate accepts. */
+bool UsesObject(const UBlueprint& Blueprint, TFunctionRef<bool(const UObject*)> IsWanted)
+{
+	const auto IsOfType = [&IsWanted](const FEdGraphPinType& Type)
+	{ return IsWanted(Type.PinSubCategoryObject.Get()) || IsWanted(Type.PinValueType.TerminalSubCategoryObject.Get()); };
+	const bool bDeclares = Blueprint.NewVariables.ContainsByPredicate([&IsOfType](const FBPVariableDescription& Variable)
+							   { return IsOfType(Variable.VarType); }) ||
+		Blueprint.ImplementedInterfaces.ContainsByPredicate([&IsWanted](const FBPInterfaceDescription& Interface)
+			{ return IsWanted(Interface.Interface.Get()); });
+	if (bDeclares)
+	{
+		return true;
+	}
+	TArray<UEdGraphNode*> Nodes;
+	FBlueprintEditorUtils::GetAllNodesOfClass(&Blueprint, Nodes);
+	for (UEdGraphNode* const Node : Nodes)
+	{
+		const bool bHasPin = Node->Pins.ContainsByPredicate([&](const UEdGraphPin* Pin)
+			{ return IsOfType(Pin->PinType) || IsWanted(Pin->DefaultObject.Get()); });
+		TArray<UObject*> References;
+		FReferenceFinder(References).FindReferences(Node);
+		if (bHasPin || References.ContainsByPredicate([&IsWanted](const UObject* Reference)
+						   { return IsWanted(Reference); }))
+		{
+			return true;
+		}
+	}
+	return false;
+}
+}
 
 // Finding
 
@@ -118,6 +155,122 @@ UClass* FBlueprintEditorUtils::GetMostUpToDateClass(UClass* FromClass)
 	return Blueprint && Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass.Get() : FromClass;
 }
 
+UEdGraphNode* FBlueprintEditorUtils::GetNodeByGUID(const UBlueprint* Blueprint, const FGuid& NodeGuid)
+{
+	TArray<UEdGraphNode*> Nodes;
+	GetAllNodesOfClass(Blueprint, Nodes);
+	UEdGraphNode* const* const Found = Nodes.FindByPredicate([&NodeGuid](const UEdGraphNode* Node)
+		{ return Node->NodeGuid == NodeGuid; });
+	return Found ? *Found : nullptr;
+}
+
+UK2Node_EditablePinBase* FBlueprintEditorUtils::GetEntryNode(const UEdGraph* InGraph)
+{
+	TWeakObjectPtr<UK2Node_EditablePinBase> Entry;
+	TWeakObjectPtr<UK2Node_EditablePinBase> Result;
+	GetEntryAndResultNodes(InGraph, Entry, Result);
+	return Entry.Get();
+}
+
+void FBlueprintEditorUtils::GetEntryAndResultNodes(const UEdGraph* InGraph, TWeakObjectPtr<UK2Node_EditablePinBase>& OutEntryNode, TWeakObjectPtr<UK2Node_EditablePinBase>& OutResultNode)
+{
+	OutEntryNode = nullptr;
+	OutResultNode = nullptr;
+	if (!InGraph)
+	{
+		return;
+	}
+	for (UEdGraphNode* const Node : InGraph->Nodes)
+	{
+		const UK2Node_Tunnel* const Tunnel = Cast<UK2Node_Tunnel>(Node);
+		// Other tunnels, such as macros, stand between the ends.
+		const bool bIsEndOfMacro = Tunnel && Tunnel->GetClass() == UK2Node_Tunnel::StaticClass();
+		const bool bIsEntry = Node && (Node->IsA<UK2Node_FunctionEntry>() || (bIsEndOfMacro && Tunnel->bCanHaveOutputs));
+		const bool bIsResult = Node && (Node->IsA<UK2Node_FunctionResult>() || (bIsEndOfMacro && Tunnel->bCanHaveInputs));
+		if (bIsEntry && !OutEntryNode.IsValid())
+		{
+			OutEntryNode = CastChecked<UK2Node_EditablePinBase>(Node);
+		}
+		else if (bIsResult && !OutResultNode.IsValid())
+		{
+			OutResultNode = CastChecked<UK2Node_EditablePinBase>(Node);
+		}
+	}
+}
+
+UK2Node_FunctionResult* FBlueprintEditorUtils::FindOrCreateFunctionResultNode(UK2Node_EditablePinBase* InFunctionEntryNode)
+{
+	constexpr int32 Distance = 256;
+	UK2Node_FunctionEntry* const Entry = Cast<UK2Node_FunctionEntry>(InFunctionEntryNode);
+	UEdGraph* const Graph = Entry ? Entry->GetGraph() : nullptr;
+	if (!Graph || IsDelegateSignatureGraph(Graph))
+	{
+		return nullptr;
+	}
+	TArray<UK2Node_FunctionResult*> Results;
+	Graph->GetNodesOfClass(Results);
+	if (Results.Num() > 0)
+	{
+		return Results[0];
+	}
+	FGraphNodeCreator<UK2Node_FunctionResult> Creator(*Graph);
+	UK2Node_FunctionResult* const Result = Creator.CreateNode(false);
+	Result->FunctionReference = Entry->FunctionReference;
+	Result->bIsEditable = Entry->bIsEditable;
+	const FVector2D Place = Graph->GetGoodPlaceForNewNode();
+	Result->NodePosX = Entry->NodePosX + Entry->NodeWidth + Distance;
+	Result->NodePosY = Graph->Nodes.Num() > 2 ? static_cast<int32>(Place.Y) : Entry->NodePosY;
+	Creator.Finalize();
+	// The entry's execution goes straight to a result that nothing stands before.
+	UEdGraphPin* const Then = Entry->GetThenPin();
+	if (Then && Then->LinkedTo.Num() == 0 && Result->GetExecPin())
+	{
+		Then->MakeLinkTo(Result->GetExecPin());
+	}
+	return Result;
+}
+
+UK2Node_Event* FBlueprintEditorUtils::FindOverrideForFunction(const UBlueprint* Blueprint, const UClass* SignatureClass, FName SignatureName)
+{
+	TArray<UK2Node_Event*> Events;
+	GetAllNodesOfClass(Blueprint, Events);
+	const UClass* const Authoritative = SignatureClass ? const_cast<UClass*>(SignatureClass)->GetAuthoritativeClass() : nullptr;
+	UK2Node_Event* const* const Found = Events.FindByPredicate(
+		[Blueprint, Authoritative, SignatureName](const UK2Node_Event* Event)
+		{
+			const UClass* const Class = Event->EventReference.GetMemberParentClass(Blueprint->GeneratedClass.Get());
+			return Event->bOverrideFunction && Event->EventReference.GetMemberName() == SignatureName && Authoritative && Class && Authoritative->IsChildOf(Class);
+		});
+	return Found ? *Found : nullptr;
+}
+
+UK2Node_Event* FBlueprintEditorUtils::FindCustomEventNode(const UBlueprint* Blueprint, FName const CustomName)
+{
+	TArray<UK2Node_CustomEvent*> Events;
+	GetAllNodesOfClass(Blueprint, Events);
+	UK2Node_CustomEvent* const* const Found = Events.FindByPredicate([CustomName](const UK2Node_CustomEvent* Event)
+		{ return Event->CustomFunctionName == CustomName; });
+	return Found ? *Found : nullptr;
+}
+
+void FBlueprintEditorUtils::GetDependentBlueprints(UBlueprint* Blueprint, TArray<UBlueprint*>& DependentBlueprints)
+{
+	TArray<UObject*> Blueprints;
+	GetObjectsOfClass(UBlueprint::StaticClass(), Blueprints, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
+	const UClass* const Classes[] = {Blueprint->GeneratedClass.Get(), Blueprint->SkeletonGeneratedClass.Get()};
+	const auto IsOwn = [Blueprint, &Classes](const UObject* Object)
+	{ return Object && (Object == Blueprint || Object == Classes[0] || Object == Classes[1]); };
+	for (UObject* const Object : Blueprints)
+	{
+		UBlueprint* const Other = CastChecked<UBlueprint>(Object);
+		const bool bDerives = Other != Blueprint && FMemberUses::IsClassOf(Other->ParentClass.Get(), *Blueprint);
+		if (Other != Blueprint && (bDerives || UsesObject(*Other, IsOwn)))
+		{
+			DependentBlueprints.AddUnique(Other);
+		}
+	}
+}
+
 // State
 
 void FBlueprintEditorUtils::MarkBlueprintAsModified(UBlueprint* Blueprint, FPropertyChangedEvent PropertyChangedEvent)
@@ -175,64 +328,4 @@ void FBlueprintEditorUtils::PreloadMembers(UObject* InObject)
 void FBlueprintEditorUtils::PreloadBlueprintSpecificData(UBlueprint* Blueprint)
 {
 	PreloadMembers(Blueprint);
-}
-
-// Interfaces
-
-bool FBlueprintEditorUtils::ImplementNewInterface(UBlueprint* Blueprint, FTopLevelAssetPath InterfaceClassPathName)
-{
-	UClass* const Interface = FindObject<UClass>(InterfaceClassPathName);
-	const bool bImplementsAlready = Blueprint->ImplementedInterfaces.ContainsByPredicate([Interface](const FBPInterfaceDescription& Description)
-		{ return Description.Interface.Get() == Interface; });
-	if (!Interface || !Interface->HasAnyClassFlags(CLASS_Interface) || bImplementsAlready)
-	{
-		return false;
-	}
-	Blueprint->Modify();
-	FBPInterfaceDescription Description;
-	Description.Interface = Interface;
-	for (TFieldIterator<UFunction> It(Interface, EFieldIteratorFlags::IncludeSuper); It; ++It)
-	{
-		UFunction* const Function = *It;
-		const bool bNeedsGraph = UEdGraphSchema_K2::CanKismetOverrideFunction(Function) &&
-			!UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(Function);
-		if (!bNeedsGraph)
-		{
-			continue;
-		}
-		UEdGraph* const Graph = CreateNewGraph(Blueprint, Function->GetFName(), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
-		Graph->bAllowDeletion = false;
-		Graph->InterfaceGuid = FGuid::NewDeterministicGuid(Function->GetPathName());
-		Description.Graphs.Add(Graph);
-		AddFunctionGraphFromSignature(Blueprint, Graph, false, Function, true);
-		Blueprint->FunctionGraphs.Remove(Graph);
-	}
-	Blueprint->ImplementedInterfaces.Add(Description);
-	MarkBlueprintAsStructurallyModified(Blueprint);
-	return true;
-}
-
-void FBlueprintEditorUtils::FindImplementedInterfaces(const UBlueprint* Blueprint, bool bGetAllInterfaces, TArray<UClass*>& ImplementedInterfaces)
-{
-	for (const FBPInterfaceDescription& Description : Blueprint->ImplementedInterfaces)
-	{
-		if (Description.Interface)
-		{
-			ImplementedInterfaces.AddUnique(Description.Interface.Get());
-		}
-	}
-	if (!bGetAllInterfaces)
-	{
-		return;
-	}
-	for (const UClass* Class = Blueprint->ParentClass.Get(); Class; Class = Class->GetSuperClass())
-	{
-		for (const FImplementedInterface& Interface : Class->Interfaces)
-		{
-			if (Interface.Class)
-			{
-				ImplementedInterfaces.AddUnique(Interface.Class.Get());
-			}
-		}
-	}
 }

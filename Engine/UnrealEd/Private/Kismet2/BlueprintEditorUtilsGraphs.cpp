@@ -4,7 +4,12 @@
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/TimelineTemplate.h"
+#include "K2Node_CreateDelegate.h"
 #include "K2Node_FunctionTerminator.h"
+#include "K2Node_Timeline.h"
+#include "K2Node_Variable.h"
+#include "MemberUses.h"
 #include "UObject/UObjectGlobals.h"
 
 namespace
@@ -19,6 +24,27 @@ bool HasMemberNamed(const UBlueprint* Blueprint, const FName& Name)
 {
 	const UClass* const Class = Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass.Get() : Blueprint->ParentClass.Get();
 	return Class && (FindFProperty<FProperty>(Class, Name) || Class->FindFunctionByName(Name));
+}
+}
+
+namespace
+{
+/** A timeline lives as long as its node. */
+void RemoveTimelineOf(UBlueprint* Blueprint, const UEdGraphNode* Node)
+{
+	const UK2Node_Timeline* const TimelineNode = Cast<UK2Node_Timeline>(Node);
+	if (UTimelineTemplate* const Template = TimelineNode ? TimelineNode->GetTemplate() : nullptr)
+	{
+		FBlueprintEditorUtils::RemoveTimeline(Blueprint, Template, true);
+	}
+}
+
+void RemoveTimelinesOf(UBlueprint* Blueprint, const UEdGraph& Graph)
+{
+	for (const UEdGraphNode* const Node : Graph.Nodes)
+	{
+		RemoveTimelineOf(Blueprint, Node);
+	}
 }
 }
 
@@ -99,6 +125,7 @@ void FBlueprintEditorUtils::RemoveGraph(UBlueprint* Blueprint, UEdGraph* GraphTo
 	}
 	GraphToRemove->Modify();
 	Blueprint->Modify();
+	RemoveTimelinesOf(Blueprint, *GraphToRemove);
 	for (UObject* Outer = GraphToRemove->GetOuter(); Outer; Outer = Outer->GetOuter())
 	{
 		if (UBlueprint* const OuterBlueprint = Cast<UBlueprint>(Outer))
@@ -139,6 +166,15 @@ void FBlueprintEditorUtils::RemoveGraph(UBlueprint* Blueprint, UEdGraph* GraphTo
 	}
 }
 
+void FBlueprintEditorUtils::RemoveGraphs(UBlueprint* Blueprint, const TArray<UEdGraph*>& GraphsToRemove)
+{
+	for (UEdGraph* const Graph : GraphsToRemove)
+	{
+		RemoveGraph(Blueprint, Graph, EGraphRemoveFlags::MarkTransient);
+	}
+	MarkBlueprintAsStructurallyModified(Blueprint);
+}
+
 void FBlueprintEditorUtils::RemoveNode(UBlueprint* Blueprint, UEdGraphNode* Node, bool bDontRecompile)
 {
 	check(Node);
@@ -149,6 +185,7 @@ void FBlueprintEditorUtils::RemoveNode(UBlueprint* Blueprint, UEdGraphNode* Node
 	{
 		RemoveGraph(Blueprint, SubGraph, EGraphRemoveFlags::None);
 	}
+	RemoveTimelineOf(Blueprint, Node);
 	Node->BreakAllNodeLinks();
 	Node->DestroyNode();
 	if (bDontRecompile)
@@ -184,6 +221,68 @@ FName FBlueprintEditorUtils::GenerateUniqueGraphName(const UBlueprint* Blueprint
 	return Name;
 }
 
+namespace
+{
+/** The uses of the function's own local variables, which know it by its name. */
+TArray<FMemberUse> FindLocalUses(const UEdGraph& Graph)
+{
+	TArray<FMemberUse> Uses;
+	TArray<UEdGraph*> Graphs = {const_cast<UEdGraph*>(&Graph)};
+	Graph.GetAllChildrenGraphs(Graphs);
+	for (const UEdGraph* const Inner : Graphs)
+	{
+		TArray<UK2Node_Variable*> Nodes;
+		Inner->GetNodesOfClass(Nodes);
+		for (UK2Node_Variable* const Node : Nodes)
+		{
+			if (Node->VariableReference.IsLocalScope() && Node->VariableReference.GetMemberScopeName() == Graph.GetName())
+			{
+				Uses.Add({Node, &Node->VariableReference});
+			}
+		}
+	}
+	return Uses;
+}
+
+void RenameTerminators(const UEdGraph& Graph, FName OldName, FName NewName)
+{
+	TArray<UK2Node_FunctionTerminator*> Terminators;
+	Graph.GetNodesOfClass(Terminators);
+	for (UK2Node_FunctionTerminator* const Terminator : Terminators)
+	{
+		const bool bIsOwn = !Terminator->FunctionReference.GetMemberParentClass() && Terminator->FunctionReference.GetMemberName() == OldName;
+		if (bIsOwn)
+		{
+			Terminator->Modify();
+			Terminator->FunctionReference.SetSelfMember(NewName);
+		}
+	}
+}
+
+/** Graphs of derived Blueprints that override the function keep overriding it. */
+void RenameOverridingGraphs(const UBlueprint& Blueprint, FName OldName, const FString& NewName)
+{
+	TArray<UBlueprint*> Dependents;
+	FBlueprintEditorUtils::GetDependentBlueprints(const_cast<UBlueprint*>(&Blueprint), Dependents);
+	for (UBlueprint* const Dependent : Dependents)
+	{
+		if (!FMemberUses::IsClassOf(Dependent->ParentClass.Get(), Blueprint))
+		{
+			continue;
+		}
+		for (UEdGraph* const Graph : TArray<TObjectPtr<UEdGraph>>(Dependent->FunctionGraphs))
+		{
+			if (Graph && Graph->GetFName() == OldName)
+			{
+				Graph->Modify();
+				Graph->Rename(*NewName, Dependent, REN_DontCreateRedirectors);
+				FBlueprintEditorUtils::MarkBlueprintAsModified(Dependent);
+			}
+		}
+	}
+}
+}
+
 bool FBlueprintEditorUtils::RenameGraph(UEdGraph* Graph, const FString& NewNameStr)
 {
 	const FName NewName(*NewNameStr);
@@ -193,17 +292,34 @@ bool FBlueprintEditorUtils::RenameGraph(UEdGraph* Graph, const FString& NewNameS
 	{
 		return false;
 	}
+	const FName OldName = Graph->GetFName();
+	if (Blueprint->DelegateSignatureGraphs.Contains(Graph))
+	{
+		// The dispatcher's variable and its signature have one name; the variable's renaming renames both.
+		RenameMemberVariable(Blueprint, OldName, NewName);
+		return Graph->GetFName() == NewName;
+	}
+	const bool bIsFunction = Blueprint->FunctionGraphs.Contains(Graph);
+	const TArray<FMemberUse> Uses = bIsFunction ? FMemberUses::FindOfFunction(*Blueprint, OldName) : TArray<FMemberUse>();
+	const TArray<FMemberUse> LocalUses = bIsFunction ? FindLocalUses(*Graph) : TArray<FMemberUse>();
+	const TArray<UK2Node_CreateDelegate*> Delegates = bIsFunction ? FMemberUses::FindDelegatesOfFunction(*Blueprint, OldName) : TArray<UK2Node_CreateDelegate*>();
 	Graph->Modify();
 	Graph->Rename(*NewNameStr, Graph->GetOuter(), REN_DontCreateRedirectors);
-	TArray<UK2Node_FunctionTerminator*> Terminators;
-	Graph->GetNodesOfClass(Terminators);
-	for (UK2Node_FunctionTerminator* const Terminator : Terminators)
+	RenameTerminators(*Graph, OldName, NewName);
+	FMemberUses::Rename(Uses, OldName, NewName);
+	for (const FMemberUse& Use : LocalUses)
 	{
-		if (Terminator->FunctionReference.GetMemberParentClass() == nullptr)
-		{
-			Terminator->Modify();
-			Terminator->FunctionReference.SetSelfMember(NewName);
-		}
+		Use.Node->Modify();
+		Use.Reference->SetLocalMember(Use.Reference->GetMemberName(), NewNameStr, Use.Reference->GetMemberGuid());
+	}
+	for (UK2Node_CreateDelegate* const Delegate : Delegates)
+	{
+		Delegate->Modify();
+		Delegate->SetFunction(NewName);
+	}
+	if (bIsFunction)
+	{
+		RenameOverridingGraphs(*Blueprint, OldName, NewNameStr);
 	}
 	MarkBlueprintAsStructurallyModified(Blueprint);
 	return true;

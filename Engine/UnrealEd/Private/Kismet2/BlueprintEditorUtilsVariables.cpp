@@ -1,38 +1,19 @@
 #include "Kismet2/BlueprintEditorUtils.h"
 
+#include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/BlueprintGeneratedClass.h"
 #include "Engine/SCS_Node.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/TimelineTemplate.h"
 #include "K2Node_FunctionEntry.h"
-#include "K2Node_Variable.h"
+#include "Kismet2/Kismet2NameValidators.h"
+#include "MemberUses.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
 namespace
 {
-/** The variable of the Blueprint, or the local variable of the function that Scope is. */
-FBPVariableDescription* FindVariable(const UBlueprint* Blueprint, const FName& VarName, const UStruct* Scope)
-{
-	if (!Scope || Scope->IsA<UClass>())
-	{
-		const int32 Index = FBlueprintEditorUtils::FindNewVariableIndex(Blueprint, VarName);
-		return Index == INDEX_NONE ? nullptr : const_cast<FBPVariableDescription*>(&Blueprint->NewVariables[Index]);
-	}
-	TArray<UK2Node_FunctionEntry*> Entries;
-	FBlueprintEditorUtils::GetAllNodesOfClass(Blueprint, Entries);
-	for (UK2Node_FunctionEntry* const Entry : Entries)
-	{
-		if (Entry->GetGraph()->GetFName() == Scope->GetFName())
-		{
-			return Entry->LocalVariables.FindByPredicate([&VarName](const FBPVariableDescription& Variable)
-				{ return Variable.VarName == VarName; });
-		}
-	}
-	return nullptr;
-}
-
 FString MakeFriendlyName(const FName& Name, const FEdGraphPinType& Type)
 {
 	return FName::NameToDisplayString(Name.ToString(), Type.PinCategory == UEdGraphSchema_K2::PC_Boolean);
@@ -40,9 +21,32 @@ FString MakeFriendlyName(const FName& Name, const FEdGraphPinType& Type)
 
 bool IsMemberNameTaken(const UBlueprint* Blueprint, const FName& Name)
 {
-	TSet<FName> Names;
-	FBlueprintEditorUtils::GetClassVariableList(Blueprint, Names, true);
-	return Names.Contains(Name) || !FBlueprintEditorUtils::IsGraphNameUnique(Blueprint, Name);
+	return FKismetNameValidator(Blueprint).IsValid(Name) != EValidatorResult::Ok;
+}
+
+bool IsDispatcher(const FBPVariableDescription& Variable)
+{
+	return Variable.VarType.PinCategory == UEdGraphSchema_K2::PC_MCDelegate;
+}
+
+/** Has the class's default object take part in the transaction: it holds the value that goes with the variable. */
+void ModifyDefaults(const UBlueprint& Blueprint)
+{
+	UObject* const Defaults = Blueprint.GeneratedClass ? Blueprint.GeneratedClass->GetDefaultObject(false) : nullptr;
+	if (Defaults)
+	{
+		Defaults->Modify();
+	}
+}
+
+/** A type's containers and flags that cannot be replicated lose their replication. */
+void ClearImpossibleReplication(FBPVariableDescription& Variable)
+{
+	if (Variable.VarType.IsSet() || Variable.VarType.IsMap())
+	{
+		Variable.PropertyFlags &= ~static_cast<uint64>(CPF_Net | CPF_RepNotify);
+		Variable.RepNotifyFunc = NAME_None;
+	}
 }
 }
 
@@ -78,11 +82,32 @@ bool FBlueprintEditorUtils::AddMemberVariable(UBlueprint* Blueprint, const FName
 
 void FBlueprintEditorUtils::RemoveMemberVariable(UBlueprint* Blueprint, const FName VarName)
 {
-	const int32 Index = FindNewVariableIndex(Blueprint, VarName);
-	if (Index != INDEX_NONE)
+	BulkRemoveMemberVariables(Blueprint, {VarName});
+}
+
+void FBlueprintEditorUtils::BulkRemoveMemberVariables(UBlueprint* Blueprint, const TArray<FName>& VarNames)
+{
+	bool bRemovedAny = false;
+	for (const FName VarName : VarNames)
 	{
+		const int32 Index = FindNewVariableIndex(Blueprint, VarName);
+		if (Index == INDEX_NONE)
+		{
+			continue;
+		}
+		bRemovedAny = true;
 		Blueprint->Modify();
+		ModifyDefaults(*Blueprint);
+		UEdGraph* const Signature = IsDispatcher(Blueprint->NewVariables[Index]) ? Blueprint->GetDelegateSignatureGraphByName(VarName) : nullptr;
 		Blueprint->NewVariables.RemoveAt(Index);
+		RemoveVariableNodes(Blueprint, VarName);
+		if (Signature)
+		{
+			RemoveGraph(Blueprint, Signature, EGraphRemoveFlags::MarkTransient);
+		}
+	}
+	if (bRemovedAny)
+	{
 		MarkBlueprintAsStructurallyModified(Blueprint);
 	}
 }
@@ -96,26 +121,16 @@ void FBlueprintEditorUtils::RenameMemberVariable(UBlueprint* Blueprint, const FN
 		return;
 	}
 	Blueprint->Modify();
+	ModifyDefaults(*Blueprint);
 	FBPVariableDescription& Variable = Blueprint->NewVariables[Index];
+	const TArray<FMemberUse> Uses = FMemberUses::FindOfVariable(*Blueprint, OldName);
 	Variable.VarName = NewName;
 	Variable.FriendlyName = MakeFriendlyName(NewName, Variable.VarType);
-
-	TArray<UK2Node_Variable*> Nodes;
-	GetAllNodesOfClass(Blueprint, Nodes);
-	for (UK2Node_Variable* const Node : Nodes)
+	FMemberUses::Rename(Uses, OldName, NewName);
+	UEdGraph* const Signature = IsDispatcher(Variable) ? Blueprint->GetDelegateSignatureGraphByName(OldName) : nullptr;
+	if (Signature)
 	{
-		const bool bRefersToVariable = Node->VariableReference.IsSelfContext() && Node->VariableReference.GetMemberName() == OldName;
-		if (!bRefersToVariable)
-		{
-			continue;
-		}
-		Node->Modify();
-		Node->VariableReference.SetSelfMember(NewName, Variable.VarGuid);
-		if (UEdGraphPin* const Pin = Node->FindPin(OldName))
-		{
-			Pin->Modify();
-			Pin->PinName = NewName;
-		}
+		Signature->Rename(*NewName.ToString(), Blueprint, REN_DontCreateRedirectors);
 	}
 	UBlueprintGeneratedClass* const Class = Cast<UBlueprintGeneratedClass>(Blueprint->GeneratedClass.Get());
 	if (Class && Class->FindPropertyByName(OldName))
@@ -126,6 +141,63 @@ void FBlueprintEditorUtils::RenameMemberVariable(UBlueprint* Blueprint, const FN
 	MarkBlueprintAsStructurallyModified(Blueprint);
 }
 
+FName FBlueprintEditorUtils::DuplicateVariable(UBlueprint* InBlueprint, const UStruct* InScope, FName InVariableToDuplicate)
+{
+	UK2Node_FunctionEntry* Entry = nullptr;
+	FBPVariableDescription* const Local = InScope ? FindLocalVariable(InBlueprint, InScope, InVariableToDuplicate, &Entry) : nullptr;
+	const int32 Index = FindNewVariableIndex(InBlueprint, InVariableToDuplicate);
+	if (!Local && Index == INDEX_NONE)
+	{
+		return NAME_None;
+	}
+	FBPVariableDescription Copy = Local ? *Local : InBlueprint->NewVariables[Index];
+	Copy.VarName = FindUniqueKismetName(InBlueprint, InVariableToDuplicate.GetPlainNameString(), const_cast<UStruct*>(InScope));
+	Copy.VarGuid = FGuid::NewGuid();
+	Copy.FriendlyName = MakeFriendlyName(Copy.VarName, Copy.VarType);
+	if (Local)
+	{
+		Entry->Modify();
+		Entry->LocalVariables.Add(Copy);
+	}
+	else
+	{
+		InBlueprint->Modify();
+		InBlueprint->NewVariables.Add(Copy);
+	}
+	MarkBlueprintAsStructurallyModified(InBlueprint);
+	return Copy.VarName;
+}
+
+bool FBlueprintEditorUtils::MoveVariableBeforeVariable(UBlueprint* Blueprint, UStruct* VariableScope, FName VarNameToMove, FName TargetVarName, bool bDontRecompile)
+{
+	UK2Node_FunctionEntry* Entry = nullptr;
+	const bool bIsLocal = VariableScope && FindLocalVariable(Blueprint, VariableScope, VarNameToMove, &Entry);
+	TArray<FBPVariableDescription>& Variables = bIsLocal ? Entry->LocalVariables : Blueprint->NewVariables;
+	const auto Find = [&Variables](FName Name)
+	{ return Variables.IndexOfByPredicate([Name](const FBPVariableDescription& Variable)
+		  { return Variable.VarName == Name; }); };
+	const int32 From = Find(VarNameToMove);
+	const int32 Target = Find(TargetVarName);
+	if (From == INDEX_NONE || Target == INDEX_NONE || From == Target)
+	{
+		return false;
+	}
+	UObject* const Owner = bIsLocal ? static_cast<UObject*>(Entry) : Blueprint;
+	Owner->Modify();
+	const FBPVariableDescription Moved = Variables[From];
+	Variables.RemoveAt(From);
+	Variables.Insert(Moved, Find(TargetVarName));
+	if (bDontRecompile)
+	{
+		MarkBlueprintAsModified(Blueprint);
+	}
+	else
+	{
+		MarkBlueprintAsStructurallyModified(Blueprint);
+	}
+	return true;
+}
+
 void FBlueprintEditorUtils::ChangeMemberVariableType(UBlueprint* Blueprint, const FName VariableName, const FEdGraphPinType& NewPinType)
 {
 	const int32 Index = FindNewVariableIndex(Blueprint, VariableName);
@@ -134,20 +206,13 @@ void FBlueprintEditorUtils::ChangeMemberVariableType(UBlueprint* Blueprint, cons
 		return;
 	}
 	Blueprint->Modify();
+	ModifyDefaults(*Blueprint);
 	FBPVariableDescription& Variable = Blueprint->NewVariables[Index];
 	Variable.VarType = NewPinType;
 	Variable.DefaultValue.Empty();
+	ClearImpossibleReplication(Variable);
 	MarkBlueprintAsStructurallyModified(Blueprint);
-
-	TArray<UK2Node_Variable*> Nodes;
-	GetAllNodesOfClass(Blueprint, Nodes);
-	for (UK2Node_Variable* const Node : Nodes)
-	{
-		if (Node->VariableReference.IsSelfContext() && Node->VariableReference.GetMemberName() == VariableName)
-		{
-			Node->ReconstructNode();
-		}
-	}
+	FMemberUses::Reconstruct(FMemberUses::FindOfVariable(*Blueprint, VariableName));
 }
 
 FGuid FBlueprintEditorUtils::FindMemberVariableGuidByName(UBlueprint* InBlueprint, const FName InVariableName)
@@ -167,57 +232,6 @@ uint64* FBlueprintEditorUtils::GetBlueprintVariablePropertyFlags(UBlueprint* Blu
 {
 	const int32 Index = FindNewVariableIndex(Blueprint, VarName);
 	return Index == INDEX_NONE ? nullptr : &Blueprint->NewVariables[Index].PropertyFlags;
-}
-
-void FBlueprintEditorUtils::SetBlueprintVariableMetaData(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, const FString& MetaDataValue)
-{
-	if (FBPVariableDescription* const Variable = FindVariable(Blueprint, VarName, InLocalVarScope))
-	{
-		Blueprint->Modify();
-		Variable->SetMetaData(MetaDataKey, MetaDataValue);
-		MarkBlueprintAsStructurallyModified(Blueprint);
-	}
-}
-
-bool FBlueprintEditorUtils::GetBlueprintVariableMetaData(const UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, FString& OutMetaDataValue)
-{
-	const FBPVariableDescription* const Variable = FindVariable(Blueprint, VarName, InLocalVarScope);
-	if (!Variable || !Variable->HasMetaData(MetaDataKey))
-	{
-		OutMetaDataValue.Empty();
-		return false;
-	}
-	OutMetaDataValue = Variable->GetMetaData(MetaDataKey);
-	return true;
-}
-
-void FBlueprintEditorUtils::RemoveBlueprintVariableMetaData(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey)
-{
-	if (FBPVariableDescription* const Variable = FindVariable(Blueprint, VarName, InLocalVarScope))
-	{
-		Blueprint->Modify();
-		Variable->RemoveMetaData(MetaDataKey);
-		MarkBlueprintAsStructurallyModified(Blueprint);
-	}
-}
-
-void FBlueprintEditorUtils::SetBlueprintVariableCategory(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FText& NewCategory, bool bDontRecompile)
-{
-	FBPVariableDescription* const Variable = FindVariable(Blueprint, VarName, InLocalVarScope);
-	if (!Variable || Variable->Category.EqualTo(NewCategory))
-	{
-		return;
-	}
-	Blueprint->Modify();
-	Variable->Category = NewCategory.IsEmpty() ? UEdGraphSchema_K2::VR_DefaultCategory : NewCategory;
-	if (bDontRecompile)
-	{
-		MarkBlueprintAsModified(Blueprint);
-	}
-	else
-	{
-		MarkBlueprintAsStructurallyModified(Blueprint);
-	}
 }
 
 void FBlueprintEditorUtils::GetClassVariableList(const UBlueprint* Blueprint, TSet<FName>& VisibleVariables, bool bIncludePrivateVars)
@@ -262,10 +276,12 @@ TArray<FName> FBlueprintEditorUtils::GetBlueprintVariablesNamesList(const UBluep
 
 FName FBlueprintEditorUtils::FindUniqueKismetName(const UBlueprint* InBlueprint, const FString& InBaseName, UStruct* InScope)
 {
-	FName Name(*InBaseName);
-	for (int32 Suffix = 0; IsMemberNameTaken(InBlueprint, Name) || (InScope && InScope->FindPropertyByName(Name)); ++Suffix)
+	FKismetNameValidator Validator(InBlueprint, NAME_None, InScope);
+	FString Name = InBaseName;
+	for (int32 Suffix = 0; Validator.IsValid(Name) != EValidatorResult::Ok; ++Suffix)
 	{
-		Name = FName(*FString::Printf(TEXT("%s_%d"), *InBaseName, Suffix));
+		const FString Number = FString::Printf(TEXT("_%d"), Suffix);
+		Name = InBaseName.Left(FKismetNameValidator::GetMaximumNameLength() - Number.Len() - 1) + Number;
 	}
-	return Name;
+	return FName(*Name);
 }

@@ -178,13 +178,67 @@ void FBlueprintCompileReinstancer::TransferValues(UObject& From, UObject& To, co
 	UE::CoreUObject::TransferValues(From, To, FindOld, Replacements);
 }
 
+namespace
+{
+/** The values that default objects had for variables that were removed since, as text by the variable's id: an undo may bring one back. */
+TMap<FGuid, FString>& GetLostDefaults()
+{
+	static TMap<FGuid, FString> Values;
+	return Values;
+}
+
+void RememberLostDefaults(const UObject& Old, const UBlueprintGeneratedClass& NewClass, const TMap<FName, FGuid>& OldGuids)
+{
+	constexpr int32 MaxValues = 10000;
+	TMap<FGuid, FString>& Lost = GetLostDefaults();
+	for (const TPair<FName, FGuid>& Pair : OldGuids)
+	{
+		const bool bIsLost = Pair.Value.IsValid() && NewClass.FindPropertyNameFromGuid(Pair.Value).IsNone();
+		const FProperty* const Property = bIsLost ? Old.GetClass()->FindPropertyByName(Pair.Key) : nullptr;
+		if (!Property)
+		{
+			continue;
+		}
+		FString Text;
+		Property->ExportTextItem_InContainer(Text, &Old, nullptr, nullptr, PPF_None);
+		if (Lost.Num() >= MaxValues)
+		{
+			Lost.Empty();
+		}
+		Lost.Add(Pair.Value, Text);
+	}
+}
+
+void ReturnLostDefaults(UObject& New, const UBlueprintGeneratedClass& NewClass)
+{
+	TMap<FGuid, FString>& Lost = GetLostDefaults();
+	for (const TPair<FName, FGuid>& Pair : NewClass.PropertyGuids)
+	{
+		FString Text;
+		const FProperty* const Property = Lost.Num() > 0 && Lost.RemoveAndCopyValue(Pair.Value, Text) ? NewClass.FindPropertyByName(Pair.Key) : nullptr;
+		if (Property)
+		{
+			Property->ImportText_InContainer(*Text, &New, &New, PPF_None);
+		}
+	}
+}
+}
+
 void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors)
 {
 	UObject* const NewDefaultObject = Rebuilt.Class->GetDefaultObject();
+	// What a user edits as the class's defaults.
+	NewDefaultObject->SetFlags(RF_Transactional);
 	ApplyVariableDefaults(Rebuilt, OutErrors);
 	if (Rebuilt.OldDefaultObject)
 	{
 		TransferValues(*Rebuilt.OldDefaultObject, *NewDefaultObject, GetOldPropertyGuids(Rebuilt));
+	}
+	const bool bIsWhatUsersEdit = Rebuilt.Blueprint->GeneratedClass.Get() == Rebuilt.Class;
+	if (Rebuilt.OldDefaultObject && bIsWhatUsersEdit)
+	{
+		RememberLostDefaults(*Rebuilt.OldDefaultObject, *Rebuilt.Class, Rebuilt.OldPropertyGuids);
+		ReturnLostDefaults(*NewDefaultObject, *Rebuilt.Class);
 	}
 }
 

@@ -1,0 +1,118 @@
+#include "Components/ActorComponent.h"
+#include "EdGraph/EdGraph.h"
+#include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/SCS_Node.h"
+#include "Engine/SimpleConstructionScript.h"
+#include "Engine/TimelineTemplate.h"
+#include "K2Node.h"
+#include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/KismetEditorUtilities.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
+#include "UObject/UnrealType.h"
+
+namespace
+{
+template <class T>
+T* CopyInto(T* Original, UObject* Outer)
+{
+	return Original ? DuplicateObject<T>(Original, Outer, Original->GetFName()) : nullptr;
+}
+
+/** What stands below the class rather than below the Blueprint, and was not copied with it. */
+void CopyClassParts(UBlueprint& Blueprint, UBlueprintGeneratedClass& Class)
+{
+	Blueprint.SimpleConstructionScript = CopyInto<USimpleConstructionScript>(Blueprint.SimpleConstructionScript, &Class);
+	if (Blueprint.SimpleConstructionScript)
+	{
+		for (USCS_Node* const Node : Blueprint.SimpleConstructionScript->GetAllNodes())
+		{
+			Node->ComponentTemplate = CopyInto<UActorComponent>(Node->ComponentTemplate, &Class);
+		}
+	}
+	for (TObjectPtr<UActorComponent>& Template : Blueprint.ComponentTemplates)
+	{
+		Template = CopyInto<UActorComponent>(Template, &Class);
+	}
+	for (TObjectPtr<UTimelineTemplate>& Timeline : Blueprint.Timelines)
+	{
+		Timeline = CopyInto<UTimelineTemplate>(Timeline, &Class);
+	}
+	Class.SimpleConstructionScript = Blueprint.SimpleConstructionScript;
+}
+
+void ReplaceType(TObjectPtr<UObject>& Type, const UClass* Old, UClass* New)
+{
+	if (Type == Old)
+	{
+		Type = New;
+	}
+}
+
+/** Pins and variables of the original's own class are of the copy's. */
+void ReplaceOwnClass(UBlueprint& Blueprint, const UClass* Old, UClass* New)
+{
+	const auto ReplaceIn = [Old, New](FEdGraphPinType& Type)
+	{
+		if (Type.PinSubCategoryObject.Get() == Old)
+		{
+			Type.PinSubCategoryObject = New;
+		}
+		if (Type.PinValueType.TerminalSubCategoryObject.Get() == Old)
+		{
+			Type.PinValueType.TerminalSubCategoryObject = New;
+		}
+		if (Type.PinSubCategoryMemberReference.MemberParent == Old)
+		{
+			Type.PinSubCategoryMemberReference.MemberParent = New;
+		}
+	};
+	for (FBPVariableDescription& Variable : Blueprint.NewVariables)
+	{
+		ReplaceIn(Variable.VarType);
+	}
+	TArray<UK2Node*> Nodes;
+	FBlueprintEditorUtils::GetAllNodesOfClass(&Blueprint, Nodes);
+	for (UK2Node* const Node : Nodes)
+	{
+		for (UEdGraphPin* const Pin : Node->Pins)
+		{
+			ReplaceIn(Pin->PinType);
+			ReplaceType(Pin->DefaultObject, Old, New);
+		}
+	}
+}
+
+void CopyDefaults(const UObject& From, UObject& To)
+{
+	for (TFieldIterator<FProperty> It(To.GetClass()); It; ++It)
+	{
+		const FProperty* const Source =
+			It->ContainsInstancedObjectProperty() ? nullptr : From.GetClass()->FindPropertyByName(It->GetFName());
+		if (Source && Source->SameType(*It) && Source->ArrayDim == It->ArrayDim)
+		{
+			It->CopyCompleteValue(It->ContainerPtrToValuePtr<void>(&To), Source->ContainerPtrToValuePtr<void>(&From));
+		}
+	}
+}
+}
+
+void FBlueprintEditorUtils::PostDuplicateBlueprint(UBlueprint* Blueprint, bool bDuplicateForPIE)
+{
+	UClass* const OldClass = Blueprint->GeneratedClass.Get();
+	if (bDuplicateForPIE || !OldClass || OldClass->ClassGeneratedBy == Blueprint)
+	{
+		return;
+	}
+	UEdGraphPin::ResolveAllPinReferences();
+	Blueprint->GeneratedClass = nullptr;
+	Blueprint->SkeletonGeneratedClass = nullptr;
+	FKismetEditorUtilities::GenerateBlueprintSkeleton(Blueprint, true);
+	UBlueprintGeneratedClass* const NewClass = CastChecked<UBlueprintGeneratedClass>(Blueprint->GeneratedClass.Get());
+	CopyClassParts(*Blueprint, *NewClass);
+	ReplaceOwnClass(*Blueprint, OldClass, NewClass);
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	CopyDefaults(*OldClass->GetDefaultObject(), *NewClass->GetDefaultObject());
+	RefreshAllNodes(Blueprint);
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+}

@@ -1,0 +1,184 @@
+#include "EdGraph/EdGraph.h"
+#include "EdGraphSchema_K2.h"
+#include "Engine/Blueprint.h"
+#include "K2Node_Event.h"
+#include "K2Node_FunctionTerminator.h"
+#include "Kismet2/BlueprintEditorUtils.h"
+#include "MemberUses.h"
+#include "UObject/Interface.h"
+#include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
+
+namespace
+{
+bool NeedsGraph(const UFunction* Function)
+{
+	return UEdGraphSchema_K2::CanKismetOverrideFunction(Function) && !UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(Function);
+}
+
+/** Makes a function of the Blueprint's own of one that an interface gave. */
+void DetachFromInterface(UEdGraph& Graph)
+{
+	Graph.Modify();
+	Graph.bAllowDeletion = true;
+	Graph.bAllowRenaming = true;
+	Graph.bEditable = true;
+	Graph.InterfaceGuid.Invalidate();
+	TArray<UK2Node_FunctionTerminator*> Terminators;
+	Graph.GetNodesOfClass(Terminators);
+	for (UK2Node_FunctionTerminator* const Terminator : Terminators)
+	{
+		Terminator->Modify();
+		const UFunction* const Signature = Terminator->FindSignatureFunction();
+		const bool bIsEntry = Terminator->DrawNodeAsEntry();
+		Terminator->bIsEditable = true;
+		if (Signature && Terminator->UserDefinedPins.Num() == 0)
+		{
+			// What the interface's function gave becomes the node's own; the links go over to pins of the same names.
+			Terminator->FunctionReference.SetSelfMember(Graph.GetFName());
+			for (TFieldIterator<FProperty> Parameter(Signature); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+			{
+				const bool bIsInput =
+					Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) || !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
+				FEdGraphPinType Type;
+				if (bIsInput == bIsEntry && GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(*Parameter, Type))
+				{
+					const TSharedPtr<FUserPinInfo> Info = MakeShared<FUserPinInfo>();
+					Info->PinName = Parameter->GetFName();
+					Info->PinType = Type;
+					Info->DesiredPinDirection = bIsEntry ? EGPD_Output : EGPD_Input;
+					Terminator->UserDefinedPins.Add(Info);
+				}
+			}
+			Terminator->ReconstructNode();
+		}
+		Terminator->FunctionReference.SetSelfMember(Graph.GetFName());
+	}
+	GetDefault<UEdGraphSchema_K2>()->AddExtraFunctionFlags(&Graph, FUNC_BlueprintCallable | FUNC_BlueprintEvent | FUNC_Public);
+}
+
+void RemoveEventsOf(UBlueprint& Blueprint, const UClass& Interface)
+{
+	TArray<UK2Node_Event*> Events;
+	FBlueprintEditorUtils::GetAllNodesOfClass(&Blueprint, Events);
+	for (UK2Node_Event* const Event : Events)
+	{
+		const UClass* const Class = Event->EventReference.GetMemberParentClass();
+		if (Class && (Class == &Interface || (Interface.ClassGeneratedBy && Class->ClassGeneratedBy == Interface.ClassGeneratedBy)))
+		{
+			FBlueprintEditorUtils::RemoveNode(&Blueprint, Event, true);
+		}
+	}
+}
+}
+
+void FBlueprintEditorUtils::AddInterfaceGraphs(UBlueprint& Blueprint, FBPInterfaceDescription& Description)
+{
+	for (TFieldIterator<UFunction> It(Description.Interface.Get(), EFieldIteratorFlags::IncludeSuper); It; ++It)
+	{
+		UFunction* const Function = *It;
+		const bool bHasGraph = Description.Graphs.ContainsByPredicate(
+			[Function](const UEdGraph* Graph)
+			{ return Graph && Graph->GetFName() == Function->GetFName(); });
+		if (bHasGraph || !NeedsGraph(Function))
+		{
+			continue;
+		}
+		UEdGraph* const Graph = CreateNewGraph(&Blueprint, Function->GetFName(), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+		Graph->InterfaceGuid = FGuid::NewDeterministicGuid(Function->GetPathName());
+		AddFunctionGraphFromSignature(&Blueprint, Graph, false, Function, true);
+		Graph->bAllowDeletion = false;
+		Blueprint.FunctionGraphs.Remove(Graph);
+		Description.Graphs.Add(Graph);
+	}
+}
+
+bool FBlueprintEditorUtils::ImplementNewInterface(UBlueprint* Blueprint, FTopLevelAssetPath InterfaceClassPathName)
+{
+	UClass* const Interface = FindObject<UClass>(InterfaceClassPathName);
+	TArray<UClass*> Implemented;
+	FindImplementedInterfaces(Blueprint, true, Implemented);
+	if (!Interface || !Interface->HasAnyClassFlags(CLASS_Interface) || Implemented.Contains(Interface))
+	{
+		return false;
+	}
+	Blueprint->Modify();
+	FBPInterfaceDescription Description;
+	Description.Interface = Interface;
+	AddInterfaceGraphs(*Blueprint, Description);
+	Blueprint->ImplementedInterfaces.Add(Description);
+	MarkBlueprintAsStructurallyModified(Blueprint);
+	return true;
+}
+
+void FBlueprintEditorUtils::RemoveInterface(UBlueprint* Blueprint, FTopLevelAssetPath InterfaceClassPathName, bool bPreserveFunctions)
+{
+	UClass* const Interface = FindObject<UClass>(InterfaceClassPathName);
+	const int32 Index = Blueprint->ImplementedInterfaces.IndexOfByPredicate(
+		[Interface](const FBPInterfaceDescription& Description)
+		{ return Interface && Description.Interface.Get() == Interface; });
+	if (Index == INDEX_NONE)
+	{
+		return;
+	}
+	Blueprint->Modify();
+	const TArray<TObjectPtr<UEdGraph>> Graphs = Blueprint->ImplementedInterfaces[Index].Graphs;
+	for (UEdGraph* const Graph : Graphs)
+	{
+		if (Graph && bPreserveFunctions)
+		{
+			DetachFromInterface(*Graph);
+			Blueprint->FunctionGraphs.Add(Graph);
+		}
+		else if (Graph)
+		{
+			Graph->Modify();
+			Graph->bAllowDeletion = true;
+			RemoveGraph(Blueprint, Graph, EGraphRemoveFlags::MarkTransient);
+		}
+	}
+	Blueprint->ImplementedInterfaces.RemoveAt(Index);
+	RemoveEventsOf(*Blueprint, *Interface);
+	MarkBlueprintAsStructurallyModified(Blueprint);
+}
+
+void FBlueprintEditorUtils::ConformImplementedInterfaces(UBlueprint* Blueprint)
+{
+	Blueprint->Modify();
+	for (int32 Index = 0; Index < Blueprint->ImplementedInterfaces.Num(); ++Index)
+	{
+		if (Blueprint->ImplementedInterfaces[Index].Interface)
+		{
+			FBPInterfaceDescription Description = Blueprint->ImplementedInterfaces[Index];
+			AddInterfaceGraphs(*Blueprint, Description);
+			Blueprint->ImplementedInterfaces[Index] = Description;
+		}
+	}
+	MarkBlueprintAsStructurallyModified(Blueprint);
+}
+
+void FBlueprintEditorUtils::FindImplementedInterfaces(
+	const UBlueprint* Blueprint, bool bGetAllInterfaces, TArray<UClass*>& ImplementedInterfaces)
+{
+	for (const FBPInterfaceDescription& Description : Blueprint->ImplementedInterfaces)
+	{
+		if (Description.Interface)
+		{
+			ImplementedInterfaces.AddUnique(Description.Interface.Get());
+		}
+	}
+	if (!bGetAllInterfaces)
+	{
+		return;
+	}
+	for (const UClass* Class = Blueprint->ParentClass.Get(); Class; Class = Class->GetSuperClass())
+	{
+		for (const FImplementedInterface& Interface : Class->Interfaces)
+		{
+			if (Interface.Class)
+			{
+				ImplementedInterfaces.AddUnique(Interface.Class.Get());
+			}
+		}
+	}
+}

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "CoreMinimal.h"
+
+class UBlueprint;
+class UClass;
+class UK2Node;
+class UK2Node_CreateDelegate;
+struct FMemberReference;
+
+/** A node that refers to a member, with the reference. */
+struct FMemberUse
+{
+	UK2Node* Node = nullptr;
+	FMemberReference* Reference = nullptr;
+};
+
+/**
+ * Nodes of all loaded Blueprints that use a member of a Blueprint. Looked for among the nodes of the kinds that can, by the
+ * index of objects by class; a node that stands in no graph, such as one that only an undo could bring back, is no use.
+ */
+class FMemberUses
+{
+public:
+	/** Of a variable, a component, a timeline or a dispatcher. */
+	static TArray<FMemberUse> FindOfVariable(const UBlueprint& Owner, FName Name);
+	/** Of a function or an event: calls, overrides and the ends of overriding graphs. */
+	static TArray<FMemberUse> FindOfFunction(const UBlueprint& Owner, FName Name);
+	static TArray<FMemberUse> FindOfLocalVariable(const UBlueprint& Owner, const FString& Scope, FName Name);
+	/** Nodes that make an event of a function by its name. */
+	static TArray<UK2Node_CreateDelegate*> FindDelegatesOfFunction(const UBlueprint& Owner, FName Name);
+
+	/** Has the nodes refer to the new name, pins of that name included, and their Blueprints know that they were modified. */
+	static void Rename(const TArray<FMemberUse>& Uses, FName OldName, FName NewName);
+	/** Makes the nodes' pins again. */
+	static void Reconstruct(const TArray<FMemberUse>& Uses);
+
+	/** Whether the class is the Blueprint's or derives from it. */
+	static bool IsClassOf(const UClass* Class, const UBlueprint& Blueprint);
+	static bool StandsInGraph(const UK2Node& Node);
+};

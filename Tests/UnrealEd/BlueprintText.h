@@ -1,0 +1,97 @@
+#pragma once
+
+#include "Components/ActorComponent.h"
+#include "EdGraph/EdGraph.h"
+#include "EdGraph/EdGraphNode.h"
+#include "EdGraph/EdGraphPin.h"
+#include "EdGraphUtilities.h"
+#include "Engine/Blueprint.h"
+#include "Engine/SCS_Node.h"
+#include "Engine/SimpleConstructionScript.h"
+#include "Engine/TimelineTemplate.h"
+
+#include <gtest/gtest.h>
+
+/** Everything of a Blueprint that an undo must restore, as text. */
+class FBlueprintText
+{
+public:
+	static FString Take(const UBlueprint& Blueprint)
+	{
+		FString Text;
+		for (const FBPVariableDescription& Variable : Blueprint.NewVariables)
+		{
+			FString Line;
+			FBPVariableDescription::StaticStruct()->ExportText(Line, &Variable, nullptr, nullptr, PPF_None, nullptr);
+			Text += Line + TEXT("\n");
+		}
+		AddGraphs(TEXT("Ubergraphs"), Blueprint.UbergraphPages, Text);
+		AddGraphs(TEXT("Functions"), Blueprint.FunctionGraphs, Text);
+		AddGraphs(TEXT("Macros"), Blueprint.MacroGraphs, Text);
+		AddGraphs(TEXT("Dispatchers"), Blueprint.DelegateSignatureGraphs, Text);
+		for (const UTimelineTemplate* const Timeline : Blueprint.Timelines)
+		{
+			Text += FString::Printf(TEXT("Timeline %s %s\n"), *Timeline->GetPathName(), *Timeline->TimelineGuid.ToString());
+		}
+		for (const USCS_Node* const Node : Blueprint.SimpleConstructionScript->GetAllNodes())
+		{
+			const USCS_Node* const Parent = Blueprint.SimpleConstructionScript->FindParentNode(const_cast<USCS_Node*>(Node));
+			Text += FString::Printf(TEXT("Component %s %s below %s from %s\n"), *Node->GetVariableName().ToString(),
+				*Node->VariableGuid.ToString(), *GetNameSafe(Parent), *GetFullNameSafe(Node->ComponentTemplate.Get()));
+		}
+		return Text;
+	}
+
+private:
+	static void AddGraphs(const TCHAR* Kind, const TArray<TObjectPtr<UEdGraph>>& Graphs, FString& Text)
+	{
+		for (const UEdGraph* const Graph : Graphs)
+		{
+			AddGraph(Kind, *Graph, Text);
+			AddGraphs(TEXT("Subgraph"), Graph->SubGraphs, Text);
+		}
+	}
+
+	static void AddGraph(const TCHAR* Kind, const UEdGraph& Graph, FString& Text)
+	{
+		Text += FString::Printf(
+			TEXT("%s %s %s flags %x\n"), Kind, *Graph.GetPathName(), *Graph.GraphGuid.ToString(), static_cast<uint32>(Graph.GetFlags()));
+		for (UEdGraphNode* const Node : Graph.Nodes)
+		{
+			FString NodeText;
+			FEdGraphUtilities::ExportNodesToText({Node}, NodeText);
+			TArray<FString> Lines;
+			NodeText.ParseIntoArrayLines(Lines);
+			for (const FString& Line : Lines)
+			{
+				// A compile's messages are no part of what the user edits.
+				const bool bIsMessage =
+					Line.Contains(TEXT("ErrorMsg")) || Line.Contains(TEXT("ErrorType")) || Line.Contains(TEXT("bHasCompilerMessage"));
+				Text += bIsMessage ? FString() : Line + TEXT("\n");
+			}
+			CheckPins(*Node);
+		}
+	}
+
+	static void CheckPins(const UEdGraphNode& Node)
+	{
+		for (const UEdGraphPin* const Pin : Node.Pins)
+		{
+			ASSERT_FALSE(Pin->WasTrashed());
+			ASSERT_EQ(Pin->GetOwningNode(), &Node);
+			for (const UEdGraphPin* const Linked : Pin->LinkedTo)
+			{
+				ASSERT_FALSE(Linked->WasTrashed());
+				ASSERT_TRUE(Linked->LinkedTo.Contains(const_cast<UEdGraphPin*>(Pin)));
+				ASSERT_TRUE(Linked->GetOwningNode()->Pins.Contains(const_cast<UEdGraphPin*>(Linked)));
+				ASSERT_EQ(Linked->GetOwningNode()->GetGraph(), Node.GetGraph());
+				ASSERT_TRUE(Node.GetGraph()->Nodes.Contains(Linked->GetOwningNode()));
+			}
+			for (const UEdGraphPin* const SubPin : Pin->SubPins)
+			{
+				ASSERT_EQ(SubPin->ParentPin, Pin);
+				ASSERT_TRUE(Node.Pins.Contains(const_cast<UEdGraphPin*>(SubPin)));
+			}
+		}
+	}
+};
