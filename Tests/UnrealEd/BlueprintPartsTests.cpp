@@ -210,6 +210,53 @@ TEST_F(FBlueprintPartsTest, SpawnedActorsHaveTheTreeOfTheirBlueprintAndItsParent
 	Actor->GetWorld()->DestroyActor(Actor);
 }
 
+TEST_F(FBlueprintPartsTest, ActorsOfALevelComeAndGoWithUndo)
+{
+	USCS_Node* const Body = AddComponent(Blueprint, TEXT("Body"));
+	AddComponent(Blueprint, TEXT("Arm"), Body);
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	UWorld* const World = GEditor->GetEditorWorldContext().World();
+	const ULevel* const Level = World->PersistentLevel;
+	GEditor->ResetTransaction(Title(TEXT("Test")));
+	AActor* Actor = nullptr;
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Spawn")));
+		Actor = World->SpawnActor(Blueprint->GeneratedClass.Get());
+	}
+	USceneComponent* const Root = Actor->GetRootComponent();
+	ASSERT_NE(Root, nullptr);
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Move")));
+		Root->Modify();
+		Root->SetRelativeLocation(FVector(5, 6, 7));
+	}
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Delete")));
+		ASSERT_TRUE(World->DestroyActor(Actor));
+	}
+	Collect();
+	EXPECT_FALSE(Level->Actors.Contains(Actor));
+	Undo();
+	ASSERT_TRUE(IsValid(Actor));
+	EXPECT_TRUE(Level->Actors.Contains(Actor));
+	EXPECT_FALSE(Actor->IsActorBeingDestroyed());
+	EXPECT_EQ(Actor->GetRootComponent(), Root);
+	EXPECT_EQ(Actor->GetComponents().Num(), 2);
+	EXPECT_TRUE(Root->IsRegistered());
+	EXPECT_EQ(Actor->GetActorLocation(), FVector(5, 6, 7));
+	Undo();
+	EXPECT_EQ(Actor->GetActorLocation(), FVector::ZeroVector);
+	Undo();
+	EXPECT_FALSE(Level->Actors.Contains(Actor));
+	EXPECT_FALSE(IsValid(Actor));
+	Collect();
+	ASSERT_TRUE(Redo() && Redo());
+	EXPECT_TRUE(Level->Actors.Contains(Actor));
+	EXPECT_EQ(Actor->GetActorLocation(), FVector(5, 6, 7));
+	EXPECT_EQ(Actor->GetComponents().Num(), 2);
+	World->DestroyActor(Actor);
+}
+
 TEST_F(FBlueprintPartsTest, ATimelineComesAndGoesWithItsNode)
 {
 	UK2Node_Timeline* const Node = AddNode<UK2Node_Timeline>(Graph);

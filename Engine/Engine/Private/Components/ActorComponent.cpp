@@ -88,8 +88,23 @@ void UActorComponent::UnregisterComponent()
 
 void UActorComponent::DestroyComponent(bool bPromoteChildren)
 {
+	Modify();
 	UnregisterComponent();
 	MarkAsGarbage();
+}
+
+void UActorComponent::PostEditUndo()
+{
+	Super::PostEditUndo();
+	// An undo gives up and brings back components behind their registration's back.
+	if (!IsValid(this))
+	{
+		UnregisterComponent();
+	}
+	else if (GetWorld() && IsValid(GetOwner()) && !IsTemplate())
+	{
+		RegisterComponent();
+	}
 }
 
 void UActorComponent::K2_DestroyComponent(UObject* Object)

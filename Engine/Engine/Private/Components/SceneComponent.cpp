@@ -150,6 +150,12 @@ bool USceneComponent::AttachToComponent(USceneComponent* InParent, const FAttach
 	{
 		return false;
 	}
+	Modify();
+	InParent->Modify();
+	if (AttachParent)
+	{
+		AttachParent->Modify();
+	}
 	const FTransform World = GetComponentTransform();
 	const FTransform Relative = GetRelativeTransform();
 	SetupAttachment(InParent, InSocketName);

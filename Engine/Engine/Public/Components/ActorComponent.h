@@ -58,6 +58,7 @@ public:
 	AActor* GetOwner() const;
 
 	virtual UWorld* GetWorld() const override;
+	virtual void PostEditUndo() override;
 	ULevel* GetComponentLevel() const;
 
 	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Components")

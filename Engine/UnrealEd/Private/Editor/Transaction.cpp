@@ -115,7 +115,7 @@ void FTransaction::GetTransactionObjects(TArray<UObject*>& OutObjects) const
 {
 	for (const FObjectRecord& Record : Implementation->Records)
 	{
-		OutObjects.AddUnique(Record.Object);
+		OutObjects.Add(Record.Object);
 	}
 }
 

@@ -5,6 +5,7 @@
 #include "Engine/BlueprintGeneratedClass.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "GameFramework/Actor.h"
+#include "Misc/ITransaction.h"
 #include "UObject/LayoutTransfer.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectGlobals.h"
@@ -92,6 +93,8 @@ void FBlueprintCompileReinstancer::AddClassAndDerived(UBlueprint& Blueprint, UBl
 
 void FBlueprintCompileReinstancer::Rebuild(TArray<FString>& OutErrors)
 {
+	// What is made here is made of what a transaction remembers; to undo it on its own would leave classes without instances.
+	const TGuardValue<ITransaction*> NotForUndo(GUndo, nullptr);
 	for (FRebuiltClass& Rebuilt : Classes)
 	{
 		MoveOldLayoutAway(Rebuilt);
