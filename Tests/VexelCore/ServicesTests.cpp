@@ -3,16 +3,19 @@
 #include "LogCapture.h"
 #include "Misc/CommandLine.h"
 #include "Misc/ConfigCacheIni.h"
+#include "Misc/Paths.h"
 #include "TaskFixture.h"
 #include "VexelFile.h"
 #include "VexelInternalConfig.h"
 #include "VexelJson.h"
+#include "VexelStorage.h"
 #include "VexelStringUtil.h"
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <set>
 
 namespace
 {
@@ -162,4 +165,53 @@ TEST(PrintableText, HoldsNothingThatATerminalWouldObey)
 	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintable(FStringView(u"a\0b", 3))), "a\uFFFDb");
 	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintableLine(u"\n one\r\n\t two  \u001bthree\n", 100)), "one two \uFFFDthree");
 	EXPECT_EQ(ToUtf8(FVexelStringUtil::ToPrintableLine(u"one two three", 7)), "one two…");
+}
+
+TEST(JsonTraits, ValuesComeBackAndOthersAreRefused)
+{
+	FString Text = TEXT("kept");
+	EXPECT_TRUE(TVexelJsonTraits<FString>::FromJson(TVexelJsonTraits<FString>::ToJson(TEXT("T\u00FCr")), Text));
+	EXPECT_EQ(ToUtf8(Text), "Tür");
+	EXPECT_FALSE(TVexelJsonTraits<FString>::FromJson(MakeShared<FJsonValueNumber>(1.0), Text));
+	EXPECT_FALSE(TVexelJsonTraits<FString>::FromJson(nullptr, Text));
+	EXPECT_EQ(ToUtf8(Text), "Tür");
+	const FGuid Guid(0x01234567, 0x89abcdef, 0x01234567, 0x89abcdef);
+	FGuid Read;
+	EXPECT_EQ(ToUtf8(TVexelJsonTraits<FGuid>::ToJson(Guid)->AsString()), "01234567-89ab-cdef-0123-456789abcdef");
+	EXPECT_TRUE(TVexelJsonTraits<FGuid>::FromJson(TVexelJsonTraits<FGuid>::ToJson(Guid), Read));
+	EXPECT_EQ(Read, Guid);
+	EXPECT_FALSE(TVexelJsonTraits<FGuid>::FromJson(MakeShared<FJsonValueString>(TEXT("no guid")), Read));
+	EXPECT_FALSE(TVexelJsonTraits<FGuid>::FromJson(MakeShared<FJsonValueNumber>(1.0), Read));
+}
+
+TEST_F(FVexelFileTest, GeneratedModelsStayInTheirFolderWhateverTheyAreCalled)
+{
+	FPaths::SetProjectSavedDir(ToPath(Root / "Saved"));
+	const uint8 Bytes[] = {'g', 'l', 'T', 'F'};
+	const TOptional<FString> Model = FVexelStorage::StoreGeneratedModel(TEXT("task-1"), TEXT(".glb"), Bytes);
+	ASSERT_TRUE(Model.IsSet());
+	EXPECT_EQ(ToUtf8(*Model), (Root / "Saved/VexelStorage/Models/task-1/model.glb").string());
+	EXPECT_EQ(ReadFile(ToUtf8(*Model)), "glTF");
+	EXPECT_EQ(ToUtf8(*FVexelStorage::StoreGeneratedAssetForModel(TEXT("task-1"), TEXT("base_color.png"), Bytes)),
+		(Root / "Saved/VexelStorage/Models/task-1/base_color.png").string());
+	std::set<std::string> Paths;
+	const TCHAR* const Hostile[] = {TEXT(".."), TEXT("../../../escape.png"), TEXT(".. /../escape.png"), TEXT("/etc/passwd"), TEXT(""),
+		TEXT(".hidden"), TEXT("T\u00FCr.png"), TEXT("Tor.p/ng"), TEXT("a\nb")};
+	for (const TCHAR* const Name : Hostile)
+	{
+		for (const TOptional<FString>& Path : {FVexelStorage::StoreGeneratedAssetForModel(TEXT("task-1"), Name, Bytes),
+				 FVexelStorage::StoreGeneratedModel(Name, TEXT(".glb"), Bytes)})
+		{
+			ASSERT_TRUE(Path.IsSet()) << ToUtf8(Name);
+			const fs::path Stored = ToUtf8(*Path);
+			EXPECT_EQ(fs::weakly_canonical(Stored).parent_path().parent_path(), fs::weakly_canonical(Root / "Saved/VexelStorage/Models"));
+			EXPECT_TRUE(fs::exists(Stored));
+			EXPECT_TRUE(Paths.insert(Stored.string()).second) << "two names, one file: " << Stored;
+		}
+	}
+	EXPECT_TRUE(FVexelStorage::StoreGeneratedAssetForModel(TEXT("task-1"), FString::ChrN(5000, TEXT('x')) + TEXT(".png"), Bytes)
+					->EndsWith(TEXT(".png")));
+	std::ofstream(Root / "Saved/VexelStorage/Models/blocked") << "a file where a folder should be";
+	EXPECT_FALSE(FVexelStorage::StoreGeneratedModel(TEXT("blocked"), TEXT(".glb"), Bytes).IsSet());
+	FPaths::SetProjectSavedDir(FString());
 }

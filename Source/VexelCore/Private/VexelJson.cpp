@@ -59,3 +59,29 @@ bool IVexelJsonable::FromJsonString(const FString& Text)
 	}
 	return FromJson(Object.ToSharedRef());
 }
+
+TSharedRef<FJsonValue> TVexelJsonTraits<FString>::ToJson(const FString& Value)
+{
+	return MakeShared<FJsonValueString>(Value);
+}
+
+bool TVexelJsonTraits<FString>::FromJson(const TSharedPtr<FJsonValue>& Json, FString& OutValue)
+{
+	if (!Json || Json->Type != EJson::String)
+	{
+		return false;
+	}
+	OutValue = Json->AsString();
+	return true;
+}
+
+TSharedRef<FJsonValue> TVexelJsonTraits<FGuid>::ToJson(const FGuid& Value)
+{
+	return MakeShared<FJsonValueString>(Value.ToString(EGuidFormats::DigitsWithHyphensLower));
+}
+
+bool TVexelJsonTraits<FGuid>::FromJson(const TSharedPtr<FJsonValue>& Json, FGuid& OutValue)
+{
+	FString Text;
+	return TVexelJsonTraits<FString>::FromJson(Json, Text) && FGuid::Parse(Text, OutValue);
+}

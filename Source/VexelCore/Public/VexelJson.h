@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
 #include "Dom/JsonValue.h"
+#include "Misc/Guid.h"
 
 /** Text to JSON objects and back. */
 class VEXELCORE_API FVexelJsonConversions
@@ -31,4 +32,23 @@ public:
 
 	FString ToJsonString() const;
 	bool FromJsonString(const FString& Text);
+};
+
+/** Converts single values of a type to JSON and back. One specialisation a type; FromJson answers false for a value of another. */
+template <typename T>
+struct TVexelJsonTraits;
+
+template <>
+struct VEXELCORE_API TVexelJsonTraits<FString>
+{
+	static TSharedRef<FJsonValue> ToJson(const FString& Value);
+	static bool FromJson(const TSharedPtr<FJsonValue>& Json, FString& OutValue);
+};
+
+/** A GUID is a string of digits in groups: "01234567-89ab-cdef-0123-456789abcdef". Every form that FGuid reads is taken. */
+template <>
+struct VEXELCORE_API TVexelJsonTraits<FGuid>
+{
+	static TSharedRef<FJsonValue> ToJson(const FGuid& Value);
+	static bool FromJson(const TSharedPtr<FJsonValue>& Json, FGuid& OutValue);
 };

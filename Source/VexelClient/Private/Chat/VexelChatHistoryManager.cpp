@@ -3,6 +3,7 @@
 #include "Data/VexelChatConversation.h"
 #include "HAL/FileManager.h"
 #include "Misc/FileHelper.h"
+#include "Misc/Guid.h"
 #include "Misc/Paths.h"
 #include "VexelFile.h"
 #include "VexelLog.h"
@@ -106,7 +107,12 @@ void FVexelChatHistoryManager::LoadFile(const FString& Path)
 		VEXEL_LOG(Warning, "The conversation file '%s' cannot be opened", *Path);
 		return;
 	}
-	const FString Aside = Path + TEXT(".damaged");
-	IFileManager::Get().Move(*Aside, *Path, true, true);
+	FString Aside = Path + TEXT(".damaged");
+	if (IFileManager::Get().FileExists(*Aside))
+	{
+		// An earlier damaged file may be all that is left of another conversation.
+		Aside = Path + TEXT(".") + FGuid::NewGuid().ToString() + TEXT(".damaged");
+	}
+	IFileManager::Get().Move(*Aside, *Path, false, true);
 	VEXEL_LOG(Warning, "The conversation file '%s' is damaged; it is kept as '%s'", *Path, *Aside);
 }
