@@ -196,11 +196,11 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisName"))
 	float GetInputAxisValue(const FName InputAxisName) const;
 
-	/** Value of an axis key, if input reaches the actor. */
+	/** Gets the value of the input axis key if input is enabled for this actor. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisKey"))
 	float GetInputAxisKeyValue(const FKey InputAxisKey) const;
 
-	/** Value of an axis key of three dimensions, if input reaches the actor. */
+	/** Gets the value of the input axis key of three dimensions if input is enabled for this actor. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisKey"))
 	FVector GetInputVectorAxisValue(const FKey InputAxisKey) const;
 

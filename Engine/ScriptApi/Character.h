@@ -10,7 +10,7 @@ DECLARE_DYNAMIC_MULTICAST_DELEGATE(FCharacterReachedApexSignature);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FLandedSignature, const FHitResult&, Hit);
 
 /** A pawn with a mesh, a capsule and a way to walk, jump, swim and fly. */
-UCLASS(config = Game, BlueprintType, meta = (ShortTooltip = "A character is a type of Pawn that includes the ability to walk around."))
+UCLASS(config = Game, BlueprintType)
 class ENGINE_API ACharacter : public APawn
 {
 	GENERATED_BODY()

@@ -109,9 +109,6 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Pawn")
 	void GetPlayerViewPoint(FVector& Location, FRotator& Rotation) const;
 
-	UFUNCTION(BlueprintCallable, Client, Reliable, Category = "Controller")
-	void ClientSetLocation(FVector NewLocation, FRotator NewRotation);
-
 	/** The controller takes over a pawn. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "Controller", meta = (DisplayName = "On Possess"))
 	void ReceivePossess(APawn* PossessedPawn);

@@ -66,7 +66,7 @@ enum Type : int
 }
 
 /** A point or vector in 2-D space, in single precision. */
-USTRUCT(BlueprintType, meta = (HasNativeMake = "/Script/Engine.KismetMathLibrary.MakeVector2f"))
+USTRUCT(BlueprintType)
 struct FVector2f
 {
 	GENERATED_BODY()

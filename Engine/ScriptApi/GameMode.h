@@ -8,7 +8,7 @@
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FOnPlayerStatePawnSet, APlayerState*, Player, APawn*, NewPawn, APawn*, OldPawn);
 
 /** Rules of a game; it is on the server alone. */
-UCLASS(config = Game, notplaceable, BlueprintType, Blueprintable, Transient, hideCategories = (Info, Rendering, MovementReplication, Replication, Actor), meta = (ShortTooltip = "Game Mode Base defines the game being played, its rules, scoring, and other facets of the game type."))
+UCLASS(config = Game, notplaceable, BlueprintType, Blueprintable, Transient, hideCategories = (Info, Rendering, MovementReplication, Replication, Actor))
 class ENGINE_API AGameModeBase : public AInfo
 {
 	GENERATED_BODY()
@@ -119,7 +119,7 @@ public:
 	AActor* FindPlayerStart(AController* Player, const FString& IncomingName = TEXT(""));
 
 	/** Place where a player begins. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (DisplayName = "FindPlayerStart", ScriptName = "FindPlayerStart"))
+	UFUNCTION(BlueprintPure, Category = "Game", meta = (DisplayName = "FindPlayerStart", ScriptName = "FindPlayerStart"))
 	AActor* K2_FindPlayerStart(AController* Player, const FString& IncomingName = TEXT(""));
 
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")

@@ -414,4 +414,12 @@ public:
 	/** The point of a plane that is nearest. */
 	UFUNCTION(BlueprintPure, Category = "Math|Vector")
 	static FVector ProjectPointOnToPlane(FVector Point, FVector PlaneBase, FVector PlaneNormal);
+
+	/** A vector of its parts. */
+	UFUNCTION(BlueprintPure, Category = "Math|Vector3f", meta = (Keywords = "construct build", NativeMakeFunc))
+	static FVector3f MakeVector3f(float X, float Y, float Z);
+
+	/** The parts of a vector. */
+	UFUNCTION(BlueprintPure, Category = "Math|Vector3f", meta = (NativeBreakFunc))
+	static void BreakVector3f(FVector3f InVec, float& X, float& Y, float& Z);
 };

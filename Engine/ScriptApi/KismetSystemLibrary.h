@@ -148,7 +148,7 @@ public:
 	static void RetriggerableDelay(const UObject* WorldContextObject, float Duration, FLatentActionInfo LatentInfo);
 
 	/** Moves a component to a place over some time. */
-	UFUNCTION(BlueprintCallable, Category = "Components", meta = (Latent, LatentInfo = "LatentInfo", WorldContext = "WorldContextObject", ExpandEnumAsExecs = "MoveAction", OverTime = "0.2"))
+	UFUNCTION(BlueprintCallable, Category = "Components", meta = (Latent, LatentInfo = "LatentInfo", ExpandEnumAsExecs = "MoveAction", OverTime = "0.2"))
 	static void MoveComponentTo(USceneComponent* Component, FVector TargetRelativeLocation, FRotator TargetRelativeRotation, bool bEaseOut, bool bEaseIn, float OverTime, bool bForceShortestRotationPath, TEnumAsByte<EMoveComponentAction::Type> MoveAction, FLatentActionInfo LatentInfo);
 
 	/** Runs a console command. */

@@ -18,7 +18,7 @@ DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FPawnRestartedSignature, APawn*, Paw
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FPawnControllerChangedSignature, APawn*, Pawn, AController*, OldController, AController*, NewController);
 
 /** An actor that a player or an AI controls. */
-UCLASS(config = Game, BlueprintType, Blueprintable, hideCategories = (Navigation), meta = (ShortTooltip = "A Pawn is an actor that can be controlled."))
+UCLASS(config = Game, BlueprintType, Blueprintable, hideCategories = (Navigation))
 class ENGINE_API APawn : public AActor
 {
 	GENERATED_BODY()

@@ -38,7 +38,7 @@ enum Type : int
 }
 
 /** Controller of a person. */
-UCLASS(config = Game, BlueprintType, Blueprintable, meta = (ShortTooltip = "A Player Controller is an actor responsible for controlling a Pawn used by the player."))
+UCLASS(config = Game, BlueprintType, Blueprintable)
 class ENGINE_API APlayerController : public AController
 {
 	GENERATED_BODY()
@@ -236,13 +236,6 @@ public:
 	/** Ends a shake of the player's camera. */
 	UFUNCTION(BlueprintCallable, Reliable, Client, Category = "Game|Feedback")
 	void ClientStopCameraShake(TSubclassOf<UCameraShakeBase> Shake, bool bImmediately = true);
-
-	UFUNCTION(BlueprintCallable, Reliable, Client, Category = "PlayerController")
-	void ClientSetCameraFade(bool bEnableFading, FColor FadeColor = FColor(ForceInit), FVector2D FadeAlpha = FVector2D(-1.0, 0.0), float FadeTime = 0, bool bFadeAudio = false, bool bHoldWhenFinished = false);
-
-	/** Plays a sound for the player. */
-	UFUNCTION(BlueprintCallable, unreliable, Client, Category = "PlayerController")
-	void ClientPlaySound(USoundBase* Sound, float VolumeMultiplier = 1.f, float PitchMultiplier = 1.f);
 
 	UFUNCTION(BlueprintCallable, unreliable, Client, Category = "Game|Feedback")
 	void ClientSpawnCameraLensEffect(TSubclassOf<AEmitterCameraLensEffectBase> LensEffectEmitterClass);

@@ -99,7 +99,7 @@ public:
 };
 
 /** A shape in the level. */
-UCLASS(hidecategories = (Object, Collision, Display, Rendering, Physics, Input, Blueprint), showcategories = ("Input|MouseInput", "Input|TouchInput"), NotBlueprintable, ConversionRoot, meta = (ShortTooltip = "A brush in the level"))
+UCLASS(hidecategories = (Object, Collision, Display, Rendering, Physics, Input, Blueprint), showcategories = ("Input|MouseInput", "Input|TouchInput"), NotBlueprintable, ConversionRoot)
 class ENGINE_API ABrush : public AActor
 {
 	GENERATED_BODY()

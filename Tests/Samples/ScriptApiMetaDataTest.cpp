@@ -3,6 +3,7 @@
 #include "EdGraphSchema_K2.h"
 #include "EditorFixture.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectIterator.h"
 #include "UObject/UnrealType.h"
 
 #include <functional>
@@ -24,7 +25,8 @@ void ForEachFunction(const std::function<void(const UFunction*, const FFunctionD
 			for (const FFunctionDeclaration& Function : Class.Functions)
 			{
 				const UFunction* const Found = Reflected ? Reflected->FindFunctionByName(FName(UTF8_TO_TCHAR(Function.Name.c_str()))) : nullptr;
-				const std::string Where = Header.Path.filename().string() + ":" + std::to_string(Function.Position.Line) + ": " + Class.Name + "::" + Function.Name;
+				const std::string Line = Header.Path.filename().string() + ":" + std::to_string(Function.Position.Line);
+				const std::string Where = Line + ": " + Class.Name + "::" + Function.Name;
 				ASSERT_TRUE(Found) << Where;
 				Visit(Found, Function, Where);
 			}
@@ -45,9 +47,12 @@ TArray<FString> SplitNames(const FString& List)
 
 TEST_F(FScriptApiMetaDataTest, NamesParametersThatAreThere)
 {
-	const TCHAR* const Keys[] = {TEXT("WorldContext"), TEXT("LatentInfo"), TEXT("ArrayParm"), TEXT("ArrayTypeDependentParams"), TEXT("DeterminesOutputType"),
-		TEXT("DynamicOutputParam"), TEXT("DefaultToSelf"), TEXT("HidePin"), TEXT("ExpandEnumAsExecs"), TEXT("ExpandBoolAsExecs"), TEXT("AutoCreateRefTerm"),
-		TEXT("CustomStructureParam"), TEXT("SetParam"), TEXT("MapParam"), TEXT("MapKeyParam"), TEXT("MapValueParam"), TEXT("InternalUseParam"), TEXT("AdvancedDisplay")};
+	const TCHAR* const Keys[] = {TEXT("WorldContext"), TEXT("LatentInfo"), TEXT("ArrayParm"), TEXT("ArrayTypeDependentParams"),
+		TEXT("DeterminesOutputType"),
+		TEXT("DynamicOutputParam"), TEXT("DefaultToSelf"), TEXT("HidePin"), TEXT("ExpandEnumAsExecs"), TEXT("ExpandBoolAsExecs"),
+		TEXT("AutoCreateRefTerm"),
+		TEXT("CustomStructureParam"), TEXT("SetParam"), TEXT("MapParam"), TEXT("MapKeyParam"), TEXT("MapValueParam"),
+		TEXT("InternalUseParam"), TEXT("AdvancedDisplay")};
 	ForEachFunction([&Keys](const UFunction* Function, const FFunctionDeclaration&, const std::string& Where)
 		{
 		for (const TCHAR* const Key : Keys)
@@ -57,7 +62,8 @@ TEST_F(FScriptApiMetaDataTest, NamesParametersThatAreThere)
 			{
 				// AdvancedDisplay may count the parameters that are shown instead.
 				const bool bCount = Name.IsNumeric() && FCString::Atoi(*Name) < Function->NumParms;
-				EXPECT_TRUE(bCount || Function->FindChildProperty(FName(*Name))) << Where << " has no " << TCHAR_TO_UTF8(*Name) << " for " << TCHAR_TO_UTF8(Key);
+				EXPECT_TRUE(bCount || Function->FindChildProperty(FName(*Name)))
+					<< Where << " has no " << TCHAR_TO_UTF8(*Name) << " for " << TCHAR_TO_UTF8(Key);
 			}
 		} });
 }
@@ -107,7 +113,8 @@ TEST_F(FScriptApiMetaDataTest, EveryDefaultArgumentIsAGoodDefaultOfItsPin)
 			FText Text;
 			Schema->GetPinDefaultValuesFromString(PinType, nullptr, FString(UTF8_TO_TCHAR(Default->c_str())), Value, Object, Text);
 			FString Reason;
-			EXPECT_TRUE(Schema->DefaultValueSimpleValidation(PinType, Property->GetFName(), Value, Object, Text, &Reason)) << Where << ", " << Parameter.Name << " = " << *Default << ": " << TCHAR_TO_UTF8(*Reason);
+			EXPECT_TRUE(Schema->DefaultValueSimpleValidation(PinType, Property->GetFName(), Value, Object, Text, &Reason))
+				<< Where << ", " << Parameter.Name << " = " << *Default << ": " << TCHAR_TO_UTF8(*Reason);
 		} });
 }
 
@@ -124,22 +131,26 @@ TEST_F(FScriptApiMetaDataTest, DefaultsStandAtTheEnd)
 		} });
 }
 
+/** Of native structs too, whose functions are declared in these headers. */
 TEST_F(FScriptApiMetaDataTest, MakeAndBreakFunctionsOfStructsExist)
 {
-	for (const FScriptApiHeader& Header : GetScriptApiHeaders())
+	int32 NumNamed = 0;
+	for (TObjectIterator<UScriptStruct> It; It; ++It)
 	{
-		for (const FStructDeclaration& Struct : Header.Header.Structs)
+		for (const TCHAR* const Key : {TEXT("HasNativeMake"), TEXT("HasNativeBreak")})
 		{
-			for (const char* const Key : {"HasNativeMake", "HasNativeBreak"})
+			const FString* const Path = It->FindMetaData(Key);
+			FString Class;
+			FString Function;
+			if (!Path || !Path->Split(TEXT("."), &Class, &Function, ESearchCase::IgnoreCase, ESearchDir::FromEnd))
 			{
-				const std::string* const Path = Struct.MetaData.Find(Key);
-				const size_t Dot = Path ? Path->rfind('.') : std::string::npos;
-				if (Dot != std::string::npos)
-				{
-					EXPECT_TRUE(FindObject<UFunction>(nullptr, UTF8_TO_TCHAR((Path->substr(0, Dot) + ":" + Path->substr(Dot + 1)).c_str()))) << Struct.Name << ": " << *Path;
-				}
+				continue;
 			}
+			++NumNamed;
+			EXPECT_TRUE(FindObject<UFunction>(nullptr, *(Class + TEXT(":") + Function)))
+				<< TCHAR_TO_UTF8(*It->GetName()) << ": " << TCHAR_TO_UTF8(**Path);
 		}
 	}
+	EXPECT_GT(NumNamed, 10);
 }
 }

@@ -44,7 +44,8 @@ void ExpectSignature(const FScriptApiHeader& Header, const UFunction* Function, 
 {
 	for (const FPropertyDeclaration& Parameter : Declaration.Parameters)
 	{
-		EXPECT_TRUE(Function->FindChildProperty(ToName(Parameter.Name))) << Where(Header, Parameter.Position, Declaration.Name + " lacks " + Parameter.Name);
+		EXPECT_TRUE(Function->FindChildProperty(ToName(Parameter.Name)))
+			<< Where(Header, Parameter.Position, Declaration.Name + " lacks " + Parameter.Name);
 	}
 	EXPECT_EQ(static_cast<size_t>(Function->NumParms), CountParameters(Declaration)) << Where(Header, Declaration.Position, Declaration.Name);
 }
@@ -53,7 +54,8 @@ void ExpectProperties(const FScriptApiHeader& Header, const UStruct* Struct, con
 {
 	for (const FPropertyDeclaration& Property : Properties)
 	{
-		EXPECT_TRUE(Struct->FindPropertyByName(ToName(Property.Name))) << Where(Header, Property.Position, ToUtf8(Struct->GetName()) + " lacks " + Property.Name);
+		EXPECT_TRUE(Struct->FindPropertyByName(ToName(Property.Name)))
+			<< Where(Header, Property.Position, ToUtf8(Struct->GetName()) + " lacks " + Property.Name);
 	}
 }
 
@@ -74,7 +76,8 @@ TEST_F(FScriptApiReflectionTest, EveryClassHasItsSuperMembersAndFunctions)
 			const UClass* const Class = FindDeclaredClass(Header.Header, Declaration.Name);
 			ASSERT_TRUE(Class) << Where(Header, Declaration.Position, Declaration.Name);
 			const UClass* const Super = Class->GetSuperClass();
-			EXPECT_TRUE(Super && ToUtf8(Super->GetPrefixCPP() + Super->GetName()) == Declaration.Super) << Where(Header, Declaration.Position, Declaration.Name);
+			EXPECT_TRUE(Super && ToUtf8(Super->GetPrefixCPP() + Super->GetName()) == Declaration.Super)
+				<< Where(Header, Declaration.Position, Declaration.Name);
 			ExpectProperties(Header, Class, Declaration.Properties);
 			for (const FFunctionDeclaration& FunctionDeclaration : Declaration.Functions)
 			{
@@ -92,9 +95,12 @@ TEST_F(FScriptApiReflectionTest, EveryStructHasItsSuperAndMembers)
 	{
 		for (const FStructDeclaration& Declaration : Header.Header.Structs)
 		{
-			const UScriptStruct* const Struct = FindObject<UScriptStruct>(nullptr, UTF8_TO_TCHAR(GetReflectedPath(Header.Header, Declaration.Name).c_str()));
+			const std::string Path = GetReflectedPath(Header.Header, Declaration.Name);
+			const UScriptStruct* const Struct = FindObject<UScriptStruct>(nullptr, UTF8_TO_TCHAR(Path.c_str()));
 			ASSERT_TRUE(Struct) << Where(Header, Declaration.Position, Declaration.Name);
-			EXPECT_EQ(Struct->GetSuperStruct() ? "F" + ToUtf8(Struct->GetSuperStruct()->GetName()) : std::string(), Declaration.Super) << Where(Header, Declaration.Position, Declaration.Name);
+			const UStruct* const Super = Struct->GetSuperStruct();
+			EXPECT_EQ(Super ? "F" + ToUtf8(Super->GetName()) : std::string(), Declaration.Super)
+				<< Where(Header, Declaration.Position, Declaration.Name);
 			ExpectProperties(Header, Struct, Declaration.Properties);
 		}
 	}
@@ -106,7 +112,8 @@ TEST_F(FScriptApiReflectionTest, EveryDelegateHasItsSignature)
 	{
 		for (const FDelegateDeclaration& Declaration : Header.Header.Delegates)
 		{
-			const std::string Path = Header.Header.Package + (Declaration.OuterClass.empty() ? "." : "." + Declaration.OuterClass.substr(1) + ":") + Declaration.Signature.Name;
+			const std::string Outer = Declaration.OuterClass.empty() ? std::string() : Declaration.OuterClass.substr(1) + ":";
+			const std::string Path = Header.Header.Package + "." + Outer + Declaration.Signature.Name;
 			const UFunction* const Signature = FindObject<UFunction>(nullptr, UTF8_TO_TCHAR(Path.c_str()));
 			ASSERT_TRUE(Signature) << Where(Header, Declaration.Position, Path);
 			ExpectSignature(Header, Signature, Declaration.Signature);
@@ -200,6 +207,7 @@ TEST_F(FScriptApiReflectionTest, DeclaresWhatBlueprintsUseMost)
 	RecordProperty("Structs", static_cast<int>(NumStructs));
 	RecordProperty("Enums", static_cast<int>(NumEnums));
 	RecordProperty("Delegates", static_cast<int>(NumDelegates));
-	EXPECT_GE(NumFunctions, 2900u) << NumClasses << " classes, " << NumProperties << " properties, " << NumStructs << " structs, " << NumEnums << " enums, " << NumDelegates << " delegates";
+	EXPECT_GE(NumFunctions, 2900u)
+		<< NumClasses << " classes, " << NumProperties << " properties, " << NumStructs << " structs, " << NumEnums << " enums, " << NumDelegates << " delegates";
 }
 }
