@@ -10,29 +10,15 @@ UK2Node_SwitchEnum::UK2Node_SwitchEnum(const FObjectInitializer& ObjectInitializ
 	bHasDefaultPin = false;
 }
 
-bool UK2Node_SwitchEnum::HasKnownDefinition() const
-{
-	// An enumeration that is only named somewhere, and not loaded, has no values.
-	return Enum && Enum->NumEnums() > 0;
-}
-
 void UK2Node_SwitchEnum::SetEnum(UEnum* InEnum)
 {
 	Enum = InEnum;
 	EnumEntries.Empty();
 	EnumFriendlyNames.Empty();
-	if (!Enum)
+	for (const int32 Entry : GetVisibleEnumEntries(Enum))
 	{
-		return;
-	}
-	const int32 Count = Enum->NumEnums() - (Enum->ContainsExistingMax() ? 1 : 0);
-	for (int32 Index = 0; Index < Count; ++Index)
-	{
-		if (!Enum->HasMetaData(TEXT("Hidden"), Index) && !Enum->HasMetaData(TEXT("Spacer"), Index))
-		{
-			EnumEntries.Add(FName(*Enum->GetNameStringByIndex(Index)));
-			EnumFriendlyNames.Add(Enum->GetDisplayNameTextByIndex(Index));
-		}
+		EnumEntries.Add(FName(*Enum->GetNameStringByIndex(Entry)));
+		EnumFriendlyNames.Add(Enum->GetDisplayNameTextByIndex(Entry));
 	}
 }
 

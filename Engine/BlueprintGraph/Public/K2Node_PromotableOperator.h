@@ -1,12 +1,13 @@
 #pragma once
 
+#include "K2Node_AddPinInterface.h"
 #include "K2Node_CallFunction.h"
 
 #include "K2Node_PromotableOperator.generated.h"
 
 /** An operator that takes the widest type of what is linked to it. */
 UCLASS()
-class BLUEPRINTGRAPH_API UK2Node_PromotableOperator : public UK2Node_CallFunction
+class BLUEPRINTGRAPH_API UK2Node_PromotableOperator : public UK2Node_CallFunction, public IK2Node_AddPinInterface
 {
 	GENERATED_BODY()
 
@@ -25,4 +26,19 @@ public:
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
 	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+
+	// IK2Node_AddPinInterface
+	virtual void AddInputPin() override;
+	virtual bool CanAddPin() const override;
+	virtual void RemoveInputPin(UEdGraphPin* Pin) override;
+	virtual bool CanRemovePin(const UEdGraphPin* Pin) const override;
+
+private:
+	/** The operands in their order; not the tolerance, nor sub-pins. */
+	TArray<UEdGraphPin*> GetOperands() const;
+	UEdGraphPin* CreateOperand(int32 Index);
+	void ResetToWildcards();
+	/** Takes the function that fits what is linked best, and the types of its parameters where nothing is linked. */
+	void UpdateFromLinks();
+	void ConformToFunction(const UFunction& Function);
 };

@@ -9,6 +9,7 @@
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "OptionalModules.h"
 #include "StandardMacros.h"
 #include "UObject/ScriptHeaderLoader.h"
 #include "UObject/UObjectGlobals.h"
@@ -94,6 +95,7 @@ FString FHeadlessEditor::Start(const FHeadlessEditorOptions& Options)
 	}
 	FPackageName::RegisterMountPoint(TEXT("/Engine/"), FPaths::EngineContentDir());
 	FPackageName::RegisterMountPoint(TEXT("/Game/"), FPaths::ProjectContentDir());
+	LoadOptionalModules();
 	// Before native classes get their default objects: after that a class takes no more properties.
 	LoadScriptApi();
 	ProcessNewlyLoadedUObjects();
