@@ -163,12 +163,12 @@ TEST_F(FNodePinsTest, SpawnedClassGivesItsExposedProperties)
 TEST_F(FNodePinsTest, AssignedDispatcherGetsAnEventOfItsOwn)
 {
 	const UK2Node_AssignDelegate* const Assign = Add<UK2Node_AssignDelegate>([](UK2Node_AssignDelegate& Node)
-		{ Node.DelegateReference.SetExternalMember(TEXT("OnActorHit"), AActor::StaticClass()); });
+		{ Node.DelegateReference.SetExternalMember(TEXT("OnComponentHit"), FindObject<UClass>(nullptr, TEXT("/Script/Engine.PrimitiveComponent"))); });
 	ASSERT_NE(Assign->GetDelegatePin(), nullptr);
 	ASSERT_EQ(Assign->GetDelegatePin()->LinkedTo.Num(), 1);
 	const UK2Node_CustomEvent* const Event = Cast<UK2Node_CustomEvent>(Assign->GetDelegatePin()->LinkedTo[0]->GetOwningNode());
 	ASSERT_NE(Event, nullptr);
-	EXPECT_EQ(Event->CustomFunctionName, FName(TEXT("OnActorHit_Event")));
+	EXPECT_EQ(Event->CustomFunctionName, FName(TEXT("OnComponentHit_Event")));
 	EXPECT_NE(Event->FindPin(TEXT("OtherActor"), EGPD_Output), nullptr);
 	EXPECT_NE(Event->FindPin(TEXT("Hit"), EGPD_Output), nullptr);
 }

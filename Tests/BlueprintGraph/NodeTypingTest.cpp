@@ -220,7 +220,7 @@ TEST_F(FNodeTypingTest, SoftReferenceResolvesToItsOwnClass)
 	EXPECT_EQ(CategoryOf(Convert->FindPin(TEXT("Object"))), Schema_K2::PC_Class);
 	EXPECT_EQ(Convert->GetTargetClass(), AActor::StaticClass());
 	Schema().BreakPinLinks(*Source, true);
-	EXPECT_EQ(CategoryOf(Convert->FindPin(TEXT("Object"))), Schema_K2::PC_Object);
+	EXPECT_EQ(CategoryOf(Convert->FindPin(TEXT("Object"))), Schema_K2::PC_Wildcard);
 	EXPECT_EQ(Schema().CanCreateConnection(Integer(), Convert->FindPin(TEXT("Asset"))).Response, CONNECT_RESPONSE_DISALLOW);
 }
 

@@ -35,7 +35,7 @@ protected:
 		}
 		return TCHAR_TO_UTF8(*FString::Printf(TEXT("%s %s %s/%s/%s container %d hidden %d orphaned %d = '%s' %s links%s"), *Pin.PinId.ToString(), *Pin.PinName.ToString(),
 			*Pin.PinType.PinCategory.ToString(), *Pin.PinType.PinSubCategory.ToString(), *GetPathNameSafe(Pin.PinType.PinSubCategoryObject.Get()),
-			static_cast<int32>(Pin.PinType.ContainerType), static_cast<int32>(Pin.bHidden && Pin.PinName != TEXT("WorldContextObject")), static_cast<int32>(Pin.bOrphanedPin), *Pin.GetDefaultAsString(),
+			static_cast<int32>(Pin.PinType.ContainerType), static_cast<int32>(Pin.bHidden && Pin.PinName != TEXT("WorldContextObject")), static_cast<int32>(Pin.bOrphanedPin), Pin.bHidden ? TEXT("") : *Pin.GetDefaultAsString(),
 			*Pin.PinType.PinSubCategoryMemberReference.MemberName.ToString(), *Links));
 	}
 

@@ -4,6 +4,7 @@
 #include "K2Node.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_Knot.h"
+#include "K2Node_PromotableOperator.h"
 #include "UObject/Class.h"
 
 #define LOCTEXT_NAMESPACE "KismetSchema"
@@ -76,8 +77,9 @@ const FPinConnectionResponse UEdGraphSchema_K2::CanCreateConnection(const UEdGra
 	// The targets of a call may be many: an array of objects does for a single one.
 	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(InputPin.GetOwningNode());
 	const bool bIgnoreArray = Call && IsSelfPin(InputPin) && OutputPin.PinType.IsArray() && Call->AllowMultipleSelfs(false);
-	const bool bTakesAll = IsOpenReroute(OutputPin) || IsOpenReroute(InputPin);
-	if (bTakesAll || ArePinTypesCompatible(OutputPin.PinType, InputPin.PinType, CallingContext, bIgnoreArray))
+	const UK2Node_PromotableOperator* const Operator = Cast<UK2Node_PromotableOperator>(InputPin.GetOwningNode());
+	const bool bIsTaken = IsOpenReroute(OutputPin) || IsOpenReroute(InputPin) || (Operator && Operator->TakesOperand(InputPin, OutputPin.PinType));
+	if (bIsTaken || ArePinTypesCompatible(OutputPin.PinType, InputPin.PinType, CallingContext, bIgnoreArray))
 	{
 		return DetermineConnectionResponse(OutputPin, InputPin, bInputIsA);
 	}

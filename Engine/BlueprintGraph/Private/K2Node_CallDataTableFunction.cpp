@@ -11,7 +11,8 @@ void UK2Node_CallDataTableFunction::RefreshRowType()
 	UEdGraphPin* const RowPin = Row ? FindPin(*Row) : nullptr;
 	const UEdGraphPin* const TablePin = Table ? FindPin(*Table, EGPD_Input) : nullptr;
 	UScriptStruct* const Struct = TablePin && TablePin->LinkedTo.Num() == 0 ? UK2Node_GetDataTableRow::FindRowStruct(TablePin->DefaultObject) : nullptr;
-	if (RowPin && RowPin->LinkedTo.Num() == 0)
+	const bool bIsUnknown = TablePin && TablePin->DefaultObject && !Struct;
+	if (RowPin && RowPin->LinkedTo.Num() == 0 && !bIsUnknown)
 	{
 		RowPin->PinType.PinCategory = Struct ? UEdGraphSchema_K2::PC_Struct : UEdGraphSchema_K2::PC_Wildcard;
 		RowPin->PinType.PinSubCategoryObject = Struct;

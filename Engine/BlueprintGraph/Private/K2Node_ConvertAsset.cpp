@@ -32,8 +32,8 @@ bool UK2Node_ConvertAsset::IsAssetClassType() const
 
 void UK2Node_ConvertAsset::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_SoftObject, UObject::StaticClass(), TEXT("Asset"));
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, UObject::StaticClass(), TEXT("Object"));
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, TEXT("Asset"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, TEXT("Object"));
 }
 
 void UK2Node_ConvertAsset::RefreshPinTypes()
@@ -44,10 +44,15 @@ void UK2Node_ConvertAsset::RefreshPinTypes()
 	{
 		return;
 	}
-	Input->PinType.PinCategory = IsAssetClassType() ? UEdGraphSchema_K2::PC_SoftClass : UEdGraphSchema_K2::PC_SoftObject;
-	Output->PinType.PinCategory = IsAssetClassType() ? UEdGraphSchema_K2::PC_Class : UEdGraphSchema_K2::PC_Object;
-	Input->PinType.PinSubCategoryObject = GetTargetClass();
-	Output->PinType.PinSubCategoryObject = GetTargetClass();
+	const bool bIsLinked = GetLinkedPin() != nullptr;
+	const auto Retype = [this, bIsLinked](UEdGraphPin& Pin, const FName OfObject, const FName OfClass)
+	{
+		Pin.PinType.PinCategory = !bIsLinked ? UEdGraphSchema_K2::PC_Wildcard : IsAssetClassType() ? OfClass
+																								   : OfObject;
+		Pin.PinType.PinSubCategoryObject = bIsLinked ? GetTargetClass() : nullptr;
+	};
+	Retype(*Input, UEdGraphSchema_K2::PC_SoftObject, UEdGraphSchema_K2::PC_SoftClass);
+	Retype(*Output, UEdGraphSchema_K2::PC_Object, UEdGraphSchema_K2::PC_Class);
 }
 
 void UK2Node_ConvertAsset::PostReconstructNode()

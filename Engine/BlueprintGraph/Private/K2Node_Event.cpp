@@ -81,12 +81,12 @@ void UK2Node_Event::UpdateDelegatePin()
 {
 	UEdGraphPin* const Pin = FindPin(DelegateOutputName);
 	const UBlueprint* const Blueprint = GetBlueprint();
-	if (!Pin || !Blueprint)
+	if (!Pin)
 	{
 		return;
 	}
 	// The function stands in the class that the Blueprint makes, even while it has not been compiled.
-	Pin->PinType.PinSubCategoryMemberReference.MemberParent = Blueprint->GeneratedClass.Get();
+	Pin->PinType.PinSubCategoryMemberReference.MemberParent = Blueprint ? Blueprint->GeneratedClass.Get() : nullptr;
 	Pin->PinType.PinSubCategoryMemberReference.MemberName = GetFunctionName();
 }
 

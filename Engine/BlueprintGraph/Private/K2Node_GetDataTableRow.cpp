@@ -38,6 +38,11 @@ void UK2Node_GetDataTableRow::RefreshOutputPinType()
 	UObject* const OfLink = Linked && Linked->PinCategory == UEdGraphSchema_K2::PC_Struct ? Linked->PinSubCategoryObject.Get() : nullptr;
 	UObject* const OfTable = Table->LinkedTo.Num() == 0 ? FindRowStruct(Table->DefaultObject) : nullptr;
 	UObject* const RowStruct = OfTable ? OfTable : OfLink;
+	if (!RowStruct && Table->DefaultObject && Table->LinkedTo.Num() == 0)
+	{
+		// The table's rows are not known here: what was loaded or pasted stays.
+		return;
+	}
 	Result->PinType.ResetToDefaults();
 	Result->PinType.PinCategory = RowStruct ? UEdGraphSchema_K2::PC_Struct : UEdGraphSchema_K2::PC_Wildcard;
 	Result->PinType.PinSubCategoryObject = RowStruct;

@@ -1,21 +1,16 @@
 #include "K2Node_MathExpression.h"
 
 #include "EdGraph/EdGraph.h"
+#include "Logging/TokenizedMessage.h"
 #include "MathExpressionGraph.h"
 #include "MathExpressionParser.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-namespace
-{
-/** The number that messages about a node have for an error. */
-constexpr int32 ErrorSeverity = 1;
-}
-
 void UK2Node_MathExpression::SetError(const FString& Message)
 {
 	bHasCompilerMessage = !Message.IsEmpty();
-	ErrorType = Message.IsEmpty() ? 0 : ErrorSeverity;
+	ErrorType = Message.IsEmpty() ? 0 : static_cast<int32>(EMessageSeverity::Error);
 	ErrorMsg = Message;
 }
 

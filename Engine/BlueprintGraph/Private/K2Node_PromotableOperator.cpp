@@ -152,6 +152,23 @@ void UK2Node_PromotableOperator::NotifyPinConnectionListChanged(UEdGraphPin* Pin
 	}
 }
 
+bool UK2Node_PromotableOperator::TakesOperand(const UEdGraphPin& Operand, const FEdGraphPinType& Type) const
+{
+	const TArray<UEdGraphPin*> Operands = GetOperands();
+	if (!Operands.Contains(const_cast<UEdGraphPin*>(&Operand)) || Type.PinCategory == UEdGraphSchema_K2::PC_Wildcard)
+	{
+		return false;
+	}
+	TArray<FEdGraphPinType> Given;
+	for (const UEdGraphPin* const Item : Operands)
+	{
+		Given.Add(Item == &Operand ? Type : GetGivenType(*Item));
+		Given.Last().bIsReference = false;
+		Given.Last().bIsConst = false;
+	}
+	return FOperatorFunctions::FindBest(GetOperationName(), Given, FEdGraphPinType()) != nullptr;
+}
+
 void UK2Node_PromotableOperator::UpdateFromLinks()
 {
 	TArray<FEdGraphPinType> Given;

@@ -24,6 +24,11 @@ void UK2Node_SwitchEnum::SetEnum(UEnum* InEnum)
 
 void UK2Node_SwitchEnum::CreateSelectionPin()
 {
+	// Text and packages have the names of the values, not how a user reads them; a new node may have neither.
+	if (Enum && (EnumEntries.Num() == 0 || EnumFriendlyNames.Num() != EnumEntries.Num()))
+	{
+		SetEnum(Enum);
+	}
 	SetComparison(TEXT("/Script/Engine.KismetMathLibrary"), TEXT("NotEqual_ByteByte"));
 	UEdGraphPin* const Pin = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Byte, Enum.Get(), TEXT("Selection"));
 	Pin->DefaultValue = EnumEntries.Num() > 0 ? EnumEntries[0].ToString() : FString();
@@ -31,10 +36,6 @@ void UK2Node_SwitchEnum::CreateSelectionPin()
 
 void UK2Node_SwitchEnum::CreateCasePins()
 {
-	if (Enum && EnumFriendlyNames.Num() != EnumEntries.Num())
-	{
-		SetEnum(Enum);
-	}
 	for (int32 Index = 0; Index < EnumEntries.Num(); ++Index)
 	{
 		UEdGraphPin* const Pin = CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, EnumEntries[Index]);

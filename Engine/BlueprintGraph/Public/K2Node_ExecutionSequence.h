@@ -14,7 +14,7 @@ class BLUEPRINTGRAPH_API UK2Node_ExecutionSequence : public UK2Node, public IK2N
 public:
 	UK2Node_ExecutionSequence(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
-	/** Adds a further output; the interface is older than this use of it. */
+	/** Adds a further output: the interface speaks of inputs, which are what most nodes have more of. */
 	virtual void AddInputPin() override;
 	virtual void RemoveInputPin(UEdGraphPin* Pin) override { RemovePinFromExecutionNode(Pin); }
 	virtual bool CanRemovePin(const UEdGraphPin* Pin) const override;

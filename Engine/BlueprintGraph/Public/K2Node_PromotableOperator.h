@@ -21,6 +21,8 @@ public:
 	/** "Add" of "Add_DoubleDouble". */
 	FName GetOperationName() const;
 	virtual void SetFromFunction(const UFunction* Function) override;
+	/** Whether some function of the operation takes a value of the type there, beside what is linked to the other operands. */
+	bool TakesOperand(const UEdGraphPin& Operand, const FEdGraphPinType& Type) const;
 	virtual FText GetCompactNodeTitle() const override { return Super::GetCompactNodeTitle(); }
 	virtual void AllocateDefaultPins() override;
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
