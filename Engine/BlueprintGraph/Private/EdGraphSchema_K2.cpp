@@ -8,6 +8,7 @@
 #include "K2Node_Tunnel.h"
 #include "Misc/OutputDeviceNull.h"
 #include "UObject/Class.h"
+#include "UObject/NoExportTypes.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/UnrealType.h"
 
@@ -51,8 +52,8 @@ bool Contains(const TArray<TObjectPtr<UEdGraph>>& Graphs, const UEdGraph* Graph)
 		{ return Item == Graph; });
 }
 
-/** Members of a struct that a split pin shows. */
-TArray<const FProperty*> GetSplitMembers(const UScriptStruct& Struct)
+/** Members of a struct that Blueprints see, in the order in which short text forms give them. */
+TArray<const FProperty*> GetVisibleMembers(const UScriptStruct& Struct)
 {
 	TArray<const FProperty*> Members;
 	for (TFieldIterator<FProperty> Iterator(&Struct); Iterator; ++Iterator)
@@ -98,6 +99,15 @@ public:
 	FString ToText() const
 	{
 		FString Text;
+		// These two have a short form, in the order of their members.
+		if (&Struct == TBaseStructure<FVector>::Get() || &Struct == TBaseStructure<FRotator>::Get())
+		{
+			for (const FProperty* const Member : GetVisibleMembers(Struct))
+			{
+				Text += (Text.IsEmpty() ? TEXT("") : TEXT(",")) + GetMember(*Member);
+			}
+			return Text;
+		}
 		Struct.ExportText(Text, Data, nullptr, nullptr, PPF_None, nullptr);
 		return Text;
 	}
@@ -108,7 +118,7 @@ private:
 	{
 		TArray<FString> Numbers;
 		Text.ParseIntoArray(Numbers, TEXT(","), false);
-		const TArray<const FProperty*> Members = GetSplitMembers(Struct);
+		const TArray<const FProperty*> Members = GetVisibleMembers(Struct);
 		FString Named = TEXT("(");
 		for (int32 Index = 0; Index < FMath::Min(Numbers.Num(), Members.Num()); ++Index)
 		{
@@ -121,6 +131,73 @@ private:
 	TArray<uint8> Memory;
 	uint8* Data = nullptr;
 };
+
+/** What a split pin shows for one part of its struct. */
+struct FSplitMember
+{
+	FName Name;
+	FText DisplayName;
+	FEdGraphPinType Type;
+	/** The struct's member of the name; null for a part that the struct keeps in another form, as a transform its rotation. */
+	const FProperty* Member = nullptr;
+	/** The part's default where there is no member to read it from. */
+	FString Default;
+};
+
+/** The library function that makes the struct of its parts, or takes it apart; null for a struct that has none. */
+const UFunction* FindNativeFunction(const UScriptStruct& Struct, const EEdGraphPinDirection Direction)
+{
+	const FString* const Path = Struct.FindMetaData(Direction == EGPD_Input ? FBlueprintMetadata::MD_NativeMakeFunction : FBlueprintMetadata::MD_NativeBreakFunction);
+	FString ClassPath;
+	FString FunctionName;
+	const bool bHasPath = Path && Path->Split(TEXT("."), &ClassPath, &FunctionName, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
+	const UClass* const Library = bHasPath ? FindObject<UClass>(nullptr, *ClassPath) : nullptr;
+	return Library ? Library->FindFunctionByName(*FunctionName) : nullptr;
+}
+
+/** The parts that a pin of the struct is split into: what its functions take or give, or else its members. */
+TArray<FSplitMember> GetSplitMembers(const UScriptStruct& Struct, const EEdGraphPinDirection Direction)
+{
+	const UEdGraphSchema_K2* const Schema = GetDefault<UEdGraphSchema_K2>();
+	TArray<FSplitMember> Members;
+	const auto Add = [&](const FProperty& Property, const FProperty* Member)
+	{
+		FSplitMember Part;
+		Part.Name = FName(*Property.GetAuthoredName());
+		Part.DisplayName = Property.GetDisplayNameText();
+		Part.Member = Member;
+		if (Schema->ConvertPropertyToPinType(&Property, Part.Type))
+		{
+			Part.Type.bIsReference = false;
+			Members.Add(Part);
+		}
+	};
+	const UFunction* const Function = FindNativeFunction(Struct, Direction);
+	for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+	{
+		const bool bIsOutput = Parameter->HasAnyPropertyFlags(CPF_OutParm) && !Parameter->HasAnyPropertyFlags(CPF_ReferenceParm | CPF_ReturnParm);
+		const bool bIsInput = !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
+		if (Direction == EGPD_Input ? bIsInput : bIsOutput)
+		{
+			const int32 Before = Members.Num();
+			Add(**Parameter, FindFProperty<FProperty>(&Struct, Parameter->GetFName()));
+			if (Members.Num() > Before)
+			{
+				UEdGraphSchema_K2::FindFunctionParameterDefaultValue(Function, *Parameter, Members.Last().Default);
+			}
+		}
+	}
+	for (const FProperty* const Member : Function ? TArray<const FProperty*>() : GetVisibleMembers(Struct))
+	{
+		Add(*Member, Member);
+	}
+	return Members;
+}
+
+FName MakeSubPinName(const UEdGraphPin& Pin, const FSplitMember& Member)
+{
+	return FName(*FString::Printf(TEXT("%s_%s"), *Pin.PinName.ToString(), *Member.Name.ToString()));
+}
 }
 
 // Functions
@@ -320,7 +397,7 @@ void UEdGraphSchema_K2::MarkFunctionEntryAsEditable(const UEdGraph* CurrentGraph
 bool UEdGraphSchema_K2::CanSplitStructPin(const UEdGraphPin& Pin) const
 {
 	const UScriptStruct* const Struct = Pin.PinType.PinCategory == PC_Struct && !Pin.PinType.IsContainer() ? Cast<UScriptStruct>(Pin.PinType.PinSubCategoryObject.Get()) : nullptr;
-	return Struct && Pin.SubPins.Num() == 0 && !Pin.bNotConnectable && Pin.LinkedTo.Num() == 0 && GetSplitMembers(*Struct).Num() > 0;
+	return Struct && Pin.SubPins.Num() == 0 && !Pin.bNotConnectable && Pin.LinkedTo.Num() == 0 && GetSplitMembers(*Struct, Pin.Direction).Num() > 0;
 }
 
 void UEdGraphSchema_K2::SplitPin(UEdGraphPin* Pin, bool bNotify) const
@@ -336,23 +413,26 @@ void UEdGraphSchema_K2::SplitPin(UEdGraphPin* Pin, bool bNotify) const
 	const FStructValue Value(*Struct, Pin->DefaultValue);
 	const FStructValue Autogenerated(*Struct, Pin->AutogeneratedDefaultValue);
 	int32 Index = Node->GetPinIndex(Pin);
-	for (const FProperty* const Member : GetSplitMembers(*Struct))
+	for (const FSplitMember& Member : GetSplitMembers(*Struct, Pin->Direction))
 	{
-		FEdGraphPinType Type;
-		if (!ConvertPropertyToPinType(Member, Type))
-		{
-			continue;
-		}
+		FEdGraphPinType Type = Member.Type;
 		Type.bIsConst = Pin->PinType.bIsConst;
-		const FName Name(*FString::Printf(TEXT("%s_%s"), *Pin->PinName.ToString(), *Member->GetAuthoredName()));
-		UEdGraphPin* const SubPin = Node->CreatePin(Pin->Direction, Type, Name, ++Index);
-		SubPin->PinFriendlyName = FText::Format(LOCTEXT("SplitPinFriendlyNameFormat", "{0} {1}"), GetPinDisplayName(Pin), Member->GetDisplayNameText());
+		UEdGraphPin* const SubPin = Node->CreatePin(Pin->Direction, Type, MakeSubPinName(*Pin, Member), ++Index);
+		SubPin->PinFriendlyName = FText::Format(LOCTEXT("SplitPinFriendlyNameFormat", "{0} {1}"), GetPinDisplayName(Pin), Member.DisplayName);
 		SubPin->bDefaultValueIsIgnored = Pin->bDefaultValueIsIgnored;
 		SubPin->ParentPin = Pin;
-		if (Pin->Direction == EGPD_Input)
+		if (Pin->Direction == EGPD_Input && Member.Member)
 		{
-			SetPinAutogeneratedDefaultValue(SubPin, Autogenerated.GetMember(*Member));
-			GetPinDefaultValuesFromString(Type, Node, Value.GetMember(*Member), SubPin->DefaultValue, SubPin->DefaultObject, SubPin->DefaultTextValue);
+			SetPinAutogeneratedDefaultValue(SubPin, Autogenerated.GetMember(*Member.Member));
+			GetPinDefaultValuesFromString(Type, Node, Value.GetMember(*Member.Member), SubPin->DefaultValue, SubPin->DefaultObject, SubPin->DefaultTextValue);
+		}
+		else if (Pin->Direction == EGPD_Input)
+		{
+			SetPinAutogeneratedDefaultValueBasedOnType(SubPin);
+			if (!Member.Default.IsEmpty())
+			{
+				SetPinAutogeneratedDefaultValue(SubPin, Member.Default);
+			}
 		}
 		Pin->SubPins.Add(SubPin);
 	}
@@ -376,19 +456,20 @@ void UEdGraphSchema_K2::RecombinePin(UEdGraphPin* Pin) const
 	Parent->Modify();
 	FStructValue Value(*Struct, Parent->AutogeneratedDefaultValue);
 	const TArray<UEdGraphPin*> SubPins = Parent->SubPins;
+	const TArray<FSplitMember> Members = GetSplitMembers(*Struct, Parent->Direction);
+	bool bHasValue = false;
 	for (UEdGraphPin* const SubPin : SubPins)
 	{
 		if (SubPin->SubPins.Num() > 0)
 		{
 			RecombinePin(SubPin);
 		}
-		for (const FProperty* const Member : GetSplitMembers(*Struct))
+		const FSplitMember* const Part = Members.FindByPredicate([Parent, SubPin](const FSplitMember& Member)
+			{ return SubPin->PinName == MakeSubPinName(*Parent, Member); });
+		if (Part && Part->Member)
 		{
-			const FString Name = FString::Printf(TEXT("%s_%s"), *Parent->PinName.ToString(), *Member->GetAuthoredName());
-			if (SubPin->PinName == FName(*Name))
-			{
-				Value.SetMember(*Member, SubPin->GetDefaultAsString());
-			}
+			Value.SetMember(*Part->Member, SubPin->GetDefaultAsString());
+			bHasValue = true;
 		}
 	}
 	Parent->SubPins.Empty();
@@ -398,7 +479,7 @@ void UEdGraphSchema_K2::RecombinePin(UEdGraphPin* Pin) const
 		Node->RemovePin(SubPin);
 	}
 	Parent->bHidden = false;
-	if (Parent->Direction == EGPD_Input)
+	if (Parent->Direction == EGPD_Input && bHasValue)
 	{
 		Parent->DefaultValue = Value.ToText();
 	}

@@ -3,6 +3,8 @@
 #include "EdGraph/EdGraph.h"
 #include "K2Node.h"
 #include "K2Node_CallFunction.h"
+#include "K2Node_Knot.h"
+#include "K2Node_PromotableOperator.h"
 #include "UObject/Class.h"
 
 #define LOCTEXT_NAMESPACE "KismetSchema"
@@ -17,6 +19,12 @@ FPinConnectionResponse Refuse(const FText& Reason)
 const UK2Node* GetK2Node(const UEdGraphPin& Pin)
 {
 	return Cast<UK2Node>(Pin.GetOwningNodeUnchecked());
+}
+
+/** A reroute node that has no type yet takes any wire, execution too. */
+bool IsOpenReroute(const UEdGraphPin& Pin)
+{
+	return Pin.PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard && Pin.GetOwningNode()->IsA<UK2Node_Knot>();
 }
 
 UClass* GetCallingContext(const UEdGraphPin& Pin)
@@ -69,7 +77,9 @@ const FPinConnectionResponse UEdGraphSchema_K2::CanCreateConnection(const UEdGra
 	// The targets of a call may be many: an array of objects does for a single one.
 	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(InputPin.GetOwningNode());
 	const bool bIgnoreArray = Call && IsSelfPin(InputPin) && OutputPin.PinType.IsArray() && Call->AllowMultipleSelfs(false);
-	if (ArePinTypesCompatible(OutputPin.PinType, InputPin.PinType, CallingContext, bIgnoreArray))
+	const UK2Node_PromotableOperator* const Operator = Cast<UK2Node_PromotableOperator>(InputPin.GetOwningNode());
+	const bool bIsTaken = IsOpenReroute(OutputPin) || IsOpenReroute(InputPin) || (Operator && Operator->TakesOperand(InputPin, OutputPin.PinType));
+	if (bIsTaken || ArePinTypesCompatible(OutputPin.PinType, InputPin.PinType, CallingContext, bIgnoreArray))
 	{
 		return DetermineConnectionResponse(OutputPin, InputPin, bInputIsA);
 	}

@@ -12,17 +12,6 @@ UFunction* UK2Node_ActorBoundEvent::FindEventSignatureFunction() const
 	return Property ? Property->SignatureFunction : Super::FindEventSignatureFunction();
 }
 
-FMulticastDelegateProperty* UK2Node_ActorBoundEvent::GetTargetDelegateProperty() const
-{
-	return DelegateOwnerClass ? FindFProperty<FMulticastDelegateProperty>(DelegateOwnerClass.Get(), DelegatePropertyName) : nullptr;
-}
-
-FText UK2Node_ActorBoundEvent::GetTargetDelegateDisplayName() const
-{
-	const FMulticastDelegateProperty* const Property = GetTargetDelegateProperty();
-	return Property ? Property->GetDisplayNameText() : FText::FromString(FName::NameToDisplayString(DelegatePropertyName.ToString(), false));
-}
-
 FText UK2Node_ActorBoundEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	const FText Owner = EventOwner ? FText::FromString(EventOwner->GetName()) : LOCTEXT("None", "None");

@@ -12,16 +12,9 @@ void UK2Node_AssignmentStatement::AllocateDefaultPins()
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, TEXT("Value"));
 }
 
-void UK2Node_AssignmentStatement::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
+TArray<UEdGraphPin*> UK2Node_AssignmentStatement::GetPinsOfOneType() const
 {
-	Super::NotifyPinConnectionListChanged(Pin);
-	FollowLinkedType({GetVariablePin(), GetValuePin()}, true);
-}
-
-void UK2Node_AssignmentStatement::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
-{
-	AllocateDefaultPins();
-	KeepResolvedWildcards(OldPins);
+	return {GetVariablePin(), GetValuePin()};
 }
 
 FText UK2Node_AssignmentStatement::GetNodeTitle(ENodeTitleType::Type TitleType) const

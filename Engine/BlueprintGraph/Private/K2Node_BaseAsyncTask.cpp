@@ -33,34 +33,23 @@ void UK2Node_BaseAsyncTask::AllocateDefaultPins()
 		Signature = Signature ? Signature : Property->SignatureFunction;
 	}
 	// The events of a task share one signature, whose parameters are its results.
-	if (Signature)
-	{
-		for (TFieldIterator<FProperty> Parameter(Signature); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+	ForEachParameter(Signature, [this](FProperty& Parameter, FEdGraphPinType Type)
 		{
-			FEdGraphPinType Type;
-			if (GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
-			{
-				Type.bIsReference = false;
-				CreatePin(EGPD_Output, Type, Parameter->GetFName());
-			}
-		}
-	}
+			Type.bIsReference = false;
+			CreatePin(EGPD_Output, Type, Parameter.GetFName()); });
 	const TSet<FName> Hidden = UK2Node_CallFunction::GetHiddenParameters(Function, GetBlueprint());
-	for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
-	{
-		FEdGraphPinType Type;
-		const bool bIsInput = !Parameter->HasAnyPropertyFlags(CPF_ReturnParm) && (!Parameter->HasAnyPropertyFlags(CPF_OutParm) || Parameter->HasAnyPropertyFlags(CPF_ReferenceParm));
-		if (!bIsInput || !GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
+	ForEachParameter(Function, [this, Function, &Hidden](FProperty& Parameter, const FEdGraphPinType& Type)
 		{
-			continue;
-		}
-		UEdGraphPin* const Pin = CreatePin(EGPD_Input, Type, Parameter->GetFName());
-		Pin->bHidden = Hidden.Contains(Pin->PinName);
-		Pin->bAdvancedView = Parameter->HasAnyPropertyFlags(CPF_AdvancedDisplay);
-		Pin->bDefaultValueIsIgnored = Parameter->HasAllPropertyFlags(CPF_OutParm | CPF_ReferenceParm);
-		GetK2Schema()->SetPinDefaultValue(Pin, Function, *Parameter);
-		GeneratePinTooltip(*Pin, FText::GetEmpty());
-	}
+			if (!IsFunctionInput(Parameter))
+			{
+				return;
+			}
+			UEdGraphPin* const Pin = CreatePin(EGPD_Input, Type, Parameter.GetFName());
+			Pin->bHidden = Hidden.Contains(Pin->PinName);
+			Pin->bAdvancedView = Parameter.HasAnyPropertyFlags(CPF_AdvancedDisplay);
+			Pin->bDefaultValueIsIgnored = Parameter.HasAllPropertyFlags(CPF_OutParm | CPF_ReferenceParm);
+			GetK2Schema()->SetPinDefaultValue(Pin, Function, &Parameter);
+			GeneratePinTooltip(*Pin, FText::GetEmpty()); });
 }
 
 FText UK2Node_BaseAsyncTask::GetNodeTitle(ENodeTitleType::Type TitleType) const

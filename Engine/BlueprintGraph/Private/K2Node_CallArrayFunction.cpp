@@ -6,17 +6,17 @@
 
 UEdGraphPin* UK2Node_CallArrayFunction::GetTargetArrayPin() const
 {
-	TArray<UEdGraphPin*> Dependent;
-	GetDependentPins(Dependent);
+	const TArray<UEdGraphPin*> Dependent = GetPinsOfOneType();
 	return Dependent.Num() > 0 ? Dependent[0] : nullptr;
 }
 
-void UK2Node_CallArrayFunction::GetDependentPins(TArray<UEdGraphPin*>& OutPins) const
+TArray<UEdGraphPin*> UK2Node_CallArrayFunction::GetPinsOfOneType() const
 {
+	TArray<UEdGraphPin*> Dependent;
 	const UFunction* const Function = GetTargetFunction();
 	if (!Function)
 	{
-		return;
+		return Dependent;
 	}
 	TArray<FString> Names;
 	const FString List = Function->GetMetaData(FBlueprintMetadata::MD_ArrayParam) + TEXT(",") + Function->GetMetaData(FBlueprintMetadata::MD_ArrayDependentParam);
@@ -25,20 +25,10 @@ void UK2Node_CallArrayFunction::GetDependentPins(TArray<UEdGraphPin*>& OutPins) 
 	{
 		if (UEdGraphPin* const Pin = FindPin(Name.TrimStartAndEnd()))
 		{
-			OutPins.Add(Pin);
+			Dependent.Add(Pin);
 		}
 	}
-}
-
-void UK2Node_CallArrayFunction::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
-{
-	Super::NotifyPinConnectionListChanged(Pin);
-	TArray<UEdGraphPin*> Dependent;
-	GetDependentPins(Dependent);
-	if (Dependent.Contains(Pin))
-	{
-		FollowLinkedType(Dependent);
-	}
+	return Dependent;
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -9,16 +9,12 @@ void UK2Node_CallDelegate::AllocateDefaultPins()
 {
 	Super::AllocateDefaultPins();
 	const UFunction* const Signature = GetDelegateSignature();
-	for (TFieldIterator<FProperty> Parameter(Signature); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
-	{
-		FEdGraphPinType Type;
-		const bool bIsInput = !Parameter->HasAnyPropertyFlags(CPF_OutParm) || Parameter->HasAnyPropertyFlags(CPF_ReferenceParm);
-		if (bIsInput && GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
+	ForEachParameter(Signature, [this, Signature](FProperty& Parameter, const FEdGraphPinType& Type)
 		{
-			UEdGraphPin* const Pin = CreatePin(EGPD_Input, Type, Parameter->GetFName());
-			GetK2Schema()->SetPinDefaultValue(Pin, Signature, *Parameter);
-		}
-	}
+			if (IsFunctionInput(Parameter))
+			{
+				GetK2Schema()->SetPinDefaultValue(CreatePin(EGPD_Input, Type, Parameter.GetFName()), Signature, &Parameter);
+			} });
 }
 
 FText UK2Node_CallDelegate::GetNodeTitle(ENodeTitleType::Type TitleType) const

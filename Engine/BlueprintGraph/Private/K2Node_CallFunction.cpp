@@ -36,11 +36,6 @@ const UEnum* GetEnumOfParameter(const FProperty& Parameter)
 										 : nullptr;
 }
 
-bool IsFunctionInput(const FProperty& Parameter)
-{
-	return !Parameter.HasAnyPropertyFlags(CPF_ReturnParm) && (!Parameter.HasAnyPropertyFlags(CPF_OutParm) || Parameter.HasAnyPropertyFlags(CPF_ReferenceParm));
-}
-
 /** Parameters whose values are chosen by an execution pin, in the order of the pins. */
 TArray<FName> GetExpandedParameters(const UFunction& Function)
 {
@@ -58,6 +53,18 @@ bool IsAdvancedParameter(const UFunction& Function, const FProperty& Parameter, 
 		return Parameter.HasAnyPropertyFlags(CPF_AdvancedDisplay);
 	}
 	return Advanced.IsNumeric() ? Index >= FCString::Atoi(*Advanced) : ParseNames(Advanced).Contains(Parameter.GetFName());
+}
+
+/** Whether objects of the Blueprint's class know their world: a plain object does not, nor does a library of functions. */
+bool HasWorld(const UBlueprint* Blueprint)
+{
+	const UClass* Native = Blueprint ? Blueprint->ParentClass.Get() : nullptr;
+	while (Native && Native->HasAnyClassFlags(CLASS_CompiledFromBlueprint))
+	{
+		Native = Native->GetSuperClass();
+	}
+	const bool bIsLibrary = Blueprint && Blueprint->BlueprintType == BPTYPE_FunctionLibrary;
+	return !bIsLibrary && Native != UObject::StaticClass();
 }
 
 /** Text of one "@param Name" or "@return" line of a declaration's comment. */
@@ -145,10 +152,9 @@ TSet<FName> UK2Node_CallFunction::GetHiddenParameters(const UFunction* Function,
 			Hidden.Add(Name);
 		}
 	}
-	// Where "self" knows its world it is the context; a library has no such self.
-	const bool bSelfHasNoWorld = Blueprint && (Blueprint->BlueprintType == BPTYPE_FunctionLibrary || Blueprint->BlueprintType == BPTYPE_MacroLibrary);
+	// Where "self" knows its world, self is the context.
 	const FString* const WorldContext = Function->FindMetaData(FBlueprintMetadata::MD_WorldContext);
-	if (WorldContext && !bSelfHasNoWorld)
+	if (WorldContext && HasWorld(Blueprint))
 	{
 		Hidden.Add(FName(**WorldContext));
 	}
@@ -164,9 +170,9 @@ void UK2Node_CallFunction::AllocateDefaultPins()
 	}
 	const bool bHasAdvanced = Pins.ContainsByPredicate([](const UEdGraphPin* Pin)
 		{ return Pin->bAdvancedView && !Pin->bHidden; });
-	if (bHasAdvanced && AdvancedPinDisplay == ENodeAdvancedPins::NoPins)
+	if (bHasAdvanced)
 	{
-		AdvancedPinDisplay = ENodeAdvancedPins::Hidden;
+		HideAdvancedPins();
 	}
 	ConformDynamicOutput();
 }
@@ -204,14 +210,9 @@ void UK2Node_CallFunction::CreateExecPinsForFunctionCall(const UFunction* Functi
 			CreatePin(Side, UEdGraphSchema_K2::PC_Exec, TEXT("False"));
 			continue;
 		}
-		const int32 Count = Enum->NumEnums() - (Enum->ContainsExistingMax() ? 1 : 0);
-		for (int32 Index = 0; Index < Count; ++Index)
+		for (const int32 Entry : GetVisibleEnumEntries(Enum))
 		{
-			if (!Enum->HasMetaData(TEXT("Hidden"), Index))
-			{
-				UEdGraphPin* const Pin = CreatePin(Side, UEdGraphSchema_K2::PC_Exec, FName(*Enum->GetNameStringByIndex(Index)));
-				Pin->PinFriendlyName = Enum->GetDisplayNameTextByIndex(Index);
-			}
+			CreatePinOfEnumEntry(Side, Enum, Entry);
 		}
 	}
 	if (!bHasExpandedInput)
@@ -333,6 +334,7 @@ void UK2Node_CallFunction::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 	Super::NotifyPinConnectionListChanged(Pin);
 	if (Pin)
 	{
+		ConformWildcards(Pin);
 		ConformDynamicOutput();
 	}
 }
@@ -363,6 +365,46 @@ void UK2Node_CallFunction::ConformDynamicOutput()
 		{
 			Output->PinType.PinSubCategoryObject = Class ? static_cast<UObject*>(Class) : Type.PinSubCategoryObject.Get();
 		}
+	}
+}
+
+void UK2Node_CallFunction::ConformWildcards(const UEdGraphPin* ChangedPin)
+{
+	const UFunction* const Function = GetTargetFunction();
+	if (!Function)
+	{
+		return;
+	}
+	const auto FindPins = [this](const TArray<FName>& Names)
+	{
+		TArray<UEdGraphPin*> Found;
+		for (const FName Name : Names)
+		{
+			Found.Add(FindPin(Name));
+		}
+		return Found;
+	};
+	// "Set|Item,OtherSet|OtherItem": the pins of a group share one type. A struct of any kind is a group of its own.
+	TArray<FString> Groups;
+	const FString List = Function->GetMetaData(FBlueprintMetadata::MD_SetParam) + TEXT(",") + Function->GetMetaData(FBlueprintMetadata::MD_CustomStructureParam);
+	List.ParseIntoArray(Groups, TEXT(","), true);
+	for (const FString& Group : Groups)
+	{
+		const TArray<UEdGraphPin*> Shared = FindPins(ParseNames(Group.Replace(TEXT("|"), TEXT(","))));
+		if (Shared.Contains(const_cast<UEdGraphPin*>(ChangedPin)))
+		{
+			FollowLinkedType(Shared);
+		}
+	}
+	const TArray<UEdGraphPin*> Maps = FindPins(GetNamesOfMetaData(*Function, FBlueprintMetadata::MD_MapParam));
+	const TArray<UEdGraphPin*> Keys = FindPins(GetNamesOfMetaData(*Function, FBlueprintMetadata::MD_MapKeyParam));
+	const TArray<UEdGraphPin*> Values = FindPins(GetNamesOfMetaData(*Function, FBlueprintMetadata::MD_MapValueParam));
+	TArray<UEdGraphPin*> OfMap = Maps;
+	OfMap.Append(Keys);
+	OfMap.Append(Values);
+	if (Maps.Num() > 0 && OfMap.Contains(const_cast<UEdGraphPin*>(ChangedPin)))
+	{
+		FollowLinkedMapType(Maps[0], Keys, Values);
 	}
 }
 

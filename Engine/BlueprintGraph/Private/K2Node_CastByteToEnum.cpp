@@ -4,12 +4,6 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-bool UK2Node_CastByteToEnum::HasKnownDefinition() const
-{
-	// An enumeration that is only named somewhere, and not loaded, has no values.
-	return Enum && Enum->NumEnums() > 0;
-}
-
 void UK2Node_CastByteToEnum::AllocateDefaultPins()
 {
 	CreatePinWithDefault(EGPD_Input, UEdGraphSchema_K2::PC_Byte, TEXT("Byte"));

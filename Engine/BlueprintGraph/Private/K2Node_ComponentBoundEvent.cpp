@@ -28,17 +28,6 @@ UFunction* UK2Node_ComponentBoundEvent::FindEventSignatureFunction() const
 	return Property ? Property->SignatureFunction : Super::FindEventSignatureFunction();
 }
 
-FMulticastDelegateProperty* UK2Node_ComponentBoundEvent::GetTargetDelegateProperty() const
-{
-	return DelegateOwnerClass ? FindFProperty<FMulticastDelegateProperty>(DelegateOwnerClass.Get(), DelegatePropertyName) : nullptr;
-}
-
-FText UK2Node_ComponentBoundEvent::GetTargetDelegateDisplayName() const
-{
-	const FMulticastDelegateProperty* const Property = GetTargetDelegateProperty();
-	return Property ? Property->GetDisplayNameText() : FText::FromString(FName::NameToDisplayString(DelegatePropertyName.ToString(), false));
-}
-
 FText UK2Node_ComponentBoundEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	return FText::Format(LOCTEXT("ComponentBoundEvent_Title", "{0} ({1})"), GetTargetDelegateDisplayName(), FText::FromName(ComponentPropertyName));

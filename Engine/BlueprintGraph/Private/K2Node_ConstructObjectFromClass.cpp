@@ -1,5 +1,6 @@
 #include "K2Node_ConstructObjectFromClass.h"
 
+#include "Engine/Blueprint.h"
 #include "UObject/Class.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/UnrealType.h"
@@ -10,6 +11,10 @@ void UK2Node_ConstructObjectFromClass::AllocateDefaultPins()
 {
 	CreateExecPin();
 	CreateThenPin();
+	if (UseWorldContext())
+	{
+		CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, UObject::StaticClass(), TEXT("WorldContextObject"));
+	}
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Class, GetClassPinBaseClass(), TEXT("Class"))->PinToolTip = LOCTEXT("ClassPinDescription", "The object class you want to construct").ToString();
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, GetClassPinBaseClass(), UEdGraphSchema_K2::PN_ReturnValue)->PinToolTip = LOCTEXT("ResultPinDescription", "The constructed object").ToString();
 	if (UseOuter())
@@ -17,6 +22,20 @@ void UK2Node_ConstructObjectFromClass::AllocateDefaultPins()
 		CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, UObject::StaticClass(), TEXT("Outer"));
 	}
 	CreateOwnPins();
+}
+
+bool UK2Node_ConstructObjectFromClass::UseWorldContext() const
+{
+	static const FName ShowWorldContextPin(TEXT("ShowWorldContextPin"));
+	const UBlueprint* const Blueprint = GetBlueprint();
+	for (const UStruct* Class = Blueprint ? Blueprint->ParentClass.Get() : nullptr; Class; Class = Class->GetSuperStruct())
+	{
+		if (Class->HasMetaData(ShowWorldContextPin))
+		{
+			return true;
+		}
+	}
+	return false;
 }
 
 UClass* UK2Node_ConstructObjectFromClass::GetClassToSpawn() const

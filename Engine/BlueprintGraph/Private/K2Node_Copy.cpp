@@ -10,16 +10,9 @@ void UK2Node_Copy::AllocateDefaultPins()
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, TEXT("ReturnValue"));
 }
 
-void UK2Node_Copy::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
+TArray<UEdGraphPin*> UK2Node_Copy::GetPinsOfOneType() const
 {
-	Super::NotifyPinConnectionListChanged(Pin);
-	FollowLinkedType(Pins, true);
-}
-
-void UK2Node_Copy::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
-{
-	AllocateDefaultPins();
-	KeepResolvedWildcards(OldPins);
+	return Pins;
 }
 
 FText UK2Node_Copy::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -71,6 +71,26 @@ UK2Node_CustomEvent::UK2Node_CustomEvent(const FObjectInitializer& ObjectInitial
 	bCanRenameNode = true;
 }
 
+UK2Node_CustomEvent* UK2Node_CustomEvent::CreateFromFunction(
+	FVector2D GraphPosition, UEdGraph* ParentGraph, const FString& Name, const UFunction* Function, bool bSelectNewNode)
+{
+	UK2Node_CustomEvent* const Event = Cast<UK2Node_CustomEvent>(ParentGraph->CreateNode(StaticClass(), bSelectNewNode));
+	Event->CreateNewGuid();
+	Event->CustomFunctionName = FName(*Name);
+	Event->PostPlacedNewNode();
+	Event->AllocateDefaultPins();
+	ForEachParameter(Function, [Event](FProperty& Parameter, const FEdGraphPinType& Type)
+		{
+			if (IsFunctionInput(Parameter))
+			{
+				Event->CreateUserDefinedPin(Parameter.GetFName(), Type, EGPD_Output);
+			} });
+	Event->NodePosX = static_cast<int32>(GraphPosition.X);
+	Event->NodePosY = static_cast<int32>(GraphPosition.Y);
+	Event->SetFlags(RF_Transactional);
+	return Event;
+}
+
 bool UK2Node_CustomEvent::IsEditable() const
 {
 	// The parameters of an override are the overridden event's.

@@ -23,20 +23,12 @@ void UK2Node_DelegateSet::AllocateDefaultPins()
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, DelegatePropertyClass ? DelegatePropertyClass->GetAuthoritativeClass() : nullptr, DelegatePropertyName);
 	CreateThenPin();
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_DelegateEntry);
-	const UFunction* const Signature = GetDelegateSignature();
-	if (!Signature)
-	{
-		return;
-	}
-	for (TFieldIterator<FProperty> Parameter(Signature); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
-	{
-		FEdGraphPinType Type;
-		const bool bIsInput = !Parameter->HasAnyPropertyFlags(CPF_OutParm) || Parameter->HasAnyPropertyFlags(CPF_ReferenceParm);
-		if (bIsInput && GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
+	ForEachParameter(GetDelegateSignature(), [this](FProperty& Parameter, const FEdGraphPinType& Type)
 		{
-			CreatePin(EGPD_Output, Type, Parameter->GetFName());
-		}
-	}
+			if (IsFunctionInput(Parameter))
+			{
+				CreatePin(EGPD_Output, Type, Parameter.GetFName());
+			} });
 }
 
 FText UK2Node_DelegateSet::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -27,7 +27,7 @@ FArchive& operator<<(FArchive& Ar, FUserPinInfo& Info)
 	Info.PinType.Serialize(Ar);
 	uint8 Direction = static_cast<uint8>(Info.DesiredPinDirection.GetValue());
 	Ar << Direction;
-	Info.DesiredPinDirection = static_cast<EEdGraphPinDirection>(FMath::Min<uint8>(Direction, EGPD_Output));
+	Info.DesiredPinDirection = static_cast<EEdGraphPinDirection>(FMath::Min<uint8>(Direction, static_cast<uint8>(EGPD_Output)));
 	Ar << Info.PinDefaultValue;
 	return Ar;
 }
@@ -140,17 +140,13 @@ bool UK2Node_EditablePinBase::ModifyUserDefinedPinDefaultValue(TSharedPtr<FUserP
 bool UK2Node_EditablePinBase::CreateUserDefinedPinsForFunctionEntryExit(const UFunction* Function, bool bForFunctionEntry)
 {
 	bool bAllMade = true;
-	for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
-	{
-		const bool bIsInput = Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) || !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
-		if (bIsInput != bForFunctionEntry)
+	const bool bAllKnown = ForEachParameter(Function, [this, bForFunctionEntry, &bAllMade](FProperty& Parameter, const FEdGraphPinType& Type)
 		{
-			continue;
-		}
-		FEdGraphPinType Type;
-		bAllMade = GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type) && CreateUserDefinedPin(Parameter->GetFName(), Type, bForFunctionEntry ? EGPD_Output : EGPD_Input) && bAllMade;
-	}
-	return bAllMade;
+			if (IsFunctionInput(Parameter) == bForFunctionEntry)
+			{
+				bAllMade = CreateUserDefinedPin(Parameter.GetFName(), Type, bForFunctionEntry ? EGPD_Output : EGPD_Input) && bAllMade;
+			} });
+	return bAllKnown && bAllMade;
 }
 
 void UK2Node_EditablePinBase::Serialize(FArchive& Ar)

@@ -9,16 +9,9 @@ void UK2Node_EnumEquality::AllocateDefaultPins()
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Boolean, UEdGraphSchema_K2::PN_ReturnValue);
 }
 
-void UK2Node_EnumEquality::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
+TArray<UEdGraphPin*> UK2Node_EnumEquality::GetPinsOfOneType() const
 {
-	Super::NotifyPinConnectionListChanged(Pin);
-	FollowLinkedType({FindPin(TEXT("A")), FindPin(TEXT("B"))});
-}
-
-void UK2Node_EnumEquality::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
-{
-	AllocateDefaultPins();
-	KeepResolvedWildcards(OldPins);
+	return {FindPin(TEXT("A")), FindPin(TEXT("B"))};
 }
 
 FText UK2Node_EnumEquality::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -10,12 +10,6 @@ const FName& UK2Node_EnumLiteral::GetEnumInputPinName()
 	return Name;
 }
 
-bool UK2Node_EnumLiteral::HasKnownDefinition() const
-{
-	// An enumeration that is only named somewhere, and not loaded, has no values.
-	return Enum && Enum->NumEnums() > 0;
-}
-
 void UK2Node_EnumLiteral::AllocateDefaultPins()
 {
 	UEdGraphPin* const Input = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Byte, Enum.Get(), GetEnumInputPinName());

@@ -47,33 +47,46 @@ void UK2Node_Event::AllocateDefaultPins()
 {
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Delegate, DelegateOutputName);
 	CreateThenPin();
-	if (const UFunction* const Function = FindEventSignatureFunction())
-	{
-		for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+	const UFunction* const Function = FindEventSignatureFunction();
+	ForEachParameter(Function, [this](FProperty& Parameter, const FEdGraphPinType& Type)
 		{
-			const bool bIsInput = Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) || !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
-			FEdGraphPinType Type;
-			if (bIsInput && GetK2Schema()->ConvertPropertyToPinType(*Parameter, Type))
+			if (IsFunctionInput(Parameter))
 			{
-				UEdGraphPin* const Pin = CreatePinWithDefault(EGPD_Output, Type, Parameter->GetFName());
-				GeneratePinTooltip(*Pin, FText::GetEmpty());
-			}
-		}
-	}
+				GeneratePinTooltip(*CreatePinWithDefault(EGPD_Output, Type, Parameter.GetFName()), FText::GetEmpty());
+			} });
 	Super::AllocateDefaultPins();
 	UpdateDelegatePin();
+}
+
+FMulticastDelegateProperty* UK2Node_Event::FindDispatcher(const UClass* OwnerClass, FName PropertyName)
+{
+	return OwnerClass ? FindFProperty<FMulticastDelegateProperty>(OwnerClass, PropertyName) : nullptr;
+}
+
+FText UK2Node_Event::GetDispatcherName(const UClass* OwnerClass, FName PropertyName)
+{
+	const FMulticastDelegateProperty* const Property = FindDispatcher(OwnerClass, PropertyName);
+	return Property ? Property->GetDisplayNameText() : FText::FromString(FName::NameToDisplayString(PropertyName.ToString(), false));
+}
+
+void UK2Node_Event::CreateValuePin(FName PinName, FName Category, FName SubCategory, UObject* SubCategoryObject)
+{
+	if (!FindPin(PinName))
+	{
+		CreatePinWithDefault(EGPD_Output, Category, PinName, SubCategory, SubCategoryObject);
+	}
 }
 
 void UK2Node_Event::UpdateDelegatePin()
 {
 	UEdGraphPin* const Pin = FindPin(DelegateOutputName);
 	const UBlueprint* const Blueprint = GetBlueprint();
-	if (!Pin || !Blueprint || !Blueprint->GeneratedClass)
+	if (!Pin)
 	{
 		return;
 	}
 	// The function stands in the class that the Blueprint makes, even while it has not been compiled.
-	Pin->PinType.PinSubCategoryMemberReference.MemberParent = Blueprint->GeneratedClass.Get();
+	Pin->PinType.PinSubCategoryMemberReference.MemberParent = Blueprint ? Blueprint->GeneratedClass.Get() : nullptr;
 	Pin->PinType.PinSubCategoryMemberReference.MemberName = GetFunctionName();
 }
 

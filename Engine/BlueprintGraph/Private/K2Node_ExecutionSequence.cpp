@@ -7,6 +7,12 @@ namespace
 constexpr int32 DefaultOutputs = 2;
 }
 
+UK2Node_ExecutionSequence::UK2Node_ExecutionSequence(const FObjectInitializer& ObjectInitializer)
+	: Super(ObjectInitializer)
+{
+	OrphanedPinSaveMode = ESaveOrphanPinMode::SaveNone;
+}
+
 FName UK2Node_ExecutionSequence::GetPinNameGivenIndex(int32 Index) const
 {
 	return FName(*FString::Printf(TEXT("then_%d"), Index));
@@ -53,17 +59,47 @@ void UK2Node_ExecutionSequence::ReallocatePinsDuringReconstruction(TArray<UEdGra
 
 void UK2Node_ExecutionSequence::AddInputPin()
 {
+	TArray<UEdGraphPin*> Outputs;
+	GetOutputPins(Outputs);
+	InsertOutput(Outputs.Num());
+}
+
+void UK2Node_ExecutionSequence::InsertPinIntoExecutionNode(UEdGraphPin* TargetPin, bool bBefore)
+{
+	TArray<UEdGraphPin*> Outputs;
+	GetOutputPins(Outputs);
+	const int32 Place = Outputs.IndexOfByKey(TargetPin);
+	if (Place != INDEX_NONE)
+	{
+		InsertOutput(bBefore ? Place : Place + 1);
+	}
+}
+
+void UK2Node_ExecutionSequence::InsertOutput(int32 Place)
+{
 	Modify();
 	TArray<UEdGraphPin*> Outputs;
 	GetOutputPins(Outputs);
-	int32 Index = Outputs.Num();
-	while (FindPin(GetPinNameGivenIndex(Index)))
-	{
-		++Index;
-	}
 	FCreatePinParams Params;
-	Params.Index = Outputs.Num() > 0 ? GetPinIndex(Outputs.Last()) + 1 : INDEX_NONE;
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, GetPinNameGivenIndex(Index), Params);
+	Params.Index = Outputs.IsValidIndex(Place) ? GetPinIndex(Outputs[Place]) : Outputs.Num() > 0 ? GetPinIndex(Outputs.Last()) + 1
+																								 : INDEX_NONE;
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, NAME_None, Params);
+	RenameOutputs();
+}
+
+void UK2Node_ExecutionSequence::RenameOutputs()
+{
+	TArray<UEdGraphPin*> Outputs;
+	GetOutputPins(Outputs);
+	RenamePins(Outputs, [this](int32 Index)
+		{ return GetPinNameGivenIndex(Index); });
+}
+
+bool UK2Node_ExecutionSequence::CanRemovePin(const UEdGraphPin* Pin) const
+{
+	TArray<UEdGraphPin*> Outputs;
+	GetOutputPins(Outputs);
+	return CanRemoveExecutionPin() && Outputs.Contains(const_cast<UEdGraphPin*>(Pin));
 }
 
 bool UK2Node_ExecutionSequence::CanRemoveExecutionPin() const
@@ -75,15 +111,11 @@ bool UK2Node_ExecutionSequence::CanRemoveExecutionPin() const
 
 void UK2Node_ExecutionSequence::RemovePinFromExecutionNode(UEdGraphPin* TargetPin)
 {
-	if (!CanRemoveExecutionPin() || !RemovePin(TargetPin))
+	if (CanRemovePin(TargetPin))
 	{
-		return;
-	}
-	TArray<UEdGraphPin*> Outputs;
-	GetOutputPins(Outputs);
-	for (int32 Index = 0; Index < Outputs.Num(); ++Index)
-	{
-		Outputs[Index]->PinName = GetPinNameGivenIndex(Index);
+		Modify();
+		RemovePin(TargetPin);
+		RenameOutputs();
 	}
 }
 

@@ -8,12 +8,6 @@ const FName UK2Node_ForEachElementInEnum::InsideLoopPinName(TEXT("LoopBody"));
 const FName UK2Node_ForEachElementInEnum::EnumOuputPinName(TEXT("EnumValue"));
 const FName UK2Node_ForEachElementInEnum::SkipHiddenPinName(TEXT("SkipHidden"));
 
-bool UK2Node_ForEachElementInEnum::HasKnownDefinition() const
-{
-	// An enumeration that is only named somewhere, and not loaded, has no values.
-	return Enum && Enum->NumEnums() > 0;
-}
-
 void UK2Node_ForEachElementInEnum::AllocateDefaultPins()
 {
 	CreateExecPin();
@@ -28,10 +22,7 @@ void UK2Node_ForEachElementInEnum::AllocateDefaultPins()
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, InsideLoopPinName);
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Byte, Enum.Get(), EnumOuputPinName);
 	CreateThenPin()->PinFriendlyName = LOCTEXT("Completed", "Completed");
-	if (AdvancedPinDisplay == ENodeAdvancedPins::NoPins)
-	{
-		AdvancedPinDisplay = ENodeAdvancedPins::Hidden;
-	}
+	HideAdvancedPins();
 }
 
 FText UK2Node_ForEachElementInEnum::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -36,12 +36,6 @@ void UK2Node_FormatText::AllocateDefaultPins()
 	}
 }
 
-void UK2Node_FormatText::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
-{
-	AllocateDefaultPins();
-	KeepResolvedWildcards(OldPins);
-}
-
 void UK2Node_FormatText::PinDefaultValueChanged(UEdGraphPin* Pin)
 {
 	Super::PinDefaultValueChanged(Pin);

@@ -16,21 +16,13 @@ void UK2Node_GetArrayItem::AllocateDefaultPins()
 
 void UK2Node_GetArrayItem::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
 {
-	AllocateDefaultPins();
-	if (const UEdGraphPin* const Array = FindOldPin(OldPins, GetTargetArrayPin()->PinName, EGPD_Input))
-	{
-		SetValueType(*GetTargetArrayPin(), Array->PinType);
-		SetValueType(*GetResultPin(), Array->PinType);
-	}
+	Super::ReallocatePinsDuringReconstruction(OldPins);
+	GetResultPin()->PinType.bIsReference = bReturnByRefDesired;
 }
 
-void UK2Node_GetArrayItem::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
+TArray<UEdGraphPin*> UK2Node_GetArrayItem::GetPinsOfOneType() const
 {
-	Super::NotifyPinConnectionListChanged(Pin);
-	if (Pins.Num() > 2 && Pin != GetIndexPin())
-	{
-		FollowLinkedType({GetTargetArrayPin(), GetResultPin()});
-	}
+	return Pins.Num() > 2 ? TArray<UEdGraphPin*>({GetTargetArrayPin(), GetResultPin()}) : TArray<UEdGraphPin*>();
 }
 
 void UK2Node_GetArrayItem::SetDesiredReturnType(bool bAsReference)

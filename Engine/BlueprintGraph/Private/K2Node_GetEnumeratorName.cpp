@@ -8,16 +8,9 @@ void UK2Node_GetEnumeratorName::AllocateDefaultPins()
 	CreatePin(EGPD_Output, GetResultCategory(), UEdGraphSchema_K2::PN_ReturnValue);
 }
 
-void UK2Node_GetEnumeratorName::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
+TArray<UEdGraphPin*> UK2Node_GetEnumeratorName::GetPinsOfOneType() const
 {
-	Super::NotifyPinConnectionListChanged(Pin);
-	FollowLinkedType({FindPin(TEXT("Enumerator"))});
-}
-
-void UK2Node_GetEnumeratorName::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
-{
-	AllocateDefaultPins();
-	KeepResolvedWildcards(OldPins);
+	return {FindPin(TEXT("Enumerator"))};
 }
 
 FText UK2Node_GetEnumeratorName::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -1,5 +1,6 @@
 #include "K2Node_InputAction.h"
 
+#include "InputNodePins.h"
 #include "UObject/Class.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
@@ -14,9 +15,7 @@ UK2Node_InputAction::UK2Node_InputAction(const FObjectInitializer& ObjectInitial
 
 void UK2Node_InputAction::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Pressed"));
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Released"));
-	CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Struct, TEXT("Key"), NAME_None, FKey::StaticStruct());
+	FInputNodePins::CreateKeyPins(*this);
 }
 
 FText UK2Node_InputAction::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -23,11 +23,7 @@ void UK2Node_InputAxisEvent::Initialize(const FName AxisName)
 void UK2Node_InputAxisEvent::AllocateDefaultPins()
 {
 	Super::AllocateDefaultPins();
-	static const FName ValueName(TEXT("AxisValue"));
-	if (!FindPin(ValueName))
-	{
-		CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Real, ValueName, UEdGraphSchema_K2::PC_Float);
-	}
+	CreateValuePin(TEXT("AxisValue"), UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_Float);
 }
 
 FText UK2Node_InputAxisEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -23,11 +23,7 @@ void UK2Node_InputAxisKeyEvent::Initialize(const FKey InAxisKey)
 void UK2Node_InputAxisKeyEvent::AllocateDefaultPins()
 {
 	Super::AllocateDefaultPins();
-	static const FName ValueName(TEXT("AxisValue"));
-	if (!FindPin(ValueName))
-	{
-		CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Real, ValueName, UEdGraphSchema_K2::PC_Float);
-	}
+	CreateValuePin(TEXT("AxisValue"), UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_Float);
 }
 
 FText UK2Node_InputAxisKeyEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const

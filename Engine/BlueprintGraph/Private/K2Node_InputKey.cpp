@@ -1,5 +1,6 @@
 #include "K2Node_InputKey.h"
 
+#include "InputNodePins.h"
 #include "UObject/Class.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
@@ -18,19 +19,12 @@ UK2Node_InputKey::UK2Node_InputKey(const FObjectInitializer& ObjectInitializer)
 
 void UK2Node_InputKey::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Pressed"));
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Released"));
-	CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Struct, TEXT("Key"), NAME_None, FKey::StaticStruct());
+	FInputNodePins::CreateKeyPins(*this);
 }
 
 FText UK2Node_InputKey::GetKeyText() const
 {
-	FString Text;
-	Text += bControl ? TEXT("Ctrl+") : TEXT("");
-	Text += bAlt ? TEXT("Alt+") : TEXT("");
-	Text += bShift ? TEXT("Shift+") : TEXT("");
-	Text += bCommand ? TEXT("Cmd+") : TEXT("");
-	return FText::FromString(Text + InputKey.GetDisplayName().ToString());
+	return FInputNodePins::GetKeyText(InputKey, bControl, bAlt, bShift, bCommand);
 }
 
 FText UK2Node_InputKey::GetNodeTitle(ENodeTitleType::Type TitleType) const

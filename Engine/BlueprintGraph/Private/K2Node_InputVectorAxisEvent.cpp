@@ -19,11 +19,7 @@ void UK2Node_InputVectorAxisEvent::Initialize(const FKey InAxisKey)
 void UK2Node_InputVectorAxisEvent::AllocateDefaultPins()
 {
 	UK2Node_Event::AllocateDefaultPins();
-	static const FName ValueName(TEXT("AxisValue"));
-	if (!FindPin(ValueName))
-	{
-		CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Struct, ValueName, NAME_None, TBaseStructure<FVector>::Get());
-	}
+	CreateValuePin(TEXT("AxisValue"), UEdGraphSchema_K2::PC_Struct, NAME_None, TBaseStructure<FVector>::Get());
 }
 
 #undef LOCTEXT_NAMESPACE

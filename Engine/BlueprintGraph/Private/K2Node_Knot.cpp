@@ -50,13 +50,6 @@ void UK2Node_Knot::AllocateDefaultPins()
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, TEXT("OutputPin"));
 }
 
-void UK2Node_Knot::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
-{
-	AllocateDefaultPins();
-	// The type is known again when the links are back; until then it is what it was.
-	KeepResolvedWildcards(OldPins);
-}
-
 void UK2Node_Knot::PostReconstructNode()
 {
 	PropagatePinType();

@@ -73,16 +73,43 @@ void UK2Node_MacroInstance::ApplyWildcardType()
 	}
 }
 
+TArray<UEdGraphPin*> UK2Node_MacroInstance::GetWildcardPins() const
+{
+	TArray<UEdGraphPin*> Wildcards;
+	for (const bool bEntry : {true, false})
+	{
+		const UK2Node_Tunnel* const Tunnel = FindTunnel(GetMacroGraph(), bEntry);
+		for (const UEdGraphPin* const Inner : Tunnel ? Tunnel->Pins : TArray<UEdGraphPin*>())
+		{
+			UEdGraphPin* const Pin = Inner->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard ? FindPin(Inner->PinName, bEntry ? EGPD_Input : EGPD_Output) : nullptr;
+			if (Pin)
+			{
+				Wildcards.Add(Pin);
+			}
+		}
+	}
+	return Wildcards;
+}
+
 void UK2Node_MacroInstance::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 {
-	Super::NotifyPinConnectionListChanged(Pin);
-	if (Pin->LinkedTo.Num() == 0 || Pin->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard || Pin->LinkedTo[0]->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard)
+	const TArray<UEdGraphPin*> Wildcards = GetWildcardPins();
+	if (!Wildcards.Contains(Pin))
+	{
+		return;
+	}
+	const auto GivesType = [](const UEdGraphPin* Item)
+	{ return Item->LinkedTo.Num() > 0 && Item->LinkedTo[0]->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard; };
+	UEdGraphPin* const* const Giver = Wildcards.FindByPredicate(GivesType);
+	const bool bIsResolved = !ResolvedWildcardType.PinCategory.IsNone();
+	// The first link decides; what is linked later must fit, and with the last link the macro is open again.
+	if (bIsResolved == (Giver != nullptr))
 	{
 		return;
 	}
 	Modify();
-	ResolvedWildcardType = Pin->LinkedTo[0]->PinType;
-	ApplyWildcardType();
+	ResolvedWildcardType = Giver ? (*Giver)->LinkedTo[0]->PinType : FEdGraphPinType();
+	FollowLinkedType(Wildcards);
 	if (UEdGraph* const Graph = GetGraph())
 	{
 		Graph->NotifyNodeChanged(this);

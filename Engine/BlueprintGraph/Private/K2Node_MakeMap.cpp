@@ -8,41 +8,27 @@ UK2Node_MakeMap::UK2Node_MakeMap(const FObjectInitializer& ObjectInitializer)
 	ContainerType = EPinContainerType::Map;
 }
 
-void UK2Node_MakeMap::CreateElementPins(int32 PinIndex, const FEdGraphPinType& Type)
+FName UK2Node_MakeMap::GetPinName(int32 PinIndex) const
 {
-	const UEdGraphPin* const Output = GetOutputPin();
-	CreatePinWithDefault(EGPD_Input, Type, GetPinName(PinIndex));
-	FEdGraphPinType ValueType = FEdGraphPinType::GetPinTypeForTerminalType(Output->PinType.PinValueType);
-	CreatePinWithDefault(EGPD_Input, ValueType, FName(*FString::Printf(TEXT("Value %d"), PinIndex)));
+	return FName(*FString::Printf(TEXT("%s %d"), PinIndex % 2 == 0 ? TEXT("Key") : TEXT("Value"), PinIndex / 2));
 }
 
-void UK2Node_MakeMap::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
+FEdGraphPinType UK2Node_MakeMap::GetInputType(int32 PinIndex) const
 {
-	// Keys share one type and values another; both come from what is linked first.
-	UEdGraphPin* const Output = GetOutputPin();
-	if (Pin->LinkedTo.Num() == 0 || Pin->LinkedTo[0]->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard || !Output)
+	const UEdGraphPin* const Output = GetOutputPin();
+	return PinIndex % 2 == 0 || !Output ? Super::GetInputType(PinIndex) : FEdGraphPinType::GetPinTypeForTerminalType(Output->PinType.PinValueType);
+}
+
+void UK2Node_MakeMap::FollowLinks()
+{
+	TArray<UEdGraphPin*> Keys;
+	TArray<UEdGraphPin*> Values;
+	const TArray<UEdGraphPin*> Inputs = GetInputPins();
+	for (int32 Index = 0; Index < Inputs.Num(); ++Index)
 	{
-		return;
+		(Index % 2 == 0 ? Keys : Values).Add(Inputs[Index]);
 	}
-	const FEdGraphPinType Linked = Pin->LinkedTo[0]->PinType;
-	const bool bIsValue = Pin->PinName.ToString().StartsWith(TEXT("Value"));
-	FEdGraphPinType KeyType = bIsValue ? GetElementType() : Linked;
-	KeyType.ContainerType = EPinContainerType::Map;
-	KeyType.PinValueType = bIsValue ? FEdGraphTerminalType::FromPinType(Linked) : Pin == Output ? Linked.PinValueType
-																								: Output->PinType.PinValueType;
-	KeyType.bIsReference = false;
-	KeyType.bIsConst = false;
-	Output->PinType = KeyType;
-	for (UEdGraphPin* const Item : Pins)
-	{
-		if (Item->Direction == EGPD_Input)
-		{
-			FEdGraphPinType Type = GetElementType();
-			Type.PinValueType = FEdGraphTerminalType();
-			const bool bItemIsValue = Item->PinName.ToString().StartsWith(TEXT("Value"));
-			Item->PinType = bItemIsValue ? FEdGraphPinType::GetPinTypeForTerminalType(KeyType.PinValueType) : Type;
-		}
-	}
+	FollowLinkedMapType(GetOutputPin(), Keys, Values);
 }
 
 FText UK2Node_MakeMap::GetNodeTitle(ENodeTitleType::Type TitleType) const

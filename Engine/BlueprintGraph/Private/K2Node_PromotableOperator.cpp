@@ -1,5 +1,6 @@
 #include "K2Node_PromotableOperator.h"
 
+#include "OperatorFunctions.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
@@ -8,14 +9,7 @@
 
 namespace
 {
-const FName ToleranceName(TEXT("ErrorTolerance"));
-
-FName GetOperationOfFunction(const FName FunctionName)
-{
-	FString Operation;
-	FString Types;
-	return FunctionName.ToString().Split(TEXT("_"), &Operation, &Types) ? FName(*Operation) : FunctionName;
-}
+constexpr int32 FunctionOperands = 2;
 
 bool IsComparison(const FName Operation)
 {
@@ -23,25 +17,18 @@ bool IsComparison(const FName Operation)
 	return Comparisons.Contains(Operation);
 }
 
-/** The function of the operation for operands of one type, "Add_VectorVector"; null when there is none. */
-UFunction* FindFunctionForType(const FName Operation, const FEdGraphPinType& Type)
+/** The type of what is linked to the pin; a wildcard while nothing is. */
+FEdGraphPinType GetGivenType(const UEdGraphPin& Pin)
 {
-	static const TMap<FName, FString> NameOfCategory = {
-		{UEdGraphSchema_K2::PC_Real, TEXT("Double")},
-		{UEdGraphSchema_K2::PC_Int, TEXT("Int")},
-		{UEdGraphSchema_K2::PC_Int64, TEXT("Int64")},
-		{UEdGraphSchema_K2::PC_Byte, TEXT("Byte")},
-		{UEdGraphSchema_K2::PC_Boolean, TEXT("Bool")},
-		{UEdGraphSchema_K2::PC_Name, TEXT("Name")},
-		{UEdGraphSchema_K2::PC_Object, TEXT("Object")},
-		{UEdGraphSchema_K2::PC_Class, TEXT("Class")},
-	};
-	const FString* const CategoryName = NameOfCategory.Find(Type.PinCategory);
-	const UObject* const Struct = Type.PinCategory == UEdGraphSchema_K2::PC_Struct ? Type.PinSubCategoryObject.Get() : nullptr;
-	const FString Name = Struct ? Struct->GetName() : CategoryName ? *CategoryName
-																   : FString();
-	UClass* const Library = FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetMathLibrary"));
-	return Library && !Name.IsEmpty() ? Library->FindFunctionByName(FName(*FString::Printf(TEXT("%s_%s%s"), *Operation.ToString(), *Name, *Name))) : nullptr;
+	FEdGraphPinType Type;
+	Type.PinCategory = UEdGraphSchema_K2::PC_Wildcard;
+	if (Pin.LinkedTo.Num() > 0)
+	{
+		Type = Pin.LinkedTo[0]->PinType;
+	}
+	Type.bIsReference = false;
+	Type.bIsConst = false;
+	return Type;
 }
 
 /** Structs are compared by functions of their own, which have no tolerance. */
@@ -62,13 +49,13 @@ void MakeWildcard(UEdGraphPin& Pin)
 
 FName UK2Node_PromotableOperator::GetOperationName() const
 {
-	return OperationName.IsNone() ? GetOperationOfFunction(FunctionReference.GetMemberName()) : OperationName;
+	return OperationName.IsNone() ? FOperatorFunctions::GetOperation(FunctionReference.GetMemberName()) : OperationName;
 }
 
 void UK2Node_PromotableOperator::SetFromFunction(const UFunction* Function)
 {
 	Super::SetFromFunction(Function);
-	OperationName = Function ? GetOperationOfFunction(Function->GetFName()) : FName();
+	OperationName = Function ? FOperatorFunctions::GetOperation(Function->GetFName()) : FName();
 }
 
 void UK2Node_PromotableOperator::AllocateDefaultPins()
@@ -94,13 +81,13 @@ void UK2Node_PromotableOperator::AllocateDefaultPins()
 		}
 		GeneratePinTooltip(*Pin, Pin->Direction == EGPD_Output && GetTargetFunction() ? GetTargetFunction()->GetToolTipText() : FText::GetEmpty());
 	}
-	for (int32 Index = 0; Index < NumAdditionalInputs; ++Index)
+	for (int32 Index = 0; Index < FMath::Clamp(NumAdditionalInputs, 0, GetMaxInputPinsNum() - FunctionOperands); ++Index)
 	{
-		CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, FName(*FString::Chr(static_cast<TCHAR>(TEXT('C') + Index))));
+		CreateOperand(FunctionOperands + Index);
 	}
-	if (bComparison && !TakesStruct(GetTargetFunction()) && !FindPin(ToleranceName))
+	if (bComparison && !TakesStruct(GetTargetFunction()) && !FindPin(FOperatorFunctions::GetToleranceName()))
 	{
-		UEdGraphPin* const Tolerance = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, ToleranceName);
+		UEdGraphPin* const Tolerance = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, FOperatorFunctions::GetToleranceName());
 		Tolerance->bHidden = true;
 		GeneratePinTooltip(*Tolerance, FText::GetEmpty());
 	}
@@ -120,45 +107,158 @@ void UK2Node_PromotableOperator::ReallocatePinsDuringReconstruction(TArray<UEdGr
 	}
 }
 
+TArray<UEdGraphPin*> UK2Node_PromotableOperator::GetOperands() const
+{
+	return Pins.FilterByPredicate([](const UEdGraphPin* Pin)
+		{ return Pin->Direction == EGPD_Input && !Pin->ParentPin && Pin->PinName != FOperatorFunctions::GetToleranceName() && !Pin->bOrphanedPin; });
+}
+
+UEdGraphPin* UK2Node_PromotableOperator::CreateOperand(int32 Index)
+{
+	return CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, GetNameForAdditionalPin(Index));
+}
+
+void UK2Node_PromotableOperator::ResetToWildcards()
+{
+	const bool bComparison = IsComparison(GetOperationName());
+	for (UEdGraphPin* const Pin : TArray<UEdGraphPin*>(Pins))
+	{
+		if (Pin->SubPins.Num() > 0)
+		{
+			GetK2Schema()->RecombinePin(Pin);
+		}
+	}
+	for (UEdGraphPin* const Pin : Pins)
+	{
+		if (Pin->Direction == EGPD_Input || !bComparison)
+		{
+			MakeWildcard(*Pin);
+		}
+	}
+}
+
 void UK2Node_PromotableOperator::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 {
 	Super::NotifyPinConnectionListChanged(Pin);
 	const bool bHasLinks = Pins.ContainsByPredicate([](const UEdGraphPin* Item)
 		{ return Item->LinkedTo.Num() > 0; });
-	const bool bComparison = IsComparison(GetOperationName());
 	if (!bHasLinks)
 	{
-		for (UEdGraphPin* const Item : Pins)
-		{
-			if (Item->Direction == EGPD_Input || !bComparison)
-			{
-				MakeWildcard(*Item);
-			}
-		}
-		return;
+		ResetToWildcards();
 	}
-	if (Pin->LinkedTo.Num() == 0 || Pin->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard || Pin->LinkedTo[0]->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard)
+	else if (Pin->LinkedTo.Num() > 0 && Pin->LinkedTo[0]->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard && Pin->PinName != FOperatorFunctions::GetToleranceName())
 	{
-		return;
+		UpdateFromLinks();
 	}
-	const FEdGraphPinType Type = Pin->LinkedTo[0]->PinType;
-	if (UFunction* const Function = FindFunctionForType(GetOperationName(), Type))
+}
+
+bool UK2Node_PromotableOperator::TakesOperand(const UEdGraphPin& Operand, const FEdGraphPinType& Type) const
+{
+	const TArray<UEdGraphPin*> Operands = GetOperands();
+	if (!Operands.Contains(const_cast<UEdGraphPin*>(&Operand)) || Type.PinCategory == UEdGraphSchema_K2::PC_Wildcard)
+	{
+		return false;
+	}
+	TArray<FEdGraphPinType> Given;
+	for (const UEdGraphPin* const Item : Operands)
+	{
+		Given.Add(Item == &Operand ? Type : GetGivenType(*Item));
+		Given.Last().bIsReference = false;
+		Given.Last().bIsConst = false;
+	}
+	return FOperatorFunctions::FindBest(GetOperationName(), Given, FEdGraphPinType()) != nullptr;
+}
+
+void UK2Node_PromotableOperator::UpdateFromLinks()
+{
+	TArray<FEdGraphPinType> Given;
+	for (const UEdGraphPin* const Operand : GetOperands())
+	{
+		Given.Add(GetGivenType(*Operand));
+	}
+	const UEdGraphPin* const Result = GetReturnValuePin();
+	UFunction* const Best = FOperatorFunctions::FindBest(GetOperationName(), Given, Result ? GetGivenType(*Result) : FEdGraphPinType());
+	if (Best)
 	{
 		const FName Operation = GetOperationName();
-		FunctionReference.SetFromField<UFunction>(Function, false);
+		FunctionReference.SetFromField<UFunction>(Best, false);
 		OperationName = Operation;
+		ConformToFunction(*Best);
 	}
-	for (UEdGraphPin* const Item : Pins)
+}
+
+void UK2Node_PromotableOperator::ConformToFunction(const UFunction& Function)
+{
+	int32 NumOperands = 0;
+	const TArray<FEdGraphPinType> Types = FOperatorFunctions::GetTypes(Function, NumOperands);
+	const auto Conform = [this](UEdGraphPin& Pin, const FEdGraphPinType& Parameter)
 	{
-		const bool bIsOperand = Item->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard && (Item->Direction == EGPD_Input || !bComparison) && Item->PinName != ToleranceName;
-		if (bIsOperand)
+		const FEdGraphPinType Given = GetGivenType(Pin);
+		const bool bIsGiven = Pin.Direction == EGPD_Input && Given.PinCategory != UEdGraphSchema_K2::PC_Wildcard;
+		const FEdGraphPinType& Type = bIsGiven ? Given : Parameter;
+		if (Pin.PinType == Type)
 		{
-			Item->PinType = Type;
-			Item->PinType.bIsReference = false;
-			Item->PinType.bIsConst = false;
-			GetK2Schema()->SetPinAutogeneratedDefaultValueBasedOnType(Item);
+			return;
 		}
+		const FString Value = Pin.DefaultValue;
+		const bool bHasOwnValue = Pin.Direction == EGPD_Input && !Value.IsEmpty() && !Pin.DoesDefaultValueMatchAutogenerated();
+		Pin.PinType = Type;
+		GetK2Schema()->SetPinAutogeneratedDefaultValueBasedOnType(&Pin);
+		if (bHasOwnValue && GetK2Schema()->IsPinDefaultValid(&Pin, Value, nullptr, FText()).IsEmpty())
+		{
+			Pin.DefaultValue = Value;
+		}
+	};
+	const TArray<UEdGraphPin*> Operands = GetOperands();
+	for (int32 Index = 0; Index < Operands.Num(); ++Index)
+	{
+		Conform(*Operands[Index], Types[FMath::Min(Index, NumOperands - 1)]);
 	}
+	if (UEdGraphPin* const Result = GetReturnValuePin())
+	{
+		Conform(*Result, Types.Last());
+	}
+}
+
+bool UK2Node_PromotableOperator::CanAddPin() const
+{
+	// A comparison is of two values.
+	const UFunction* const Function = GetTargetFunction();
+	const bool bTakesMore = Function && Function->HasMetaData(FBlueprintMetadata::MD_CommutativeAssociativeBinaryOperator);
+	return bTakesMore && !IsComparison(GetOperationName()) && NumAdditionalInputs + FunctionOperands < GetMaxInputPinsNum();
+}
+
+void UK2Node_PromotableOperator::AddInputPin()
+{
+	if (!CanAddPin())
+	{
+		return;
+	}
+	Modify();
+	const TArray<UEdGraphPin*> Operands = GetOperands();
+	UEdGraphPin* const Added = CreateOperand(FunctionOperands + NumAdditionalInputs++);
+	if (Operands.Num() > 0)
+	{
+		Added->PinType = Operands.Last()->PinType;
+		GetK2Schema()->SetPinAutogeneratedDefaultValueBasedOnType(Added);
+	}
+}
+
+bool UK2Node_PromotableOperator::CanRemovePin(const UEdGraphPin* Pin) const
+{
+	return NumAdditionalInputs > 0 && GetOperands().Contains(const_cast<UEdGraphPin*>(Pin));
+}
+
+void UK2Node_PromotableOperator::RemoveInputPin(UEdGraphPin* Pin)
+{
+	if (!CanRemovePin(Pin))
+	{
+		return;
+	}
+	Modify();
+	RemovePin(Pin);
+	--NumAdditionalInputs;
+	RenamePins(GetOperands(), GetNameForAdditionalPin);
 }
 
 FText UK2Node_PromotableOperator::GetNodeTitle(ENodeTitleType::Type TitleType) const

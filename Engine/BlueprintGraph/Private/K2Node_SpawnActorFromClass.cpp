@@ -23,10 +23,7 @@ void UK2Node_SpawnActorFromClass::CreateOwnPins()
 	Scale->bAdvancedView = true;
 	UEdGraphPin* const Owner = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, AActor::StaticClass(), TEXT("Owner"));
 	Owner->bAdvancedView = true;
-	if (AdvancedPinDisplay == ENodeAdvancedPins::NoPins)
-	{
-		AdvancedPinDisplay = ENodeAdvancedPins::Hidden;
-	}
+	HideAdvancedPins();
 }
 
 FText UK2Node_SpawnActorFromClass::GetBaseNodeTitle() const

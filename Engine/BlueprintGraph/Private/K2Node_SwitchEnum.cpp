@@ -10,34 +10,25 @@ UK2Node_SwitchEnum::UK2Node_SwitchEnum(const FObjectInitializer& ObjectInitializ
 	bHasDefaultPin = false;
 }
 
-bool UK2Node_SwitchEnum::HasKnownDefinition() const
-{
-	// An enumeration that is only named somewhere, and not loaded, has no values.
-	return Enum && Enum->NumEnums() > 0;
-}
-
 void UK2Node_SwitchEnum::SetEnum(UEnum* InEnum)
 {
 	Enum = InEnum;
 	EnumEntries.Empty();
 	EnumFriendlyNames.Empty();
-	if (!Enum)
+	for (const int32 Entry : GetVisibleEnumEntries(Enum))
 	{
-		return;
-	}
-	const int32 Count = Enum->NumEnums() - (Enum->ContainsExistingMax() ? 1 : 0);
-	for (int32 Index = 0; Index < Count; ++Index)
-	{
-		if (!Enum->HasMetaData(TEXT("Hidden"), Index) && !Enum->HasMetaData(TEXT("Spacer"), Index))
-		{
-			EnumEntries.Add(FName(*Enum->GetNameStringByIndex(Index)));
-			EnumFriendlyNames.Add(Enum->GetDisplayNameTextByIndex(Index));
-		}
+		EnumEntries.Add(FName(*Enum->GetNameStringByIndex(Entry)));
+		EnumFriendlyNames.Add(Enum->GetDisplayNameTextByIndex(Entry));
 	}
 }
 
 void UK2Node_SwitchEnum::CreateSelectionPin()
 {
+	// Text and packages have the names of the values, not how a user reads them; a new node may have neither.
+	if (Enum && (EnumEntries.Num() == 0 || EnumFriendlyNames.Num() != EnumEntries.Num()))
+	{
+		SetEnum(Enum);
+	}
 	SetComparison(TEXT("/Script/Engine.KismetMathLibrary"), TEXT("NotEqual_ByteByte"));
 	UEdGraphPin* const Pin = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Byte, Enum.Get(), TEXT("Selection"));
 	Pin->DefaultValue = EnumEntries.Num() > 0 ? EnumEntries[0].ToString() : FString();
@@ -45,10 +36,6 @@ void UK2Node_SwitchEnum::CreateSelectionPin()
 
 void UK2Node_SwitchEnum::CreateCasePins()
 {
-	if (Enum && EnumFriendlyNames.Num() != EnumEntries.Num())
-	{
-		SetEnum(Enum);
-	}
 	for (int32 Index = 0; Index < EnumEntries.Num(); ++Index)
 	{
 		UEdGraphPin* const Pin = CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, EnumEntries[Index]);

@@ -6,6 +6,7 @@
 #include "GameFramework/Actor.h"
 #include "K2Node_MacroInstance.h"
 #include "K2Node_Tunnel.h"
+#include "StandardMacroGraphs.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
@@ -14,8 +15,10 @@
 
 namespace
 {
-const TCHAR* const LibraryPackage = TEXT("/Engine/EditorBlueprintResources/StandardMacros");
-const TCHAR* const LibraryName = TEXT("StandardMacros");
+const TCHAR* const LibraryFolder = TEXT("/Engine/EditorBlueprintResources");
+const TCHAR* const AnyLibrary = TEXT("StandardMacros");
+/** What only an actor can do. */
+const TCHAR* const ActorLibrary = TEXT("ActorMacros");
 
 enum class EMacroPinType : uint8
 {
@@ -45,6 +48,7 @@ struct FMacro
 	const TCHAR* Keywords;
 	TArray<FMacroPin> Inputs;
 	TArray<FMacroPin> Outputs;
+	const TCHAR* Library = AnyLibrary;
 };
 
 const TCHAR* const FlowControl = TEXT("Utilities|FlowControl");
@@ -80,9 +84,9 @@ const TArray<FMacro>& GetMacros()
 		{TEXT("IsValid"), TEXT("64422BCD430703FF5CAEA8B79A32AA65"), TEXT("Utilities"), TEXT("Goes on by whether the object exists and is not about to be destroyed"), TEXT("valid null none"),
 			{{TEXT("exec")}, {TEXT("InputObject"), EType::Object}}, {{TEXT("Is Valid")}, {TEXT("Is Not Valid")}}},
 		{TEXT("Switch Has Authority"), nullptr, TEXT("Networking"), TEXT("Goes on by whether this instance has authority over the actor"), TEXT("server client authority"),
-			{{TEXT("execute")}}, {{TEXT("Authority")}, {TEXT("Remote")}}},
+			{{TEXT("execute")}}, {{TEXT("Authority")}, {TEXT("Remote")}}, ActorLibrary},
 		{TEXT("Can Execute Cosmetic Events"), nullptr, TEXT("Networking"), TEXT("Goes on by whether there is anybody to see and hear"), TEXT("cosmetic dedicated server"),
-			{{TEXT("execute")}}, {{TEXT("True")}, {TEXT("False")}}},
+			{{TEXT("execute")}}, {{TEXT("True")}, {TEXT("False")}}, ActorLibrary},
 	};
 	return Macros;
 }
@@ -128,42 +132,64 @@ UEdGraph* CreateMacro(UBlueprint& Library, const FMacro& Macro)
 	Entry->MetaData.ToolTip = FText::FromString(Macro.ToolTip);
 	Entry->MetaData.Category = FText::FromString(Macro.Category);
 	Entry->MetaData.Keywords = FText::FromString(Macro.Keywords);
+	WireStandardMacro(*Graph);
 	return Graph;
 }
 
-UBlueprint* FindLibrary()
+FString MakeLibraryPackageName(const TCHAR* Name)
 {
-	return FindObject<UBlueprint>(nullptr, *FString::Printf(TEXT("%s.%s"), LibraryPackage, LibraryName));
+	return FString::Printf(TEXT("%s/%s"), LibraryFolder, Name);
+}
+
+UBlueprint* FindLibrary(const TCHAR* Name)
+{
+	return FindObject<UBlueprint>(nullptr, *FString::Printf(TEXT("%s.%s"), *MakeLibraryPackageName(Name), Name));
+}
+
+UBlueprint* CreateLibrary(const TCHAR* Name, UClass* ParentClass)
+{
+	UPackage* const Package = CreatePackage(*MakeLibraryPackageName(Name));
+	UBlueprint* const Library = NewObject<UBlueprint>(Package, Name, RF_Public | RF_Standalone);
+	Library->AddToRoot();
+	Library->BlueprintType = BPTYPE_MacroLibrary;
+	Library->ParentClass = ParentClass;
+	Library->Status = BS_UpToDate;
+	for (const FMacro& Macro : GetMacros())
+	{
+		if (FCString::Strcmp(Macro.Library, Name) == 0)
+		{
+			CreateMacro(*Library, Macro);
+		}
+	}
+	Package->SetDirtyFlag(false);
+	return Library;
 }
 }
 
 UBlueprint* FStandardMacros::Create()
 {
-	if (UBlueprint* const Existing = FindLibrary())
+	if (UBlueprint* const Existing = FindLibrary(AnyLibrary))
 	{
 		return Existing;
 	}
-	UPackage* const Package = CreatePackage(LibraryPackage);
-	UBlueprint* const Library = NewObject<UBlueprint>(Package, LibraryName, RF_Public | RF_Standalone);
-	Library->AddToRoot();
-	Library->BlueprintType = BPTYPE_MacroLibrary;
-	Library->ParentClass = AActor::StaticClass();
-	Library->Status = BS_UpToDate;
-	for (const FMacro& Macro : GetMacros())
-	{
-		CreateMacro(*Library, Macro);
-	}
-	Package->SetDirtyFlag(false);
-	return Library;
+	CreateLibrary(ActorLibrary, AActor::StaticClass());
+	return CreateLibrary(AnyLibrary, UObject::StaticClass());
 }
 
 UEdGraph* FStandardMacros::Find(FName MacroName)
 {
-	const UBlueprint* const Library = FindLibrary();
-	const TObjectPtr<UEdGraph>* const Graph = Library ? Library->MacroGraphs.FindByPredicate([MacroName](const TObjectPtr<UEdGraph>& Item)
-															{ return Item && Item->GetFName() == MacroName; })
-													  : nullptr;
-	return Graph ? Graph->Get() : nullptr;
+	for (const TCHAR* const Name : {AnyLibrary, ActorLibrary})
+	{
+		const UBlueprint* const Library = FindLibrary(Name);
+		const TObjectPtr<UEdGraph>* const Graph = Library ? Library->MacroGraphs.FindByPredicate([MacroName](const TObjectPtr<UEdGraph>& Item)
+																{ return Item && Item->GetFName() == MacroName; })
+														  : nullptr;
+		if (Graph)
+		{
+			return Graph->Get();
+		}
+	}
+	return nullptr;
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -110,9 +110,9 @@ public:
 	virtual FString GetDocumentationLink() const override { return FString(); }
 
 	/** Makes the pins anew; OldPins are those of before, still with their links. */
-	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) { AllocateDefaultPins(); }
+	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins);
 	virtual void PostReconstructNode() {}
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) {}
+	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin);
 	/** Former names under which a pin's links are still found. */
 	virtual void GetRedirectPinNames(const UEdGraphPin& Pin, TArray<FString>& RedirectPinNames) const {}
 	virtual ERedirectType DoPinsMatchForReconstruction(const UEdGraphPin* NewPin, int32 NewPinIndex, const UEdGraphPin* OldPin, int32 OldPinIndex) const;
@@ -131,12 +131,9 @@ public:
 	virtual bool DrawNodeAsEntry() const { return false; }
 	virtual bool DrawNodeAsExit() const { return false; }
 	virtual bool DrawNodeAsVariable() const { return false; }
-	virtual bool ShouldDrawAsBead() const { return false; }
 	virtual bool ShouldShowNodeProperties() const { return false; }
 	virtual bool ReferencesVariable(const FName& InVarName, const UStruct* InScope) const { return false; }
-	virtual void ClearCachedBlueprintData(UBlueprint* Blueprint) {}
-	virtual FText GetToolTipHeading() const { return FText(); }
-	/** The member that the node is about; empty when there is none. */
+	/** Name of the small image in the node's corner; none when it has none. */
 	virtual FName GetCornerIcon() const { return FName(); }
 
 	/** The Blueprint that holds the node. */
@@ -160,6 +157,26 @@ protected:
 	/** The "Target" pin of a member of Class: "self" when the class is the Blueprint's own. */
 	UEdGraphPin* CreateTargetPin(UClass* Class);
 
+	/** True for a parameter that a caller gives; false for one that it gets back. */
+	static bool IsFunctionInput(const FProperty& Parameter);
+	/** Calls back for each parameter of a type that Blueprints have. False when some were of no such type. */
+	static bool ForEachParameter(const UFunction* Function, TFunctionRef<void(FProperty&, const FEdGraphPinType&)> Visit);
+	/** An enumeration that is only named somewhere, and not loaded, has no values. */
+	static bool IsKnownEnum(const UEnum* Enum);
+	/** False for a class that is only named somewhere: its properties are not known. */
+	static bool IsKnownClassOrNone(const UClass* Class);
+	/** Indices of the values that a user may choose: not the one that counts them, none that is hidden or a spacer. */
+	static TArray<int32> GetVisibleEnumEntries(const UEnum* Enum);
+	/** A pin of one of the enumeration's values, named as the enumeration names it. */
+	UEdGraphPin* CreatePinOfEnumEntry(EEdGraphPinDirection PinDirection, const UEnum* Enum, int32 EntryIndex);
+	/** Has a node with advanced pins hide them until the user asks for them. */
+	void HideAdvancedPins();
+
+	/** Wildcard pins that take one type together, that of the first link among them; none on a node whose pins keep their types. */
+	virtual TArray<UEdGraphPin*> GetPinsOfOneType() const { return TArray<UEdGraphPin*>(); }
+	/** Whether the pins of one type take the container of what is linked too. */
+	virtual bool TakesLinkedContainer() const { return false; }
+
 	/** The pin of before a reconstruction that has the name and the side; null when there was none. */
 	static UEdGraphPin* FindOldPin(const TArray<UEdGraphPin*>& OldPins, FName Name, EEdGraphPinDirection Direction);
 	/** Gives wildcard pins the types, and the defaults of those types, that they had before a reconstruction. A declared container stays. */
@@ -168,6 +185,12 @@ protected:
 	static void SetValueType(UEdGraphPin& Pin, const FEdGraphPinType& Type);
 	/** Gives pins that share one type the type of the first link among them, or makes them wildcards when none is linked. */
 	void FollowLinkedType(const TArray<UEdGraphPin*>& SharedPins, bool bFollowContainer = false);
+	/** As FollowLinkedType, for a map, its keys and its values; pins that are null are passed over. */
+	void FollowLinkedMapType(UEdGraphPin* MapPin, const TArray<UEdGraphPin*>& Keys, const TArray<UEdGraphPin*>& Values);
+	/** Names the pins anew by their places, and their sub-pins with them. */
+	static void RenamePins(const TArray<UEdGraphPin*>& InPins, TFunctionRef<FName(int32)> GetName);
+	/** True while one of the pins has a link or a value that a user gave it. */
+	static bool AreAnyInUse(const TArray<UEdGraphPin*>& InPins);
 	/** The class that the pin's link is of, or that its default names; null when neither is known or there is no pin. */
 	static UClass* GetClassOfPin(const UEdGraphPin* Pin);
 

@@ -23,8 +23,8 @@ public:
 	UPROPERTY()
 	TObjectPtr<AActor> EventOwner = nullptr;
 
-	FMulticastDelegateProperty* GetTargetDelegateProperty() const;
-	FText GetTargetDelegateDisplayName() const;
+	FMulticastDelegateProperty* GetTargetDelegateProperty() const { return FindDispatcher(DelegateOwnerClass, DelegatePropertyName); }
+	FText GetTargetDelegateDisplayName() const { return GetDispatcherName(DelegateOwnerClass, DelegatePropertyName); }
 	virtual UFunction* FindEventSignatureFunction() const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 };

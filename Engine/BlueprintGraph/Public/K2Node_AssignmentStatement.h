@@ -14,8 +14,10 @@ public:
 	UEdGraphPin* GetVariablePin() const { return FindPin(TEXT("Variable")); }
 	UEdGraphPin* GetValuePin() const { return FindPin(TEXT("Value")); }
 	virtual void AllocateDefaultPins() override;
-	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
+
+protected:
+	virtual TArray<UEdGraphPin*> GetPinsOfOneType() const override;
+	virtual bool TakesLinkedContainer() const override { return true; }
 };

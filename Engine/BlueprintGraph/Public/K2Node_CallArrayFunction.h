@@ -14,8 +14,7 @@ public:
 	/** The array pin that metadata of the function names. */
 	UEdGraphPin* GetTargetArrayPin() const;
 	virtual bool ShouldDrawCompact() const override { return false; }
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 
-private:
-	void GetDependentPins(TArray<UEdGraphPin*>& OutPins) const;
+protected:
+	virtual TArray<UEdGraphPin*> GetPinsOfOneType() const override;
 };

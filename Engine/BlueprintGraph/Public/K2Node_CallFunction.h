@@ -74,6 +74,8 @@ protected:
 	/** Makes the target pin and one pin a parameter. False when Blueprints have no type for one of them. */
 	virtual bool CreatePinsForFunctionCall(const UFunction* Function);
 	virtual bool AllowsExecPins() const { return !bIsPureFunc; }
+	/** Retypes the pins of any type that the changed one shares its type with. */
+	void ConformWildcards(const UEdGraphPin* ChangedPin);
 	/** The class that the output is of follows the class that an input names. */
 	void ConformDynamicOutput();
 };

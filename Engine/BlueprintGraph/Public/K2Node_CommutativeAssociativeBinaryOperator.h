@@ -1,12 +1,13 @@
 #pragma once
 
+#include "K2Node_AddPinInterface.h"
 #include "K2Node_CallFunction.h"
 
 #include "K2Node_CommutativeAssociativeBinaryOperator.generated.h"
 
 /** A call of an operator that takes any number of operands. */
 UCLASS()
-class BLUEPRINTGRAPH_API UK2Node_CommutativeAssociativeBinaryOperator : public UK2Node_CallFunction
+class BLUEPRINTGRAPH_API UK2Node_CommutativeAssociativeBinaryOperator : public UK2Node_CallFunction, public IK2Node_AddPinInterface
 {
 	GENERATED_BODY()
 
@@ -14,11 +15,15 @@ public:
 	UPROPERTY()
 	int32 NumAdditionalInputs = 0;
 
-	bool CanAddPin() const;
-	bool CanRemovePin(const UEdGraphPin* Pin) const;
-	void AddInputPin();
-	void RemoveInputPin(UEdGraphPin* Pin);
+	UK2Node_CommutativeAssociativeBinaryOperator(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+
 	virtual void AllocateDefaultPins() override;
+
+	// IK2Node_AddPinInterface
+	virtual void AddInputPin() override;
+	virtual bool CanAddPin() const override;
+	virtual void RemoveInputPin(UEdGraphPin* Pin) override;
+	virtual bool CanRemovePin(const UEdGraphPin* Pin) const override;
 
 private:
 	UEdGraphPin* AddOperand(int32 Index);

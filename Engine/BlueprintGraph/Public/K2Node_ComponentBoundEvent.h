@@ -24,8 +24,8 @@ public:
 	FName ComponentPropertyName;
 
 	void InitializeComponentBoundEventParams(const FObjectProperty* InComponentProperty, const FMulticastDelegateProperty* InDelegateProperty);
-	FMulticastDelegateProperty* GetTargetDelegateProperty() const;
-	FText GetTargetDelegateDisplayName() const;
+	FMulticastDelegateProperty* GetTargetDelegateProperty() const { return FindDispatcher(DelegateOwnerClass, DelegatePropertyName); }
+	FText GetTargetDelegateDisplayName() const { return GetDispatcherName(DelegateOwnerClass, DelegatePropertyName); }
 	FName GetComponentPropertyName() const { return ComponentPropertyName; }
 	virtual UFunction* FindEventSignatureFunction() const override;
 	virtual bool CanDuplicateNode() const override { return false; }

@@ -17,6 +17,7 @@ public:
 	UEdGraphPin* GetOuterPin() const { return FindPin(TEXT("Outer"), EGPD_Input); }
 	/** The class that the pin names or that the linked class is below of; null when neither is known. */
 	UClass* GetClassToSpawn() const;
+	virtual bool HasKnownDefinition() const override { return IsKnownClassOrNone(GetClassToSpawn()); }
 	virtual void AllocateDefaultPins() override;
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
 	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
@@ -28,12 +29,14 @@ public:
 protected:
 	virtual UClass* GetClassPinBaseClass() const { return UObject::StaticClass(); }
 	virtual bool UseOuter() const { return false; }
+	/** True where "self" has no world of its own to make the object in. */
+	virtual bool UseWorldContext() const;
 	/** Pins beside the class and the result. */
 	virtual void CreateOwnPins() {}
 	virtual FText GetBaseNodeTitle() const;
 	virtual FText GetNodeTitleFormat() const;
 	virtual FText GetNothingSelectedTitle() const;
 	/** One input for each property of the class that is set when an object is spawned. */
-	void CreatePinsForClass(const UClass* InClass);
+	virtual void CreatePinsForClass(const UClass* InClass);
 	void UpdateClassPins();
 };

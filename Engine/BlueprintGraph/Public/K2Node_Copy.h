@@ -15,8 +15,10 @@ public:
 	UEdGraphPin* GetCopyResultPin() const { return Pins[1]; }
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
-	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
+
+protected:
+	virtual TArray<UEdGraphPin*> GetPinsOfOneType() const override;
+	virtual bool TakesLinkedContainer() const override { return true; }
 };

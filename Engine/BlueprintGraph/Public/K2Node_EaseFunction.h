@@ -16,8 +16,16 @@ public:
 
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
-	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
+	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
+	virtual void PinDefaultValueChanged(UEdGraphPin* Pin) override;
+	virtual void PostReconstructNode() override;
+
+protected:
+	virtual TArray<UEdGraphPin*> GetPinsOfOneType() const override;
+
+private:
+	/** Shows the settings that the chosen function has. */
+	void RefreshPinVisibility();
 };

@@ -18,7 +18,7 @@ public:
 	static const FName& GetEnumInputPinName();
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
-	virtual bool HasKnownDefinition() const override;
+	virtual bool HasKnownDefinition() const override { return IsKnownEnum(Enum); }
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
 };

@@ -5,6 +5,8 @@
 
 #include "K2Node_Event.generated.h"
 
+class FMulticastDelegateProperty;
+
 /** Where execution starts when an event happens. */
 UCLASS()
 class BLUEPRINTGRAPH_API UK2Node_Event : public UK2Node_EditablePinBase
@@ -38,7 +40,6 @@ public:
 	virtual UFunction* FindEventSignatureFunction() const;
 	/** Name of the function that the compiler makes of the event. */
 	virtual FName GetFunctionName() const;
-	virtual bool IsFunctionEntryCompatible(const class UK2Node_FunctionEntry* EntryNode) const { return false; }
 	bool IsInterfaceEventNode() const;
 	static FText GetLocalizedNetString(uint32 FunctionFlags, bool Calling);
 	virtual bool DrawNodeAsEntry() const override { return true; }
@@ -55,6 +56,12 @@ public:
 	virtual FText GetMenuCategory() const override;
 
 protected:
+	/** The dispatcher of the class; null while either is not known. */
+	static FMulticastDelegateProperty* FindDispatcher(const UClass* OwnerClass, FName PropertyName);
+	/** The dispatcher's name as a user reads it. */
+	static FText GetDispatcherName(const UClass* OwnerClass, FName PropertyName);
+	/** A value that the event gives even while its signature is not known. */
+	void CreateValuePin(FName PinName, FName Category, FName SubCategory, UObject* SubCategoryObject = nullptr);
 	/** Tells the "OutputDelegate" pin which function it stands for. */
 	void UpdateDelegatePin();
 };

@@ -19,7 +19,7 @@ public:
 	TObjectPtr<UEnum> Enum = nullptr;
 
 	virtual void AllocateDefaultPins() override;
-	virtual bool HasKnownDefinition() const override;
+	virtual bool HasKnownDefinition() const override { return IsKnownEnum(Enum); }
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
 };

@@ -18,7 +18,6 @@ public:
 	UEdGraphPin* FindArgumentPin(const FName InPinName) const { return FindPin(InPinName, EGPD_Input); }
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
-	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
 	virtual void PinDefaultValueChanged(UEdGraphPin* Pin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;

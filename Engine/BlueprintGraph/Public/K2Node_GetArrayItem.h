@@ -23,7 +23,9 @@ public:
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
+
+protected:
+	virtual TArray<UEdGraphPin*> GetPinsOfOneType() const override;
 };

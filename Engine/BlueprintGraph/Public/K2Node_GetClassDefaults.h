@@ -16,6 +16,7 @@ public:
 
 	UEdGraphPin* FindClassPin() const { return FindPin(TEXT("Class"), EGPD_Input); }
 	UClass* GetInputClass() const;
+	virtual bool HasKnownDefinition() const override { return IsKnownClassOrNone(GetInputClass()); }
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;

@@ -13,8 +13,6 @@ class BLUEPRINTGRAPH_API UK2Node_GetEnumeratorName : public UK2Node
 public:
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
-	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 
 protected:
 	virtual FName GetResultCategory() const { return UEdGraphSchema_K2::PC_Name; }
@@ -22,4 +20,7 @@ protected:
 public:
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
+
+protected:
+	virtual TArray<UEdGraphPin*> GetPinsOfOneType() const override;
 };

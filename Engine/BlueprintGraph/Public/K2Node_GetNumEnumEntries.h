@@ -14,7 +14,7 @@ public:
 	UPROPERTY()
 	TObjectPtr<UEnum> Enum = nullptr;
 
-	virtual bool HasKnownDefinition() const override { return Enum != nullptr; }
+	virtual bool HasKnownDefinition() const override { return IsKnownEnum(Enum); }
 	virtual void AllocateDefaultPins() override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;

@@ -19,7 +19,6 @@ public:
 	virtual bool IsNodePure() const override { return Pins.Num() > 1 && !UEdGraphSchema_K2::IsExecPin(*Pins[0]); }
 	virtual UEdGraphPin* GetPassThroughPin(const UEdGraphPin* FromPin) const override;
 	virtual void AllocateDefaultPins() override;
-	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
 	virtual void PostReconstructNode() override;
 	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;

@@ -45,4 +45,6 @@ private:
 	FGraphReference MacroGraphReference;
 
 	void ApplyWildcardType();
+	/** The pins that the macro leaves open. */
+	TArray<UEdGraphPin*> GetWildcardPins() const;
 };

@@ -16,7 +16,8 @@ public:
 
 protected:
 	virtual FName GetOutputPinName() const override { return FName(TEXT("Map")); }
-	virtual FName GetPinName(int32 PinIndex) const override { return FName(*FString::Printf(TEXT("Key %d"), PinIndex)); }
-	virtual void CreateElementPins(int32 PinIndex, const FEdGraphPinType& Type) override;
-	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
+	virtual FName GetPinName(int32 PinIndex) const override;
+	virtual int32 GetPinsPerElement() const override { return 2; }
+	virtual FEdGraphPinType GetInputType(int32 PinIndex) const override;
+	virtual void FollowLinks() override;
 };

@@ -26,7 +26,7 @@ public:
 	void SetEnum(UEnum* InEnum);
 	virtual void ReloadEnum(UEnum* InEnum) { SetEnum(InEnum); }
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
-	virtual bool HasKnownDefinition() const override;
+	virtual bool HasKnownDefinition() const override { return IsKnownEnum(Enum); }
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 
 protected:

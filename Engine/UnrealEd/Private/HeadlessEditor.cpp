@@ -10,6 +10,7 @@
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
+#include "OptionalModules.h"
 #include "ProjectDescriptor.h"
 #include "StandardMacros.h"
 #include "UObject/ScriptHeaderLoader.h"
@@ -103,6 +104,7 @@ FString FHeadlessEditor::Start(const FHeadlessEditorOptions& Options)
 	}
 	FPackageName::RegisterMountPoint(TEXT("/Engine/"), FPaths::EngineContentDir());
 	FPackageName::RegisterMountPoint(TEXT("/Game/"), FPaths::ProjectContentDir());
+	LoadOptionalModules();
 	// Before native classes get their default objects: after that a class takes no more properties.
 	LoadScriptApi();
 	ProcessNewlyLoadedUObjects();

@@ -1,6 +1,7 @@
 #include "Emitter/Module.h"
 
 #include <iostream>
+#include <set>
 #include <sstream>
 
 namespace
@@ -93,6 +94,27 @@ bool WriteDepFile(const FArguments& Arguments, const std::vector<std::string>& I
 	return HeaderTool::WriteFileIfChanged(Arguments.DepFile, Text + "\n");
 }
 
+/** A header that moved to another module must not be found by its old generated header. */
+void RemoveOutputsOfFormerHeaders(const FArguments& Arguments)
+{
+	std::set<std::string> Stems;
+	for (const std::filesystem::path& Header : Arguments.Module.Headers)
+	{
+		Stems.insert(Header.stem().string());
+	}
+	std::error_code Ignored;
+	for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(Arguments.Module.Output, Ignored))
+	{
+		const std::filesystem::path Name = Entry.path().filename();
+		const std::string Ending = Name.stem().extension().string() + Name.extension().string();
+		const bool bIsOutput = Ending == ".generated.h" || Ending == ".gen.cpp";
+		if (bIsOutput && !Stems.contains(Name.stem().stem().string()))
+		{
+			std::filesystem::remove(Entry.path(), Ignored);
+		}
+	}
+}
+
 int Run(FArguments Arguments)
 {
 	const bool bIncludes = !Arguments.IncludeList.empty();
@@ -110,6 +132,10 @@ int Run(FArguments Arguments)
 	for (const std::string& Line : Module.Errors())
 	{
 		std::cerr << Line << "\n";
+	}
+	if (bDone)
+	{
+		RemoveOutputsOfFormerHeaders(Arguments);
 	}
 	if (bDone && !Arguments.DepFile.empty() && !WriteDepFile(Arguments, Module.Inputs()))
 	{

@@ -82,6 +82,9 @@ bool UEdGraphSchema::CategorizePinsByDirection(UEdGraphPin* A, UEdGraphPin* B, U
 bool UEdGraphSchema::TryCreateConnection(UEdGraphPin* A, UEdGraphPin* B) const
 {
 	const FPinConnectionResponse Response = CanCreateConnection(A, B);
+	// A node may make its pins anew when it is linked.
+	UEdGraphNode* const NodeOfA = A ? A->GetOwningNodeUnchecked() : nullptr;
+	UEdGraphNode* const NodeOfB = B ? B->GetOwningNodeUnchecked() : nullptr;
 	bool bModified = false;
 	switch (Response.Response)
 	{
@@ -122,8 +125,8 @@ bool UEdGraphSchema::TryCreateConnection(UEdGraphPin* A, UEdGraphPin* B) const
 	}
 	if (bModified)
 	{
-		A->GetOwningNode()->NodeConnectionListChanged();
-		B->GetOwningNode()->NodeConnectionListChanged();
+		NodeOfA->NodeConnectionListChanged();
+		NodeOfB->NodeConnectionListChanged();
 	}
 	return bModified;
 }

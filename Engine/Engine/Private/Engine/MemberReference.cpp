@@ -45,7 +45,8 @@ bool FMemberReference::IsSelfMember(const UClass* OwnerClass, const UClass* Self
 		return false;
 	}
 	const UBlueprint* const Blueprint = UBlueprint::GetBlueprintFromClass(OwnerClass);
-	return SelfScope->IsChildOf(OwnerClass) || SelfScope->ClassGeneratedBy == OwnerClass->ClassGeneratedBy || (Blueprint && Blueprint->GeneratedClass && SelfScope->IsChildOf(Blueprint->GeneratedClass.Get()));
+	const bool bSameMaker = OwnerClass->ClassGeneratedBy && SelfScope->ClassGeneratedBy == OwnerClass->ClassGeneratedBy;
+	return SelfScope->IsChildOf(OwnerClass) || bSameMaker || (Blueprint && Blueprint->GeneratedClass && SelfScope->IsChildOf(Blueprint->GeneratedClass.Get()));
 }
 
 void FMemberReference::SetFromOwner(const UClass* OwnerClass, bool bIsConsideredSelfContext, UPackage* SignaturePackage)

@@ -1,5 +1,6 @@
 #include "K2Node_InputDebugKey.h"
 
+#include "InputNodePins.h"
 #include "UObject/Class.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
@@ -16,20 +17,13 @@ UK2Node_InputDebugKey::UK2Node_InputDebugKey(const FObjectInitializer& ObjectIni
 
 void UK2Node_InputDebugKey::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Pressed"));
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Released"));
-	CreatePinWithDefault(EGPD_Output, UEdGraphSchema_K2::PC_Struct, TEXT("Key"), NAME_None, FKey::StaticStruct());
+	FInputNodePins::CreateKeyPins(*this);
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/EnhancedInput.InputActionValue")), TEXT("ActionValue"));
 }
 
 FText UK2Node_InputDebugKey::GetKeyText() const
 {
-	FString Text;
-	Text += bControl ? TEXT("Ctrl+") : TEXT("");
-	Text += bAlt ? TEXT("Alt+") : TEXT("");
-	Text += bShift ? TEXT("Shift+") : TEXT("");
-	Text += bCommand ? TEXT("Cmd+") : TEXT("");
-	return FText::FromString(Text + InputKey.GetDisplayName().ToString());
+	return FInputNodePins::GetKeyText(InputKey, bControl, bAlt, bShift, bCommand);
 }
 
 FText UK2Node_InputDebugKey::GetNodeTitle(ENodeTitleType::Type TitleType) const

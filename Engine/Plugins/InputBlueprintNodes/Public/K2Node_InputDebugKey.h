@@ -1,4 +1,3 @@
-// Package: /Script/InputBlueprintNodes
 #pragma once
 
 #include "InputCoreTypes.h"
@@ -8,7 +7,7 @@
 
 /** Events of a key, for debugging alone: they are not in a shipped game. */
 UCLASS()
-class BLUEPRINTGRAPH_API UK2Node_InputDebugKey : public UK2Node
+class INPUTBLUEPRINTNODES_API UK2Node_InputDebugKey : public UK2Node
 {
 	GENERATED_BODY()
 

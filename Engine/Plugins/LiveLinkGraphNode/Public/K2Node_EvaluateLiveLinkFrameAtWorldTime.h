@@ -1,0 +1,19 @@
+#pragma once
+
+#include "K2Node_EvaluateLiveLinkFrame.h"
+
+#include "K2Node_EvaluateLiveLinkFrameAtWorldTime.generated.h"
+
+/** Evaluates the frame that a subject had at a time of the world. */
+UCLASS()
+class LIVELINKGRAPHNODE_API UK2Node_EvaluateLiveLinkFrameAtWorldTime : public UK2Node_EvaluateLiveLinkFrame
+{
+	GENERATED_BODY()
+
+public:
+	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetTooltipText() const override;
+
+protected:
+	virtual void CreateTimePins() override;
+};
