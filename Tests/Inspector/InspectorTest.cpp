@@ -136,7 +136,7 @@ TEST_F(FInspectorTest, ValuesAreReadFromTheirTagsInOldAndNewForm)
 		}
 		ASSERT_TRUE(Blueprint);
 		const TSharedPtr<FJsonObject> Parent = FindObject(Blueprint, TEXT("properties"), TEXT("name"), TEXT("ParentClass"));
-		EXPECT_EQ(Parent->GetStringField(TEXT("value")), TEXT("/Script/Engine.Actor"));
+		EXPECT_EQ(Parent->GetStringField(TEXT("value")), FString(TEXT("/Script/CoreUObject.Object")));
 		const TSharedPtr<FJsonObject> Guid = FindObject(Blueprint, TEXT("properties"), TEXT("name"), TEXT("BlueprintGuid"));
 		EXPECT_EQ(Guid->GetStringField(TEXT("value")).Len(), 32);
 	}
