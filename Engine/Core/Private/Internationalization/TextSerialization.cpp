@@ -24,7 +24,10 @@ void SerializeUnidentified(FArchive& Ar, FTextData& Data)
 {
 	Ar.UsingCustomVersion(FEditorObjectVersion::GUID);
 	const int32 Version = Ar.CustomVer(FEditorObjectVersion::GUID);
-	const bool bHasString = Ar.IsSaving() || Version < 0 || Version >= FEditorObjectVersion::CultureInvariantTextSerializationKeyStability;
+	// Packages are also written in the form of their own engine; other archives are of today.
+	const bool bIsOfToday = Ar.IsSaving() && !Ar.IsPersistent();
+	const bool bIsOld = Ar.IsPersistent() && Version < 0;
+	const bool bHasString = bIsOfToday || (Version < 0 && !bIsOld) || Version >= FEditorObjectVersion::CultureInvariantTextSerializationKeyStability;
 	if (!bHasString)
 	{
 		return;

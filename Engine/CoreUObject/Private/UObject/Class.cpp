@@ -326,7 +326,12 @@ UField* UClass::TryFindTypeByName(UClass* TypeClass, const FString& InPathNameOr
 
 FArchive& operator<<(FArchive& Ar, FImplementedInterface& A)
 {
-	Ar << A.Class;
+	UObject* Class = A.Class;
+	Ar << Class;
+	if (Ar.IsLoading() || Class != A.Class)
+	{
+		A.Class = Class && Class->IsA<UClass>() ? static_cast<UClass*>(Class) : nullptr;
+	}
 	Ar << A.PointerOffset;
 	Ar << A.bImplementedByK2;
 	return Ar;

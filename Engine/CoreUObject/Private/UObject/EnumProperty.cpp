@@ -29,7 +29,9 @@ void FEnumProperty::AddCppProperty(FProperty* Property)
 void FEnumProperty::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
-	Ar << Enum;
+	UObject* Type = Enum;
+	Ar << Type;
+	Enum = Type && Type->IsA(UEnum::StaticClass()) ? static_cast<UEnum*>(Type) : nullptr;
 	FField* Field = UnderlyingProp;
 	SerializeSingleField(Ar, Field, this);
 	if (!Ar.IsLoading())

@@ -1,5 +1,7 @@
 #include "UObject/LinkerLoad.h"
 
+#include "ObjectFingerprint.h"
+#include "PackageBytes.h"
 #include "UObject/Class.h"
 #include "UObject/LazyObjectPtr.h"
 #include "UObject/ObjectPtr.h"
@@ -61,7 +63,12 @@ void FLinkerLoad::Serialize(void* Data, int64 Length)
 		FMemory::Memzero(Data, FMath::Max<int64>(Length, 0));
 		return;
 	}
-	FMemory::Memcpy(Data, Bytes.GetData() + Position, Length);
+	if (!File->Read(Position, Data, Length))
+	{
+		SetError();
+		FMemory::Memzero(Data, Length);
+		return;
+	}
 	Position += Length;
 }
 
@@ -161,28 +168,61 @@ FArchive& FLinkerLoad::operator<<(FWeakObjectPtr& Value)
 	return *this;
 }
 
-TArrayView<const uint8> FLinkerLoad::GetExportBytes(int32 ExportIndex) const
+TArray<uint8> FLinkerLoad::ReadBytes(int64 Offset, int64 Length) const
 {
-	const FObjectExport& Export = ExportMap[ExportIndex];
-	return TArrayView<const uint8>(Bytes.GetData() + Export.SerialOffset, static_cast<int32>(Export.SerialSize));
+	TArray<uint8> Result;
+	if (Offset < 0 || Length < 0 || Length > MAX_int32 || Offset > File->Num() || Length > File->Num() - Offset)
+	{
+		return Result;
+	}
+	Result.SetNumUninitialized(static_cast<int32>(Length));
+	if (!File->Read(Offset, Result.GetData(), Length))
+	{
+		Result.Reset();
+	}
+	return Result;
+}
+
+int64 FLinkerLoad::LimitReads(int64 End)
+{
+	const int64 Old = Limit;
+	Limit = FMath::Clamp<int64>(End, 0, File->Num());
+	return Old;
+}
+
+TArray<uint8> FLinkerLoad::GetExportBytes(int32 ExportIndex) const
+{
+	return ReadBytes(ExportMap[ExportIndex].SerialOffset, ExportMap[ExportIndex].SerialSize);
 }
 
 int32 FLinkerLoad::FindExportIndex(const FString& PathName) const
 {
-	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
+	if (ExportsByPath.IsEmpty())
 	{
-		if (GetExportPathName(Index) == PathName)
+		for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
 		{
-			return Index;
+			ExportsByPath.FindOrAdd(GetExportPathName(Index), Index);
 		}
 	}
-	return INDEX_NONE;
+	const int32* const Found = ExportsByPath.Find(PathName);
+	return Found ? *Found : INDEX_NONE;
 }
 
 int32 FLinkerLoad::FindExportOf(const UObject* Object) const
 {
-	return ExportMap.IndexOfByPredicate([Object](const FObjectExport& Export)
-		{ return Export.Object.Get() == Object; });
+	const int32* const Found = ExportsByObject.Find(Object);
+	// Another object may stand where one was that is gone.
+	return Found && ExportMap[*Found].Object.Get() == Object ? *Found : INDEX_NONE;
+}
+
+UObject* FLinkerLoad::FindOuterOf(int32 ExportIndex) const
+{
+	const FPackageIndex Outer = ExportMap[ExportIndex].OuterIndex;
+	if (Outer.IsNull())
+	{
+		return LinkerRoot;
+	}
+	return Outer.IsExport() ? ExportMap[Outer.ToExport()].Object.Get() : ImportMap[Outer.ToImport()].XObject.Get();
 }
 
 UObject* FLinkerLoad::IndexToObject(FPackageIndex Index)
@@ -263,7 +303,9 @@ UObject* FLinkerLoad::CreateExport(int32 ExportIndex)
 	// Making the class or the outer may have made this one.
 	if (!ExportMap[ExportIndex].Object.Get() && Class && Outer)
 	{
-		ExportMap[ExportIndex].Object = MakeExportObject(ExportIndex, Class, Outer);
+		UObject* const Made = MakeExportObject(ExportIndex, Class, Outer);
+		ExportMap[ExportIndex].Object = Made;
+		ExportsByObject.Add(Made, ExportIndex);
 	}
 	ExportsInCreation.Remove(ExportIndex);
 	if (!ExportMap[ExportIndex].Object.Get())
@@ -307,6 +349,17 @@ UObject* FLinkerLoad::FindImportInPackage(int32 ImportIndex, const FString& Path
 	return ExportIndex == INDEX_NONE ? nullptr : Other->CreateExport(ExportIndex);
 }
 
+void FLinkerLoad::WarnOfMissingImport(int32 ImportIndex, const FString& Path)
+{
+	// What comes with the engine or with a module is missing here as a rule; what belongs to the project should be there.
+	const bool bIsEngines = Path.StartsWith(TEXT("/Script/")) || Path.StartsWith(TEXT("/Engine/"));
+	const bool bIsPackage = ImportMap[ImportIndex].OuterIndex.IsNull();
+	if (!bIsEngines && !bIsPackage)
+	{
+		UE_LOG(LogClass, Warning, TEXT("%s refers to %s %s, which cannot be found. The reference is kept."), *Filename, *ImportMap[ImportIndex].ClassName.ToString(), *Path);
+	}
+}
+
 UObject* FLinkerLoad::CreateImport(int32 ImportIndex)
 {
 	if (!ImportMap.IsValidIndex(ImportIndex) || ImportMap[ImportIndex].XObject.Get() || ImportsInCreation.Contains(ImportIndex))
@@ -318,6 +371,7 @@ UObject* FLinkerLoad::CreateImport(int32 ImportIndex)
 	UObject* Object = FindImportInPackage(ImportIndex, Path);
 	if (!Object)
 	{
+		WarnOfMissingImport(ImportIndex, Path);
 		Object = UE::CoreUObject::FindOrCreatePlaceholder(GetImportClassPath(ImportIndex), Path);
 	}
 	ImportMap[ImportIndex].XObject = Object;
@@ -373,7 +427,7 @@ void FLinkerLoad::ReadExport(int32 ExportIndex)
 	}
 	else if (Position < End)
 	{
-		UnreadTails.Add(FWeakObjectPtr(Object), TArray<uint8>(Bytes.GetData() + Position, static_cast<int32>(End - Position)));
+		UnreadTails.Add(FWeakObjectPtr(Object), ReadBytes(Position, End - Position));
 		MarkKeptBytes();
 	}
 }
@@ -404,4 +458,29 @@ void FLinkerLoad::LoadAllObjects()
 			Object->ConditionalPostLoad();
 		}
 	}
+}
+
+void FLinkerLoad::TakeFingerprints()
+{
+	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
+	{
+		UObject* const Object = ExportMap[Index].Object.Get();
+		if (Object && ReadExports.Contains(Index))
+		{
+			Fingerprints.Add(Index, ComputeFingerprint(Object, *this));
+		}
+	}
+	MetaDataFingerprint = ComputeMetaDataFingerprint(LinkerRoot);
+}
+
+bool FLinkerLoad::IsUnchanged(int32 ExportIndex) const
+{
+	UObject* const Object = ExportMap[ExportIndex].Object.Get();
+	const uint64* const Fingerprint = Fingerprints.Find(ExportIndex);
+	return Object && Fingerprint && *Fingerprint == ComputeFingerprint(Object, *this);
+}
+
+bool FLinkerLoad::IsMetaDataUnchanged() const
+{
+	return !Fingerprints.IsEmpty() && MetaDataFingerprint == ComputeMetaDataFingerprint(LinkerRoot);
 }

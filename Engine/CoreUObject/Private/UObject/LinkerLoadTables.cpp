@@ -1,12 +1,15 @@
 #include "UObject/LinkerLoad.h"
 
-#include "Misc/FileHelper.h"
+#include "PackageBytes.h"
 #include "UObject/Package.h"
+#include "UObject/PackageSections.h"
 
 namespace
 {
 constexpr int32 NameHashBytes = 4;
 constexpr int64 MinNameBytes = 4;
+/** Every linker that ever was has its own. */
+uint64 NextLinkerId = 1;
 constexpr int64 MinImportBytes = 28;
 constexpr int64 MinExportBytes = 60;
 
@@ -16,30 +19,54 @@ bool IsInTable(FPackageIndex Index, int32 NumExports, int32 NumImports)
 }
 }
 
-FLinkerLoad::FLinkerLoad(TArray<uint8>&& InBytes, const FString& InFilename, UPackage* Package)
-	: Bytes(MoveTemp(InBytes))
+FLinkerLoad::FLinkerLoad(TUniquePtr<FPackageBytes>&& InFile, const FString& InFilename, UPackage* Package)
+	: File(MoveTemp(InFile))
+	, Id(NextLinkerId++)
 {
 	Filename = InFilename;
 	LinkerRoot = Package;
-	Limit = Bytes.Num();
+	Limit = File->Num();
 	SetIsLoading(true);
 	SetIsPersistent(true);
 }
 
+FLinkerLoad::~FLinkerLoad() = default;
+
+int64 FLinkerLoad::GetFileSize() const
+{
+	return File->Num();
+}
+
+int64 FLinkerLoad::GetTableEnd(EPackageSection Section) const
+{
+	const int64* const End = TableEnds.Find(static_cast<uint8>(Section));
+	return End ? *End : -1;
+}
+
+void FLinkerLoad::EndTable(EPackageSection Section)
+{
+	TableEnds.Add(static_cast<uint8>(Section), Position);
+}
+
 TUniquePtr<FLinkerLoad> FLinkerLoad::Create(const FString& Filename, UPackage* Package, FString& OutError)
 {
-	TArray<uint8> FileBytes;
-	if (!FFileHelper::LoadFileToArray(FileBytes, *Filename))
+	TUniquePtr<FPackageBytes> Bytes = FPackageBytes::Open(Filename, OutError);
+	if (!Bytes)
 	{
-		OutError = FString::Printf(TEXT("%s: the file cannot be read"), *Filename);
+		OutError = FString::Printf(TEXT("%s: %s"), *Filename, *OutError);
 		return nullptr;
 	}
-	return Create(MoveTemp(FileBytes), Filename, Package, OutError);
+	return CreateFromFile(MoveTemp(Bytes), Filename, Package, OutError);
 }
 
 TUniquePtr<FLinkerLoad> FLinkerLoad::Create(TArray<uint8>&& InBytes, const FString& Filename, UPackage* Package, FString& OutError)
 {
-	TUniquePtr<FLinkerLoad> Linker(new FLinkerLoad(MoveTemp(InBytes), Filename, Package));
+	return CreateFromFile(MakeUnique<FPackageBytes>(MoveTemp(InBytes)), Filename, Package, OutError);
+}
+
+TUniquePtr<FLinkerLoad> FLinkerLoad::CreateFromFile(TUniquePtr<FPackageBytes>&& InFile, const FString& Filename, UPackage* Package, FString& OutError)
+{
+	TUniquePtr<FLinkerLoad> Linker(new FLinkerLoad(MoveTemp(InFile), Filename, Package));
 	FString Reason;
 	if (!Linker->LoadTables(Reason))
 	{
@@ -51,20 +78,26 @@ TUniquePtr<FLinkerLoad> FLinkerLoad::Create(TArray<uint8>&& InBytes, const FStri
 
 bool FLinkerLoad::LoadTables(FString& OutError)
 {
-	if (!Summary.Serialize(*this, OutError) || !LoadNames(OutError) || !LoadSoftObjectPaths(OutError) || !LoadImportsAndExports(OutError))
+	if (!Summary.Serialize(*this, OutError))
+	{
+		return false;
+	}
+	EndTable(EPackageSection::Summary);
+	if (!LoadNames(OutError) || !LoadSoftObjectPaths(OutError) || !LoadImportsAndExports(OutError))
 	{
 		return false;
 	}
 	LoadSoftPackageReferences();
-	return CheckExports(OutError);
+	LoadDependencies();
+	return CheckExports(OutError) && CheckEndOfFile(OutError);
 }
 
 bool FLinkerLoad::BeginTable(int32 Count, int32 Offset, int64 MinEntryBytes, const TCHAR* What, FString& OutError)
 {
-	const int64 Room = Bytes.Num() - static_cast<int64>(Offset);
+	const int64 Room = File->Num() - static_cast<int64>(Offset);
 	if (Count < 0 || (Count > 0 && (Offset <= 0 || Room < 0 || Count > Room / MinEntryBytes)))
 	{
-		OutError = FString::Printf(TEXT("the table of %s (%d at offset %d) does not fit into the file's %d bytes"), What, Count, Offset, Bytes.Num());
+		OutError = FString::Printf(TEXT("the table of %s (%d at offset %d) does not fit into the file's %lld bytes"), What, Count, Offset, static_cast<long long>(File->Num()));
 		return false;
 	}
 	Seek(Count > 0 ? Offset : Position);
@@ -96,6 +129,7 @@ bool FLinkerLoad::LoadNames(FString& OutError)
 		// The suffix belongs to each use of a name, never to the table's entry.
 		NameMap.Add(FName(*Name, NAME_NO_NUMBER_INTERNAL));
 	}
+	EndTable(EPackageSection::Names);
 	return true;
 }
 
@@ -110,6 +144,7 @@ bool FLinkerLoad::LoadSoftObjectPaths(FString& OutError)
 	{
 		SoftObjectPathList.AddDefaulted_GetRef().SerializePath(*this);
 	}
+	EndTable(EPackageSection::SoftObjectPaths);
 	if (IsError())
 	{
 		OutError = FString::Printf(TEXT("the table of soft object paths is cut off or damaged at offset %lld"), static_cast<long long>(ErrorPosition));
@@ -128,6 +163,7 @@ bool FLinkerLoad::LoadImportsAndExports(FString& OutError)
 	{
 		Import.Serialize(*this);
 	}
+	EndTable(EPackageSection::Imports);
 	if (!BeginTable(Summary.ExportCount, Summary.ExportOffset, MinExportBytes, TEXT("exports"), OutError))
 	{
 		return false;
@@ -137,6 +173,7 @@ bool FLinkerLoad::LoadImportsAndExports(FString& OutError)
 	{
 		Export.Serialize(*this);
 	}
+	EndTable(EPackageSection::Exports);
 	if (IsError())
 	{
 		OutError = FString::Printf(TEXT("the table of imports or exports is cut off or damaged at offset %lld"), static_cast<long long>(ErrorPosition));
@@ -149,10 +186,10 @@ bool FLinkerLoad::CheckExports(FString& OutError) const
 	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
 	{
 		const FObjectExport& Export = ExportMap[Index];
-		const bool bFits = Export.SerialSize >= 0 && Export.SerialOffset >= 0 && Export.SerialOffset <= Bytes.Num() && Export.SerialSize <= Bytes.Num() - Export.SerialOffset;
+		const bool bFits = Export.SerialSize >= 0 && Export.SerialOffset >= 0 && Export.SerialOffset <= File->Num() && Export.SerialSize <= File->Num() - Export.SerialOffset;
 		if (!bFits)
 		{
-			OutError = FString::Printf(TEXT("export %d (%s) has %lld bytes at offset %lld, beyond the file's %d bytes"), Index, *Export.ObjectName.ToString(), static_cast<long long>(Export.SerialSize), static_cast<long long>(Export.SerialOffset), Bytes.Num());
+			OutError = FString::Printf(TEXT("export %d (%s) has %lld bytes at offset %lld, beyond the file's %lld bytes"), Index, *Export.ObjectName.ToString(), static_cast<long long>(Export.SerialSize), static_cast<long long>(Export.SerialOffset), static_cast<long long>(File->Num()));
 			return false;
 		}
 		for (const FPackageIndex Reference : {Export.ClassIndex, Export.SuperIndex, Export.OuterIndex, Export.TemplateIndex})
@@ -172,32 +209,61 @@ bool FLinkerLoad::CheckExports(FString& OutError) const
 			return false;
 		}
 	}
+	return true;
+}
+
+bool FLinkerLoad::CheckEndOfFile(FString& OutError) const
+{
+	if (UEVer() >= EUnrealEngineObjectUE5Version::PAYLOAD_TOC && Summary.PayloadTocOffset >= File->Num())
+	{
+		OutError = FString::Printf(TEXT("the file is cut off: the index of its payloads at offset %lld is beyond its %lld bytes"), static_cast<long long>(Summary.PayloadTocOffset), static_cast<long long>(File->Num()));
+		return false;
+	}
 	// The last bytes of a file say that it was written to its end.
 	const bool bHasTrailer = UEVer() >= EUnrealEngineObjectUE5Version::PAYLOAD_TOC || !Summary.bUnversioned;
 	uint32 Trailer = 0;
-	if (bHasTrailer && Bytes.Num() >= static_cast<int32>(sizeof(Trailer)))
+	if (bHasTrailer && (!File->Read(File->Num() - static_cast<int64>(sizeof(Trailer)), &Trailer, sizeof(Trailer)) || Trailer != PACKAGE_FILE_TAG))
 	{
-		FMemory::Memcpy(&Trailer, Bytes.GetData() + Bytes.Num() - sizeof(Trailer), sizeof(Trailer));
-	}
-	if (UEVer() >= EUnrealEngineObjectUE5Version::PAYLOAD_TOC && Summary.PayloadTocOffset >= Bytes.Num())
-	{
-		OutError = FString::Printf(TEXT("the file is cut off: the index of its payloads at offset %lld is beyond its %d bytes"), static_cast<long long>(Summary.PayloadTocOffset), Bytes.Num());
-		return false;
-	}
-	if (bHasTrailer && Trailer != PACKAGE_FILE_TAG)
-	{
-		OutError = FString::Printf(TEXT("the file is cut off: its %d bytes do not end with the package tag"), Bytes.Num());
+		OutError = FString::Printf(TEXT("the file is cut off: its %lld bytes do not end with the package tag"), static_cast<long long>(File->Num()));
 		return false;
 	}
 	return true;
 }
 
+void FLinkerLoad::LoadDependencies()
+{
+	FArchive& Ar = *this;
+	constexpr int64 MinEntryBytes = 4;
+	FString Reason;
+	const bool bHasDepends = Summary.DependsOffset > 0 && BeginTable(ExportMap.Num(), Summary.DependsOffset, MinEntryBytes, TEXT("dependencies"), Reason);
+	DependsMap.SetNum(bHasDepends ? ExportMap.Num() : 0);
+	for (TArray<FPackageIndex>& Depends : DependsMap)
+	{
+		Ar << Depends;
+	}
+	EndTable(EPackageSection::Depends);
+	if (!IsError() && BeginTable(Summary.PreloadDependencyCount > 0 ? Summary.PreloadDependencyCount : 0, Summary.PreloadDependencyOffset, MinEntryBytes, TEXT("preload dependencies"), Reason))
+	{
+		PreloadDependencies.SetNum(FMath::Max(Summary.PreloadDependencyCount, 0));
+		for (FPackageIndex& Dependency : PreloadDependencies)
+		{
+			Ar << Dependency;
+		}
+	}
+	if (IsError() || !Reason.IsEmpty())
+	{
+		Errors.Add(IsError() ? FString::Printf(TEXT("the table of dependencies is damaged at offset %lld"), static_cast<long long>(ErrorPosition)) : Reason);
+		ClearError();
+	}
+}
+
 void FLinkerLoad::LoadSoftPackageReferences()
 {
-	FString Ignored;
+	FString Reason;
 	constexpr int64 MinReferenceBytes = 4;
-	if (!BeginTable(Summary.SoftPackageReferencesCount, Summary.SoftPackageReferencesOffset, MinReferenceBytes, TEXT("soft references"), Ignored))
+	if (!BeginTable(Summary.SoftPackageReferencesCount, Summary.SoftPackageReferencesOffset, MinReferenceBytes, TEXT("soft references"), Reason))
 	{
+		Errors.Add(Reason);
 		return;
 	}
 	for (int32 Index = 0; Index < Summary.SoftPackageReferencesCount && !IsError(); ++Index)
@@ -216,6 +282,7 @@ void FLinkerLoad::LoadSoftPackageReferences()
 		}
 		SoftPackageReferenceList.Add(Name);
 	}
+	EndTable(EPackageSection::SoftPackageReferences);
 	if (IsError())
 	{
 		Errors.Add(FString::Printf(TEXT("the table of soft references is damaged at offset %lld"), static_cast<long long>(ErrorPosition)));
@@ -230,7 +297,7 @@ void FLinkerLoad::LoadMetaData()
 		return;
 	}
 	FArchive& Ar = *this;
-	Limit = Bytes.Num();
+	Limit = File->Num();
 	Seek(Summary.MetaDataOffset);
 	int32 NumObjects = 0;
 	int32 NumRoot = 0;

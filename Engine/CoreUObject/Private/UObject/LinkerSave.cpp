@@ -7,6 +7,7 @@
 #include "UObject/ObjectPtr.h"
 #include "UObject/ObjectRedirector.h"
 #include "UObject/Package.h"
+#include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/SoftObjectPtr.h"
 
@@ -31,9 +32,14 @@ FLinkerSave::FLinkerSave(UPackage* Package, const FString& InFilename)
 	MapName(Package->GetFName());
 }
 
-void FLinkerSave::StartFromTablesOf(const FLinkerLoad& Loaded)
+void FLinkerSave::StartFromTablesOf(FLinkerLoad& Loaded)
 {
 	Origin = &Loaded;
+	Summary = Loaded.Summary;
+	SetUEVer(Loaded.UEVer());
+	SetLicenseeUEVer(Loaded.LicenseeUEVer());
+	SetFilterEditorOnly(Loaded.IsFilterEditorOnly());
+	SetCustomVersions(Loaded.Summary.CustomVersions);
 	NameMap.Empty();
 	NameIndices.Empty();
 	for (const FName& Name : Loaded.NameMap)
@@ -46,12 +52,8 @@ void FLinkerSave::StartFromTablesOf(const FLinkerLoad& Loaded)
 	}
 	for (const FObjectImport& Import : Loaded.ImportMap)
 	{
-		FObjectImport& Copy = ImportMap.Add_GetRef(Import);
-		MapName(Copy.ClassPackage);
-		MapName(Copy.ClassName);
-		MapName(Copy.ObjectName);
-		MapName(Copy.PackageName);
-		if (UObject* const Object = Copy.XObject.Get())
+		ImportMap.Add(Import);
+		if (UObject* const Object = Import.XObject.Get())
 		{
 			ObjectIndices.FindOrAdd(Object, FPackageIndex::FromImport(ImportMap.Num() - 1));
 		}
@@ -59,7 +61,8 @@ void FLinkerSave::StartFromTablesOf(const FLinkerLoad& Loaded)
 	for (const FObjectExport& Export : Loaded.ExportMap)
 	{
 		ExportMap.Add(Export);
-		if (UObject* const Object = Export.Object.Get())
+		UObject* const Object = Export.Object.Get();
+		if (Object && !IsDeleted(ExportMap.Num() - 1, Object))
 		{
 			ObjectIndices.Add(Object, FPackageIndex::FromExport(ExportMap.Num() - 1));
 		}
@@ -69,11 +72,8 @@ void FLinkerSave::StartFromTablesOf(const FLinkerLoad& Loaded)
 		SoftPathIndices.FindOrAdd(Path, SoftObjectPathList.Num());
 		SoftObjectPathList.Add(Path);
 	}
-	Summary.LocalizationId = Loaded.Summary.LocalizationId;
-	for (const FCustomVersion& Version : Loaded.Summary.CustomVersions.GetAllVersions())
-	{
-		SetCustomVersion(Version.Key, Version.Version, Version.GetFriendlyName());
-	}
+	SoftPackageReferenceList = Loaded.SoftPackageReferenceList;
+	UsedImports.Init(false, ImportMap.Num());
 }
 
 void FLinkerSave::Seek(int64 InPos)
@@ -107,6 +107,11 @@ void FLinkerSave::Serialize(void* Data, int64 Length)
 
 void FLinkerSave::UsingCustomVersion(const FGuid& Guid)
 {
+	// In its own form a package has its own versions: what it lacks is written as it was before that version.
+	if (Origin)
+	{
+		return;
+	}
 	FArchive::UsingCustomVersion(Guid);
 	Summary.CustomVersions = GetCustomVersions();
 }
@@ -147,11 +152,14 @@ FPackageIndex FLinkerSave::MapObject(UObject* Object)
 	{
 		return FPackageIndex();
 	}
-	if (const FPackageIndex* const Found = ObjectIndices.Find(Object))
+	const FPackageIndex* const Found = ObjectIndices.Find(Object);
+	const FPackageIndex Index = Found ? *Found : Object->IsIn(LinkerRoot) ? AddExport(Object)
+																		   : AddImport(Object);
+	if (Index.IsImport() && UsedImports.IsValidIndex(Index.ToImport()))
 	{
-		return *Found;
+		UsedImports[Index.ToImport()] = true;
 	}
-	return Object->IsIn(LinkerRoot) ? AddExport(Object) : AddImport(Object);
+	return Index;
 }
 
 FPackageIndex FLinkerSave::AddExport(UObject* Object)
@@ -228,6 +236,16 @@ FArchive& FLinkerSave::operator<<(FLazyObjectPtr& Value)
 
 FArchive& FLinkerSave::operator<<(FSoftObjectPath& Value)
 {
+	if (UEVer() < EUnrealEngineObjectUE5Version::ADD_SOFTOBJECTPATH_LIST)
+	{
+		const FName PackageName = Value.GetLongPackageFName();
+		if (!PackageName.IsNone() && PackageName != LinkerRoot->GetFName())
+		{
+			SoftPackageReferenceList.AddUnique(PackageName);
+		}
+		Value.SerializePath(*this);
+		return *this;
+	}
 	int32 Index = SoftObjectPathList.Num();
 	if (const int32* const Found = SoftPathIndices.Find(Value))
 	{
@@ -269,45 +287,91 @@ void FLinkerSave::MarkScriptSerializationEnd(const UObject* Object)
 	}
 }
 
+bool FLinkerSave::IsDeleted(int32 ExportIndex, const UObject* Object) const
+{
+	const bool bIsOfOrigin = Origin && ExportIndex < Origin->ExportMap.Num();
+	if (!bIsOfOrigin || !Object)
+	{
+		return bIsOfOrigin && Origin->IsDeleted(ExportIndex);
+	}
+	const bool bHasMoved = Origin->ExportMap[ExportIndex].OuterIndex.IsImport() ? false : !Object->IsIn(LinkerRoot);
+	return bHasMoved || !IsSaved(Object);
+}
+
+bool FLinkerSave::KeepsBytes(int32 ExportIndex, UObject* Object) const
+{
+	if (!Origin || ExportIndex >= Origin->ExportMap.Num())
+	{
+		return false;
+	}
+	return !Object || Origin->MustKeepBytes(Object) || (!bWritesUnchanged && Origin->IsUnchanged(ExportIndex));
+}
+
+/** The table's entry, with what the origin's entry says beyond what the object itself can tell. */
+FObjectExport FLinkerSave::DescribeExport(int32 ExportIndex, UObject* Object)
+{
+	const bool bIsOfOrigin = Origin && ExportIndex < Origin->ExportMap.Num();
+	FObjectExport Described = bIsOfOrigin ? Origin->ExportMap[ExportIndex] : FObjectExport();
+	Described.Object = Object;
+	Described.ObjectName = Object->GetFName();
+	Described.ObjectFlags = static_cast<EObjectFlags>(Object->GetFlags() & RF_Load);
+	Described.bIsAsset = bIsOfOrigin ? Described.bIsAsset : Object->IsAsset();
+	Described.ClassIndex = Object->GetClass() == UClass::StaticClass() ? FPackageIndex() : MapObject(Object->GetClass());
+	Described.OuterIndex = MapObject(Object->GetOuter());
+	const UStruct* const Struct = Cast<UStruct>(Object);
+	Described.SuperIndex = Struct ? MapObject(Struct->GetSuperStruct()) : Described.SuperIndex;
+	Described.ScriptSerializationStartOffset = Described.ScriptSerializationEndOffset = 0;
+	MapName(Described.ObjectName);
+	return Described;
+}
+
 void FLinkerSave::WriteExport(int32 ExportIndex)
 {
 	UObject* const Object = ExportMap[ExportIndex].Object.Get();
 	const int64 Start = Payload.Num();
 	Position = Start;
-	ExportMap[ExportIndex].SerialOffset = Start;
-	const int32 OriginIndex = Origin && ExportIndex < Origin->ExportMap.Num() ? ExportIndex : INDEX_NONE;
-	if (OriginIndex != INDEX_NONE && Origin->IsDeleted(OriginIndex))
+	if (IsDeleted(ExportIndex, Object))
 	{
+		bIsChanged = true;
 		WriteDeletedExport(ExportIndex);
 		return;
 	}
-	const bool bKeepBytes = OriginIndex != INDEX_NONE && (!Object || Origin->MustKeepBytes(Object));
-	if (bKeepBytes)
+	if (!KeepsBytes(ExportIndex, Object))
 	{
-		const TArrayView<const uint8> Kept = Origin->GetExportBytes(OriginIndex);
-		Serialize(const_cast<uint8*>(Kept.GetData()), Kept.Num());
-		ExportMap[ExportIndex].SerialSize = Position - Start;
+		bIsChanged |= !bWritesUnchanged;
+		WriteValues(ExportIndex, Object);
 		return;
 	}
-	FObjectExport Described;
-	Described.Object = Object;
-	Described.SerialOffset = Start;
-	Described.ObjectName = Object->GetFName();
-	Described.ObjectFlags = static_cast<EObjectFlags>(Object->GetFlags() & RF_Load);
-	Described.bIsAsset = Object->IsAsset();
-	Described.ClassIndex = Object->GetClass() == UClass::StaticClass() ? FPackageIndex() : MapObject(Object->GetClass());
-	Described.OuterIndex = MapObject(Object->GetOuter());
-	if (const UStruct* const Struct = Cast<UStruct>(Object))
+	const TArray<uint8> Kept = Origin->GetExportBytes(ExportIndex);
+	if (Kept.Num() != Origin->ExportMap[ExportIndex].SerialSize)
 	{
-		Described.SuperIndex = MapObject(Struct->GetSuperStruct());
+		SetError();
+		return;
 	}
-	MapName(Described.ObjectName);
+	ExportMap[ExportIndex].SerialOffset = Start;
+	const bool bIsRenamed = Object && (Object->GetFName() != ExportMap[ExportIndex].ObjectName || Object->GetOuter() != Origin->FindOuterOf(ExportIndex));
+	if (bIsRenamed)
+	{
+		bIsChanged = true;
+		ExportMap[ExportIndex].ObjectName = Object->GetFName();
+		ExportMap[ExportIndex].OuterIndex = MapObject(Object->GetOuter());
+	}
+	MarkImportsIn(TArrayView<const uint8>(Kept));
+	Serialize(const_cast<uint8*>(Kept.GetData()), Kept.Num());
+}
+
+void FLinkerSave::WriteValues(int32 ExportIndex, UObject* Object)
+{
+	const int64 Start = Position;
+	FObjectExport Described = DescribeExport(ExportIndex, Object);
+	Described.SerialOffset = Start;
 	ExportMap[ExportIndex] = Described;
 	ExportInWork = ExportIndex;
 	Object->Serialize(*this);
 	ExportInWork = INDEX_NONE;
 	if (const TArray<uint8>* const Tail = Origin ? Origin->FindUnreadTail(Object) : nullptr)
 	{
+		MarkImportsIn(TArrayView<const uint8>(*Tail));
 		Serialize(const_cast<uint8*>(Tail->GetData()), Tail->Num());
 	}
 	ExportMap[ExportIndex].SerialSize = Position - Start;
@@ -326,7 +390,11 @@ void FLinkerSave::WriteDeletedExport(int32 ExportIndex)
 	bool bHasGuid = false;
 	FPackageIndex Destination;
 	FArchive& Ar = *this;
-	Ar << Control << NoProperties;
+	if (UEVer() >= EUnrealEngineObjectUE5Version::PROPERTY_TAG_EXTENSION_AND_OVERRIDABLE_SERIALIZATION)
+	{
+		Ar << Control;
+	}
+	Ar << NoProperties;
 	Redirector.ScriptSerializationEndOffset = Position - Redirector.SerialOffset;
 	Ar << bHasGuid << Destination;
 	Redirector.SerialSize = Position - Redirector.SerialOffset;
@@ -339,12 +407,22 @@ bool FLinkerSave::WriteExports(FString& OutError)
 	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
 	{
 		UObject* const Object = ExportMap[Index].Object.Get();
+		if (!Origin && Object && UE::CoreUObject::IsPlaceholder(Object->GetClass()))
+		{
+			OutError = FString::Printf(TEXT("the values of %s are of the class %s, which is not known here, and the file that they came from has been let go"), *Object->GetPathName(), *Object->GetClass()->GetPathName());
+			return false;
+		}
 		WriteExport(Index);
 		if (IsError())
 		{
-			OutError = FString::Printf(TEXT("%s cannot be written"), Object ? *Object->GetPathName() : *GetExportPathName(Index));
+			OutError = FString::Printf(TEXT("%s cannot be written in the form of package version %d/%d"), Object ? *Object->GetPathName() : *GetExportPathName(Index), UEVer().FileVersionUE4, UEVer().FileVersionUE5);
 			return false;
 		}
 	}
 	return true;
+}
+
+TArray<uint8> FLinkerSave::MakeFile(FString& OutError)
+{
+	return Origin ? MakeFileOfOrigin(OutError) : MakeNewFile(OutError);
 }

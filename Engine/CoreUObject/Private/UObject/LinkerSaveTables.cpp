@@ -1,7 +1,9 @@
 #include "UObject/AssetRegistryTagsContext.h"
+#include "Misc/Crc.h"
 #include "UObject/Class.h"
 #include "UObject/LinkerSave.h"
 #include "UObject/Package.h"
+#include "UObject/PackageSections.h"
 
 namespace
 {
@@ -19,24 +21,32 @@ FSavedEngineVersion GetWritingEngineVersion()
 	return Version;
 }
 
-/** A name's hash of its text without regard to case, then with it; readers of today do not check them. */
-void WriteNameHashes(FArchive& Ar)
+/** A name's hash of its text without regard to case, then with it. */
+void WriteNameHashes(FArchive& Ar, const FString& Name)
 {
-	uint16 NonCaseHash = 0;
-	uint16 CaseHash = 0;
+	uint16 NonCaseHash = static_cast<uint16>(FCrc::Strihash_DEPRECATED(*Name));
+	uint16 CaseHash = static_cast<uint16>(FCrc::StrCrc32(*Name));
 	Ar << NonCaseHash << CaseHash;
 }
 }
 
-void FLinkerSave::WriteNames()
+void FLinkerSave::WriteNameEntry(const FName& Name)
 {
 	FArchive& Ar = *this;
+	FString Text = Name.GetPlainNameString();
+	Ar << Text;
+	if (UEVer() >= VER_UE4_NAME_HASHES_SERIALIZED)
+	{
+		WriteNameHashes(Ar, Text);
+	}
+}
+
+void FLinkerSave::WriteNames()
+{
 	Summary.NameOffset = static_cast<int32>(Position);
 	for (const FName& Name : NameMap)
 	{
-		FString Text = Name.GetPlainNameString();
-		Ar << Text;
-		WriteNameHashes(Ar);
+		WriteNameEntry(Name);
 	}
 	Summary.NameCount = NameMap.Num();
 }
@@ -73,7 +83,7 @@ void FLinkerSave::WriteMetaData()
 	}
 }
 
-void FLinkerSave::WriteSoftPackageReferences()
+void FLinkerSave::AddSoftPackageReferences()
 {
 	for (const FSoftObjectPath& Path : SoftObjectPathList)
 	{
@@ -83,6 +93,11 @@ void FLinkerSave::WriteSoftPackageReferences()
 			SoftPackageReferenceList.AddUnique(PackageName);
 		}
 	}
+}
+
+void FLinkerSave::WriteSoftPackageReferences()
+{
+	AddSoftPackageReferences();
 	Summary.SoftPackageReferencesOffset = static_cast<int32>(Position);
 	Summary.SoftPackageReferencesCount = SoftPackageReferenceList.Num();
 	for (FName& Name : SoftPackageReferenceList)
@@ -177,6 +192,7 @@ void FLinkerSave::WriteTables()
 	}
 	WriteMetaData();
 	Summary.GatherableTextDataOffset = static_cast<int32>(Position);
+	CopyCarried(EPackageSection::GatherableText);
 	Summary.ImportOffset = static_cast<int32>(Position);
 	Summary.ImportCount = ImportMap.Num();
 	for (FObjectImport& Import : ImportMap)
@@ -200,7 +216,11 @@ void FLinkerSave::WriteTables()
 	Summary.SearchableNamesOffset = static_cast<int32>(Position);
 	Ar << Zero;
 	Summary.ThumbnailTableOffset = static_cast<int32>(Position);
-	Ar << Zero;
+	CopyCarried(EPackageSection::Thumbnails);
+	if (Summary.ThumbnailTableOffset == Position)
+	{
+		Ar << Zero;
+	}
 	WriteAssetRegistryData();
 	Summary.PreloadDependencyOffset = static_cast<int32>(Position);
 }
@@ -219,16 +239,17 @@ void FLinkerSave::WritePayloadTrailer()
 	Ar << Tag << Header << Version << HeaderLength << PayloadLength << NumPayloads << Footer << TrailerLength << Tag;
 }
 
-TArray<uint8> FLinkerSave::MakeFile()
+/** Every name that the tables use, so that the table of names, which stands before them, has it. */
+void FLinkerSave::MapNamesOfTables()
 {
-	const TArray<uint8> Values = MoveTemp(Payload);
-	Summary.FileVersionUE = GPackageFileUEVersion;
-	Summary.CustomVersions = GetCustomVersions();
-	Summary.PackageFlags = LinkerRoot->GetPackageFlags() & ~(PKG_TransientFlags | PKG_FilterEditorOnly);
-	Summary.PersistentGuid = LinkerRoot->GetPersistentGuid();
-	Summary.SavedByEngineVersion = GetWritingEngineVersion();
-	Summary.CompatibleWithEngineVersion = GetWritingEngineVersion();
-	for (FObjectExport& Export : ExportMap)
+	for (const FObjectImport& Import : ImportMap)
+	{
+		MapName(Import.ClassPackage);
+		MapName(Import.ClassName);
+		MapName(Import.ObjectName);
+		MapName(Import.PackageName);
+	}
+	for (const FObjectExport& Export : ExportMap)
 	{
 		MapName(Export.ObjectName);
 	}
@@ -236,6 +257,10 @@ TArray<uint8> FLinkerSave::MakeFile()
 	{
 		MapName(Path.GetLongPackageFName());
 		MapName(Path.GetAssetFName());
+	}
+	for (const FName& Reference : SoftPackageReferenceList)
+	{
+		MapName(Reference);
 	}
 	for (const TPair<FName, FString>& Pair : LinkerRoot->GetMetaData().RootMetaDataMap)
 	{
@@ -248,12 +273,24 @@ TArray<uint8> FLinkerSave::MakeFile()
 			MapName(Value.Key);
 		}
 	}
+}
+
+TArray<uint8> FLinkerSave::MakeNewFile(FString& OutError)
+{
+	const TArray<uint8> Values = MoveTemp(Payload);
+	Summary.FileVersionUE = GPackageFileUEVersion;
+	Summary.CustomVersions = GetCustomVersions();
+	Summary.PackageFlags = LinkerRoot->GetPackageFlags() & ~(PKG_TransientFlags | PKG_FilterEditorOnly);
+	Summary.PersistentGuid = LinkerRoot->GetPersistentGuid();
+	Summary.SavedByEngineVersion = GetWritingEngineVersion();
+	Summary.CompatibleWithEngineVersion = GetWritingEngineVersion();
+	MapNamesOfTables();
 	Summary.NamesReferencedFromExportDataCount = NameMap.Num();
 	Summary.Generations = {{ExportMap.Num(), NameMap.Num()}};
+	MarkChanged(Values);
 
 	// All sizes of the header are known once it is written, but for itself: the first time finds the offsets, the second has them.
 	const TArray<FObjectExport> RelativeExports = ExportMap;
-	FString Ignored;
 	for (const bool bFinal : {false, true})
 	{
 		Payload.Reset();
@@ -263,7 +300,7 @@ TArray<uint8> FLinkerSave::MakeFile()
 		{
 			Export.SerialOffset += bFinal ? Summary.TotalHeaderSize : 0;
 		}
-		if (!Summary.Serialize(*this, Ignored))
+		if (!Summary.Serialize(*this, OutError))
 		{
 			return {};
 		}
@@ -274,5 +311,6 @@ TArray<uint8> FLinkerSave::MakeFile()
 	}
 	Serialize(const_cast<uint8*>(Values.GetData()), Values.Num());
 	WritePayloadTrailer();
-	return MoveTemp(Payload);
+	OutError = IsError() ? TEXT("it is larger than a package can be") : TEXT("");
+	return IsError() ? TArray<uint8>() : MoveTemp(Payload);
 }

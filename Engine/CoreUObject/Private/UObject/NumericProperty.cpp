@@ -361,7 +361,9 @@ template class TProperty_Numeric<double>;
 void FByteProperty::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
-	Ar << Enum;
+	UObject* Type = Enum;
+	Ar << Type;
+	Enum = Type && Type->IsA(UEnum::StaticClass()) ? static_cast<UEnum*>(Type) : nullptr;
 }
 
 void FByteProperty::PostDuplicate(const FField& InField)

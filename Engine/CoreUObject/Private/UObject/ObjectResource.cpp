@@ -1,6 +1,5 @@
 #include "UObject/ObjectResource.h"
 
-#include "Misc/Guid.h"
 #include "Serialization/Archive.h"
 
 void FObjectExport::Serialize(FArchive& Ar)
@@ -29,7 +28,6 @@ void FObjectExport::Serialize(FArchive& Ar)
 	Ar << bForcedExport << bNotForClient << bNotForServer;
 	if (Ar.UEVer() < EUnrealEngineObjectUE5Version::REMOVE_OBJECT_EXPORT_PACKAGE_GUID)
 	{
-		FGuid PackageGuid;
 		Ar << PackageGuid;
 	}
 	if (Ar.UEVer() >= EUnrealEngineObjectUE5Version::TRACK_OBJECT_EXPORT_IS_INHERITED)

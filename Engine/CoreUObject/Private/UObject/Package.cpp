@@ -1,5 +1,6 @@
 #include "UObject/Package.h"
 
+#include "UObject/LinkerLoad.h"
 #include "UObject/ObjectRedirector.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
@@ -13,7 +14,10 @@ UPackage::UPackage(const FObjectInitializer& ObjectInitializer)
 {
 }
 
-UPackage::~UPackage() = default;
+UPackage::~UPackage()
+{
+	delete LinkerLoad;
+}
 
 void UPackage::Serialize(FArchive& Ar)
 {

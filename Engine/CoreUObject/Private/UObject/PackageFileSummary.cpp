@@ -136,7 +136,6 @@ void FPackageFileSummary::SerializeOrigin(FArchive& Ar, FString& OutError)
 		Ar << PersistentGuid;
 		if (FileVersionUE < VER_UE4_NON_OUTER_PACKAGE_IMPORT)
 		{
-			FGuid OwnerPersistentGuid;
 			Ar << OwnerPersistentGuid;
 		}
 	}
@@ -175,8 +174,7 @@ void FPackageFileSummary::SerializeTail(FArchive& Ar)
 	Ar << PackageSource << AdditionalPackagesToCook;
 	if (LegacyFileVersion > -7)
 	{
-		int32 TextureAllocations = 0;
-		Ar << TextureAllocations;
+		Ar << TextureAllocationCount;
 	}
 	Ar << AssetRegistryDataOffset << BulkDataStartOffset << WorldTileInfoDataOffset << ChunkIDs;
 	if (FileVersionUE >= VER_UE4_PRELOAD_DEPENDENCIES_IN_COOKED_EXPORTS)

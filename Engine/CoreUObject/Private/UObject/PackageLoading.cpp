@@ -3,6 +3,7 @@
 #include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/WeakObjectPtr.h"
 
 namespace
 {
@@ -13,6 +14,47 @@ void ReportLoadFailure(uint32 LoadFlags, const FString& Message)
 		UE_LOG(LogClass, Warning, TEXT("%s"), *Message);
 	}
 }
+
+/**
+ * Packages may load one another in circles, and an object is what its file tells only when those are there that it is compared
+ * with. So what the objects look like is noted when the outermost package is done.
+ */
+class FLoadingScope
+{
+public:
+	explicit FLoadingScope(UPackage* Package)
+	{
+		++Depth;
+		GetLoaded().Add(Package);
+	}
+	~FLoadingScope()
+	{
+		if (--Depth > 0)
+		{
+			return;
+		}
+		const TArray<TWeakObjectPtr<UPackage>> Loaded = MoveTemp(GetLoaded());
+		GetLoaded().Reset();
+		for (const TWeakObjectPtr<UPackage>& Package : Loaded)
+		{
+			if (Package.IsValid() && Package->GetLinker())
+			{
+				Package->GetLinker()->TakeFingerprints();
+			}
+		}
+	}
+	FLoadingScope(const FLoadingScope&) = delete;
+	FLoadingScope& operator=(const FLoadingScope&) = delete;
+
+private:
+	static TArray<TWeakObjectPtr<UPackage>>& GetLoaded()
+	{
+		static TArray<TWeakObjectPtr<UPackage>> Loaded;
+		return Loaded;
+	}
+
+	static inline int32 Depth = 0;
+};
 
 /** Long package name and file of what a caller asked to load, which may be either. */
 bool ResolvePackage(const FString& NameOrFile, FString& OutName, FString& OutFilename)
@@ -64,7 +106,10 @@ UPackage* LoadPackage(UPackage* InOuter, const TCHAR* InLongPackageName, uint32 
 	Package->SetLoadedPath(FName(*PackageName));
 	Package->SetPackageFlagsTo(Loaded->Summary.PackageFlags);
 	Package->SetPersistentGuid(Loaded->Summary.PersistentGuid);
-	Loaded->LoadAllObjects();
+	{
+		const FLoadingScope Scope(Package);
+		Loaded->LoadAllObjects();
+	}
 	Package->MarkAsFullyLoaded();
 	Package->SetDirtyFlag(false);
 	return Package;

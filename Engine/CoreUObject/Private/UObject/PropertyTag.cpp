@@ -6,7 +6,8 @@
 #include "UObject/PropertyOptional.h"
 #include "UObject/UnrealType.h"
 
-namespace
+// Named, for a compiler that warns of operators that nobody uses in an unnamed one.
+namespace PropertyTagForm
 {
 enum class EPropertyTagFlags : uint8
 {
@@ -27,6 +28,12 @@ enum class EPropertyTagExtension : uint8
 	OverridableInformation = 0x02
 };
 ENUM_CLASS_FLAGS(EPropertyTagExtension)
+}
+
+namespace
+{
+using PropertyTagForm::EPropertyTagExtension;
+using PropertyTagForm::EPropertyTagFlags;
 
 /** Whether the value's bytes are the struct's own instead of members' tags. */
 bool UsesBinaryOrNativeSerialization(const FProperty* Property)

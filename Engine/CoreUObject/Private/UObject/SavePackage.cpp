@@ -52,40 +52,89 @@ void PrepareObjects(UPackage* Package, const FString& Filename, uint32 SaveFlags
 		}
 	}
 }
+
+/**
+ * Whether the file is written in the form in which it came: for an older engine, which could not read a newer one; with bytes
+ * that only stand with their own tables; or because nothing in it has changed.
+ */
+bool BelongsInOwnForm(const FLinkerLoad& Origin, const TArray<UObject*>& Roots)
+{
+	if (Origin.HasKeptBytes() || Origin.UEVer() != GPackageFileUEVersion)
+	{
+		return true;
+	}
+	for (const UObject* const Root : Roots)
+	{
+		if (Origin.FindExportOf(Root) == INDEX_NONE)
+		{
+			return false;
+		}
+	}
+	for (int32 Index = 0; Index < Origin.ExportMap.Num(); ++Index)
+	{
+		if (!Origin.IsUnchanged(Index))
+		{
+			return false;
+		}
+	}
+	return Origin.IsMetaDataUnchanged();
+}
+
+bool WriteFile(FLinkerSave& Linker, const TArray<UObject*>& Roots, TArray<uint8>& OutFile, FString& OutError)
+{
+	for (UObject* const Root : Roots)
+	{
+		Linker.AddExport(Root);
+	}
+	if (Linker.ExportMap.IsEmpty())
+	{
+		OutError = TEXT("there is nothing in it to save");
+		return false;
+	}
+	if (!Linker.WriteExports(OutError))
+	{
+		return false;
+	}
+	OutFile = Linker.MakeFile(OutError);
+	return !OutFile.IsEmpty();
+}
 }
 
 FSavePackageResultStruct UPackage::Save(UPackage* InOuter, UObject* InAsset, const TCHAR* Filename, const FSavePackageArgs& SaveArgs)
 {
 	check(InOuter);
 	const FString Prefix = FString::Printf(TEXT("Failed to save package %s to %s: "), *InOuter->GetName(), Filename);
-	const FLinkerLoad* const Origin = InOuter->GetLinker();
-	if (Origin && Origin->HasKeptBytes() && Origin->UEVer() != GPackageFileUEVersion)
-	{
-		return FailSave(SaveArgs, Prefix + FString::Printf(TEXT("it has data of package version %d/%d that this host can neither read nor convert to version %d/%d"), Origin->UEVer().FileVersionUE4, Origin->UEVer().FileVersionUE5, GPackageFileUEVersion.FileVersionUE4, GPackageFileUEVersion.FileVersionUE5));
-	}
+	FLinkerLoad* const Origin = InOuter->GetLinker();
 	PrepareObjects(InOuter, Filename, SaveArgs.SaveFlags);
-	FLinkerSave Linker(InOuter, Filename);
-	if (Origin && Origin->HasKeptBytes())
-	{
-		Linker.StartFromTablesOf(*Origin);
-	}
-	for (UObject* const Root : FindSaveRoots(InOuter, InAsset, SaveArgs.TopLevelFlags))
-	{
-		Linker.AddExport(Root);
-	}
-	if (Linker.ExportMap.IsEmpty())
-	{
-		return FailSave(SaveArgs, Prefix + TEXT("there is nothing in it to save"));
-	}
+	const TArray<UObject*> Roots = FindSaveRoots(InOuter, InAsset, SaveArgs.TopLevelFlags);
+	TArray<uint8> File;
 	FString Reason;
-	if (!Linker.WriteExports(Reason))
+	bool bDone = false;
+	if (Origin && BelongsInOwnForm(*Origin, Roots))
 	{
-		return FailSave(SaveArgs, Prefix + Reason);
+		FLinkerSave Linker(InOuter, Filename);
+		Linker.StartFromTablesOf(*Origin);
+		bDone = WriteFile(Linker, Roots, File, Reason);
+		if (!bDone && Origin->HasKeptBytes())
+		{
+			return FailSave(SaveArgs, Prefix + Reason);
+		}
+		if (!bDone)
+		{
+			UE_LOG(LogClass, Warning, TEXT("%s can no longer be written for the engine that it came from and becomes a package of version %d/%d: %s"), *InOuter->GetName(), GPackageFileUEVersion.FileVersionUE4, GPackageFileUEVersion.FileVersionUE5, *Reason);
+		}
 	}
-	const TArray<uint8> File = Linker.MakeFile();
-	if (Linker.IsError() || File.IsEmpty())
+	if (!bDone)
 	{
-		return FailSave(SaveArgs, Prefix + TEXT("it is larger than a package can be"));
+		FLinkerSave Linker(InOuter, Filename);
+		if (Origin)
+		{
+			Linker.CarrySectionsOf(*Origin);
+		}
+		if (!WriteFile(Linker, Roots, File, Reason))
+		{
+			return FailSave(SaveArgs, Prefix + Reason);
+		}
 	}
 	IFileManager::Get().MakeDirectory(*FPaths::GetPath(FString(Filename)), true);
 	if (!UE::SaveFileAtomically(Filename, TArrayView<const uint8>(File), Reason))

@@ -207,18 +207,7 @@ void UStruct::SerializeTaggedProperties(
 		ReadTaggedProperties(Ar, this, Data, DefaultsStruct, Defaults);
 		return;
 	}
-	if (Defaults || !IsA(UScriptStruct::StaticClass()))
-	{
-		WriteTaggedProperties(Ar, this, Data, DefaultsStruct, Defaults);
-		return;
-	}
-	// A container's new element has the struct's own defaults, so those are what an element may leave out.
-	const UScriptStruct* const ScriptStruct = static_cast<const UScriptStruct*>(this);
-	void* const Fresh = FMemory::Malloc(FMath::Max(ScriptStruct->GetStructureSize(), 1), FMath::Max(ScriptStruct->GetMinAlignment(), 1));
-	ScriptStruct->InitializeStruct(Fresh);
-	WriteTaggedProperties(Ar, this, Data, this, static_cast<uint8*>(Fresh));
-	ScriptStruct->DestroyStruct(Fresh);
-	FMemory::Free(Fresh);
+	WriteTaggedProperties(Ar, this, Data, DefaultsStruct, Defaults);
 }
 
 void UStruct::SerializeBin(FArchive& Ar, void* Data) const

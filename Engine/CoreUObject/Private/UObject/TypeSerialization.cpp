@@ -26,11 +26,30 @@ bool SerializeCount(FArchive& Ar, int32& Count, int64 MinElementSize)
 	return !Ar.IsError();
 }
 
+/** Whether the archive may have a form from before a version: packages have, undo buffers and copies are of today. */
+bool IsOldForm(const FArchive& Ar)
+{
+	return Ar.IsLoading() || Ar.IsPersistent();
+}
+
 void SerializeEnum(FArchive& Ar, auto& Value)
 {
 	uint32 Number = static_cast<uint32>(Value);
 	Ar << Number;
 	Value = static_cast<std::remove_reference_t<decltype(Value)>>(Number);
+}
+
+/** A reference that a package may claim to be of a kind that its object is not: then it is null. */
+template <typename PointerType>
+void SerializeReference(FArchive& Ar, PointerType& Reference)
+{
+	using ReferencedType = std::remove_pointer_t<decltype(&*Reference)>;
+	UObject* Object = Reference;
+	Ar << Object;
+	if (Ar.IsLoading() || Object != Reference)
+	{
+		Reference = Object && Object->IsA(ReferencedType::StaticClass()) ? static_cast<ReferencedType*>(Object) : nullptr;
+	}
 }
 
 void SerializeIdentityForUndo(FArchive& Ar, UObject* Object, FName& Name, UObject*& Outer)
@@ -115,7 +134,7 @@ void UField::Serialize(FArchive& Ar)
 	Ar.UsingCustomVersion(FFrameworkObjectVersion::GUID);
 	if (Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
 	{
-		Ar << Next;
+		SerializeReference(Ar, Next);
 	}
 }
 
@@ -125,7 +144,7 @@ void SerializeChildren(FArchive& Ar, UStruct* Struct)
 {
 	if (Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
 	{
-		Ar << Struct->Children;
+		SerializeReference(Ar, Struct->Children);
 		return;
 	}
 	TArray<UField*> Children;
@@ -138,14 +157,14 @@ void SerializeChildren(FArchive& Ar, UStruct* Struct)
 	Children.SetNumZeroed(Count);
 	for (UField*& Child : Children)
 	{
-		Ar << Child;
+		SerializeReference(Ar, Child);
 	}
 	if (Ar.IsLoading())
 	{
 		UField* Next = nullptr;
 		for (int32 Index = Children.Num() - 1; Index >= 0; --Index)
 		{
-			if (Children[Index] && Children[Index]->IsA<UField>())
+			if (Children[Index])
 			{
 				Children[Index]->Next = Next;
 				Next = Children[Index];
@@ -192,15 +211,21 @@ void UStruct::Serialize(FArchive& Ar)
 	Super::Serialize(Ar);
 	Ar.UsingCustomVersion(FCoreObjectVersion::GUID);
 	UStruct* Super = SuperStruct;
-	Ar << Super;
+	SerializeReference(Ar, Super);
 	if (Ar.IsLoading())
 	{
-		SetSuperStruct(Super && Super->IsA<UStruct>() && !Super->IsChildOf(this) ? Super : nullptr);
+		SetSuperStruct(Super && !Super->IsChildOf(this) ? Super : nullptr);
 	}
 	SerializeChildren(Ar, this);
-	if (Ar.CustomVer(FCoreObjectVersion::GUID) >= FCoreObjectVersion::FProperties || !Ar.IsLoading())
+	const bool bHasProperties = !IsOldForm(Ar) || Ar.CustomVer(FCoreObjectVersion::GUID) >= FCoreObjectVersion::FProperties;
+	if (bHasProperties)
 	{
 		SerializeProperties(Ar, this);
+	}
+	else if (Ar.IsSaving() && ChildProperties)
+	{
+		// Properties were objects of their own then.
+		Ar.SetError();
 	}
 	Ar << ScriptBytecodeSize;
 	int32 StorageSize = Script.Num();
@@ -240,7 +265,7 @@ void UFunction::Serialize(FArchive& Ar)
 	}
 	if (Ar.UEVer() >= VER_UE4_SERIALIZE_BLUEPRINT_EVENTGRAPH_FASTCALLS_IN_UFUNCTION)
 	{
-		Ar << EventGraphFunction;
+		SerializeReference(Ar, EventGraphFunction);
 		Ar << EventGraphCallOffset;
 	}
 	if (Ar.IsLoading())
@@ -270,7 +295,7 @@ void UClass::Serialize(FArchive& Ar)
 	for (TPair<FName, UFunction*>& Pair : Functions)
 	{
 		Ar << Pair.Key;
-		Ar << Pair.Value;
+		SerializeReference(Ar, Pair.Value);
 	}
 	if (Ar.IsLoading())
 	{
@@ -278,14 +303,14 @@ void UClass::Serialize(FArchive& Ar)
 		ClearFunctionMapsCaches();
 		for (const TPair<FName, UFunction*>& Pair : Functions)
 		{
-			if (Pair.Value && Pair.Value->IsA<UFunction>())
+			if (Pair.Value)
 			{
 				FuncMap.Add(Pair.Key, Pair.Value);
 			}
 		}
 	}
 	SerializeEnum(Ar, ClassFlags);
-	Ar << ClassWithin;
+	SerializeReference(Ar, ClassWithin);
 	Ar << ClassConfigName;
 	// Interfaces stood before the generating Blueprint in older packages.
 	const bool bInterfacesLast = Ar.UEVer() >= VER_UE4_UCLASS_SERIALIZE_INTERFACES_AFTER_LINKING;
@@ -328,8 +353,8 @@ void UEnum::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
 	Ar.UsingCustomVersion(FCoreObjectVersion::GUID);
-	const bool bOldNames = Ar.IsLoading() && Ar.UEVer() < VER_UE4_TIGHTLY_PACKED_ENUMS;
-	const bool bByteValues = Ar.IsLoading() && Ar.CustomVer(FCoreObjectVersion::GUID) < FCoreObjectVersion::EnumProperties;
+	const bool bOldNames = IsOldForm(Ar) && Ar.UEVer() < VER_UE4_TIGHTLY_PACKED_ENUMS;
+	const bool bByteValues = IsOldForm(Ar) && Ar.CustomVer(FCoreObjectVersion::GUID) < FCoreObjectVersion::EnumProperties;
 	int32 Count = Names.Num();
 	SerializeCount(Ar, Count, bOldNames ? 8 : 9);
 	Names.SetNum(Count);
@@ -342,7 +367,7 @@ void UEnum::Serialize(FArchive& Ar)
 		}
 		else if (bByteValues)
 		{
-			uint8 Value = 0;
+			uint8 Value = static_cast<uint8>(Names[Index].Value);
 			Ar << Value;
 			Names[Index].Value = Value;
 		}
@@ -352,9 +377,9 @@ void UEnum::Serialize(FArchive& Ar)
 		}
 	}
 	uint8 Form = static_cast<uint8>(CppForm);
-	if (Ar.IsLoading() && Ar.UEVer() < VER_UE4_ENUM_CLASS_SUPPORT)
+	if (IsOldForm(Ar) && Ar.UEVer() < VER_UE4_ENUM_CLASS_SUPPORT)
 	{
-		bool bNamespace = false;
+		bool bNamespace = Form != 0;
 		Ar << bNamespace;
 		Form = bNamespace ? 1 : 0;
 	}
@@ -412,6 +437,13 @@ void SerializeMetaDataValues(FArchive& Ar, TMap<FName, FString>& Values)
 void UMetaData::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
+	if (Ar.IsSaving() && Ar.IsPersistent())
+	{
+		// Whoever changed metadata changed the package's.
+		const FMetaData& OfPackage = GetOutermost()->GetMetaData();
+		ObjectMetaDataMap = OfPackage.ObjectMetaDataMap;
+		RootMetaDataMap = OfPackage.RootMetaDataMap;
+	}
 	Ar.UsingCustomVersion(FEditorObjectVersion::GUID);
 	int32 Count = ObjectMetaDataMap.Num();
 	SerializeCount(Ar, Count, 8);
@@ -439,7 +471,7 @@ void UMetaData::Serialize(FArchive& Ar)
 			SerializeMetaDataValues(Ar, Pair.Value);
 		}
 	}
-	if (!Ar.IsLoading() || Ar.CustomVer(FEditorObjectVersion::GUID) >= FEditorObjectVersion::RootMetaDataSupport)
+	if (!IsOldForm(Ar) || Ar.CustomVer(FEditorObjectVersion::GUID) >= FEditorObjectVersion::RootMetaDataSupport)
 	{
 		SerializeMetaDataValues(Ar, RootMetaDataMap);
 	}

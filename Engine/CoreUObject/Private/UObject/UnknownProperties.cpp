@@ -2,6 +2,7 @@
 
 #include "Serialization/Archive.h"
 #include "UObject/LinkerLoad.h"
+#include "UObject/LinkerSave.h"
 #include "UObject/Object.h"
 #include "UObject/WeakObjectPtr.h"
 
@@ -26,9 +27,16 @@ TArray<FSerializedObject>& GetStack()
 	return Stack;
 }
 
-TMap<FWeakObjectPtr, TMap<FString, TArray<FUnknownProperty>>>& GetStore()
+struct FKeptValues
 {
-	static TMap<FWeakObjectPtr, TMap<FString, TArray<FUnknownProperty>>> Store;
+	/** The linker whose tables the values refer to. */
+	uint64 LinkerId = 0;
+	TMap<FString, TArray<FUnknownProperty>> ByPath;
+};
+
+TMap<FWeakObjectPtr, FKeptValues>& GetStore()
+{
+	static TMap<FWeakObjectPtr, FKeptValues> Store;
 	return Store;
 }
 
@@ -60,23 +68,38 @@ void FUnknownProperties::Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8
 	{
 		return;
 	}
-	TArray<FUnknownProperty>& List = GetStore().FindOrAdd(FWeakObjectPtr(GetStack().Last().Object)).FindOrAdd(GetCurrentPath());
-	List.Add({Tag, MoveTemp(Value)});
+	FLinkerLoad& Linker = *static_cast<FLinkerLoad*>(Ar.GetLinker());
+	FKeptValues& Kept = GetStore().FindOrAdd(FWeakObjectPtr(GetStack().Last().Object));
+	if (Kept.LinkerId != Linker.GetId())
+	{
+		// The object is read from another file than before.
+		Kept.ByPath.Empty();
+		Kept.LinkerId = Linker.GetId();
+	}
+	Kept.ByPath.FindOrAdd(GetCurrentPath()).Add({Tag, MoveTemp(Value)});
+	Linker.MarkKeptBytes();
 }
 
 const TArray<FUnknownProperty>* FUnknownProperties::FindForWriting(FArchive& Ar)
 {
-	if (!IsPackageArchive(Ar))
+	const FKeptValues* const Kept = IsPackageArchive(Ar) ? GetStore().Find(FWeakObjectPtr(GetStack().Last().Object)) : nullptr;
+	if (!Kept)
 	{
 		return nullptr;
 	}
-	const TMap<FString, TArray<FUnknownProperty>>* const OfObject = FindAll(GetStack().Last().Object);
-	return OfObject ? OfObject->Find(GetCurrentPath()) : nullptr;
+	const FLinkerLoad* const Origin = static_cast<FLinkerSave*>(Ar.GetLinker())->GetOrigin();
+	if (!Origin || Origin->GetId() != Kept->LinkerId)
+	{
+		UE_LOG(LogClass, Warning, TEXT("%s has values of properties that are not known here; they belong to the package that it came from and are not written into %s"), *GetStack().Last().Object->GetPathName(), *Ar.GetArchiveName());
+		return nullptr;
+	}
+	return Kept->ByPath.Find(GetCurrentPath());
 }
 
 const TMap<FString, TArray<FUnknownProperty>>* FUnknownProperties::FindAll(const UObject* Object)
 {
-	return GetStore().Find(FWeakObjectPtr(Object));
+	const FKeptValues* const Kept = GetStore().Find(FWeakObjectPtr(Object));
+	return Kept ? &Kept->ByPath : nullptr;
 }
 
 void FUnknownProperties::Remove(const UObject* Object)

@@ -18,6 +18,8 @@ public:
 	TArray<FObjectExport> ExportMap;
 	/** For each export, what must be there before it. */
 	TArray<TArray<FPackageIndex>> DependsMap;
+	/** What exports name as their needs, in the order of FObjectExport::FirstExportDependency. Cooked packages have them. */
+	TArray<FPackageIndex> PreloadDependencies;
 	TArray<FName> SoftPackageReferenceList;
 	TArray<FSoftObjectPath> SoftObjectPathList;
 	/** The package in memory; null while a file is only inspected. */

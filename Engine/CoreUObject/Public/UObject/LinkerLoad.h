@@ -4,9 +4,13 @@
 #include "UObject/Linker.h"
 #include "UObject/WeakObjectPtr.h"
 
+class FPackageBytes;
+enum class EPackageSection : uint8;
+
 /**
  * Reads one package file. Tables first; then objects, each when it is first asked for. Bytes are from outside: every offset
- * and count is checked, a bad one ends in an error text with its offset. Game thread.
+ * and count is checked, a bad one ends in an error text with its offset. A large file is read where it is asked for, and stays
+ * open. Game thread.
  */
 class COREUOBJECT_API FLinkerLoad : public FLinker, public FArchive
 {
@@ -14,6 +18,7 @@ public:
 	/** Reads the tables. Null with the reason when they cannot be read. Package may be null to inspect a file only. */
 	static TUniquePtr<FLinkerLoad> Create(const FString& Filename, UPackage* Package, FString& OutError);
 	static TUniquePtr<FLinkerLoad> Create(TArray<uint8>&& Bytes, const FString& Filename, UPackage* Package, FString& OutError);
+	~FLinkerLoad() override;
 
 	/** Creates and reads every export. Errors in single objects are in GetErrors(); their bytes are kept. */
 	void LoadAllObjects();
@@ -28,18 +33,37 @@ public:
 
 	/** Each says what and at which offset. */
 	const TArray<FString>& GetErrors() const { return Errors; }
-	TArrayView<const uint8> GetExportBytes(int32 ExportIndex) const;
+	/** A copy of the export's bytes; shorter than the export when the file can no longer be read. */
+	TArray<uint8> GetExportBytes(int32 ExportIndex) const;
+	/** A copy of any bytes of the file, empty when there are not as many. */
+	TArray<uint8> ReadBytes(int64 Offset, int64 Length) const;
+	int64 GetFileSize() const;
+	/** Makes reads from End on fail. Answers where they failed before. */
+	int64 LimitReads(int64 End);
+	/** Where the archive's error was noticed; -1 while there is none. */
+	int64 GetErrorPosition() const { return IsError() ? ErrorPosition : -1; }
+	/** Where the table's entries end in the file; -1 for what is not read at once. */
+	int64 GetTableEnd(EPackageSection Section) const;
+	/** Differs between any two linkers of this process. */
+	uint64 GetId() const { return Id; }
 
 	/** What an object's class left unread at the end of its bytes; null when it read all. */
 	const TArray<uint8>* FindUnreadTail(const UObject* Object) const { return UnreadTails.Find(FWeakObjectPtr(Object)); }
 	/** Whether an object's bytes must be written back as they are: its class is unknown, or reading them failed. */
 	bool MustKeepBytes(const UObject* Object) const { return OpaqueObjects.Contains(FWeakObjectPtr(Object)); }
 	int32 FindExportOf(const UObject* Object) const;
+	/** The object that the file names as an export's outer; null when it is gone. */
+	UObject* FindOuterOf(int32 ExportIndex) const;
 	/** Whether the export was made once and its object has been deleted since. */
 	bool IsDeleted(int32 ExportIndex) const { return ReadExports.Contains(ExportIndex) && !ExportMap[ExportIndex].Object.Get(); }
 	/** Whether something of the file is kept as bytes that refer to its tables by index. */
 	bool HasKeptBytes() const { return bHasKeptBytes; }
 	void MarkKeptBytes() { bHasKeptBytes = true; }
+	/** Notes what the objects look like, to tell later which of them have changed. Once they are ready for use. */
+	void TakeFingerprints();
+	/** Whether the object would be written as its bytes in the file tell. False before TakeFingerprints. */
+	bool IsUnchanged(int32 ExportIndex) const;
+	bool IsMetaDataUnchanged() const;
 
 	// FArchive
 	FString GetArchiveName() const override { return Filename; }
@@ -59,15 +83,20 @@ public:
 	FArchive& operator<<(FWeakObjectPtr& Value) override;
 
 private:
-	FLinkerLoad(TArray<uint8>&& InBytes, const FString& InFilename, UPackage* Package);
+	FLinkerLoad(TUniquePtr<FPackageBytes>&& InFile, const FString& InFilename, UPackage* Package);
 
+	static TUniquePtr<FLinkerLoad> CreateFromFile(TUniquePtr<FPackageBytes>&& File, const FString& Filename, UPackage* Package, FString& OutError);
 	bool LoadTables(FString& OutError);
 	bool LoadNames(FString& OutError);
 	bool LoadSoftObjectPaths(FString& OutError);
 	bool LoadImportsAndExports(FString& OutError);
 	bool CheckExports(FString& OutError) const;
+	bool CheckEndOfFile(FString& OutError) const;
+	void LoadDependencies();
 	void LoadSoftPackageReferences();
 	void LoadMetaData();
+	void EndTable(EPackageSection Section);
+	void WarnOfMissingImport(int32 ImportIndex, const FString& Path);
 	bool BeginTable(int32 Count, int32 Offset, int64 MinEntryBytes, const TCHAR* What, FString& OutError);
 	UClass* FindExportClass(int32 ExportIndex);
 	UObject* FindOuterOfExport(int32 ExportIndex);
@@ -75,7 +104,8 @@ private:
 	UObject* FindImportInPackage(int32 ImportIndex, const FString& Path);
 	void ReadExport(int32 ExportIndex);
 
-	TArray<uint8> Bytes;
+	TUniquePtr<FPackageBytes> File;
+	uint64 Id;
 	int64 Position = 0;
 	/** Reads end here: the file's end, or that of the export being read. */
 	int64 Limit = 0;
@@ -87,5 +117,12 @@ private:
 	TSet<int32> ImportsInCreation;
 	TMap<FWeakObjectPtr, TArray<uint8>> UnreadTails;
 	TSet<FWeakObjectPtr> OpaqueObjects;
+	TMap<uint8, int64> TableEnds;
+	/** Places of objects and paths in the export table, so that neither is looked for one by one. */
+	TMap<const UObject*, int32> ExportsByObject;
+	mutable TMap<FString, int32> ExportsByPath;
+	/** By export; an object that is gone has none. */
+	TMap<int32, uint64> Fingerprints;
+	uint64 MetaDataFingerprint = 0;
 	bool bHasKeptBytes = false;
 };

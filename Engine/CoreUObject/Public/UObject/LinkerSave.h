@@ -4,24 +4,34 @@
 #include "UObject/Linker.h"
 
 class FLinkerLoad;
+enum class EPackageSection : uint8;
+struct FPackageSectionRange;
 
 /**
  * Writes one package. Names, imports, exports and soft paths get their table entries as the objects' values are written, so
- * an object that is referred to and belongs to the package is written too. Game thread.
+ * an object that is referred to and belongs to the package is written too. A new package has the newest form. One that was
+ * loaded can be written in its own: its tables grow at their ends, objects that have not changed keep their bytes, and every
+ * section of the file is carried over. Game thread.
  */
 class COREUOBJECT_API FLinkerSave : public FLinker, public FArchive
 {
 public:
 	FLinkerSave(UPackage* Package, const FString& InFilename);
 
-	/** Takes over the tables of the file that the package came from, so that bytes kept of it stay right. */
-	void StartFromTablesOf(const FLinkerLoad& Loaded);
+	/** Takes over form and tables of the file that the package came from, so that bytes kept of it stay right. */
+	void StartFromTablesOf(FLinkerLoad& Loaded);
+	/** In the newest form: carries over the sections of that file which do not depend on its tables. */
+	void CarrySectionsOf(FLinkerLoad& Loaded) { Carried = &Loaded; }
+	/** In its own form: writes objects by their values even when they have not changed. */
+	void WriteUnchangedObjectsAnew() { bWritesUnchanged = true; }
+	/** The linker whose tables this continues; null for a package in the newest form. */
+	const FLinkerLoad* GetOrigin() const { return Origin; }
 	/** Adds the object, its outers within the package, and (as they are written) what it refers to. */
 	FPackageIndex AddExport(UObject* Object);
 	/** Writes every export's value. False with the reason when a value cannot be written. */
 	[[nodiscard]] bool WriteExports(FString& OutError);
-	/** The whole file. Call after WriteExports. */
-	TArray<uint8> MakeFile();
+	/** The whole file. Call after WriteExports. Empty with the reason when it would be too large or the old file cannot be read. */
+	TArray<uint8> MakeFile(FString& OutError);
 
 	// FArchive
 	FString GetArchiveName() const override { return Filename; }
@@ -47,20 +57,48 @@ private:
 	FPackageIndex MapObject(UObject* Object);
 	FPackageIndex AddImport(UObject* Object);
 	void WriteExport(int32 ExportIndex);
+	void WriteValues(int32 ExportIndex, UObject* Object);
+	bool KeepsBytes(int32 ExportIndex, UObject* Object) const;
+	bool IsDeleted(int32 ExportIndex, const UObject* Object) const;
+	FObjectExport DescribeExport(int32 ExportIndex, UObject* Object);
+	void MapNamesOfTables();
 	void WriteDeletedExport(int32 ExportIndex);
 	void WriteMetaData();
 	void WriteNames();
+	void WriteNameEntry(const FName& Name);
+	void AddSoftPackageReferences();
 	void WriteTables();
 	void WriteSoftPackageReferences();
 	void WriteAssetRegistryData();
 	void WriteDependencyFlags();
 	void WritePayloadTrailer();
 	bool IsSaved(const UObject* Object) const;
+	TArray<uint8> MakeNewFile(FString& OutError);
+	TArray<uint8> MakeFileOfOrigin(FString& OutError);
+	bool WriteSectionsOfOrigin(const TArray<FPackageSectionRange>& Ranges, const TArray<uint8>& Values, FString& OutError);
+	void WriteSectionOfOrigin(const FPackageSectionRange& Range);
+	void WriteValuesOfOrigin(const FPackageSectionRange& Range, const TArray<uint8>& Values);
+	void MarkChanged(const TArray<uint8>& Values);
+	void CopyBytes(const FLinkerLoad& From, int64 Start, int64 End);
+	void CopyThumbnails(FLinkerLoad& From, int64 Start, int64 End);
+	void CopyAssetRegistryData(int64 Start, int64 End);
+	void WriteAssetTags(const UObject* Asset, TArray<TPair<FString, FString>>&& Kept);
+	void CopyCarried(EPackageSection Section);
+	void ClearUnusedImports();
+	void MarkImportsIn(TArrayView<const uint8> Bytes);
 
 	/** Where Serialize writes: the exports' values while those are written, then the header. */
 	TArray<uint8> Payload;
 	int64 Position = 0;
-	const FLinkerLoad* Origin = nullptr;
+	FLinkerLoad* Origin = nullptr;
+	FLinkerLoad* Carried = nullptr;
+	bool bWritesUnchanged = false;
+	/** Whether anything differs from the origin. */
+	bool bIsChanged = false;
+	/** Whether values refer to an import. Kept bytes are taken to refer to whatever they might. */
+	TArray<bool> UsedImports;
+	/** Where each export's value stands among the values, before it has its place in the file. */
+	TArray<int64> ValueOffsets;
 	/** Places of the plain names, by their text in its own case: the name table keeps what a name looks like. */
 	TMap<FNameEntryId, int32> NameIndices;
 	TMap<UObject*, FPackageIndex> ObjectIndices;

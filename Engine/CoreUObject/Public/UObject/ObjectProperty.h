@@ -119,6 +119,8 @@ class COREUOBJECT_API FClassProperty : public FObjectProperty
 	UClass* MetaClass = nullptr;
 
 	void SetMetaClass(UClass* NewMetaClass) { MetaClass = NewMetaClass; }
+	/** Packages call a class what it is, an object. */
+	FName GetIDForTag() const override { return FObjectProperty::StaticClass()->GetFName(); }
 	void Serialize(FArchive& Ar) override;
 	void PostDuplicate(const FField& InField) override;
 	void AddReferencedObjects(FReferenceCollector& Collector) override;
@@ -168,6 +170,7 @@ class COREUOBJECT_API FSoftClassProperty : public FSoftObjectProperty
 	UClass* MetaClass = nullptr;
 
 	void SetMetaClass(UClass* NewMetaClass) { MetaClass = NewMetaClass; }
+	FName GetIDForTag() const override { return FSoftObjectProperty::StaticClass()->GetFName(); }
 	void Serialize(FArchive& Ar) override;
 	void PostDuplicate(const FField& InField) override;
 	void AddReferencedObjects(FReferenceCollector& Collector) override;

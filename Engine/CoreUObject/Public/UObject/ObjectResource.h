@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Guid.h"
 #include "Serialization/Archive.h"
 #include "UObject/ObjectMacros.h"
 #include "UObject/WeakObjectPtr.h"
@@ -68,6 +69,8 @@ struct COREUOBJECT_API FObjectExport : public FObjectResource
 	bool bIsInheritedInstance = false;
 	bool bGeneratePublicHash = false;
 	uint32 PackageFlags = 0;
+	/** In older packages alone. */
+	FGuid PackageGuid;
 	int32 FirstExportDependency = -1;
 	int32 SerializationBeforeSerializationDependencies = 0;
 	int32 CreateBeforeSerializationDependencies = 0;

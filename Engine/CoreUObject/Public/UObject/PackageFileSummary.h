@@ -68,12 +68,14 @@ struct COREUOBJECT_API FPackageFileSummary
 	int32 ThumbnailTableOffset = 0;
 	FGuid Guid;
 	FGuid PersistentGuid;
+	FGuid OwnerPersistentGuid;
 	TArray<FGenerationInfo> Generations;
 	FSavedEngineVersion SavedByEngineVersion;
 	FSavedEngineVersion CompatibleWithEngineVersion;
 	uint32 CompressionFlags = 0;
 	uint32 PackageSource = 0;
 	TArray<FString> AdditionalPackagesToCook;
+	int32 TextureAllocationCount = 0;
 	int32 AssetRegistryDataOffset = 0;
 	int64 BulkDataStartOffset = 0;
 	int32 WorldTileInfoDataOffset = 0;

@@ -331,9 +331,15 @@ void UEdGraphNode::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
 	Ar.UsingCustomVersion(FBlueprintsObjectVersion::GUID);
-	if (Ar.CustomVer(FBlueprintsObjectVersion::GUID) >= FBlueprintsObjectVersion::EdGraphPinOptimized || !Ar.IsLoading())
+	const bool bIsPackage = Ar.IsLoading() || Ar.IsPersistent();
+	if (!bIsPackage || Ar.CustomVer(FBlueprintsObjectVersion::GUID) >= FBlueprintsObjectVersion::EdGraphPinOptimized)
 	{
 		UEdGraphPin::SerializeAsOwningNode(Ar, Pins);
+	}
+	else if (Ar.IsSaving() && Pins.Num() > 0)
+	{
+		// Pins were objects of their own in packages of that version.
+		Ar.SetError();
 	}
 }
 

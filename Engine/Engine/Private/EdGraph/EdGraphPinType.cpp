@@ -37,6 +37,17 @@ void ConvertToReal(FName& Category, FName& SubCategory)
 	}
 }
 
+/** The names that a package of the archive's version has for a type. */
+void ConvertFromReal(const FArchive& Ar, FName& Category, FName& SubCategory)
+{
+	const bool bIsOldPackage = Ar.IsSaving() && Ar.IsPersistent() && Ar.CustomVer(FUE5ReleaseStreamObjectVersion::GUID) < FUE5ReleaseStreamObjectVersion::BlueprintPinsUseRealNumbers;
+	if (bIsOldPackage && Category == RealCategory)
+	{
+		Category = FloatCategory;
+		SubCategory = FName();
+	}
+}
+
 template <typename FlagType>
 void SerializeFlag(FArchive& Ar, FlagType&& Get, TFunctionRef<void(bool)> Set)
 {
@@ -74,8 +85,11 @@ FArchive& operator<<(FArchive& Ar, FEdGraphTerminalType& Type)
 	Ar.UsingCustomVersion(FFrameworkObjectVersion::GUID);
 	Ar.UsingCustomVersion(FReleaseObjectVersion::GUID);
 	Ar.UsingCustomVersion(FUE5ReleaseStreamObjectVersion::GUID);
-	SerializeName(Ar, Type.TerminalCategory);
-	SerializeName(Ar, Type.TerminalSubCategory);
+	FName Category = Type.TerminalCategory;
+	FName SubCategory = Type.TerminalSubCategory;
+	ConvertFromReal(Ar, Category, SubCategory);
+	SerializeName(Ar, Category);
+	SerializeName(Ar, SubCategory);
 
 	UObject* SubCategoryObject = Type.TerminalSubCategoryObject.Get();
 	Ar << SubCategoryObject;
@@ -87,6 +101,8 @@ FArchive& operator<<(FArchive& Ar, FEdGraphTerminalType& Type)
 	}
 	if (Ar.IsLoading())
 	{
+		Type.TerminalCategory = Category;
+		Type.TerminalSubCategory = SubCategory;
 		Type.TerminalSubCategoryObject = SubCategoryObject;
 		if (Ar.CustomVer(FUE5ReleaseStreamObjectVersion::GUID) < FUE5ReleaseStreamObjectVersion::BlueprintPinsUseRealNumbers)
 		{
@@ -138,12 +154,17 @@ bool FEdGraphPinType::Serialize(FArchive& Ar)
 		return false;
 	}
 
-	SerializeName(Ar, PinCategory);
-	SerializeName(Ar, PinSubCategory);
+	FName Category = PinCategory;
+	FName SubCategory = PinSubCategory;
+	ConvertFromReal(Ar, Category, SubCategory);
+	SerializeName(Ar, Category);
+	SerializeName(Ar, SubCategory);
 	UObject* SubCategoryObject = PinSubCategoryObject.Get();
 	Ar << SubCategoryObject;
 	if (Ar.IsLoading())
 	{
+		PinCategory = Category;
+		PinSubCategory = SubCategory;
 		PinSubCategoryObject = SubCategoryObject;
 	}
 

@@ -53,7 +53,8 @@ void UBlueprintCore::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
 	Ar.UsingCustomVersion(FFrameworkObjectVersion::GUID);
-	if (Ar.IsLoading() && Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::BlueprintGeneratedClassIsAlwaysAuthoritative)
+	const bool bIsPackage = Ar.IsLoading() || Ar.IsPersistent();
+	if (bIsPackage && Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::BlueprintGeneratedClassIsAlwaysAuthoritative)
 	{
 		bool bGeneratedClassIsAuthoritative = true;
 		Ar << bGeneratedClassIsAuthoritative;

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/PropertyTag.h"
+
+class FJsonObject;
+class FJsonValue;
+class FLinkerLoad;
+
+/**
+ * Reads saved values as JSON from their tags alone, whether or not their classes are known here. A value that cannot be read is
+ * told by its bytes. Nesting and the number of values are bounded.
+ */
+class FTaggedValueReader
+{
+public:
+	explicit FTaggedValueReader(FLinkerLoad& InLinker)
+		: Linker(InLinker)
+	{
+	}
+
+	/** The properties from here to the end of the list. False when a tag is damaged or ends beyond End; OutEnd is where it ended. */
+	bool ReadProperties(int64 Start, int64 End, TArray<TSharedPtr<FJsonValue>>& OutProperties, int64& OutEnd);
+
+private:
+	using FValue = TSharedPtr<FJsonValue>;
+
+	FValue ReadTagged(const FPropertyTag& Tag, int64 End);
+	/** Null when the value cannot be read. Size is that of all elements' bytes, -1 where it is not known. */
+	FValue Read(const FPropertyTypeName& Type, int64 Size);
+	FValue ReadStruct(FName StructName, int64 Size);
+	FValue ReadTaggedStruct();
+	FValue ReadPinType();
+	FValue ReadTerminalType();
+	FValue ReadArray(const FPropertyTypeName& Type, int64 Size);
+	FValue ReadSet(const FPropertyTypeName& Type);
+	FValue ReadMap(const FPropertyTypeName& Type, int64 Size);
+	FValue ReadPairs(const FPropertyTypeName& Key, const FPropertyTypeName& Value);
+	FValue ReadElements(const FPropertyTypeName& Element, int32 Count, int64 Size);
+	FValue ReadByte(const FPropertyTypeName& Type, int64 Size);
+	FValue ReadDelegate();
+	FValue ReadObject();
+	FValue ReadText();
+	FValue ReadOldName();
+	FValue MakeBytes(int64 Start, int64 Size) const;
+	bool ReadCount(int32& OutCount);
+
+	FLinkerLoad& Linker;
+	int32 Depth = 0;
+	int32 NumValues = 0;
+};
