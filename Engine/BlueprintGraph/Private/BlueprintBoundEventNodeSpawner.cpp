@@ -36,7 +36,7 @@ UBlueprintBoundEventNodeSpawner* UBlueprintBoundEventNodeSpawner::Create(
 	TSubclassOf<UK2Node_Event> NodeClass, FMulticastDelegateProperty* EventDelegate, UObject* Outer)
 {
 	UBlueprintBoundEventNodeSpawner* const Spawner = NewObject<UBlueprintBoundEventNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->SetField(EventDelegate, nullptr);
 	return Spawner;
 }

@@ -7,7 +7,7 @@ UBlueprintDelegateNodeSpawner* UBlueprintDelegateNodeSpawner::Create(
 	TSubclassOf<UK2Node_BaseMCDelegate> NodeClass, FMulticastDelegateProperty const* const Property, UObject* Outer)
 {
 	UBlueprintDelegateNodeSpawner* const Spawner = NewObject<UBlueprintDelegateNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->SetField(Property, nullptr);
 	return Spawner;
 }

@@ -53,7 +53,7 @@ UBlueprintEventNodeSpawner* UBlueprintEventNodeSpawner::Create(UFunction const* 
 UBlueprintEventNodeSpawner* UBlueprintEventNodeSpawner::Create(TSubclassOf<UK2Node_Event> NodeClass, FName CustomEventName, UObject* Outer)
 {
 	UBlueprintEventNodeSpawner* const Spawner = NewObject<UBlueprintEventNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->CustomEventName = CustomEventName;
 	return Spawner;
 }

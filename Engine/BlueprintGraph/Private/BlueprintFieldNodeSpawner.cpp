@@ -8,7 +8,7 @@
 UBlueprintFieldNodeSpawner* UBlueprintFieldNodeSpawner::Create(TSubclassOf<UK2Node> NodeClass, FFieldVariant InField, UObject* Outer, UClass const* OwnerClass)
 {
 	UBlueprintFieldNodeSpawner* const Spawner = NewObject<UBlueprintFieldNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->SetField(InField, OwnerClass);
 	return Spawner;
 }

@@ -43,7 +43,7 @@ UBlueprintFunctionNodeSpawner* UBlueprintFunctionNodeSpawner::Create(UFunction c
 UBlueprintFunctionNodeSpawner* UBlueprintFunctionNodeSpawner::Create(TSubclassOf<UK2Node_CallFunction> NodeClass, UFunction const* const Function, UObject* Outer)
 {
 	UBlueprintFunctionNodeSpawner* const Spawner = NewObject<UBlueprintFunctionNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->SetField(Function, nullptr);
 	return Spawner;
 }

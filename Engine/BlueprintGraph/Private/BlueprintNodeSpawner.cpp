@@ -8,7 +8,7 @@
 UBlueprintNodeSpawner* UBlueprintNodeSpawner::Create(TSubclassOf<UEdGraphNode> const NodeClass, UObject* Outer, FCustomizeNodeDelegate PostSpawnDelegate)
 {
 	UBlueprintNodeSpawner* const Spawner = NewObject<UBlueprintNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->CustomizeNodeDelegate = PostSpawnDelegate;
 	return Spawner;
 }

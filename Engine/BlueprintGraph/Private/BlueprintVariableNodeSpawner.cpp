@@ -8,7 +8,7 @@ UBlueprintVariableNodeSpawner* UBlueprintVariableNodeSpawner::CreateFromMemberOr
 	TSubclassOf<UK2Node_Variable> NodeClass, FProperty const* VarProperty, UEdGraph* VarContext, UClass* OwnerClass)
 {
 	UBlueprintVariableNodeSpawner* const Spawner = NewObject<UBlueprintVariableNodeSpawner>(GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->SetField(VarProperty, OwnerClass);
 	Spawner->LocalVarOuter = VarContext;
 	Spawner->LocalVarName = VarContext ? VarProperty->GetFName() : NAME_None;
@@ -19,7 +19,7 @@ UBlueprintVariableNodeSpawner* UBlueprintVariableNodeSpawner::CreateFromLocal(
 	TSubclassOf<UK2Node_Variable> NodeClass, UEdGraph* VarContext, FBPVariableDescription const& VarDesc, FProperty* VarProperty, UObject* Outer)
 {
 	UBlueprintVariableNodeSpawner* const Spawner = NewObject<UBlueprintVariableNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
-	Spawner->NodeClass = NodeClass;
+	Spawner->NodeClass = NodeClass.Get();
 	Spawner->SetField(VarProperty, nullptr);
 	Spawner->LocalVarOuter = VarContext;
 	Spawner->LocalVarName = VarDesc.VarName;
