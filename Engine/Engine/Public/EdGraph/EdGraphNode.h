@@ -256,6 +256,8 @@ public:
 	virtual void OnUpdateCommentText(const FString& NewComment);
 	virtual void ResizeNode(const FVector2D& NewSize) {}
 	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const {}
+	/** The actions that the class offers, told by its default object. */
+	virtual void GetMenuActions(class FBlueprintActionDatabaseRegistrar& ActionRegistrar) const {}
 	virtual void AddSearchMetaDataInfo(TArray<struct FSearchTagDataPair>& OutTaggedMetaData) const {}
 
 	// State

@@ -1,0 +1,64 @@
+#include "BlueprintFunctionNodeSpawner.h"
+
+#include "EdGraphSchema_K2.h"
+#include "K2Node_CallArrayFunction.h"
+#include "K2Node_CallFunction.h"
+#include "K2Node_CommutativeAssociativeBinaryOperator.h"
+#include "UObject/UObjectGlobals.h"
+
+namespace
+{
+/** Functions with pins of a kind that a plain call does not make. */
+TSubclassOf<UK2Node_CallFunction> ChooseNodeClass(const UFunction& Function)
+{
+	struct FChoice
+	{
+		const TCHAR* MetaData;
+		UClass* NodeClass;
+	};
+	// A node class of a module that may be absent is looked for by name.
+	static const FChoice Choices[] = {
+		{TEXT("CommutativeAssociativeBinaryOperator"), UK2Node_CommutativeAssociativeBinaryOperator::StaticClass()},
+		{TEXT("ArrayParm"), UK2Node_CallArrayFunction::StaticClass()},
+		{TEXT("MaterialParameterCollectionFunction"), FindObject<UClass>(nullptr, TEXT("/Script/BlueprintGraph.K2Node_CallMaterialParameterCollectionFunction"))},
+		{TEXT("DataTablePin"), FindObject<UClass>(nullptr, TEXT("/Script/BlueprintGraph.K2Node_CallDataTableFunction"))},
+	};
+	for (const FChoice& Choice : Choices)
+	{
+		const bool bSaysOtherwise = Function.GetMetaData(Choice.MetaData).Equals(TEXT("false"), ESearchCase::IgnoreCase);
+		if (Choice.NodeClass && Function.HasMetaData(Choice.MetaData) && !bSaysOtherwise)
+		{
+			return Choice.NodeClass;
+		}
+	}
+	return UK2Node_CallFunction::StaticClass();
+}
+}
+
+UBlueprintFunctionNodeSpawner* UBlueprintFunctionNodeSpawner::Create(UFunction const* const Function, UObject* Outer)
+{
+	return Create(ChooseNodeClass(*Function), Function, Outer);
+}
+
+UBlueprintFunctionNodeSpawner* UBlueprintFunctionNodeSpawner::Create(TSubclassOf<UK2Node_CallFunction> NodeClass, UFunction const* const Function, UObject* Outer)
+{
+	UBlueprintFunctionNodeSpawner* const Spawner = NewObject<UBlueprintFunctionNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
+	Spawner->NodeClass = NodeClass.Get();
+	Spawner->SetField(Function, nullptr);
+	return Spawner;
+}
+
+UEdGraphNode* UBlueprintFunctionNodeSpawner::Invoke(UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D const Location) const
+{
+	const UFunction* const Function = GetFunction();
+	if (!Function)
+	{
+		return nullptr;
+	}
+	const auto Customize = [this, Function](UEdGraphNode* Node, bool bIsTemplate)
+	{
+		CastChecked<UK2Node_CallFunction>(Node)->SetFromFunction(Function);
+		CustomizeNodeDelegate.ExecuteIfBound(Node, bIsTemplate);
+	};
+	return SpawnEdGraphNode(NodeClass, ParentGraph, Bindings, Location, FCustomizeNodeDelegate::CreateLambda(Customize));
+}
