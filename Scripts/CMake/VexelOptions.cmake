@@ -1,8 +1,7 @@
 # What every target is built with.
 find_program(VEXEL_CCACHE ccache)
 if(VEXEL_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-	# The precompiled header's own time stamps and macros do not change what is compiled from it.
-	set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_COMMAND} -E env CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime ${VEXEL_CCACHE})
+	set(CMAKE_CXX_COMPILER_LAUNCHER ${CMAKE_SOURCE_DIR}/Scripts/cached-compiler ${VEXEL_CCACHE})
 endif()
 
 add_library(vexel_options INTERFACE)
