@@ -4,6 +4,8 @@
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraph/EdGraphPin.h"
 #include "Engine/Blueprint.h"
+#include "Engine/SCS_Node.h"
+#include "Engine/SimpleConstructionScript.h"
 
 namespace
 {
@@ -26,6 +28,13 @@ void StableIds::Fix(UEdGraphNode& Node)
 void StableIds::Fix(UBlueprint& Blueprint)
 {
 	Blueprint.GenerateDeterministicGuid();
+	if (Blueprint.SimpleConstructionScript)
+	{
+		for (USCS_Node* const Node : Blueprint.SimpleConstructionScript->GetAllNodes())
+		{
+			Node->VariableGuid = MakeId(Blueprint, Node->GetVariableName().ToString());
+		}
+	}
 	TArray<UEdGraph*> Graphs;
 	Blueprint.GetAllGraphs(Graphs);
 	for (UEdGraph* const Graph : Graphs)
