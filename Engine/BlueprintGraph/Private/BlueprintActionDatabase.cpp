@@ -1,10 +1,13 @@
 #include "BlueprintActionDatabase.h"
 
+#include "BlueprintActionDatabaseRegistrar.h"
 #include "BlueprintClassActions.h"
 #include "BlueprintNodeSpawner.h"
 #include "EdGraph/EdGraphNode.h"
 #include "Engine/Blueprint.h"
+#include "UObject/CoreUObjectDelegates.h"
 #include "UObject/ReferenceCollector.h"
+#include "UObject/UObjectHash.h"
 #include "UObject/UObjectIterator.h"
 
 FBlueprintActionDatabase* FBlueprintActionDatabase::Instance = nullptr;
@@ -23,6 +26,7 @@ FBlueprintActionDatabase* FBlueprintActionDatabase::TryGet()
 FBlueprintActionDatabase::FBlueprintActionDatabase()
 {
 	Instance = this;
+	FCoreUObjectDelegates::OnAssetLoaded.AddRaw(this, &FBlueprintActionDatabase::RefreshAssetActions);
 	RefreshAll();
 }
 
@@ -38,15 +42,28 @@ void FBlueprintActionDatabase::RefreshAll()
 	ActionRegistry.Empty();
 	ChangedAssets.Empty();
 	++Generation;
-	// Actions are objects too; the classes are listed before any is made.
+	// Actions are objects too: the classes are listed before any is made.
 	TArray<UClass*> Classes;
 	for (TObjectIterator<UClass> Class; Class; ++Class)
 	{
 		Classes.Add(*Class);
 	}
+	FBlueprintActionDatabaseRegistrar Registrar(ActionRegistry);
 	for (UClass* const Class : Classes)
 	{
-		RefreshClassActions(Class);
+		if (Class->IsChildOf(UEdGraphNode::StaticClass()))
+		{
+			Registrar.RegisterNodeClass(*Class);
+		}
+		else if (BlueprintClassActions::IsUsable(*Class) && !UBlueprint::GetBlueprintFromClass(Class))
+		{
+			FActionList Actions;
+			BlueprintClassActions::Add(*Class, Actions);
+			if (!Actions.IsEmpty())
+			{
+				ActionRegistry.FindOrAdd(FObjectKey(Class)).Append(MoveTemp(Actions));
+			}
+		}
 	}
 	for (TObjectIterator<UBlueprint> Blueprint; Blueprint; ++Blueprint)
 	{
@@ -54,19 +71,30 @@ void FBlueprintActionDatabase::RefreshAll()
 	}
 }
 
+FBlueprintActionDatabase::FActionList FBlueprintActionDatabase::GetActionsOfNodes(UObject& Key)
+{
+	FActionRegistry Registry;
+	FBlueprintActionDatabaseRegistrar Registrar(Registry, &Key);
+	TArray<UClass*> NodeClasses;
+	GetDerivedClasses(UEdGraphNode::StaticClass(), NodeClasses);
+	for (UClass* const NodeClass : NodeClasses)
+	{
+		Registrar.RegisterNodeClass(*NodeClass);
+	}
+	FActionList Actions;
+	Registry.RemoveAndCopyValue(FObjectKey(&Key), Actions);
+	return Actions;
+}
+
 void FBlueprintActionDatabase::RefreshClassActions(UClass* Class)
 {
-	FActionList Actions;
-	if (Class->IsChildOf(UEdGraphNode::StaticClass()))
-	{
-		BlueprintClassActions::AddOfNodeClass(*Class, Actions);
-	}
-	else if (UBlueprint* const Blueprint = UBlueprint::GetBlueprintFromClass(Class))
+	if (UBlueprint* const Blueprint = UBlueprint::GetBlueprintFromClass(Class))
 	{
 		RefreshAssetActions(Blueprint);
 		return;
 	}
-	else if (BlueprintClassActions::IsUsable(*Class))
+	FActionList Actions = GetActionsOfNodes(*Class);
+	if (BlueprintClassActions::IsUsable(*Class))
 	{
 		BlueprintClassActions::Add(*Class, Actions);
 	}
@@ -75,7 +103,8 @@ void FBlueprintActionDatabase::RefreshClassActions(UClass* Class)
 
 void FBlueprintActionDatabase::RefreshAssetActions(UObject* AssetObject)
 {
-	if (AssetObject && !AssetObject->HasAnyFlags(RF_ClassDefaultObject | RF_Transient))
+	const bool bGivesActions = Cast<UBlueprint>(AssetObject) || Cast<UScriptStruct>(AssetObject) || Cast<UEnum>(AssetObject);
+	if (bGivesActions && !AssetObject->HasAnyFlags(RF_ClassDefaultObject | RF_Transient))
 	{
 		ChangedAssets.Add(FObjectKey(AssetObject));
 	}
@@ -94,13 +123,21 @@ void FBlueprintActionDatabase::RefreshChangedAssets()
 	ChangedAssets.Empty();
 	for (const FObjectKey& Key : Changed)
 	{
-		UBlueprint* const Blueprint = Cast<UBlueprint>(Key.ResolveObjectPtr());
-		if (Blueprint)
+		UObject* const Asset = Key.ResolveObjectPtr();
+		if (!IsValid(Asset))
 		{
-			FActionList Actions;
-			BlueprintClassActions::AddOfBlueprint(*Blueprint, Actions);
-			SetActions(Blueprint, MoveTemp(Actions));
+			continue;
 		}
+		FActionList Actions;
+		if (UBlueprint* const Blueprint = Cast<UBlueprint>(Asset))
+		{
+			BlueprintClassActions::AddOfBlueprint(*Blueprint, Actions);
+		}
+		else
+		{
+			Actions = GetActionsOfNodes(*Asset);
+		}
+		SetActions(Asset, MoveTemp(Actions));
 	}
 }
 

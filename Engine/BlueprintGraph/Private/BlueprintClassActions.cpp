@@ -1,6 +1,5 @@
 #include "BlueprintClassActions.h"
 
-#include "BlueprintActionDatabaseRegistrar.h"
 #include "BlueprintBoundEventNodeSpawner.h"
 #include "BlueprintComponentNodeSpawner.h"
 #include "BlueprintDelegateNodeSpawner.h"
@@ -27,6 +26,7 @@
 #include "K2Node_RemoveDelegate.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
+#include "UObject/Package.h"
 
 namespace
 {
@@ -192,7 +192,7 @@ void AddMembers(UClass& Class, FActionList& Out)
 
 bool BlueprintClassActions::IsUsable(const UClass& Class)
 {
-	const bool bIsOld = Class.HasAnyClassFlags(CLASS_NewerVersionExists | CLASS_Deprecated) || Class.HasAnyFlags(RF_Transient);
+	const bool bIsOld = Class.HasAnyClassFlags(CLASS_NewerVersionExists | CLASS_Deprecated) || Class.GetOutermost() == GetTransientPackage();
 	return !bIsOld && !Class.IsChildOf(UEdGraphNode::StaticClass());
 }
 
@@ -221,14 +221,4 @@ void BlueprintClassActions::AddOfBlueprint(UBlueprint& Blueprint, FBlueprintActi
 	}
 	AddLocalVariables(Blueprint, OutActions);
 	AddMacros(Blueprint, OutActions);
-}
-
-void BlueprintClassActions::AddOfNodeClass(UClass& NodeClass, FBlueprintActionDatabase::FActionList& OutActions)
-{
-	if (NodeClass.HasAnyClassFlags(CLASS_Abstract | CLASS_NewerVersionExists | CLASS_Deprecated))
-	{
-		return;
-	}
-	FBlueprintActionDatabaseRegistrar Registrar(OutActions, &NodeClass);
-	GetDefault<UEdGraphNode>(&NodeClass)->GetMenuActions(Registrar);
 }

@@ -14,6 +14,4 @@ bool IsUsable(const UClass& Class);
 void Add(UClass& Class, FBlueprintActionDatabase::FActionList& OutActions);
 /** Of the Blueprint's class as it now stands, and of the Blueprint's macros. */
 void AddOfBlueprint(UBlueprint& Blueprint, FBlueprintActionDatabase::FActionList& OutActions);
-/** Of a class of nodes: what the nodes themselves offer. */
-void AddOfNodeClass(UClass& NodeClass, FBlueprintActionDatabase::FActionList& OutActions);
 }

@@ -15,13 +15,18 @@ UBlueprintFieldNodeSpawner* UBlueprintFieldNodeSpawner::Create(TSubclassOf<UK2No
 
 void UBlueprintFieldNodeSpawner::SetField(FFieldVariant InField, UClass const* InOwnerClass)
 {
-	FieldFunction = InField.Get<UFunction>();
+	FieldObject = InField.Get<UField>();
 	if (const FProperty* const Property = InField.Get<FProperty>())
 	{
 		PropertyOwner = Property->GetOwnerStruct();
 		PropertyName = Property->GetFName();
 	}
 	OwnerClass = const_cast<UClass*>(InOwnerClass ? InOwnerClass : InField.GetOwnerClass());
+}
+
+FFieldVariant UBlueprintFieldNodeSpawner::GetField() const
+{
+	return FieldObject.IsValid() ? FFieldVariant(FieldObject.Get()) : FFieldVariant(GetProperty());
 }
 
 FProperty const* UBlueprintFieldNodeSpawner::GetProperty() const
@@ -33,7 +38,7 @@ FProperty const* UBlueprintFieldNodeSpawner::GetProperty() const
 FBlueprintNodeSignature UBlueprintFieldNodeSpawner::GetSpawnerSignature() const
 {
 	FBlueprintNodeSignature Signature(NodeClass.Get());
-	Signature.AddSubObject(FieldFunction.Get());
+	Signature.AddSubObject(FieldObject.Get());
 	if (const UStruct* const Owner = PropertyOwner.Get())
 	{
 		Signature.AddNamedValue(TEXT("Property"), Owner->GetPathName() + TEXT(":") + PropertyName.ToString());
@@ -44,7 +49,7 @@ FBlueprintNodeSignature UBlueprintFieldNodeSpawner::GetSpawnerSignature() const
 
 UEdGraphNode* UBlueprintFieldNodeSpawner::Invoke(UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D const Location) const
 {
-	const FFieldVariant Field = GetFunction() ? FFieldVariant(GetFunction()) : FFieldVariant(GetProperty());
+	const FFieldVariant Field = GetField();
 	if (!Field)
 	{
 		return nullptr;

@@ -1,5 +1,6 @@
 #include "K2Node.h"
 
+#include "BlueprintNodeActions.h"
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
 #include "UObject/Class.h"
@@ -18,6 +19,11 @@ UK2Node::UK2Node(const FObjectInitializer& ObjectInitializer)
 bool UK2Node::CanCreateUnderSpecifiedSchema(const UEdGraphSchema* Schema) const
 {
 	return Schema && Schema->IsA<UEdGraphSchema_K2>();
+}
+
+void UK2Node::GetMenuActions(FBlueprintActionDatabaseRegistrar& ActionRegistrar) const
+{
+	BlueprintNodeActions::Add(*GetClass(), ActionRegistrar);
 }
 
 // Where the node stands

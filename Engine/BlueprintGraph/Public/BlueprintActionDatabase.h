@@ -48,6 +48,8 @@ private:
 
 	void RefreshChangedAssets();
 	void DropDeadEntries();
+	/** The actions that node classes offer for the object. */
+	static FActionList GetActionsOfNodes(UObject& Key);
 	void SetActions(UObject* Key, FActionList&& Actions);
 	void RemoveActions(const FObjectKey& Key, UObject* KeyObject);
 

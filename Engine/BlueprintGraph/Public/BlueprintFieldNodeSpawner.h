@@ -8,7 +8,7 @@
 
 class UK2Node;
 
-/** An action about one member of a class: a function, a property. */
+/** An action about one member of a class, a function or a property, or about an enumeration. */
 UCLASS(Transient)
 class BLUEPRINTGRAPH_API UBlueprintFieldNodeSpawner : public UBlueprintNodeSpawner
 {
@@ -26,9 +26,11 @@ public:
 	virtual FBlueprintNodeSignature GetSpawnerSignature() const override;
 	virtual UEdGraphNode* Invoke(UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D const Location) const override;
 
-	/** Null when the member is gone, or is none of a function's. */
-	UFunction const* GetFunction() const { return FieldFunction.Get(); }
-	/** Null when the member is gone, or is none of a property's. */
+	/** Null when what the action is about is gone. */
+	FFieldVariant GetField() const;
+	/** Null unless the action is about a function. */
+	UFunction const* GetFunction() const { return Cast<UFunction>(FieldObject.Get()); }
+	/** Null unless the action is about a property. */
 	FProperty const* GetProperty() const;
 	/** The class that the member is shown as one of. */
 	UClass const* GetOwnerClass() const { return OwnerClass.Get(); }
@@ -39,7 +41,7 @@ protected:
 	static bool IsMemberOfSelf(const UClass* MemberOwner, const UEdGraph* Graph);
 
 private:
-	TWeakObjectPtr<UFunction> FieldFunction;
+	TWeakObjectPtr<UField> FieldObject;
 	/** A property is found by its name: it goes when its class is built again, and the class stays. */
 	TWeakObjectPtr<UStruct> PropertyOwner;
 	FName PropertyName;

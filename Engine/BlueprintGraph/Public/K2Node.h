@@ -108,6 +108,8 @@ public:
 	virtual bool CanCreateUnderSpecifiedSchema(const UEdGraphSchema* Schema) const override;
 	virtual bool CanSplitPin(const UEdGraphPin* Pin) const override;
 	virtual FString GetDocumentationLink() const override { return FString(); }
+	/** Unless a class says otherwise, it offers a node as it is made. */
+	virtual void GetMenuActions(class FBlueprintActionDatabaseRegistrar& ActionRegistrar) const override;
 
 	/** Makes the pins anew; OldPins are those of before, still with their links. */
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins);

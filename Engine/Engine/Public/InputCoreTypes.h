@@ -29,6 +29,11 @@ struct ENGINE_API FKey
 	bool IsValid() const { return !KeyName.IsNone(); }
 	FName GetFName() const { return KeyName; }
 	FString ToString() const { return KeyName.ToString(); }
+	/** One number that moves: a trigger, one direction of a stick. */
+	bool IsAxis1D() const;
+	/** Two or three numbers that move together. */
+	bool IsVector() const;
+	bool IsGamepadKey() const;
 	/** As a user reads it: "Left Mouse Button", "1". */
 	FText GetDisplayName(bool bLongDisplayName = true) const;
 
@@ -53,4 +58,10 @@ struct TStructOpsTypeTraits<FKey> : public TStructOpsTypeTraitsBase2<FKey>
 		WithImportTextItem = true,
 		WithIdenticalViaEquality = true,
 	};
+};
+
+/** The keys, buttons and axes that the engine knows without a plug-in. */
+struct ENGINE_API EKeys
+{
+	static void GetAllKeys(TArray<FKey>& OutKeys);
 };

@@ -3,6 +3,7 @@
 #include "ObjectFingerprint.h"
 #include "PackageBytes.h"
 #include "UObject/Class.h"
+#include "UObject/CoreUObjectDelegates.h"
 #include "UObject/LazyObjectPtr.h"
 #include "UObject/ObjectPtr.h"
 #include "UObject/Package.h"
@@ -456,6 +457,14 @@ void FLinkerLoad::LoadAllObjects()
 		if (UObject* const Object = Export.Object.Get())
 		{
 			Object->ConditionalPostLoad();
+		}
+	}
+	for (const FObjectExport& Export : ExportMap)
+	{
+		UObject* const Object = Export.Object.Get();
+		if (Object && Object->IsAsset())
+		{
+			FCoreUObjectDelegates::OnAssetLoaded.Broadcast(Object);
 		}
 	}
 }

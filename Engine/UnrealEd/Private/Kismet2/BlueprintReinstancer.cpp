@@ -1,5 +1,6 @@
 #include "BlueprintReinstancer.h"
 
+#include "BlueprintActionDatabase.h"
 #include "BlueprintClassBuilder.h"
 #include "Components/SceneComponent.h"
 #include "Engine/BlueprintGeneratedClass.h"
@@ -107,6 +108,13 @@ void FBlueprintCompileReinstancer::Rebuild(TArray<FString>& OutErrors)
 		CreateNewDefaultObject(Classes[Index], Errors);
 	}
 	ReplaceObjects();
+	if (FBlueprintActionDatabase* const Actions = FBlueprintActionDatabase::TryGet())
+	{
+		for (const FRebuiltClass& Rebuilt : Classes)
+		{
+			Actions->RefreshAssetActions(Rebuilt.Blueprint);
+		}
+	}
 }
 
 void FBlueprintCompileReinstancer::MoveOldLayoutAway(FRebuiltClass& Rebuilt)

@@ -1,5 +1,6 @@
 #include "Kismet2/EnumEditorUtils.h"
 
+#include "BlueprintActionDatabase.h"
 #include "EdGraph/EdGraphPin.h"
 #include "Engine/Blueprint.h"
 #include "Engine/BlueprintGeneratedClass.h"
@@ -190,6 +191,10 @@ UEnum* FEnumEditorUtils::CreateUserDefinedEnum(UObject* InParent, FName EnumName
 	UUserDefinedEnum* const Enum = NewObject<UUserDefinedEnum>(InParent, EnumName, Flags);
 	Enum->SetEnums({}, UEnum::ECppForm::Namespaced);
 	Enum->SetMetaData(TEXT("BlueprintType"), TEXT("true"));
+	if (FBlueprintActionDatabase* const Actions = FBlueprintActionDatabase::TryGet())
+	{
+		Actions->RefreshAssetActions(Enum);
+	}
 	return Enum;
 }
 

@@ -1,5 +1,6 @@
 #include "Kismet2/StructureEditorUtils.h"
 
+#include "BlueprintActionDatabase.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/UserDefinedStruct.h"
 #include "ScopedTransaction.h"
@@ -328,6 +329,10 @@ void FStructureEditorUtils::OnStructureChanged(UUserDefinedStruct* Struct)
 	if (GetData(Struct))
 	{
 		FUserDefinedStructCompiler(*Struct).Compile();
+		if (FBlueprintActionDatabase* const Actions = FBlueprintActionDatabase::TryGet())
+		{
+			Actions->RefreshAssetActions(Struct);
+		}
 	}
 }
 
