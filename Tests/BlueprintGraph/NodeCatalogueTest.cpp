@@ -238,7 +238,7 @@ TEST_F(FNodeCatalogueTest, TextOfEveryNodeBringsItsPinsBack)
 		FEdGraphUtilities::ExportNodesToText({Node}, Text);
 		const FNodeTextImportResult Result = FEdGraphUtilities::ImportNodesFromTextWithResult(OtherGraph, Text);
 		ASSERT_EQ(Result.Nodes.Num(), 1) << TCHAR_TO_UTF8(*Text);
-		EXPECT_EQ(Result.Warnings.Num(), 0);
+		EXPECT_EQ(Result.Warnings.Num(), 0) << (Result.Warnings.Num() > 0 ? TCHAR_TO_UTF8(*Result.Warnings[0].Message) : "");
 		EXPECT_EQ(Describe(*Result.Nodes[0]), Describe(*Node));
 		Result.Nodes[0]->ReconstructNode();
 		EXPECT_EQ(Describe(*Result.Nodes[0]), Describe(*Node)) << "after reconstruction";

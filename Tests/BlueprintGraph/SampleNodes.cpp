@@ -54,6 +54,7 @@ const FAcceptedDifference AcceptedDifferences[] = {
 	{nullptr, nullptr, true, "sub-category", "engines before 5 had one kind of number with a point, which is loaded as the wider one until the node is reconstructed"},
 	{TEXT("CallFunction"), TEXT("WorldContextObject"), true, "const", "the libraries declared their world contexts without const"},
 	{TEXT("CallFunction"), TEXT("Key"), true, "extra", "Print String had no key before engine 5"},
+	{TEXT("CallFunction"), TEXT("bFlushInput"), true, "extra", "the input modes had no choice of flushing input before engine 5"},
 	{TEXT("CallFunction"), TEXT("WorldContextObject"), false, "hidden", "a text does not say whether the Blueprint that it was copied from has a world"},
 	{TEXT("CallFunction"), TEXT("DrawDebugType"), false, "default", "this one text has the value without having generated it, unlike every other enumeration pin"},
 };

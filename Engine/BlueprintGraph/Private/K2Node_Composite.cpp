@@ -29,6 +29,43 @@ bool UK2Node_Composite::HasKnownDefinition() const
 	return BoundGraph != nullptr;
 }
 
+void UK2Node_Composite::NameBoundGraph(const FString& WantedName)
+{
+	// The title is the graph's name, so names are apart among all collapsed graphs of the parent, not only inside the node.
+	const UEdGraph* const Parent = GetGraph();
+	const auto IsTaken = [this, Parent](const FString& Name)
+	{
+		const FName AsName(*Name);
+		return Parent->SubGraphs.ContainsByPredicate([this, AsName](const UEdGraph* Sibling)
+			{ return Sibling && Sibling != BoundGraph && Sibling->GetFName() == AsName; });
+	};
+	FString Name = WantedName;
+	for (int32 Number = 0; IsTaken(Name); ++Number)
+	{
+		Name = FString::Printf(TEXT("%s_%d"), *WantedName, Number);
+	}
+	if (BoundGraph->GetName() != Name)
+	{
+		BoundGraph->Rename(*Name, this, REN_DontCreateRedirectors);
+	}
+}
+
+void UK2Node_Composite::ConnectTunnels()
+{
+	UK2Node_Tunnel* const Entry = GetEntryNode();
+	UK2Node_Tunnel* const Exit = GetExitNode();
+	if (Entry)
+	{
+		Entry->InputSinkNode = this;
+	}
+	if (Exit)
+	{
+		Exit->OutputSourceNode = this;
+	}
+	InputSinkNode = Entry;
+	OutputSourceNode = Exit;
+}
+
 void UK2Node_Composite::PostPlacedNewNode()
 {
 	if (BoundGraph)
@@ -36,18 +73,61 @@ void UK2Node_Composite::PostPlacedNewNode()
 		return;
 	}
 	UEdGraph* const Parent = GetGraph();
-	BoundGraph = NewObject<UEdGraph>(Parent, MakeUniqueObjectName(Parent, UEdGraph::StaticClass(), TEXT("CollapseGraph")), RF_Transactional);
+	// Inside the node, so that copies of the node bring it along.
+	BoundGraph = NewObject<UEdGraph>(this, NAME_None, RF_Transactional);
 	BoundGraph->Schema = Parent->Schema;
+	NameBoundGraph(TEXT("CollapseGraph"));
 	Parent->SubGraphs.Add(BoundGraph);
 	GetK2Schema()->CreateMacroGraphTerminators(*BoundGraph, nullptr);
 	for (UK2Node_Tunnel* const Tunnel : {GetEntryNode(), GetExitNode()})
 	{
 		Tunnel->bIsEditable = true;
 	}
-	GetEntryNode()->InputSinkNode = this;
-	GetExitNode()->OutputSourceNode = this;
-	InputSinkNode = GetEntryNode();
-	OutputSourceNode = GetExitNode();
+	ConnectTunnels();
+}
+
+void UK2Node_Composite::PostPasteNode()
+{
+	Super::PostPasteNode();
+	if (!BoundGraph)
+	{
+		return;
+	}
+	UEdGraph* const Parent = GetGraph();
+	NameBoundGraph(BoundGraph->GetName());
+	Parent->Modify();
+	Parent->SubGraphs.AddUnique(BoundGraph);
+	ConnectTunnels();
+	for (UEdGraphNode* const Node : TArray<UEdGraphNode*>(BoundGraph->Nodes))
+	{
+		Node->CreateNewGuid();
+		Node->PostPasteNode();
+		Node->ReconstructNode();
+	}
+}
+
+void UK2Node_Composite::DestroyNode()
+{
+	Modify();
+	UEdGraph* const Graph = BoundGraph;
+	UEdGraph* const Parent = GetGraph();
+	BoundGraph = nullptr;
+	if (Graph && Parent)
+	{
+		Parent->Modify();
+		Parent->SubGraphs.Remove(Graph);
+	}
+	Super::DestroyNode();
+}
+
+void UK2Node_Composite::OnRenameNode(const FString& NewName)
+{
+	if (BoundGraph && !NewName.IsEmpty())
+	{
+		Modify();
+		BoundGraph->Modify();
+		NameBoundGraph(NewName);
+	}
 }
 
 void UK2Node_Composite::AllocateDefaultPins()

@@ -11,6 +11,7 @@ class BLUEPRINTGRAPH_API UK2Node_Composite : public UK2Node_Tunnel
 	GENERATED_BODY()
 
 public:
+	/** Outered to this node, and listed among the sub-graphs of the node's graph. */
 	UPROPERTY()
 	TObjectPtr<UEdGraph> BoundGraph = nullptr;
 
@@ -27,6 +28,14 @@ public:
 	virtual void AllocateDefaultPins() override;
 	virtual bool HasKnownDefinition() const override;
 	virtual void PostPlacedNewNode() override;
+	virtual void PostPasteNode() override;
+	virtual void DestroyNode() override;
+	/** Names the collapsed graph; another name when a sibling has this one. */
+	virtual void OnRenameNode(const FString& NewName) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;
+
+private:
+	void NameBoundGraph(const FString& WantedName);
+	void ConnectTunnels();
 };

@@ -89,7 +89,7 @@ public:
 	UPROPERTY()
 	uint32 bAllowRenaming : 1;
 
-	/** Graphs that nodes of this graph hold (collapsed graphs), outered to this graph. */
+	/** Graphs that nodes of this graph hold (collapsed graphs), outered to those nodes. */
 	UPROPERTY()
 	TArray<TObjectPtr<UEdGraph>> SubGraphs;
 

@@ -23,6 +23,7 @@ TArray<UObject*> GetExportedInnerObjects(const UObject& Object)
 
 void FNodeTextExporter::Export(UObject& Object)
 {
+	RootScope = Object.GetOuter();
 	ExportDefinition(Object, 0, true);
 }
 
@@ -128,7 +129,7 @@ void FNodeTextExporter::ExportProperty(const FProperty& Property, const UObject&
 			continue;
 		}
 		FString Text;
-		Property.ExportTextItem_Direct(Text, Value, Default, Parent, CopyPortFlags);
+		Property.ExportTextItem_Direct(Text, Value, Default, Parent, CopyPortFlags, RootScope);
 		AppendLine(Indent, Property.ArrayDim > 1 ? FString::Printf(TEXT("%s(%d)"), *Property.GetName(), Index) : Property.GetName(), Text);
 	}
 }
@@ -148,7 +149,7 @@ void FNodeTextExporter::ExportArray(const FArrayProperty& Property, const UObjec
 			continue;
 		}
 		FString Text;
-		Property.Inner->ExportTextItem_Direct(Text, Elements.GetRawPtr(Index), Default, Parent, CopyPortFlags);
+		Property.Inner->ExportTextItem_Direct(Text, Elements.GetRawPtr(Index), Default, Parent, CopyPortFlags, RootScope);
 		AppendLine(Indent, FString::Printf(TEXT("%s(%d)"), *Property.GetName(), Index), Text);
 	}
 }

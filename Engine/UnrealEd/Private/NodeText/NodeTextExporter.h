@@ -28,4 +28,6 @@ private:
 	void EndObject(int32 Indent);
 
 	FString& Out;
+	/** What holds the exported object: the objects in it are named relative to it. */
+	UObject* RootScope = nullptr;
 };
