@@ -4,13 +4,17 @@
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "EdGraphUtilities.h"
+#include "Engine/Blueprint.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_EditablePinBase.h"
 #include "K2Node_ExecutionSequence.h"
 #include "K2Node_SwitchInteger.h"
+#include "K2Node_Timeline.h"
+#include "Kismet2/KismetEditorUtilities.h"
 #include "Misc/FileHelper.h"
-#include "UObject/LinkerLoad.h"
+#include "Misc/PackageName.h"
 #include "UObject/Package.h"
+#include "UObject/PropertyPortFlags.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
@@ -59,6 +63,30 @@ const FAcceptedDifference AcceptedDifferences[] = {
 	{TEXT("CallFunction"), TEXT("DrawDebugType"), false, "default", "this one text has the value without having generated it, unlike every other enumeration pin"},
 };
 
+/** Why the definition of a real node is not here. */
+struct FMissingDefinition
+{
+	/** Stands in what the node says of itself. */
+	const char* Mark;
+	const char* Reason;
+};
+
+const FMissingDefinition MissingDefinitions[] = {
+	{"/Script/AirSim.", "a native class of the plug-in AirSim"},
+	{"/Script/CesiumRuntime.", "a native class of the plug-in Cesium"},
+	{"/Script/Schola.", "a native class of the plug-in Schola"},
+	{"/Niagara/Enums/", "an asset of the plug-in Niagara, of which the text has the path alone"},
+	{"WidgetBlueprint", "a widget of the tree, which the compiler of widget Blueprints alone makes a variable"},
+	{"bSelfContext=True", "a member of the Blueprint that the text was copied from"},
+};
+
+const char* FindReasonForMissing(const std::string& Identity)
+{
+	const FMissingDefinition* const Found = std::find_if(std::begin(MissingDefinitions), std::end(MissingDefinitions), [&Identity](const FMissingDefinition& Row)
+		{ return Identity.find(Row.Mark) != std::string::npos; });
+	return Found != std::end(MissingDefinitions) ? Found->Reason : nullptr;
+}
+
 /** Copies the reflected settings of the node's own classes, without what every node has, and the pins that a user added. */
 void CopyIdentity(const UK2Node& From, UK2Node& To)
 {
@@ -94,6 +122,24 @@ void ChooseClasses(const UK2Node& Sample, UK2Node& Fresh)
 			Fresh.PinDefaultValueChanged(Own);
 		}
 	}
+}
+
+/** What the node is about, as its text says it. */
+std::string DescribeIdentity(const UK2Node& Node)
+{
+	const UBlueprint* const Blueprint = Node.GetBlueprint();
+	std::string Identity = Blueprint ? ToUtf8(Blueprint->GetClass()->GetName()) : "";
+	for (TFieldIterator<FProperty> Property(Node.GetClass()); Property; ++Property)
+	{
+		const bool bIsIdentity = Property->GetOwnerClass()->IsChildOf(UK2Node::StaticClass()) && Property->GetOwnerClass() != UK2Node::StaticClass();
+		if (bIsIdentity && !Property->Identical_InContainer(&Node, Node.GetClass()->GetDefaultObject()))
+		{
+			FString Text;
+			Property->ExportTextItem_InContainer(Text, &Node, nullptr, nullptr, PPF_None);
+			Identity += " " + ToUtf8(Property->GetName()) + "=" + ToUtf8(Text);
+		}
+	}
+	return Identity;
 }
 
 UK2Node* MakeFresh(UK2Node& Sample)
@@ -207,19 +253,29 @@ TArray<UK2Node*> SampleNodes::ImportText(UEdGraph* Graph, const std::filesystem:
 	return Nodes;
 }
 
-TArray<UK2Node*> SampleNodes::LoadPackage(const std::filesystem::path& Path)
+FLoadedSample::FLoadedSample(const std::filesystem::path& Path, const FString& ProjectDir)
 {
-	const FString Name = FString(UTF8_TO_TCHAR(("/Temp/" + Path.parent_path().filename().string() + "_" + Path.stem().string()).c_str()));
-	UPackage* const Package = CreatePackage(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), FName(*Name)).ToString());
-	FString Error;
-	const TUniquePtr<FLinkerLoad> Linker = FLinkerLoad::Create(FString(UTF8_TO_TCHAR(Path.c_str())), Package, Error);
-	if (Linker)
+	const std::filesystem::path Folder = Path.parent_path();
+	// A sample of an engine's version refers to others of its folder by their places in a project.
+	const std::filesystem::path Target = std::filesystem::path(ToUtf8(ProjectDir)) / "Content" / Folder.filename();
+	std::filesystem::copy(Folder, Target, std::filesystem::copy_options::recursive);
+	Copied = Target;
+	const FString Name = FString::Printf(TEXT("/Game/%s/%s"), UTF8_TO_TCHAR(Folder.filename().c_str()), UTF8_TO_TCHAR(Path.stem().c_str()));
+	UPackage* const Package = ::LoadPackage(nullptr, *Name, LOAD_None);
+	if (!Package)
 	{
-		Linker->LoadAllObjects();
+		return;
+	}
+	// Classes of early engines do not hold their members as later ones do: they are made anew, as when an editor opens the Blueprint.
+	for (UPackage* const Loaded : FindLoadedPackages())
+	{
+		if (UBlueprint* const Blueprint = FindObject<UBlueprint>(Loaded, *FPackageName::GetShortName(Loaded)))
+		{
+			FKismetEditorUtilities::CompileBlueprint(Blueprint, EBlueprintCompileOptions::SkipGarbageCollection);
+		}
 	}
 	TArray<UObject*> Objects;
 	GetObjectsWithOuter(Package, Objects, true);
-	TArray<UK2Node*> Nodes;
 	for (UObject* const Object : Objects)
 	{
 		UK2Node* const Node = Cast<UK2Node>(Object);
@@ -228,7 +284,33 @@ TArray<UK2Node*> SampleNodes::LoadPackage(const std::filesystem::path& Path)
 			Nodes.Add(Node);
 		}
 	}
-	return Nodes;
+}
+
+TArray<UPackage*> FLoadedSample::FindLoadedPackages() const
+{
+	const FString Folder = FString(TEXT("/Game/")) + UTF8_TO_TCHAR(Copied.filename().c_str()) + TEXT("/");
+	TArray<UObject*> Packages;
+	GetObjectsOfClass(UPackage::StaticClass(), Packages);
+	TArray<UPackage*> Loaded;
+	for (UObject* const Package : Packages)
+	{
+		if (Package->GetName().StartsWith(Folder))
+		{
+			Loaded.Add(CastChecked<UPackage>(Package));
+		}
+	}
+	return Loaded;
+}
+
+FLoadedSample::~FLoadedSample()
+{
+	// The same names are needed for the next version of the sample.
+	for (UPackage* const Package : FindLoadedPackages())
+	{
+		Package->Rename(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), TEXT("/Temp/Sample")).ToString(), nullptr, REN_DontCreateRedirectors | REN_NonTransactional);
+	}
+	std::error_code Ignored;
+	std::filesystem::remove_all(Copied, Ignored);
 }
 
 void FNodeComparison::Compare(UK2Node& Sample, const bool bIsOldPackage)
@@ -238,10 +320,21 @@ void FNodeComparison::Compare(UK2Node& Sample, const bool bIsOldPackage)
 		return;
 	}
 	FClassResult& Result = Classes[ToUtf8(Sample.GetClass()->GetName())];
-	if (!Sample.HasKnownDefinition())
+	// A timeline without its tracks still has the pins that every timeline has; that of the samples has no track.
+	if (!Sample.HasKnownDefinition() && !Sample.IsA<UK2Node_Timeline>())
 	{
+		const std::string Title = ToUtf8(Sample.GetNodeTitle(ENodeTitleType::ListView).ToString());
+		const std::string Identity = DescribeIdentity(Sample);
+		const char* const Reason = FindReasonForMissing(Identity);
 		++Result.NumUnknown;
-		Result.Unknown.insert(ToUtf8(Sample.GetNodeTitle(ENodeTitleType::ListView).ToString()));
+		if (Reason)
+		{
+			Result.Unknown[Reason].insert(Title);
+		}
+		else
+		{
+			Differences.push_back(ToUtf8(Sample.GetClass()->GetName()) + " '" + Title + "' is not declared: " + Identity);
+		}
 		return;
 	}
 	const UK2Node* const Fresh = MakeFresh(Sample);
@@ -299,9 +392,14 @@ std::string FNodeComparison::MakeTable() const
 	for (const auto& [Name, Result] : Classes)
 	{
 		Table << Name << " | " << Result.NumCompared << " | " << Result.NumEqual << " | " << Result.NumUnknown;
-		for (const std::string& Title : Result.Unknown)
+		for (const auto& [Reason, Titles] : Result.Unknown)
 		{
-			Table << (Title == *Result.Unknown.begin() ? ": " : ", ") << Title;
+			std::string List;
+			for (const std::string& Title : Titles)
+			{
+				List += (List.empty() ? "" : ", ") + Title;
+			}
+			Table << " (" << Reason << ": " << List << ")";
 		}
 		for (const std::string& Reason : Result.Accepted)
 		{

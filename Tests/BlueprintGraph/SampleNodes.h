@@ -11,6 +11,7 @@
 class UEdGraph;
 class UEdGraphPin;
 class UK2Node;
+class UPackage;
 
 /** Nodes that the real editor made, in texts and packages. */
 namespace SampleNodes
@@ -21,9 +22,23 @@ std::vector<std::filesystem::path> FindTexts();
 std::vector<std::filesystem::path> FindPackages();
 /** The nodes of a text, imported into the graph. */
 TArray<UK2Node*> ImportText(UEdGraph* Graph, const std::filesystem::path& Path);
-/** The nodes of a package, which is loaded under a name of its own. */
-TArray<UK2Node*> LoadPackage(const std::filesystem::path& Path);
 }
+
+/** A package of the samples, loaded into the test's project with those of its folder that it refers to. */
+class FLoadedSample
+{
+public:
+	FLoadedSample(const std::filesystem::path& Path, const FString& ProjectDir);
+	/** Frees the names for another sample. */
+	~FLoadedSample();
+
+	TArray<UK2Node*> Nodes;
+
+private:
+	TArray<UPackage*> FindLoadedPackages() const;
+
+	std::filesystem::path Copied;
+};
 
 /** What became of the comparison of the nodes of one class. */
 struct FClassResult
@@ -32,7 +47,8 @@ struct FClassResult
 	int32 NumEqual = 0;
 	/** Nodes of which the function, variable, struct or enumeration is not declared here. */
 	int32 NumUnknown = 0;
-	std::set<std::string> Unknown;
+	/** Their titles by the reason. */
+	std::map<std::string, std::set<std::string>> Unknown;
 	std::set<std::string> Accepted;
 };
 

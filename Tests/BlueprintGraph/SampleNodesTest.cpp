@@ -49,6 +49,18 @@ protected:
 		std::sort(Pins.begin(), Pins.end());
 		return Pins;
 	}
+
+	/** How many nodes it was. */
+	static int32 ExpectReconstructionKeeps(const TArray<UK2Node*>& Nodes)
+	{
+		for (UK2Node* const Node : Nodes)
+		{
+			const std::vector<std::string> Before = DescribeKept(*Node);
+			Node->ReconstructNode();
+			EXPECT_EQ(DescribeKept(*Node), Before) << TCHAR_TO_UTF8(*Node->GetClass()->GetName());
+		}
+		return Nodes.Num();
+	}
 };
 
 TEST_F(FSampleNodesTest, FreshNodesHaveThePinsOfThoseInTexts)
@@ -73,7 +85,8 @@ TEST_F(FSampleNodesTest, FreshNodesHaveThePinsOfThoseInPackages)
 	FNodeComparison Comparison;
 	for (const std::filesystem::path& Path : SampleNodes::FindPackages())
 	{
-		for (UK2Node* const Node : SampleNodes::LoadPackage(Path))
+		const FLoadedSample Loaded(Path, GetProjectDir());
+		for (UK2Node* const Node : Loaded.Nodes)
 		{
 			Comparison.Compare(*Node, IsOfEngine4(Path));
 		}
@@ -91,16 +104,29 @@ TEST_F(FSampleNodesTest, ReconstructingNodesOfTextsChangesNothing)
 	for (const std::filesystem::path& Path : SampleNodes::FindTexts())
 	{
 		SCOPED_TRACE(Path.filename().string());
-		for (UK2Node* const Node : SampleNodes::ImportText(Graph, Path))
-		{
-			const std::vector<std::string> Before = DescribeKept(*Node);
-			Node->ReconstructNode();
-			EXPECT_EQ(DescribeKept(*Node), Before) << TCHAR_TO_UTF8(*Node->GetClass()->GetName());
-			++NumNodes;
-		}
+		NumNodes += ExpectReconstructionKeeps(SampleNodes::ImportText(Graph, Path));
 	}
 	if (NumNodes == 0)
 	{
 		GTEST_SKIP() << "the folder of sample texts is missing";
+	}
+}
+
+TEST_F(FSampleNodesTest, ReconstructingNodesOfPackagesChangesNothing)
+{
+	int32 NumNodes = 0;
+	for (const std::filesystem::path& Path : SampleNodes::FindPackages())
+	{
+		SCOPED_TRACE(Path.string());
+		// Nodes of engine 4 have to change: numbers became wider, functions got parameters.
+		if (!IsOfEngine4(Path))
+		{
+			const FLoadedSample Loaded(Path, GetProjectDir());
+			NumNodes += ExpectReconstructionKeeps(Loaded.Nodes);
+		}
+	}
+	if (NumNodes == 0)
+	{
+		GTEST_SKIP() << "the folder of sample packages is missing";
 	}
 }
