@@ -19,6 +19,14 @@ UScriptStruct* GetNestedStruct()
 	return Struct;
 }
 
+/** A struct whose value in tagged form is the end of its members alone. */
+UScriptStruct* GetEmptyStruct()
+{
+	UPackage* const Package = MakeTestPackage(TEXT("/Script/PropertyTests"));
+	UScriptStruct* const Existing = FindObject<UScriptStruct>(Package, TEXT("Empty"));
+	return Existing ? Existing : MakeTestStruct(Package, TEXT("Empty"), {});
+}
+
 FString Repeat(const TCHAR* Text, int32 Count)
 {
 	FString Result;
@@ -154,29 +162,26 @@ TEST(HostileText, NamesBeyondTheLimitAreRefusedInNamesKeysAndPaths)
 
 TEST(HostileBytes, NestingWithoutEndIsAnErrorOfTheArchive)
 {
-	// One level in the compact tag form: name, type tree, size, flags, count. Built by hand since no value is that deep.
+	FTestValue None(Describe(EPropertyGenKind::Struct, TEXT("Value"), GetEmptyStruct()));
+	const TArray<uint8> End = SaveValue(None, GPackageFileUEVersion);
+	FTestValue Zero(DescribeNest());
+	const TArray<uint8> Innermost = SaveValue(Zero, GPackageFileUEVersion);
 	FTestValue One(DescribeNest());
 	ASSERT_TRUE(One.Import(*NestText(1)));
 	const TArray<uint8> Level = SaveValue(One, GPackageFileUEVersion);
-	FTestValue Two(DescribeNest());
-	ASSERT_TRUE(Two.Import(*NestText(2)));
-	const TArray<uint8> TwoLevels = SaveValue(Two, GPackageFileUEVersion);
-	// The deeper value is the shallower one with a prefix and a suffix around it.
-	const int32 Added = TwoLevels.Num() - Level.Num();
-	int32 Prefix = 0;
-	FTestValue Zero(DescribeNest());
-	const TArray<uint8> Innermost = SaveValue(Zero, GPackageFileUEVersion);
-	Prefix = Level.Num() - 2 * Innermost.Num();
+	// A level is the tag of its array with the count, what it holds, and the name that ends it. No value can be that deep.
+	const int32 Prefix = Innermost.Num() - End.Num();
 	ASSERT_GT(Prefix, 0);
-	ASSERT_EQ(Added, Prefix + Innermost.Num());
+	ASSERT_EQ(Level.Num(), Prefix + Innermost.Num() + End.Num());
 	TArray<uint8> Bytes;
 	for (int32 Depth = 0; Depth < 100000; ++Depth)
 	{
 		Bytes.Append(Level.GetData(), Prefix);
 	}
-	for (int32 Depth = 0; Depth <= 100000; ++Depth)
+	Bytes.Append(Innermost);
+	for (int32 Depth = 0; Depth < 100000; ++Depth)
 	{
-		Bytes.Append(Innermost);
+		Bytes.Append(End);
 	}
 	FTestValue Loaded(DescribeNest());
 	EXPECT_FALSE(LoadValue(Loaded, Bytes, GPackageFileUEVersion));

@@ -102,6 +102,10 @@ TEST_F(FScriptApiReflectionTest, EveryStructHasItsSuperAndMembers)
 			EXPECT_EQ(Super ? "F" + ToUtf8(Super->GetName()) : std::string(), Declaration.Super)
 				<< Where(Header, Declaration.Position, Declaration.Name);
 			ExpectProperties(Header, Struct, Declaration.Properties);
+			for (const auto& [Key, Value] : Declaration.MetaData.Pairs())
+			{
+				EXPECT_EQ(ToUtf8(Struct->GetMetaData(ToName(Key))), Value) << Where(Header, Declaration.Position, Declaration.Name + " " + Key);
+			}
 		}
 	}
 }

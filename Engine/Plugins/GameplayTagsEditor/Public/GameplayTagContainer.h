@@ -6,22 +6,26 @@
 
 #include "GameplayTagContainer.generated.h"
 
-/** A word of a project's hierarchy of words: "State.Burning". */
-USTRUCT(BlueprintType)
+/** A name in a tree of names. */
+USTRUCT(BlueprintType, meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeLiteralGameplayTag", HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.GetTagName"))
 struct FGameplayTag
 {
 	GENERATED_BODY()
 
-	UPROPERTY()
+	UPROPERTY(VisibleAnywhere, SaveGame, Category = "GameplayTags")
 	FName TagName;
 };
 
-/** Any number of tags. */
-USTRUCT(BlueprintType)
+/** Several tags. */
+USTRUCT(BlueprintType, meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeGameplayTagContainerFromArray", HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.BreakGameplayTagContainer"))
 struct FGameplayTagContainer
 {
 	GENERATED_BODY()
 
-	UPROPERTY()
+	UPROPERTY(BlueprintReadWrite, SaveGame, Category = "GameplayTags")
 	TArray<FGameplayTag> GameplayTags;
+
+	/** The tags above those in the hierarchy, derived from them. */
+	UPROPERTY(Transient)
+	TArray<FGameplayTag> ParentTags;
 };
