@@ -1,6 +1,7 @@
 #include "PropertyTestTypes.h"
 
 #include "HAL/FileManager.h"
+#include "HAL/PlatformProcess.h"
 #include "Misc/FileHelper.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
@@ -100,13 +101,13 @@ TEST(PackageFile, ChangedBytesNeverCrashTheReader)
 	}
 }
 
-/** A mounted folder of this run, removed at the end. */
+/** A mounted folder of this process, removed at the end. */
 class FPackageFolder : public testing::Test
 {
 protected:
 	FPackageFolder()
 	{
-		Folder = FPaths::ConvertRelativePathToFull(FString(UTF8_TO_TCHAR(testing::TempDir().c_str())) / TEXT("VexelPackageFileTests"));
+		Folder = FPaths::ConvertRelativePathToFull(FString(UTF8_TO_TCHAR(testing::TempDir().c_str())) / FString::Printf(TEXT("VexelPackageFileTests%u"), FPlatformProcess::GetCurrentProcessId()));
 		IFileManager::Get().MakeDirectory(*Folder, true);
 		FPackageName::RegisterMountPoint(TEXT("/PackageTests/"), Folder);
 		Types = MakeTestPackage(TEXT("/Script/PropertyTests"));

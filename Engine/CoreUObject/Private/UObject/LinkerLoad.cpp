@@ -16,6 +16,16 @@ namespace
 /** Where classes stand whose own definition is not one that this host can read. */
 constexpr const TCHAR* UnreadableClassesPackage = TEXT("/Script/UnreadableClasses");
 
+/** Whether a part of the class is known by its header alone: its C++ may write bytes that only it can read. */
+bool IsPartlyDeclared(const UClass* Class)
+{
+	while (Class && !Class->bLaidOutAtRunTime)
+	{
+		Class = Class->GetSuperClass();
+	}
+	return Class != nullptr;
+}
+
 /** Sets the range of the file that reads may touch, and puts position and range back. */
 class FReadWindow
 {
@@ -261,14 +271,17 @@ UObject* FLinkerLoad::FindOuterOfExport(int32 ExportIndex)
 UObject* FLinkerLoad::MakeExportObject(int32 ExportIndex, UClass* Class, UObject* Outer)
 {
 	const FObjectExport& Export = ExportMap[ExportIndex];
-	const EObjectFlags Flags = static_cast<EObjectFlags>((Export.ObjectFlags & RF_Load) | RF_NeedLoad | RF_NeedPostLoad | RF_WasLoaded);
+	EObjectFlags Flags = static_cast<EObjectFlags>((Export.ObjectFlags & RF_Load) | RF_NeedLoad | RF_NeedPostLoad | RF_WasLoaded);
 	const bool bIsDefaultObject = (Export.ObjectFlags & RF_ClassDefaultObject) != 0;
-	if (bIsDefaultObject && Class->GetDefaultObjectName() == Export.ObjectName)
+	// Of a class that only stands in, the file's default object is not the class's own: it belongs into this package.
+	const bool bIsOfItsClass = Class->GetDefaultObjectName() == Export.ObjectName && Class->GetOuter() == Outer;
+	if (bIsDefaultObject && bIsOfItsClass)
 	{
 		UObject* const DefaultObject = Class->GetDefaultObject();
 		DefaultObject->SetFlags(Flags);
 		return DefaultObject;
 	}
+	Flags = static_cast<EObjectFlags>(Flags & ~RF_ClassDefaultObject);
 	// A part that the outer's constructor made is the one to fill.
 	if (UObject* const Existing = StaticFindObjectFast(nullptr, Outer, Export.ObjectName); Existing && Existing->GetClass() == Class)
 	{
@@ -397,6 +410,20 @@ void FLinkerLoad::Preload(UObject* Object)
 	}
 }
 
+void FLinkerLoad::NoteUnreadExport(int32 ExportIndex)
+{
+	const FString Path = GetExportPathName(ExportIndex);
+	const FString Class = GetExportClassName(ExportIndex).ToString();
+	const long long Offset = static_cast<long long>(ErrorPosition);
+	if (IsPartlyDeclared(ExportMap[ExportIndex].Object->GetClass()))
+	{
+		UE_LOG(LogClass, Log, TEXT("%s: the bytes of export %d (%s) can be read by its class %s alone from offset %lld on. They are kept."), *Filename, ExportIndex, *Path, *Class, Offset);
+		return;
+	}
+	Errors.Add(FString::Printf(TEXT("export %d (%s) of class %s is damaged at offset %lld"), ExportIndex, *Path, *Class, Offset));
+	UE_LOG(LogClass, Error, TEXT("%s: %s"), *Filename, *Errors.Last());
+}
+
 void FLinkerLoad::ReadExport(int32 ExportIndex)
 {
 	UObject* const Object = ExportMap[ExportIndex].Object.Get();
@@ -413,14 +440,13 @@ void FLinkerLoad::ReadExport(int32 ExportIndex)
 	const int64 Start = ExportMap[ExportIndex].SerialOffset;
 	const int64 End = Start + ExportMap[ExportIndex].SerialSize;
 	const FReadWindow Window(Position, Limit, Start, End);
-	const bool bClassIsUnknown = UE::CoreUObject::IsPlaceholder(Object->GetClass());
 	Object->Serialize(*this);
+	const bool bClassIsUnknown = UE::CoreUObject::IsPlaceholder(Object->GetClass());
 	if (IsError() || bClassIsUnknown)
 	{
 		if (IsError() && !bClassIsUnknown)
 		{
-			Errors.Add(FString::Printf(TEXT("export %d (%s) of class %s is damaged at offset %lld"), ExportIndex, *GetExportPathName(ExportIndex), *GetExportClassName(ExportIndex).ToString(), static_cast<long long>(ErrorPosition)));
-			UE_LOG(LogClass, Error, TEXT("%s: %s"), *Filename, *Errors.Last());
+			NoteUnreadExport(ExportIndex);
 		}
 		ClearError();
 		OpaqueObjects.Add(FWeakObjectPtr(Object));

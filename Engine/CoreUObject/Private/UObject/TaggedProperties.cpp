@@ -90,6 +90,37 @@ bool ReadValue(FArchive& Ar, const FPropertyTag& Tag, FProperty* Property, const
 	return false;
 }
 
+/** Whether a value holds a struct that is known by its header alone: its C++ may have a form of its own that only it can read. */
+bool MayHaveNativeForm(const FProperty* Property)
+{
+	if (const FStructProperty* const Struct = CastField<FStructProperty>(Property))
+	{
+		return Struct->Struct && !Struct->Struct->GetCppStructOps() && Struct->Struct->HasAnyFlags(RF_MarkAsNative);
+	}
+	TArray<FField*> Inner;
+	const_cast<FProperty*>(Property)->GetInnerFields(Inner);
+	return Inner.ContainsByPredicate([](const FField* Field)
+		{ return Field->IsA<FStructProperty>() && MayHaveNativeForm(static_cast<const FProperty*>(Field)); });
+}
+
+/** Undoes the reading of a value in a form that it turned out not to have. */
+void ForgetValue(FArchive& Ar, FProperty* Property, int32 Index, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
+{
+	Ar.ClearError();
+	uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
+	const uint8* const Default = Property->ContainerPtrToValuePtrForDefaults<uint8>(DefaultsStruct, Defaults, Index);
+	if (Default)
+	{
+		Property->CopySingleValue(Value, Default);
+	}
+	else
+	{
+		Property->ClearValue(Value);
+	}
+	const FSerializedPathScope Scope(Property->GetFName(), Index);
+	FUnknownProperties::RemoveCurrent(Ar);
+}
+
 void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
 {
 	FProperty* Hint = Struct->PropertyLink;
@@ -104,9 +135,18 @@ void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, cons
 		const int64 Start = Ar.Tell();
 		FProperty* const Property = FindPropertyForTag(Struct, Tag.Name, Hint);
 		Hint = Property ? Property : Hint;
-		if (!ReadValue(Ar, Tag, Property, Struct, Data, DefaultsStruct, Defaults))
+		bool bRead = ReadValue(Ar, Tag, Property, Struct, Data, DefaultsStruct, Defaults);
+		const bool bWasPassedOver = Ar.Tell() == Start && !Ar.IsError();
+		const bool bIsWhole = Ar.Tell() == Start + Tag.Size && !Ar.IsError();
+		const bool bHasOtherForm = bRead && !bWasPassedOver && !bIsWhole && Ar.GetLinker() && MayHaveNativeForm(Property);
+		if (bHasOtherForm)
 		{
-			if (Property)
+			ForgetValue(Ar, Property, Tag.ArrayIndex, Data, DefaultsStruct, Defaults);
+			bRead = false;
+		}
+		if (!bRead)
+		{
+			if (Property && !bHasOtherForm)
 			{
 				UE_LOG(LogClass, Warning, TEXT("%s: property %s of %s was saved as %s and cannot become %s; its value is kept as it was"),
 					*Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName(), *Tag.GetType().ToString(),

@@ -107,6 +107,26 @@ void FUnknownProperties::Remove(const UObject* Object)
 	GetStore().Remove(FWeakObjectPtr(Object));
 }
 
+void FUnknownProperties::RemoveCurrent(FArchive& Ar)
+{
+	FKeptValues* const Kept = IsPackageArchive(Ar) ? GetStore().Find(FWeakObjectPtr(GetStack().Last().Object)) : nullptr;
+	if (!Kept)
+	{
+		return;
+	}
+	const FString Path = GetCurrentPath();
+	TArray<FString> Paths;
+	Kept->ByPath.GetKeys(Paths);
+	for (const FString& Each : Paths)
+	{
+		const bool bIsBelow = Each.StartsWith(Path, ESearchCase::CaseSensitive) && (Each.Len() == Path.Len() || Each[Path.Len()] == '.' || Each[Path.Len()] == '[');
+		if (bIsBelow)
+		{
+			Kept->ByPath.Remove(Each);
+		}
+	}
+}
+
 FSerializedObjectScope::FSerializedObjectScope(const UObject* Object)
 {
 	GetStack().Add({Object, {}});

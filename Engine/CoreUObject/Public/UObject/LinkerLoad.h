@@ -103,6 +103,7 @@ private:
 	UObject* MakeExportObject(int32 ExportIndex, UClass* Class, UObject* Outer);
 	UObject* FindImportInPackage(int32 ImportIndex, const FString& Path);
 	void ReadExport(int32 ExportIndex);
+	void NoteUnreadExport(int32 ExportIndex);
 
 	TUniquePtr<FPackageBytes> File;
 	uint64 Id;

@@ -25,6 +25,8 @@ public:
 	/** All of an object's, by the path of the struct within it: "" for the object itself, "Items[2].Data" for a member. */
 	static const TMap<FString, TArray<FUnknownProperty>>* FindAll(const UObject* Object);
 	static void Remove(const UObject* Object);
+	/** Forgets those of the struct that is being read at present, and of all below it. */
+	static void RemoveCurrent(FArchive& Ar);
 	static bool HasAny(const UObject* Object) { return FindAll(Object) != nullptr; }
 };
 
