@@ -144,15 +144,25 @@ TEST_F(FInspectorTest, ValuesAreReadFromTheirTagsInOldAndNewForm)
 
 TEST_F(FInspectorTest, VariablesHaveTheirTypes)
 {
-	const TSharedPtr<FJsonObject> Document = InspectSample("CesiumUnreal/WBP_TimeOfDay.uasset");
-	const TSharedPtr<FJsonObject> Blueprint = FindObject(Document, TEXT("exports"), TEXT("class"), TEXT("/Script/UMGEditor.WidgetBlueprint"));
-	const TSharedPtr<FJsonObject> Variables = FindObject(Blueprint, TEXT("properties"), TEXT("name"), TEXT("NewVariables"));
-	const TArray<TSharedPtr<FJsonValue>>* List = nullptr;
-	ASSERT_TRUE(Variables->TryGetArrayField(TEXT("value"), List));
-	ASSERT_FALSE(List->IsEmpty());
-	const TSharedPtr<FJsonObject>* Type = nullptr;
-	ASSERT_TRUE((*List)[0]->AsObject()->TryGetObjectField(TEXT("VarType"), Type));
-	EXPECT_FALSE((*Type)->GetStringField(TEXT("PinCategory")).IsEmpty());
+	for (const char* const Sample : {"UE420/SimpleRefs/SimpleRefsRoot.uasset", "UE56/SimpleRefs/SimpleRefsRoot.uasset"})
+	{
+		SCOPED_TRACE(Sample);
+		const TSharedPtr<FJsonObject> Document = InspectSample(Sample);
+		const TSharedPtr<FJsonObject> Blueprint = FindObject(Document, TEXT("exports"), TEXT("class"), TEXT("/Script/Engine.Blueprint"));
+		const TSharedPtr<FJsonObject> Variables = FindObject(Blueprint, TEXT("properties"), TEXT("name"), TEXT("NewVariables"));
+		const TArray<TSharedPtr<FJsonValue>>* List = nullptr;
+		ASSERT_TRUE(Variables->TryGetArrayField(TEXT("value"), List));
+		ASSERT_EQ(List->Num(), 2);
+		const TCHAR* const Expected[][2] = {{TEXT("VarHard"), TEXT("class")}, {TEXT("VarSoft"), TEXT("softclass")}};
+		for (int32 Index = 0; Index < 2; ++Index)
+		{
+			EXPECT_EQ((*List)[Index]->AsObject()->GetStringField(TEXT("VarName")), FString(Expected[Index][0]));
+			const TSharedPtr<FJsonObject>* Type = nullptr;
+			ASSERT_TRUE((*List)[Index]->AsObject()->TryGetObjectField(TEXT("VarType"), Type));
+			EXPECT_EQ((*Type)->GetStringField(TEXT("PinCategory")), FString(Expected[Index][1]));
+			EXPECT_EQ((*Type)->GetStringField(TEXT("PinSubCategoryObject")), FString(TEXT("/Script/CoreUObject.Object")));
+		}
+	}
 }
 
 TEST_F(FInspectorTest, EverySampleIsReadWithoutAnErrorAndItsSectionsCoverTheFile)
@@ -181,7 +191,9 @@ TEST_F(FInspectorTest, ThumbnailsRegistryDataAndDependenciesAreTold)
 	const TSharedPtr<FJsonObject> Document = InspectSample("AirSim/Weather/WeatherFX/Textures/RainDrop_N.uasset");
 	const TSharedPtr<FJsonObject> Thumbnail = FindObject(Document, TEXT("thumbnails"), TEXT("object"), TEXT("RainDrop_N"));
 	EXPECT_EQ(Thumbnail->GetStringField(TEXT("class")), TEXT("Texture2D"));
-	EXPECT_EQ(Thumbnail->GetNumberField(TEXT("width")), 256);
+	// As the header of the PNG image in the file has it.
+	EXPECT_EQ(Thumbnail->GetNumberField(TEXT("width")), 64);
+	EXPECT_EQ(Thumbnail->GetNumberField(TEXT("height")), 256);
 	EXPECT_GT(Thumbnail->GetNumberField(TEXT("bytes")), 0);
 	const TSharedPtr<FJsonObject> Asset = FindObject(Document, TEXT("asset_registry"), TEXT("object"), TEXT("RainDrop_N"));
 	const TSharedPtr<FJsonObject>* Tags = nullptr;

@@ -43,7 +43,6 @@ protected:
 		const TUniquePtr<FLinkerLoad> After = FLinkerLoad::Create(Written, nullptr, Error);
 		ASSERT_TRUE(After) << Sample << ": " << TCHAR_TO_UTF8(*Error);
 		ASSERT_GE(After->ExportMap.Num(), Before.ExportMap.Num()) << Sample;
-		if (getenv("KEEPDIR")) { std::string N = Sample; for (char& C : N) if (C == '/') C = '_'; std::filesystem::copy_file(TCHAR_TO_UTF8(*Written), std::string(getenv("KEEPDIR")) + "/" + N, std::filesystem::copy_options::overwrite_existing); }
 		++Comparison.Files;
 		for (int32 Index = 0; Index < Before.ExportMap.Num(); ++Index)
 		{
