@@ -1,125 +1,39 @@
-#include "PackageInspector.h"
+#include "InspectorFixture.h"
 
-#include "Dom/JsonObject.h"
-#include "Dom/JsonValue.h"
 #include "UObject/GarbageCollection.h"
-#include "UObject/LinkerLoad.h"
 #include "UObject/Package.h"
-#include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <fstream>
 #include <random>
 
 namespace
 {
-using FBytes = std::vector<uint8>;
-
-std::filesystem::path GetSamples()
+/** Both ways in: as `inspect` goes, and with every object made. */
+bool TakeBytes(const FBytes& Bytes)
 {
-	return std::filesystem::path(VEXEL_SOURCE_DIR) / "../shared/samples/packages";
+	TArray<FString> Errors;
+	const bool bInspected = FInspectorTest::Inspect(Bytes, Errors).IsValid();
+	EXPECT_TRUE(bInspected || !Errors.IsEmpty());
+	static int32 NumLoaded = 0;
+	UPackage* const Package = CreatePackage(*FString::Printf(TEXT("/Inspected/Package%d"), ++NumLoaded));
+	FString Error;
+	TUniquePtr<FLinkerLoad> Linker = FLinkerLoad::Create(TArray<uint8>(Bytes.data(), int32(Bytes.size())), TEXT("bytes"), Package, Error);
+	EXPECT_EQ(Linker.IsValid(), bInspected);
+	if (Linker)
+	{
+		Linker->LoadAllObjects();
+		Errors.Append(Linker->GetErrors());
+	}
+	ForEachObjectWithPackage(Package, [](UObject* Object)
+		{
+			Object->ClearFlags(static_cast<EObjectFlags>(RF_Public | RF_Standalone));
+			return true; });
+	if (NumLoaded % 100 == 0)
+	{
+		CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+	}
+	return Errors.IsEmpty();
 }
-
-std::vector<std::filesystem::path> ListSamples()
-{
-	std::vector<std::filesystem::path> Samples;
-	std::error_code Missing;
-	for (const auto& Entry : std::filesystem::recursive_directory_iterator(GetSamples(), Missing))
-	{
-		if (Entry.path().extension() == ".uasset" || Entry.path().extension() == ".umap")
-		{
-			Samples.push_back(Entry.path());
-		}
-	}
-	return Samples;
-}
-
-FBytes ReadFile(const std::filesystem::path& File)
-{
-	std::ifstream Stream(File, std::ios::binary);
-	return FBytes(std::istreambuf_iterator<char>(Stream), {});
-}
-
-class FInspectorTest : public testing::Test
-{
-protected:
-	void SetUp() override
-	{
-		ProcessNewlyLoadedUObjects();
-		if (ListSamples().empty())
-		{
-			GTEST_SKIP() << "the folder of sample packages is missing";
-		}
-	}
-
-	/** Null, with the reason, when the tables are refused. */
-	static TSharedPtr<FJsonObject> Inspect(const FBytes& Bytes, TArray<FString>& OutErrors)
-	{
-		FString Error;
-		const TUniquePtr<FLinkerLoad> Linker = FLinkerLoad::Create(TArray<uint8>(Bytes.data(), int32(Bytes.size())), TEXT("bytes"), nullptr, Error);
-		if (!Linker)
-		{
-			OutErrors.Add(Error);
-			return nullptr;
-		}
-		return InspectPackage(*Linker, OutErrors);
-	}
-
-	static TSharedPtr<FJsonObject> InspectSample(const char* Sample)
-	{
-		TArray<FString> Errors;
-		const TSharedPtr<FJsonObject> Document = Inspect(ReadFile(GetSamples() / Sample), Errors);
-		EXPECT_TRUE(Errors.IsEmpty()) << TCHAR_TO_UTF8(*Errors[0]);
-		return Document;
-	}
-
-	static TSharedPtr<FJsonObject> FindObject(const TSharedPtr<FJsonObject>& Document, const TCHAR* List, const TCHAR* Field, const FString& Value)
-	{
-		const TArray<TSharedPtr<FJsonValue>>* Objects = nullptr;
-		if (Document && Document->TryGetArrayField(List, Objects))
-		{
-			for (const TSharedPtr<FJsonValue>& Object : *Objects)
-			{
-				if (Object->AsObject()->GetStringField(Field) == Value)
-				{
-					return Object->AsObject();
-				}
-			}
-		}
-		ADD_FAILURE() << "no " << TCHAR_TO_UTF8(*Value);
-		return MakeShared<FJsonObject>();
-	}
-
-	/** Both ways in: as `inspect` goes, and with every object made. */
-	static bool TakeBytes(const FBytes& Bytes)
-	{
-		TArray<FString> Errors;
-		const bool bInspected = Inspect(Bytes, Errors).IsValid();
-		EXPECT_TRUE(bInspected || !Errors.IsEmpty());
-		static int32 NumLoaded = 0;
-		UPackage* const Package = CreatePackage(*FString::Printf(TEXT("/Inspected/Package%d"), ++NumLoaded));
-		FString Error;
-		TUniquePtr<FLinkerLoad> Linker = FLinkerLoad::Create(TArray<uint8>(Bytes.data(), int32(Bytes.size())), TEXT("bytes"), Package, Error);
-		EXPECT_EQ(Linker.IsValid(), bInspected);
-		if (Linker)
-		{
-			Linker->LoadAllObjects();
-			Errors.Append(Linker->GetErrors());
-		}
-		ForEachObjectWithPackage(Package, [](UObject* Object)
-			{
-				Object->ClearFlags(static_cast<EObjectFlags>(RF_Public | RF_Standalone));
-				return true; });
-		if (NumLoaded % 100 == 0)
-		{
-			CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
-		}
-		return Errors.IsEmpty();
-	}
-};
 
 TEST_F(FInspectorTest, ValuesAreReadFromTheirTagsInOldAndNewForm)
 {

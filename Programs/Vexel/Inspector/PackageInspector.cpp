@@ -4,6 +4,7 @@
 #include "Dom/JsonValue.h"
 #include "StructLayouts.h"
 #include "TaggedValueReader.h"
+#include "TypeDefinitionReader.h"
 #include "UObject/LinkerLoad.h"
 #include "UObject/PackageSections.h"
 
@@ -110,7 +111,7 @@ private:
 	void AddTables()
 	{
 		Document.SetArrayField(TEXT("names"), Map(Linker.NameMap, [](const FName& Name)
-													{ return MakeText(Name.ToString()); }));
+												  { return MakeText(Name.ToString()); }));
 		int32 Index = 0;
 		Document.SetArrayField(TEXT("imports"), MapObjects(Linker.ImportMap, [this, &Index](FJsonObject& Object, const FObjectImport& Import)
 													{
@@ -126,9 +127,9 @@ private:
 			}
 			++Index; }));
 		AddList(Document, TEXT("soft_object_paths"), Map(Linker.SoftObjectPathList, [](const FSoftObjectPath& Path)
-														{ return MakeText(Path.ToString()); }));
+														 { return MakeText(Path.ToString()); }));
 		AddList(Document, TEXT("soft_references"), Map(Linker.SoftPackageReferenceList, [](const FName& Name)
-													{ return MakeText(Name.ToString()); }));
+													   { return MakeText(Name.ToString()); }));
 		AddList(Document, TEXT("preload_dependencies"), MakePaths(Linker.PreloadDependencies));
 	}
 
@@ -179,10 +180,9 @@ private:
 	{
 		constexpr uint32 UnversionedProperties = 0x00002000;
 		const FObjectExport& Entry = Linker.ExportMap[Index];
-		const bool bIsPlainClass = Entry.ClassIndex.IsNull();
-		if (bIsPlainClass || (Linker.Summary.PackageFlags & UnversionedProperties) != 0 || Entry.SerialSize == 0)
+		if ((Linker.Summary.PackageFlags & UnversionedProperties) != 0 || Entry.SerialSize == 0)
 		{
-			// Plain classes have no properties of their own; those without names cannot be told from their bytes.
+			// Values without names cannot be told from their bytes.
 			Export.SetNumberField(TEXT("native_size"), double(Entry.SerialSize));
 			return;
 		}
@@ -191,13 +191,39 @@ private:
 		FValues Properties;
 		int64 Reached = Start;
 		SkipImportInfo(Index, Start, End);
-		const bool bRead = SkipClassControl(Start, End) && Reader.ReadProperties(Start, End, Properties, Reached);
+		// Plain classes have no properties of their own.
+		const bool bIsPlainClass = Entry.ClassIndex.IsNull();
+		const bool bRead = bIsPlainClass || (SkipClassControl(Start, End) && Reader.ReadProperties(Start, End, Properties, Reached));
 		if (!bRead)
 		{
-			Errors.Add(FString::Printf(TEXT("the properties of export %d (%s) are damaged at offset %lld"), Index, *Linker.GetExportPathName(Index), static_cast<long long>(Reached)));
+			AddDamage(TEXT("properties"), Index, Reached);
 		}
 		Export.SetArrayField(TEXT("properties"), MoveTemp(Properties));
+		if (bRead && IsDefinition(Index))
+		{
+			AddDefinition(Index, Export, End, Reached);
+		}
 		Export.SetNumberField(TEXT("native_size"), double(End - Reached));
+	}
+
+	bool IsDefinition(int32 Index) const
+	{
+		return FTypeDefinitionReader::IsDefinition(Linker.GetExportClassName(Index)) && Linker.GetExportClassPath(Index).GetPackageName().ToString().StartsWith(TEXT("/Script/"));
+	}
+
+	void AddDefinition(int32 Index, FJsonObject& Export, int64 End, int64& Reached)
+	{
+		const TSharedRef<FJsonObject> Definition = MakeShared<FJsonObject>();
+		if (!FTypeDefinitionReader(Linker).Read(Linker.GetExportClassName(Index), Reached, End, *Definition, Reached))
+		{
+			AddDamage(TEXT("members"), Index, Reached);
+		}
+		Export.SetObjectField(TEXT("definition"), Definition);
+	}
+
+	void AddDamage(const TCHAR* What, int32 Index, int64 Offset)
+	{
+		Errors.Add(FString::Printf(TEXT("the %s of export %d (%s) are damaged at offset %lld"), What, Index, *Linker.GetExportPathName(Index), static_cast<long long>(Offset)));
 	}
 
 	/** Data about an asset's source file, which its class writes before the properties. */
@@ -234,7 +260,7 @@ private:
 		TArray<FPackageThumbnail> Thumbnails;
 		Note(FPackageSections::ReadThumbnails(Linker, Thumbnails, Error));
 		AddList(Document, TEXT("thumbnails"), MapObjects(Thumbnails, [](FJsonObject& Object, const FPackageThumbnail& Thumbnail)
-													{
+												  {
 			Object.SetStringField(TEXT("object"), Thumbnail.ObjectPath);
 			Object.SetStringField(TEXT("class"), Thumbnail.ObjectClass);
 			Object.SetNumberField(TEXT("width"), Thumbnail.Width);
@@ -249,7 +275,7 @@ private:
 		FPackageAssetRegistryData Data;
 		Note(FPackageSections::ReadAssetRegistry(Linker, Data, Error));
 		AddList(Document, TEXT("asset_registry"), MapObjects(Data.Assets, [](FJsonObject& Object, const FPackageAssetEntry& Asset)
-														{
+													  {
 			Object.SetStringField(TEXT("object"), Asset.ObjectPath);
 			Object.SetStringField(TEXT("class"), Asset.ObjectClass);
 			const TSharedRef<FJsonObject> Tags = MakeShared<FJsonObject>();
@@ -301,7 +327,7 @@ private:
 		TArray<FPackageDataResource> Resources;
 		Note(FPackageSections::ReadDataResources(Linker, Resources, Error));
 		AddList(Document, TEXT("data_resources"), MapObjects(Resources, [this](FJsonObject& Object, const FPackageDataResource& Resource)
-													{
+													  {
 			Object.SetStringField(TEXT("owner"), Linker.GetPathName(Resource.Outer));
 			Object.SetNumberField(TEXT("offset"), double(Resource.SerialOffset));
 			Object.SetNumberField(TEXT("size"), double(Resource.SerialSize));
