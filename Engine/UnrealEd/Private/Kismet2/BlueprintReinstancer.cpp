@@ -39,6 +39,15 @@ const FProperty* FindOldProperty(const UClass& OldClass, const TMap<FName, FGuid
 	return bIsAnothers ? nullptr : OldClass.FindPropertyByName(NewProperty.GetFName());
 }
 
+/** A skeleton derives from its parent's skeleton, which knows what was declared there since the last compile. */
+UClass* FindSuperClass(const UBlueprint& Blueprint, const UBlueprintGeneratedClass& Class)
+{
+	UClass* const Parent = Blueprint.ParentClass.Get();
+	const UBlueprint* const ParentBlueprint = UBlueprint::GetBlueprintFromClass(Parent);
+	const bool bTakeSkeleton = Blueprint.SkeletonGeneratedClass.Get() == &Class && ParentBlueprint && ParentBlueprint->SkeletonGeneratedClass;
+	return bTakeSkeleton ? ParentBlueprint->SkeletonGeneratedClass.Get() : Parent;
+}
+
 /** Gives a placed actor's successor its components: anew what the Blueprint adds, and from the old actor what it was given itself. */
 void ConstructActor(AActor& Old, AActor& New)
 {
@@ -167,9 +176,10 @@ void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FSt
 {
 	UBlueprint& Blueprint = *Rebuilt.Blueprint;
 	UBlueprintGeneratedClass& Class = *Rebuilt.Class;
+	UClass* const SuperClass = FindSuperClass(Blueprint, Class);
 	Class.PurgeClass(false);
 	Class.PropertyGuids.Empty();
-	Class.SetSuperStruct(Blueprint.ParentClass.Get());
+	Class.SetSuperStruct(SuperClass);
 	Class.ClassGeneratedBy = &Blueprint;
 	Class.ClassFlags = CLASS_CompiledFromBlueprint | (Blueprint.bGenerateAbstractClass ? CLASS_Abstract : CLASS_None) |
 		(Blueprint.bDeprecate ? CLASS_Deprecated : CLASS_None) | (Blueprint.BlueprintType == BPTYPE_Interface ? CLASS_Interface | CLASS_Abstract : CLASS_None);

@@ -57,6 +57,27 @@ void AddDescription(UUserDefinedStructEditorData& Data, const FEdGraphPinType& T
 	Data.VariablesDescriptions.Add(Variable);
 }
 
+bool Contains(const UScriptStruct* Struct, const UScriptStruct* Wanted);
+
+/** Whether a value of the property, or an element of it, has a value of Wanted in it. */
+bool HoldsStruct(const FProperty* Property, const UScriptStruct* Wanted)
+{
+	if (const FStructProperty* const Member = CastField<FStructProperty>(Property))
+	{
+		return Contains(Member->Struct, Wanted);
+	}
+	if (const FArrayProperty* const Array = CastField<FArrayProperty>(Property))
+	{
+		return HoldsStruct(Array->Inner, Wanted);
+	}
+	if (const FSetProperty* const Set = CastField<FSetProperty>(Property))
+	{
+		return HoldsStruct(Set->ElementProp, Wanted);
+	}
+	const FMapProperty* const Map = CastField<FMapProperty>(Property);
+	return Map && (HoldsStruct(Map->KeyProp, Wanted) || HoldsStruct(Map->ValueProp, Wanted));
+}
+
 /** Whether a value of the struct has one of Wanted in it. */
 bool Contains(const UScriptStruct* Struct, const UScriptStruct* Wanted)
 {
@@ -64,9 +85,9 @@ bool Contains(const UScriptStruct* Struct, const UScriptStruct* Wanted)
 	{
 		return true;
 	}
-	for (TFieldIterator<FStructProperty> It(Struct); Struct && It; ++It)
+	for (TFieldIterator<FProperty> It(Struct); Struct && It; ++It)
 	{
-		if (Contains(It->Struct, Wanted))
+		if (HoldsStruct(*It, Wanted))
 		{
 			return true;
 		}

@@ -59,7 +59,11 @@ void VisitProperties(const UStruct& Owner, TFunctionRef<void(FProperty&)> Visit)
 
 FUserDefinedStructCompiler::FUserDefinedStructCompiler(UUserDefinedStruct& Struct)
 {
-	AddWithContainers(Struct, GetAll<UUserDefinedStruct>());
+	// Layouts of earlier rebuilds, which await their collection, have no members described.
+	TArray<UUserDefinedStruct*> All = GetAll<UUserDefinedStruct>();
+	All.RemoveAll([](const UUserDefinedStruct* Other)
+		{ return !Other->EditorData; });
+	AddWithContainers(Struct, All);
 }
 
 void FUserDefinedStructCompiler::AddWithContainers(UUserDefinedStruct& Struct, const TArray<UUserDefinedStruct*>& All)
