@@ -22,7 +22,8 @@ bool FindDelimiter(FStringView Text, int32 Start, TArrayView<const FStringView> 
 
 int32 ParseAtDelimiters(FStringView Text, TArray<FString>& OutArray, TArrayView<const FStringView> Delimiters, bool bCullEmpty)
 {
-	OutArray.Reset();
+	// The text may be an element of the output.
+	TArray<FString> Parts;
 	int32 Start = 0;
 	int32 At;
 	int32 DelimiterLen = 0;
@@ -30,14 +31,15 @@ int32 ParseAtDelimiters(FStringView Text, TArray<FString>& OutArray, TArrayView<
 	{
 		if (!bCullEmpty || At > Start)
 		{
-			OutArray.Emplace(Text.Mid(Start, At - Start));
+			Parts.Emplace(Text.Mid(Start, At - Start));
 		}
 		Start = At + DelimiterLen;
 	}
 	if (!bCullEmpty || Start < Text.Len())
 	{
-		OutArray.Emplace(Text.RightChop(Start));
+		Parts.Emplace(Text.RightChop(Start));
 	}
+	OutArray = MoveTemp(Parts);
 	return OutArray.Num();
 }
 }

@@ -60,8 +60,8 @@ T* NewType(UObject* Outer, FName Name, UClass* Class = T::StaticClass())
 {
 	// Through the allocator, so that a stand-in of the same name gives way; not through NewObject, whose defaults may not exist yet.
 	UObject* const Existing = StaticFindObjectFast(nullptr, Outer, Name);
-	T* const Type = static_cast<T*>(StaticAllocateObject(Class, Outer, Name, TypeFlags));
-	::new (static_cast<void*>(Type)) T();
+	void* const Memory = StaticAllocateObject(Class, Outer, Name, TypeFlags);
+	T* const Type = ::new (Memory) T();
 	if (Existing && UE::CoreUObject::IsPlaceholder(Existing))
 	{
 		UE::CoreUObject::ReplacePlaceholder(Existing, Type);

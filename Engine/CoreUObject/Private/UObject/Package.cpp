@@ -116,7 +116,6 @@ UPackage* CreatePackage(const TCHAR* PackageName)
 		return Existing;
 	}
 	// Not through NewObject: packages come before any class has a default object.
-	UPackage* const Package = static_cast<UPackage*>(StaticAllocateObject(UPackage::StaticClass(), nullptr, FName(*Name), RF_Public));
-	::new (static_cast<void*>(Package)) UPackage();
-	return Package;
+	void* const Memory = StaticAllocateObject(UPackage::StaticClass(), nullptr, FName(*Name), RF_Public);
+	return ::new (Memory) UPackage();
 }
