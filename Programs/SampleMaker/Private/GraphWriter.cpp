@@ -128,6 +128,15 @@ UClass& FGraphWriter::GetClass() const
 UEdGraphNode& FGraphWriter::AddEvent(FName Function)
 {
 	FindFunction(GetClass(), Function);
+	// A new Blueprint suggests some events, which are disabled until they are used.
+	if (UK2Node_Event* const Suggested = FBlueprintEditorUtils::FindOverrideForFunction(&GetBlueprint(), AActor::StaticClass(), Function))
+	{
+		Suggested->SetEnabledState(ENodeEnabledState::Enabled, false);
+		Suggested->NodeComment.Empty();
+		Suggested->bCommentBubbleVisible = false;
+		Place(*Suggested);
+		return *Suggested;
+	}
 	return Add<UK2Node_Event>([Function](UK2Node_Event& Node)
 		{
 			Node.EventReference.SetExternalMember(Function, AActor::StaticClass());
