@@ -154,7 +154,7 @@ FPackageIndex FLinkerSave::MapObject(UObject* Object)
 	}
 	const FPackageIndex* const Found = ObjectIndices.Find(Object);
 	const FPackageIndex Index = Found ? *Found : Object->IsIn(LinkerRoot) ? AddExport(Object)
-																		   : AddImport(Object);
+																		  : AddImport(Object);
 	if (Index.IsImport() && UsedImports.IsValidIndex(Index.ToImport()))
 	{
 		UsedImports[Index.ToImport()] = true;
