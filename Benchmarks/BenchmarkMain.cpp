@@ -1,3 +1,5 @@
+#include "BenchmarkMain.h"
+
 #include <benchmark/benchmark.h>
 #include <cstdio>
 #include <map>
@@ -124,6 +126,17 @@ private:
 	std::map<std::string, FGroup> Groups;
 	std::vector<std::string> Order;
 };
+
+std::vector<void (*)()>& GetEndOfMain()
+{
+	static std::vector<void (*)()> Functions;
+	return Functions;
+}
+}
+
+void RunAtEndOfMain(void (*Function)())
+{
+	GetEndOfMain().push_back(Function);
 }
 
 int main(int NumArguments, char** Arguments)
@@ -136,5 +149,9 @@ int main(int NumArguments, char** Arguments)
 	FRatioReporter Reporter;
 	benchmark::RunSpecifiedBenchmarks(&Reporter);
 	benchmark::Shutdown();
+	for (void (*const Function)() : GetEndOfMain())
+	{
+		Function();
+	}
 	return 0;
 }

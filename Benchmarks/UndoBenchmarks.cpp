@@ -1,10 +1,10 @@
+#include "BenchmarkEditor.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphPin.h"
 #include "Editor.h"
 #include "Editor/Transactor.h"
 #include "Engine/Blueprint.h"
 #include "GameFramework/Actor.h"
-#include "HeadlessEditor.h"
 #include "K2Node_CallFunction.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/KismetEditorUtilities.h"
@@ -14,47 +14,10 @@
 
 #include <benchmark/benchmark.h>
 #include <cstring>
-#include <filesystem>
-#include <fstream>
 #include <vector>
 
 namespace
 {
-/** The editor of this process on an empty project of its own. */
-class FBenchmarkEditor
-{
-public:
-	static FBenchmarkEditor& Get()
-	{
-		static FBenchmarkEditor Editor;
-		return Editor;
-	}
-
-	bool IsRunning() const { return Failure.IsEmpty(); }
-
-private:
-	FBenchmarkEditor()
-	{
-		std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-bench-XXXXXX").string();
-		Directory = mkdtemp(Pattern.data());
-		std::ofstream(Directory / "Bench.uproject") << "{\n\t\"FileVersion\": 3\n}\n";
-		FHeadlessEditorOptions Options;
-		Options.EngineDir = FString(UTF8_TO_TCHAR(VEXEL_SOURCE_DIR "/Engine"));
-		Options.Project = FString(UTF8_TO_TCHAR(Directory.c_str()));
-		Failure = FHeadlessEditor::Start(Options);
-	}
-
-	~FBenchmarkEditor()
-	{
-		FHeadlessEditor::Stop();
-		std::error_code Ignored;
-		std::filesystem::remove_all(Directory, Ignored);
-	}
-
-	std::filesystem::path Directory;
-	FString Failure;
-};
-
 /** A Blueprint whose event graph is one chain of calls, and the entry of an edit that moved and relinked all of them. */
 class FEditedGraph
 {

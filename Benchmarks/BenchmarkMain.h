@@ -1,0 +1,4 @@
+#pragma once
+
+/** Runs the function after the last benchmark, before statics are destroyed. */
+void RunAtEndOfMain(void (*Function)());
