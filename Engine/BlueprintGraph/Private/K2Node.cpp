@@ -51,6 +51,27 @@ UClass* UK2Node::GetBlueprintClassFromNode() const
 
 // Pins
 
+UK2Node::ERenamePinResult UK2Node::RenameUserDefinedPin(const FName OldName, const FName NewName, bool bTest)
+{
+	UEdGraphPin* const Pin = FindPin(OldName);
+	if (!Pin)
+	{
+		return ERenamePinResult_NoSuchPin;
+	}
+	const UEdGraphPin* const Existing = FindPin(NewName);
+	if (NewName.IsNone() || (Existing && Existing != Pin))
+	{
+		return ERenamePinResult_NameCollision;
+	}
+	if (!bTest)
+	{
+		Modify();
+		RenamePins({Pin}, [NewName](int32)
+			{ return NewName; });
+	}
+	return ERenamePinResult_Success;
+}
+
 UEdGraphPin* UK2Node::GetExecPin() const
 {
 	return FindPinByPredicate([](const UEdGraphPin* Pin)

@@ -5,6 +5,12 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
+namespace
+{
+/** Classes whose task a user may keep, with the pin's name. */
+const TCHAR* const ExposedProxy = TEXT("ExposedAsyncProxy");
+}
+
 UFunction* UK2Node_BaseAsyncTask::GetFactoryFunction() const
 {
 	return ProxyFactoryClass ? ProxyFactoryClass->FindFunctionByName(ProxyFactoryFunctionName) : nullptr;
@@ -18,11 +24,19 @@ bool UK2Node_BaseAsyncTask::HasKnownDefinition() const
 void UK2Node_BaseAsyncTask::AllocateDefaultPins()
 {
 	CreateExecPin();
-	CreateThenPin();
+	if (!ProxyClass || !ProxyClass->HasMetaData(TEXT("HideThen")))
+	{
+		CreateThenPin();
+	}
 	const UFunction* const Function = GetFactoryFunction();
 	if (!Function || !ProxyClass)
 	{
 		return;
+	}
+	if (ProxyClass->HasMetaData(ExposedProxy))
+	{
+		UEdGraphPin* const Proxy = CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, ProxyClass.Get(), TEXT("AsyncTaskProxy"));
+		Proxy->PinFriendlyName = ProxyClass->GetMetaDataText(ExposedProxy);
 	}
 	const UFunction* Signature = nullptr;
 	for (TFieldIterator<FMulticastDelegateProperty> Property(ProxyClass); Property; ++Property)

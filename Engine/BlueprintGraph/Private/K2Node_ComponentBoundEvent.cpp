@@ -1,6 +1,5 @@
 #include "K2Node_ComponentBoundEvent.h"
 
-#include "Engine/Blueprint.h"
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
@@ -15,17 +14,13 @@ void UK2Node_ComponentBoundEvent::InitializeComponentBoundEventParams(const FObj
 	ComponentPropertyName = InComponentProperty->GetFName();
 	DelegatePropertyName = InDelegateProperty->GetFName();
 	DelegateOwnerClass = InDelegateProperty->GetOwnerClass();
-	EventReference.SetFromField<UFunction>(InDelegateProperty->SignatureFunction, false);
-	CustomFunctionName = FName(*FString::Printf(TEXT("BndEvt__%s_%s_%s_%s"), GetBlueprint() ? *GetBlueprint()->GetName() : TEXT(""), *ComponentPropertyName.ToString(), *GetName(),
-		*InDelegateProperty->SignatureFunction->GetName()));
-	bOverrideFunction = false;
-	bInternalEvent = true;
+	BindToDispatcher(*InDelegateProperty, ComponentPropertyName);
 }
 
 UFunction* UK2Node_ComponentBoundEvent::FindEventSignatureFunction() const
 {
-	const FMulticastDelegateProperty* const Property = GetTargetDelegateProperty();
-	return Property ? Property->SignatureFunction : Super::FindEventSignatureFunction();
+	UFunction* const Signature = FindDispatcherSignature(DelegateOwnerClass, DelegatePropertyName);
+	return Signature ? Signature : Super::FindEventSignatureFunction();
 }
 
 FText UK2Node_ComponentBoundEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
@@ -35,8 +30,7 @@ FText UK2Node_ComponentBoundEvent::GetNodeTitle(ENodeTitleType::Type TitleType) 
 
 FText UK2Node_ComponentBoundEvent::GetTooltipText() const
 {
-	const FMulticastDelegateProperty* const Property = GetTargetDelegateProperty();
-	return Property ? Property->GetToolTipText() : FText::FromName(DelegatePropertyName);
+	return GetDispatcherToolTip(DelegateOwnerClass, DelegatePropertyName);
 }
 
 #undef LOCTEXT_NAMESPACE

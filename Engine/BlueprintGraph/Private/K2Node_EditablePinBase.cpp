@@ -111,6 +111,18 @@ void UK2Node_EditablePinBase::RemoveUserDefinedPinByName(const FName PinName)
 	}
 }
 
+UK2Node::ERenamePinResult UK2Node_EditablePinBase::RenameUserDefinedPin(const FName OldName, const FName NewName, bool bTest)
+{
+	const TSharedPtr<FUserPinInfo>* const Found = UserDefinedPins.FindByPredicate([OldName](const TSharedPtr<FUserPinInfo>& Info)
+		{ return Info->PinName == OldName; });
+	const ERenamePinResult Result = Found ? Super::RenameUserDefinedPin(OldName, NewName, bTest) : ERenamePinResult_NoSuchPin;
+	if (Result == ERenamePinResult_Success && !bTest)
+	{
+		(*Found)->PinName = NewName;
+	}
+	return Result;
+}
+
 bool UK2Node_EditablePinBase::UserDefinedPinExists(const FName PinName) const
 {
 	return UserDefinedPins.ContainsByPredicate([PinName](const TSharedPtr<FUserPinInfo>& Info)

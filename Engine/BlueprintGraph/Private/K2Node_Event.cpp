@@ -69,6 +69,39 @@ FText UK2Node_Event::GetDispatcherName(const UClass* OwnerClass, FName PropertyN
 	return Property ? Property->GetDisplayNameText() : FText::FromString(FName::NameToDisplayString(PropertyName.ToString(), false));
 }
 
+FText UK2Node_Event::GetDispatcherToolTip(const UClass* OwnerClass, FName PropertyName)
+{
+	const FMulticastDelegateProperty* const Property = FindDispatcher(OwnerClass, PropertyName);
+	return Property ? Property->GetToolTipText() : FText::FromName(PropertyName);
+}
+
+UFunction* UK2Node_Event::FindDispatcherSignature(const UClass* OwnerClass, FName PropertyName)
+{
+	const FMulticastDelegateProperty* const Property = FindDispatcher(OwnerClass, PropertyName);
+	return Property ? Property->SignatureFunction : nullptr;
+}
+
+void UK2Node_Event::BindToDispatcher(const FMulticastDelegateProperty& Dispatcher, FName OwnerName)
+{
+	const UBlueprint* const Blueprint = GetBlueprint();
+	EventReference.SetFromField<UFunction>(Dispatcher.SignatureFunction, false);
+	CustomFunctionName = FName(*FString::Printf(TEXT("BndEvt__%s_%s_%s_%s"), Blueprint ? *Blueprint->GetName() : TEXT(""), *OwnerName.ToString(), *GetName(),
+		*Dispatcher.SignatureFunction->GetName()));
+	bOverrideFunction = false;
+	bInternalEvent = true;
+}
+
+void UK2Node_Event::SetDelegateSignature(const TCHAR* SignatureName)
+{
+	EventReference.SetExternalDelegateMember(FName(SignatureName));
+	bInternalEvent = true;
+}
+
+FName UK2Node_Event::MakeInternalName(const TCHAR* Prefix, const FString& Subject) const
+{
+	return FName(*FString::Printf(TEXT("%s_%s_%s"), Prefix, *Subject, *GetName()));
+}
+
 void UK2Node_Event::CreateValuePin(FName PinName, FName Category, FName SubCategory, UObject* SubCategoryObject)
 {
 	if (!FindPin(PinName))

@@ -5,14 +5,6 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-UK2Node_InputAction::UK2Node_InputAction(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-	, bConsumeInput(true)
-	, bExecuteWhenPaused(false)
-	, bOverrideParentBinding(true)
-{
-}
-
 void UK2Node_InputAction::AllocateDefaultPins()
 {
 	FInputNodePins::CreateKeyPins(*this);

@@ -6,18 +6,14 @@
 
 UK2Node_InputAxisEvent::UK2Node_InputAxisEvent(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
-	, bConsumeInput(true)
-	, bExecuteWhenPaused(false)
-	, bOverrideParentBinding(true)
 {
-	EventReference.SetExternalDelegateMember(FName(TEXT("InputAxisHandlerDynamicSignature__DelegateSignature")));
-	bInternalEvent = true;
+	SetDelegateSignature(TEXT("InputAxisHandlerDynamicSignature__DelegateSignature"));
 }
 
 void UK2Node_InputAxisEvent::Initialize(const FName AxisName)
 {
 	InputAxisName = AxisName;
-	CustomFunctionName = FName(*FString::Printf(TEXT("InpAxisEvt_%s_%s"), *InputAxisName.ToString(), *GetName()));
+	CustomFunctionName = MakeInternalName(TEXT("InpAxisEvt"), InputAxisName.ToString());
 }
 
 void UK2Node_InputAxisEvent::AllocateDefaultPins()

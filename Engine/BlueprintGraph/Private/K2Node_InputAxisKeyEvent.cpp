@@ -6,18 +6,14 @@
 
 UK2Node_InputAxisKeyEvent::UK2Node_InputAxisKeyEvent(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
-	, bConsumeInput(true)
-	, bExecuteWhenPaused(false)
-	, bOverrideParentBinding(true)
 {
-	EventReference.SetExternalDelegateMember(FName(TEXT("InputAxisHandlerDynamicSignature__DelegateSignature")));
-	bInternalEvent = true;
+	SetDelegateSignature(TEXT("InputAxisHandlerDynamicSignature__DelegateSignature"));
 }
 
 void UK2Node_InputAxisKeyEvent::Initialize(const FKey InAxisKey)
 {
 	AxisKey = InAxisKey;
-	CustomFunctionName = FName(*FString::Printf(TEXT("InpAxisKeyEvt_%s_%s"), *AxisKey.ToString(), *GetName()));
+	CustomFunctionName = MakeInternalName(TEXT("InpAxisKeyEvt"), AxisKey.ToString());
 }
 
 void UK2Node_InputAxisKeyEvent::AllocateDefaultPins()

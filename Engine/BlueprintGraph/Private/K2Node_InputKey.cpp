@@ -5,18 +5,6 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-UK2Node_InputKey::UK2Node_InputKey(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-	, bConsumeInput(true)
-	, bExecuteWhenPaused(false)
-	, bOverrideParentBinding(true)
-	, bControl(false)
-	, bAlt(false)
-	, bShift(false)
-	, bCommand(false)
-{
-}
-
 void UK2Node_InputKey::AllocateDefaultPins()
 {
 	FInputNodePins::CreateKeyPins(*this);

@@ -6,14 +6,6 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-UK2Node_InputTouch::UK2Node_InputTouch(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-	, bConsumeInput(true)
-	, bExecuteWhenPaused(false)
-	, bOverrideParentBinding(true)
-{
-}
-
 void UK2Node_InputTouch::AllocateDefaultPins()
 {
 	for (const TCHAR* const Name : {TEXT("Pressed"), TEXT("Released"), TEXT("Moved")})

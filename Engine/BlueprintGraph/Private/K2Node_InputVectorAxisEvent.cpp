@@ -7,13 +7,13 @@
 UK2Node_InputVectorAxisEvent::UK2Node_InputVectorAxisEvent(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 {
-	EventReference.SetExternalDelegateMember(FName(TEXT("InputVectorAxisHandlerDynamicSignature__DelegateSignature")));
+	SetDelegateSignature(TEXT("InputVectorAxisHandlerDynamicSignature__DelegateSignature"));
 }
 
 void UK2Node_InputVectorAxisEvent::Initialize(const FKey InAxisKey)
 {
 	AxisKey = InAxisKey;
-	CustomFunctionName = FName(*FString::Printf(TEXT("InpVectorAxisEvt_%s_%s"), *AxisKey.ToString(), *GetName()));
+	CustomFunctionName = MakeInternalName(TEXT("InpVectorAxisEvt"), AxisKey.ToString());
 }
 
 void UK2Node_InputVectorAxisEvent::AllocateDefaultPins()

@@ -1,5 +1,8 @@
 #include "K2Node_Timeline.h"
 
+#include "Curves/CurveFloat.h"
+#include "Curves/CurveLinearColor.h"
+#include "Curves/CurveVector.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphSchema.h"
 #include "Engine/Blueprint.h"
@@ -7,8 +10,16 @@
 #include "UObject/Class.h"
 #include "UObject/NoExportTypes.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
+
+#include <type_traits>
 
 #define LOCTEXT_NAMESPACE "K2Node"
+
+namespace
+{
+const TCHAR* const DirectionName = TEXT("Direction");
+}
 
 UTimelineTemplate* UK2Node_Timeline::GetTemplate() const
 {
@@ -28,26 +39,95 @@ bool UK2Node_Timeline::IsCompatibleWithGraph(const UEdGraph* TargetGraph) const
 	return Super::IsCompatibleWithGraph(TargetGraph) && Schema && Schema->GetGraphType(TargetGraph) == GT_Ubergraph;
 }
 
-void UK2Node_Timeline::PostPlacedNewNode()
+void UK2Node_Timeline::MakeNameUnique(const UBlueprint& Blueprint)
 {
-	UBlueprint* const Blueprint = GetBlueprint();
-	if (!Blueprint || GetTemplate())
-	{
-		return;
-	}
 	const FString BaseName = TimelineName.IsNone() ? TEXT("Timeline") : TimelineName.ToString();
 	TimelineName = FName(*BaseName);
-	for (int32 Number = 0; Blueprint->FindTimelineIndex(TimelineName) != INDEX_NONE; ++Number)
+	for (int32 Number = 0; Blueprint.FindTimelineIndex(TimelineName) != INDEX_NONE; ++Number)
 	{
 		TimelineName = FName(*FString::Printf(TEXT("%s_%d"), *BaseName, Number));
 	}
-	UObject* const Outer = Blueprint->GeneratedClass ? static_cast<UObject*>(Blueprint->GeneratedClass.Get()) : Blueprint;
-	Blueprint->Modify();
-	UTimelineTemplate* const Template = NewObject<UTimelineTemplate>(Outer, FName(*UTimelineTemplate::TimelineVariableNameToTemplateName(TimelineName)), RF_Transactional);
+}
+
+UTimelineTemplate* UK2Node_Timeline::AddTemplate(UBlueprint& Blueprint, const UTimelineTemplate* Source)
+{
+	UObject* const Outer = Blueprint.GeneratedClass ? static_cast<UObject*>(Blueprint.GeneratedClass.Get()) : &Blueprint;
+	const FName Name(*UTimelineTemplate::TimelineVariableNameToTemplateName(TimelineName));
+	Blueprint.Modify();
+	UTimelineTemplate* const Template = Source ? DuplicateObject<UTimelineTemplate>(Source, Outer, Name) : NewObject<UTimelineTemplate>(Outer, Name);
+	Template->SetFlags(RF_Transactional);
 	Template->TimelineGuid = FGuid::NewGuid();
 	Template->UpdateCachedNames();
 	TimelineGuid = Template->TimelineGuid;
-	Blueprint->Timelines.Add(Template);
+	Blueprint.Timelines.Add(Template);
+	return Template;
+}
+
+void UK2Node_Timeline::PostPlacedNewNode()
+{
+	UBlueprint* const Blueprint = GetBlueprint();
+	if (Blueprint && !GetTemplate())
+	{
+		MakeNameUnique(*Blueprint);
+		AddTemplate(*Blueprint, nullptr);
+	}
+}
+
+void UK2Node_Timeline::PostPasteNode()
+{
+	Super::PostPasteNode();
+	UBlueprint* const Blueprint = GetBlueprint();
+	if (!Blueprint)
+	{
+		return;
+	}
+	TArray<UObject*> Templates;
+	GetObjectsOfClass(UTimelineTemplate::StaticClass(), Templates, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
+	UObject* const* const Source = Templates.FindByPredicate([this](const UObject* Template)
+		{ return CastChecked<UTimelineTemplate>(Template)->TimelineGuid == TimelineGuid; });
+	// Two nodes never share a timeline: this one gets a copy of what it was copied from.
+	MakeNameUnique(*Blueprint);
+	UTimelineTemplate* const Template = AddTemplate(*Blueprint, Source ? CastChecked<UTimelineTemplate>(*Source) : nullptr);
+	if (!Source)
+	{
+		AddTracksOfPins(*Template);
+	}
+}
+
+void UK2Node_Timeline::AddTracksOfPins(UTimelineTemplate& Template) const
+{
+	const auto AddTrack = [&Template](auto& Tracks, auto Curve, const FName Name)
+	{
+		auto& Track = Tracks.AddDefaulted_GetRef();
+		Track.SetTrackName(Name, &Template);
+		using CurveClass = std::remove_reference_t<decltype(*(Track.*Curve))>;
+		Track.*Curve = NewObject<CurveClass>(&Template, NAME_None, RF_Transactional);
+	};
+	for (const UEdGraphPin* const Pin : Pins)
+	{
+		const bool bIsOfEveryTimeline = Pin == GetUpdatePin() || Pin == GetFinishedPin() || Pin == FindPin(DirectionName);
+		if (Pin->Direction != EGPD_Output || Pin->ParentPin || bIsOfEveryTimeline)
+		{
+			continue;
+		}
+		const FEdGraphPinType& Type = Pin->PinType;
+		if (Type.PinCategory == UEdGraphSchema_K2::PC_Exec)
+		{
+			AddTrack(Template.EventTracks, &FTTEventTrack::CurveKeys, Pin->PinName);
+		}
+		else if (Type.PinCategory == UEdGraphSchema_K2::PC_Real)
+		{
+			AddTrack(Template.FloatTracks, &FTTFloatTrack::CurveFloat, Pin->PinName);
+		}
+		else if (Type.PinSubCategoryObject == TBaseStructure<FVector>::Get())
+		{
+			AddTrack(Template.VectorTracks, &FTTVectorTrack::CurveVector, Pin->PinName);
+		}
+		else if (Type.PinSubCategoryObject == TBaseStructure<FLinearColor>::Get())
+		{
+			AddTrack(Template.LinearColorTracks, &FTTLinearColorTrack::CurveLinearColor, Pin->PinName);
+		}
+	}
 }
 
 void UK2Node_Timeline::AllocateDefaultPins()
@@ -62,7 +142,7 @@ void UK2Node_Timeline::AllocateDefaultPins()
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Finished"));
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Exec, TEXT("SetNewTime"));
 	CreatePinWithDefault(EGPD_Input, UEdGraphSchema_K2::PC_Real, TEXT("NewTime"), UEdGraphSchema_K2::PC_Float);
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ETimelineDirection")), TEXT("Direction"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ETimelineDirection")), DirectionName);
 	const UTimelineTemplate* const Template = GetTemplate();
 	if (!Template)
 	{

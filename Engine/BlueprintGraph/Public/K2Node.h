@@ -101,6 +101,17 @@ public:
 		ERedirectType_Custom
 	};
 
+	/** What became of the renaming of a pin. */
+	enum ERenamePinResult
+	{
+		ERenamePinResult_Success,
+		ERenamePinResult_NoSuchPin,
+		ERenamePinResult_NameCollision
+	};
+
+	/** Renames the pin and its sub-pins; its links stay. bTest only says whether that could be done. */
+	virtual ERenamePinResult RenameUserDefinedPin(const FName OldName, const FName NewName, bool bTest = false);
+
 	// UEdGraphNode
 	virtual void ReconstructNode() override;
 	virtual void AutowireNewNode(UEdGraphPin* FromPin) override;

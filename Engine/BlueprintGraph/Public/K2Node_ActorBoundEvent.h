@@ -23,8 +23,12 @@ public:
 	UPROPERTY()
 	TObjectPtr<AActor> EventOwner = nullptr;
 
+	/** Binds the event to a dispatcher of the actor. */
+	void InitializeActorBoundEventParams(AActor* InEventOwner, const FMulticastDelegateProperty* InDelegateProperty);
+	AActor* GetReferencedLevelActor() const { return EventOwner; }
 	FMulticastDelegateProperty* GetTargetDelegateProperty() const { return FindDispatcher(DelegateOwnerClass, DelegatePropertyName); }
 	FText GetTargetDelegateDisplayName() const { return GetDispatcherName(DelegateOwnerClass, DelegatePropertyName); }
 	virtual UFunction* FindEventSignatureFunction() const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetTooltipText() const override;
 };

@@ -69,6 +69,8 @@ public:
 	virtual FText GetMenuCategory() const override;
 
 protected:
+	/** Gives the parameter the value that the node is about, and hides its pin. */
+	void SetFixedParameter(FName ParameterName, const FString& Value);
 	virtual void CreateExecPinsForFunctionCall(const UFunction* Function);
 	virtual UEdGraphPin* CreateSelfPin(const UFunction* Function);
 	/** Makes the target pin and one pin a parameter. False when Blueprints have no type for one of them. */

@@ -47,6 +47,8 @@ public:
 	UEdGraphPin* CreateUserDefinedPin(const FName InPinName, const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, bool bUseUniqueName = true);
 	void RemoveUserDefinedPin(TSharedPtr<FUserPinInfo> PinToRemove);
 	void RemoveUserDefinedPinByName(const FName PinName);
+	/** Renames the definition with the pin; the callers of a function have pins of their own to rename. */
+	virtual ERenamePinResult RenameUserDefinedPin(const FName OldName, const FName NewName, bool bTest = false) override;
 	bool UserDefinedPinExists(const FName PinName) const;
 	virtual bool ModifyUserDefinedPinDefaultValue(TSharedPtr<FUserPinInfo> PinInfo, const FString& NewDefaultValue);
 	/** Gives the node the function's parameters as pins of its own. */

@@ -60,8 +60,17 @@ protected:
 	static FMulticastDelegateProperty* FindDispatcher(const UClass* OwnerClass, FName PropertyName);
 	/** The dispatcher's name as a user reads it. */
 	static FText GetDispatcherName(const UClass* OwnerClass, FName PropertyName);
+	static FText GetDispatcherToolTip(const UClass* OwnerClass, FName PropertyName);
 	/** A value that the event gives even while its signature is not known. */
 	void CreateValuePin(FName PinName, FName Category, FName SubCategory, UObject* SubCategoryObject = nullptr);
+	/** Makes the event one that the Blueprint binds by itself, with the parameters of a delegate type. */
+	void SetDelegateSignature(const TCHAR* SignatureName);
+	/** A name of the function for an event of its own: "InpAxisEvt_Turn_K2Node_InputAxisEvent_0". */
+	FName MakeInternalName(const TCHAR* Prefix, const FString& Subject) const;
+	/** The dispatcher's parameters; null while it is not known. */
+	static UFunction* FindDispatcherSignature(const UClass* OwnerClass, FName PropertyName);
+	/** Makes the event that of a dispatcher of OwnerName, a component or an actor. */
+	void BindToDispatcher(const FMulticastDelegateProperty& Dispatcher, FName OwnerName);
 	/** Tells the "OutputDelegate" pin which function it stands for. */
 	void UpdateDelegatePin();
 };

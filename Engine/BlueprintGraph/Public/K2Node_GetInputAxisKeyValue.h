@@ -16,15 +16,13 @@ public:
 	FKey InputAxisKey;
 
 	UPROPERTY()
-	uint32 bConsumeInput : 1;
+	uint32 bConsumeInput : 1 = true;
 
 	UPROPERTY()
-	uint32 bExecuteWhenPaused : 1;
+	uint32 bExecuteWhenPaused : 1 = false;
 
 	UPROPERTY()
-	uint32 bOverrideParentBinding : 1;
-
-	UK2Node_GetInputAxisKeyValue(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+	uint32 bOverrideParentBinding : 1 = true;
 
 	void Initialize(const FKey AxisKey);
 	virtual void AllocateDefaultPins() override;

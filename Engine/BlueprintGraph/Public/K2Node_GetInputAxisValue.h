@@ -15,15 +15,13 @@ public:
 	FName InputAxisName;
 
 	UPROPERTY()
-	uint32 bConsumeInput : 1;
+	uint32 bConsumeInput : 1 = true;
 
 	UPROPERTY()
-	uint32 bExecuteWhenPaused : 1;
+	uint32 bExecuteWhenPaused : 1 = false;
 
 	UPROPERTY()
-	uint32 bOverrideParentBinding : 1;
-
-	UK2Node_GetInputAxisValue(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+	uint32 bOverrideParentBinding : 1 = true;
 
 	void Initialize(const FName AxisName);
 	virtual void AllocateDefaultPins() override;

@@ -16,15 +16,13 @@ public:
 	FName InputActionName;
 
 	UPROPERTY()
-	uint32 bConsumeInput : 1;
+	uint32 bConsumeInput : 1 = true;
 
 	UPROPERTY()
-	uint32 bExecuteWhenPaused : 1;
+	uint32 bExecuteWhenPaused : 1 = false;
 
 	UPROPERTY()
-	uint32 bOverrideParentBinding : 1;
-
-	UK2Node_InputAction(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+	uint32 bOverrideParentBinding : 1 = true;
 
 	UEdGraphPin* GetPressedPin() const { return FindPin(TEXT("Pressed")); }
 	UEdGraphPin* GetReleasedPin() const { return FindPin(TEXT("Released")); }

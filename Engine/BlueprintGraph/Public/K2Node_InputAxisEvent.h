@@ -15,13 +15,13 @@ public:
 	FName InputAxisName;
 
 	UPROPERTY()
-	uint32 bConsumeInput : 1;
+	uint32 bConsumeInput : 1 = true;
 
 	UPROPERTY()
-	uint32 bExecuteWhenPaused : 1;
+	uint32 bExecuteWhenPaused : 1 = false;
 
 	UPROPERTY()
-	uint32 bOverrideParentBinding : 1;
+	uint32 bOverrideParentBinding : 1 = true;
 
 	UK2Node_InputAxisEvent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 

@@ -16,13 +16,13 @@ public:
 	FKey AxisKey;
 
 	UPROPERTY()
-	uint32 bConsumeInput : 1;
+	uint32 bConsumeInput : 1 = true;
 
 	UPROPERTY()
-	uint32 bExecuteWhenPaused : 1;
+	uint32 bExecuteWhenPaused : 1 = false;
 
 	UPROPERTY()
-	uint32 bOverrideParentBinding : 1;
+	uint32 bOverrideParentBinding : 1 = true;
 
 	UK2Node_InputAxisKeyEvent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 

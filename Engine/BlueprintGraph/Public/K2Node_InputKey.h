@@ -16,27 +16,25 @@ public:
 	FKey InputKey;
 
 	UPROPERTY()
-	uint32 bConsumeInput : 1;
+	uint32 bConsumeInput : 1 = true;
 
 	UPROPERTY()
-	uint32 bExecuteWhenPaused : 1;
+	uint32 bExecuteWhenPaused : 1 = false;
 
 	UPROPERTY()
-	uint32 bOverrideParentBinding : 1;
+	uint32 bOverrideParentBinding : 1 = true;
 
 	UPROPERTY()
-	uint32 bControl : 1;
+	uint32 bControl : 1 = false;
 
 	UPROPERTY()
-	uint32 bAlt : 1;
+	uint32 bAlt : 1 = false;
 
 	UPROPERTY()
-	uint32 bShift : 1;
+	uint32 bShift : 1 = false;
 
 	UPROPERTY()
-	uint32 bCommand : 1;
-
-	UK2Node_InputKey(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+	uint32 bCommand : 1 = false;
 
 	UEdGraphPin* GetPressedPin() const { return FindPin(TEXT("Pressed")); }
 	UEdGraphPin* GetReleasedPin() const { return FindPin(TEXT("Released")); }

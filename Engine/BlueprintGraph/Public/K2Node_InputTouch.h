@@ -12,15 +12,13 @@ class BLUEPRINTGRAPH_API UK2Node_InputTouch : public UK2Node
 
 public:
 	UPROPERTY()
-	uint32 bConsumeInput : 1;
+	uint32 bConsumeInput : 1 = true;
 
 	UPROPERTY()
-	uint32 bExecuteWhenPaused : 1;
+	uint32 bExecuteWhenPaused : 1 = false;
 
 	UPROPERTY()
-	uint32 bOverrideParentBinding : 1;
-
-	UK2Node_InputTouch(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
+	uint32 bOverrideParentBinding : 1 = true;
 
 	virtual void AllocateDefaultPins() override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;

@@ -40,7 +40,15 @@ public:
 	virtual bool IsCompatibleWithGraph(const UEdGraph* TargetGraph) const override;
 	virtual void AllocateDefaultPins() override;
 	virtual void PostPlacedNewNode() override;
+	/** Gives the node a timeline of its own: a copy of the one that it was copied from, or one with tracks for its pins. */
+	virtual void PostPasteNode() override;
 	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;
+
+private:
+	void MakeNameUnique(const UBlueprint& Blueprint);
+	/** Adds this node's timeline to the Blueprint; Source is what it starts as, or null. */
+	UTimelineTemplate* AddTemplate(UBlueprint& Blueprint, const UTimelineTemplate* Source);
+	void AddTracksOfPins(UTimelineTemplate& Template) const;
 };

@@ -5,16 +5,6 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-UK2Node_InputDebugKey::UK2Node_InputDebugKey(const FObjectInitializer& ObjectInitializer)
-	: Super(ObjectInitializer)
-	, bExecuteWhenPaused(false)
-	, bControl(false)
-	, bAlt(false)
-	, bShift(false)
-	, bCommand(false)
-{
-}
-
 void UK2Node_InputDebugKey::AllocateDefaultPins()
 {
 	FInputNodePins::CreateKeyPins(*this);
