@@ -88,7 +88,7 @@ public:
 	static UClass* Conv_SoftClassReferenceToClass(const TSoftClassPtr<UObject>& SoftClass);
 
 	/** A reference that does not keep the object loaded. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To Soft Object Reference (Object)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To Soft Object Reference (Object)", CompactNodeTitle = "->", DeterminesOutputType = "Object", BlueprintAutocast))
 	static TSoftObjectPtr<UObject> Conv_ObjectToSoftObjectReference(UObject* Object);
 
 	/** A reference that does not keep the class loaded. */

@@ -256,12 +256,12 @@ public:
 
 /** A row of a list of objects. */
 UINTERFACE()
-class UMG_API UUserObjectListEntry : public UInterface
+class UMG_API UUserObjectListEntry : public UUserListEntry
 {
 	GENERATED_BODY()
 };
 
-class UMG_API IUserObjectListEntry
+class UMG_API IUserObjectListEntry : public IUserListEntry
 {
 	GENERATED_BODY()
 

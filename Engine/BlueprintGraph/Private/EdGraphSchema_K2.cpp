@@ -403,7 +403,8 @@ bool UEdGraphSchema_K2::CanSplitStructPin(const UEdGraphPin& Pin) const
 void UEdGraphSchema_K2::SplitPin(UEdGraphPin* Pin, bool bNotify) const
 {
 	const UScriptStruct* const Struct = Pin->PinType.PinCategory == PC_Struct ? Cast<UScriptStruct>(Pin->PinType.PinSubCategoryObject.Get()) : nullptr;
-	if (!Struct || Pin->SubPins.Num() > 0)
+	// A link of the whole value would go on out of sight, against the members' own.
+	if (!Struct || Pin->SubPins.Num() > 0 || Pin->LinkedTo.Num() > 0)
 	{
 		return;
 	}

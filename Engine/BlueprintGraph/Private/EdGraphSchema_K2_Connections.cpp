@@ -1,11 +1,14 @@
 #include "EdGraphSchema_K2.h"
 
 #include "EdGraph/EdGraph.h"
+#include "Engine/Blueprint.h"
 #include "K2Node.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_Knot.h"
 #include "K2Node_PromotableOperator.h"
+#include "OperatorFunctions.h"
 #include "UObject/Class.h"
+#include "UObject/UObjectGlobals.h"
 
 #define LOCTEXT_NAMESPACE "KismetSchema"
 
@@ -31,6 +34,23 @@ UClass* GetCallingContext(const UEdGraphPin& Pin)
 {
 	const UK2Node* const Node = GetK2Node(Pin);
 	return Node ? Node->GetBlueprintClassFromNode() : nullptr;
+}
+
+/** The call is made on each of its targets, which may be linked one by one or as an array. */
+bool TakesManyTargets(const UEdGraphPin& InputPin, const bool bAsArray)
+{
+	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(InputPin.GetOwningNode());
+	return Call && InputPin.PinName == UEdGraphSchema_K2::PN_Self && !InputPin.PinType.IsContainer() && Call->AllowMultipleSelfs(bAsArray);
+}
+
+bool IsContainer(const UEdGraphPin* Pin)
+{
+	return Pin->PinType.IsContainer();
+}
+
+FText DescribeTypes(const FText& Format, const UEdGraphPin& OutputPin, const UEdGraphPin& InputPin)
+{
+	return FText::Format(Format, UEdGraphSchema_K2::TypeToText(OutputPin.PinType), UEdGraphSchema_K2::TypeToText(InputPin.PinType));
 }
 }
 
@@ -74,19 +94,25 @@ const FPinConnectionResponse UEdGraphSchema_K2::CanCreateConnection(const UEdGra
 	const UEdGraphPin& OutputPin = bInputIsA ? *PinB : *PinA;
 	const UEdGraphPin& InputPin = bInputIsA ? *PinA : *PinB;
 	const UClass* const CallingContext = GetCallingContext(*PinA);
-	// The targets of a call may be many: an array of objects does for a single one.
-	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(InputPin.GetOwningNode());
-	const bool bIgnoreArray = Call && IsSelfPin(InputPin) && OutputPin.PinType.IsArray() && Call->AllowMultipleSelfs(false);
-	const UK2Node_PromotableOperator* const Operator = Cast<UK2Node_PromotableOperator>(InputPin.GetOwningNode());
-	const bool bIsTaken = IsOpenReroute(OutputPin) || IsOpenReroute(InputPin) || (Operator && Operator->TakesOperand(InputPin, OutputPin.PinType));
-	if (bIsTaken || ArePinTypesCompatible(OutputPin.PinType, InputPin.PinType, CallingContext, bIgnoreArray))
+	const bool bIgnoreArray = OutputPin.PinType.IsArray() && TakesManyTargets(InputPin, true);
+	const bool bIsOpen = IsOpenReroute(OutputPin) || IsOpenReroute(InputPin);
+	if (bIsOpen || ArePinTypesCompatible(OutputPin.PinType, InputPin.PinType, CallingContext, bIgnoreArray))
 	{
 		return DetermineConnectionResponse(OutputPin, InputPin, bInputIsA);
 	}
-	if (SearchForAutocastFunction(OutputPin.PinType, InputPin.PinType))
+	const UK2Node_PromotableOperator* const Operator = Cast<UK2Node_PromotableOperator>(InputPin.GetOwningNode());
+	if (Operator && Operator->TakesOperand(InputPin, OutputPin.PinType))
 	{
-		return FPinConnectionResponse(CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE,
-			FText::Format(LOCTEXT("ConvertTypes", "Convert {0} to {1}."), TypeToText(OutputPin.PinType), TypeToText(InputPin.PinType)));
+		// The operator goes on as it is when the value widens to its type; it widens when the value does not.
+		if (FOperatorFunctions::CountPromotions(OutputPin.PinType, InputPin.PinType) >= 0)
+		{
+			return DetermineConnectionResponse(OutputPin, InputPin, bInputIsA);
+		}
+		return FPinConnectionResponse(CONNECT_RESPONSE_MAKE_WITH_PROMOTION, DescribeTypes(LOCTEXT("PromoteTypes", "Promote {1} to {0}."), OutputPin, InputPin));
+	}
+	if (SearchForAutocastFunction(OutputPin.PinType, InputPin.PinType).IsSet() || FindSpecializedConversionNode(OutputPin.PinType, InputPin, false).IsSet())
+	{
+		return FPinConnectionResponse(CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE, DescribeTypes(LOCTEXT("ConvertTypes", "Convert {0} to {1}."), OutputPin, InputPin));
 	}
 	return ExplainMismatch(OutputPin, InputPin);
 }
@@ -97,10 +123,10 @@ const FPinConnectionResponse UEdGraphSchema_K2::DetermineConnectionResponse(cons
 	const auto BreakOutput = bInputIsA ? CONNECT_RESPONSE_BREAK_OTHERS_B : CONNECT_RESPONSE_BREAK_OTHERS_A;
 	// Execution leaves by one way and may arrive by many; a value is the other way round.
 	const bool bIsExec = IsExecPin(OutputPin);
-	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(InputPin.GetOwningNode());
-	const bool bManyTargets = IsSelfPin(InputPin) && Call && Call->AllowMultipleSelfs(false);
+	// An array of targets stands alone: the call goes over its elements.
+	const bool bJoinsTargets = TakesManyTargets(InputPin, false) && !IsContainer(&OutputPin) && !InputPin.LinkedTo.ContainsByPredicate(&IsContainer);
 	const bool bReplacesOutput = bIsExec && OutputPin.LinkedTo.Num() > 0;
-	const bool bReplacesInput = !bIsExec && InputPin.LinkedTo.Num() > 0 && !bManyTargets && !IsDelegateCategory(InputPin.PinType.PinCategory);
+	const bool bReplacesInput = !bIsExec && InputPin.LinkedTo.Num() > 0 && !bJoinsTargets;
 	if (bReplacesOutput)
 	{
 		return FPinConnectionResponse(BreakOutput, LOCTEXT("ConnectReplaceOutputs", "Replace existing output connections"));
@@ -116,45 +142,105 @@ const FPinConnectionResponse UEdGraphSchema_K2::ExplainMismatch(const UEdGraphPi
 {
 	const UScriptStruct* const OutputStruct = Cast<UScriptStruct>(OutputPin.PinType.PinSubCategoryObject.Get());
 	const UScriptStruct* const InputStruct = Cast<UScriptStruct>(InputPin.PinType.PinSubCategoryObject.Get());
-	if (OutputPin.PinType.PinCategory == PC_Struct && InputPin.PinType.PinCategory == PC_Struct && OutputStruct && InputStruct && InputStruct->IsChildOf(OutputStruct))
+	if (OutputPin.PinType.PinCategory == PC_Struct && InputPin.PinType.PinCategory == PC_Struct && OutputStruct && InputStruct && OutputStruct->IsChildOf(InputStruct))
 	{
 		return Refuse(LOCTEXT("StructsIncompatible", "Only exactly matching structures are considered compatible. Derived structures are disallowed."));
 	}
-	return Refuse(FText::Format(LOCTEXT("DefaultPinIncompatibilityMessage", "{0} is not compatible with {1}."), TypeToText(OutputPin.PinType), TypeToText(InputPin.PinType)));
+	return Refuse(DescribeTypes(LOCTEXT("DefaultPinIncompatibilityMessage", "{0} is not compatible with {1}."), OutputPin, InputPin));
+}
+
+void UEdGraphSchema_K2::MarkBlueprintAsModified(const UEdGraphNode* Node)
+{
+	UBlueprint* const Blueprint = Node ? Node->GetTypedOuter<UBlueprint>() : nullptr;
+	if (Blueprint && !Blueprint->bBeingCompiled && !Blueprint->bIsRegeneratingOnLoad)
+	{
+		Blueprint->Status = BS_Dirty;
+		Blueprint->MarkPackageDirty();
+		Blueprint->BroadcastChanged();
+	}
 }
 
 bool UEdGraphSchema_K2::TryCreateConnection(UEdGraphPin* PinA, UEdGraphPin* PinB) const
 {
-	const bool bModified = Super::TryCreateConnection(PinA, PinB);
-	if (!bModified)
+	// A node may make its pins anew when it is linked.
+	UEdGraphNode* const NodeOfA = PinA ? PinA->GetOwningNodeUnchecked() : nullptr;
+	if (!Super::TryCreateConnection(PinA, PinB))
 	{
 		return false;
 	}
-	for (UEdGraphPin* const Pin : {PinA, PinB})
-	{
-		if (!Pin->WasTrashed())
-		{
-			Pin->GetOwningNode()->PinConnectionListChanged(Pin);
-		}
-	}
+	MarkBlueprintAsModified(NodeOfA);
 	return true;
+}
+
+void UEdGraphSchema_K2::BreakNodeLinks(UEdGraphNode& TargetNode) const
+{
+	Super::BreakNodeLinks(TargetNode);
+	MarkBlueprintAsModified(&TargetNode);
 }
 
 void UEdGraphSchema_K2::BreakPinLinks(UEdGraphPin& TargetPin, bool bSendsNodeNotifcation) const
 {
-	const TArray<UEdGraphPin*> OldLinks = TargetPin.LinkedTo;
+	// The pin may not outlive what its node does when told.
+	const UEdGraphNode* const Node = TargetPin.GetOwningNode();
 	Super::BreakPinLinks(TargetPin, bSendsNodeNotifcation);
-	if (!bSendsNodeNotifcation)
+	MarkBlueprintAsModified(Node);
+}
+
+void UEdGraphSchema_K2::BreakSinglePinLink(UEdGraphPin* SourcePin, UEdGraphPin* TargetPin) const
+{
+	const UEdGraphNode* const Node = SourcePin->GetOwningNode();
+	Super::BreakSinglePinLink(SourcePin, TargetPin);
+	MarkBlueprintAsModified(Node);
+}
+
+bool UEdGraphSchema_K2::CreatePromotedConnection(UEdGraphPin* PinA, UEdGraphPin* PinB) const
+{
+	UEdGraphPin* InputPin = nullptr;
+	UEdGraphPin* OutputPin = nullptr;
+	if (!CategorizePinsByDirection(PinA, PinB, InputPin, OutputPin))
 	{
-		return;
+		return false;
 	}
-	for (UEdGraphPin* const Linked : OldLinks)
+	InputPin->Modify();
+	OutputPin->Modify();
+	// The operator follows its links: it turns into that of the wider type when it is told of the new one.
+	InputPin->BreakAllPinLinks(true);
+	InputPin->MakeLinkTo(OutputPin);
+	return true;
+}
+
+UK2Node* UEdGraphSchema_K2::MakeConversionTemplate(const UEdGraphPin& OutputPin, const UEdGraphPin& InputPin) const
+{
+	const TOptional<FSearchForAutocastFunctionResults> Autocast = SearchForAutocastFunction(OutputPin.PinType, InputPin.PinType);
+	if (Autocast.IsSet())
 	{
-		if (!Linked->WasTrashed())
-		{
-			Linked->GetOwningNode()->PinConnectionListChanged(Linked);
-		}
+		UK2Node_CallFunction* const Node = NewObject<UK2Node_CallFunction>();
+		Node->SetFromFunction(Autocast->FunctionOwner->FindFunctionByName(Autocast->TargetFunction));
+		return Node;
 	}
+	const TOptional<FFindSpecializedConversionNodeResults> Specialized = FindSpecializedConversionNode(OutputPin.PinType, InputPin, true);
+	return Specialized.IsSet() ? Specialized->TargetNode : nullptr;
+}
+
+bool UEdGraphSchema_K2::AutowireConversionNode(UEdGraphPin& OutputPin, UEdGraphPin& InputPin, UK2Node& ConversionNode) const
+{
+	const auto FindWithResponse = [this, &ConversionNode](const UEdGraphPin& Pin, const bool bMayReplace)
+	{
+		return ConversionNode.FindPinByPredicate(
+			[this, &Pin, bMayReplace](const UEdGraphPin* Candidate)
+			{
+				const FPinConnectionResponse Response = CanCreateConnection(Candidate, &Pin);
+				return !Candidate->bHidden && !IsExecPin(*Candidate) && (Response.CanSafeConnect() || (bMayReplace && Response.Response == CONNECT_RESPONSE_BREAK_OTHERS_B));
+			});
+	};
+	UEdGraphPin* const Source = FindWithResponse(OutputPin, false);
+	if (!Source || !Super::TryCreateConnection(Source, &OutputPin))
+	{
+		return false;
+	}
+	// What the node gives may have taken its type from what it was just given.
+	UEdGraphPin* const Result = FindWithResponse(InputPin, true);
+	return Result && Super::TryCreateConnection(Result, &InputPin);
 }
 
 bool UEdGraphSchema_K2::CreateAutomaticConversionNodeAndConnections(UEdGraphPin* PinA, UEdGraphPin* PinB) const
@@ -165,29 +251,22 @@ bool UEdGraphSchema_K2::CreateAutomaticConversionNodeAndConnections(UEdGraphPin*
 	{
 		return false;
 	}
-	UFunction* const Conversion = SearchForAutocastFunction(OutputPin->PinType, InputPin->PinType);
-	UEdGraph* const Graph = InputPin->GetOwningNode()->GetGraph();
-	if (!Conversion || !Graph)
+	UEdGraphNode* const InputNode = InputPin->GetOwningNode();
+	const UEdGraphNode* const OutputNode = OutputPin->GetOwningNode();
+	FEdGraphSchemaAction_NewNode Action;
+	Action.NodeTemplate = MakeConversionTemplate(*OutputPin, *InputPin);
+	if (!Action.NodeTemplate)
 	{
 		return false;
 	}
-	FGraphNodeCreator<UK2Node_CallFunction> Creator(*Graph);
-	UK2Node_CallFunction* const Node = Creator.CreateNode(false);
-	Node->SetFromFunction(Conversion);
-	Node->NodePosX = (InputPin->GetOwningNode()->NodePosX + OutputPin->GetOwningNode()->NodePosX) / 2;
-	Node->NodePosY = (InputPin->GetOwningNode()->NodePosY + OutputPin->GetOwningNode()->NodePosY) / 2;
-	Creator.Finalize();
-
-	UEdGraphPin* const Source = Node->FindPinByPredicate(
-		[this, OutputPin](const UEdGraphPin* Pin)
-		{ return Pin->Direction == EGPD_Input && !Pin->bHidden && ArePinTypesCompatible(OutputPin->PinType, Pin->PinType); });
-	UEdGraphPin* const Result = Node->GetReturnValuePin();
-	if (!Source || !Result)
+	const FVector2D Location((InputNode->NodePosX + OutputNode->NodePosX) / 2, (InputNode->NodePosY + OutputNode->NodePosY) / 2);
+	UK2Node* const Node = CastChecked<UK2Node>(Action.PerformAction(InputNode->GetGraph(), nullptr, Location, false));
+	if (!AutowireConversionNode(*OutputPin, *InputPin, *Node))
 	{
 		Node->DestroyNode();
 		return false;
 	}
-	return TryCreateConnection(OutputPin, Source) && TryCreateConnection(Result, InputPin);
+	return true;
 }
 
 #undef LOCTEXT_NAMESPACE

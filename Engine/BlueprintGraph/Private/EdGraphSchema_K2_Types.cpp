@@ -5,9 +5,7 @@
 #include "UObject/Class.h"
 #include "UObject/EnumProperty.h"
 #include "UObject/FieldPathProperty.h"
-#include "UObject/Interface.h"
 #include "UObject/TextProperty.h"
-#include "UObject/UObjectIterator.h"
 #include "UObject/UnrealType.h"
 
 #define LOCTEXT_NAMESPACE "KismetSchema"
@@ -52,38 +50,6 @@ bool IsObjectLike(const FName Category)
 	return Category == Schema::PC_Object || Category == Schema::PC_Interface || Category == Schema::PC_Class || Category == Schema::PC_SoftObject || Category == Schema::PC_SoftClass;
 }
 
-const UClass* GetClassOfType(const FEdGraphPinType& Type, const UClass* CallingContext)
-{
-	const UClass* const Class = Type.PinSubCategory == UEdGraphSchema_K2::PSC_Self ? CallingContext : Cast<UClass>(Type.PinSubCategoryObject.Get());
-	return Class ? Class->GetAuthoritativeClass() : nullptr;
-}
-
-bool AreClassesCompatible(const FEdGraphPinType& Output, const FEdGraphPinType& Input, const UClass* CallingContext)
-{
-	const UClass* const OutputClass = GetClassOfType(Output, CallingContext);
-	const UClass* const InputClass = GetClassOfType(Input, CallingContext);
-	if (!InputClass || InputClass == UObject::StaticClass())
-	{
-		return true;
-	}
-	return OutputClass && (OutputClass->IsChildOf(InputClass) || (InputClass->IsChildOf(UInterface::StaticClass()) && OutputClass->ImplementsInterface(InputClass)));
-}
-
-bool AreStructsCompatible(const FEdGraphPinType& Output, const FEdGraphPinType& Input)
-{
-	const UScriptStruct* const OutputStruct = Cast<UScriptStruct>(Output.PinSubCategoryObject.Get());
-	const UScriptStruct* const InputStruct = Cast<UScriptStruct>(Input.PinSubCategoryObject.Get());
-	// A container's elements are not converted, so a derived struct will do for single values alone.
-	return OutputStruct == InputStruct || (!Output.IsContainer() && OutputStruct && OutputStruct->IsChildOf(InputStruct));
-}
-
-bool AreDelegatesCompatible(const FEdGraphPinType& Output, const FEdGraphPinType& Input)
-{
-	const UFunction* const OutputSignature = FMemberReference::ResolveSimpleMemberReference<UFunction>(Output.PinSubCategoryMemberReference);
-	const UFunction* const InputSignature = FMemberReference::ResolveSimpleMemberReference<UFunction>(Input.PinSubCategoryMemberReference);
-	return !OutputSignature || !InputSignature || OutputSignature->IsSignatureCompatibleWith(InputSignature);
-}
-
 FText GetTypeName(const FEdGraphPinType& Type)
 {
 	using Schema = UEdGraphSchema_K2;
@@ -116,48 +82,6 @@ FText GetTypeName(const FEdGraphPinType& Type)
 FString Plural(const FText& Text)
 {
 	return Text.ToString() + TEXT("s");
-}
-
-/** A category, its sub-category and its object as one key. */
-FString MakeTypeKey(const FEdGraphPinType& Type)
-{
-	const UObject* const Object = Type.PinSubCategoryObject.Get();
-	// The call converts the precision of a number itself.
-	const FName SubCategory = Type.PinCategory == UEdGraphSchema_K2::PC_Real ? FName() : Type.PinSubCategory;
-	return FString::Printf(TEXT("%s/%s/%s/%d"), *Type.PinCategory.ToString(), *SubCategory.ToString(), Object ? *Object->GetPathName() : TEXT(""),
-		static_cast<int32>(Type.ContainerType));
-}
-
-FString MakeConversionKey(const FEdGraphPinType& From, const FEdGraphPinType& To)
-{
-	return MakeTypeKey(From) + TEXT(">") + MakeTypeKey(To);
-}
-
-TMap<FString, TWeakObjectPtr<UFunction>> FindConversions()
-{
-	TMap<FString, TWeakObjectPtr<UFunction>> Conversions;
-	const UEdGraphSchema_K2* const Schema = GetDefault<UEdGraphSchema_K2>();
-	for (TObjectIterator<UFunction> Iterator; Iterator; ++Iterator)
-	{
-		UFunction* const Function = *Iterator;
-		const FProperty* const Result = Function->GetReturnProperty();
-		if (!Result || !Function->HasAllFunctionFlags(FUNC_Static | FUNC_BlueprintPure) || !Function->HasMetaData(FBlueprintMetadata::MD_BlueprintAutocast))
-		{
-			continue;
-		}
-		const FProperty* Source = nullptr;
-		for (TFieldIterator<FProperty> Parameter(Function); Parameter && !Source; ++Parameter)
-		{
-			Source = Parameter->HasAnyPropertyFlags(CPF_Parm) && !Parameter->HasAnyPropertyFlags(CPF_ReturnParm) ? *Parameter : nullptr;
-		}
-		FEdGraphPinType From;
-		FEdGraphPinType To;
-		if (Source && Schema->ConvertPropertyToPinType(Source, From) && Schema->ConvertPropertyToPinType(Result, To))
-		{
-			Conversions.FindOrAdd(MakeConversionKey(From, To)) = Function;
-		}
-	}
-	return Conversions;
 }
 }
 
@@ -204,12 +128,18 @@ bool UEdGraphSchema_K2::GetPropertyCategoryInfo(
 		OutSubCategoryObject = Enum->GetEnum();
 		return true;
 	}
+	const bool bIsBitmask = TestProperty->HasMetaData(FBlueprintMetadata::MD_Bitmask);
 	if (const FByteProperty* const Byte = CastField<FByteProperty>(TestProperty))
 	{
 		OutCategory = PC_Byte;
-		const bool bIsBitmask = Byte->HasMetaData(FBlueprintMetadata::MD_Bitmask);
 		OutSubCategory = bIsBitmask ? PSC_Bitmask : FName();
 		OutSubCategoryObject = Byte->Enum;
+		return true;
+	}
+	if (bIsBitmask && TestProperty->IsA<FIntProperty>())
+	{
+		OutCategory = PC_Int;
+		OutSubCategory = PSC_Bitmask;
 		return true;
 	}
 	for (const FCategoryOfKind& Kind : GetPlainKinds())
@@ -348,75 +278,6 @@ FText UEdGraphSchema_K2::TypeToText(const FEdGraphPinType& Type)
 	}
 	const bool bMarkReference = Type.bIsReference && !Type.IsContainer();
 	return bMarkReference ? FText::Format(LOCTEXT("ReferenceAsText", "{0} (by ref)"), Result) : Result;
-}
-
-bool UEdGraphSchema_K2::ArePinsCompatible(const UEdGraphPin* PinA, const UEdGraphPin* PinB, const UClass* CallingContext, bool bIgnoreArray) const
-{
-	if (PinA->Direction == PinB->Direction)
-	{
-		return false;
-	}
-	const UEdGraphPin& Output = PinA->Direction == EGPD_Output ? *PinA : *PinB;
-	const UEdGraphPin& Input = PinA->Direction == EGPD_Output ? *PinB : *PinA;
-	return ArePinTypesCompatible(Output.PinType, Input.PinType, CallingContext, bIgnoreArray);
-}
-
-bool UEdGraphSchema_K2::ArePinTypesCompatible(const FEdGraphPinType& Output, const FEdGraphPinType& Input, const UClass* CallingContext, bool bIgnoreArray) const
-{
-	const bool bOutputIsWildcard = Output.PinCategory == PC_Wildcard;
-	const bool bInputIsWildcard = Input.PinCategory == PC_Wildcard;
-	// A wildcard that is no container yet may become one.
-	const bool bContainerIsOpen = (bOutputIsWildcard && !Output.IsContainer()) || (bInputIsWildcard && !Input.IsContainer());
-	if (!bIgnoreArray && Output.ContainerType != Input.ContainerType && !bContainerIsOpen)
-	{
-		return false;
-	}
-	if (bOutputIsWildcard || bInputIsWildcard)
-	{
-		const FEdGraphPinType& Other = bOutputIsWildcard ? Input : Output;
-		return Other.PinCategory != PC_Exec;
-	}
-	if (Output.PinCategory != Input.PinCategory)
-	{
-		const bool bObjectToInterface = Output.PinCategory == PC_Object && Input.PinCategory == PC_Interface;
-		const bool bInterfaceToObject = Output.PinCategory == PC_Interface && Input.PinCategory == PC_Object && Input.PinSubCategoryObject == UObject::StaticClass();
-		const bool bByteToEnum = (Output.PinCategory == PC_Byte && Input.PinCategory == PC_Enum) || (Output.PinCategory == PC_Enum && Input.PinCategory == PC_Byte);
-		return (bObjectToInterface && AreClassesCompatible(Output, Input, CallingContext)) || bInterfaceToObject || (bByteToEnum && Output.PinSubCategoryObject == Input.PinSubCategoryObject);
-	}
-	if (Output.IsMap() && Input.IsMap() && !ArePinTypesCompatible(FEdGraphPinType::GetPinTypeForTerminalType(Output.PinValueType), FEdGraphPinType::GetPinTypeForTerminalType(Input.PinValueType), CallingContext))
-	{
-		return false;
-	}
-	if (Output.PinCategory == PC_Struct)
-	{
-		return AreStructsCompatible(Output, Input);
-	}
-	if (IsObjectLike(Output.PinCategory))
-	{
-		return AreClassesCompatible(Output, Input, CallingContext);
-	}
-	if (IsDelegateCategory(Output.PinCategory))
-	{
-		return AreDelegatesCompatible(Output, Input);
-	}
-	if (Output.PinCategory == PC_Byte || Output.PinCategory == PC_Enum)
-	{
-		const UObject* const InputEnum = Input.PinSubCategoryObject.Get();
-		return !InputEnum || InputEnum == Output.PinSubCategoryObject.Get();
-	}
-	if (Output.PinCategory == PC_Real)
-	{
-		return !Output.IsContainer() || Output.PinSubCategory == Input.PinSubCategory;
-	}
-	return true;
-}
-
-UFunction* UEdGraphSchema_K2::SearchForAutocastFunction(const FEdGraphPinType& OutputPinType, const FEdGraphPinType& InputPinType)
-{
-	// The libraries are all loaded before the first graph is edited.
-	static const TMap<FString, TWeakObjectPtr<UFunction>> Conversions = FindConversions();
-	const TWeakObjectPtr<UFunction>* const Found = Conversions.Find(MakeConversionKey(OutputPinType, InputPinType));
-	return Found ? Found->Get() : nullptr;
 }
 
 #undef LOCTEXT_NAMESPACE

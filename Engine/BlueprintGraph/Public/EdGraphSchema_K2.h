@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphSchema.h"
+#include "Misc/Optional.h"
 
 #include "EdGraphSchema_K2.generated.h"
 
@@ -162,8 +163,25 @@ public:
 	bool ArePinsCompatible(const UEdGraphPin* PinA, const UEdGraphPin* PinB, const UClass* CallingContext = nullptr, bool bIgnoreArray = false) const;
 	bool ArePinTypesCompatible(
 		const FEdGraphPinType& Output, const FEdGraphPinType& Input, const UClass* CallingContext = nullptr, bool bIgnoreArray = false) const;
-	/** The library function that turns a value of one type into the other, or null. */
-	static UFunction* SearchForAutocastFunction(const FEdGraphPinType& OutputPinType, const FEdGraphPinType& InputPinType);
+	struct FSearchForAutocastFunctionResults
+	{
+		FName TargetFunction;
+		UClass* FunctionOwner = nullptr;
+	};
+
+	/** The library function that turns a value of one type into the other. */
+	[[nodiscard]] virtual TOptional<FSearchForAutocastFunctionResults> SearchForAutocastFunction(
+		const FEdGraphPinType& OutputPinType, const FEdGraphPinType& InputPinType) const;
+
+	struct FFindSpecializedConversionNodeResults
+	{
+		/** A node without pins that stands in no graph; null when none was asked for. */
+		UK2Node* TargetNode = nullptr;
+	};
+
+	/** The node that makes a value fit the pin where no function does: a cast, an array of one element, a member of the object. */
+	[[nodiscard]] virtual TOptional<FFindSpecializedConversionNodeResults> FindSpecializedConversionNode(
+		const FEdGraphPinType& OutputPinType, const UEdGraphPin& InputPin, bool bCreateNode) const;
 
 	static bool IsExecPin(const UEdGraphPin& Pin) { return Pin.PinType.PinCategory == PC_Exec; }
 	static bool IsMetaPin(const UEdGraphPin& Pin) { return IsExecPin(Pin); }
@@ -180,7 +198,9 @@ public:
 		const FEdGraphPinType& PinType, const FName PinName, const FString& NewDefaultValue, TObjectPtr<UObject> NewDefaultObject, const FText& InText, FString* OutMsg = nullptr) const;
 	/** The default that a function declares for a parameter. False without one. */
 	static bool FindFunctionParameterDefaultValue(const UFunction* Function, const FProperty* Param, FString& OutString);
-	/** True for a reference parameter that needs no link: the call makes a temporary value of the pin's default. */
+	/** Parameters by reference that need no link: the call makes a temporary value of the pin's default. */
+	static void GetAutoEmitTermParameters(const UFunction* Function, TArray<FString>& AutoEmitParameterNames);
+	/** True for a pin of one of these parameters. */
 	static bool IsAutoCreateRefTerm(const UEdGraphPin* Pin);
 
 	// Graphs
@@ -205,7 +225,10 @@ public:
 	virtual const FPinConnectionResponse CanCreateConnection(const UEdGraphPin* A, const UEdGraphPin* B) const override;
 	virtual bool TryCreateConnection(UEdGraphPin* A, UEdGraphPin* B) const override;
 	virtual bool CreateAutomaticConversionNodeAndConnections(UEdGraphPin* A, UEdGraphPin* B) const override;
+	virtual bool CreatePromotedConnection(UEdGraphPin* A, UEdGraphPin* B) const override;
+	virtual void BreakNodeLinks(UEdGraphNode& TargetNode) const override;
 	virtual void BreakPinLinks(UEdGraphPin& TargetPin, bool bSendsNodeNotifcation) const override;
+	virtual void BreakSinglePinLink(UEdGraphPin* SourcePin, UEdGraphPin* TargetPin) const override;
 	virtual void TrySetDefaultValue(UEdGraphPin& Pin, const FString& NewDefaultValue, bool bMarkAsModified = true) const override;
 	virtual void TrySetDefaultObject(UEdGraphPin& Pin, UObject* NewDefaultObject, bool bMarkAsModified = true) const override;
 	virtual void TrySetDefaultText(UEdGraphPin& InPin, const FText& InNewDefaultText, bool bMarkAsModified = true) const override;
@@ -224,7 +247,15 @@ public:
 	virtual bool IsDelegateCategory(const FName Category) const override { return Category == PC_Delegate || Category == PC_MCDelegate; }
 
 private:
+	/** Takes the values if they are a good default of the pin. */
+	bool TrySetDefaults(UEdGraphPin& Pin, const FString& Value, UObject* Object, const FText& Text, bool bMarkAsModified) const;
+	/** The node's Blueprint differs from what was compiled. A Blueprint that is made anew changes its own nodes. */
+	static void MarkBlueprintAsModified(const UEdGraphNode* Node);
 	void CreateTerminators(UEdGraph& Graph, const UFunction* Function, UClass* Class) const;
 	const FPinConnectionResponse DetermineConnectionResponse(const UEdGraphPin& OutputPin, const UEdGraphPin& InputPin, bool bInputIsA) const;
 	const FPinConnectionResponse ExplainMismatch(const UEdGraphPin& OutputPin, const UEdGraphPin& InputPin) const;
+	/** A node in no graph that turns the one's values into what the other takes; null when there is none. */
+	UK2Node* MakeConversionTemplate(const UEdGraphPin& OutputPin, const UEdGraphPin& InputPin) const;
+	/** Links the node between the pins. False when it does not fit there; then nothing is linked to InputPin that was not before. */
+	bool AutowireConversionNode(UEdGraphPin& OutputPin, UEdGraphPin& InputPin, UK2Node& ConversionNode) const;
 };
