@@ -116,7 +116,12 @@ TEST_F(ForeignService, NeverGetsTheTokenOfAnother)
 	const FProgramResult Result =
 		RunVexel({"chat", "--project", Project.GetPath(), "--service", Url, "--message", "Hello?"}, MakeSurroundings(std::nullopt));
 	ExpectOneClearLine(Result, 1, "not logged in at " + Url + ": there is no stored login for it; give a token with --token-fd");
-	EXPECT_TRUE(Other.GetRequests().empty());
+	for (const FScriptedRequest& Request : Other.GetRequests())
+	{
+		EXPECT_TRUE(Request.GetPath() == ClientPath || Request.GetPath() == "/api/v2/status.json") << Request.Target;
+		EXPECT_EQ(Request.Method, "GET");
+		EXPECT_FALSE(Request.GetHeader("Authorization"));
+	}
 }
 
 TEST_F(ForeignService, RefusesDescriptorsThatGiveNoToken)

@@ -32,6 +32,11 @@ public:
 		setenv("XDG_DATA_HOME", (Directory / "Data").c_str(), 1);
 		setenv("VEXEL_SECRET_STORE", "file", 1);
 		unsetenv("VEXEL_SENTRY_DSN");
+		// Nobody listens there: a test that wants a service names its own.
+		for (const char* const Name : {"VEXEL_API_URL", "VEXEL_APP_URL", "VEXEL_INSIGHTS_API_URL", "VEXEL_STATUS_URL"})
+		{
+			setenv(Name, "http://127.0.0.1:1", 1);
+		}
 		FHeadlessEditorOptions Options;
 		Options.EngineDir = FString(UTF8_TO_TCHAR(VEXEL_SOURCE_DIR "/Engine"));
 		Options.Project = FString(UTF8_TO_TCHAR(Directory.c_str()));

@@ -251,7 +251,7 @@ TEST_F(ChatTurn, EachBadServiceGivesAClearReason)
 
 TEST_F(ChatTurn, AServiceThatGoesSilentEndsTheTurnWithOneClearLine)
 {
-	FVexelConfigValue* const Setting = FVexelInternalConfig::Find(TEXT("ChatStallTimeoutSeconds"));
+	FConfigValueBase* const Setting = FVexelInternalConfig::Find(TEXT("ChatStallTimeoutSeconds"));
 	ASSERT_NE(Setting, nullptr);
 	EXPECT_EQ(Setting->GetNumber(1.0, 1000.0), 300.0);
 	Setting->SetOverride(TEXT("1"));

@@ -58,8 +58,8 @@ struct FPerson final : public IVexelJsonable
 	FString Name;
 };
 
-FVexelConfigValue TestUrlSetting(TEXT("TestServiceUrl"), TEXT("default"));
-FVexelConfigValue OverriddenSetting(TEXT("TestOverriddenUrl"), TEXT("default"));
+FConfigValueBase TestUrlSetting(TEXT("TestServiceUrl"), TEXT("default"));
+FConfigValueBase OverriddenSetting(TEXT("TestOverriddenUrl"), TEXT("default"));
 }
 
 TEST_F(FVexelFileTest, IsReplacedWholeAndLeavesNoTemporaryFile)
@@ -107,8 +107,28 @@ TEST(InternalConfig, EachSourceStandsAboveTheOneBefore)
 	OverriddenSetting.SetOverride(TEXT("override"));
 	OverriddenSetting.Reload();
 	EXPECT_EQ(ToUtf8(OverriddenSetting.Get()), "override");
+	OverriddenSetting.ClearOverride();
+	EXPECT_EQ(ToUtf8(OverriddenSetting.Get()), "argument");
+
+	FCommandLine::Set(TEXT("-TestServiceUrl= -TestOverriddenUrl=argument"));
+	FVexelInternalConfig::ReloadAll();
+	EXPECT_EQ(ToUtf8(TestUrlSetting.Get()), "environment") << "an empty text is none";
 	FCommandLine::Set(TEXT(""));
 	unsetenv("VEXEL_TEST_SERVICE_URL");
+	FVexelInternalConfig::ReloadAll();
+}
+
+TEST(InternalConfig, ASecretComesFromNoCommandLineAndGoesIntoNoLog)
+{
+	static FConfigValueBase Secret(TEXT("TestSecret"), TEXT("5"), EConfigValueFlags::Secret);
+	FCommandLine::Set(TEXT("-TestSecret=everybody-sees-it"));
+	EXPECT_EQ(ToUtf8(Secret.Get()), "5");
+	FCommandLine::Set(TEXT(""));
+	FLogCapture Log;
+	Secret.SetOverride(TEXT("hidden"));
+	EXPECT_EQ(Secret.GetNumber(0.0, 10.0), 5.0);
+	EXPECT_TRUE(Log.Contains("TestSecret")) << Log.ToText();
+	EXPECT_FALSE(Log.Contains("hidden"));
 }
 
 TEST(JsonConversions, TextToObjectAndBack)
@@ -140,7 +160,7 @@ TEST(JsonConversions, RecordsDescribeThemselves)
 
 TEST(VexelConfig, NumbersStayInTheirBoundsAndTheDefaultStandsInForOthers)
 {
-	static FVexelConfigValue Setting(TEXT("TestNumber"), TEXT("300"));
+	static FConfigValueBase Setting(TEXT("TestNumber"), TEXT("300"));
 	FLogCapture Log;
 	EXPECT_EQ(Setting.GetNumber(1.0, 1000.0), 300.0);
 	Setting.SetOverride(TEXT("2.5"));

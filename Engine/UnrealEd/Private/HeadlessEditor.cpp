@@ -7,6 +7,7 @@
 #include "HAL/PlatformTime.h"
 #include "Interfaces/IProjectManager.h"
 #include "Misc/App.h"
+#include "Misc/ConfigCacheIni.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
@@ -97,6 +98,7 @@ FString FHeadlessEditor::Start(const FHeadlessEditorOptions& Options)
 	FPaths::SetProjectFilePath(ProjectFile);
 	FPaths::SetProjectSavedDir(Options.SavedDir);
 	FApp::SetProjectName(*FPaths::GetBaseFilename(ProjectFile));
+	FConfigCacheIni::InitializeConfigSystem();
 	bStartedTaskGraph = !FTaskGraphInterface::IsRunning();
 	if (bStartedTaskGraph)
 	{
@@ -163,6 +165,7 @@ void FHeadlessEditor::Stop()
 	{
 		FTaskGraphInterface::Shutdown();
 	}
+	FConfigCacheIni::ShutdownConfigSystem();
 }
 
 bool FHeadlessEditor::IsRunning()

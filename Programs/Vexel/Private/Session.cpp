@@ -79,9 +79,9 @@ TOptional<FString> FSession::StartConnected(const FArguments& Arguments)
 	while (Url.RemoveFromEnd(TEXT("/")))
 	{
 	}
-	for (const TCHAR* const Key : {TEXT("ApiUrl"), TEXT("AppUrl"), TEXT("InsightsApiUrl")})
+	for (const TCHAR* const Key : {TEXT("ApiUrl"), TEXT("AppUrl"), TEXT("InsightsApiUrl"), TEXT("StatusUrl")})
 	{
-		if (FVexelConfigValue* const Setting = FVexelInternalConfig::Find(Key))
+		if (FConfigValueBase* const Setting = FVexelInternalConfig::Find(Key))
 		{
 			Setting->SetOverride(Url);
 		}

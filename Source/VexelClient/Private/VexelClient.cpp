@@ -2,20 +2,81 @@
 
 #include "Auth/VexelAuth.h"
 #include "Auth/VexelAuthProvider.h"
+#include "Auth/VexelAuthUserInfo.h"
+#include "Embed/VexelEmbed.h"
+#include "Embed/VexelNodeTypeCache.h"
+#include "HAL/Event.h"
 #include "Misc/Paths.h"
 #include "Misc/ScopeLock.h"
 #include "Modules/ModuleManager.h"
+#include "Subsystem/VexelStatusInfo.h"
+#include "VexelErrorKinds.h"
 #include "VexelHttp.h"
 #include "VexelInternalConfig.h"
+#include "VexelLog.h"
 #include "VexelSentry.h"
+#include "VexelUserSettings.h"
 
 namespace
 {
-FVexelConfigValue ApiUrlSetting(TEXT("ApiUrl"), TEXT("https://api.vexel.dev"));
-FVexelConfigValue AppUrlSetting(TEXT("AppUrl"), TEXT("https://app.vexel.dev"));
-FVexelConfigValue InsightsApiUrlSetting(TEXT("InsightsApiUrl"), TEXT("https://insights.vexel.dev"));
+FConfigValueBase ApiUrlSetting(TEXT("ApiUrl"), TEXT("https://api.vexel.dev"));
+FConfigValueBase AppUrlSetting(TEXT("AppUrl"), TEXT("https://app.vexel.dev"));
+FConfigValueBase InsightsApiUrlSetting(TEXT("InsightsApiUrl"), TEXT("https://insights.vexel.dev"));
 
 const FName ModuleName = TEXT("VexelClient");
+const FString FeatureHeaderName = TEXT("vexel-beta");
+const FString BlueprintAgentFeature = TEXT("blueprint_agent");
+
+/** Whether a name can stand in a list in a header: it comes from the service, and a line end in it would begin another header. */
+bool IsFeatureName(const FString& Feature)
+{
+	for (const TCHAR Character : Feature)
+	{
+		if (Character <= TEXT(' ') || Character >= 127 || Character == TEXT(','))
+		{
+			return false;
+		}
+	}
+	return !Feature.IsEmpty();
+}
+
+FString JoinFeatures(const TArray<FString>& Features)
+{
+	const TArray<FString> Named = Features.FilterByPredicate(IsFeatureName);
+	if (Named.Num() != Features.Num())
+	{
+		VEXEL_LOG(Warning, "%d of the user's features have no proper name and are ignored", Features.Num() - Named.Num());
+	}
+	return FString::Join(Named, TEXT(","));
+}
+
+/** Reports an error that nobody handles, unless it only says that the end of the module cut its request off. */
+void Report(FVexelError Error, const FVexelErrorPlace& Place)
+{
+	if (!Error.IsCausedBy<FVexelError_HttpCancelled>() && !Error.IsCausedBy<FVexelError_TaskNotFinished>())
+	{
+		FVexelSentry::CaptureError(MoveTemp(Error), Place);
+	}
+}
+
+void SetErrorReportingUser(bool bLoggedIn)
+{
+	FVexelSentryUser User;
+	if (bLoggedIn)
+	{
+		FVexelAuth::WithAccessTokenAndUser([&](const FString&, const FString& UserId)
+			{ User.Id = UserId; });
+	}
+	FVexelSentry::User(User);
+	if (User.Id.IsEmpty())
+	{
+		VEXEL_LOG(Log, "Sentry user context cleared");
+	}
+	else
+	{
+		VEXEL_LOG(Log, "Sentry user context set");
+	}
+}
 }
 
 IMPLEMENT_MODULE(FVexelClient, VexelClient)
@@ -30,19 +91,56 @@ FVexelClient& FVexelClient::Get()
 
 void FVexelClient::StartupModule()
 {
-	Lock = MakeUnique<FCriticalSection>();
 	FVexelSentry::Start(FPaths::ProjectSavedDir() / TEXT("VexelCache/ErrorReports"));
+	SettingsHandle = GetMutableDefault<UVexelUserSettings>()->OnSettingChanged().AddRaw(this, &FVexelClient::OnSettingChanged);
+	Lock = MakeUnique<FCriticalSection>();
+	GetApiClient();
+	GetAppClient();
+	GetInsightsClient();
+	GetAuxiliaryHttpClient();
 	AuthProvider = MakeUnique<FVexelAuthProvider>();
 	FVexelHttpManager::SetAuthProvider(AuthProvider.Get());
+
+	// What it cannot fetch now, the login fetches, and reports.
+	FVexelAuth::PreloadClientId().OnComplete([](const TVexelExpected<FString>&) {});
 	FVexelAuth::StartAutoLogin();
+	AuthStateHandle = FVexelAuth::AddAuthStateChangedCallback(
+		FVexelAuth::FOnAuthStateChanged::FDelegate::CreateLambda([](FVexelAuth::EState)
+			{ FVexelTaskManager::ScheduleFunc(EVexelTaskThread::GameThread, []
+				  {
+						if (FVexelClient* const This = FModuleManager::GetModulePtr<FVexelClient>(ModuleName))
+						{
+							This->OnAuthStateChanged();
+						} }); }));
+	UserInfoHandle = FVexelAuthUserInfo::OnUserInfoChanged().AddRaw(this, &FVexelClient::OnUserInfoChanged);
+
+	const TVexelExpected<void> IndexMade = FVexelEmbed::Initialize();
+	if (IndexMade.HasError())
+	{
+		Report(IndexMade.GetError(), VEXEL_HERE);
+	}
+	StartLoadingNodeTypeCache();
+	FVexelStatusInfo::StartMonitoring();
 }
 
 void FVexelClient::ShutdownModule()
 {
 	FVexelHttpManager::SetAuthProvider(nullptr);
+	FVexelAuth::RemoveAuthStateChangedCallback(AuthStateHandle);
+	FVexelAuthUserInfo::OnUserInfoChanged().Remove(UserInfoHandle);
+	FVexelStatusInfo::StopMonitoring();
+	SaveNodeTypeCacheAndWait();
+	FVexelEmbed::Shutdown();
+
+	NodeTypeBlueprint.Reset();
+	if (UObjectInitialized())
+	{
+		GetMutableDefault<UVexelUserSettings>()->OnSettingChanged().Remove(SettingsHandle);
+	}
 	FVexelSentry::Stop();
 	FVexelHttpManager::Shutdown();
 	FVexelAuth::Shutdown();
+	FVexelAuthUserInfo::Clear();
 	AuthProvider.Reset();
 }
 
@@ -104,13 +202,124 @@ FString FVexelClient::GetInsightsApiUrl()
 	return InsightsApiUrlSetting.Get();
 }
 
-TSharedPtr<FVexelHttp> FVexelClient::GetClient(TSharedPtr<FVexelHttp>& Held, const FVexelConfigValue& Setting)
+TSharedPtr<FVexelHttp> FVexelClient::GetClient(TSharedPtr<FVexelHttp>& Held, const FConfigValueBase& Setting)
 {
 	const FString Url = Setting.Get();
 	FScopeLock Guard(Lock.Get());
 	if (!Held || !Held->GetBaseUrl().Equals(Url, ESearchCase::IgnoreCase))
 	{
 		Held = MakeShared<FVexelHttp>(FVexelHttpClientConfig(Url));
+		if (&Held == &ApiClient)
+		{
+			ApplyFeatureHeader(*Held);
+		}
 	}
 	return Held;
+}
+
+void FVexelClient::ApplyFeatureHeader(FVexelHttp& Client) const
+{
+	Client.RemoveDefaultHeader(FeatureHeaderName);
+	if (!FeatureHeader.IsEmpty())
+	{
+		Client.SetDefaultHeader(FeatureHeaderName, FeatureHeader);
+	}
+}
+
+void FVexelClient::OnSettingChanged(UObject* Settings, FPropertyChangedEvent&)
+{
+	Settings->SaveConfig();
+	FVexelInternalConfig::ReloadAll();
+}
+
+void FVexelClient::OnAuthStateChanged()
+{
+	switch (FVexelAuth::GetState())
+	{
+		case FVexelAuth::EState::Online:
+			FVexelAuthUserInfo::ForceRefresh().OnComplete([](const TVexelExpected<FVexelAuthUserInfo>& Result)
+				{
+					if (Result.HasError())
+					{
+						Report(Result.GetError(), VEXEL_HERE);
+					} });
+			break;
+		case FVexelAuth::EState::Offline:
+			FVexelAuthUserInfo::Clear();
+			break;
+		default:
+			break;
+	}
+}
+
+void FVexelClient::OnUserInfoChanged(const FVexelAuthUserInfo& Info)
+{
+	SetErrorReportingUser(Info.IsValid());
+	GetMutableDefault<UVexelUserSettings>()->Features = Info.GetFeatures();
+	{
+		FScopeLock Guard(Lock.Get());
+		FeatureHeader = JoinFeatures(Info.GetFeatures());
+		ApplyFeatureHeader(*ApiClient);
+	}
+	if (Info.CanUseChatMode(BlueprintAgentFeature))
+	{
+		InitializeNodeTypeCacheIfNeeded();
+	}
+}
+
+void FVexelClient::InitializeNodeTypeCacheIfNeeded()
+{
+	if (!FVexelAuth::IsOnline() || !GetDefault<UVexelUserSettings>()->HasFeature(BlueprintAgentFeature) || NodeTypeBlueprint.IsValid())
+	{
+		return;
+	}
+	NodeTypeBlueprint = VexelNodeTypeCache::MakeScratchBlueprint();
+	if (!NodeTypeBlueprint.IsValid())
+	{
+		FVexelError Error = VEXEL_ERROR(FVexelError_EmbedInitialization, "The scratch Blueprint could not be made");
+		Error.AppendContext(TEXT("During node type cache initialization"));
+		Report(MoveTemp(Error), VEXEL_HERE);
+	}
+}
+
+TVexelTaskResult<void> FVexelClient::LoadNodeTypeCache()
+{
+	return VexelNodeTypeCache::Load();
+}
+
+TVexelTaskResult<void> FVexelClient::SaveNodeTypeCache()
+{
+	return VexelNodeTypeCache::Save();
+}
+
+void FVexelClient::StartLoadingNodeTypeCache()
+{
+	LoadNodeTypeCache().OnComplete([](const TVexelExpected<void>& Loaded)
+		{
+			if (Loaded.HasError())
+			{
+				FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_EmbedLoad, Loaded.GetError(), "%s", *Loaded.GetError().ToShortString());
+				Error.AppendContext(TEXT("while loading node type cache"));
+				Report(MoveTemp(Error), VEXEL_HERE);
+			} });
+}
+
+void FVexelClient::SaveNodeTypeCacheAndWait()
+{
+	// Shared, since the one who triggers it may still be at it when the wait is over.
+	const TSharedRef<FEventRef> Done = MakeShared<FEventRef>(EEventMode::ManualReset);
+	const TVexelTaskResult<void> Saved = SaveNodeTypeCache();
+	Saved.OnComplete([Done](const TVexelExpected<void>&)
+		{ (*Done)->Trigger(); });
+	(*Done)->Wait();
+	TVexelExpected<void> Result = Saved.Value();
+	if (Result.HasValue())
+	{
+		VEXEL_LOG(Log, "Node type cache saved successfully.");
+		return;
+	}
+	VEXEL_LOG(Error, "Failed to save node type cache");
+	FVexelError Error = MoveTemp(Result).GetError();
+	Error.AppendContext(TEXT("Failed to save node type cache on shutdown"));
+	FVexelSentry::CaptureError(MoveTemp(Error), VEXEL_HERE);
 }

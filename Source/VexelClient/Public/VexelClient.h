@@ -1,14 +1,21 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Delegates/IDelegateInstance.h"
 #include "Misc/Optional.h"
 #include "Modules/ModuleInterface.h"
 #include "Templates/SharedPointer.h"
+#include "UObject/StrongObjectPtr.h"
 #include "VexelError.h"
+#include "VexelTaskResult.h"
 
+class FConfigValueBase;
 class FVexelAuthProvider;
-class FVexelConfigValue;
+class FVexelAuthUserInfo;
 class FVexelHttp;
+class UBlueprint;
+class UObject;
+struct FPropertyChangedEvent;
 
 /** The plug-in's module: owns the service clients and brings the subsystems to life in their order. */
 class VEXELCLIENT_API FVexelClient : public IModuleInterface
@@ -21,6 +28,7 @@ public:
 	static FVexelClient& Get();
 
 	virtual void StartupModule() override;
+	/** Waits until the node-type cache is saved. */
 	virtual void ShutdownModule() override;
 
 	/**
@@ -48,14 +56,42 @@ public:
 	static FString GetAppUrl();
 	static FString GetInsightsApiUrl();
 
-private:
-	TSharedPtr<FVexelHttp> GetClient(TSharedPtr<FVexelHttp>& Held, const FVexelConfigValue& Setting);
+	/** Reads the node-type cache into the index. A cache that is not there or of an older version is no error. */
+	TVexelTaskResult<void> LoadNodeTypeCache();
+	/** Writes the index into the node-type cache unless it stands there already. */
+	TVexelTaskResult<void> SaveNodeTypeCache();
 
-	/** Guards the held clients. Made at start-up. */
+	/**
+	 * Has the service check the user's beta features, with a modal window while it does and a notification of the outcome. The
+	 * editor's console command "Vexel.ValidateBetaFeatures". Game thread; waits.
+	 */
+	TVexelExpected<void> ValidateBetaFeatures();
+
+private:
+	TSharedPtr<FVexelHttp> GetClient(TSharedPtr<FVexelHttp>& Held, const FConfigValueBase& Setting);
+	/** Sets or removes the header of the features on a client. The lock is held. */
+	void ApplyFeatureHeader(FVexelHttp& Client) const;
+
+	void OnSettingChanged(UObject* Settings, FPropertyChangedEvent& Event);
+	void OnAuthStateChanged();
+	void OnUserInfoChanged(const FVexelAuthUserInfo& Info);
+	void InitializeNodeTypeCacheIfNeeded();
+	void StartLoadingNodeTypeCache();
+	void SaveNodeTypeCacheAndWait();
+
+	/** Guards the held clients and the features. Made at start-up. */
 	TUniquePtr<FCriticalSection> Lock;
 	TSharedPtr<FVexelHttp> ApiClient;
 	TSharedPtr<FVexelHttp> AppClient;
 	TSharedPtr<FVexelHttp> InsightsClient;
 	TSharedPtr<FVexelHttp> AuxiliaryClient;
+	/** The features' names, joined with ",". */
+	FString FeatureHeader;
+
 	TUniquePtr<FVexelAuthProvider> AuthProvider;
+	FDelegateHandle SettingsHandle;
+	FDelegateHandle AuthStateHandle;
+	FDelegateHandle UserInfoHandle;
+	/** Made when the user's features first ask for the cache. */
+	TStrongObjectPtr<UBlueprint> NodeTypeBlueprint;
 };

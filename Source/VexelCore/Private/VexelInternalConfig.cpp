@@ -28,72 +28,91 @@ FString GetEnvironmentName(const FString& Key)
 }
 }
 
-FVexelConfigValue::FVexelConfigValue(const TCHAR* InKey, const TCHAR* InDefault)
+FConfigValueBase::FConfigValueBase(const TCHAR* InKey, const TCHAR* InDefault, EConfigValueFlags InFlags)
 	: Key(InKey)
 	, Default(InDefault)
+	, Flags(InFlags)
 {
 	FVexelInternalConfig::GetValues().Add(this);
 }
 
-FString FVexelConfigValue::Get() const
+FString FConfigValueBase::Get() const
 {
 	FScopeLock Guard(&Lock);
 	EnsureLoaded();
 	return Override ? *Override : *Loaded;
 }
 
-double FVexelConfigValue::GetNumber(double Min, double Max) const
+double FConfigValueBase::GetNumber(double Min, double Max) const
 {
 	const FString Text = Get();
 	const bool bNumber = Text.IsNumeric();
 	if (!bNumber)
 	{
-		VEXEL_LOG(Warning, "The setting %s is '%s', which is no number; it counts as %s", *Key, *Text, *Default);
+		const TCHAR* const Shown = EnumHasAnyFlags(Flags, EConfigValueFlags::Secret) ? TEXT("...") : *Text;
+		VEXEL_LOG(Warning, "The setting %s is '%s', which is no number; it counts as %s", *Key, Shown, *Default);
 	}
 	return FMath::Clamp(FCString::Atod(bNumber ? *Text : *Default), Min, Max);
 }
 
-void FVexelConfigValue::SetOverride(const FString& Value)
+void FConfigValueBase::SetOverride(const FString& Value)
 {
 	FScopeLock Guard(&Lock);
 	Override = Value;
 }
 
-void FVexelConfigValue::Reload()
+void FConfigValueBase::ClearOverride()
+{
+	FScopeLock Guard(&Lock);
+	Override.Reset();
+}
+
+void FConfigValueBase::Reload()
 {
 	FScopeLock Guard(&Lock);
 	Loaded.Reset();
 }
 
-void FVexelConfigValue::EnsureLoaded() const
+void FConfigValueBase::EnsureLoaded() const
 {
 	if (Loaded)
 	{
 		return;
 	}
 	FString Value = Default;
-	if (GConfig)
+	const auto Take = [&Value](const FString& Text)
+	{ Value = Text.IsEmpty() ? Value : Text; };
+	FString Text;
+	if (GConfig && GConfig->GetString(SettingsSection, *Key, Text, GEditorPerProjectIni))
 	{
-		GConfig->GetString(SettingsSection, *Key, Value, GEditorPerProjectIni);
+		Take(Text);
 	}
-	const FString Environment = FPlatformMisc::GetEnvironmentVariable(*GetEnvironmentName(Key));
-	if (!Environment.IsEmpty())
+	Take(FPlatformMisc::GetEnvironmentVariable(*GetEnvironmentName(Key)));
+	if (!EnumHasAnyFlags(Flags, EConfigValueFlags::Secret) &&
+		FParse::Value(FCommandLine::Get(), *FString::Printf(TEXT("-%s="), *Key), Text))
 	{
-		Value = Environment;
+		Take(Text);
 	}
-	FParse::Value(FCommandLine::Get(), *FString::Printf(TEXT("-%s="), *Key), Value);
 	Loaded = Value;
 }
 
-TArray<FVexelConfigValue*>& FVexelInternalConfig::GetValues()
+TArray<FConfigValueBase*>& FVexelInternalConfig::GetValues()
 {
-	static TArray<FVexelConfigValue*> Values;
+	static TArray<FConfigValueBase*> Values;
 	return Values;
 }
 
-FVexelConfigValue* FVexelInternalConfig::Find(const FString& Key)
+FConfigValueBase* FVexelInternalConfig::Find(const FString& Key)
 {
-	FVexelConfigValue* const* const Found = GetValues().FindByPredicate([&](const FVexelConfigValue* Value)
+	FConfigValueBase* const* const Found = GetValues().FindByPredicate([&](const FConfigValueBase* Value)
 		{ return Value->GetKey() == Key; });
 	return Found ? *Found : nullptr;
+}
+
+void FVexelInternalConfig::ReloadAll()
+{
+	for (FConfigValueBase* const Value : GetValues())
+	{
+		Value->Reload();
+	}
 }

@@ -22,7 +22,7 @@ constexpr int32 MaxLength = 1 << 20;
 constexpr int32 MaxReadableName = 64;
 constexpr int32 DigestBytesInName = 9;
 
-FVexelConfigValue StoreSetting(TEXT("SecretStore"), TEXT("auto"));
+FConfigValueBase StoreSetting(TEXT("SecretStore"), TEXT("auto"));
 
 struct FStoreSettings
 {

@@ -15,7 +15,7 @@
 
 namespace
 {
-FVexelConfigValue DsnSetting(TEXT("SentryDsn"), TEXT(""));
+FConfigValueBase DsnSetting(TEXT("SentryDsn"), TEXT(""), EConfigValueFlags::Secret);
 
 constexpr int32 MaxBreadcrumbs = 50;
 constexpr float SendTimeoutSeconds = 15.0f;

@@ -75,6 +75,20 @@ public:
 		return IsA(KindType::StaticKind());
 	}
 
+	/** Whether this error or one of its causes is of the kind. */
+	template <typename KindType>
+	bool IsCausedBy() const
+	{
+		for (const FVexelError* Error = this; Error; Error = Error->GetCause())
+		{
+			if (Error->IsA<KindType>())
+			{
+				return true;
+			}
+		}
+		return false;
+	}
+
 	/** Adds what was being done, a clause that begins with "while". */
 	void AppendContext(FStringView While);
 

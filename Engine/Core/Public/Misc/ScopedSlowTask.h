@@ -17,6 +17,8 @@ public:
 	void MakeDialogDelayed(float Threshold, bool bShowCancelButton = false, bool bAllowInPIE = false) { bVisible = true; }
 	/** The work of the step before is done; the next has this much. */
 	CORE_API void EnterProgressFrame(float ExpectedWorkThisFrame = 1.0f, const FText& Text = FText());
+	/** Lets a dialog draw itself while the work waits for somebody else. */
+	void TickProgress() {}
 	/** Nobody can ask for it here. */
 	bool ShouldCancel() const { return false; }
 	float GetCompletedWork() const { return CompletedWork; }

@@ -12,10 +12,12 @@
 #include <httplib.h>
 
 #include <cstdio>
+#include <algorithm>
 #include <chrono>
 #include <functional>
 #include <map>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <thread>
 #include <utility>
@@ -256,6 +258,11 @@ private:
 	{
 		Http.Get("/api/user", ForUser([this](const httplib::Request&, httplib::Response& Response, const std::string&)
 								  { AnswerUser(Response); }));
+		Http.Post("/api/validate_beta_features", ForUser([this](const httplib::Request& Request, httplib::Response& Response, const std::string&)
+													 { AnswerFeatureCheck(Request, Response); }));
+		// As the status page of a service that is up: nobody needs a login for it.
+		Http.Get("/api/v2/status.json", [](const httplib::Request&, httplib::Response& Response)
+			{ SendJson(Response, 200, {{"status", {{"indicator", "none"}, {"description", "The local service is running"}}}}); });
 		Http.Post("/api/chat", ForUser([this](const httplib::Request& Request, httplib::Response& Response, const std::string& UserId)
 								   { AnswerChat(Request, Response, UserId); }));
 		for (const bool bError : {false, true})
@@ -384,6 +391,32 @@ private:
 			{"features", User.Features},
 		};
 		SendJson(Response, 200, Body);
+	}
+
+	// The client lists in the header what it believes is switched on; a list that is not the account's own says what differs.
+	void AnswerFeatureCheck(const httplib::Request& Request, httplib::Response& Response)
+	{
+		std::vector<std::string> Claimed;
+		std::istringstream List(Request.get_header_value("vexel-beta"));
+		for (std::string Name; std::getline(List, Name, ',');)
+		{
+			Claimed.push_back(Name);
+		}
+		const auto FindMissing = [](const std::vector<std::string>& Names, const std::vector<std::string>& In)
+		{ return std::find_if(Names.begin(), Names.end(), [&](const std::string& Name)
+			  { return std::find(In.begin(), In.end(), Name) == In.end(); }); };
+		const std::vector<std::string>& Enabled = Config.User.Features;
+		if (const auto Unknown = FindMissing(Claimed, Enabled); Unknown != Claimed.end())
+		{
+			SendRefusal(Response, {400, "The feature '" + *Unknown + "' is not switched on for this account."});
+			return;
+		}
+		if (const auto Missing = FindMissing(Enabled, Claimed); Missing != Enabled.end())
+		{
+			SendRefusal(Response, {400, "The header vexel-beta lacks the feature '" + *Missing + "'."});
+			return;
+		}
+		SendJson(Response, 200, {{"features", Enabled}});
 	}
 
 	void AnswerChat(const httplib::Request& Request, httplib::Response& Response, const std::string& UserId)

@@ -16,7 +16,7 @@ namespace
 {
 const FString RefreshTokenKey = TEXT("rt");
 constexpr double MaxTimeoutSeconds = 600.0;
-FVexelConfigValue TimeoutSetting(TEXT("AuthTimeoutSeconds"), TEXT("10"));
+FConfigValueBase TimeoutSetting(TEXT("AuthTimeoutSeconds"), TEXT("10"));
 
 /** Behind Lock, all of it. */
 struct FAuthData
@@ -29,6 +29,10 @@ struct FAuthData
 	FString UserId;
 	FString ClientId;
 	TOptional<FVexelError> LoginFailure;
+	/** The service that the client id, or the fetch of it that is under way, is of. */
+	FString ClientIdUrl;
+	/** Refers to no task when none is under way. */
+	TVexelTaskResult<FString> RunningPreload;
 	/** The refresh that is under way for refused tokens; refers to no task when none is. */
 	TVexelTaskResult<void> RunningRefresh;
 	/** Counts the ends of the module, so that an answer that comes late finds that it is nobody's. */
@@ -106,6 +110,19 @@ TVexelExpected<FString> ReadClientId(const TSharedRef<FVexelHttpResponse>& Respo
 	return ClientId;
 }
 
+TVexelTaskResult<FString> FetchClientId()
+{
+	return Try(FVexelClient::Get()
+				   .GetApiClient()
+				   ->Request(EVexelHttpVerb::Get, TEXT("/api/auth/plugin-client-id"))
+				   .WithTimeout(GetTimeoutSeconds())
+				   .SendAndAwait())
+		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
+			{ return ReadClientId(Response); })
+		.Catch<FVexelError_Http>([](const FVexelError_Http& Error) -> TVexelExpected<FString>
+			{ return VEXEL_ERROR_CAUSED(FVexelError_Auth_ClientId, Error, "while fetching plugin client ID from server"); });
+}
+
 void ReportAuthError(const FVexelError& Cause, const TCHAR* While)
 {
 	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_Auth, Cause, "%s", *Cause.ToShortString());
@@ -130,28 +147,38 @@ FTokenResponse FTokenResponse::Parse(const FJsonObject& Object)
 TVexelTaskResult<FString> FVexelAuth::PreloadClientId()
 {
 	FAuthData& Data = GetData();
+	const FString Url = FVexelClient::GetApiUrl();
+	TVexelTaskResult<FString> Preload;
 	{
 		FScopeLock Guard(&Data.Lock);
-		if (!Data.ClientId.IsEmpty())
+		const bool bSameService = Data.ClientIdUrl.Equals(Url);
+		if (bSameService && !Data.ClientId.IsEmpty())
 		{
 			return Data.ClientId;
 		}
+		if (bSameService && Data.RunningPreload.IsValid())
+		{
+			return Data.RunningPreload;
+		}
+		Preload = TVexelTaskResult<FString>::MakePending();
+		Data.RunningPreload = Preload;
+		Data.ClientIdUrl = Url;
+		Data.ClientId.Empty();
 	}
-	return Try(FVexelClient::Get()
-				   .GetApiClient()
-				   ->Request(EVexelHttpVerb::Get, TEXT("/api/auth/plugin-client-id"))
-				   .WithTimeout(GetTimeoutSeconds())
-				   .SendAndAwait())
-		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
-			{ return ReadClientId(Response); })
-		.Then([](const FString& ClientId)
+	// Outside the lock: a result that is complete at once goes on in this call.
+	FetchClientId().OnComplete([Preload, Url, Session = GetSession()](const TVexelExpected<FString>& Result)
+		{
+			FAuthData& Data = GetData();
 			{
-				FAuthData& Data = GetData();
 				FScopeLock Guard(&Data.Lock);
-				Data.ClientId = ClientId;
-				return ClientId; })
-		.Catch<FVexelError_Http>([](const FVexelError_Http& Error) -> TVexelExpected<FString>
-			{ return VEXEL_ERROR_CAUSED(FVexelError_Auth_ClientId, Error, "while fetching plugin client ID from server"); });
+				if (Data.Session == Session && Data.ClientIdUrl.Equals(Url))
+				{
+					Data.RunningPreload = TVexelTaskResult<FString>();
+					Data.ClientId = Result.HasValue() ? Result.GetValue() : FString();
+				}
+			}
+			Preload.Complete(Result); });
+	return Preload;
 }
 
 void FVexelAuth::StartAutoLogin()
@@ -305,6 +332,8 @@ void FVexelAuth::Shutdown()
 	Data.UserId.Empty();
 	Data.ClientId.Empty();
 	Data.LoginFailure.Reset();
+	Data.ClientIdUrl.Empty();
+	Data.RunningPreload = TVexelTaskResult<FString>();
 	Data.RunningRefresh = TVexelTaskResult<void>();
 	++Data.Session;
 	Data.OnStateChanged.Clear();

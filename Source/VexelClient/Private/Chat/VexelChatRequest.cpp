@@ -9,7 +9,7 @@
 namespace
 {
 /** A service that sends nothing for that long, not even while a tool of ours runs, is taken for gone. */
-FVexelConfigValue StallTimeoutSetting(TEXT("ChatStallTimeoutSeconds"), TEXT("300"));
+FConfigValueBase StallTimeoutSetting(TEXT("ChatStallTimeoutSeconds"), TEXT("300"));
 constexpr double MaxStallTimeoutSeconds = 24.0 * 60.0 * 60.0;
 
 /** No answer that a person reads comes near it. */

@@ -1,0 +1,12 @@
+#include "VexelUserSettings.h"
+
+UVexelUserSettings::UVexelUserSettings()
+{
+	CategoryName = TEXT("Plugins");
+	SectionName = TEXT("Vexel");
+}
+
+FName UVexelUserSettings::GetContainerName() const
+{
+	return TEXT("Editor");
+}
