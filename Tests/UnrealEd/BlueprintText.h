@@ -9,6 +9,7 @@
 #include "Engine/SCS_Node.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/TimelineTemplate.h"
+#include "UObject/Interface.h"
 
 #include <gtest/gtest.h>
 
@@ -29,6 +30,11 @@ public:
 		AddGraphs(TEXT("Functions"), Blueprint.FunctionGraphs, Text);
 		AddGraphs(TEXT("Macros"), Blueprint.MacroGraphs, Text);
 		AddGraphs(TEXT("Dispatchers"), Blueprint.DelegateSignatureGraphs, Text);
+		for (const FBPInterfaceDescription& Interface : Blueprint.ImplementedInterfaces)
+		{
+			Text += FString::Printf(TEXT("Implements %s\n"), *GetFullNameSafe(Interface.Interface.Get()));
+			AddGraphs(TEXT("Implementation"), Interface.Graphs, Text);
+		}
 		for (const UTimelineTemplate* const Timeline : Blueprint.Timelines)
 		{
 			Text += FString::Printf(TEXT("Timeline %s %s\n"), *Timeline->GetPathName(), *Timeline->TimelineGuid.ToString());

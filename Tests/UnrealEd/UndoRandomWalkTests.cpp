@@ -11,6 +11,7 @@
 #include "K2Node_CustomEvent.h"
 #include "K2Node_ExecutionSequence.h"
 #include "K2Node_FunctionEntry.h"
+#include "K2Node_FunctionResult.h"
 #include "K2Node_IfThenElse.h"
 #include "K2Node_Knot.h"
 #include "K2Node_MakeArray.h"
@@ -18,6 +19,8 @@
 #include "K2Node_Timeline.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
+#include "RandomMembers.h"
+#include "UObject/Interface.h"
 #include "UObject/NoExportTypes.h"
 
 #include <random>
@@ -28,9 +31,10 @@ namespace
 class FRandomEditor
 {
 public:
-	FRandomEditor(UBlueprint& InBlueprint, uint32 Seed)
+	FRandomEditor(UBlueprint& InBlueprint, UBlueprint& Interface, uint32 Seed)
 		: Blueprint(InBlueprint)
 		, Random(Seed)
+		, Members(InBlueprint, Interface, Random)
 	{
 	}
 
@@ -65,6 +69,10 @@ public:
 			{2, TEXT("add component"), &FRandomEditor::AddComponent},
 			{1, TEXT("remove component"), &FRandomEditor::RemoveComponent},
 		};
+		if (Pick(4) == 0)
+		{
+			return Members.Edit();
+		}
 		int32 Total = 0;
 		for (const FKind& Kind : Kinds)
 		{
@@ -467,6 +475,7 @@ private:
 
 	UBlueprint& Blueprint;
 	std::mt19937 Random;
+	FRandomMembers Members;
 };
 
 /** The first line that differs, with those around it, so that a failure can be read. */
@@ -568,7 +577,14 @@ protected:
 TEST_P(FUndoRandomWalkTest, EveryStateComesBackExactly)
 {
 	constexpr int32 NumEdits = 150;
-	FRandomEditor Editor(*Blueprint, GetParam());
+	UBlueprint* const Interface = MakeBlueprint(TEXT("BPI_Openable"), UInterface::StaticClass(), BPTYPE_Interface);
+	UK2Node_EditablePinBase* const Entry = FBlueprintEditorUtils::GetEntryNode(AddFunction(Interface, TEXT("CanOpen")));
+	FBlueprintEditorUtils::FindOrCreateFunctionResultNode(Entry)->CreateUserDefinedPin(
+		TEXT("bCan"), MakeType(UEdGraphSchema_K2::PC_Boolean), EGPD_Input);
+	AddFunction(Interface, TEXT("Opened"));
+	FKismetEditorUtilities::CompileBlueprint(Interface);
+	GEditor->ResetTransaction(Title(TEXT("Test")));
+	FRandomEditor Editor(*Blueprint, *Interface, GetParam());
 	Snapshots = {FBlueprintText::Take(*Blueprint)};
 	Names = {TEXT("start")};
 	Edit(Editor, NumEdits);
@@ -583,5 +599,5 @@ TEST_P(FUndoRandomWalkTest, EveryStateComesBackExactly)
 	GoTo(Editor, 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Seeds, FUndoRandomWalkTest, testing::Values(1u, 2u, 3u, 5u, 8u, 13u));
+INSTANTIATE_TEST_SUITE_P(Seeds, FUndoRandomWalkTest, testing::Values(1u, 2u, 3u, 5u, 8u, 13u, 21u, 34u));
 }

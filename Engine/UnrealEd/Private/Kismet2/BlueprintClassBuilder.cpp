@@ -16,6 +16,7 @@
 #include "UObject/Interface.h"
 #include "UObject/PropertyConstruction.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
 
 using EKind = UECodeGen_Private::EPropertyGenKind;
@@ -23,6 +24,7 @@ using EKind = UECodeGen_Private::EPropertyGenKind;
 namespace
 {
 const TCHAR* const SignatureSuffix = TEXT("__DelegateSignature");
+const TCHAR* const WidgetPath = TEXT("/Script/UMG.Widget");
 const TCHAR* const TimelineComponentPath = TEXT("/Script/Engine.TimelineComponent");
 
 /** Pins of a terminator that are parameters: no execution, no split members, no target. */
@@ -56,6 +58,7 @@ void FBlueprintClassBuilder::Build(TArray<FString>& OutErrors)
 	Errors = &OutErrors;
 	AddDispatcherSignatures();
 	AddComponentsAndTimelines();
+	AddWidgets();
 	AddVariables();
 	AddInterfaces();
 	AddFunctions();
@@ -145,6 +148,26 @@ void FBlueprintClassBuilder::AddComponentsAndTimelines()
 		if (Timeline)
 		{
 			AddObjectProperty(Timeline->GetVariableName(), FindObject<UClass>(nullptr, TimelineComponentPath));
+		}
+	}
+}
+
+void FBlueprintClassBuilder::AddWidgets()
+{
+	// Widget Blueprints are known by declaration alone: what holds their widgets is found by its name.
+	const FObjectPropertyBase* const Holder = FindFProperty<FObjectPropertyBase>(Blueprint.GetClass(), TEXT("WidgetTree"));
+	const UObject* const Tree = Holder ? Holder->GetObjectPropertyValue_InContainer(&Blueprint) : nullptr;
+	const UClass* const WidgetClass = FindObject<UClass>(nullptr, WidgetPath);
+	TArray<UObject*> Widgets;
+	if (Tree && WidgetClass)
+	{
+		GetObjectsWithOuter(Tree, Widgets, false, RF_Transient, EInternalObjectFlags::Garbage);
+	}
+	for (const UObject* const Widget : Widgets)
+	{
+		if (Widget->IsA(WidgetClass))
+		{
+			AddObjectProperty(Widget->GetFName(), Widget->GetClass());
 		}
 	}
 }

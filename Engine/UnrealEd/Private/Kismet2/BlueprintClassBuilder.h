@@ -10,7 +10,7 @@ class UEdGraphPin;
 class UFunction;
 struct FEdGraphPinType;
 
-/** Gives a Blueprint's class the members that the Blueprint declares: variables, components, timelines, dispatchers, functions, events. */
+/** Gives a Blueprint's class the members that the Blueprint declares: variables, components, widgets, timelines, dispatchers, functions, events. */
 class FBlueprintClassBuilder
 {
 public:
@@ -27,6 +27,7 @@ private:
 	void AddDispatcherSignatures();
 	void AddVariables();
 	void AddComponentsAndTimelines();
+	void AddWidgets();
 	void AddInterfaces();
 	void AddFunctions();
 	void AddFunctionOfGraph(const UEdGraph& Graph);

@@ -1,5 +1,6 @@
 #include "Kismet2/BlueprintEditorUtils.h"
 
+#include "BlueprintDependencies.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraphSchema_K2.h"
@@ -17,39 +18,6 @@
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
-
-namespace
-{
-/** Whether a variable, an interface or a node of the Blueprint refers to an object that the predicate accepts. */
-bool UsesObject(const UBlueprint& Blueprint, TFunctionRef<bool(const UObject*)> IsWanted)
-{
-	const auto IsOfType = [&IsWanted](const FEdGraphPinType& Type)
-	{ return IsWanted(Type.PinSubCategoryObject.Get()) || IsWanted(Type.PinValueType.TerminalSubCategoryObject.Get()); };
-	const bool bDeclares = Blueprint.NewVariables.ContainsByPredicate([&IsOfType](const FBPVariableDescription& Variable)
-							   { return IsOfType(Variable.VarType); }) ||
-		Blueprint.ImplementedInterfaces.ContainsByPredicate([&IsWanted](const FBPInterfaceDescription& Interface)
-			{ return IsWanted(Interface.Interface.Get()); });
-	if (bDeclares)
-	{
-		return true;
-	}
-	TArray<UEdGraphNode*> Nodes;
-	FBlueprintEditorUtils::GetAllNodesOfClass(&Blueprint, Nodes);
-	for (UEdGraphNode* const Node : Nodes)
-	{
-		const bool bHasPin = Node->Pins.ContainsByPredicate([&](const UEdGraphPin* Pin)
-			{ return IsOfType(Pin->PinType) || IsWanted(Pin->DefaultObject.Get()); });
-		TArray<UObject*> References;
-		FReferenceFinder(References).FindReferences(Node);
-		if (bHasPin || References.ContainsByPredicate([&IsWanted](const UObject* Reference)
-						   { return IsWanted(Reference); }))
-		{
-			return true;
-		}
-	}
-	return false;
-}
-}
 
 // Finding
 
@@ -255,19 +223,9 @@ UK2Node_Event* FBlueprintEditorUtils::FindCustomEventNode(const UBlueprint* Blue
 
 void FBlueprintEditorUtils::GetDependentBlueprints(UBlueprint* Blueprint, TArray<UBlueprint*>& DependentBlueprints)
 {
-	TArray<UObject*> Blueprints;
-	GetObjectsOfClass(UBlueprint::StaticClass(), Blueprints, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
-	const UClass* const Classes[] = {Blueprint->GeneratedClass.Get(), Blueprint->SkeletonGeneratedClass.Get()};
-	const auto IsOwn = [Blueprint, &Classes](const UObject* Object)
-	{ return Object && (Object == Blueprint || Object == Classes[0] || Object == Classes[1]); };
-	for (UObject* const Object : Blueprints)
+	for (UBlueprint* const User : FBlueprintDependencies::Get().FindUsers(*Blueprint))
 	{
-		UBlueprint* const Other = CastChecked<UBlueprint>(Object);
-		const bool bDerives = Other != Blueprint && FMemberUses::IsClassOf(Other->ParentClass.Get(), *Blueprint);
-		if (Other != Blueprint && (bDerives || UsesObject(*Other, IsOwn)))
-		{
-			DependentBlueprints.AddUnique(Other);
-		}
+		DependentBlueprints.AddUnique(User);
 	}
 }
 
@@ -279,6 +237,7 @@ void FBlueprintEditorUtils::MarkBlueprintAsModified(UBlueprint* Blueprint, FProp
 	{
 		return;
 	}
+	FBlueprintDependencies::Get().Forget(*Blueprint);
 	Blueprint->Status = BS_Dirty;
 	Blueprint->MarkPackageDirty();
 	Blueprint->BroadcastChanged();

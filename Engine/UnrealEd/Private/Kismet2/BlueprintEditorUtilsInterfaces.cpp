@@ -6,6 +6,7 @@
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "MemberUses.h"
 #include "UObject/Interface.h"
+#include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
@@ -14,6 +15,50 @@ namespace
 bool NeedsGraph(const UFunction* Function)
 {
 	return UEdGraphSchema_K2::CanKismetOverrideFunction(Function) && !UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(Function);
+}
+
+bool HasGraphNamed(const TArray<TObjectPtr<UEdGraph>>& Graphs, FName Name)
+{
+	return Graphs.ContainsByPredicate([Name](const UEdGraph* Graph)
+		{ return Graph && Graph->GetFName() == Name; });
+}
+
+/** A member of the Blueprint that has the name already stands in the way of a graph; a function is the answer itself. */
+bool WantsGraph(const UBlueprint& Blueprint, const FBPInterfaceDescription& Description, const UFunction* Function)
+{
+	const FName Name = Function->GetFName();
+	return NeedsGraph(Function) && !HasGraphNamed(Description.Graphs, Name) && !HasGraphNamed(Blueprint.FunctionGraphs, Name) &&
+		FBlueprintEditorUtils::FindNewVariableIndex(&Blueprint, Name) == INDEX_NONE;
+}
+
+bool LacksGraph(const UBlueprint& Blueprint, const FBPInterfaceDescription& Description, const UClass& Interface)
+{
+	const UClass* const Parent = Blueprint.ParentClass.Get();
+	if (Parent && Parent->ImplementsInterface(&Interface))
+	{
+		return false;
+	}
+	for (TFieldIterator<UFunction> Function(&Interface, EFieldIteratorFlags::IncludeSuper); Function; ++Function)
+	{
+		if (WantsGraph(Blueprint, Description, *Function))
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+TArray<UEdGraph*> FindGraphsWithoutFunction(const FBPInterfaceDescription& Description, const UClass& Interface)
+{
+	TArray<UEdGraph*> Stale;
+	for (UEdGraph* const Graph : Description.Graphs)
+	{
+		if (Graph && !Interface.FindFunctionByName(Graph->GetFName()))
+		{
+			Stale.Add(Graph);
+		}
+	}
+	return Stale;
 }
 
 /** Makes a function of the Blueprint's own of one that an interface gave. */
@@ -77,10 +122,7 @@ void FBlueprintEditorUtils::AddInterfaceGraphs(UBlueprint& Blueprint, FBPInterfa
 	for (TFieldIterator<UFunction> It(Description.Interface.Get(), EFieldIteratorFlags::IncludeSuper); It; ++It)
 	{
 		UFunction* const Function = *It;
-		const bool bHasGraph = Description.Graphs.ContainsByPredicate(
-			[Function](const UEdGraph* Graph)
-			{ return Graph && Graph->GetFName() == Function->GetFName(); });
-		if (bHasGraph || !NeedsGraph(Function))
+		if (!WantsGraph(Blueprint, Description, Function))
 		{
 			continue;
 		}
@@ -144,17 +186,36 @@ void FBlueprintEditorUtils::RemoveInterface(UBlueprint* Blueprint, FTopLevelAsse
 
 void FBlueprintEditorUtils::ConformImplementedInterfaces(UBlueprint* Blueprint)
 {
-	Blueprint->Modify();
+	bool bHasChanged = false;
 	for (int32 Index = 0; Index < Blueprint->ImplementedInterfaces.Num(); ++Index)
 	{
-		if (Blueprint->ImplementedInterfaces[Index].Interface)
+		FBPInterfaceDescription Description = Blueprint->ImplementedInterfaces[Index];
+		const UClass* const Interface = Description.Interface.Get();
+		// One that is missing keeps its graphs: it may only not be here.
+		if (!Interface || UE::CoreUObject::IsPlaceholder(Interface))
 		{
-			FBPInterfaceDescription Description = Blueprint->ImplementedInterfaces[Index];
-			AddInterfaceGraphs(*Blueprint, Description);
-			Blueprint->ImplementedInterfaces[Index] = Description;
+			continue;
 		}
+		const TArray<UEdGraph*> Stale = FindGraphsWithoutFunction(Description, *Interface);
+		if (Stale.IsEmpty() && !LacksGraph(*Blueprint, Description, *Interface))
+		{
+			continue;
+		}
+		Blueprint->Modify();
+		bHasChanged = true;
+		for (UEdGraph* const Graph : Stale)
+		{
+			Description.Graphs.Remove(Graph);
+			DetachFromInterface(*Graph);
+			Blueprint->FunctionGraphs.Add(Graph);
+		}
+		AddInterfaceGraphs(*Blueprint, Description);
+		Blueprint->ImplementedInterfaces[Index] = Description;
 	}
-	MarkBlueprintAsStructurallyModified(Blueprint);
+	if (bHasChanged)
+	{
+		MarkBlueprintAsStructurallyModified(Blueprint);
+	}
 }
 
 void FBlueprintEditorUtils::FindImplementedInterfaces(

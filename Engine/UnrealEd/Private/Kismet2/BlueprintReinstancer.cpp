@@ -83,6 +83,21 @@ FBlueprintCompileReinstancer::FBlueprintCompileReinstancer(UBlueprint& Blueprint
 	AddClassAndDerived(Blueprint, Class);
 }
 
+const UBlueprint* FBlueprintCompileReinstancer::FindRingOfParents(const UBlueprint& Blueprint)
+{
+	TSet<const UBlueprint*> Ancestors;
+	for (const UBlueprint* Current = &Blueprint; Current; Current = UBlueprint::GetBlueprintFromClass(Current->ParentClass.Get()))
+	{
+		bool bIsTwice = false;
+		Ancestors.Add(Current, &bIsTwice);
+		if (bIsTwice)
+		{
+			return Current;
+		}
+	}
+	return nullptr;
+}
+
 void FBlueprintCompileReinstancer::AddClassAndDerived(UBlueprint& Blueprint, UBlueprintGeneratedClass& Class)
 {
 	FRebuiltClass& Added = Classes.AddDefaulted_GetRef();

@@ -16,6 +16,9 @@ class FBlueprintCompileReinstancer
 public:
 	FBlueprintCompileReinstancer(UBlueprint& Blueprint, UBlueprintGeneratedClass& Class);
 
+	/** The Blueprint that is met twice on the way up the parents; a class below it can never be built. Null where the parents end. */
+	static const UBlueprint* FindRingOfParents(const UBlueprint& Blueprint);
+
 	/** Appends what is wrong with the Blueprint itself, one sentence each. */
 	void Rebuild(TArray<FString>& OutErrors);
 

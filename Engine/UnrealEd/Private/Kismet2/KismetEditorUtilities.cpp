@@ -28,6 +28,8 @@ UBlueprintGeneratedClass* CreateClassOf(UBlueprint& Blueprint, UClass* ClassType
 
 void CreateClasses(UBlueprint& Blueprint, UClass* ClassType)
 {
+	// Skeletons derive from skeletons: a parent that was loaded and never edited has none yet.
+	FKismetEditorUtilities::GenerateBlueprintSkeleton(UBlueprint::GetBlueprintFromClass(Blueprint.ParentClass.Get()));
 	if (!Blueprint.GeneratedClass)
 	{
 		Blueprint.GeneratedClass = CreateClassOf(Blueprint, ClassType, Blueprint.GetName() + TEXT("_C"), RF_Public | RF_Transactional);
@@ -149,7 +151,8 @@ UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject
 
 bool FKismetEditorUtilities::GenerateBlueprintSkeleton(UBlueprint* BlueprintObj, bool bForceRegeneration)
 {
-	if (!BlueprintObj || !BlueprintObj->ParentClass || BlueprintObj->bBeingCompiled || (BlueprintObj->SkeletonGeneratedClass && !bForceRegeneration))
+	const bool bIsWanted = BlueprintObj && !BlueprintObj->bBeingCompiled && (bForceRegeneration || !BlueprintObj->SkeletonGeneratedClass);
+	if (!bIsWanted || !BlueprintObj->ParentClass || FBlueprintCompileReinstancer::FindRingOfParents(*BlueprintObj))
 	{
 		return false;
 	}
@@ -164,7 +167,7 @@ bool FKismetEditorUtilities::GenerateBlueprintSkeleton(UBlueprint* BlueprintObj,
 void FKismetEditorUtilities::CompileBlueprint(UBlueprint* BlueprintObj, EBlueprintCompileOptions CompileFlags, FCompilerResultsLog* pResults)
 {
 	check(BlueprintObj && !BlueprintObj->bBeingCompiled);
-	if (BlueprintObj->ParentClass)
+	if (BlueprintObj->ParentClass && !FBlueprintCompileReinstancer::FindRingOfParents(*BlueprintObj))
 	{
 		CreateClasses(*BlueprintObj, BlueprintObj->GetBlueprintClass());
 	}

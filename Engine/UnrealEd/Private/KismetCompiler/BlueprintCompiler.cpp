@@ -5,13 +5,12 @@
 #include "EdGraph/EdGraphNode.h"
 #include "Engine/Blueprint.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "Kismet2/BlueprintDependencies.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/BlueprintReinstancer.h"
 #include "Kismet2/CompilerResultsLog.h"
 #include "Kismet2/KismetEditorUtilities.h"
 #include "UObject/Package.h"
-#include "UObject/ReferenceCollector.h"
-#include "UObject/UObjectIterator.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -40,47 +39,6 @@ FString DescribeMembers(const UClass& Class)
 	}
 	return Text;
 }
-
-/** Whether a node of the Blueprint, a variable's type or an ancestor is of one of the classes. */
-bool Uses(const UBlueprint& Blueprint, const TSet<const UObject*>& Classes)
-{
-	for (const UClass* Ancestor = Blueprint.ParentClass.Get(); Ancestor; Ancestor = Ancestor->GetSuperClass())
-	{
-		if (Classes.Contains(Ancestor))
-		{
-			return true;
-		}
-	}
-	const bool bHasVariable = Blueprint.NewVariables.ContainsByPredicate([&Classes](const FBPVariableDescription& Variable)
-		{ return Classes.Contains(Variable.VarType.PinSubCategoryObject.Get()); });
-	if (bHasVariable)
-	{
-		return true;
-	}
-	TArray<UEdGraph*> Graphs;
-	Blueprint.GetAllGraphs(Graphs);
-	TArray<UObject*> Referenced;
-	FReferenceFinder Finder(Referenced);
-	for (const UEdGraph* const Graph : Graphs)
-	{
-		for (UEdGraphNode* const Node : Graph->Nodes)
-		{
-			if (!Node)
-			{
-				continue;
-			}
-			Finder.FindReferences(Node);
-			const bool bPinIsOfClass = Node->Pins.ContainsByPredicate([&Classes](const UEdGraphPin* Pin)
-				{ return Classes.Contains(Pin->PinType.PinSubCategoryObject.Get()); });
-			if (bPinIsOfClass)
-			{
-				return true;
-			}
-		}
-	}
-	return Referenced.ContainsByPredicate([&Classes](const UObject* Object)
-		{ return Classes.Contains(Object); });
-}
 }
 
 void FBlueprintCompiler::Compile()
@@ -94,6 +52,7 @@ void FBlueprintCompiler::Compile()
 	CheckAndBuild();
 	Blueprint.bBeingCompiled = false;
 	Blueprint.bHasBeenRegenerated = true;
+	FBlueprintDependencies::Get().Forget(Blueprint);
 	SetStatus();
 	Log.EndEvent();
 	Blueprint.BroadcastCompiled();
@@ -139,6 +98,7 @@ void FBlueprintCompiler::CheckAndBuild()
 	{
 		return;
 	}
+	FBlueprintEditorUtils::ConformImplementedInterfaces(&Blueprint);
 	// The graphs are checked against the members that the Blueprint has now, and those are the skeleton's.
 	TArray<FString> SkeletonErrors;
 	FBlueprintCompileReinstancer(Blueprint, *CastChecked<UBlueprintGeneratedClass>(Blueprint.SkeletonGeneratedClass.Get())).Rebuild(SkeletonErrors);
@@ -159,18 +119,14 @@ void FBlueprintCompiler::SetStatus()
 
 void FBlueprintCompiler::CompileDependents()
 {
-	TSet<const UObject*> Classes = {Blueprint.GeneratedClass.Get(), Blueprint.SkeletonGeneratedClass.Get()};
 	TArray<UBlueprint*> Dependents;
-	for (TObjectIterator<UBlueprint> Other; Other; ++Other)
-	{
-		const bool bIsAsset = *Other != &Blueprint && !Other->HasAnyFlags(RF_Transient | RF_ClassDefaultObject) && Other->GeneratedClass && !Other->bBeingCompiled;
-		if (bIsAsset && Uses(**Other, Classes))
-		{
-			Dependents.Add(*Other);
-		}
-	}
+	FBlueprintEditorUtils::GetDependentBlueprints(&Blueprint, Dependents);
 	for (UBlueprint* const Dependent : Dependents)
 	{
+		if (Dependent->HasAnyFlags(RF_Transient) || !Dependent->GeneratedClass || Dependent->bBeingCompiled)
+		{
+			continue;
+		}
 		// Its assets do not change by it, only what its nodes know of this Blueprint.
 		const bool bWasDirty = Dependent->GetPackage()->IsDirty();
 		FBlueprintEditorUtils::ReconstructAllNodes(Dependent);

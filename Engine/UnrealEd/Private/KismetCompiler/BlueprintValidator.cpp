@@ -9,9 +9,11 @@
 #include "Engine/TimelineTemplate.h"
 #include "GraphValidator.h"
 #include "K2Node_Event.h"
+#include "Kismet2/BlueprintReinstancer.h"
 #include "Kismet2/CompilerResultsLog.h"
 #include "UObject/Class.h"
 #include "UObject/Interface.h"
+#include "UObject/PlaceholderObject.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -54,20 +56,23 @@ bool FBlueprintValidator::ValidateParent() const
 		Log.Error(TEXT("The parent class of @@ does not exist. Reparent it to another class."), &Blueprint);
 		return false;
 	}
-	TSet<const UBlueprint*> Ancestors = {&Blueprint};
-	for (const UBlueprint* Parent = UBlueprint::GetBlueprintFromClass(Blueprint.ParentClass.Get()); Parent;
-		 Parent = Parent->ParentClass ? UBlueprint::GetBlueprintFromClass(Parent->ParentClass.Get()) : nullptr)
+	for (const UClass* Ancestor = Blueprint.ParentClass.Get(); Ancestor; Ancestor = Ancestor->GetSuperClass())
 	{
-		if (Ancestors.Contains(Parent))
+		if (UE::CoreUObject::IsPlaceholder(Ancestor))
 		{
-			Log.Error(TEXT("The parents of @@ form a ring: @@ is its own ancestor"), &Blueprint, Parent);
+			Log.Error(TEXT("The class @@, of which @@ is a child, does not exist. Reparent it to another class."), Ancestor, &Blueprint);
 			return false;
 		}
-		Ancestors.Add(Parent);
-		if (Parent->Status == BS_Error)
-		{
-			Log.Warning(TEXT("The parent @@ of @@ has errors of its own"), Parent, &Blueprint);
-		}
+	}
+	if (const UBlueprint* const Twice = FBlueprintCompileReinstancer::FindRingOfParents(Blueprint))
+	{
+		Log.Error(TEXT("The parents of @@ form a ring: @@ is its own ancestor"), &Blueprint, Twice);
+		return false;
+	}
+	const UBlueprint* const Parent = UBlueprint::GetBlueprintFromClass(Blueprint.ParentClass.Get());
+	if (Parent && Parent->Status == BS_Error)
+	{
+		Log.Warning(TEXT("The parent @@ of @@ has errors of its own"), Parent, &Blueprint);
 	}
 	return true;
 }

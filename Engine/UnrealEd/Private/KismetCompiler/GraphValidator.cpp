@@ -12,6 +12,7 @@
 #include "K2Node_Timeline.h"
 #include "Kismet2/CompilerResultsLog.h"
 #include "UObject/Class.h"
+#include "UObject/PlaceholderObject.h"
 
 namespace
 {
@@ -24,6 +25,13 @@ bool TakesManyLinks(const UEdGraphPin& Pin)
 {
 	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(Pin.GetOwningNodeUnchecked());
 	return GetSchema().IsDelegateCategory(Pin.PinType.PinCategory) || (Call && GetSchema().IsSelfPin(Pin) && Call->AllowMultipleSelfs(false));
+}
+
+/** The type of the pin when it is of a module or project that is not here: nothing is known of what fits it. */
+const UObject* FindMissingType(const UEdGraphPin& Pin)
+{
+	const UObject* const Type = Pin.PinType.PinSubCategoryObject.Get();
+	return UE::CoreUObject::IsPlaceholder(Type) ? Type : nullptr;
 }
 
 /** The node goes on after the call that started it has returned. */
@@ -143,7 +151,14 @@ void FGraphValidator::ValidateLinks(const UK2Node& Node, const UEdGraphPin& Pin)
 			continue;
 		}
 		const FPinConnectionResponse Response = GetSchema().CanCreateConnection(&Pin, Other);
-		if (Response.Response == CONNECT_RESPONSE_DISALLOW || Response.Response == CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE)
+		const bool bIsRefused =
+			Response.Response == CONNECT_RESPONSE_DISALLOW || Response.Response == CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE;
+		const UObject* const Missing = FindMissingType(Pin) ? FindMissingType(Pin) : FindMissingType(*Other);
+		if (bIsRefused && Missing)
+		{
+			Log.Error(TEXT("@@ and @@ are linked by the type @@, which does not exist"), &Node, OtherNode, Missing);
+		}
+		else if (bIsRefused)
 		{
 			Log.Error(TEXT("Can't connect pins @@ and @@: @@"), &Pin, Other, Response.Message);
 		}
@@ -161,6 +176,11 @@ void FGraphValidator::ValidateUnlinkedInput(const UK2Node& Node, const UEdGraphP
 	if (bMustBeLinked)
 	{
 		Log.Error(TEXT("The value of '@@' in action '@@' must have an input wired into it (\"by ref\" params expect a valid input to operate on)."), &Pin, &Node);
+		return;
+	}
+	if (UE::CoreUObject::IsPlaceholder(Pin.DefaultObject.Get()))
+	{
+		Log.Error(TEXT("@@, the value of the '@@' pin of @@, does not exist"), Pin.DefaultObject.Get(), &Pin, &Node);
 		return;
 	}
 	const FString Mistake = Pin.bHidden ? FString() : GetSchema().IsCurrentPinDefaultValid(&Pin);
