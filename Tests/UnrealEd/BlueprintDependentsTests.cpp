@@ -1,5 +1,7 @@
 #include "BlueprintEditTest.h"
+#include "K2Node_EditablePinBase.h"
 #include "K2Node_FunctionResult.h"
+#include "K2Node_FunctionTerminator.h"
 #include "K2Node_VariableGet.h"
 #include "Kismet2/CompilerResultsLog.h"
 #include "Logging/TokenizedMessage.h"
@@ -158,9 +160,42 @@ TEST_F(FBlueprintDependentsTest, AVariableInTheWayOfAnInterfacesFunctionIsAnErro
 	EXPECT_EQ(Blueprint->ImplementedInterfaces[0].Graphs.Num(), 0);
 	const FString Errors = CompileForErrors(Blueprint);
 	EXPECT_TRUE(Errors.Contains(TEXT("asks for the function CanOpen"))) << TCHAR_TO_UTF8(*Errors);
-	FBlueprintEditorUtils::RenameMemberVariable(Blueprint, TEXT("CanOpen"), TEXT("bOpen"));
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Rename")));
+		FBlueprintEditorUtils::RenameMemberVariable(Blueprint, TEXT("CanOpen"), TEXT("bOpen"));
+	}
+	EXPECT_EQ(Blueprint->ImplementedInterfaces[0].Graphs.Num(), 1) << "the rename that freed the name gave the graph";
 	EXPECT_EQ(CompileForErrors(Blueprint), FString());
-	EXPECT_EQ(Blueprint->ImplementedInterfaces[0].Graphs.Num(), 1);
+	Undo();
+	EXPECT_EQ(Blueprint->ImplementedInterfaces[0].Graphs.Num(), 0);
+	EXPECT_EQ(Blueprint->NewVariables[0].VarName, FName(TEXT("CanOpen")));
+}
+
+TEST_F(FBlueprintDependentsTest, AFunctionOfTheSameNameBecomesTheInterfacesGraph)
+{
+	UBlueprint* const Interface = MakeBlueprint(TEXT("BPI_Openable"), UInterface::StaticClass(), BPTYPE_Interface);
+	AddQuestion(Interface, TEXT("CanOpen"));
+	AddQuestion(Interface, TEXT("CanClose"));
+	FKismetEditorUtilities::CompileBlueprint(Interface);
+	UEdGraph* const Same = AddQuestion(Blueprint, TEXT("CanOpen"));
+	UEdGraph* const Other = AddFunction(Blueprint, TEXT("CanClose"));
+	GEditor->ResetTransaction(Title(TEXT("Test")));
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Implement")));
+		ASSERT_TRUE(FBlueprintEditorUtils::ImplementNewInterface(Blueprint, PathOf(Interface)));
+	}
+	EXPECT_EQ(Blueprint->ImplementedInterfaces[0].Graphs.Num(), 2);
+	EXPECT_FALSE(Blueprint->FunctionGraphs.Contains(Same));
+	EXPECT_FALSE(Same->bAllowRenaming);
+	const UK2Node_EditablePinBase* const Entry = FBlueprintEditorUtils::GetEntryNode(Same);
+	EXPECT_EQ(CastChecked<UK2Node_FunctionTerminator>(Entry)->FunctionReference.GetMemberParentClass(), Interface->GeneratedClass.Get());
+	EXPECT_EQ(CompileForErrors(Blueprint).Replace(*Interface->GetName(), TEXT("BPI")),
+		TEXT("The function CanClose does not have the parameters of the function of BPI that it implements|"));
+	Undo();
+	EXPECT_TRUE(Blueprint->FunctionGraphs.Contains(Same));
+	EXPECT_TRUE(Blueprint->FunctionGraphs.Contains(Other));
+	EXPECT_TRUE(Same->bAllowRenaming);
+	EXPECT_EQ(CompileForErrors(Blueprint), FString());
 }
 
 TEST_F(FBlueprintDependentsTest, ARingOfTwoParentsIsReportedAndChangesNothing)

@@ -23,12 +23,11 @@ bool HasGraphNamed(const TArray<TObjectPtr<UEdGraph>>& Graphs, FName Name)
 		{ return Graph && Graph->GetFName() == Name; });
 }
 
-/** A member of the Blueprint that has the name already stands in the way of a graph; a function is the answer itself. */
+/** A variable that has the name stands in the way of a graph; a function of the Blueprint's own becomes the graph. */
 bool WantsGraph(const UBlueprint& Blueprint, const FBPInterfaceDescription& Description, const UFunction* Function)
 {
-	const FName Name = Function->GetFName();
-	return NeedsGraph(Function) && !HasGraphNamed(Description.Graphs, Name) && !HasGraphNamed(Blueprint.FunctionGraphs, Name) &&
-		FBlueprintEditorUtils::FindNewVariableIndex(&Blueprint, Name) == INDEX_NONE;
+	return NeedsGraph(Function) && !HasGraphNamed(Description.Graphs, Function->GetFName()) &&
+		FBlueprintEditorUtils::FindNewVariableIndex(&Blueprint, Function->GetFName()) == INDEX_NONE;
 }
 
 bool LacksGraph(const UBlueprint& Blueprint, const FBPInterfaceDescription& Description, const UClass& Interface)
@@ -102,6 +101,31 @@ void DetachFromInterface(UEdGraph& Graph)
 	GetDefault<UEdGraphSchema_K2>()->AddExtraFunctionFlags(&Graph, FUNC_BlueprintCallable | FUNC_BlueprintEvent | FUNC_Public);
 }
 
+/** Makes what an interface asks for of a function of the Blueprint's own. One with other parameters keeps them, for a compile to report. */
+void AttachToInterface(const UBlueprint& Blueprint, UEdGraph& Graph, const UFunction& Function)
+{
+	Graph.Modify();
+	Graph.bAllowDeletion = false;
+	Graph.bAllowRenaming = false;
+	Graph.InterfaceGuid = FGuid::NewDeterministicGuid(Function.GetPathName());
+	const UFunction* const Own =
+		Blueprint.SkeletonGeneratedClass ? Blueprint.SkeletonGeneratedClass->FindFunctionByName(Function.GetFName()) : nullptr;
+	if (!Own || !Function.IsSignatureCompatibleWith(Own))
+	{
+		return;
+	}
+	TArray<UK2Node_FunctionTerminator*> Terminators;
+	Graph.GetNodesOfClass(Terminators);
+	for (UK2Node_FunctionTerminator* const Terminator : Terminators)
+	{
+		Terminator->Modify();
+		Terminator->bIsEditable = false;
+		Terminator->UserDefinedPins.Empty();
+		Terminator->FunctionReference.SetExternalMember(Function.GetFName(), Function.GetOwnerClass());
+		Terminator->ReconstructNode();
+	}
+}
+
 void RemoveEventsOf(UBlueprint& Blueprint, const UClass& Interface)
 {
 	TArray<UK2Node_Event*> Events;
@@ -124,6 +148,15 @@ void FBlueprintEditorUtils::AddInterfaceGraphs(UBlueprint& Blueprint, FBPInterfa
 		UFunction* const Function = *It;
 		if (!WantsGraph(Blueprint, Description, Function))
 		{
+			continue;
+		}
+		const TObjectPtr<UEdGraph>* const Own = Blueprint.FunctionGraphs.FindByPredicate([Function](const UEdGraph* Graph)
+			{ return Graph && Graph->GetFName() == Function->GetFName(); });
+		if (Own)
+		{
+			Description.Graphs.Add(*Own);
+			Blueprint.FunctionGraphs.Remove(Description.Graphs.Last());
+			AttachToInterface(Blueprint, *Description.Graphs.Last(), *Function);
 			continue;
 		}
 		UEdGraph* const Graph = CreateNewGraph(&Blueprint, Function->GetFName(), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());

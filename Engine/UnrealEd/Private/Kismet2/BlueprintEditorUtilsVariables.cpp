@@ -109,6 +109,8 @@ void FBlueprintEditorUtils::BulkRemoveMemberVariables(UBlueprint* Blueprint, con
 	if (bRemovedAny)
 	{
 		MarkBlueprintAsStructurallyModified(Blueprint);
+		// A name that is free now may be what an interface waits for.
+		ConformImplementedInterfaces(Blueprint);
 	}
 }
 
@@ -139,6 +141,7 @@ void FBlueprintEditorUtils::RenameMemberVariable(UBlueprint* Blueprint, const FN
 		Class->PropertyGuids.Add(OldName, Variable.VarGuid);
 	}
 	MarkBlueprintAsStructurallyModified(Blueprint);
+	ConformImplementedInterfaces(Blueprint);
 }
 
 FName FBlueprintEditorUtils::DuplicateVariable(UBlueprint* InBlueprint, const UStruct* InScope, FName InVariableToDuplicate)

@@ -168,6 +168,10 @@ void FBlueprintValidator::ValidateInterfaces() const
 			{
 				Log.Error(TEXT("The interface @@ asks for the function @@, and @@ has no graph for it"), Interface, Function->GetFName(), &Blueprint);
 			}
+			else if (bMustBeThere && Own && !Function->IsSignatureCompatibleWith(Own))
+			{
+				Log.Error(TEXT("The function @@ does not have the parameters of the function of @@ that it implements"), Own, Interface);
+			}
 		}
 	}
 }
