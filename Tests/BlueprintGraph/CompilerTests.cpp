@@ -1,7 +1,6 @@
+#include "CompilerFixture.h"
 #include "EdGraphToken.h"
-#include "GraphFixture.h"
 #include "K2Node_Composite.h"
-#include "K2Node_CustomEvent.h"
 #include "K2Node_DynamicCast.h"
 #include "K2Node_Event.h"
 #include "K2Node_FunctionEntry.h"
@@ -10,68 +9,11 @@
 #include "K2Node_SpawnActorFromClass.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
-#include "Kismet2/BlueprintEditorUtils.h"
-#include "Kismet2/CompilerResultsLog.h"
 
 namespace
 {
 const TCHAR* const SystemLibrary = TEXT("/Script/Engine.KismetSystemLibrary");
 const TCHAR* const MathLibrary = TEXT("/Script/Engine.KismetMathLibrary");
-
-class FCompilerTest : public FGraphTest
-{
-protected:
-	virtual void SetUp() override
-	{
-		FGraphTest::SetUp();
-		Event = Add<UK2Node_CustomEvent>([](UK2Node_CustomEvent& Node)
-			{ Node.CustomFunctionName = TEXT("Start"); });
-	}
-
-	void Compile()
-	{
-		Results = MakeShared<FCompilerResultsLog>(false);
-		Results->bSilentMode = true;
-		FKismetEditorUtilities::CompileBlueprint(Blueprint, EBlueprintCompileOptions::None, Results.Get());
-	}
-
-	/** The texts of the messages of one severity, a line each. */
-	FString Said(EMessageSeverity::Type Severity) const
-	{
-		FString Lines;
-		for (const TSharedRef<FTokenizedMessage>& Message : Results->Messages)
-		{
-			Lines += Message->GetSeverity() == Severity ? Message->ToText().ToString() + TEXT("|") : FString();
-		}
-		return Lines;
-	}
-
-	UK2Node_CallFunction* Print() { return Call(SystemLibrary, TEXT("PrintString")); }
-
-	void Chain(UEdGraphPin* From, UEdGraphPin* To)
-	{
-		ASSERT_TRUE(From && To);
-		ASSERT_TRUE(Schema().TryCreateConnection(From, To));
-	}
-
-	/** A variable node of the Blueprint's own variable. */
-	template <class NodeType>
-	NodeType* Variable(const TCHAR* Name)
-	{
-		return Add<NodeType>([Name](NodeType& Node)
-			{ Node.VariableReference.SetSelfMember(Name); });
-	}
-
-	void AddInteger(const TCHAR* Name)
-	{
-		FEdGraphPinType Type;
-		Type.PinCategory = UEdGraphSchema_K2::PC_Int;
-		ASSERT_TRUE(FBlueprintEditorUtils::AddMemberVariable(Blueprint, Name, Type));
-	}
-
-	UK2Node_CustomEvent* Event = nullptr;
-	TSharedPtr<FCompilerResultsLog> Results;
-};
 
 TEST_F(FCompilerTest, AGoodGraphCompilesWithoutAWord)
 {

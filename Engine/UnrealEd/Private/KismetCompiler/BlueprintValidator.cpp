@@ -11,6 +11,7 @@
 #include "K2Node_Event.h"
 #include "Kismet2/BlueprintReinstancer.h"
 #include "Kismet2/CompilerResultsLog.h"
+#include "MacroUses.h"
 #include "UObject/Class.h"
 #include "UObject/Interface.h"
 #include "UObject/PlaceholderObject.h"
@@ -242,6 +243,13 @@ void FBlueprintValidator::ValidateGraphs() const
 	for (const FBPInterfaceDescription& Interface : Blueprint.ImplementedInterfaces)
 	{
 		Graphs.Append(Interface.Graphs);
+	}
+	for (const UEdGraph* const Macro : Blueprint.MacroGraphs)
+	{
+		if (Macro && MacroUses::UsesItself(*Macro))
+		{
+			Log.Error(TEXT("The macro @@ uses itself, which would never end"), Macro);
+		}
 	}
 	for (const UEdGraph* const Graph : Graphs)
 	{

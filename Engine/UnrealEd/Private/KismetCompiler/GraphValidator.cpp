@@ -4,13 +4,12 @@
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "GraphFlow.h"
-#include "K2Node_BaseAsyncTask.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_Event.h"
 #include "K2Node_FunctionEntry.h"
 #include "K2Node_FunctionResult.h"
-#include "K2Node_Timeline.h"
 #include "Kismet2/CompilerResultsLog.h"
+#include "MacroUses.h"
 #include "UObject/Class.h"
 #include "UObject/PlaceholderObject.h"
 
@@ -32,13 +31,6 @@ const UObject* FindMissingType(const UEdGraphPin& Pin)
 {
 	const UObject* const Type = Pin.PinType.PinSubCategoryObject.Get();
 	return UE::CoreUObject::IsPlaceholder(Type) ? Type : nullptr;
-}
-
-/** The node goes on after the call that started it has returned. */
-bool IsLatent(const UK2Node& Node)
-{
-	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(&Node);
-	return (Call && Call->IsLatentFunction()) || Node.IsA<UK2Node_Timeline>() || Node.IsA<UK2Node_BaseAsyncTask>();
 }
 }
 
@@ -245,7 +237,7 @@ void FGraphValidator::ValidateFunction(const FGraphFlow& Flow)
 		{
 			Log.Error(TEXT("The event @@ cannot stand in the function @@"), Node, &Graph);
 		}
-		else if (IsLatent(*Node) && Flow.IsReached(*Node))
+		else if (Flow.IsReached(*Node) && MacroUses::IsLatent(*Node))
 		{
 			Log.Error(TEXT("The latent node @@ cannot be used in the function @@: a function returns at once"), Node, &Graph);
 		}
