@@ -127,7 +127,8 @@ void FBlueprintCompiler::CompileDependents()
 		{
 			continue;
 		}
-		// Its assets do not change by it, only what its nodes know of this Blueprint.
+		// An interface's function that came or went changes the asset; what its nodes know of this Blueprint does not.
+		FBlueprintEditorUtils::ConformImplementedInterfaces(Dependent);
 		const bool bWasDirty = Dependent->GetPackage()->IsDirty();
 		FBlueprintEditorUtils::ReconstructAllNodes(Dependent);
 		FKismetEditorUtilities::CompileBlueprint(Dependent);
