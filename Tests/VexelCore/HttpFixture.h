@@ -5,6 +5,10 @@
 #include "VexelErrorKinds.h"
 #include "VexelHttp.h"
 
+#include <netinet/in.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
 using FResponse = TVexelExpected<TSharedRef<FVexelHttpResponse>>;
 using testing::HasSubstr;
 
@@ -24,6 +28,20 @@ protected:
 	FScriptedHttpServer Server;
 	TSharedPtr<FVexelHttp> Client;
 };
+
+/** A port of the loopback interface that nobody listens on. */
+inline int32 FindClosedPort()
+{
+	const int Socket = socket(AF_INET, SOCK_STREAM, 0);
+	sockaddr_in Address = {};
+	Address.sin_family = AF_INET;
+	Address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+	socklen_t Length = sizeof(Address);
+	bind(Socket, reinterpret_cast<sockaddr*>(&Address), sizeof(Address));
+	getsockname(Socket, reinterpret_cast<sockaddr*>(&Address), &Length);
+	close(Socket);
+	return ntohs(Address.sin_port);
+}
 
 /** An error of transport, not one of a status and not a cancellation. */
 inline void ExpectTransportError(const FResponse& Response)

@@ -21,20 +21,6 @@ struct FFixedAuth final : FVexelHttp::IAuthProvider
 
 	EAuthResult Result = EAuthResult::Authenticated;
 };
-
-/** A port of the loopback interface that nobody listens on. */
-int32 FindClosedPort()
-{
-	const int Socket = socket(AF_INET, SOCK_STREAM, 0);
-	sockaddr_in Address = {};
-	Address.sin_family = AF_INET;
-	Address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-	socklen_t Length = sizeof(Address);
-	bind(Socket, reinterpret_cast<sockaddr*>(&Address), sizeof(Address));
-	getsockname(Socket, reinterpret_cast<sockaddr*>(&Address), &Length);
-	close(Socket);
-	return ntohs(Address.sin_port);
-}
 }
 
 TEST_F(FHttpTest, GetAnswersStatusHeadersAndBody)

@@ -1,81 +1,20 @@
+#include "Companion.h"
 #include "TaskFixture.h"
 #include "VexelErrorKinds.h"
 #include "VexelSecureStorage.h"
 
-#include <csignal>
 #include <cstdlib>
 #include <filesystem>
-#include <fcntl.h>
 #include <functional>
-#include <spawn.h>
 #include <sys/wait.h>
 #include <unistd.h>
-#include <vector>
-
-extern char** environ;
 
 namespace
 {
 namespace fs = std::filesystem;
 
-bool IsInstalled(const char* Program)
-{
-	return fs::exists(fs::path("/usr/bin") / Program);
-}
-
-/** A program that runs beside the test, and the first line that it writes. */
-class FCompanion
-{
-public:
-	FCompanion(std::vector<std::string> Words, const std::string& Input)
-	{
-		int In[2] = {};
-		int Out[2] = {};
-		if (pipe2(In, O_CLOEXEC) != 0 || pipe2(Out, O_CLOEXEC) != 0)
-		{
-			return;
-		}
-		posix_spawn_file_actions_t Actions;
-		posix_spawn_file_actions_init(&Actions);
-		posix_spawn_file_actions_adddup2(&Actions, In[0], STDIN_FILENO);
-		posix_spawn_file_actions_adddup2(&Actions, Out[1], STDOUT_FILENO);
-		posix_spawn_file_actions_addopen(&Actions, STDERR_FILENO, "/dev/null", O_WRONLY, 0);
-		std::vector<char*> RawWords;
-		for (std::string& Word : Words)
-		{
-			RawWords.push_back(Word.data());
-		}
-		RawWords.push_back(nullptr);
-		posix_spawnp(&Process, RawWords[0], &Actions, nullptr, RawWords.data(), environ);
-		posix_spawn_file_actions_destroy(&Actions);
-		close(In[0]);
-		close(Out[1]);
-		const ssize_t NumWritten = write(In[1], Input.data(), Input.size());
-		EXPECT_EQ(NumWritten, ssize_t(Input.size()));
-		close(In[1]);
-		for (char Character = 0; read(Out[0], &Character, 1) == 1 && Character != '\n';)
-		{
-			FirstLine += Character;
-		}
-		close(Out[0]);
-	}
-	~FCompanion()
-	{
-		if (Process > 0)
-		{
-			kill(Process, SIGTERM);
-			waitpid(Process, nullptr, 0);
-		}
-	}
-
-	std::string FirstLine;
-
-private:
-	pid_t Process = 0;
-};
-
 /** Runs a check in a process of its own, whose session bus, keyring and home are its own too. */
-void RunInPrivateSession(const std::function<void(const fs::path& Home)>& Check)
+void RunInPrivateSession(const std::function<void(const fs::path& Home)>& Check, bool bUnlocked = true)
 {
 	if (!IsInstalled("dbus-daemon") || !IsInstalled("gnome-keyring-daemon"))
 	{
@@ -95,7 +34,12 @@ void RunInPrivateSession(const std::function<void(const fs::path& Home)>& Check)
 		{
 			const FCompanion Bus({"dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address=1"}, "");
 			setenv("DBUS_SESSION_BUS_ADDRESS", Bus.FirstLine.c_str(), 1);
-			const FCompanion Keyring({"gnome-keyring-daemon", "--foreground", "--unlock", "--components=secrets"}, "password");
+			std::vector<std::string> KeyringWords = {"gnome-keyring-daemon", "--foreground", "--components=secrets"};
+			if (bUnlocked)
+			{
+				KeyringWords.insert(KeyringWords.begin() + 2, "--unlock");
+			}
+			const FCompanion Keyring(KeyringWords, "password");
 			EXPECT_NE(Bus.FirstLine, "");
 			Check(Home);
 		}
@@ -175,6 +119,24 @@ TEST(Keyring, WhatStoodInTheFileIsFoundAndMovesWhenItIsStoredAgain)
 			EXPECT_EQ(Load(TEXT("rt")), "newer");
 			FVexelSecureStorage::SetDirectory(Default);
 			EXPECT_THAT(Load(TEXT("rt")), testing::StartsWith("error")) << "no old value is left behind"; });
+}
+
+TEST(Keyring, WithALockedKeyringTheFileServesAndNothingHangs)
+{
+	// Nobody is there who could unlock it: the prompt that it asks for cannot be shown.
+	RunInPrivateSession([](const fs::path& Home)
+		{
+			alarm(30);
+			FLogCapture Log;
+			EXPECT_THAT(Load(TEXT("rt")), testing::StartsWith("error"));
+			EXPECT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("rt"), TEXT("hunter2")).HasValue());
+			EXPECT_TRUE(Log.Contains("Cannot write to the keyring")) << Log.ToText();
+			EXPECT_FALSE(Log.Contains("hunter2"));
+			EXPECT_TRUE(HasSecretFile(Home));
+			EXPECT_EQ(Load(TEXT("rt")), "hunter2");
+			EXPECT_TRUE(FVexelSecureStorage::DeleteValue(TEXT("rt")).HasValue());
+			EXPECT_THAT(Load(TEXT("rt")), testing::StartsWith("error")); },
+		false);
 }
 
 TEST(Keyring, WithoutASessionTheFileServesAndScopesAreKeptApart)

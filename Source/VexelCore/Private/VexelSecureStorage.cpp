@@ -128,24 +128,38 @@ TVexelExpected<void> FVexelSecureStorage::StoreValueString(const FString& Key, c
 
 TVexelExpected<FString> FVexelSecureStorage::LoadValueString(const FString& Key)
 {
+	// A store that cannot be read does not hide what another took in its place.
+	TOptional<FVexelError> Failure;
 	for (const TUniquePtr<ISecretStore>& Store : MakeStores())
 	{
-		VEXEL_TRY(const TOptional<FString> Value, Store->Load(Key), "while loading value '%s'", *Key);
-		if (Value)
+		const TVexelExpected<TOptional<FString>> Loaded = Store->Load(Key);
+		if (Loaded.HasError())
+		{
+			Failure = Failure ? Failure : Loaded.GetError();
+		}
+		else if (const TOptional<FString>& Value = Loaded.GetValue())
 		{
 			VexelSecrets::Add(*Value);
 			return *Value;
 		}
+	}
+	if (Failure)
+	{
+		Failure->AppendContext(FString::Printf(TEXT("while loading value '%s'"), *Key));
+		return *Failure;
 	}
 	return VEXEL_ERROR(FVexelError_SecureStorage, "No stored value for '%s'", *Key);
 }
 
 TVexelExpected<void> FVexelSecureStorage::DeleteValue(const FString& Key)
 {
+	TVexelExpected<void> Result;
 	for (const TUniquePtr<ISecretStore>& Store : MakeStores())
 	{
-		VEXEL_TRY_VOID(Store->Delete(Key), "while deleting value '%s'", *Key);
+		const TVexelExpected<void> Deleted = Store->Delete(Key);
+		Result = Result.HasValue() ? Deleted : Result;
 	}
+	VEXEL_TRY_VOID(MoveTemp(Result), "while deleting value '%s'", *Key);
 	return TVexelExpected<void>();
 }
 

@@ -4,6 +4,7 @@
 #include "HAL/PlatformTime.h"
 #include "Misc/ScopeLock.h"
 #include "VexelErrorKinds.h"
+#include "VexelInternalConfig.h"
 #include "VexelTaskManager.h"
 
 #include <cstdlib>
@@ -11,6 +12,9 @@
 
 namespace
 {
+/** A file of certificates (PEM) that are trusted in place of the system's: for a company's own authority. */
+FConfigValueBase CaBundleSetting(TEXT("CaBundleFile"), TEXT(""));
+
 constexpr int32 MaxHeaderBytes = 256 * 1024;
 constexpr long MaxRedirects = 5;
 constexpr long ConnectTimeoutMilliseconds = 30'000;
@@ -114,6 +118,11 @@ void FVexelHttpTransfer::SetOptions()
 	curl_easy_setopt(Handle, CURLOPT_ACCEPT_ENCODING, "");
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYPEER, 1L);
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYHOST, 2L);
+	const FString CaBundle = CaBundleSetting.Get();
+	if (!CaBundle.IsEmpty())
+	{
+		curl_easy_setopt(Handle, CURLOPT_CAINFO, TCHAR_TO_UTF8(*CaBundle));
+	}
 	curl_easy_setopt(Handle, CURLOPT_CONNECTTIMEOUT_MS, ConnectTimeoutMilliseconds);
 	curl_easy_setopt(Handle, CURLOPT_WRITEFUNCTION, &FVexelHttpTransfer::OnBody);
 	curl_easy_setopt(Handle, CURLOPT_WRITEDATA, this);
