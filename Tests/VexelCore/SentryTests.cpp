@@ -6,6 +6,7 @@
 #include "Sentry/SentrySpool.h"
 #include "VexelInternalConfig.h"
 #include "VexelJson.h"
+#include "VexelLog.h"
 #include "VexelSecrets.h"
 #include "VexelSecureStorage.h"
 #include "VexelSentry.h"
@@ -99,6 +100,14 @@ protected:
 	fs::path Root;
 };
 
+void LogLines(const TCHAR* Words, int32 Num)
+{
+	for (int32 Index = 0; Index < Num; ++Index)
+	{
+		VEXEL_LOG(Log, "%s %d", Words, Index);
+	}
+}
+
 FVexelError MakeError(const FString& Message)
 {
 	return FVexelError_Embed(VEXEL_HERE, Message);
@@ -143,6 +152,31 @@ TEST_F(FSentryTest, AReportHoldsTheErrorItsCausesItsScopesAndItsUser)
 	EXPECT_EQ(ToUtf8(Scope->GetStringField(TEXT("data"))), "{\"tool_name\":\"compile\"}");
 	EXPECT_EQ(ToUtf8(Event->GetArrayField(TEXT("breadcrumbs"))[0]->AsObject()->GetStringField(TEXT("message"))), "the line before");
 	EXPECT_TRUE(WaitUntilNoneWaits());
+}
+
+TEST_F(FSentryTest, TheLastLinesOfThePluginGoWithAReportAndNobodyElses)
+{
+	LogLines(TEXT("before the start"), 1);
+	Start();
+	FVexelSentry::Start(UTF8_TO_TCHAR((Root / "spool").c_str()));
+	LogLines(TEXT("step"), 60);
+	UE_LOG(LogTemp, Log, TEXT("somebody else's line"));
+	FVexelSentry::PerfLog(TEXT("import"), 1.5);
+	FVexelSentry::CaptureError(MakeError(TEXT("at last")), VEXEL_HERE);
+	ASSERT_TRUE(Server.WaitForRequests(1));
+	const TSharedPtr<FJsonObject> Event = OpenEnvelope(Server.GetRequests().at(0).Body);
+	ASSERT_TRUE(Event.IsValid());
+	std::vector<std::string> Lines;
+	for (const TSharedPtr<FJsonValue>& Breadcrumb : Event->GetArrayField(TEXT("breadcrumbs")))
+	{
+		Lines.push_back(ToUtf8(Breadcrumb->AsObject()->GetStringField(TEXT("message"))));
+	}
+	ASSERT_EQ(Lines.size(), 50u) << "the newest fifty";
+	EXPECT_THAT(Lines[0], testing::EndsWith("step 12"));
+	EXPECT_THAT(Lines[47], testing::EndsWith("step 59"));
+	EXPECT_EQ(Lines[48], "import took 1.500 s");
+	EXPECT_THAT(Lines[49], HasSubstr("Embed Error: at last"));
+	EXPECT_EQ(ToUtf8(Event->GetArrayField(TEXT("breadcrumbs"))[49]->AsObject()->GetStringField(TEXT("level"))), "error");
 }
 
 TEST_F(FSentryTest, WithoutAnAddressNothingLeavesAndErrorsAreLogged)

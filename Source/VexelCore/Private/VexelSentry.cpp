@@ -1,6 +1,8 @@
 #include "VexelSentry.h"
 
 #include "HAL/PlatformTime.h"
+#include "Misc/OutputDevice.h"
+#include "Misc/OutputDeviceRedirector.h"
 #include "Misc/ScopeLock.h"
 #include "Sentry/SentryDsn.h"
 #include "Sentry/SentryEvent.h"
@@ -33,7 +35,6 @@ struct FReporter
 	TSharedPtr<FVexelHttp> Client;
 	FSentryLimiter Limiter;
 	FVexelSentryUser User;
-	TArray<FSentryBreadcrumb> Breadcrumbs;
 	bool bSending = false;
 	double PausedUntil = 0.0;
 	/** Counts the starts, so that an answer to an earlier one's request changes nothing. */
@@ -45,6 +46,48 @@ FReporter& GetReporter()
 {
 	static FReporter* const Reporter = new FReporter;
 	return *Reporter;
+}
+
+/** The last log lines, behind a lock of their own: a line may come from somebody who holds the reporter's. */
+struct FBreadcrumbs
+{
+	FCriticalSection Lock;
+	TArray<FSentryBreadcrumb> Lines;
+};
+
+FBreadcrumbs& GetBreadcrumbs()
+{
+	static FBreadcrumbs* const Breadcrumbs = new FBreadcrumbs;
+	return *Breadcrumbs;
+}
+
+TArray<FSentryBreadcrumb> CopyBreadcrumbs()
+{
+	FBreadcrumbs& Breadcrumbs = GetBreadcrumbs();
+	FScopeLock Guard(&Breadcrumbs.Lock);
+	return Breadcrumbs.Lines;
+}
+
+/** Remembers the plug-in's own log lines. Those of the editor and of other plug-ins are nobody's business. */
+class FBreadcrumbDevice final : public FOutputDevice
+{
+public:
+	virtual void Serialize(const TCHAR* Text, ELogVerbosity::Type Verbosity, const FName& Category) override
+	{
+		if (Category == Client.GetCategoryName() && Verbosity <= ELogVerbosity::Log)
+		{
+			FVexelSentry::Log(Verbosity, FString(Text));
+		}
+	}
+	virtual bool CanBeUsedOnAnyThread() const override { return true; }
+	virtual bool CanBeUsedOnMultipleThreads() const override { return true; }
+};
+
+/** Never destroyed, since it may be given a line until the very end. */
+FBreadcrumbDevice& GetBreadcrumbDevice()
+{
+	static FBreadcrumbDevice* const Device = new FBreadcrumbDevice;
+	return *Device;
 }
 
 void SendNext(FReporter& Reporter);
@@ -120,7 +163,7 @@ void Report(const FVexelError& Error, const FVexelErrorPlace& Place, const TCHAR
 	if (Reporter.Limiter.Allow(Fingerprint, FPlatformTime::Seconds()))
 	{
 		// On disk first, so that a report of what ends the process is not lost with it.
-		Reporter.Spool->Add(SentryEvent::MakeEnvelope(SentryEvent::Make(Error, Place, Level, Reporter.User, Reporter.Breadcrumbs)));
+		Reporter.Spool->Add(SentryEvent::MakeEnvelope(SentryEvent::Make(Error, Place, Level, Reporter.User, CopyBreadcrumbs())));
 		SendNext(Reporter);
 	}
 }
@@ -138,6 +181,7 @@ void FVexelSentry::Start(const FString& SpoolDirectory)
 		}
 		return;
 	}
+	GLog->AddOutputDevice(&GetBreadcrumbDevice());
 	FReporter& Reporter = GetReporter();
 	FScopeLock Guard(&Reporter.Lock);
 	++Reporter.Run;
@@ -152,6 +196,7 @@ void FVexelSentry::Start(const FString& SpoolDirectory)
 
 void FVexelSentry::Stop()
 {
+	GLog->RemoveOutputDevice(&GetBreadcrumbDevice());
 	FReporter& Reporter = GetReporter();
 	FScopeLock Guard(&Reporter.Lock);
 	++Reporter.Run;
@@ -159,7 +204,9 @@ void FVexelSentry::Stop()
 	Reporter.Client.Reset();
 	Reporter.Spool.Reset();
 	Reporter.User = FVexelSentryUser();
-	Reporter.Breadcrumbs.Reset();
+	FBreadcrumbs& Breadcrumbs = GetBreadcrumbs();
+	FScopeLock BreadcrumbGuard(&Breadcrumbs.Lock);
+	Breadcrumbs.Lines.Reset();
 }
 
 void FVexelSentry::CaptureError(FVexelError&& Error, const FVexelErrorPlace& Place)
@@ -185,13 +232,13 @@ void FVexelSentry::User(const FVexelSentryUser& User)
 
 void FVexelSentry::Log(ELogVerbosity::Type Verbosity, const FString& Line)
 {
-	FReporter& Reporter = GetReporter();
-	FScopeLock Guard(&Reporter.Lock);
-	if (Reporter.Breadcrumbs.Num() == MaxBreadcrumbs)
+	FBreadcrumbs& Breadcrumbs = GetBreadcrumbs();
+	FScopeLock Guard(&Breadcrumbs.Lock);
+	if (Breadcrumbs.Lines.Num() == MaxBreadcrumbs)
 	{
-		Reporter.Breadcrumbs.RemoveAt(0);
+		Breadcrumbs.Lines.RemoveAt(0);
 	}
-	Reporter.Breadcrumbs.Add(FSentryBreadcrumb{SentryEvent::GetTime(), Verbosity, Line});
+	Breadcrumbs.Lines.Add(FSentryBreadcrumb{SentryEvent::GetTime(), Verbosity, Line});
 }
 
 void FVexelSentry::PerfLog(const FString& Name, double Seconds)

@@ -34,7 +34,7 @@ public:
 	/** Sets whom later reports are about, or clears it. */
 	static void User(const FVexelSentryUser& User);
 
-	/** Remembers a log line for later reports. */
+	/** Remembers a log line for later reports. While errors are reported, the plug-in's own lines come by themselves. */
 	static void Log(ELogVerbosity::Type Verbosity, const FString& Line);
 
 	/** Logs how long something took, and remembers it as Log() does. */
