@@ -282,6 +282,34 @@ TEST_F(ForeignService, AnExpiredTokenIsRenewedInTheMiddleOfASession)
 	EXPECT_EQ(Result.Output, "Here I am.\n");
 }
 
+TEST_F(ForeignService, AnErrorReportArrivesWithItsChainAndWithoutSecrets)
+{
+	SetAnswer("/api/1/envelope/", FScriptedAnswer::Json("{}"));
+	FProgramSurroundings Surroundings = MakeSurroundings("a-very-secret-token\n");
+	Surroundings.Environment.push_back("VEXEL_SENTRY_DSN=http://public@127.0.0.1:" + std::to_string(Server.GetPort()) + "/1");
+	SetTokens(FScriptedAnswer::Json(R"({"error":"invalid_grant","hint":"a-very-secret-token"})", 400));
+	const std::vector<std::string> Words = {
+		"chat", "--project", Project.GetPath(), "--service", GetUrl(), "--message", "Hello?", "--token-fd", "3"};
+	EXPECT_EQ(RunVexel(Words, Surroundings).Status, 1);
+
+	// A report that the end of the program cut off waits on disk for the next one.
+	SetTokens(MakeTokens("second"));
+	std::string Envelopes;
+	for (int32 Run = 0; Run < 5 && Envelopes.find("auto-login") == std::string::npos; ++Run)
+	{
+		RunVexel(Words, Surroundings);
+		Envelopes.clear();
+		for (const FScriptedRequest& Request : Server.GetRequests())
+		{
+			Envelopes += Request.GetPath() == "/api/1/envelope/" ? Request.Body : "";
+		}
+	}
+	EXPECT_THAT(Envelopes, HasSubstr("while performing auto-login"));
+	EXPECT_THAT(Envelopes, HasSubstr("FVexelError_HttpStatusClientError"));
+	EXPECT_THAT(Envelopes, HasSubstr(R"(\"request\":\"login\")"));
+	EXPECT_THAT(Envelopes, Not(HasSubstr("a-very-secret-token")));
+}
+
 TEST_F(ForeignService, AFullDiskKeepsTheOldConversationWhole)
 {
 	const std::string Answer(3000, 'a');

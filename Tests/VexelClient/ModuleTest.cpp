@@ -6,6 +6,7 @@
 #include "Embed/VexelEmbed.h"
 #include "Engine/Blueprint.h"
 #include "Framework/Notifications/NotificationManager.h"
+#include "HAL/PlatformTime.h"
 #include "Misc/CoreMisc.h"
 #include "Misc/OutputDeviceNull.h"
 #include "Misc/Paths.h"
@@ -227,7 +228,40 @@ TEST_F(Module, AFeatureThatCouldBeginAnotherHeaderIsLeftOut)
 	SetFeatures({"good", "bad\\r\\nX-Evil: 1", "two,three", ""});
 	LogIn();
 	EXPECT_EQ(GetSentFeatures(), "good");
-	EXPECT_TRUE(Log.Contains("3 of the user's features have no proper name and are ignored"));
+	EXPECT_TRUE(Log.Contains("3 of the user's features have no proper name or no room in a header and are ignored"));
+}
+
+TEST_F(Module, MoreFeaturesThanAHeaderHoldsLeaveRequestsPossible)
+{
+	SetFeatures(std::vector<std::string>(5000, "a_feature_of_a_hostile_service"));
+	LogIn();
+	const std::optional<std::string> Sent = GetSentFeatures();
+	ASSERT_TRUE(Sent);
+	EXPECT_LE(Sent->size(), 4096u);
+	EXPECT_GT(Sent->size(), 4000u);
+}
+
+TEST_F(Module, EndsAtOnceWithRequestsInFlightAndReportsNoneOfThem)
+{
+	for (const char* const Path : {"/api/user", "/api/v2/status.json"})
+	{
+		Server.AnswerWith(Path, [](const FScriptedRequest&)
+			{ return FScriptedAnswer().Chunk("{").Stall(); });
+	}
+	ASSERT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("rt"), TEXT("first")).HasValue());
+	FVexelClient::Get().StartupModule();
+	ASSERT_TRUE(PumpUntil([this]
+		{ return Server.GetRequests().size() >= 4; }))
+		<< Log.ToText();
+	const double Begin = FPlatformTime::Seconds();
+	FVexelClient::Get().ShutdownModule();
+	EXPECT_LT(FPlatformTime::Seconds() - Begin, 5.0);
+	Pump();
+	for (const FLogCapture::FLine& Line : Log.GetLines())
+	{
+		EXPECT_GT(Line.Verbosity, ELogVerbosity::Warning) << Line.Text;
+	}
+	FVexelClient::Get().StartupModule();
 }
 
 TEST_F(Module, TheBlueprintAgentsFeatureMakesTheScratchBlueprintOnceAndKeepsIt)

@@ -25,6 +25,8 @@ FConfigValueBase InsightsApiUrlSetting(TEXT("InsightsApiUrl"), TEXT("https://ins
 
 const FName ModuleName = TEXT("VexelClient");
 const FString FeatureHeaderName = TEXT("vexel-beta");
+/** What every service takes as one header. */
+constexpr int32 MaxFeatureHeaderLength = 4096;
 const FString BlueprintAgentFeature = TEXT("blueprint_agent");
 
 /** Whether a name can stand in a list in a header: it comes from the service, and a line end in it would begin another header. */
@@ -42,12 +44,22 @@ bool IsFeatureName(const FString& Feature)
 
 FString JoinFeatures(const TArray<FString>& Features)
 {
-	const TArray<FString> Named = Features.FilterByPredicate(IsFeatureName);
-	if (Named.Num() != Features.Num())
+	FString Joined;
+	int32 NumIgnored = 0;
+	for (const FString& Feature : Features)
 	{
-		VEXEL_LOG(Warning, "%d of the user's features have no proper name and are ignored", Features.Num() - Named.Num());
+		if (!IsFeatureName(Feature) || Joined.Len() + Feature.Len() >= MaxFeatureHeaderLength)
+		{
+			++NumIgnored;
+			continue;
+		}
+		Joined += (Joined.IsEmpty() ? TEXT("") : TEXT(",")) + Feature;
 	}
-	return FString::Join(Named, TEXT(","));
+	if (NumIgnored > 0)
+	{
+		VEXEL_LOG(Warning, "%d of the user's features have no proper name or no room in a header and are ignored", NumIgnored);
+	}
+	return Joined;
 }
 
 /** Reports an error that nobody handles, unless it only says that the end of the module cut its request off. */

@@ -25,7 +25,7 @@ TVexelExpected<FVexelStatusInfo> ReadStatus(const TSharedRef<FVexelHttpResponse>
 	FVexelStatusInfo Info;
 	if (!Body || !Body->TryGetObjectField(TEXT("status"), Status) || !Info.FromJson(Status->ToSharedRef()))
 	{
-		return VEXEL_ERROR(FVexelError_StatusCheckInvalidResponse, "Invalid response received from status check");
+		return VEXEL_ERROR(FVexelError_StatusCheckInvalidResponse, "");
 	}
 	return Info;
 }
@@ -37,7 +37,7 @@ void ReportFailure(const FVexelError& Cause)
 	{
 		return;
 	}
-	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_StatusCheck, Cause, "Failed to check system status");
+	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_StatusCheck, Cause, "");
 	Error.AppendContext(TEXT("while checking system status"));
 	FVexelSentry::CaptureErrorSoft(MoveTemp(Error), VEXEL_HERE);
 }
