@@ -1,3 +1,4 @@
+#include "Containers/Set.h"
 #include "Containers/UnrealString.h"
 #include "Hash/CityHash.h"
 #include "Misc/Base64.h"
@@ -8,6 +9,8 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <thread>
+#include <vector>
 
 TEST(CityHash, GivesThePublishedValues)
 {
@@ -108,6 +111,34 @@ TEST(Guid, RefusesWhatIsNoGuid)
 		EXPECT_FALSE(FGuid::Parse(Text, Guid));
 	}
 	EXPECT_EQ(Guid, FGuid(1, 2, 3, 4));
+}
+
+TEST(Guid, NewOnesDifferAcrossThreadsAndAreOfTheRandomVersion)
+{
+	constexpr int32 NumPerThread = 1000;
+	std::vector<std::vector<FGuid>> OfThreads(4);
+	std::vector<std::thread> Threads;
+	for (std::vector<FGuid>& Guids : OfThreads)
+	{
+		Threads.emplace_back([&Guids]
+			{
+				for (int32 Index = 0; Index < NumPerThread; ++Index)
+				{
+					Guids.push_back(FGuid::NewGuid());
+				} });
+	}
+	TSet<FGuid> All;
+	for (size_t Index = 0; Index < Threads.size(); ++Index)
+	{
+		Threads[Index].join();
+		for (const FGuid& Guid : OfThreads[Index])
+		{
+			EXPECT_EQ((Guid.B >> 12) & 0xfu, 4u);
+			EXPECT_EQ(Guid.C >> 30, 2u);
+			All.Add(Guid);
+		}
+	}
+	EXPECT_EQ(All.Num(), static_cast<int32>(OfThreads.size()) * NumPerThread);
 }
 
 TEST(Guid, NewOnesDifferAndAreValid)
