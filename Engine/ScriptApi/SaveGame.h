@@ -97,7 +97,7 @@ public:
 };
 
 /** A node that goes on later and can be given up. */
-UCLASS(Abstract)
+UCLASS(Abstract, BlueprintType, meta = (ExposedAsyncProxy = "AsyncAction"))
 class ENGINE_API UCancellableAsyncAction : public UBlueprintAsyncActionBase
 {
 	GENERATED_BODY()

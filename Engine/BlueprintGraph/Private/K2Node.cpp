@@ -3,12 +3,23 @@
 #include "BlueprintNodeActions.h"
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
+#include "Engine/UserDefinedStruct.h"
 #include "UObject/Class.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/UnrealType.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
+
+namespace
+{
+/** Members of user-defined structures keep their ids when they are renamed. */
+bool IsSameMember(const FName A, const FName B)
+{
+	const FGuid Guid = UUserDefinedStruct::GetMemberGuid(A);
+	return Guid.IsValid() && Guid == UUserDefinedStruct::GetMemberGuid(B);
+}
+}
 
 UK2Node::UK2Node(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
@@ -392,6 +403,13 @@ void UK2Node::ReconstructSinglePin(UEdGraphPin* NewPin, UEdGraphPin* OldPin, ERe
 	const FText NewText = NewPin->DefaultTextValue;
 	UObject* const NewObject = NewPin->DefaultObject;
 	const bool bWasHidden = NewPin->bHidden;
+	// Split as the structure is now; what corresponds to nothing any more is left to the caller.
+	const bool bSameStructure = NewPin->PinType.PinSubCategoryObject == OldPin->PinType.PinSubCategoryObject;
+	if (OldPin->SubPins.Num() > 0 && bSameStructure)
+	{
+		GetK2Schema()->SplitPin(NewPin, false);
+		ReconstructSubPins(*NewPin, *OldPin);
+	}
 	NewPin->MovePersistentDataFromOldPin(*OldPin);
 	// What nobody changed follows the definition, and so does a value that the new type cannot hold.
 	const bool bFollowsDefinition = !bHadOwnDefault || (bTypeChanged && !GetK2Schema()->IsCurrentPinDefaultValid(NewPin).IsEmpty());
@@ -401,7 +419,7 @@ void UK2Node::ReconstructSinglePin(UEdGraphPin* NewPin, UEdGraphPin* OldPin, ERe
 		NewPin->DefaultTextValue = NewText;
 		NewPin->DefaultObject = NewObject;
 	}
-	if (NewPin->SubPins.Num() > 0 && NewPin->PinType.PinSubCategoryObject != OldPin->PinType.PinSubCategoryObject)
+	if (NewPin->SubPins.Num() > 0 && !bSameStructure)
 	{
 		for (UEdGraphPin* const SubPin : NewPin->SubPins)
 		{
@@ -409,6 +427,34 @@ void UK2Node::ReconstructSinglePin(UEdGraphPin* NewPin, UEdGraphPin* OldPin, ERe
 		}
 		NewPin->SubPins.Empty();
 		NewPin->bHidden = bWasHidden;
+	}
+}
+
+void UK2Node::ReconstructSubPins(UEdGraphPin& NewPin, UEdGraphPin& OldPin)
+{
+	// A structure that is not loaded has no members to split into: the sub-pins stay as they are.
+	if (NewPin.SubPins.Num() == 0)
+	{
+		return;
+	}
+	const auto GetMember = [](const UEdGraphPin& Parent, const UEdGraphPin& SubPin)
+	{ return FName(*SubPin.PinName.ToString().RightChop(Parent.PinName.ToString().Len() + 1)); };
+	for (UEdGraphPin* const OldSubPin : TArray<UEdGraphPin*>(OldPin.SubPins))
+	{
+		const FName Member = GetMember(OldPin, *OldSubPin);
+		UEdGraphPin* const* const Match = NewPin.SubPins.FindByPredicate([&](const UEdGraphPin* SubPin)
+			{
+				const FName Name = GetMember(NewPin, *SubPin);
+				return Name == Member || IsSameMember(Name, Member); });
+		if (Match)
+		{
+			ReconstructSinglePin(*Match, OldSubPin, ERedirectType_Name);
+		}
+		else
+		{
+			OldSubPin->ParentPin = nullptr;
+			OldPin.SubPins.Remove(OldSubPin);
+		}
 	}
 }
 
@@ -432,7 +478,12 @@ void UK2Node::KeepSubPins(TArray<UEdGraphPin*>& InOldPins, UEdGraphPin& NewPin)
 	for (UEdGraphPin* const SubPin : NewPin.SubPins)
 	{
 		InOldPins.Remove(SubPin);
-		Pins.Insert(SubPin, ++Index);
+		// A pin that was split anew has its sub-pins in place.
+		if (!Pins.Contains(SubPin))
+		{
+			Pins.Insert(SubPin, Index + 1);
+		}
+		++Index;
 		KeepSubPins(InOldPins, *SubPin);
 		Index += SubPin->SubPins.Num();
 	}
@@ -443,6 +494,8 @@ void UK2Node::RewireOldPinsToNewPins(TArray<UEdGraphPin*>& InOldPins, TArray<UEd
 	const TArray<UEdGraphPin*> NewPins = InNewPins;
 	TSet<UEdGraphPin*> Taken;
 	TArray<UEdGraphPin*> Unmatched;
+	const TArray<UEdGraphPin*> WereSubPins = InOldPins.FilterByPredicate([](const UEdGraphPin* Pin)
+		{ return Pin->ParentPin != nullptr; });
 	for (int32 OldIndex = 0; OldIndex < InOldPins.Num(); ++OldIndex)
 	{
 		UEdGraphPin* const OldPin = InOldPins[OldIndex];
@@ -475,6 +528,14 @@ void UK2Node::RewireOldPinsToNewPins(TArray<UEdGraphPin*>& InOldPins, TArray<UEd
 		if (!NewPin->ParentPin)
 		{
 			KeepSubPins(InOldPins, *NewPin);
+		}
+	}
+	// Sub-pins of members that are gone stand by themselves now.
+	for (UEdGraphPin* const OldPin : InOldPins)
+	{
+		if (WereSubPins.Contains(OldPin) && !OldPin->ParentPin)
+		{
+			Unmatched.Add(OldPin);
 		}
 	}
 	for (UEdGraphPin* const OldPin : Unmatched)
@@ -565,7 +626,7 @@ void FOptionalPinManager::RebuildPropertyList(TArray<FOptionalPinFromProperty>& 
 		Record.bIsMarkedForAdvancedDisplay = Property->HasAnyPropertyFlags(CPF_AdvancedDisplay);
 		GetRecordDefaults(*Property, Record);
 		if (const FOptionalPinFromProperty* const Known = Old.FindByPredicate([&Record](const FOptionalPinFromProperty& Item)
-				{ return Item.PropertyName == Record.PropertyName; }))
+				{ return Item.PropertyName == Record.PropertyName || IsSameMember(Item.PropertyName, Record.PropertyName); }))
 		{
 			Record.bShowPin = Known->bShowPin;
 			Record.bIsOverrideEnabled = Known->bIsOverrideEnabled;
@@ -589,6 +650,7 @@ void FOptionalPinManager::CreateVisiblePins(
 			continue;
 		}
 		UEdGraphPin* const Pin = TargetNode->CreatePin(Direction, Type, Record.PropertyName);
+		Pin->PersistentGuid = UUserDefinedStruct::GetMemberGuid(Record.PropertyName);
 		Pin->PinFriendlyName = FText::FromString(Record.PropertyFriendlyName.IsEmpty() ? Record.PropertyName.ToString() : Record.PropertyFriendlyName);
 		Pin->bAdvancedView = Record.bIsMarkedForAdvancedDisplay;
 		UK2Node::GeneratePinTooltip(*Pin, Property->GetToolTipText());

@@ -24,7 +24,7 @@ bool UK2Node_BaseAsyncTask::HasKnownDefinition() const
 void UK2Node_BaseAsyncTask::AllocateDefaultPins()
 {
 	CreateExecPin();
-	if (!ProxyClass || !ProxyClass->HasMetaData(TEXT("HideThen")))
+	if (!ProxyClass || !ProxyClass->HasMetaDataHierarchical(TEXT("HideThen")))
 	{
 		CreateThenPin();
 	}
@@ -33,10 +33,11 @@ void UK2Node_BaseAsyncTask::AllocateDefaultPins()
 	{
 		return;
 	}
-	if (ProxyClass->HasMetaData(ExposedProxy))
+	FString ProxyName;
+	if (ProxyClass->GetStringMetaDataHierarchical(ExposedProxy, &ProxyName))
 	{
 		UEdGraphPin* const Proxy = CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, ProxyClass.Get(), TEXT("AsyncTaskProxy"));
-		Proxy->PinFriendlyName = ProxyClass->GetMetaDataText(ExposedProxy);
+		Proxy->PinFriendlyName = FText::FromString(FName::NameToDisplayString(ProxyName, false));
 	}
 	const UFunction* Signature = nullptr;
 	for (TFieldIterator<FMulticastDelegateProperty> Property(ProxyClass); Property; ++Property)

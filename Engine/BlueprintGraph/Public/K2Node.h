@@ -212,5 +212,7 @@ protected:
 
 private:
 	bool ShouldKeepAsOrphan(const UEdGraphPin& OldPin) const;
+	/** Gives the sub-pins of a pin that is split again what the old ones had; those that correspond to none leave their parent. */
+	void ReconstructSubPins(UEdGraphPin& NewPin, UEdGraphPin& OldPin);
 	void KeepSubPins(TArray<UEdGraphPin*>& InOldPins, UEdGraphPin& NewPin);
 };
