@@ -69,8 +69,9 @@ void UK2Node_CommutativeAssociativeBinaryOperator::RemoveInputPin(UEdGraphPin* P
 	--NumAdditionalInputs;
 	// The letters stay without gaps.
 	const TArray<UEdGraphPin*> Operands = Pins.FilterByPredicate([](const UEdGraphPin* Item)
-		{ return Item->Direction == EGPD_Input && Item->PinName != UEdGraphSchema_K2::PN_Self && !Item->ParentPin && !UEdGraphSchema_K2::IsExecPin(*Item); });
+		{ return Item->Direction == EGPD_Input && Item->PinName != UEdGraphSchema_K2::PN_Self && !Item->ParentPin && !Item->bOrphanedPin && !UEdGraphSchema_K2::IsExecPin(*Item); });
 	RenamePins(Operands, GetNameForAdditionalPin);
+	ReconstructNode();
 }
 
 #undef LOCTEXT_NAMESPACE

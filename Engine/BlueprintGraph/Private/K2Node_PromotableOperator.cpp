@@ -137,6 +137,16 @@ void UK2Node_PromotableOperator::ResetToWildcards()
 	}
 }
 
+namespace
+{
+UEdGraphPin* FindLinkedPin(const TArray<UEdGraphPin*>& Pins)
+{
+	UEdGraphPin* const* const Found = Pins.FindByPredicate([](const UEdGraphPin* Pin)
+		{ return Pin->LinkedTo.Num() > 0; });
+	return Found ? *Found : nullptr;
+}
+}
+
 void UK2Node_PromotableOperator::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 {
 	Super::NotifyPinConnectionListChanged(Pin);
@@ -146,7 +156,7 @@ void UK2Node_PromotableOperator::NotifyPinConnectionListChanged(UEdGraphPin* Pin
 	{
 		ResetToWildcards();
 	}
-	else if (Pin->LinkedTo.Num() > 0 && Pin->LinkedTo[0]->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard && Pin->PinName != FOperatorFunctions::GetToleranceName())
+	else if (Pin && Pin->LinkedTo.Num() > 0 && Pin->LinkedTo[0]->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard && Pin->PinName != FOperatorFunctions::GetToleranceName())
 	{
 		UpdateFromLinks();
 	}
@@ -222,10 +232,8 @@ void UK2Node_PromotableOperator::ConformToFunction(const UFunction& Function)
 
 bool UK2Node_PromotableOperator::CanAddPin() const
 {
-	// A comparison is of two values.
-	const UFunction* const Function = GetTargetFunction();
-	const bool bTakesMore = Function && Function->HasMetaData(FBlueprintMetadata::MD_CommutativeAssociativeBinaryOperator);
-	return bTakesMore && !IsComparison(GetOperationName()) && NumAdditionalInputs + FunctionOperands < GetMaxInputPinsNum();
+	// A comparison is of two values; every other operation goes on from its result.
+	return GetTargetFunction() && !IsComparison(GetOperationName()) && NumAdditionalInputs + FunctionOperands < GetMaxInputPinsNum();
 }
 
 void UK2Node_PromotableOperator::AddInputPin()
@@ -258,7 +266,11 @@ void UK2Node_PromotableOperator::RemoveInputPin(UEdGraphPin* Pin)
 	Modify();
 	RemovePin(Pin);
 	--NumAdditionalInputs;
-	RenamePins(GetOperands(), GetNameForAdditionalPin);
+	const TArray<UEdGraphPin*> Operands = GetOperands();
+	RenamePins(Operands, GetNameForAdditionalPin);
+	// What is gone may have been what decided the type.
+	NotifyPinConnectionListChanged(FindLinkedPin(Operands));
+	ReconstructNode();
 }
 
 FText UK2Node_PromotableOperator::GetNodeTitle(ENodeTitleType::Type TitleType) const
