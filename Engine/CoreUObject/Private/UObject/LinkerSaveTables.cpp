@@ -24,7 +24,9 @@ FSavedEngineVersion GetWritingEngineVersion()
 /** A name's hash of its text without regard to case, then with it. */
 void WriteNameHashes(FArchive& Ar, const FString& Name)
 {
-	uint16 NonCaseHash = static_cast<uint16>(FCrc::Strihash_DEPRECATED(*Name));
+	// Text that fits into single bytes is hashed as such, other text by both bytes of each character.
+	const bool bIsNarrow = FCString::IsPureAnsi(*Name);
+	uint16 NonCaseHash = static_cast<uint16>(bIsNarrow ? FCrc::Strihash_DEPRECATED(TCHAR_TO_ANSI(*Name)) : FCrc::Strihash_DEPRECATED(*Name));
 	uint16 CaseHash = static_cast<uint16>(FCrc::StrCrc32(*Name));
 	Ar << NonCaseHash << CaseHash;
 }
