@@ -5,8 +5,10 @@
 #include "Misc/FileHelper.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
+#include "UObject/GarbageCollection.h"
 #include "UObject/LinkerLoad.h"
 #include "UObject/SavePackage.h"
+#include "UObject/UObjectHash.h"
 #include "UObject/UnknownProperties.h"
 
 #include <gtest/gtest.h>
@@ -220,6 +222,23 @@ TEST_F(FPackageFolder, ValuesOfASampleAreReadWithTheirTypes)
 	EXPECT_EQ(OfGraph[2].Tag.GetType().ToString(), TEXT("StructProperty(Guid(/Script/CoreUObject))"));
 	EXPECT_EQ(OfGraph[2].Value.Num(), 16);
 	EXPECT_EQ(Package->GetMetaData().RootMetaDataMap[FName(TEXT("PackageLocalizationNamespace"))], TEXT("35C7D9CF4AA6BB380FC0CEB2A5BAE3FD"));
+}
+
+TEST_F(FPackageFolder, KeptValuesGoWithTheirObjects)
+{
+	SKIP_WITHOUT_SAMPLES();
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+	const int32 Before = FUnknownProperties::NumObjects();
+	ASSERT_TRUE(FFileHelper::SaveArrayToFile(ReadSample(SoftRefSample), *(Folder / TEXT("Kept.uasset"))));
+	UPackage* const Package = LoadPackage(nullptr, TEXT("/PackageTests/Kept"), LOAD_None);
+	ASSERT_TRUE(Package);
+	EXPECT_GT(FUnknownProperties::NumObjects(), Before);
+	ForEachObjectWithPackage(Package, [](UObject* Object)
+		{
+			Object->ClearFlags(static_cast<EObjectFlags>(RF_Public | RF_Standalone));
+			return true; });
+	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
+	EXPECT_EQ(FUnknownProperties::NumObjects(), Before);
 }
 
 TEST(PackageName, NamesAndFilesAreEachOthersInverse)

@@ -18,7 +18,7 @@ struct FDepthScope
 };
 
 /** Flags that a file may set; the others are about this run. */
-constexpr uint32 PersistentFlags = ETextFlag::CultureInvariant | ETextFlag::ConvertedProperty | ETextFlag::InitializedFromString;
+constexpr uint32 PersistentFlags = ETextFlag::CultureInvariant | ETextFlag::ConvertedProperty | ETextFlag::Immutable | ETextFlag::InitializedFromString;
 
 void SerializeUnidentified(FArchive& Ar, FTextData& Data)
 {

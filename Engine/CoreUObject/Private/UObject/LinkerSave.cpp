@@ -1,5 +1,6 @@
 #include "UObject/LinkerSave.h"
 
+#include "TaggedProperties.h"
 #include "UObject/Casts.h"
 #include "UObject/Class.h"
 #include "UObject/LazyObjectPtr.h"
@@ -8,6 +9,7 @@
 #include "UObject/ObjectRedirector.h"
 #include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
+#include "UObject/PropertyTag.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/SoftObjectPtr.h"
 
@@ -360,12 +362,51 @@ void FLinkerSave::WriteExport(int32 ExportIndex)
 	Serialize(const_cast<uint8*>(Kept.GetData()), Kept.Num());
 }
 
+TArrayView<const FLinkerSave::FTagOfOrigin> FLinkerSave::GetTagsOfOrigin(const void* Object) const
+{
+	const bool bIsInWork = ExportInWork != INDEX_NONE && ExportMap[ExportInWork].Object.Get() == Object;
+	return bIsInWork ? TArrayView<const FTagOfOrigin>(TagsOfOrigin) : TArrayView<const FTagOfOrigin>();
+}
+
+TArray<FLinkerSave::FTagOfOrigin> FLinkerSave::ReadTagsOfOrigin(int32 ExportIndex) const
+{
+	const bool bHasTags = Origin && ExportIndex < Origin->ExportMap.Num() && !Origin->ExportMap[ExportIndex].ClassIndex.IsNull();
+	if (!bHasTags)
+	{
+		return {};
+	}
+	const FObjectExport& Export = Origin->ExportMap[ExportIndex];
+	const int64 OldPosition = Origin->Tell();
+	const int64 OldLimit = Origin->LimitReads(Export.SerialOffset + Export.SerialSize);
+	Origin->Seek(Export.SerialOffset);
+	FArchive& Ar = *Origin;
+	UE::CoreUObject::Private::SerializeClassControl(Ar);
+	TArray<FTagOfOrigin> Tags;
+	while (!Ar.IsError())
+	{
+		FPropertyTag Tag;
+		Ar << Tag;
+		if (Tag.Name.IsNone())
+		{
+			break;
+		}
+		Tags.Add({Tag.Name, Tag.ArrayIndex, Tag.HasPropertyGuid ? Tag.PropertyGuid : FGuid()});
+		Ar.Seek(Ar.Tell() + Tag.Size);
+	}
+	const bool bIsDamaged = Ar.IsError();
+	Ar.ClearError();
+	Origin->LimitReads(OldLimit);
+	Origin->Seek(OldPosition);
+	return bIsDamaged ? TArray<FTagOfOrigin>() : Tags;
+}
+
 void FLinkerSave::WriteValues(int32 ExportIndex, UObject* Object)
 {
 	const int64 Start = Position;
 	FObjectExport Described = DescribeExport(ExportIndex, Object);
 	Described.SerialOffset = Start;
 	ExportMap[ExportIndex] = Described;
+	TagsOfOrigin = ReadTagsOfOrigin(ExportIndex);
 	ExportInWork = ExportIndex;
 	Object->Serialize(*this);
 	ExportInWork = INDEX_NONE;

@@ -23,6 +23,20 @@ TSet<FWeakObjectPtr>& GetUnknownKinds()
 	return Unknown;
 }
 
+void ForgetDeletedStandIns()
+{
+	for (TSet<FWeakObjectPtr>* const Objects : {&GetStandIns(), &GetUnknownKinds()})
+	{
+		for (auto It = Objects->CreateIterator(); It; ++It)
+		{
+			if (!It->IsValid(true))
+			{
+				It.RemoveCurrent();
+			}
+		}
+	}
+}
+
 TArray<FString> SplitPath(const FString& Path)
 {
 	TArray<FString> Parts;
@@ -75,6 +89,7 @@ bool IsWellFormed(const TArray<FString>& Parts)
 
 void Remember(UObject* Object)
 {
+	[[maybe_unused]] static const FDelegateHandle ForgetsDeletedObjects = FCoreUObjectDelegates::GetPostGarbageCollect().AddStatic(&ForgetDeletedStandIns);
 	GetStandIns().Add(FWeakObjectPtr(Object));
 }
 

@@ -1,5 +1,8 @@
+#include "TaggedProperties.h"
+
 #include "ContainerPropertyCommon.h"
 #include "UObject/Class.h"
+#include "UObject/LinkerSave.h"
 #include "UObject/PropertyHelper.h"
 #include "UObject/PropertyTag.h"
 #include "UObject/UnknownProperties.h"
@@ -10,25 +13,6 @@ namespace
 bool SavesDifferences(const FArchive& Ar)
 {
 	return Ar.DoDelta() && Ar.DoIntraPropertyDelta() && !Ar.IsTransacting();
-}
-
-bool HasClassControlByte(const FArchive& Ar, const UStruct* Struct)
-{
-	return Struct->IsA(UClass::StaticClass()) &&
-		Ar.UEVer() >= EUnrealEngineObjectUE5Version::PROPERTY_TAG_EXTENSION_AND_OVERRIDABLE_SERIALIZATION;
-}
-
-/** Flags before an object's properties: whether it overrides its archetype's values by operations. */
-void SerializeClassControl(FArchive& Ar)
-{
-	constexpr uint8 OverridableInformation = 0x02;
-	uint8 Control = 0;
-	Ar << Control;
-	if (Control & OverridableInformation)
-	{
-		uint8 OverrideOperation = 0;
-		Ar << OverrideOperation;
-	}
 }
 
 FProperty* FindPropertyForTag(const UStruct* Struct, FName Name, FProperty* Hint)
@@ -180,50 +164,163 @@ void WriteSizeOfValue(FArchive& Ar, FPropertyTag& Tag, int64 Start)
 	Ar.Seek(End);
 }
 
-void WriteUnknownProperties(FArchive& Ar)
+void WriteUnknownProperty(FArchive& Ar, const FUnknownProperty& Property)
 {
-	const TArray<FUnknownProperty>* const Unknown = FUnknownProperties::FindForWriting(Ar);
-	if (!Unknown)
-	{
-		return;
-	}
-	for (const FUnknownProperty& Property : *Unknown)
-	{
-		FPropertyTag Tag = Property.Tag;
-		Ar << Tag;
-		Ar.Serialize(const_cast<uint8*>(Property.Value.GetData()), Property.Value.Num());
-	}
+	FPropertyTag Tag = Property.Tag;
+	Ar << Tag;
+	Ar.Serialize(const_cast<uint8*>(Property.Value.GetData()), Property.Value.Num());
 }
 
-void WriteTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
+/** Writes the values of one object or struct. */
+class FTaggedPropertyWriter
 {
-	const bool bDoDelta = Ar.DoDelta() && !Ar.IsTransacting();
-	for (FProperty* Property = Struct->PropertyLink; Property; Property = Property->PropertyLinkNext)
+public:
+	FTaggedPropertyWriter(FArchive& InAr, const UStruct* InStruct, uint8* InData, const UStruct* InDefaultsStruct, uint8* InDefaults)
+		: Ar(InAr)
+		, Struct(InStruct)
+		, Data(InData)
+		, DefaultsStruct(InDefaultsStruct)
+		, Defaults(InDefaults)
+		, Unknown(FUnknownProperties::FindForWriting(InAr))
+		, bDoDelta(InAr.DoDelta() && !InAr.IsTransacting())
 	{
-		if (!Property->ShouldSerializeValue(Ar))
+	}
+
+	void Write()
+	{
+		WriteAsInOrigin();
+		for (FProperty* Property = Struct->PropertyLink; Property; Property = Property->PropertyLinkNext)
 		{
-			continue;
-		}
-		for (int32 Index = 0; Index < Property->ArrayDim; ++Index)
-		{
-			uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
-			const uint8* const Default = Property->ContainerPtrToValuePtrForDefaults<uint8>(DefaultsStruct, Defaults, Index);
-			if (bDoDelta && Default && Property->Identical(Value, Default, Ar.GetPortFlags() | PPF_DeltaComparison))
+			if (!Property->ShouldSerializeValue(Ar))
 			{
 				continue;
 			}
-			FPropertyTag Tag(Property, Index, Value);
-			Ar << Tag;
-			const int64 Start = Ar.Tell();
-			const FSerializedPathScope Scope(Property->GetFName(), Index);
-			Tag.SerializeTaggedProperty(Ar, Property, Value, SavesDifferences(Ar) ? Default : nullptr);
-			WriteSizeOfValue(Ar, Tag, Start);
+			for (int32 Index = 0; Index < Property->ArrayDim; ++Index)
+			{
+				if (!IsWritten(Property->GetFName(), Index) && Differs(Property, Index))
+				{
+					WriteProperty(Property, Index);
+				}
+			}
+		}
+		WriteOtherUnknown();
+		FName End;
+		Ar << End;
+	}
+
+private:
+	/** A property's name and the element of a static array. */
+	using FElement = TPair<FName, int32>;
+
+	/**
+	 * What the object's bytes in its file have, in their order. A value that is the default here is written even so: this host's
+	 * default need not be that of the engine that saved it.
+	 */
+	void WriteAsInOrigin()
+	{
+		const bool bMayHaveOrigin = Ar.IsPersistent() && Ar.GetLinker() && Struct->IsA(UClass::StaticClass());
+		if (!bMayHaveOrigin)
+		{
+			return;
+		}
+		FProperty* Hint = Struct->PropertyLink;
+		for (const FLinkerSave::FTagOfOrigin& Tag : static_cast<FLinkerSave*>(Ar.GetLinker())->GetTagsOfOrigin(Data))
+		{
+			if (IsWritten(Tag.Name, Tag.ArrayIndex))
+			{
+				continue;
+			}
+			FProperty* const Property = FindPropertyForTag(Struct, Tag.Name, Hint);
+			Hint = Property ? Property : Hint;
+			if (const FUnknownProperty* const Kept = FindUnknown(Tag.Name, Tag.ArrayIndex))
+			{
+				Written.Add(FElement(Tag.Name, Tag.ArrayIndex));
+				WriteUnknownProperty(Ar, *Kept);
+			}
+			else if (Property && Tag.ArrayIndex < Property->ArrayDim && Property->ShouldSerializeValue(Ar))
+			{
+				Written.Add(FElement(Tag.Name, Tag.ArrayIndex));
+				WriteProperty(Property, Tag.ArrayIndex, Tag.PropertyGuid);
+			}
 		}
 	}
-	WriteUnknownProperties(Ar);
-	FName End;
-	Ar << End;
+
+	void WriteOtherUnknown()
+	{
+		for (int32 Index = 0; Unknown && Index < Unknown->Num(); ++Index)
+		{
+			const FUnknownProperty& Property = (*Unknown)[Index];
+			if (!IsWritten(Property.Tag.Name, Property.Tag.ArrayIndex))
+			{
+				WriteUnknownProperty(Ar, Property);
+			}
+		}
+	}
+
+	bool IsWritten(FName Name, int32 Index) const { return !Written.IsEmpty() && Written.Contains(FElement(Name, Index)); }
+
+	const FUnknownProperty* FindUnknown(FName Name, int32 Index) const
+	{
+		return !Unknown ? nullptr : Unknown->FindByPredicate([Name, Index](const FUnknownProperty& Each)
+										{ return Each.Tag.Name == Name && Each.Tag.ArrayIndex == Index; });
+	}
+
+	const uint8* GetDefault(const FProperty* Property, int32 Index) const
+	{
+		return Property->ContainerPtrToValuePtrForDefaults<uint8>(DefaultsStruct, Defaults, Index);
+	}
+
+	bool Differs(const FProperty* Property, int32 Index)
+	{
+		const uint8* const Default = GetDefault(Property, Index);
+		const uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
+		return !bDoDelta || !Default || !Property->Identical(Value, Default, Ar.GetPortFlags() | PPF_DeltaComparison) ||
+			FUnknownProperties::HasAnyWithin(Ar, Property->GetFName(), Index);
+	}
+
+	void WriteProperty(FProperty* Property, int32 Index, const FGuid& Guid = FGuid())
+	{
+		uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
+		FPropertyTag Tag(Property, Index, Value);
+		Tag.HasPropertyGuid = Guid.IsValid() ? 1 : 0;
+		Tag.PropertyGuid = Guid;
+		Ar << Tag;
+		const int64 Start = Ar.Tell();
+		const FSerializedPathScope Scope(Property->GetFName(), Index);
+		Tag.SerializeTaggedProperty(Ar, Property, Value, SavesDifferences(Ar) ? GetDefault(Property, Index) : nullptr);
+		WriteSizeOfValue(Ar, Tag, Start);
+	}
+
+	FArchive& Ar;
+	const UStruct* Struct;
+	uint8* Data;
+	const UStruct* DefaultsStruct;
+	uint8* Defaults;
+	const TArray<FUnknownProperty>* Unknown;
+	bool bDoDelta;
+	TSet<FElement> Written;
+};
+
+void WriteTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
+{
+	FTaggedPropertyWriter(Ar, Struct, Data, DefaultsStruct, Defaults).Write();
 }
+}
+
+void UE::CoreUObject::Private::SerializeClassControl(FArchive& Ar)
+{
+	constexpr uint8 OverridableInformation = 0x02;
+	if (Ar.UEVer() < EUnrealEngineObjectUE5Version::PROPERTY_TAG_EXTENSION_AND_OVERRIDABLE_SERIALIZATION)
+	{
+		return;
+	}
+	uint8 Control = 0;
+	Ar << Control;
+	if (Control & OverridableInformation)
+	{
+		uint8 OverrideOperation = 0;
+		Ar << OverrideOperation;
+	}
 }
 
 void UStruct::SerializeTaggedProperties(
@@ -234,10 +331,7 @@ void UStruct::SerializeTaggedProperties(
 		const UObject* const Object = reinterpret_cast<const UObject*>(Data);
 		const FSerializedObjectScope Scope(Object);
 		Ar.MarkScriptSerializationStart(Object);
-		if (HasClassControlByte(Ar, this))
-		{
-			SerializeClassControl(Ar);
-		}
+		UE::CoreUObject::Private::SerializeClassControl(Ar);
 		(Ar.IsLoading() ? ReadTaggedProperties : WriteTaggedProperties)(Ar, this, Data, DefaultsStruct, Defaults);
 		Ar.MarkScriptSerializationEnd(Object);
 		return;

@@ -1,6 +1,7 @@
 #include "UObject/UnknownProperties.h"
 
 #include "Serialization/Archive.h"
+#include "UObject/CoreUObjectDelegates.h"
 #include "UObject/LinkerLoad.h"
 #include "UObject/LinkerSave.h"
 #include "UObject/Object.h"
@@ -40,6 +41,17 @@ TMap<FWeakObjectPtr, FKeptValues>& GetStore()
 	return Store;
 }
 
+void ForgetDeletedObjects()
+{
+	for (auto It = GetStore().CreateIterator(); It; ++It)
+	{
+		if (!It.Key().IsValid(true))
+		{
+			It.RemoveCurrent();
+		}
+	}
+}
+
 FString GetCurrentPath()
 {
 	FString Result;
@@ -60,6 +72,24 @@ bool IsPackageArchive(FArchive& Ar)
 {
 	return Ar.IsPersistent() && Ar.GetLinker() != nullptr && !GetStack().IsEmpty();
 }
+
+/** Those of the object at work; null outside packages. */
+FKeptValues* FindKept(FArchive& Ar)
+{
+	return IsPackageArchive(Ar) ? GetStore().Find(FWeakObjectPtr(GetStack().Last().Object)) : nullptr;
+}
+
+/** Whether the values refer to the tables of the package that is being written. */
+bool BelongsTo(const FKeptValues& Kept, FArchive& Ar)
+{
+	const FLinkerLoad* const Origin = static_cast<FLinkerSave*>(Ar.GetLinker())->GetOrigin();
+	return Origin && Origin->GetId() == Kept.LinkerId;
+}
+
+bool IsAtOrBelow(const FString& Path, const FString& Base)
+{
+	return Path.StartsWith(Base, ESearchCase::CaseSensitive) && (Path.Len() == Base.Len() || Path[Base.Len()] == '.' || Path[Base.Len()] == '[');
+}
 }
 
 void FUnknownProperties::Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8>&& Value)
@@ -68,6 +98,7 @@ void FUnknownProperties::Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8
 	{
 		return;
 	}
+	[[maybe_unused]] static const FDelegateHandle ForgetsDeletedObjects = FCoreUObjectDelegates::GetPostGarbageCollect().AddStatic(&ForgetDeletedObjects);
 	FLinkerLoad& Linker = *static_cast<FLinkerLoad*>(Ar.GetLinker());
 	FKeptValues& Kept = GetStore().FindOrAdd(FWeakObjectPtr(GetStack().Last().Object));
 	if (Kept.LinkerId != Linker.GetId())
@@ -82,18 +113,36 @@ void FUnknownProperties::Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8
 
 const TArray<FUnknownProperty>* FUnknownProperties::FindForWriting(FArchive& Ar)
 {
-	const FKeptValues* const Kept = IsPackageArchive(Ar) ? GetStore().Find(FWeakObjectPtr(GetStack().Last().Object)) : nullptr;
+	const FKeptValues* const Kept = FindKept(Ar);
 	if (!Kept)
 	{
 		return nullptr;
 	}
-	const FLinkerLoad* const Origin = static_cast<FLinkerSave*>(Ar.GetLinker())->GetOrigin();
-	if (!Origin || Origin->GetId() != Kept->LinkerId)
+	if (!BelongsTo(*Kept, Ar))
 	{
 		UE_LOG(LogClass, Warning, TEXT("%s has values of properties that are not known here; they belong to the package that it came from and are not written into %s"), *GetStack().Last().Object->GetPathName(), *Ar.GetArchiveName());
 		return nullptr;
 	}
 	return Kept->ByPath.Find(GetCurrentPath());
+}
+
+bool FUnknownProperties::HasAnyWithin(FArchive& Ar, FName Member, int32 Index)
+{
+	const FKeptValues* const Kept = FindKept(Ar);
+	if (!Kept || !BelongsTo(*Kept, Ar))
+	{
+		return false;
+	}
+	const FSerializedPathScope Scope(Member, Index);
+	const FString Path = GetCurrentPath();
+	for (const TPair<FString, TArray<FUnknownProperty>>& Pair : Kept->ByPath)
+	{
+		if (IsAtOrBelow(Pair.Key, Path))
+		{
+			return true;
+		}
+	}
+	return false;
 }
 
 const TMap<FString, TArray<FUnknownProperty>>* FUnknownProperties::FindAll(const UObject* Object)
@@ -102,14 +151,14 @@ const TMap<FString, TArray<FUnknownProperty>>* FUnknownProperties::FindAll(const
 	return Kept ? &Kept->ByPath : nullptr;
 }
 
-void FUnknownProperties::Remove(const UObject* Object)
+int32 FUnknownProperties::NumObjects()
 {
-	GetStore().Remove(FWeakObjectPtr(Object));
+	return GetStore().Num();
 }
 
 void FUnknownProperties::RemoveCurrent(FArchive& Ar)
 {
-	FKeptValues* const Kept = IsPackageArchive(Ar) ? GetStore().Find(FWeakObjectPtr(GetStack().Last().Object)) : nullptr;
+	FKeptValues* const Kept = FindKept(Ar);
 	if (!Kept)
 	{
 		return;
@@ -119,8 +168,7 @@ void FUnknownProperties::RemoveCurrent(FArchive& Ar)
 	Kept->ByPath.GetKeys(Paths);
 	for (const FString& Each : Paths)
 	{
-		const bool bIsBelow = Each.StartsWith(Path, ESearchCase::CaseSensitive) && (Each.Len() == Path.Len() || Each[Path.Len()] == '.' || Each[Path.Len()] == '[');
-		if (bIsBelow)
+		if (IsAtOrBelow(Each, Path))
 		{
 			Kept->ByPath.Remove(Each);
 		}

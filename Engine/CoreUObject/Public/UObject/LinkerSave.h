@@ -26,6 +26,17 @@ public:
 	void WriteUnchangedObjectsAnew() { bWritesUnchanged = true; }
 	/** The linker whose tables this continues; null for a package in the newest form. */
 	const FLinkerLoad* GetOrigin() const { return Origin; }
+	/** A property that the origin's bytes of an object have. */
+	struct FTagOfOrigin
+	{
+		FName Name;
+		/** Element of a static array. */
+		int32 ArrayIndex = 0;
+		/** By which the engine finds a Blueprint's variable that has been renamed; not valid for others. */
+		FGuid PropertyGuid;
+	};
+	/** Those of the object that is being written, in their order there; none for an object that is new. */
+	TArrayView<const FTagOfOrigin> GetTagsOfOrigin(const void* Object) const;
 	/** Adds the object, its outers within the package, and (as they are written) what it refers to. */
 	FPackageIndex AddExport(UObject* Object);
 	/** Writes every export's value. False with the reason when a value cannot be written. */
@@ -58,6 +69,7 @@ private:
 	FPackageIndex AddImport(UObject* Object);
 	void WriteExport(int32 ExportIndex);
 	void WriteValues(int32 ExportIndex, UObject* Object);
+	TArray<FTagOfOrigin> ReadTagsOfOrigin(int32 ExportIndex) const;
 	bool KeepsBytes(int32 ExportIndex, UObject* Object) const;
 	bool IsDeleted(int32 ExportIndex, const UObject* Object) const;
 	FObjectExport DescribeExport(int32 ExportIndex, UObject* Object);
@@ -104,4 +116,5 @@ private:
 	TMap<UObject*, FPackageIndex> ObjectIndices;
 	TMap<FSoftObjectPath, int32> SoftPathIndices;
 	int32 ExportInWork = INDEX_NONE;
+	TArray<FTagOfOrigin> TagsOfOrigin;
 };

@@ -22,9 +22,12 @@ public:
 	static void Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8>&& Value);
 	/** Of the struct or object that is being written at present; null when there are none. */
 	static const TArray<FUnknownProperty>* FindForWriting(FArchive& Ar);
+	/** Whether there are some in a member of the struct or object that is being written at present. */
+	static bool HasAnyWithin(FArchive& Ar, FName Member, int32 Index);
 	/** All of an object's, by the path of the struct within it: "" for the object itself, "Items[2].Data" for a member. */
 	static const TMap<FString, TArray<FUnknownProperty>>* FindAll(const UObject* Object);
-	static void Remove(const UObject* Object);
+	/** How many objects have some; a collection of garbage forgets those that it deletes. */
+	static int32 NumObjects();
 	/** Forgets those of the struct that is being read at present, and of all below it. */
 	static void RemoveCurrent(FArchive& Ar);
 	static bool HasAny(const UObject* Object) { return FindAll(Object) != nullptr; }
