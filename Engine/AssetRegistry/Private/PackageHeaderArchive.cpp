@@ -23,7 +23,9 @@ bool FPackageHeaderArchive::Require(int64 NumBytes)
 	if (Wanted > Present)
 	{
 		Bytes.SetNumUninitialized(static_cast<int32>(Wanted));
-		if (!File->Seek(Present) || !File->Read(Bytes.GetData() + Present, Wanted - Present))
+		// The first read is at the file's start, where the handle stands already.
+		const bool bInPlace = Present == 0 || File->Seek(Present);
+		if (!bInPlace || !File->Read(Bytes.GetData() + Present, Wanted - Present))
 		{
 			Bytes.SetNum(static_cast<int32>(Present));
 			return false;

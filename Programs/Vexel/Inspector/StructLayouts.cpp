@@ -41,15 +41,17 @@ constexpr FLayout Layouts[] = {
 
 const FLayout* Find(FName StructName)
 {
-	const FString Name = StructName.ToString();
-	for (const FLayout& Layout : Layouts)
+	static const TMap<FName, const FLayout*> ByName = []
 	{
-		if (Name == Layout.Struct)
+		TMap<FName, const FLayout*> Result;
+		for (const FLayout& Layout : Layouts)
 		{
-			return &Layout;
+			Result.Add(FName(Layout.Struct), &Layout);
 		}
-	}
-	return nullptr;
+		return Result;
+	}();
+	const FLayout* const* const Found = ByName.Find(StructName);
+	return Found ? *Found : nullptr;
 }
 
 template <typename Type>

@@ -76,20 +76,10 @@ const TMap<FName, FSimpleReader>& GetSimpleReaders()
 	return Readers;
 }
 
-const TArray<FName>& GetObjectKinds()
-{
-	static const TArray<FName> Kinds = {TEXT("ObjectProperty"), TEXT("ClassProperty"), TEXT("WeakObjectProperty"), TEXT("InterfaceProperty"), TEXT("ObjectPtrProperty"), TEXT("ClassPtrProperty")};
-	return Kinds;
-}
-
-bool IsSoftKind(FName Type)
-{
-	return Type == FName(TEXT("SoftObjectProperty")) || Type == FName(TEXT("SoftClassProperty")) || Type == FName(TEXT("AssetObjectProperty")) || Type == FName(TEXT("AssetClassProperty"));
-}
-
 bool IsSoftPathStruct(FName Struct)
 {
-	return Struct == FName(TEXT("SoftObjectPath")) || Struct == FName(TEXT("SoftClassPath")) || Struct == FName(TEXT("StringAssetReference")) || Struct == FName(TEXT("StringClassReference"));
+	static const TArray<FName> Structs = {TEXT("SoftObjectPath"), TEXT("SoftClassPath"), TEXT("StringAssetReference"), TEXT("StringClassReference")};
+	return Structs.Contains(Struct);
 }
 
 TSharedPtr<FJsonValue> ReadSoftPath(FLinkerLoad& Linker)
@@ -269,7 +259,10 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadTaggedStruct()
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadStruct(FName StructName, int64 Size)
 {
-	if (StructName == FName(TEXT("Guid")))
+	static const FName GuidName(TEXT("Guid"));
+	static const FName PinTypeName(TEXT("EdGraphPinType"));
+	static const FName TagContainerName(TEXT("GameplayTagContainer"));
+	if (StructName == GuidName)
 	{
 		return MakeText(ReadPlain<FGuid>(Linker).ToString());
 	}
@@ -277,11 +270,11 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadStruct(FName StructName, int6
 	{
 		return ReadSoftPath(Linker);
 	}
-	if (StructName == FName(TEXT("EdGraphPinType")))
+	if (StructName == PinTypeName)
 	{
 		return ReadPinType();
 	}
-	if (StructName == FName(TEXT("GameplayTagContainer")))
+	if (StructName == TagContainerName)
 	{
 		return ReadElements(FPropertyTypeName(TEXT("NameProperty")), ReadPlain<int32>(Linker), -1);
 	}
@@ -319,16 +312,18 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadArray(const FPropertyTypeName
 	{
 		return nullptr;
 	}
+	static const FName ByteKind(TEXT("ByteProperty"));
 	FPropertyTypeName Element = Type.GetParameter(0);
 	const int64 Left = Size >= 0 ? Start + Size - Linker.Tell() : -1;
-	const bool bIsBytes = Element.GetName() == FName(TEXT("ByteProperty")) && Element.GetParameterCount() == 0 && Left == Count;
+	const bool bIsBytes = Element.GetName() == ByteKind && Element.GetParameterCount() == 0 && Left == Count;
 	if (bIsBytes)
 	{
 		const FValue Bytes = MakeBytes(Linker.Tell(), Count);
 		Linker.Seek(Linker.Tell() + Count);
 		return Bytes;
 	}
-	const bool bHasInnerTag = Element.GetName() == FName(TEXT("StructProperty")) && Linker.UEVer() >= VER_UE4_INNER_ARRAY_TAG_INFO && Linker.UEVer() < EUnrealEngineObjectUE5Version::PROPERTY_TAG_COMPLETE_TYPE_NAME;
+	static const FName StructKind(TEXT("StructProperty"));
+	const bool bHasInnerTag = Element.GetName() == StructKind && Linker.UEVer() >= VER_UE4_INNER_ARRAY_TAG_INFO && Linker.UEVer() < EUnrealEngineObjectUE5Version::PROPERTY_TAG_COMPLETE_TYPE_NAME;
 	if (bHasInnerTag)
 	{
 		FPropertyTag InnerTag;
@@ -354,7 +349,8 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadMap(const FPropertyTypeName& 
 	const int64 Start = Linker.Tell();
 	const FPropertyTypeName Value = Type.GetParameter(1);
 	const FValue Pairs = ReadPairs(Type.GetParameter(0), Value);
-	const bool bIsUnnamedStruct = Value.GetName() == FName(TEXT("StructProperty")) && Value.GetParameterCount() == 0;
+	static const FName StructKind(TEXT("StructProperty"));
+	const bool bIsUnnamedStruct = Value.GetName() == StructKind && Value.GetParameterCount() == 0;
 	const bool bIsWhole = Pairs && !Linker.IsError() && (Size < 0 || Linker.Tell() == Start + Size);
 	if (bIsWhole || !bIsUnnamedStruct)
 	{
@@ -393,77 +389,87 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadPairs(const FPropertyTypeName
 	return MakeShared<FJsonValueArray>(Pairs);
 }
 
+FTaggedValueReader::FValue FTaggedValueReader::ReadFieldPath()
+{
+	const FValue Path = ReadElements(FPropertyTypeName(TEXT("NameProperty")), ReadPlain<int32>(Linker), -1);
+	const bool bHasOwner = Linker.CustomVer(FReleaseObjectVersion::GUID) >= FReleaseObjectVersion::FFieldPathOwnerSerialization;
+	return !Path || !bHasOwner || ReadObject() ? Path : nullptr;
+}
+
+FTaggedValueReader::FValue FTaggedValueReader::ReadMulticastDelegate()
+{
+	int32 Count = 0;
+	TArray<TSharedPtr<FJsonValue>> Delegates;
+	for (ReadCount(Count); Delegates.Num() < Count && !Linker.IsError();)
+	{
+		Delegates.Add(ReadDelegate());
+	}
+	return MakeShared<FJsonValueArray>(Delegates);
+}
+
+FTaggedValueReader::FValue FTaggedValueReader::ReadOptional(const FPropertyTypeName& Type)
+{
+	const bool bIsSet = ReadPlain<bool>(Linker);
+	return bIsSet ? Read(Type.GetParameter(0), -1) : FValue(MakeShared<FJsonValueNull>());
+}
+
+const TMap<FName, FTaggedValueReader::FKindReader>& FTaggedValueReader::GetKindReaders()
+{
+	using FType = FPropertyTypeName;
+	static const TMap<FName, FKindReader> Readers = []
+	{
+		TMap<FName, FKindReader> Result = {
+			{TEXT("StructProperty"), [](FTaggedValueReader& Self, const FType& Type, int64 Size)
+				{ return Self.ReadStruct(Type.GetParameterName(0), Size); }},
+			{TEXT("ByteProperty"), [](FTaggedValueReader& Self, const FType& Type, int64 Size)
+				{ return Self.ReadByte(Type, Size); }},
+			{TEXT("TextProperty"), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return Self.ReadText(); }},
+			{TEXT("ArrayProperty"), [](FTaggedValueReader& Self, const FType& Type, int64 Size)
+				{ return Self.ReadArray(Type, Size); }},
+			{TEXT("SetProperty"), [](FTaggedValueReader& Self, const FType& Type, int64)
+				{ return Self.ReadSet(Type); }},
+			{TEXT("MapProperty"), [](FTaggedValueReader& Self, const FType& Type, int64 Size)
+				{ return Self.ReadMap(Type, Size); }},
+			{TEXT("OptionalProperty"), [](FTaggedValueReader& Self, const FType& Type, int64)
+				{ return Self.ReadOptional(Type); }},
+			{TEXT("DelegateProperty"), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return Self.ReadDelegate(); }},
+			{TEXT("FieldPathProperty"), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return Self.ReadFieldPath(); }}};
+		for (const TCHAR* const Kind : {TEXT("ObjectProperty"), TEXT("ClassProperty"), TEXT("WeakObjectProperty"), TEXT("InterfaceProperty"), TEXT("ObjectPtrProperty"), TEXT("ClassPtrProperty")})
+		{
+			Result.Add(FName(Kind), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return Self.ReadObject(); });
+		}
+		for (const TCHAR* const Kind : {TEXT("SoftObjectProperty"), TEXT("SoftClassProperty"), TEXT("AssetObjectProperty"), TEXT("AssetClassProperty")})
+		{
+			Result.Add(FName(Kind), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return ReadSoftPath(Self.Linker); });
+		}
+		for (const TCHAR* const Kind : {TEXT("MulticastDelegateProperty"), TEXT("MulticastInlineDelegateProperty"), TEXT("MulticastSparseDelegateProperty")})
+		{
+			Result.Add(FName(Kind), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return Self.ReadMulticastDelegate(); });
+		}
+		return Result;
+	}();
+	return Readers;
+}
+
 FTaggedValueReader::FValue FTaggedValueReader::Read(const FPropertyTypeName& Type, int64 Size)
 {
-	const FName Kind = Type.GetName();
 	if (Depth >= MaxDepth || ++NumValues > MaxValues)
 	{
 		return nullptr;
 	}
 	const TGuardValue<int32> Deeper(Depth, Depth + 1);
-	if (const FSimpleReader* const Simple = GetSimpleReaders().Find(Kind))
+	if (const FSimpleReader* const Simple = GetSimpleReaders().Find(Type.GetName()))
 	{
 		return (*Simple)(Linker);
 	}
-	if (GetObjectKinds().Contains(Kind))
-	{
-		return ReadObject();
-	}
-	if (IsSoftKind(Kind))
-	{
-		return ReadSoftPath(Linker);
-	}
-	const FString Name = Kind.ToString();
-	if (Name == TEXT("StructProperty"))
-	{
-		return ReadStruct(Type.GetParameterName(0), Size);
-	}
-	if (Name == TEXT("ByteProperty"))
-	{
-		return ReadByte(Type, Size);
-	}
-	if (Name == TEXT("TextProperty"))
-	{
-		return ReadText();
-	}
-	if (Name == TEXT("ArrayProperty"))
-	{
-		return ReadArray(Type, Size);
-	}
-	if (Name == TEXT("SetProperty"))
-	{
-		return ReadSet(Type);
-	}
-	if (Name == TEXT("MapProperty"))
-	{
-		return ReadMap(Type, Size);
-	}
-	if (Name == TEXT("DelegateProperty"))
-	{
-		return ReadDelegate();
-	}
-	if (Name == TEXT("OptionalProperty"))
-	{
-		const bool bIsSet = ReadPlain<bool>(Linker);
-		return bIsSet ? Read(Type.GetParameter(0), -1) : FValue(MakeShared<FJsonValueNull>());
-	}
-	if (Name == TEXT("FieldPathProperty"))
-	{
-		const FValue Path = ReadElements(FPropertyTypeName(TEXT("NameProperty")), ReadPlain<int32>(Linker), -1);
-		const bool bHasOwner = Linker.CustomVer(FReleaseObjectVersion::GUID) >= FReleaseObjectVersion::FFieldPathOwnerSerialization;
-		return !Path || !bHasOwner || ReadObject() ? Path : nullptr;
-	}
-	if (Name.StartsWith(TEXT("Multicast")))
-	{
-		int32 Count = 0;
-		TArray<TSharedPtr<FJsonValue>> Delegates;
-		for (ReadCount(Count); Delegates.Num() < Count && !Linker.IsError();)
-		{
-			Delegates.Add(ReadDelegate());
-		}
-		return MakeShared<FJsonValueArray>(Delegates);
-	}
-	return nullptr;
+	const FKindReader* const Reader = GetKindReaders().Find(Type.GetName());
+	return Reader ? (*Reader)(*this, Type, Size) : nullptr;
 }
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadTagged(const FPropertyTag& Tag, int64 End)
@@ -474,7 +480,8 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadTagged(const FPropertyTag& Ta
 		Linker.SetError();
 		return nullptr;
 	}
-	if (Tag.IsType(TEXT("BoolProperty")))
+	static const FName BoolKind(TEXT("BoolProperty"));
+	if (Tag.IsType(BoolKind))
 	{
 		return MakeShared<FJsonValueBoolean>(Tag.BoolVal != 0);
 	}

@@ -25,6 +25,10 @@ public:
 private:
 	using FValue = TSharedPtr<FJsonValue>;
 
+	using FKindReader = FValue (*)(FTaggedValueReader& Self, const FPropertyTypeName& Type, int64 Size);
+
+	/** The kinds whose values hold others or refer to the package's tables. */
+	static const TMap<FName, FKindReader>& GetKindReaders();
 	FValue ReadTagged(const FPropertyTag& Tag, int64 End);
 	/** Null when the value cannot be read. Size is that of all elements' bytes, -1 where it is not known. */
 	FValue Read(const FPropertyTypeName& Type, int64 Size);
@@ -39,6 +43,9 @@ private:
 	FValue ReadElements(const FPropertyTypeName& Element, int32 Count, int64 Size);
 	FValue ReadByte(const FPropertyTypeName& Type, int64 Size);
 	FValue ReadDelegate();
+	FValue ReadMulticastDelegate();
+	FValue ReadFieldPath();
+	FValue ReadOptional(const FPropertyTypeName& Type);
 	FValue ReadObject();
 	FValue ReadText();
 	FValue ReadOldName();

@@ -32,16 +32,20 @@ FArchive& operator<<(FArchive& Ar, FString& String)
 		}
 		else
 		{
-			TArray<ANSICHAR> Bytes;
-			Bytes.SetNumUninitialized(static_cast<int32>(Num));
-			Ar.Serialize(Bytes.GetData(), NumBytes);
-			for (TCHAR* Out = String.AddRoom(static_cast<int32>(Num) - 1); const ANSICHAR Byte : Bytes)
+			constexpr int64 MaxChunkBytes = 512;
+			ANSICHAR Chunk[MaxChunkBytes];
+			TCHAR* Out = String.AddRoom(static_cast<int32>(Num) - 1);
+			for (int64 Left = NumBytes; Left > 0 && !Ar.IsError(); Left -= MaxChunkBytes)
 			{
-				*Out++ = static_cast<uint8>(Byte);
+				const int64 ChunkBytes = Left < MaxChunkBytes ? Left : MaxChunkBytes;
+				Ar.Serialize(Chunk, ChunkBytes);
+				for (int64 Index = 0; Index < ChunkBytes; ++Index)
+				{
+					*Out++ = static_cast<uint8>(Chunk[Index]);
+				}
 			}
 		}
-		const bool bIsTerminated = String.GetCharArray().GetData()[Num - 1] == 0;
-		if (Ar.IsError() || !bIsTerminated)
+		if (Ar.IsError() || String.GetCharArray().GetData()[Num - 1] != 0)
 		{
 			Ar.SetError();
 			String.Reset();

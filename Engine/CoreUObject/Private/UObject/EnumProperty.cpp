@@ -1,5 +1,6 @@
 #include "UObject/EnumProperty.h"
 
+#include "PropertyKindNames.h"
 #include "Serialization/Archive.h"
 #include "UObject/Class.h"
 #include "UObject/PropertyHelper.h"
@@ -138,7 +139,7 @@ EConvertFromTypeResult FEnumProperty::ConvertFromType(
 	{
 		return EConvertFromTypeResult::UseSerializeItem;
 	}
-	if (Enum && Tag.IsType(TEXT("ByteProperty")) && !Tag.EnumName.IsNone())
+	if (Enum && Tag.IsType(FPropertyKindNames::Get().Byte) && !Tag.EnumName.IsNone())
 	{
 		SerializeItem(Ar, Data, Defaults);
 		return EConvertFromTypeResult::Converted;

@@ -74,7 +74,11 @@ void FLinkerLoad::Serialize(void* Data, int64 Length)
 		FMemory::Memzero(Data, FMath::Max<int64>(Length, 0));
 		return;
 	}
-	if (!File->Read(Position, Data, Length))
+	if (WholeFile)
+	{
+		FMemory::Memcpy(Data, WholeFile + Position, Length);
+	}
+	else if (!File->Read(Position, Data, Length))
 	{
 		SetError();
 		FMemory::Memzero(Data, Length);

@@ -26,6 +26,7 @@ FLinkerLoad::FLinkerLoad(TUniquePtr<FPackageBytes>&& InFile, const FString& InFi
 	Filename = InFilename;
 	LinkerRoot = Package;
 	Limit = File->Num();
+	WholeFile = File->GetWhole();
 	SetIsLoading(true);
 	SetIsPersistent(true);
 }
@@ -111,9 +112,9 @@ bool FLinkerLoad::LoadNames(FString& OutError)
 		return false;
 	}
 	NameMap.Reserve(Summary.NameCount);
+	FString Name;
 	for (int32 Index = 0; Index < Summary.NameCount; ++Index)
 	{
-		FString Name;
 		FArchive& Ar = *this;
 		const int64 Start = Position;
 		Ar << Name;

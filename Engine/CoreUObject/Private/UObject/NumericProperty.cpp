@@ -1,5 +1,6 @@
 #include "UObject/NumericProperty.h"
 
+#include "PropertyKindNames.h"
 #include "Serialization/Archive.h"
 #include "UObject/Class.h"
 #include "UObject/EnumProperty.h"
@@ -209,12 +210,12 @@ EConvertFromTypeResult FNumericProperty::ConvertFromType(
 	{
 		return EConvertFromTypeResult::UseSerializeItem;
 	}
-	if (Tag.IsType(TEXT("BoolProperty")))
+	if (Tag.IsType(FPropertyKindNames::Get().Bool))
 	{
 		SetIntPropertyValue(Data, static_cast<uint64>(Tag.BoolVal));
 		return EConvertFromTypeResult::Converted;
 	}
-	if (Tag.IsType(TEXT("EnumProperty")) || (Tag.IsType(TEXT("ByteProperty")) && !Tag.EnumName.IsNone()))
+	if (Tag.IsType(FPropertyKindNames::Get().Enum) || (Tag.IsType(FPropertyKindNames::Get().Byte) && !Tag.EnumName.IsNone()))
 	{
 		const UEnum* const SavedEnum = FindFirstObject<UEnum>(*Tag.EnumName.ToString());
 		if (!SavedEnum)
@@ -407,7 +408,7 @@ void FByteProperty::SerializeItem(FArchive& Ar, void* Value, const void* Default
 EConvertFromTypeResult FByteProperty::ConvertFromType(
 	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
-	const bool bTagHasName = Tag.IsType(TEXT("EnumProperty")) || (Tag.IsType(TEXT("ByteProperty")) && !Tag.EnumName.IsNone());
+	const bool bTagHasName = Tag.IsType(FPropertyKindNames::Get().Enum) || (Tag.IsType(FPropertyKindNames::Get().Byte) && !Tag.EnumName.IsNone());
 	if (Enum && bTagHasName)
 	{
 		int64 Value = 0;
@@ -415,12 +416,12 @@ EConvertFromTypeResult FByteProperty::ConvertFromType(
 		SetPropertyValue(Data, static_cast<uint8>(Value));
 		return EConvertFromTypeResult::Converted;
 	}
-	if (Enum && Tag.IsType(TEXT("ByteProperty")))
+	if (Enum && Tag.IsType(FPropertyKindNames::Get().Byte))
 	{
 		SetPropertyValue(Data, ReadNumber<uint8>(Ar));
 		return EConvertFromTypeResult::Converted;
 	}
-	if (!Enum && Tag.IsType(TEXT("ByteProperty")) && bTagHasName)
+	if (!Enum && Tag.IsType(FPropertyKindNames::Get().Byte) && bTagHasName)
 	{
 		const UEnum* const SavedEnum = FindFirstObject<UEnum>(*Tag.EnumName.ToString());
 		int64 Value = 0;

@@ -12,6 +12,8 @@ public:
 	explicit FPackageBytes(TArray<uint8>&& InMemory);
 
 	int64 Num() const { return Size; }
+	/** All of the file's bytes; null for a file that is read where it is asked for. */
+	const uint8* GetWhole() const { return Reader ? nullptr : Memory.GetData(); }
 	/** False when there are not as many bytes, or when the disk fails. */
 	[[nodiscard]] bool Read(int64 Offset, void* Out, int64 Length);
 

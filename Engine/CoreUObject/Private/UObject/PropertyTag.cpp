@@ -1,5 +1,6 @@
 #include "UObject/PropertyTag.h"
 
+#include "PropertyKindNames.h"
 #include "Serialization/Archive.h"
 #include "UObject/Class.h"
 #include "UObject/EnumProperty.h"
@@ -88,7 +89,7 @@ void FPropertyTag::SetType(const FPropertyTypeName& InTypeName)
 
 void FPropertyTag::SetNamesFromType()
 {
-	if (IsType(TEXT("StructProperty")))
+	if (IsType(FPropertyKindNames::Get().Struct))
 	{
 		StructName = TypeName.GetParameterName(0);
 		if (const FName Guid = TypeName.GetParameterName(1); !Guid.IsNone())
@@ -96,7 +97,7 @@ void FPropertyTag::SetNamesFromType()
 			FGuid::Parse(Guid.ToString(), StructGuid);
 		}
 	}
-	else if (IsType(TEXT("ByteProperty")) || IsType(TEXT("EnumProperty")))
+	else if (IsType(FPropertyKindNames::Get().Byte) || IsType(FPropertyKindNames::Get().Enum))
 	{
 		EnumName = TypeName.GetParameterName(0);
 	}
@@ -127,7 +128,7 @@ void FPropertyTag::SerializeOldForm(FArchive& Ar)
 		SizeOffset = Ar.Tell() >= 0 ? Ar.Tell() : -1;
 	}
 	Ar << Size << ArrayIndex;
-	if (IsType(TEXT("StructProperty")))
+	if (IsType(FPropertyKindNames::Get().Struct))
 	{
 		Ar << StructName;
 		if (Ar.UEVer() >= VER_UE4_STRUCT_GUID_IN_PROPERTY_TAG)
@@ -135,23 +136,23 @@ void FPropertyTag::SerializeOldForm(FArchive& Ar)
 			Ar << StructGuid;
 		}
 	}
-	else if (IsType(TEXT("BoolProperty")))
+	else if (IsType(FPropertyKindNames::Get().Bool))
 	{
 		Ar << BoolVal;
 	}
-	else if (IsType(TEXT("ByteProperty")) || IsType(TEXT("EnumProperty")))
+	else if (IsType(FPropertyKindNames::Get().Byte) || IsType(FPropertyKindNames::Get().Enum))
 	{
 		Ar << EnumName;
 	}
-	else if (IsType(TEXT("ArrayProperty")) || IsType(TEXT("OptionalProperty")))
+	else if (IsType(FPropertyKindNames::Get().Array) || IsType(FPropertyKindNames::Get().Optional))
 	{
 		Ar << InnerType;
 	}
-	else if (Ar.UEVer() >= VER_UE4_PROPERTY_TAG_SET_MAP_SUPPORT && IsType(TEXT("SetProperty")))
+	else if (Ar.UEVer() >= VER_UE4_PROPERTY_TAG_SET_MAP_SUPPORT && IsType(FPropertyKindNames::Get().Set))
 	{
 		Ar << InnerType;
 	}
-	else if (Ar.UEVer() >= VER_UE4_PROPERTY_TAG_SET_MAP_SUPPORT && IsType(TEXT("MapProperty")))
+	else if (Ar.UEVer() >= VER_UE4_PROPERTY_TAG_SET_MAP_SUPPORT && IsType(FPropertyKindNames::Get().Map))
 	{
 		Ar << InnerType << ValueType;
 	}

@@ -106,6 +106,8 @@ private:
 	void NoteUnreadExport(int32 ExportIndex);
 
 	TUniquePtr<FPackageBytes> File;
+	/** The file's bytes where they are all in memory: most reads are of a few bytes, and need no more than this. */
+	const uint8* WholeFile = nullptr;
 	uint64 Id;
 	int64 Position = 0;
 	/** Reads end here: the file's end, or that of the export being read. */
