@@ -149,6 +149,31 @@ TEST_F(FDefinitionTest, EnumsAndStructsHaveTheirEnumeratorsAndMembers)
 	}
 }
 
+TEST_F(FDefinitionTest, PathsOfAChainWithoutEndAreToldByTheirInnerPart)
+{
+	constexpr int32 NumObjects = 1500;
+	constexpr int32 MaxPathLength = 6000;
+	FString LongName;
+	for (int32 Index = 0; Index < 100; ++Index)
+	{
+		LongName += TEXT("Long");
+	}
+	UPackage* const Package = CreatePackage(TEXT("/Inspected/Chain"));
+	UObject* Outer = Package;
+	for (int32 Index = 0; Index < NumObjects; ++Index)
+	{
+		Outer = NewObject<UEnum>(Outer, FName(*LongName, Index + 1));
+	}
+	const FObjects Exports = GetObjects(*SaveAndInspect(Package, {Outer}), TEXT("exports"));
+	ASSERT_EQ(Exports.size(), size_t(NumObjects));
+	for (const TSharedPtr<FJsonObject>& Export : Exports)
+	{
+		ASSERT_LT(Export->GetStringField(TEXT("path")).Len(), MaxPathLength);
+	}
+	const FString Innermost = FString::Printf(TEXT(".%s_%d"), *LongName, NumObjects - 1);
+	EXPECT_TRUE(Exports.back()->GetStringField(TEXT("path")).EndsWith(Innermost));
+}
+
 TEST_F(FDefinitionTest, ADamagedDefinitionIsToldWithItsOffset)
 {
 	FBytes Bytes = ReadFile(GetSamples() / "UE56/SimpleRefs/SimpleRefsRoot.uasset");

@@ -14,7 +14,10 @@ namespace
 {
 constexpr int32 MaxDepth = 48;
 /** A value takes some hundred bytes as JSON and may take one in the file, so their number is bounded apart from the file's size. */
-constexpr int32 MaxValues = 1'000'000;
+constexpr int64 MaxValuesOfAnyFile = 1'000'000;
+constexpr int64 MaxValuesOfSmallFile = 10'000;
+/** A name or a path may be long and takes a few bytes in the file, so its text counts as more values. */
+constexpr int32 CharactersOfAValue = 64;
 /** More elements than this are told by their bytes. */
 constexpr int32 MaxElements = 10'000;
 constexpr int64 NameBytes = 8;
@@ -65,10 +68,6 @@ const TMap<FName, FSimpleReader>& GetSimpleReaders()
 			{ return MakeJsonNumber(ReadPlain<float>(Linker)); }},
 		{TEXT("DoubleProperty"), [](FLinkerLoad& Linker)
 			{ return MakeJsonNumber(ReadPlain<double>(Linker)); }},
-		{TEXT("NameProperty"), [](FLinkerLoad& Linker)
-			{ return MakeText(ReadName(Linker)); }},
-		{TEXT("EnumProperty"), [](FLinkerLoad& Linker)
-			{ return MakeText(ReadName(Linker)); }},
 		{TEXT("StrProperty"), [](FLinkerLoad& Linker)
 			{ return MakeText(ReadPlain<FString>(Linker)); }},
 		{TEXT("LazyObjectProperty"), [](FLinkerLoad& Linker)
@@ -82,12 +81,24 @@ bool IsSoftPathStruct(FName Struct)
 	return Structs.Contains(Struct);
 }
 
-TSharedPtr<FJsonValue> ReadSoftPath(FLinkerLoad& Linker)
+FString ReadSoftPath(FLinkerLoad& Linker)
 {
 	FSoftObjectPath Path;
 	Linker << Path;
-	return MakeText(Path.ToString());
+	return Path.ToString();
 }
+}
+
+FTaggedValueReader::FTaggedValueReader(FLinkerLoad& InLinker)
+	: Linker(InLinker)
+	, MaxValues(FMath::Clamp(InLinker.GetFileSize(), MaxValuesOfSmallFile, MaxValuesOfAnyFile))
+{
+}
+
+FTaggedValueReader::FValue FTaggedValueReader::MakeCountedText(const FString& Text)
+{
+	NumValues += Text.Len() / CharactersOfAValue;
+	return MakeText(Text);
 }
 
 bool FTaggedValueReader::ReadCount(int32& OutCount)
@@ -124,7 +135,7 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadObject()
 		Linker.SetError();
 		return nullptr;
 	}
-	return MakeText(Linker.GetPathName(Index));
+	return MakeCountedText(Linker.GetPathName(Index));
 }
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadText()
@@ -268,7 +279,7 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadStruct(FName StructName, int6
 	}
 	if (IsSoftPathStruct(StructName))
 	{
-		return ReadSoftPath(Linker);
+		return MakeCountedText(ReadSoftPath(Linker));
 	}
 	if (StructName == PinTypeName)
 	{
@@ -435,6 +446,10 @@ const TMap<FName, FTaggedValueReader::FKindReader>& FTaggedValueReader::GetKindR
 				{ return Self.ReadOptional(Type); }},
 			{TEXT("DelegateProperty"), [](FTaggedValueReader& Self, const FType&, int64)
 				{ return Self.ReadDelegate(); }},
+			{TEXT("NameProperty"), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return Self.MakeCountedText(ReadName(Self.Linker)); }},
+			{TEXT("EnumProperty"), [](FTaggedValueReader& Self, const FType&, int64)
+				{ return Self.MakeCountedText(ReadName(Self.Linker)); }},
 			{TEXT("FieldPathProperty"), [](FTaggedValueReader& Self, const FType&, int64)
 				{ return Self.ReadFieldPath(); }}};
 		for (const TCHAR* const Kind : {TEXT("ObjectProperty"), TEXT("ClassProperty"), TEXT("WeakObjectProperty"), TEXT("InterfaceProperty"), TEXT("ObjectPtrProperty"), TEXT("ClassPtrProperty")})
@@ -445,7 +460,7 @@ const TMap<FName, FTaggedValueReader::FKindReader>& FTaggedValueReader::GetKindR
 		for (const TCHAR* const Kind : {TEXT("SoftObjectProperty"), TEXT("SoftClassProperty"), TEXT("AssetObjectProperty"), TEXT("AssetClassProperty")})
 		{
 			Result.Add(FName(Kind), [](FTaggedValueReader& Self, const FType&, int64)
-				{ return ReadSoftPath(Self.Linker); });
+				{ return Self.MakeCountedText(ReadSoftPath(Self.Linker)); });
 		}
 		for (const TCHAR* const Kind : {TEXT("MulticastDelegateProperty"), TEXT("MulticastInlineDelegateProperty"), TEXT("MulticastSparseDelegateProperty")})
 		{

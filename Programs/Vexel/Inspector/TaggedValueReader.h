@@ -14,10 +14,7 @@ class FLinkerLoad;
 class FTaggedValueReader
 {
 public:
-	explicit FTaggedValueReader(FLinkerLoad& InLinker)
-		: Linker(InLinker)
-	{
-	}
+	explicit FTaggedValueReader(FLinkerLoad& InLinker);
 
 	/** The properties from here to the end of the list. False when a tag is damaged or ends beyond End; OutEnd is where it ended. */
 	bool ReadProperties(int64 Start, int64 End, TArray<TSharedPtr<FJsonValue>>& OutProperties, int64& OutEnd);
@@ -50,9 +47,11 @@ private:
 	FValue ReadText();
 	FValue ReadOldName();
 	FValue MakeBytes(int64 Start, int64 Size) const;
+	FValue MakeCountedText(const FString& Text);
 	bool ReadCount(int32& OutCount);
 
 	FLinkerLoad& Linker;
 	int32 Depth = 0;
-	int32 NumValues = 0;
+	int64 NumValues = 0;
+	int64 MaxValues;
 };

@@ -26,25 +26,28 @@ FString FLinker::GetRootName() const
 
 FString FLinker::GetPathName(FPackageIndex Index) const
 {
+	// Of a chain that is longer than any honest one, or a circle, the path has the inner end.
+	constexpr int32 MaxPathLength = 4096;
 	TArray<FString> Parts;
-	FPackageIndex Current = Index;
-	const int32 MaxDepth = ExportMap.Num() + ImportMap.Num();
-	for (const FObjectResource* Resource = FindResource(Current); Resource && Parts.Num() <= MaxDepth; Resource = FindResource(Current))
+	int32 Length = 0;
+	const FObjectResource* Resource = FindResource(Index);
+	for (; Resource && Parts.Num() < MaxOuterDepth && Length < MaxPathLength; Resource = FindResource(Resource->OuterIndex))
 	{
-		Parts.Insert(Resource->ObjectName.ToString(), 0);
-		Current = Resource->OuterIndex;
+		Parts.Add(Resource->ObjectName.ToString());
+		Length += Parts.Last().Len();
 	}
 	if (Index.IsExport())
 	{
-		Parts.Insert(GetRootName(), 0);
+		Parts.Add(GetRootName());
 	}
 	// Package.Asset:Inner.Inner
 	FString Path;
+	Path.Reserve(Length + Parts.Num());
 	for (int32 Part = 0; Part < Parts.Num(); ++Part)
 	{
 		Path += Part == 0 ? TEXT("") : Part == 2 ? TEXT(":")
 												 : TEXT(".");
-		Path += Parts[Part];
+		Path += Parts[Parts.Num() - 1 - Part];
 	}
 	return Path;
 }

@@ -337,7 +337,7 @@ UObject* FLinkerLoad::CreateExport(int32 ExportIndex)
 UObject* FLinkerLoad::FindImportInPackage(int32 ImportIndex, const FString& Path)
 {
 	FPackageIndex Outermost = FPackageIndex::FromImport(ImportIndex);
-	for (int32 Depth = 0; Depth <= ImportMap.Num(); ++Depth)
+	for (int32 Depth = 0; Depth < MaxOuterDepth; ++Depth)
 	{
 		const FObjectResource* const Resource = FindResource(Outermost);
 		if (!Resource || Resource->OuterIndex.IsNull())

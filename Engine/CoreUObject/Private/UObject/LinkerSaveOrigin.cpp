@@ -206,7 +206,7 @@ void FLinkerSave::ClearUnusedImports()
 	}
 	const auto Mark = [this](FPackageIndex Index)
 	{
-		for (int32 Depth = 0; Index.IsImport() && Depth <= ImportMap.Num(); ++Depth)
+		for (int32 Depth = 0; Index.IsImport() && Depth < MaxOuterDepth; ++Depth)
 		{
 			if (UsedImports.IsValidIndex(Index.ToImport()))
 			{

@@ -32,6 +32,8 @@ public:
 	const FObjectResource* FindResource(FPackageIndex Index) const;
 	/** "None" for null, the entry's own name otherwise. */
 	FName GetObjectName(FPackageIndex Index) const;
+	/** Objects within objects that any honest package has, and more. */
+	static constexpr int32 MaxOuterDepth = 64;
 	/** "/Game/Dir/Asset.Asset:Inner"; outers that form a circle end the path. */
 	FString GetPathName(FPackageIndex Index) const;
 	FString GetExportPathName(int32 ExportIndex) const { return GetPathName(FPackageIndex::FromExport(ExportIndex)); }
