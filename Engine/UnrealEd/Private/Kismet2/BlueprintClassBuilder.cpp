@@ -53,6 +53,65 @@ NodeType* FindNode(const UEdGraph& Graph)
 }
 }
 
+namespace
+{
+void SetDeprecation(UFunction& Function, bool bIsDeprecated, const FString& Message)
+{
+	if (bIsDeprecated)
+	{
+		Function.SetMetaData(TEXT("DeprecatedFunction"), TEXT(""));
+		Function.SetMetaData(TEXT("DeprecationMessage"), *Message);
+	}
+}
+
+void SetFlag(UFunction& Function, const TCHAR* Key, bool bIsSet)
+{
+	if (bIsSet)
+	{
+		Function.SetMetaData(Key, TEXT("true"));
+	}
+}
+
+/** What the user declared of the function in its details. */
+void SetDeclaredMetaData(UFunction& Function, const FKismetUserDeclaredFunctionMetadata& Declared)
+{
+	const struct
+	{
+		const TCHAR* Key;
+		const FText& Value;
+	} Texts[] = {
+		{TEXT("Category"), Declared.Category},
+		{TEXT("ToolTip"), Declared.ToolTip},
+		{TEXT("Keywords"), Declared.Keywords},
+		{TEXT("CompactNodeTitle"), Declared.CompactNodeTitle},
+	};
+	for (const auto& Text : Texts)
+	{
+		if (!Text.Value.IsEmpty())
+		{
+			Function.SetMetaData(Text.Key, *Text.Value.ToString());
+		}
+	}
+	SetFlag(Function, TEXT("CallInEditor"), Declared.bCallInEditor);
+	SetFlag(Function, TEXT("BlueprintThreadSafe"), Declared.bThreadSafe);
+	SetFlag(Function, TEXT("UnsafeDuringActorConstruction"), Declared.bIsUnsafeDuringActorConstruction);
+	SetDeprecation(Function, Declared.bIsDeprecated, Declared.DeprecationMessage);
+}
+
+/** A call's pins start with the values that the parameters have at the function's entry. */
+void SetParameterDefaults(UFunction& Function, const TArray<UEdGraphPin*>& Parameters)
+{
+	for (const UEdGraphPin* const Pin : Parameters)
+	{
+		const FString Value = Pin->GetDefaultAsString();
+		if (!Value.IsEmpty())
+		{
+			Function.SetMetaData(Pin->PinName, *Value);
+		}
+	}
+}
+}
+
 void FBlueprintClassBuilder::Build(TArray<FString>& OutErrors)
 {
 	Errors = &OutErrors;
@@ -271,14 +330,8 @@ void FBlueprintClassBuilder::AddFunctionOfGraph(const UEdGraph& Graph)
 		}
 	}
 	Function->StaticLink(true);
-	if (!Entry->MetaData.Category.IsEmpty())
-	{
-		Function->SetMetaData(TEXT("Category"), *Entry->MetaData.Category.ToString());
-	}
-	if (!Entry->MetaData.ToolTip.IsEmpty())
-	{
-		Function->SetMetaData(TEXT("ToolTip"), *Entry->MetaData.ToolTip.ToString());
-	}
+	SetDeclaredMetaData(*Function, Entry->MetaData);
+	SetParameterDefaults(*Function, GetParameterPins(*Entry, EGPD_Output));
 }
 
 void FBlueprintClassBuilder::AddFunctions()
@@ -320,7 +373,15 @@ void FBlueprintClassBuilder::AddEvents()
 		{
 			const uint32 Flags = FUNC_Event | FUNC_Public | FUNC_BlueprintEvent | Event->FunctionFlags |
 				(Event->IsA<UK2Node_CustomEvent>() ? FUNC_BlueprintCallable : FUNC_None);
-			AddFunction(Name, Flags, GetParameterPins(*Event, EGPD_Output), {});
+			const TArray<UEdGraphPin*> Parameters = GetParameterPins(*Event, EGPD_Output);
+			UFunction* const Function = AddFunction(Name, Flags, Parameters, {});
+			const UK2Node_CustomEvent* const Custom = Function ? Cast<UK2Node_CustomEvent>(Event) : nullptr;
+			if (Custom)
+			{
+				SetFlag(*Function, TEXT("CallInEditor"), Custom->bCallInEditor);
+				SetDeprecation(*Function, Custom->bIsDeprecated, Custom->DeprecationMessage);
+				SetParameterDefaults(*Function, Parameters);
+			}
 		}
 	}
 }

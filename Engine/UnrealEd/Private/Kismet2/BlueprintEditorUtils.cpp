@@ -269,6 +269,8 @@ void FBlueprintEditorUtils::RefreshAllNodes(UBlueprint* Blueprint)
 	{
 		return;
 	}
+	// Calls are rebuilt to what the Blueprint declares now; entries and events that are rebuilt may declare something else.
+	FKismetEditorUtilities::GenerateBlueprintSkeleton(Blueprint, true);
 	ReconstructAllNodes(Blueprint);
 	MarkBlueprintAsStructurallyModified(Blueprint);
 }

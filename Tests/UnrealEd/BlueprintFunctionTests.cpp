@@ -1,0 +1,128 @@
+#include "BlueprintEditTest.h"
+#include "K2Node_CustomEvent.h"
+#include "K2Node_FunctionEntry.h"
+#include "Kismet2/CompilerResultsLog.h"
+#include "Logging/TokenizedMessage.h"
+#include "UObject/UnrealType.h"
+
+namespace
+{
+class FBlueprintFunctionTest : public FBlueprintEditTest
+{
+protected:
+	static UK2Node_FunctionEntry* GetEntry(const UEdGraph* Function)
+	{
+		return CastChecked<UK2Node_FunctionEntry>(FBlueprintEditorUtils::GetEntryNode(Function));
+	}
+
+	static const UFunction* FindFunction(const UBlueprint* Of, const TCHAR* Name)
+	{
+		return Of->SkeletonGeneratedClass->FindFunctionByName(Name);
+	}
+
+	static UK2Node_CallFunction* AddCallOf(UEdGraph* ToGraph, const UFunction* Function)
+	{
+		return AddNode<UK2Node_CallFunction>(ToGraph, [Function](UK2Node_CallFunction& Node)
+			{ Node.SetFromFunction(Function); });
+	}
+
+	static FString CompileForErrors(UBlueprint* ToCompile)
+	{
+		FCompilerResultsLog Results(false);
+		Results.bSilentMode = true;
+		FKismetEditorUtilities::CompileBlueprint(ToCompile, EBlueprintCompileOptions::None, &Results);
+		FString Lines;
+		for (const TSharedRef<FTokenizedMessage>& Message : Results.Messages)
+		{
+			Lines += Message->ToText().ToString() + TEXT("|");
+		}
+		return Lines;
+	}
+};
+
+TEST_F(FBlueprintFunctionTest, CallsStartWithTheValuesThatParametersHaveAtTheEntry)
+{
+	UEdGraph* const Function = AddFunction(Blueprint, TEXT("Open"));
+	UK2Node_FunctionEntry* const Entry = GetEntry(Function);
+	UEdGraphPin* const Width = Entry->CreateUserDefinedPin(TEXT("Width"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+	Entry->CreateUserDefinedPin(TEXT("Name"), MakeType(UEdGraphSchema_K2::PC_String), EGPD_Output);
+	ASSERT_TRUE(Entry->ModifyUserDefinedPinDefaultValue(Entry->UserDefinedPins[0], TEXT("42")));
+	EXPECT_EQ(Width->DefaultValue, TEXT("42"));
+	FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
+	const UK2Node_CallFunction* const Call = AddCallOf(Graph, FindFunction(Blueprint, TEXT("Open")));
+	EXPECT_EQ(Call->FindPin(TEXT("Width"))->DefaultValue, TEXT("42"));
+	EXPECT_EQ(Call->FindPin(TEXT("Name"))->DefaultValue, FString());
+}
+
+TEST_F(FBlueprintFunctionTest, WhatIsDeclaredOfAFunctionReachesItsCalls)
+{
+	UEdGraph* const Function = AddFunction(Blueprint, TEXT("Open"));
+	UK2Node_FunctionEntry* const Entry = GetEntry(Function);
+	Entry->MetaData.Category = Title(TEXT("Doors|Main"));
+	Entry->MetaData.ToolTip = Title(TEXT("Opens it."));
+	Entry->MetaData.Keywords = Title(TEXT("unlock"));
+	Entry->MetaData.CompactNodeTitle = Title(TEXT("OP"));
+	Entry->MetaData.bCallInEditor = true;
+	Entry->MetaData.bIsDeprecated = true;
+	Entry->MetaData.DeprecationMessage = TEXT("Use Unlock.");
+	Entry->AddExtraFlags(FUNC_BlueprintPure);
+	FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
+	const UFunction* const Declared = FindFunction(Blueprint, TEXT("Open"));
+	EXPECT_TRUE(Declared->HasAllFunctionFlags(FUNC_BlueprintPure | FUNC_BlueprintCallable));
+	EXPECT_EQ(Declared->GetMetaData(TEXT("CallInEditor")), TEXT("true"));
+	EXPECT_FALSE(Declared->HasMetaData(TEXT("BlueprintThreadSafe")));
+	UK2Node_CallFunction* const Call = AddCallOf(Graph, Declared);
+	EXPECT_TRUE(Call->IsNodePure());
+	EXPECT_EQ(Call->GetExecPin(), nullptr);
+	EXPECT_EQ(Call->GetCompactNodeTitle().ToString(), TEXT("OP"));
+	EXPECT_TRUE(Call->GetTooltipText().ToString().Contains(TEXT("Opens it.")));
+	EXPECT_TRUE(Call->GetKeywords().ToString().Contains(TEXT("unlock")));
+	EXPECT_EQ(Call->GetMenuCategory().ToString(), TEXT("Doors|Main"));
+
+	// A pure call is compiled where its value is taken; here something is executed that does so.
+	Entry->ClearExtraFlags(FUNC_BlueprintPure);
+	FBlueprintEditorUtils::RefreshAllNodes(Blueprint);
+	ASSERT_NE(Call->GetExecPin(), nullptr) << "the call follows the function";
+	Graph->Nodes[0]->FindPin(UEdGraphSchema_K2::PN_Then)->MakeLinkTo(Call->GetExecPin());
+	EXPECT_TRUE(CompileForErrors(Blueprint).Contains(TEXT("is deprecated. Use Unlock.")));
+}
+
+TEST_F(FBlueprintFunctionTest, ACustomEventsDefaultsAndFlagsAreItsFunctions)
+{
+	UK2Node_CustomEvent* const Event = AddNode<UK2Node_CustomEvent>(Graph, [](UK2Node_CustomEvent& Node)
+		{
+			Node.CustomFunctionName = TEXT("Knock");
+			Node.bCallInEditor = true;
+			Node.FunctionFlags |= FUNC_Net | FUNC_NetServer | FUNC_NetReliable; });
+	Event->CreateUserDefinedPin(TEXT("Times"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+	ASSERT_TRUE(Event->ModifyUserDefinedPinDefaultValue(Event->UserDefinedPins[0], TEXT("3")));
+	FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	const UFunction* const Function = Blueprint->GeneratedClass->FindFunctionByName(TEXT("Knock"));
+	ASSERT_NE(Function, nullptr);
+	EXPECT_TRUE(Function->HasAllFunctionFlags(FUNC_Event | FUNC_Net | FUNC_NetServer | FUNC_NetReliable | FUNC_BlueprintCallable));
+	EXPECT_EQ(Function->GetMetaData(TEXT("CallInEditor")), TEXT("true"));
+	EXPECT_EQ(AddCallOf(Graph, Function)->FindPin(TEXT("Times"))->DefaultValue, TEXT("3"));
+}
+
+TEST_F(FBlueprintFunctionTest, APrivateFunctionIsForItsOwnBlueprintAndAProtectedOneForItsChildren)
+{
+	AddFunction(Blueprint, TEXT("Mine"));
+	AddFunction(Blueprint, TEXT("Ours"));
+	GetEntry(UEdGraphSchema_K2::GetFunctionGraph(Blueprint, TEXT("Mine")))->SetExtraFlags(FUNC_Private | FUNC_BlueprintCallable);
+	GetEntry(UEdGraphSchema_K2::GetFunctionGraph(Blueprint, TEXT("Ours")))->SetExtraFlags(FUNC_Protected | FUNC_BlueprintCallable);
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	UBlueprint* const Child = MakeBlueprint(TEXT("BP_Child"), Blueprint->GeneratedClass.Get());
+	UEdGraph* const ChildGraph = FBlueprintEditorUtils::FindEventGraph(Child);
+	UEdGraphPin* Then = ChildGraph->Nodes[0]->FindPin(UEdGraphSchema_K2::PN_Then);
+	for (const TCHAR* const Name : {TEXT("Mine"), TEXT("Ours")})
+	{
+		const UK2Node_CallFunction* const Call = AddCallOf(ChildGraph, Blueprint->GeneratedClass->FindFunctionByName(Name));
+		ASSERT_TRUE(ChildGraph->GetSchema()->TryCreateConnection(Then, Call->GetExecPin()));
+		Then = Call->GetThenPin();
+	}
+	const FString Errors = CompileForErrors(Child);
+	EXPECT_TRUE(Errors.Contains(TEXT("Function Mine is private and cannot be called outside of"))) << TCHAR_TO_UTF8(*Errors);
+	EXPECT_FALSE(Errors.Contains(TEXT("Ours"))) << TCHAR_TO_UTF8(*Errors);
+}
+}
