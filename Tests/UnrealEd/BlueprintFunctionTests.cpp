@@ -125,4 +125,46 @@ TEST_F(FBlueprintFunctionTest, APrivateFunctionIsForItsOwnBlueprintAndAProtected
 	EXPECT_TRUE(Errors.Contains(TEXT("Function Mine is private and cannot be called outside of"))) << TCHAR_TO_UTF8(*Errors);
 	EXPECT_FALSE(Errors.Contains(TEXT("Ours"))) << TCHAR_TO_UTF8(*Errors);
 }
+
+TEST_F(FBlueprintFunctionTest, CallsFollowTheParametersAndAnUndoTakesBothBack)
+{
+	UEdGraph* const Function = AddFunction(Blueprint, TEXT("Open"));
+	UK2Node_CallFunction* const Call = AddCallOf(Graph, FindFunction(Blueprint, TEXT("Open")));
+	UK2Node_CallFunction* const Sum = AddCall(Graph, TEXT("/Script/Engine.KismetMathLibrary"), TEXT("Add_IntInt"));
+	GEditor->ResetTransaction(Title(TEXT("Test")));
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Add parameter")));
+		UK2Node_FunctionEntry* const Entry = GetEntry(Function);
+		Entry->Modify();
+		Entry->CreateUserDefinedPin(TEXT("Width"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
+	}
+	UEdGraphPin* const Width = Call->FindPin(TEXT("Width"));
+	ASSERT_NE(Width, nullptr);
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Link")));
+		ASSERT_TRUE(Graph->GetSchema()->TryCreateConnection(Sum->GetReturnValuePin(), Width));
+	}
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Remove parameter")));
+		UK2Node_FunctionEntry* const Entry = GetEntry(Function);
+		Entry->Modify();
+		Entry->RemoveUserDefinedPin(Entry->UserDefinedPins[0]);
+		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
+	}
+	ASSERT_NE(Call->FindPin(TEXT("Width")), nullptr) << "its link is kept for the user to see";
+	EXPECT_TRUE(Call->FindPin(TEXT("Width"))->bOrphanedPin);
+	Graph->Nodes[0]->FindPin(UEdGraphSchema_K2::PN_Then)->MakeLinkTo(Call->GetExecPin());
+	EXPECT_TRUE(CompileForErrors(Blueprint).Contains(TEXT("In use pin Width no longer exists on node Open.")));
+	Graph->Nodes[0]->FindPin(UEdGraphSchema_K2::PN_Then)->BreakAllPinLinks();
+	Undo();
+	ASSERT_NE(Call->FindPin(TEXT("Width")), nullptr);
+	EXPECT_FALSE(Call->FindPin(TEXT("Width"))->bOrphanedPin);
+	EXPECT_EQ(Call->FindPin(TEXT("Width"))->LinkedTo.Num(), 1);
+	Undo();
+	Undo();
+	EXPECT_EQ(Call->FindPin(TEXT("Width")), nullptr);
+	Redo();
+	EXPECT_NE(Call->FindPin(TEXT("Width")), nullptr);
+}
 }

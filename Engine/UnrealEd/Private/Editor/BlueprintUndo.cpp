@@ -7,6 +7,7 @@
 #include "K2Node_Event.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/EnumEditorUtils.h"
+#include "Kismet2/KismetEditorUtilities.h"
 
 namespace
 {
@@ -69,13 +70,11 @@ void FBlueprintUndo::Refresh()
 	Enums.Empty();
 	for (const TPair<UBlueprint*, bool>& Blueprint : Blueprints)
 	{
-		if (Blueprint.Value)
+		if (Blueprint.Value && !Blueprint.Key->bBeingCompiled)
 		{
-			FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint.Key);
+			// The skeleton alone: nodes are as the undo put them.
+			FKismetEditorUtilities::GenerateBlueprintSkeleton(Blueprint.Key, true);
 		}
-		else
-		{
-			FBlueprintEditorUtils::MarkBlueprintAsModified(Blueprint.Key);
-		}
+		FBlueprintEditorUtils::MarkBlueprintAsModified(Blueprint.Key);
 	}
 }

@@ -6,6 +6,8 @@
 #include "EdGraphSchema_K2.h"
 #include "Engine/BlueprintGeneratedClass.h"
 #include "GameFramework/Actor.h"
+#include "K2Node_BaseMCDelegate.h"
+#include "K2Node_CallFunction.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_FunctionEntry.h"
 #include "K2Node_FunctionResult.h"
@@ -18,6 +20,55 @@
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
+
+namespace
+{
+using FSignatures = TMap<FName, FString>;
+
+/** The parameters of each function that the class itself has, as text. */
+FSignatures DescribeFunctions(const UClass* Class)
+{
+	FSignatures Signatures;
+	for (TFieldIterator<UFunction> Function(Class, EFieldIterationFlags::None); Class && Function; ++Function)
+	{
+		FString& Text = Signatures.Add(Function->GetFName());
+		Text = FString::Printf(TEXT("%x"), static_cast<uint32>(Function->FunctionFlags));
+		for (TFieldIterator<FProperty> Parameter(*Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+		{
+			FString Inner;
+			const FString Type = Parameter->GetCPPType(&Inner, 0);
+			Text += FString::Printf(TEXT(";%s %s%s %llx"), *Parameter->GetName(), *Type, *Inner, static_cast<uint64>(Parameter->PropertyFlags));
+		}
+	}
+	return Signatures;
+}
+
+/** Calls follow their function within the edit that changed it, so that both are undone together. */
+void ReconstructCallsOfChanged(UBlueprint& Blueprint, const FSignatures& Before)
+{
+	for (const TPair<FName, FString>& Now : DescribeFunctions(Blueprint.SkeletonGeneratedClass.Get()))
+	{
+		const FString* const Then = Before.Find(Now.Key);
+		if (!Then || *Then == Now.Value)
+		{
+			continue;
+		}
+		FString Dispatcher = Now.Key.ToString();
+		const bool bIsDispatcher = Dispatcher.RemoveFromEnd(TEXT("__DelegateSignature"), ESearchCase::CaseSensitive);
+		const TArray<FMemberUse> Uses = bIsDispatcher ? FMemberUses::FindOfVariable(Blueprint, FName(*Dispatcher))
+													  : FMemberUses::FindOfFunction(Blueprint, Now.Key);
+		for (const FMemberUse& Use : Uses)
+		{
+			const bool bIsCall = Use.Node->IsA<UK2Node_CallFunction>() || Use.Node->IsA<UK2Node_BaseMCDelegate>();
+			if (bIsCall && Use.Node->GetBlueprint() == &Blueprint)
+			{
+				Use.Node->Modify();
+				Use.Node->ReconstructNode();
+			}
+		}
+	}
+}
+}
 
 // Finding
 
@@ -249,7 +300,9 @@ void FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(UBlueprint* Blue
 	{
 		return;
 	}
+	const FSignatures Before = DescribeFunctions(Blueprint->SkeletonGeneratedClass.Get());
 	FKismetEditorUtilities::GenerateBlueprintSkeleton(Blueprint, true);
+	ReconstructCallsOfChanged(*Blueprint, Before);
 	MarkBlueprintAsModified(Blueprint);
 }
 
