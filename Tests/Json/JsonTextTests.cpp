@@ -156,3 +156,44 @@ TEST(JsonText, AnUnfinishedDocumentIsWrittenAsFarAsItCame)
 	}
 	EXPECT_EQ(Text, TEXT("{\"a\":1,\"b\":2"));
 }
+
+TEST(JsonText, ACharacterThatNeedsAnEscapeGetsItWhereverItStands)
+{
+	for (int32 Code = 0; Code < 0x120; ++Code)
+	{
+		const TCHAR Character = TCHAR(Code);
+		for (const int32 Position : {0, 3, 6})
+		{
+			FString Text = TEXT("abcdef");
+			Text.InsertAt(Position, Code == 0 ? TCHAR('\1') : Character);
+			const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+			Object->SetStringField(Text, Text);
+			FString Written;
+			ASSERT_TRUE(FJsonSerializer::Serialize(Object, TJsonWriterFactory<TCHAR, TCondensedJsonPrintPolicy<TCHAR>>::Create(&Written)));
+			const bool bEscaped = Code < 0x20 || Character == '"' || Character == '\\';
+			EXPECT_EQ(Written.Contains(TEXT("\\")), bEscaped) << Code;
+			EXPECT_EQ(Written.Len() > 2 * Text.Len() + 7, bEscaped) << Code;
+			TSharedPtr<FJsonObject> Again;
+			ASSERT_TRUE(FJsonSerializer::Deserialize(TJsonReaderFactory<>::Create(Written), Again)) << Code;
+			EXPECT_TRUE(Again->GetStringField(Text).Equals(Text, ESearchCase::CaseSensitive)) << Code;
+		}
+	}
+}
+
+TEST(JsonText, WritersAddToTheTextThatIsThere)
+{
+	FString Text = TEXT("before ");
+	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	Object->SetStringField(TEXT("a"), TEXT("b"));
+	{
+		const auto Writer = TJsonWriterFactory<TCHAR, TCondensedJsonPrintPolicy<TCHAR>>::Create(&Text);
+		EXPECT_TRUE(FJsonSerializer::Serialize(Object, Writer));
+		EXPECT_EQ(Text, TEXT("before {\"a\":\"b\"}"));
+	}
+	EXPECT_EQ(Text, TEXT("before {\"a\":\"b\"}")) << "a second flush adds nothing";
+	FString Fresh;
+	EXPECT_TRUE(FJsonSerializer::Serialize(Object, TJsonWriterFactory<TCHAR, TCondensedJsonPrintPolicy<TCHAR>>::Create(&Fresh)));
+	EXPECT_EQ(Fresh, TEXT("{\"a\":\"b\"}"));
+	EXPECT_EQ(Fresh.Len(), 9);
+	EXPECT_EQ((*Fresh)[Fresh.Len()], TCHAR(0));
+}

@@ -41,6 +41,8 @@ FString ToString(const ANSICHAR* Utf8, size_t Length)
 	if (Length > 0)
 	{
 		TArray<TCHAR>& Characters = Text.GetCharArray();
+		// Texts of a document seldom grow, so they get no room to.
+		Characters.Reserve(int32(Length) + 1);
 		Characters.SetNumUninitialized(int32(Length) + 1);
 		TCHAR* const Out = Characters.GetData();
 		for (size_t Index = 0; Index < Length; ++Index)

@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
+#include "Dom/JsonPrefetch.h"
 #include "Dom/JsonValue.h"
 #include "Serialization/JsonReader.h"
 #include "Serialization/JsonWriter.h"
@@ -65,6 +66,7 @@ private:
 			return false;
 		}
 		Writer.WriteObjectStart();
+		UE::Json::Private::FetchFields(Object);
 		for (const auto& [Name, Value] : Object.Values)
 		{
 			Writer.WriteIdentifierPrefix(Name);
@@ -85,8 +87,10 @@ private:
 			return false;
 		}
 		Writer.WriteArrayStart();
+		UE::Json::Private::FElementFetcher Fetcher(Array);
 		for (const TSharedPtr<FJsonValue>& Value : Array)
 		{
+			Fetcher.Advance();
 			if (!WriteValue(Value.Get(), Writer, Depth + 1))
 			{
 				return false;

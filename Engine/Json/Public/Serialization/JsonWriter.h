@@ -31,6 +31,8 @@ public:
 	/** What was written since the writer was made, or since this was last asked. */
 	virtual FStringView GetText() const = 0;
 	virtual void ClearText() = 0;
+	/** Moves that text to the end of Output, which costs nothing where Output is empty. */
+	virtual void TakeText(FString& Output) = 0;
 };
 
 JSON_API TUniquePtr<IDocumentWriter> MakeDocumentWriter(bool bPretty);
@@ -113,12 +115,10 @@ private:
 	{
 		if (StringOutput)
 		{
-			StringOutput->Append(Document->GetText());
+			Document->TakeText(*StringOutput);
+			return;
 		}
-		else
-		{
-			UE::Json::Private::WriteText(*ArchiveOutput, Document->GetText(), sizeof(CharType) == 1);
-		}
+		UE::Json::Private::WriteText(*ArchiveOutput, Document->GetText(), sizeof(CharType) == 1);
 		Document->ClearText();
 	}
 
