@@ -1,5 +1,7 @@
 #include "Containers/StringConv.h"
 #include "HeadlessEditor.h"
+#include "Logging/LogMacros.h"
+#include "Misc/CommandLine.h"
 #include "ProjectDescriptor.h"
 
 #include <gtest/gtest.h>
@@ -8,6 +10,8 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
+#include <set>
+#include <sstream>
 
 namespace
 {
@@ -29,6 +33,108 @@ namespace
 	std::filesystem::remove_all(Directory, Ignored);
 	std::cerr << "[" << TCHAR_TO_UTF8(*Failure) << "] " << (FHeadlessEditor::IsRunning() ? "running" : "not running") << std::endl;
 	std::_Exit(0);
+}
+
+std::string ReadFile(const std::filesystem::path& Path)
+{
+	std::ostringstream Text;
+	Text << std::ifstream(Path).rdbuf();
+	return Text.str();
+}
+
+/** A project whose settings ask for more of the editor's log, and which has logs of earlier runs. */
+class FLogProject
+{
+public:
+	FLogProject()
+	{
+		// The process that runs the editor comes this way again, and takes the project that is there.
+		GTEST_FLAG_SET(death_test_style, "threadsafe");
+		if (const char* const Existing = getenv(EnvironmentName))
+		{
+			Directory = Existing;
+			return;
+		}
+		std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-log-test-XXXXXX").string();
+		Directory = mkdtemp(Pattern.data());
+		setenv(EnvironmentName, Directory.c_str(), 1);
+		std::filesystem::create_directories(Directory / "Config");
+		std::filesystem::create_directories(Logs());
+		std::ofstream(Directory / "Game.uproject") << R"({"FileVersion": 3})";
+		std::ofstream(Directory / "Config/DefaultEngine.ini") << "[Core.Log]\nLogHeadlessEditor=Verbose\n[LogFiles]\nMaxLogFilesOnDisk=3\n";
+		std::ofstream(Logs() / "Game.log") << "of the last run\n";
+		std::ofstream(Logs() / "Other.log") << "of somebody else\n";
+		for (int Index = 0; Index < 5; ++Index)
+		{
+			const std::filesystem::path Backup = Logs() / ("Game-backup-" + std::to_string(Index) + ".log");
+			std::ofstream(Backup) << "of an older run\n";
+			std::filesystem::last_write_time(Backup, std::filesystem::file_time_type::clock::now() - std::chrono::hours(1 + Index));
+		}
+	}
+	~FLogProject()
+	{
+		unsetenv(EnvironmentName);
+		std::error_code Ignored;
+		std::filesystem::remove_all(Directory, Ignored);
+	}
+
+	std::filesystem::path Logs() const { return Directory / "Saved/Logs"; }
+
+	/** Runs an editor from start to end in a process of its own, which says on standard error whether it did. */
+	[[noreturn]] void RunAndExit(const TCHAR* CommandLine) const
+	{
+		FCommandLine::Set(CommandLine);
+		FHeadlessEditorOptions Options;
+		Options.EngineDir = FString(UTF8_TO_TCHAR(VEXEL_SOURCE_DIR "/Engine"));
+		Options.Project = FString(UTF8_TO_TCHAR(Directory.c_str()));
+		const FString Failure = FHeadlessEditor::Start(Options);
+		FHeadlessEditor::Stop();
+		UE_LOG(LogTemp, Error, TEXT("after the end"));
+		std::cerr << "ended [" << TCHAR_TO_UTF8(*Failure) << "]" << std::endl;
+		std::_Exit(0);
+	}
+
+	static constexpr const char* EnvironmentName = "VEXEL_LOG_TEST_PROJECT";
+	std::filesystem::path Directory;
+};
+
+TEST(HeadlessEditorLog, LiesInTheProjectAndObeysItsSettings)
+{
+	const FLogProject Project;
+	EXPECT_EXIT(Project.RunAndExit(TEXT("")), testing::ExitedWithCode(0), "ended \\[\\]");
+	const std::string Log = ReadFile(Project.Logs() / "Game.log");
+	EXPECT_NE(Log.find("LogInit: Display: Log of the project Game"), std::string::npos) << Log;
+	EXPECT_NE(Log.find("LogHeadlessEditor: Verbose: "), std::string::npos) << Log;
+	EXPECT_EQ(Log.find("of the last run"), std::string::npos);
+	EXPECT_EQ(Log.find("after the end"), std::string::npos);
+}
+
+TEST(HeadlessEditorLog, ObeysTheCommandLineAboveTheSettings)
+{
+	const FLogProject Project;
+	EXPECT_EXIT(Project.RunAndExit(TEXT("-LogCmds=\"LogHeadlessEditor Warning\"")), testing::ExitedWithCode(0), "ended \\[\\]");
+	const std::string Log = ReadFile(Project.Logs() / "Game.log");
+	EXPECT_FALSE(Log.empty());
+	EXPECT_EQ(Log.find("LogHeadlessEditor"), std::string::npos) << Log;
+}
+
+TEST(HeadlessEditorLog, KeepsTheNewestLogsOfEarlierRuns)
+{
+	const FLogProject Project;
+	EXPECT_EXIT(Project.RunAndExit(TEXT("")), testing::ExitedWithCode(0), "ended \\[\\]");
+	std::set<std::string> Older;
+	int NumLast = 0;
+	for (const std::filesystem::directory_entry& Entry : std::filesystem::directory_iterator(Project.Logs()))
+	{
+		NumLast += ReadFile(Entry.path()) == "of the last run\n";
+		if (ReadFile(Entry.path()) == "of an older run\n")
+		{
+			Older.insert(Entry.path().filename().string());
+		}
+	}
+	EXPECT_EQ(NumLast, 1);
+	EXPECT_EQ(Older, (std::set<std::string>{"Game-backup-0.log", "Game-backup-1.log"}));
+	EXPECT_TRUE(std::filesystem::exists(Project.Logs() / "Other.log"));
 }
 
 TEST(HeadlessEditorStart, SaysInOneLineWhyItDidNotStart)

@@ -3,6 +3,7 @@
 #include "Async/TaskGraphInterfaces.h"
 #include "Containers/Ticker.h"
 #include "Editor/EditorEngine.h"
+#include "EditorLog.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformTime.h"
 #include "Interfaces/IProjectManager.h"
@@ -99,6 +100,7 @@ FString FHeadlessEditor::Start(const FHeadlessEditorOptions& Options)
 	FPaths::SetProjectSavedDir(Options.SavedDir);
 	FApp::SetProjectName(*FPaths::GetBaseFilename(ProjectFile));
 	FConfigCacheIni::InitializeConfigSystem();
+	EditorLog::Open();
 	bStartedTaskGraph = !FTaskGraphInterface::IsRunning();
 	if (bStartedTaskGraph)
 	{
@@ -165,6 +167,7 @@ void FHeadlessEditor::Stop()
 	{
 		FTaskGraphInterface::Shutdown();
 	}
+	EditorLog::Close();
 	FConfigCacheIni::ShutdownConfigSystem();
 }
 

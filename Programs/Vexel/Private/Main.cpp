@@ -2,6 +2,7 @@
 #include "Console.h"
 #include "Containers/StringConv.h"
 #include "Logging/LogMacros.h"
+#include "Misc/CommandLine.h"
 #include "Misc/OutputDeviceRedirector.h"
 
 #include <clocale>
@@ -21,7 +22,26 @@ void WriteHelp()
 			FConsole::WriteLine(FString::Printf(TEXT("      %-22s %s"), *Words, Option.Help));
 		}
 	}
+	FConsole::WriteLine(TEXT("\nEvery command also takes the engine's -LogCmds=\"CATEGORY VERBOSITY, ...\" for the log in the project's Saved/Logs,\n"
+							 "and -ini:FILE:[SECTION]:KEY=VALUE for a setting."));
 	FConsole::WriteLine(TEXT("\nExit status: 0 done, 1 the request failed, 2 wrong usage."));
+}
+
+/** Takes the engine's own switches out of the words: its modules read them from the engine's command line. */
+void TakeEngineSwitches(TArray<FString>& Words)
+{
+	TArray<const TCHAR*> Switches = {TEXT("vexel")};
+	const auto IsSwitch = [](const FString& Word)
+	{ return Word.StartsWith(TEXT("-LogCmds=")) || Word.StartsWith(TEXT("-ini:")); };
+	for (const FString& Word : Words)
+	{
+		if (IsSwitch(Word))
+		{
+			Switches.Add(*Word);
+		}
+	}
+	FCommandLine::Set(*FCommandLine::BuildFromArgV(nullptr, Switches.Num(), Switches.GetData(), nullptr));
+	Words.RemoveAll(IsSwitch);
 }
 
 int32 FailUsage(const FString& Reason)
@@ -44,6 +64,7 @@ int main(int NumWords, char** RawWords)
 	{
 		Words.Add(FString(UTF8_TO_TCHAR(RawWords[Index])));
 	}
+	TakeEngineSwitches(Words);
 	const FString Name = Words.IsEmpty() ? FString(TEXT("help")) : Words[0];
 	if (Name == TEXT("help") || Name == TEXT("--help") || Name == TEXT("-h"))
 	{
