@@ -164,3 +164,29 @@ TEST_F(FLogCommandTest, OlderFileIsKeptOrContinued)
 	Nowhere.Log(TEXT("lost"));
 	EXPECT_EQ(Read(Path), "new\n");
 }
+
+TEST_F(FLogCommandTest, AFullDiskIsToldOnceAndEndsTheFileAlone)
+{
+	// The device of which every write fails with "no space left".
+	const TCHAR* const Full = TEXT("/dev/full");
+	if (!FPaths::FileExists(Full))
+	{
+		GTEST_SKIP() << "this system has no /dev/full";
+	}
+	FOutputDeviceFile File(Full, true, true);
+	const FLogCapture Capture;
+	GLog->AddOutputDevice(&File);
+	UE_LOG(LogCommandsA, Error, TEXT("first"));
+	UE_LOG(LogCommandsA, Error, TEXT("second"));
+	GLog->Flush();
+	GLog->RemoveOutputDevice(&File);
+	int32 NumFailures = 0;
+	int32 NumOwn = 0;
+	for (const FLogCapture::FLine& Line : Capture.GetLines())
+	{
+		NumFailures += Line.Text.starts_with("Writing /dev/full failed: ");
+		NumOwn += Line.Category == "LogCommandsA";
+	}
+	EXPECT_EQ(NumFailures, 1);
+	EXPECT_EQ(NumOwn, 2);
+}

@@ -52,13 +52,36 @@ bool FOutputDeviceFile::Open()
 	return !bIsDead;
 }
 
-void FOutputDeviceFile::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
+template <typename ActionType>
+void FOutputDeviceFile::Use(ActionType Action)
 {
 	const std::lock_guard Lock(Mutex);
-	if (!Open())
+	if (bIsInUse)
 	{
 		return;
 	}
+	bIsInUse = true;
+	Action();
+	if (File.IsValid() && File->IsError())
+	{
+		File.Reset();
+		bIsDead = true;
+	}
+	bIsInUse = false;
+}
+
+void FOutputDeviceFile::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
+{
+	Use([&]
+		{
+			if (Open())
+			{
+				Write(V, Verbosity, Category);
+			} });
+}
+
+void FOutputDeviceFile::Write(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category)
+{
 	TStringBuilder<512> Line;
 	if (!bSuppressEventTag)
 	{
@@ -88,16 +111,18 @@ void FOutputDeviceFile::Serialize(const TCHAR* V, ELogVerbosity::Type Verbosity,
 
 void FOutputDeviceFile::Flush()
 {
-	const std::lock_guard Lock(Mutex);
-	if (File.IsValid())
-	{
-		File->Flush();
-	}
+	Use([this]
+		{
+			if (File.IsValid())
+			{
+				File->Flush();
+			} });
 }
 
 void FOutputDeviceFile::TearDown()
 {
-	const std::lock_guard Lock(Mutex);
-	File.Reset();
-	bIsDead = true;
+	Use([this]
+		{
+			File.Reset();
+			bIsDead = true; });
 }

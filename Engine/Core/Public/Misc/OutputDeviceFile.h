@@ -31,12 +31,17 @@ public:
 
 private:
 	bool Open();
+	void Write(const TCHAR* V, ELogVerbosity::Type Verbosity, const FName& Category);
+	/** Runs what touches the file, unless it is the file itself that logs: a full disk says so while a line is written. */
+	template <typename ActionType>
+	void Use(ActionType Action);
 
-	std::mutex Mutex;
+	std::recursive_mutex Mutex;
 	FString Filename;
 	TUniquePtr<FArchive> File;
 	bool bDisableBackup;
 	bool bAppendIfExists;
-	/** A file that cannot be opened is not tried again for every line. */
+	/** A file that cannot be opened or written is not tried again for every line. */
 	bool bIsDead = false;
+	bool bIsInUse = false;
 };
