@@ -15,6 +15,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 namespace
@@ -178,6 +179,44 @@ void MakePlain(benchmark::State& State)
 	}
 }
 
+/** A collection that finds everything unreachable: objects leave their tables, are destroyed and freed. */
+void PurgeObjects(benchmark::State& State)
+{
+	UPackage* const Package = GetPackage();
+	UClass* const Class = GetNodeClass();
+	CollectGarbage(RF_NoFlags);
+	for (auto _ : State)
+	{
+		State.PauseTiming();
+		for (int32 Index = 0; Index < NumObjects; ++Index)
+		{
+			benchmark::DoNotOptimize(NewObject<UObject>(Package, Class));
+		}
+		State.ResumeTiming();
+		CollectGarbage(RF_NoFlags);
+	}
+}
+
+/** The peer: counted nodes with a weak pointer each, found by name in a table. */
+void FreeShared(benchmark::State& State)
+{
+	std::unordered_map<std::string, std::shared_ptr<FPlainNode>> Nodes;
+	for (auto _ : State)
+	{
+		State.PauseTiming();
+		std::vector<std::weak_ptr<FPlainNode>> Watchers;
+		for (int32 Index = 0; Index < NumObjects; ++Index)
+		{
+			const std::shared_ptr<FPlainNode> Node = std::make_shared<FPlainNode>();
+			Watchers.push_back(Node);
+			Nodes.emplace("BenchmarkNode_C_" + std::to_string(Index), Node);
+		}
+		State.ResumeTiming();
+		Nodes.clear();
+		benchmark::DoNotOptimize(Watchers.data());
+	}
+}
+
 void ExportStruct(benchmark::State& State)
 {
 	ProcessNewlyLoadedUObjects();
@@ -274,6 +313,8 @@ void ParseHeaders(benchmark::State& State)
 
 BENCHMARK(CollectObjects)->Name("CollectGarbage/Ours")->Unit(benchmark::kMillisecond);
 BENCHMARK(MarkIndices)->Name("CollectGarbage/Peer:index_marking")->Unit(benchmark::kMillisecond);
+BENCHMARK(PurgeObjects)->Name("PurgeGarbage/Ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(FreeShared)->Name("PurgeGarbage/Peer:shared_ptr_table")->Unit(benchmark::kMillisecond);
 BENCHMARK(MakeObjects)->Name("NewObject/Ours")->Unit(benchmark::kMillisecond);
 BENCHMARK(MakePlain)->Name("NewObject/Peer:new")->Unit(benchmark::kMillisecond);
 BENCHMARK(ExportStruct)->Name("StructText/Ours");
