@@ -4,19 +4,21 @@
 #include "UObject/UnrealType.h"
 
 #include <chrono>
+#include <string>
+#include <string_view>
 
 using namespace UE::CoreUObject;
 
 namespace
 {
-FScriptHeaderReport LoadTexts(const std::initializer_list<const char*> Texts)
+FScriptHeaderReport LoadTexts(const std::initializer_list<std::string_view> Texts)
 {
 	TArray<FScriptHeaderSource> Sources;
-	for (const char* const Text : Texts)
+	for (const std::string_view Text : Texts)
 	{
 		FScriptHeaderSource& Source = Sources.AddDefaulted_GetRef();
 		Source.Path = TEXT("Test.h");
-		Source.Text.Append(reinterpret_cast<const uint8*>(Text), static_cast<int32>(std::strlen(Text)));
+		Source.Text.Append(reinterpret_cast<const uint8*>(Text.data()), static_cast<int32>(Text.size()));
 	}
 	return LoadScriptHeaderSources(Sources);
 }
@@ -142,6 +144,45 @@ TEST_F(FScriptHeaders, ClassIsContinuedInAnotherHeader)
 	const FProperty* const Second = Long->FindPropertyByName(TEXT("SecondValue"));
 	ASSERT_TRUE(First && Second);
 	EXPECT_NE(First->GetOffset_ForInternal(), Second->GetOffset_ForInternal());
+}
+
+TEST_F(FScriptHeaders, EveryContinuationsInitialValuesCount)
+{
+	const auto MakeContinuation = [](const std::string& Members)
+	{
+		return "// Package: /Script/HeaderTestDefaults\n// Continues\nUCLASS()\nclass UContinuedDefaults : public UObject\n{\n"
+			   "\tGENERATED_BODY()\n" +
+			Members + "};\n";
+	};
+	const FScriptHeaderReport Report = LoadTexts({MakeContinuation("\tUPROPERTY() int32 Second = 2;\n\tUPROPERTY() FString Empty;\n"),
+		// One that the class has already stays as the class declares it.
+		MakeContinuation("\tUPROPERTY() int32 First = 9;\n\tUPROPERTY() FVector Third = FVector(3);\n"),
+		"// Package: /Script/HeaderTestDefaults\nUCLASS()\nclass UContinuedDefaults : public UObject\n{\n\tGENERATED_BODY()\n"
+		"\tUPROPERTY() int32 First = 1;\n};\n"
+		"UCLASS()\nclass UContinuedDefaultsChild : public UContinuedDefaults\n{\n\tGENERATED_BODY()\n\tUPROPERTY() int32 Own = 4;\n};\n"});
+	EXPECT_EQ(Report.Errors, TArray<FString>());
+	for (const TCHAR* const Name : {TEXT("ContinuedDefaults"), TEXT("ContinuedDefaultsChild")})
+	{
+		const UClass* const Class = FindObject<UClass>(nullptr, *(FString(TEXT("/Script/HeaderTestDefaults.")) + Name));
+		ASSERT_NE(Class, nullptr);
+		for (UObject* const Object : {Class->GetDefaultObject(), NewObject<UObject>(Package, Class)})
+		{
+			EXPECT_EQ(*FindFProperty<FIntProperty>(Class, TEXT("First"))->ContainerPtrToValuePtr<int32>(Object), 1);
+			EXPECT_EQ(*FindFProperty<FIntProperty>(Class, TEXT("Second"))->ContainerPtrToValuePtr<int32>(Object), 2);
+			EXPECT_EQ(*FindFProperty<FStructProperty>(Class, TEXT("Third"))->ContainerPtrToValuePtr<FVector>(Object), FVector(3.0));
+		}
+	}
+}
+
+TEST_F(FScriptHeaders, AMistakeInAContinuationsInitialValueNamesItsFile)
+{
+	const FScriptHeaderReport Report = LoadTexts({"// Package: /Script/HeaderTestMistake\nUCLASS()\nclass UMistaken : public UObject\n{\n"
+												  "\tGENERATED_BODY()\n};\n",
+		"// Package: /Script/HeaderTestMistake\n// Continues\nUCLASS()\nclass UMistaken : public UObject\n{\n"
+		"\tGENERATED_BODY()\n\tUPROPERTY() int32 Value = ComputeIt();\n};\n"});
+	ASSERT_EQ(Report.Errors.Num(), 1);
+	EXPECT_TRUE(Report.Errors[0].Contains(TEXT("Value"))) << TCHAR_TO_UTF8(*Report.Errors[0]);
+	EXPECT_TRUE(Report.Errors[0].Contains(TEXT(":7:"))) << TCHAR_TO_UTF8(*Report.Errors[0]);
 }
 
 TEST_F(FScriptHeaders, ContinuationWithoutItsClassIsAnError)

@@ -113,9 +113,8 @@ TArray<FProperty*> FScriptHeaderTypes::AddProperties(
 }
 
 void FScriptHeaderTypes::ReadDefaults(
-	UStruct* Struct, const TArray<FProperty*>& Added, const std::vector<FPropertyDeclaration>& Declarations, const FSource& Source)
+	FDeclaredDefaults& Defaults, const TArray<FProperty*>& Added, const std::vector<FPropertyDeclaration>& Declarations, const FSource& Source)
 {
-	TUniquePtr<FDeclaredDefaults> Defaults = MakeUnique<FDeclaredDefaults>();
 	// Properties were added in the order of their declarations, of which some may have been refused.
 	int32 Next = 0;
 	for (const FPropertyDeclaration& Declaration : Declarations)
@@ -128,17 +127,13 @@ void FScriptHeaderTypes::ReadDefaults(
 		void* const Value = Property->AllocateAndInitializeValue();
 		if (FInitialiserReader(ToText(Declaration.DefaultText)).Read(Property, Value))
 		{
-			Defaults->Add(Property, Value);
+			Defaults.Add(Property, Value);
 			continue;
 		}
 		Property->DestroyAndFreeValue(Value);
 		AddError(Source, Declaration.Position,
 			FString::Printf(TEXT("the initial value of %s is not understood, so it is zero: %s"), *Property->GetName(),
 				*ToText(Declaration.DefaultText)));
-	}
-	if (!Defaults->IsEmpty())
-	{
-		Struct->SetDeclaredDefaults(Defaults.Release());
 	}
 }
 

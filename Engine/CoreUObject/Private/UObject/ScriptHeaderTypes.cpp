@@ -1,6 +1,7 @@
 #include "ScriptHeaderTypes.h"
 
 #include "CompiledInTypes.h"
+#include "DeclaredDefaults.h"
 #include "ScriptHeaderText.h"
 #include "UObject/Interface.h"
 #include "UObject/Package.h"
@@ -21,6 +22,14 @@ void SetMetaData(UField* Field, const HeaderParser::FMetaData& MetaData)
 	if (!MetaData.Pairs().empty())
 	{
 		Field->GetPackage()->GetMetaData().SetObjectValues(Field, ToMap(MetaData));
+	}
+}
+
+void SetDefaults(UStruct* Struct, TUniquePtr<FDeclaredDefaults>&& Defaults)
+{
+	if (!Defaults->IsEmpty())
+	{
+		Struct->SetDeclaredDefaults(Defaults.Release());
 	}
 }
 }
@@ -261,7 +270,9 @@ void FScriptHeaderTypes::CompleteStruct(FStructInProgress& Struct)
 	StructsBeingLaidOut.Remove(Struct.Struct);
 	MarkInstancedReferences(Struct.Struct);
 	Struct.Struct->StaticLink(true);
-	ReadDefaults(Struct.Struct, Added, Declaration.Properties, *Struct.Source);
+	TUniquePtr<FDeclaredDefaults> Defaults = MakeUnique<FDeclaredDefaults>();
+	ReadDefaults(*Defaults, Added, Declaration.Properties, *Struct.Source);
+	SetDefaults(Struct.Struct, MoveTemp(Defaults));
 }
 
 void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
@@ -294,10 +305,10 @@ void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
 	Class.Class->Bind();
 	SetMetaData(Class.Class, Declaration.MetaData);
 	AddInterfaces(Class);
-	const TArray<FProperty*> Added = AddClassProperties(Class);
+	const TArray<TArray<FProperty*>> Added = AddClassProperties(Class);
 	MarkInstancedReferences(Class.Class);
 	Class.Class->StaticLink(true);
-	ReadDefaults(Class.Class, Added, Declaration.Properties, *Class.Source);
+	ReadClassDefaults(Class, Added);
 }
 
 void FScriptHeaderTypes::ExtendClass(FClassInProgress& Extension)
@@ -311,7 +322,12 @@ void FScriptHeaderTypes::ExtendClass(FClassInProgress& Extension)
 		}
 	}
 	AddInterfaces(Extension);
-	const TArray<FProperty*> Added = AddClassProperties(Extension);
+	const TArray<TArray<FProperty*>> AddedByDeclaration = AddClassProperties(Extension);
+	TArray<FProperty*> Added;
+	for (const TArray<FProperty*>& Properties : AddedByDeclaration)
+	{
+		Added.Append(Properties);
+	}
 	if (Added.IsEmpty())
 	{
 		return;
@@ -338,7 +354,7 @@ void FScriptHeaderTypes::ExtendClass(FClassInProgress& Extension)
 		Member->PropertiesSize = End;
 		Member->StaticLink();
 	}
-	ReadDefaults(Class, Added, Extension.Declaration->Properties, *Extension.Source);
+	ReadClassDefaults(Extension, AddedByDeclaration);
 }
 
 void FScriptHeaderTypes::AddInterfaces(FClassInProgress& Class)
@@ -396,14 +412,27 @@ void FScriptHeaderTypes::AddFunctions(UClass* Class, const std::vector<FFunction
 	Report.NumFunctions += Added.Num();
 }
 
-TArray<FProperty*> FScriptHeaderTypes::AddClassProperties(FClassInProgress& Class)
+TArray<TArray<FProperty*>> FScriptHeaderTypes::AddClassProperties(FClassInProgress& Class)
 {
-	TArray<FProperty*> Added = AddProperties(Class.Class, Class.Declaration->Properties, *Class.Source);
+	TArray<TArray<FProperty*>> Added;
+	Added.Add(AddProperties(Class.Class, Class.Declaration->Properties, *Class.Source));
 	for (const TDeclared<FClassDeclaration>& Continuation : Class.Continuations)
 	{
-		Added.Append(AddProperties(Class.Class, Continuation.Declaration->Properties, *Continuation.Source));
+		Added.Add(AddProperties(Class.Class, Continuation.Declaration->Properties, *Continuation.Source));
 	}
 	return Added;
+}
+
+void FScriptHeaderTypes::ReadClassDefaults(FClassInProgress& Class, const TArray<TArray<FProperty*>>& Added)
+{
+	TUniquePtr<FDeclaredDefaults> Defaults = MakeUnique<FDeclaredDefaults>();
+	ReadDefaults(*Defaults, Added[0], Class.Declaration->Properties, *Class.Source);
+	int32 Index = 0;
+	for (const TDeclared<FClassDeclaration>& Continuation : Class.Continuations)
+	{
+		ReadDefaults(*Defaults, Added[++Index], Continuation.Declaration->Properties, *Continuation.Source);
+	}
+	SetDefaults(Class.Class, MoveTemp(Defaults));
 }
 
 void FScriptHeaderTypes::MakeFunction(UFunction* Function, const FFunctionDeclaration& Declaration, const FSource& Source)

@@ -10,6 +10,8 @@
 #include <unordered_set>
 #include <vector>
 
+class FDeclaredDefaults;
+
 /** Makes the reflection types of headers that are parsed already: first every type by name, then what is in them. */
 class FScriptHeaderTypes
 {
@@ -56,13 +58,16 @@ private:
 	void AddInterfaces(FClassInProgress& Class);
 	void AddFunctions(FClassInProgress& Class);
 	void AddFunctions(UClass* Class, const std::vector<HeaderParser::FFunctionDeclaration>& Functions, const FSource& Source);
-	TArray<FProperty*> AddClassProperties(FClassInProgress& Class);
+	/** Of the declaration and of each continuation, in this order, what it added. */
+	TArray<TArray<FProperty*>> AddClassProperties(FClassInProgress& Class);
+	/** Initial values of what AddClassProperties added. The class is linked. */
+	void ReadClassDefaults(FClassInProgress& Class, const TArray<TArray<FProperty*>>& Added);
 	void MakeFunction(UFunction* Function, const HeaderParser::FFunctionDeclaration& Declaration, const FSource& Source);
 	/** Makes the properties that the struct does not have. */
 	TArray<FProperty*> AddProperties(
 		UStruct* Struct, const std::vector<HeaderParser::FPropertyDeclaration>& Properties, const FSource& Source);
 	/** Initial values of members just added, in the order of their declarations. The struct is linked. */
-	void ReadDefaults(UStruct* Struct, const TArray<FProperty*>& Added,
+	void ReadDefaults(FDeclaredDefaults& Defaults, const TArray<FProperty*>& Added,
 		const std::vector<HeaderParser::FPropertyDeclaration>& Declarations, const FSource& Source);
 	bool Describe(const HeaderParser::FTypeReference& Type, FPropertyDescription& Out, const FSource& Source,
 		const HeaderParser::FPosition& Position);
