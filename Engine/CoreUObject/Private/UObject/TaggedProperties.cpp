@@ -223,6 +223,12 @@ private:
 		{
 			return;
 		}
+		TMap<FElement, const FUnknownProperty*> UnknownByElement;
+		for (int32 Index = 0; Unknown && Index < Unknown->Num(); ++Index)
+		{
+			const FUnknownProperty& Property = (*Unknown)[Index];
+			UnknownByElement.Add(FElement(Property.Tag.Name, Property.Tag.ArrayIndex), &Property);
+		}
 		FProperty* Hint = Struct->PropertyLink;
 		for (const FLinkerSave::FTagOfOrigin& Tag : static_cast<FLinkerSave*>(Ar.GetLinker())->GetTagsOfOrigin(Data))
 		{
@@ -232,14 +238,24 @@ private:
 			}
 			FProperty* const Property = FindPropertyForTag(Struct, Tag.Name, Hint);
 			Hint = Property ? Property : Hint;
-			if (const FUnknownProperty* const Kept = FindUnknown(Tag.Name, Tag.ArrayIndex))
+			const FElement Element(Tag.Name, Tag.ArrayIndex);
+			const bool bCanWrite = Property && Tag.ArrayIndex < Property->ArrayDim && Property->ShouldSerializeValue(Ar);
+			const FUnknownProperty* const* const Kept = UnknownByElement.Find(Element);
+			// A value that could not be read leaves the default, so one that differs was set since.
+			const bool bIsChanged = Kept && bCanWrite && Differs(Property, Tag.ArrayIndex);
+			if (bIsChanged && MayHaveNativeForm(Property))
 			{
-				Written.Add(FElement(Tag.Name, Tag.ArrayIndex));
-				WriteUnknownProperty(Ar, *Kept);
+				UE_LOG(LogClass, Warning, TEXT("%s: the form of property %s of %s is not known here; its change is not written"),
+					*Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName());
 			}
-			else if (Property && Tag.ArrayIndex < Property->ArrayDim && Property->ShouldSerializeValue(Ar))
+			if (Kept && (!bIsChanged || MayHaveNativeForm(Property)))
 			{
-				Written.Add(FElement(Tag.Name, Tag.ArrayIndex));
+				Written.Add(Element);
+				WriteUnknownProperty(Ar, **Kept);
+			}
+			else if (bCanWrite)
+			{
+				Written.Add(Element);
 				WriteProperty(Property, Tag.ArrayIndex, Tag.PropertyGuid);
 			}
 		}
@@ -258,12 +274,6 @@ private:
 	}
 
 	bool IsWritten(FName Name, int32 Index) const { return !Written.IsEmpty() && Written.Contains(FElement(Name, Index)); }
-
-	const FUnknownProperty* FindUnknown(FName Name, int32 Index) const
-	{
-		return !Unknown ? nullptr : Unknown->FindByPredicate([Name, Index](const FUnknownProperty& Each)
-										{ return Each.Tag.Name == Name && Each.Tag.ArrayIndex == Index; });
-	}
 
 	const uint8* GetDefault(const FProperty* Property, int32 Index) const
 	{
