@@ -61,7 +61,7 @@ const FCatalogueRow Catalogue[] = {
 	{Graph, TEXT("K2Node_Event"), TEXT("EventReference"), FUNCTION_OF("Actor", "ReceiveTick"), {TEXT("OutputDelegate"), TEXT("then"), TEXT("DeltaSeconds")}},
 	{Graph, TEXT("K2Node_ActorBoundEvent"), TEXT("EventReference"), FUNCTION_OF("Actor", "ReceiveTick"), {TEXT("OutputDelegate")}},
 	{Graph, TEXT("K2Node_ComponentBoundEvent"), TEXT("EventReference"), FUNCTION_OF("Actor", "ReceiveTick"), {TEXT("OutputDelegate")}},
-	{Graph, TEXT("K2Node_CustomEvent"), TEXT("CustomFunctionName"), TEXT("\"Ring\""), {TEXT("OutputDelegate"), TEXT("then")}},
+	{Graph, TEXT("K2Node_CustomEvent"), TEXT("CustomFunctionName"), TEXT("Ring"), {TEXT("OutputDelegate"), TEXT("then")}},
 	{Graph, TEXT("K2Node_BreakStruct"), TEXT("StructType"), HitStruct, {TEXT("HitResult"), TEXT("Distance")}},
 	{Graph, TEXT("K2Node_MakeStruct"), TEXT("StructType"), VectorStruct, {TEXT("Vector"), TEXT("X"), TEXT("Y"), TEXT("Z")}},
 	{Graph, TEXT("K2Node_SetFieldsInStruct"), TEXT("StructType"), VectorStruct, {TEXT("StructRef"), TEXT("StructOut")}},
@@ -87,8 +87,8 @@ const FCatalogueRow Catalogue[] = {
 	{Graph, TEXT("K2Node_Literal"), nullptr, nullptr, {TEXT("Value")}},
 	{Graph, TEXT("K2Node_BitmaskLiteral"), nullptr, nullptr, {TEXT("Bitmask"), TEXT("ReturnValue")}},
 	{Graph, TEXT("K2Node_InputKey"), TEXT("InputKey"), TEXT("F"), {TEXT("Pressed"), TEXT("Released"), TEXT("Key")}},
-	{Graph, TEXT("K2Node_InputAction"), TEXT("InputActionName"), TEXT("\"Jump\""), {TEXT("Pressed"), TEXT("Key")}},
-	{Graph, TEXT("K2Node_InputAxisEvent"), TEXT("InputAxisName"), TEXT("\"Turn\""), {TEXT("AxisValue")}},
+	{Graph, TEXT("K2Node_InputAction"), TEXT("InputActionName"), TEXT("Jump"), {TEXT("Pressed"), TEXT("Key")}},
+	{Graph, TEXT("K2Node_InputAxisEvent"), TEXT("InputAxisName"), TEXT("Turn"), {TEXT("AxisValue")}},
 	{Graph, TEXT("K2Node_InputAxisKeyEvent"), TEXT("AxisKey"), TEXT("MouseX"), {TEXT("AxisValue")}},
 	{Graph, TEXT("K2Node_InputVectorAxisEvent"), TEXT("AxisKey"), TEXT("Tilt"), {TEXT("AxisValue")}},
 	{Graph, TEXT("K2Node_InputTouch"), nullptr, nullptr, {TEXT("Moved"), TEXT("Location"), TEXT("FingerIndex")}},
@@ -216,6 +216,34 @@ TEST_F(FNodeCatalogueTest, EveryNodeSaysWhatItIs)
 		EXPECT_FALSE(Node->GetTooltipText().IsEmpty());
 		// A title in the programmer's words means that the class has none of its own.
 		EXPECT_FALSE(Node->GetNodeTitle(ENodeTitleType::FullTitle).ToString().Contains(TEXT("K2Node"))) << TCHAR_TO_UTF8(*Node->GetNodeTitle(ENodeTitleType::FullTitle).ToString());
+	}
+}
+
+TEST_F(FNodeCatalogueTest, MenuFindsNodesByCategoryAndKeywords)
+{
+	struct FMenuRow
+	{
+		const TCHAR* Class;
+		const TCHAR* Category;
+		const TCHAR* Keywords;
+	};
+	const FMenuRow Rows[] = {
+		{TEXT("K2Node_IfThenElse"), TEXT("Utilities|FlowControl"), TEXT("if bool")},
+		{TEXT("K2Node_ExecutionSequence"), TEXT("Utilities|FlowControl"), TEXT("sequence")},
+		{TEXT("K2Node_Select"), TEXT("Utilities"), TEXT("Ternary If")},
+		{TEXT("K2Node_Self"), TEXT("Variables"), TEXT("This")},
+		{TEXT("K2Node_GetInputAxisValue"), TEXT("Input|Axis Values"), TEXT("GetInputAxisValue")},
+		{TEXT("K2Node_CallFunction"), TEXT("Development"), TEXT("PrintString log print")},
+	};
+	for (const FMenuRow& Menu : Rows)
+	{
+		SCOPED_TRACE(TCHAR_TO_UTF8(Menu.Class));
+		const FCatalogueRow* const Row = std::find_if(std::begin(Catalogue), std::end(Catalogue), [&Menu](const FCatalogueRow& Item)
+			{ return FString(Item.Class) == Menu.Class; });
+		ASSERT_NE(Row, std::end(Catalogue));
+		const UK2Node* const Node = Spawn(*Row, Graph);
+		EXPECT_EQ(Node->GetMenuCategory().ToString(), FString(Menu.Category));
+		EXPECT_EQ(Node->GetKeywords().ToString(), FString(Menu.Keywords));
 	}
 }
 

@@ -124,11 +124,6 @@ UEdGraphPin* UK2Node_ExecutionSequence::GetThenPinGivenIndex(int32 Index) const
 	return FindPin(GetPinNameGivenIndex(Index));
 }
 
-FText UK2Node_ExecutionSequence::GetKeywords() const
-{
-	return LOCTEXT("SequenceKeywords", "sequence");
-}
-
 FText UK2Node_ExecutionSequence::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	return LOCTEXT("ExecutionSequence_Title", "Sequence");

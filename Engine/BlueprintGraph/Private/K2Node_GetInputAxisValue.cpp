@@ -21,4 +21,9 @@ FText UK2Node_GetInputAxisValue::GetNodeTitle(ENodeTitleType::Type TitleType) co
 	return FText::Format(LOCTEXT("GetInputAxis_Name", "Get {0}"), FText::FromName(InputAxisName));
 }
 
+FText UK2Node_GetInputAxisValue::GetMenuCategory() const
+{
+	return LOCTEXT("AxisValuesCategory", "Input|Axis Values");
+}
+
 #undef LOCTEXT_NAMESPACE

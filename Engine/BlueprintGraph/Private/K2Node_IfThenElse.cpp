@@ -11,11 +11,6 @@ void UK2Node_IfThenElse::AllocateDefaultPins()
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_Else)->PinFriendlyName = LOCTEXT("false", "false");
 }
 
-FText UK2Node_IfThenElse::GetKeywords() const
-{
-	return LOCTEXT("BranchKeywords", "if bool");
-}
-
 FText UK2Node_IfThenElse::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	return LOCTEXT("IfThenElse_Title", "Branch");

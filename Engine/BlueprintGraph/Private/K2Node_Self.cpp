@@ -12,4 +12,9 @@ FText UK2Node_Self::GetNodeTitle(ENodeTitleType::Type TitleType) const
 	return TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("GetSelfReference", "Get a reference to self") : LOCTEXT("SelfReferenceName", "Self-Reference");
 }
 
+FText UK2Node_Self::GetMenuCategory() const
+{
+	return LOCTEXT("SelfReferenceCategory", "Variables");
+}
+
 #undef LOCTEXT_NAMESPACE

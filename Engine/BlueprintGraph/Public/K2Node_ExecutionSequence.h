@@ -6,7 +6,7 @@
 #include "K2Node_ExecutionSequence.generated.h"
 
 /** Executes a series of pins in order */
-UCLASS()
+UCLASS(meta = (Keywords = "sequence"))
 class BLUEPRINTGRAPH_API UK2Node_ExecutionSequence : public UK2Node, public IK2Node_AddPinInterface
 {
 	GENERATED_BODY()
@@ -26,7 +26,6 @@ public:
 	UEdGraphPin* GetThenPinGivenIndex(int32 Index) const;
 	virtual void AllocateDefaultPins() override;
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
-	virtual FText GetKeywords() const override;
 
 protected:
 	virtual FName GetPinNameGivenIndex(int32 Index) const;

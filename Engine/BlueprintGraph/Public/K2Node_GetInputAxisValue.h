@@ -26,4 +26,5 @@ public:
 	void Initialize(const FName AxisName);
 	virtual void AllocateDefaultPins() override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetMenuCategory() const override;
 };

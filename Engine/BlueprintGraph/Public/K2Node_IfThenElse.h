@@ -6,7 +6,7 @@
 
 /** Branch Statement
  * If Condition is true, execution goes to True, otherwise it goes to False */
-UCLASS()
+UCLASS(meta = (Keywords = "if bool"))
 class BLUEPRINTGRAPH_API UK2Node_IfThenElse : public UK2Node
 {
 	GENERATED_BODY()
@@ -15,7 +15,6 @@ public:
 	UEdGraphPin* GetConditionPin() const { return FindPin(UEdGraphSchema_K2::PN_Condition); }
 	UEdGraphPin* GetElsePin() const { return FindPin(UEdGraphSchema_K2::PN_Else); }
 	virtual void AllocateDefaultPins() override;
-	virtual FText GetKeywords() const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
 };

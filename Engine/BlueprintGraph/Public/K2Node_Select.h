@@ -7,7 +7,7 @@
 #include "K2Node_Select.generated.h"
 
 /** Returns the option of the index. */
-UCLASS()
+UCLASS(meta = (Keywords = "Ternary If"))
 class BLUEPRINTGRAPH_API UK2Node_Select : public UK2Node, public IK2Node_AddPinInterface
 {
 	GENERATED_BODY()

@@ -5,7 +5,7 @@
 #include "K2Node_Self.generated.h"
 
 /** Gets a reference to this instance of the Blueprint */
-UCLASS()
+UCLASS(meta = (Keywords = "This"))
 class BLUEPRINTGRAPH_API UK2Node_Self : public UK2Node
 {
 	GENERATED_BODY()
@@ -14,4 +14,5 @@ public:
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
+	virtual FText GetMenuCategory() const override;
 };

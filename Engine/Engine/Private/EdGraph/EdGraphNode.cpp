@@ -241,6 +241,11 @@ bool UEdGraphNode::IsDeprecated() const
 
 // What happens to a node
 
+FText UEdGraphNode::GetKeywords() const
+{
+	return GetClass()->GetMetaDataText(TEXT("Keywords"));
+}
+
 void UEdGraphNode::DestroyNode()
 {
 	if (UEdGraph* const Graph = GetGraph())

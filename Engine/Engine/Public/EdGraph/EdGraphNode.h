@@ -219,7 +219,8 @@ public:
 	virtual FLinearColor GetNodeTitleColor() const;
 	virtual FLinearColor GetNodeCommentColor() const;
 	virtual FText GetTooltipText() const;
-	virtual FText GetKeywords() const { return FText(); }
+	/** Words by which a user may look for the node: the "Keywords" of its class. */
+	virtual FText GetKeywords() const;
 	virtual FText GetMenuCategory() const { return FText(); }
 	virtual FText GetCompactNodeTitle() const { return GetNodeTitle(ENodeTitleType::FullTitle); }
 	virtual FString GetDocumentationLink() const { return FString(); }
