@@ -77,7 +77,8 @@ bool SendSmallRequests(int32 Num, std::ptrdiff_t NumInFlight)
 	for (int32 Index = 0; Index < Num; ++Index)
 	{
 		Free.acquire();
-		GetServer().Client->Request(EVexelHttpVerb::Get, TEXT("/small")).SendAndAwait().OnComplete([&](const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Answer)
+		const auto Sent = GetServer().Client->Request(EVexelHttpVerb::Get, TEXT("/small")).SendAndAwait();
+		Sent.OnComplete([&](const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Answer)
 			{
 				bAllGood = bAllGood && Answer.HasValue() && Answer.GetValue()->GetContent().Num() == 13;
 				Free.release(); });
@@ -169,10 +170,16 @@ void DownloadWithTheProgram(benchmark::State& State)
 	State.SetBytesProcessed(int64_t(State.iterations()) * int64_t(DownloadBytes));
 }
 
-BENCHMARK(SmallRequestsOneByOne)->Name("TenThousandRequests/Ours")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(3);
-BENCHMARK(SmallRequestsWithAnEasyHandle)->Name("TenThousandRequests/Peer:curl_easy")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(3);
-BENCHMARK(SmallRequestsAtOnce)->Name("TenThousandRequestsSixteenAtOnce/Ours")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(3);
-BENCHMARK(SmallRequestsWithAnEasyHandle)->Name("TenThousandRequestsSixteenAtOnce/Peer:curl_easy")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(3);
-BENCHMARK(Download)->Name("Download256MiB/Ours")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(3);
-BENCHMARK(DownloadWithTheProgram)->Name("Download256MiB/Peer:curl")->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(3);
+/** One run is long enough to be measured; the ratio takes the shortest. */
+void RunOnceThreeTimes(benchmark::internal::Benchmark* Each)
+{
+	Each->Unit(benchmark::kMillisecond)->UseRealTime()->Iterations(1)->Repetitions(3);
+}
+
+BENCHMARK(SmallRequestsOneByOne)->Name("TenThousandRequests/Ours")->Apply(RunOnceThreeTimes);
+BENCHMARK(SmallRequestsWithAnEasyHandle)->Name("TenThousandRequests/Peer:curl_easy")->Apply(RunOnceThreeTimes);
+BENCHMARK(SmallRequestsAtOnce)->Name("TenThousandRequestsSixteenAtOnce/Ours")->Apply(RunOnceThreeTimes);
+BENCHMARK(SmallRequestsWithAnEasyHandle)->Name("TenThousandRequestsSixteenAtOnce/Peer:curl_easy")->Apply(RunOnceThreeTimes);
+BENCHMARK(Download)->Name("Download256MiB/Ours")->Apply(RunOnceThreeTimes);
+BENCHMARK(DownloadWithTheProgram)->Name("Download256MiB/Peer:curl")->Apply(RunOnceThreeTimes);
 }
