@@ -444,7 +444,8 @@ TEST_F(Module, BetaFeaturesAreValidatedByAConsoleCommand)
 		SNotificationItem::ECompletionState State;
 	};
 	const FCase Cases[] = {
-		{200, TEXT("Beta Features Validation Complete"), TEXT("All beta features have been validated successfully"), SNotificationItem::CS_Success},
+		{200, TEXT("Beta Features Validation Complete"), TEXT("All beta features have been validated successfully"),
+			SNotificationItem::CS_Success},
 		{400, TEXT("Beta Features Validation Failed"), TEXT("Failed to validate beta features"), SNotificationItem::CS_Fail},
 	};
 	for (const FCase& Case : Cases)
