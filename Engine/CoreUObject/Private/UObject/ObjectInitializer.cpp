@@ -26,10 +26,7 @@ public:
 		for (FProperty* Property = Instance->GetClass()->RefLink; Property; Property = Property->NextRef)
 		{
 			bMayMakeParts = !bLoading && Property->ContainsInstancedObjectProperty();
-			for (int32 Index = 0; Index < Property->ArrayDim; ++Index)
-			{
-				Property->CollectReferences(Property->ContainerPtrToValuePtr<void>(Instance, Index), *this, Instance);
-			}
+			Property->CollectReferences(Property->ContainerPtrToValuePtr<void>(Instance), *this, Instance);
 		}
 	}
 

@@ -206,6 +206,22 @@ void SerializeProperties(FArchive& Ar, UStruct* Struct)
 }
 }
 
+namespace
+{
+/** A class derives from a class, a struct from a struct, a function from a function; a package may claim anything. */
+bool CanBeSuper(const UStruct* Struct, const UStruct* Super)
+{
+	for (const UClass* const Kind : {UClass::StaticClass(), UScriptStruct::StaticClass(), UFunction::StaticClass()})
+	{
+		if (Struct->IsA(Kind) != Super->IsA(Kind))
+		{
+			return false;
+		}
+	}
+	return !Super->IsChildOf(Struct);
+}
+}
+
 void UStruct::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
@@ -214,7 +230,7 @@ void UStruct::Serialize(FArchive& Ar)
 	SerializeReference(Ar, Super);
 	if (Ar.IsLoading())
 	{
-		SetSuperStruct(Super && !Super->IsChildOf(this) ? Super : nullptr);
+		SetSuperStruct(Super && CanBeSuper(this, Super) ? Super : nullptr);
 	}
 	SerializeChildren(Ar, this);
 	const bool bHasProperties = !IsOldForm(Ar) || Ar.CustomVer(FCoreObjectVersion::GUID) >= FCoreObjectVersion::FProperties;
@@ -284,6 +300,12 @@ void USparseDelegateFunction::Serialize(FArchive& Ar)
 void UClass::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
+	if (Ar.IsLoading() && !GetSuperStruct() && this != UObject::StaticClass())
+	{
+		// Every class needs a constructor, which comes from its super.
+		SetSuperStruct(UObject::StaticClass());
+		Ar.SetError();
+	}
 	int32 NumFunctions = FuncMap.Num();
 	SerializeCount(Ar, NumFunctions, sizeof(int64));
 	TArray<TPair<FName, UFunction*>> Functions;
@@ -310,6 +332,11 @@ void UClass::Serialize(FArchive& Ar)
 		}
 	}
 	SerializeEnum(Ar, ClassFlags);
+	if (Ar.IsLoading() && Ar.IsPersistent())
+	{
+		// Members of native classes are C++'s to make, and no package has a native class.
+		ClassFlags &= ~static_cast<EClassFlags>(CLASS_Native | CLASS_Intrinsic);
+	}
 	SerializeReference(Ar, ClassWithin);
 	Ar << ClassConfigName;
 	// Interfaces stood before the generating Blueprint in older packages.
