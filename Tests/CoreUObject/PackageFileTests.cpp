@@ -194,8 +194,8 @@ TEST_F(FPackageFolder, ObjectsOfUnknownClassesAreWrittenBackByteForByte)
 	ASSERT_EQ(Again->ExportMap.Num(), Loaded->ExportMap.Num());
 	for (int32 Index = 0; Index < Loaded->ExportMap.Num(); ++Index)
 	{
-		const TArrayView<const uint8> Before = Loaded->GetExportBytes(Index);
-		const TArrayView<const uint8> After = Again->GetExportBytes(Index);
+		const TArray<uint8> Before = Loaded->GetExportBytes(Index);
+		const TArray<uint8> After = Again->GetExportBytes(Index);
 		ASSERT_EQ(Before.Num(), After.Num()) << Index;
 		EXPECT_EQ(FMemory::Memcmp(Before.GetData(), After.GetData(), Before.Num()), 0) << Index;
 		EXPECT_EQ(Again->GetExportClassPath(Index).ToString(), Loaded->GetExportClassPath(Index).ToString());

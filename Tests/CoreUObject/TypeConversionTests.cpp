@@ -75,7 +75,6 @@ FPropertyDescription MapOf()
 
 constexpr auto Bool = &Of<EPropertyGenKind::Bool>;
 constexpr auto Byte = &Of<EPropertyGenKind::Byte>;
-constexpr auto Int16 = &Of<EPropertyGenKind::Int16>;
 constexpr auto Int = &Of<EPropertyGenKind::Int>;
 constexpr auto Int64 = &Of<EPropertyGenKind::Int64>;
 constexpr auto UInt32 = &Of<EPropertyGenKind::UInt32>;
