@@ -48,6 +48,10 @@ public:
 			{TEXT("rename component"), &FRandomMembers::RenameComponent},
 			{TEXT("add event page"), &FRandomMembers::AddPage},
 			{TEXT("flag variable"), &FRandomMembers::FlagVariable},
+			{TEXT("call own function"), &FRandomMembers::CallOwn},
+			{TEXT("call own function"), &FRandomMembers::CallOwn},
+			{TEXT("edit own parameters"), &FRandomMembers::EditParameters},
+			{TEXT("edit own parameters"), &FRandomMembers::EditParameters},
 		};
 		const auto& Kind = Kinds[Pick(std::size(Kinds))];
 		(this->*Kind.Do)();
@@ -233,6 +237,64 @@ private:
 	}
 
 	void AddPage() { FBlueprintEditorUtils::AddUbergraphPage(&Blueprint, MakeGraph(TEXT("Page"))); }
+
+	void CallOwn()
+	{
+		const UK2Node_FunctionEntry* const Entry = PickEntry(false);
+		const UFunction* const Function =
+			Entry ? Blueprint.SkeletonGeneratedClass->FindFunctionByName(Entry->GetGraph()->GetFName()) : nullptr;
+		if (Function)
+		{
+			UEdGraph* const Graph = FBlueprintEditorUtils::FindEventGraph(&Blueprint);
+			FGraphNodeCreator<UK2Node_CallFunction> Creator(*Graph);
+			UK2Node_CallFunction* const Call = Creator.CreateNode(false);
+			Call->SetFromFunction(Function);
+			Creator.Finalize();
+			// Something that is linked, so that a parameter which goes leaves a link behind.
+			for (UEdGraphPin* const Pin : TArray<UEdGraphPin*>(Call->Pins))
+			{
+				const bool bIsNumber = Pin->Direction == EGPD_Input && Pin->PinType.PinCategory == UEdGraphSchema_K2::PC_Int;
+				const UEdGraphNode* const Giver = bIsNumber ? FindGiver(*Graph) : nullptr;
+				if (Giver)
+				{
+					Graph->GetSchema()->TryCreateConnection(Giver->FindPin(UEdGraphSchema_K2::PN_ReturnValue), Pin);
+				}
+			}
+		}
+	}
+
+	/** A node that gives a whole number; null without one. */
+	static const UEdGraphNode* FindGiver(const UEdGraph& Graph)
+	{
+		for (const UEdGraphNode* const Node : Graph.Nodes)
+		{
+			const UEdGraphPin* const Result = Node->FindPin(UEdGraphSchema_K2::PN_ReturnValue);
+			if (Result && Result->PinType.PinCategory == UEdGraphSchema_K2::PC_Int)
+			{
+				return Node;
+			}
+		}
+		return nullptr;
+	}
+
+	void EditParameters()
+	{
+		UK2Node_FunctionEntry* const Entry = PickEntry(false);
+		if (!Entry || !Entry->bIsEditable)
+		{
+			return;
+		}
+		Entry->Modify();
+		if (Entry->UserDefinedPins.Num() > 0 && Pick(3) == 0)
+		{
+			Entry->RemoveUserDefinedPin(Entry->UserDefinedPins[Pick(Entry->UserDefinedPins.Num())]);
+		}
+		else
+		{
+			Entry->CreateUserDefinedPin(TEXT("Number"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+		}
+		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(&Blueprint);
+	}
 
 	void FlagVariable()
 	{

@@ -579,7 +579,7 @@ protected:
 
 TEST_P(FUndoRandomWalkTest, EveryStateComesBackExactly)
 {
-	constexpr int32 NumEdits = 200;
+	constexpr int32 NumEdits = 150;
 	UBlueprint* const Interface = MakeBlueprint(TEXT("BPI_Openable"), UInterface::StaticClass(), BPTYPE_Interface);
 	UK2Node_EditablePinBase* const Entry = FBlueprintEditorUtils::GetEntryNode(AddFunction(Interface, TEXT("CanOpen")));
 	FBlueprintEditorUtils::FindOrCreateFunctionResultNode(Entry)->CreateUserDefinedPin(
