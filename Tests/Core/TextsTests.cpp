@@ -129,7 +129,8 @@ TEST(Texts, BinaryFormIsTheEngines)
 	FMemoryWriter Writer(Bytes);
 	FText Text = NSLOCTEXT("N", "K", "S");
 	Writer << Text;
-	const TArray<uint8> Expected = {0, 0, 0, 0, 0, 2, 0, 0, 0, 'N', 0, 2, 0, 0, 0, 'K', 0, 2, 0, 0, 0, 'S', 0};
+	// A text of the code says that it is immutable.
+	const TArray<uint8> Expected = {ETextFlag::Immutable, 0, 0, 0, 0, 2, 0, 0, 0, 'N', 0, 2, 0, 0, 0, 'K', 0, 2, 0, 0, 0, 'S', 0};
 	EXPECT_TRUE(Bytes == Expected);
 }
 

@@ -41,7 +41,8 @@ struct COREUOBJECT_API FWeakObjectPtr
 	bool operator==(const FWeakObjectPtr& Other) const { return HasSameIndexAndSerialNumber(Other) || (!IsValid() && !Other.IsValid()); }
 
 	void Serialize(FArchive& Ar);
-	FORCEINLINE friend uint32 GetTypeHash(const FWeakObjectPtr& Ptr) { return static_cast<uint32>(Ptr.ObjectIndex ^ Ptr.ObjectSerialNumber); }
+	/** The index alone: objects that are made one after another have serial numbers that would undo its spread. */
+	FORCEINLINE friend uint32 GetTypeHash(const FWeakObjectPtr& Ptr) { return static_cast<uint32>(Ptr.ObjectIndex); }
 
 	int32 GetObjectIndex() const { return ObjectIndex; }
 	int32 GetObjectSerialNumber() const { return ObjectSerialNumber; }
