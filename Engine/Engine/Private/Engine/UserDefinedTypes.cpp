@@ -66,6 +66,12 @@ FGuid UUserDefinedStruct::GetMemberGuid(FName PropertyName)
 	return Guid;
 }
 
+bool UUserDefinedStruct::IsSameMember(FName A, FName B)
+{
+	const FGuid Guid = GetMemberGuid(A);
+	return Guid.IsValid() && Guid == GetMemberGuid(B);
+}
+
 FProperty* UUserDefinedStruct::CustomFindProperty(const FName InName) const
 {
 	const FGuid Wanted = GetMemberGuid(InName);

@@ -37,6 +37,8 @@ public:
 
 	/** The id that a member's property name ends in, which renames keep; invalid without one. */
 	static FGuid GetMemberGuid(FName PropertyName);
+	/** Two names of one member, which was renamed between. */
+	static bool IsSameMember(FName A, FName B);
 	/** The values that an instance starts with; null before the first SetDefaults. Owned by the struct. */
 	const uint8* GetDefaultInstance() const { return DefaultInstance; }
 	/** Has Fill set the values that instances start with, in an instance that has the types' own. Call after the members changed. */
