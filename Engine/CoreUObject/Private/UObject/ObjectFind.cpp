@@ -48,6 +48,12 @@ int32 FindSeparator(FStringView Text)
 	return INDEX_NONE;
 }
 
+/** Compared as a number: it is no address that an object could have. */
+bool IsAnyPackage(const UObject* Outer)
+{
+	return reinterpret_cast<UPTRINT>(Outer) == reinterpret_cast<UPTRINT>(ANY_PACKAGE_DEPRECATED);
+}
+
 FName FindName(FStringView Text)
 {
 	return FName(*FString(Text), FNAME_Find);
@@ -62,7 +68,7 @@ UObject* StaticFindObjectFastInternal(const UClass* Class, const UObject* InOute
 		return nullptr;
 	}
 	const FMatch Match{Class, bExactClass, ExclusiveFlags, ExclusiveInternalFlags};
-	if (InOuter == ANY_PACKAGE_DEPRECATED)
+	if (IsAnyPackage(InOuter))
 	{
 		return FUObjectHashTables::Get().FindByName(InName, Match);
 	}
@@ -82,9 +88,9 @@ UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bo
 		return nullptr;
 	}
 	FStringView Rest = StripExportText(FStringView(Name));
-	UObject* Outer = InOuter == ANY_PACKAGE_DEPRECATED ? nullptr : InOuter;
+	UObject* Outer = IsAnyPackage(InOuter) ? nullptr : InOuter;
 	int32 Separator = FindSeparator(Rest);
-	if (InOuter == ANY_PACKAGE_DEPRECATED && Separator == INDEX_NONE)
+	if (IsAnyPackage(InOuter) && Separator == INDEX_NONE)
 	{
 		return StaticFindFirstObject(Class, Name, ExactClass ? EFindFirstObjectOptions::ExactClass : EFindFirstObjectOptions::None);
 	}

@@ -203,7 +203,7 @@ enum EClassCastFlags : uint64
 #define CASTCLASS_AllFlags ((EClassCastFlags)0xFFFFFFFFFFFFFFFF)
 ENUM_CLASS_FLAGS(EClassCastFlags)
 
-enum EStructFlags
+enum EStructFlags : uint32
 {
 	STRUCT_NoFlags = 0x00000000,
 	STRUCT_Native = 0x00000001,
