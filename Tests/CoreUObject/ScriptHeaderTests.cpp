@@ -3,7 +3,6 @@
 #include "UObject/ScriptHeaderLoader.h"
 #include "UObject/UnrealType.h"
 
-#include <chrono>
 #include <string>
 #include <string_view>
 
@@ -199,14 +198,10 @@ TEST_F(FScriptHeaders, ContinuationWithoutItsClassIsAnError)
 	EXPECT_EQ(FindObject<UClass>(nullptr, TEXT("/Script/HeaderTestD.ScriptNobody")), nullptr);
 }
 
-TEST_F(FScriptHeaders, StockLoadsQuickly)
+TEST_F(FScriptHeaders, StockLoadsWithNothingToReportButAbsentClasses)
 {
-	const auto Start = std::chrono::steady_clock::now();
 	const FScriptHeaderReport Report = LoadScriptHeaders(TEXT(VEXEL_SOURCE_DIR "/Engine/ScriptApi"));
-	const auto Milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(std::chrono::steady_clock::now() - Start).count();
-	RecordProperty("Milliseconds", static_cast<int>(Milliseconds));
-	EXPECT_GT(Report.NumFunctions, 100);
-	EXPECT_LT(Milliseconds, 2000);
+	EXPECT_GT(Report.NumFunctions, 3000);
 	// Classes of the Engine module are not linked here, so what extends them is reported; nothing else is.
 	for (const FString& Error : Report.Errors)
 	{
