@@ -28,7 +28,12 @@ void FUObjectHashTables::AddToBuckets(int32 Index)
 	Links[Index].NextInBucket = Bucket;
 	Bucket = Index;
 	int32& NameBucket = NameBuckets[BucketOfName(Object->GetFName())];
+	Links[Index].PrevOfName = INDEX_NONE;
 	Links[Index].NextOfName = NameBucket;
+	if (NameBucket != INDEX_NONE)
+	{
+		Links[NameBucket].PrevOfName = Index;
+	}
 	NameBucket = Index;
 }
 
@@ -98,19 +103,21 @@ void FUObjectHashTables::Add(UObjectBase* Object)
 
 void FUObjectHashTables::Remove(UObjectBase* Object)
 {
-	const auto RemoveFromChain = [this](int32& Head, int32 Index, int32 FLinks::*Next)
-	{
-		int32* Link = &Head;
-		while (*Link != Index)
-		{
-			check(*Link != INDEX_NONE);
-			Link = &(Links[*Link].*Next);
-		}
-		*Link = Links[Index].*Next;
-	};
 	const int32 Index = Object->InternalIndex;
-	RemoveFromChain(Buckets[BucketOf(Object->GetOuter(), Object->GetFName())], Index, &FLinks::NextInBucket);
-	RemoveFromChain(NameBuckets[BucketOfName(Object->GetFName())], Index, &FLinks::NextOfName);
+	int32* Link = &Buckets[BucketOf(Object->GetOuter(), Object->GetFName())];
+	while (*Link != Index)
+	{
+		check(*Link != INDEX_NONE);
+		Link = &Links[*Link].NextInBucket;
+	}
+	*Link = Links[Index].NextInBucket;
+	const int32 Previous = Links[Index].PrevOfName;
+	const int32 Next = Links[Index].NextOfName;
+	(Previous == INDEX_NONE ? NameBuckets[BucketOfName(Object->GetFName())] : Links[Previous].NextOfName) = Next;
+	if (Next != INDEX_NONE)
+	{
+		Links[Next].PrevOfName = Previous;
+	}
 	Unlink(ByClass, Object->GetClass(), Index, &FLinks::PrevOfClass, &FLinks::NextOfClass);
 	Unlink(ByOuter, Object->GetOuter(), Index, &FLinks::PrevInOuter, &FLinks::NextInOuter);
 	NameNumbers.erase(Object);

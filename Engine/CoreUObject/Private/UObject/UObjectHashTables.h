@@ -33,6 +33,8 @@ private:
 	struct FLinks
 	{
 		int32 NextInBucket = INDEX_NONE;
+		/** Both ways: parts of one name, such as the root components of all actors, are one long list. */
+		int32 PrevOfName = INDEX_NONE;
 		int32 NextOfName = INDEX_NONE;
 		int32 PrevOfClass = INDEX_NONE;
 		int32 NextOfClass = INDEX_NONE;
