@@ -92,6 +92,10 @@ TEST(HostileText, AnyCharacterAnywhereIsReadOrRefused)
 
 TEST(HostileText, ModestNestingSurvives)
 {
+	const UScriptStruct* const Struct = GetNestedStruct();
+	const FArrayProperty* const List = CastField<FArrayProperty>(Struct->PropertyLink);
+	ASSERT_NE(List, nullptr);
+	EXPECT_EQ(List->Inner->GetSize(), Struct->GetStructureSize());
 	FTestValue Value(DescribeNest());
 	const FString Text = NestText(20);
 	ASSERT_TRUE(Value.Import(*Text)) << TCHAR_TO_UTF8(*Value.Errors.Text);

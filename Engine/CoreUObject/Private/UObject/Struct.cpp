@@ -189,6 +189,24 @@ void UStruct::StaticLink(bool bRelinkExistingProperties)
 	Link(Ar, bRelinkExistingProperties);
 }
 
+namespace
+{
+bool IsOf(const FProperty* Element, const UStruct& Struct)
+{
+	const FStructProperty* const StructElement = CastField<FStructProperty>(Element);
+	return StructElement && StructElement->Struct == &Struct;
+}
+
+bool IsContainerOf(const FProperty& Property, const UStruct& Struct)
+{
+	const FArrayProperty* const Array = CastField<FArrayProperty>(&Property);
+	const FSetProperty* const Set = CastField<FSetProperty>(&Property);
+	const FMapProperty* const Map = CastField<FMapProperty>(&Property);
+	return (Array && IsOf(Array->Inner, Struct)) || (Set && IsOf(Set->ElementProp, Struct)) ||
+		(Map && (IsOf(Map->KeyProp, Struct) || IsOf(Map->ValueProp, Struct)));
+}
+}
+
 void UStruct::Link(FArchive& Ar, bool bRelinkExistingProperties)
 {
 	DropReferenceSchema();
@@ -213,6 +231,15 @@ void UStruct::Link(FArchive& Ar, bool bRelinkExistingProperties)
 			}
 		}
 		PropertiesSize = End;
+		// The elements of a list of the struct itself have a size only now.
+		for (FField* Field = ChildProperties; Field; Field = Field->Next)
+		{
+			FProperty* const Property = CastField<FProperty>(Field);
+			if (Property && Property->GetOwner<UObject>() == this && IsContainerOf(*Property, *this))
+			{
+				Property->LinkWithoutChangingOffset(Ar);
+			}
+		}
 	}
 
 	FProperty** PropertyTail = &PropertyLink;
