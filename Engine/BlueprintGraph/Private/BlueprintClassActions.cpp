@@ -22,26 +22,15 @@
 #include "K2Node_FunctionEntry.h"
 #include "K2Node_MacroInstance.h"
 #include "K2Node_Message.h"
-#include "K2Node_PromotableOperator.h"
 #include "K2Node_RemoveDelegate.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
+#include "OperatorFunctions.h"
 #include "UObject/Package.h"
 
 namespace
 {
 using FActionList = FBlueprintActionDatabase::FActionList;
-
-/** Operators that take any number or vector: one action stands for the functions of all types. */
-bool IsOperatorOfTypes(const UFunction& Function, FString& OutOperation)
-{
-	static const TSet<FString> Operations = {TEXT("Add"), TEXT("Subtract"), TEXT("Multiply"), TEXT("Divide"), TEXT("Greater"), TEXT("GreaterEqual"), TEXT("Less"),
-		TEXT("LessEqual"), TEXT("EqualEqual"), TEXT("NotEqual")};
-	static const FName MathLibrary(TEXT("KismetMathLibrary"));
-	const UClass* const Owner = Function.GetOwnerClass();
-	FString Types;
-	return Owner && Owner->GetFName() == MathLibrary && Function.GetName().Split(TEXT("_"), &OutOperation, &Types) && Operations.Contains(OutOperation);
-}
 
 void AddFunction(UFunction& Function, const bool bIsInterface, FActionList& Out)
 {
@@ -49,7 +38,6 @@ void AddFunction(UFunction& Function, const bool bIsInterface, FActionList& Out)
 	{
 		Out.Add(UBlueprintEventNodeSpawner::Create(&Function));
 	}
-	FString Operation;
 	if (!UEdGraphSchema_K2::CanUserKismetCallFunction(&Function))
 	{
 		return;
@@ -59,19 +47,11 @@ void AddFunction(UFunction& Function, const bool bIsInterface, FActionList& Out)
 		// A call of an interface asks any object, which may not answer.
 		Out.Add(UBlueprintFunctionNodeSpawner::Create(UK2Node_Message::StaticClass(), &Function));
 	}
-	else if (IsOperatorOfTypes(Function, Operation))
+	// Of an operation's functions the one of doubles stands for all.
+	else if (!FOperatorFunctions::IsPromotable(Function) || Function.GetName().EndsWith(TEXT("_DoubleDouble")))
 	{
-		// The functions of doubles, names and the like stand for the operation; each operation has exactly one of these.
-		static const TMap<FString, FString> Representatives = {{TEXT("EqualEqual"), TEXT("EqualEqual_DoubleDouble")}, {TEXT("NotEqual"), TEXT("NotEqual_DoubleDouble")}};
-		const FString* const Special = Representatives.Find(Operation);
-		const FString Representative = Special ? *Special : Operation + TEXT("_DoubleDouble");
-		if (Function.GetName() == Representative)
-		{
-			Out.Add(UBlueprintFunctionNodeSpawner::Create(UK2Node_PromotableOperator::StaticClass(), &Function));
-		}
-		return;
+		Out.Add(UBlueprintFunctionNodeSpawner::Create(&Function));
 	}
-	Out.Add(UBlueprintFunctionNodeSpawner::Create(&Function));
 }
 
 void AddDispatcher(FMulticastDelegateProperty& Property, const UClass& Class, FActionList& Out)

@@ -4,6 +4,8 @@
 #include "K2Node_CallArrayFunction.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_CommutativeAssociativeBinaryOperator.h"
+#include "K2Node_PromotableOperator.h"
+#include "OperatorFunctions.h"
 #include "UObject/UObjectGlobals.h"
 
 namespace
@@ -11,6 +13,10 @@ namespace
 /** Functions with pins of a kind that a plain call does not make. */
 TSubclassOf<UK2Node_CallFunction> ChooseNodeClass(const UFunction& Function)
 {
+	if (FOperatorFunctions::IsPromotable(Function))
+	{
+		return UK2Node_PromotableOperator::StaticClass();
+	}
 	struct FChoice
 	{
 		const TCHAR* MetaData;

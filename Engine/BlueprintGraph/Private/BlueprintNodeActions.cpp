@@ -122,8 +122,7 @@ void AddBitmasks(UClass& NodeClass, FRegistrar& Registrar)
 	AddOne(NodeClass, Registrar);
 	const auto Make = [&NodeClass](const UEnum* Enum) -> UBlueprintFieldNodeSpawner*
 	{
-		static const FName Bitflags(TEXT("Bitflags"));
-		if (!Enum->HasMetaData(*Bitflags.ToString()))
+		if (!Enum->HasMetaData(TEXT("Bitflags")))
 		{
 			return nullptr;
 		}
@@ -280,7 +279,7 @@ void AddSubsystems(UClass& NodeClass, FRegistrar& Registrar, std::initializer_li
 		}
 		for (UClass* const Subsystem : Subsystems)
 		{
-			if (Subsystem->HasAnyClassFlags(CLASS_Abstract | CLASS_NewerVersionExists) || !UEdGraphSchema_K2::IsAllowableBlueprintVariableType(Subsystem, true))
+			if (!Registrar.IsOpenForRegistration(Subsystem) || Subsystem->HasAnyClassFlags(CLASS_Abstract | CLASS_NewerVersionExists) || !UEdGraphSchema_K2::IsAllowableBlueprintVariableType(Subsystem, true))
 			{
 				continue;
 			}

@@ -25,6 +25,16 @@ FName FOperatorFunctions::GetOperation(const FName FunctionName)
 	return FunctionName.ToString().Split(TEXT("_"), &Operation, &Types) ? FName(*Operation) : FunctionName;
 }
 
+bool FOperatorFunctions::IsPromotable(const UFunction& Function)
+{
+	static const TSet<FName> Operations = {TEXT("Add"), TEXT("Subtract"), TEXT("Multiply"), TEXT("Divide"), TEXT("Greater"), TEXT("GreaterEqual"), TEXT("Less"),
+		TEXT("LessEqual"), TEXT("EqualEqual"), TEXT("NotEqual")};
+	static const FName MathLibrary(TEXT("KismetMathLibrary"));
+	const UClass* const Library = Function.GetOwnerClass();
+	const FName Operation = GetOperation(Function.GetFName());
+	return Library && Library->GetFName() == MathLibrary && Operation != Function.GetFName() && Operations.Contains(Operation);
+}
+
 const TArray<TWeakObjectPtr<UFunction>>& FOperatorFunctions::FindAll(const FName Operation)
 {
 	static TMap<FName, TArray<TWeakObjectPtr<UFunction>>> FunctionsOfOperation;

@@ -10,6 +10,8 @@ struct FOperatorFunctions
 {
 	/** "Add" of "Add_IntInt". */
 	static FName GetOperation(FName FunctionName);
+	/** A library's function of an operation whose node takes any of its types: one node stands for the functions of all. */
+	static bool IsPromotable(const UFunction& Function);
 	/** The parameter of comparisons that is no operand. */
 	static FName GetToleranceName();
 	/** How far a value has to go to be of the parameter's type: 0 where it is, more for each step of promotion, negative where it cannot. */

@@ -6,14 +6,12 @@
 class UBlueprint;
 class UBlueprintNodeSpawner;
 class UEdGraph;
-class UEdGraphPin;
 
 /** Where an action would be used. */
 struct FBlueprintActionContext
 {
 	TArray<UBlueprint*> Blueprints;
 	TArray<UEdGraph*> Graphs;
-	TArray<UEdGraphPin*> Pins;
 };
 
 /** One action with what it is about. */

@@ -1,14 +1,13 @@
 #include "GraphWriter.h"
 
+#include "BlueprintFunctionNodeSpawner.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "Failure.h"
 #include "GameFramework/Actor.h"
 #include "InputCoreTypes.h"
-#include "K2Node_CallArrayFunction.h"
 #include "K2Node_CallFunction.h"
-#include "K2Node_CommutativeAssociativeBinaryOperator.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_DynamicCast.h"
 #include "K2Node_Event.h"
@@ -17,7 +16,6 @@
 #include "K2Node_IfThenElse.h"
 #include "K2Node_InputKey.h"
 #include "K2Node_MacroInstance.h"
-#include "K2Node_PromotableOperator.h"
 #include "K2Node_SwitchName.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
@@ -31,34 +29,6 @@ namespace
 {
 constexpr int32 ColumnWidth = 320;
 constexpr int32 RowHeight = 192;
-
-/** Operators whose node takes the types that are linked to it. */
-bool IsPromotable(const UFunction& Function)
-{
-	static const TSet<FString> Operations = {TEXT("Add"), TEXT("Subtract"), TEXT("Multiply"), TEXT("Divide"), TEXT("Greater"), TEXT("GreaterEqual"),
-		TEXT("Less"), TEXT("LessEqual"), TEXT("EqualEqual"), TEXT("NotEqual")};
-	FString Operation;
-	FString Types;
-	return Function.GetName().Split(TEXT("_"), &Operation, &Types) && Operations.Contains(Operation);
-}
-
-/** The class of the node that the editor's menu makes for a function. */
-UClass* GetCallNodeClass(const UFunction& Function)
-{
-	if (IsPromotable(Function))
-	{
-		return UK2Node_PromotableOperator::StaticClass();
-	}
-	if (Function.HasMetaData(FBlueprintMetadata::MD_CommutativeAssociativeBinaryOperator))
-	{
-		return UK2Node_CommutativeAssociativeBinaryOperator::StaticClass();
-	}
-	if (Function.HasMetaData(FBlueprintMetadata::MD_ArrayParam))
-	{
-		return UK2Node_CallArrayFunction::StaticClass();
-	}
-	return UK2Node_CallFunction::StaticClass();
-}
 
 FString FindFreeName(UEdGraph& Graph, const UEdGraphNode& Node)
 {
@@ -162,7 +132,7 @@ UEdGraphNode& FGraphWriter::AddCallNode(UFunction& Function, const TCHAR* TextFi
 {
 	return Add<UK2Node_CallFunction>([&Function](UK2Node_CallFunction& Node)
 		{ Node.SetFromFunction(&Function); },
-		TextFile, GetCallNodeClass(Function));
+		TextFile, UBlueprintFunctionNodeSpawner::Create(&Function)->NodeClass.Get());
 }
 
 UEdGraphNode& FGraphWriter::AddCall(const TCHAR* ClassPath, FName Function)
