@@ -2,7 +2,9 @@
 
 #include "EdGraphSchema_K2.h"
 #include "K2Node_CallArrayFunction.h"
+#include "K2Node_CallDataTableFunction.h"
 #include "K2Node_CallFunction.h"
+#include "K2Node_CallMaterialParameterCollectionFunction.h"
 #include "K2Node_CommutativeAssociativeBinaryOperator.h"
 #include "K2Node_PromotableOperator.h"
 #include "OperatorFunctions.h"
@@ -22,17 +24,16 @@ TSubclassOf<UK2Node_CallFunction> ChooseNodeClass(const UFunction& Function)
 		const TCHAR* MetaData;
 		UClass* NodeClass;
 	};
-	// A node class of a module that may be absent is looked for by name.
 	static const FChoice Choices[] = {
 		{TEXT("CommutativeAssociativeBinaryOperator"), UK2Node_CommutativeAssociativeBinaryOperator::StaticClass()},
 		{TEXT("ArrayParm"), UK2Node_CallArrayFunction::StaticClass()},
-		{TEXT("MaterialParameterCollectionFunction"), FindObject<UClass>(nullptr, TEXT("/Script/BlueprintGraph.K2Node_CallMaterialParameterCollectionFunction"))},
-		{TEXT("DataTablePin"), FindObject<UClass>(nullptr, TEXT("/Script/BlueprintGraph.K2Node_CallDataTableFunction"))},
+		{TEXT("MaterialParameterCollectionFunction"), UK2Node_CallMaterialParameterCollectionFunction::StaticClass()},
+		{TEXT("DataTablePin"), UK2Node_CallDataTableFunction::StaticClass()},
 	};
 	for (const FChoice& Choice : Choices)
 	{
 		const bool bSaysOtherwise = Function.GetMetaData(Choice.MetaData).Equals(TEXT("false"), ESearchCase::IgnoreCase);
-		if (Choice.NodeClass && Function.HasMetaData(Choice.MetaData) && !bSaysOtherwise)
+		if (Function.HasMetaData(Choice.MetaData) && !bSaysOtherwise)
 		{
 			return Choice.NodeClass;
 		}
