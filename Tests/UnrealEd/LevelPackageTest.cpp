@@ -107,7 +107,7 @@ TEST_F(FLevelPackageTest, LevelsOfOtherEnginesAreReadToTheirLastByteAndWrittenAl
 		TArray<uint8> Written;
 		FFileFormWriter Writer(*Linker, Written);
 		Level->Serialize(Writer);
-		const TArrayView<const uint8> Read = Linker->GetExportBytes(Linker->FindExportOf(Level));
+		const TArray<uint8> Read = Linker->GetExportBytes(Linker->FindExportOf(Level));
 		ASSERT_GE(Written.Num(), Map.NumNativeBytes);
 		EXPECT_EQ(FMemory::Memcmp(Written.GetData() + Written.Num() - Map.NumNativeBytes, Read.GetData() + Read.Num() - Map.NumNativeBytes, Map.NumNativeBytes), 0);
 	}
