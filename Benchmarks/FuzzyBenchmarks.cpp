@@ -43,6 +43,12 @@ void PartialRatio(benchmark::State& State)
 	RateAll(State, FVexelFuzzySearch::ScorerPartialRatio(TEXT("relativ lokation")));
 }
 
+/** Longer than most names, so that the candidate is the text whose stretch is looked for in the query as often as not. */
+void PartialRatioOfALongQuery(benchmark::State& State)
+{
+	RateAll(State, FVexelFuzzySearch::ScorerPartialRatio(TEXT("get relativ lokation of a scene komponent")));
+}
+
 void PartialTokenSet(benchmark::State& State)
 {
 	RateAll(State, FVexelFuzzySearch::ScorerPartialTokenSet(TEXT("lokation relativ")));
@@ -63,6 +69,8 @@ void OnePass(benchmark::State& State)
 
 BENCHMARK(PartialRatio)->Name("PartialRatio/Ours")->Unit(benchmark::kMillisecond);
 BENCHMARK(OnePass)->Name("PartialRatio/Peer:one_pass")->Unit(benchmark::kMillisecond);
+BENCHMARK(PartialRatioOfALongQuery)->Name("PartialRatioLongQuery/Ours")->Unit(benchmark::kMillisecond);
+BENCHMARK(OnePass)->Name("PartialRatioLongQuery/Peer:one_pass")->Unit(benchmark::kMillisecond);
 BENCHMARK(PartialTokenSet)->Name("PartialTokenSet/Ours")->Unit(benchmark::kMillisecond);
 BENCHMARK(OnePass)->Name("PartialTokenSet/Peer:one_pass")->Unit(benchmark::kMillisecond);
 }
