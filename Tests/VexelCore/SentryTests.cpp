@@ -302,12 +302,30 @@ TEST(SentryDsn, IsTakenApartOrRefused)
 	}
 }
 
+TEST(Secrets, NoLineOfTheLogHasOne)
+{
+	FVexelSecrets::Add(TEXT("a-logged-secret"));
+	FLogCapture Log;
+	VEXEL_LOG(Log, "%s and %d", TEXT("a-logged-secret"), 7);
+	EXPECT_TRUE(Log.Contains("[SentryTests:"));
+	EXPECT_TRUE(Log.Contains("] [secret] and 7"));
+}
+
 TEST(Secrets, ShortWordsStayAndLongOnesGo)
 {
-	VexelSecrets::Add(TEXT("short"));
-	VexelSecrets::Add(TEXT("a-long-secret"));
-	EXPECT_EQ(ToUtf8(VexelSecrets::Redact(TEXT("short a-long-secret A-LONG-SECRET a-long-secreta-long-secret"))),
+	FVexelSecrets::Add(TEXT("short"));
+	FVexelSecrets::Add(TEXT("a-long-secret"));
+	EXPECT_EQ(ToUtf8(FVexelSecrets::Redact(TEXT("short a-long-secret A-LONG-SECRET a-long-secreta-long-secret"))),
 		"short [secret] A-LONG-SECRET [secret][secret]");
-	EXPECT_EQ(ToUtf8(VexelSecrets::Redact(TEXT("Bearer x\"Bearer "))), "Bearer [secret]\"Bearer [secret]");
-	EXPECT_EQ(ToUtf8(VexelSecrets::Redact(FString())), "");
+	// Of more secrets than are remembered, one that is still in use stays.
+	for (int32 Index = 0; Index < 100; ++Index)
+	{
+		FVexelSecrets::Add(FString::Printf(TEXT("other-secret-%d"), Index));
+		FVexelSecrets::Add(TEXT("a-long-secret"));
+	}
+	EXPECT_EQ(ToUtf8(FVexelSecrets::Redact(TEXT("a-long-secret other-secret-99"))), "[secret] [secret]");
+	FVexelSecrets::Add(TEXT("4/0Ab cd+ef"));
+	EXPECT_EQ(ToUtf8(FVexelSecrets::Redact(TEXT("code=4%2F0Ab%20cd%2Bef&x, 4/0Ab cd+ef"))), "code=[secret]&x, [secret]");
+	EXPECT_EQ(ToUtf8(FVexelSecrets::Redact(TEXT("Bearer x\"Bearer "))), "Bearer [secret]\"Bearer [secret]");
+	EXPECT_EQ(ToUtf8(FVexelSecrets::Redact(FString())), "");
 }

@@ -2,14 +2,16 @@
 
 #include "HAL/CriticalSection.h"
 #include "Misc/ScopeLock.h"
+#include "VexelHttpPayload.h"
 
 namespace
 {
 constexpr int32 MinSecretLength = 8;
 /** Tokens follow each other; the oldest of these has expired long ago. */
 constexpr int32 MaxSecrets = 64;
-const TCHAR* const Redacted = TEXT("[secret]");
-const FString BearerWord = TEXT("Bearer ");
+constexpr TCHAR Redacted[] = TEXT("[secret]");
+constexpr TCHAR BearerWord[] = TEXT("Bearer ");
+constexpr int32 BearerLength = int32(UE_ARRAY_COUNT(BearerWord)) - 1;
 
 struct FSecretList
 {
@@ -24,48 +26,56 @@ FSecretList& GetList()
 	return *List;
 }
 
+/** The one that was used last stays longest. */
+void Remember(TArray<FString>& Secrets, const FString& Text)
+{
+	Secrets.RemoveAll([&](const FString& Known)
+		{ return Known.Equals(Text); });
+	if (Secrets.Num() == MaxSecrets)
+	{
+		Secrets.RemoveAt(0);
+	}
+	Secrets.Add(Text);
+}
+
 /** Cuts out the word behind each "Bearer ". */
 FString RedactBearer(const FString& Text)
 {
-	FString Rest = Text;
 	FString Answer;
-	int32 At = INDEX_NONE;
-	while ((At = Rest.Find(BearerWord)) != INDEX_NONE)
+	int32 Begin = 0;
+	for (int32 At = 0; (At = Text.Find(BearerWord, ESearchCase::IgnoreCase, ESearchDir::FromStart, Begin)) != INDEX_NONE;)
 	{
-		int32 End = At + BearerWord.Len();
-		while (End < Rest.Len() && !FChar::IsWhitespace(Rest[End]) && Rest[End] != TEXT('"'))
+		const int32 TokenBegin = At + BearerLength;
+		int32 TokenEnd = TokenBegin;
+		while (TokenEnd < Text.Len() && !FChar::IsWhitespace(Text[TokenEnd]) && Text[TokenEnd] != TEXT('"'))
 		{
-			++End;
+			++TokenEnd;
 		}
-		Answer += Rest.Left(At + BearerWord.Len()) + Redacted;
-		Rest = Rest.Mid(End);
+		Answer += FStringView(Text).Mid(Begin, TokenBegin - Begin);
+		Answer += Redacted;
+		Begin = TokenEnd;
 	}
-	return Answer + Rest;
+	return Begin == 0 ? Text : Answer + Text.Mid(Begin);
 }
 }
 
-void VexelSecrets::Add(const FString& Secret)
+void FVexelSecrets::Add(const FString& Secret)
 {
 	if (Secret.Len() < MinSecretLength)
 	{
 		return;
 	}
+	const FString InAddress = VexelInternal::Http::UrlEncode(Secret);
 	FSecretList& List = GetList();
 	FScopeLock Guard(&List.Lock);
-	const bool bKnown = List.Secrets.ContainsByPredicate([&](const FString& Known)
-		{ return Known.Equals(Secret); });
-	if (bKnown)
+	Remember(List.Secrets, Secret);
+	if (!InAddress.Equals(Secret))
 	{
-		return;
+		Remember(List.Secrets, InAddress);
 	}
-	if (List.Secrets.Num() == MaxSecrets)
-	{
-		List.Secrets.RemoveAt(0);
-	}
-	List.Secrets.Add(Secret);
 }
 
-FString VexelSecrets::Redact(const FString& Text)
+FString FVexelSecrets::Redact(const FString& Text)
 {
 	FString Answer = RedactBearer(Text);
 	FSecretList& List = GetList();

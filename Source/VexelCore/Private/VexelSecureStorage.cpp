@@ -101,7 +101,7 @@ TVexelExpected<void> FVexelSecureStorage::StoreValueString(const FString& Key, c
 	{
 		return VEXEL_ERROR(FVexelError_SecureStorage, "A key or value of the secure store is at most %d characters long", MaxLength);
 	}
-	VexelSecrets::Add(Value);
+	FVexelSecrets::Add(Value);
 	const TArray<TUniquePtr<ISecretStore>> Stores = MakeStores();
 	for (int32 Index = 0; Index < Stores.Num(); ++Index)
 	{
@@ -139,7 +139,7 @@ TVexelExpected<FString> FVexelSecureStorage::LoadValueString(const FString& Key)
 		}
 		else if (const TOptional<FString>& Value = Loaded.GetValue())
 		{
-			VexelSecrets::Add(*Value);
+			FVexelSecrets::Add(*Value);
 			return *Value;
 		}
 	}

@@ -211,15 +211,13 @@ void FVexelSentry::Stop()
 
 void FVexelSentry::CaptureError(FVexelError&& Error, const FVexelErrorPlace& Place)
 {
-	UE_LOG(Client, Error, TEXT("[%s:%d] %s"), *VexelInternal::GetBareFileName(Place.File), Place.Line,
-		*VexelSecrets::Redact(Error.ToString()));
+	VEXEL_LOG_AT(Error, Place.File, Place.Line, Error.ToString());
 	Report(Error, Place, TEXT("error"));
 }
 
 void FVexelSentry::CaptureErrorSoft(FVexelError&& Error, const FVexelErrorPlace& Place)
 {
-	UE_LOG(Client, Warning, TEXT("[%s:%d] %s"), *VexelInternal::GetBareFileName(Place.File), Place.Line,
-		*VexelSecrets::Redact(Error.ToString()));
+	VEXEL_LOG_AT(Warning, Place.File, Place.Line, Error.ToString());
 	Report(Error, Place, TEXT("warning"));
 }
 

@@ -242,7 +242,7 @@ void FVexelHttpRequest::SendTransfer()
 			Complete(VEXEL_ERROR_TITLED(FVexelError_HttpUnauthorized, "Not logged in", "%s needs a login", *Address));
 			return;
 		}
-		VexelSecrets::Add(UsedToken);
+		FVexelSecrets::Add(UsedToken);
 		SetHeader(Now.Headers, TEXT("Authorization"), TEXT("Bearer ") + UsedToken);
 	}
 	const TSharedRef<FVexelHttpTransfer> Sent = MakeShared<FVexelHttpTransfer>(MoveTemp(Now));

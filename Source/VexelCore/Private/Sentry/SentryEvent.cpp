@@ -19,7 +19,7 @@ constexpr int32 MaxScopes = 16;
 
 FString Clean(const FString& Text)
 {
-	return VexelSecrets::Redact(Text).Left(MaxTextLength);
+	return FVexelSecrets::Redact(Text).Left(MaxTextLength);
 }
 
 TSharedRef<FJsonObject> MakeException(const FVexelError& Error)
