@@ -29,6 +29,18 @@ protected:
 	TSharedPtr<FVexelHttp> Client;
 };
 
+/** A provider that answers what the test says. */
+struct FFixedAuth final : FVexelHttp::IAuthProvider
+{
+	virtual EAuthResult GetAuthState(FString& OutToken) override
+	{
+		OutToken = TEXT("token-1");
+		return Result;
+	}
+
+	EAuthResult Result = EAuthResult::Authenticated;
+};
+
 /** A port of the loopback interface that nobody listens on. */
 inline int32 FindClosedPort()
 {

@@ -1,5 +1,6 @@
 #include "HttpFixture.h"
 
+#include "VexelTask.h"
 #include "VexelUrlUtils.h"
 
 #include <cstdlib>
@@ -258,6 +259,58 @@ TEST_F(FHttpLimitTest, TheEnvironmentsProxyIsAskedButForThisMachine)
 	ASSERT_TRUE(Proxied.HasValue()) << ToUtf8(Proxied.GetError().ToString());
 	EXPECT_EQ(ToUtf8(Proxied.GetValue()->GetContentString()), "by proxy");
 	EXPECT_EQ(ToUtf8(Direct.GetValue()->GetContentString()), "direct");
+}
+
+TEST_F(FHttpLimitTest, SecretsGoToOtherMachinesByHttpsAlone)
+{
+	FFixedAuth Auth;
+	FVexelHttpManager::SetAuthProvider(&Auth);
+	const TSharedRef<FVexelHttp> Open = MakeShared<FVexelHttp>(FVexelHttpClientConfig(TEXT("http://service.example")));
+	const FResponse Authenticated = Await(Open->Request(EVexelHttpVerb::Get, TEXT("/a")).WithAuth().SendAndAwait());
+	const FResponse Secret = Await(Open->Request(EVexelHttpVerb::Post, TEXT("/a")).WithSecrecy().SendAndAwait());
+	for (const FResponse& Response : {Authenticated, Secret})
+	{
+		ExpectTransportError(Response);
+		EXPECT_THAT(ToUtf8(Response.GetError().GetMessage()),
+			HasSubstr("http://service.example/a: a request with a secret in it goes to another machine by https alone"));
+	}
+}
+
+TEST_F(FHttpLimitTest, AServiceThatRepeatsTheTokenGetsItIntoNoError)
+{
+	struct FLongAuth final : FVexelHttp::IAuthProvider
+	{
+		virtual EAuthResult GetAuthState(FString& OutToken) override
+		{
+			OutToken = TEXT("a-token-of-the-usual-length");
+			return EAuthResult::Authenticated;
+		}
+	};
+	FLongAuth LongAuth;
+	FVexelHttpManager::SetAuthProvider(&LongAuth);
+	Server.AnswerWith("/echo", [](const FScriptedRequest&)
+		{ return FScriptedAnswer(500).Text("a-token-of-the-usual-length " + std::string(980, '.') + " a-token-of-the-usual-length"); });
+	const FResponse Response = Await(Client->Request(EVexelHttpVerb::Get, TEXT("/echo")).WithAuth().SendAndAwait());
+	const std::string Message = ToUtf8(Response.GetError().ToString());
+	EXPECT_THAT(Message, HasSubstr("status 500: [secret] ..."));
+	EXPECT_THAT(Message, testing::Not(HasSubstr("a-token"))) << "nor the half of one at the end of the quote";
+}
+
+TEST_F(FHttpLimitTest, ABurstOfRequestsWaitsForConnections)
+{
+	constexpr int32 NumRequests = 1000;
+	Server.Answer("/a", FScriptedAnswer().Text("x"));
+	TArray<TVexelTaskResult<TSharedRef<FVexelHttpResponse>>> Results;
+	for (int32 Index = 0; Index < NumRequests; ++Index)
+	{
+		Results.Add(Client->Request(EVexelHttpVerb::Get, TEXT("/a")).SendAndAwait());
+	}
+	const auto Collected = Await(VexelTaskCollectAll(Results));
+	ASSERT_EQ(Collected.GetValue().Num(), NumRequests);
+	for (const FResponse& Response : Collected.GetValue())
+	{
+		ASSERT_TRUE(Response.HasValue()) << ToUtf8(Response.GetError().ToString());
+	}
 }
 
 TEST(UrlUtils, OriginsAreTheSameForTheSameService)

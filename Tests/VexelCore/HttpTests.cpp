@@ -8,21 +8,6 @@
 #include <sys/socket.h>
 #include <unistd.h>
 
-namespace
-{
-/** A provider that answers what the test says. */
-struct FFixedAuth final : FVexelHttp::IAuthProvider
-{
-	virtual EAuthResult GetAuthState(FString& OutToken) override
-	{
-		OutToken = TEXT("token-1");
-		return Result;
-	}
-
-	EAuthResult Result = EAuthResult::Authenticated;
-};
-}
-
 TEST_F(FHttpTest, GetAnswersStatusHeadersAndBody)
 {
 	Server.Answer("/a", FScriptedAnswer::Json("{\"name\":\"Tür\"}").Header("X-Id", "17"));
@@ -241,11 +226,9 @@ TEST_F(FHttpTest, CancelledStreamClosesItsConnection)
 TEST_F(FHttpTest, RequestThatTakesTooLongTimesOut)
 {
 	Server.Answer("/slow", FScriptedAnswer().Chunk("x").Stall());
-	const double Start = FPlatformTime::Seconds();
 	const FResponse Response = Await(Client->Request(EVexelHttpVerb::Get, TEXT("/slow")).WithTimeout(0.2f).SendAndAwait());
 	ExpectTransportError(Response);
 	EXPECT_THAT(ToUtf8(Response.GetError().GetMessage()), HasSubstr("timed out"));
-	EXPECT_LT(FPlatformTime::Seconds() - Start, 5.0);
 }
 
 TEST_F(FHttpTest, StreamThatStallsFailsAndOneThatIsSlowDoesNot)

@@ -9,6 +9,7 @@ class FVexelHttpPendingRequest;
 class FVexelHttpRequest;
 class FVexelHttpResponse;
 class FVexelHttpTransfer;
+struct FVexelHttpDefaults;
 struct FVexelHttpTransferSetup;
 
 enum class EVexelHttpVerb : uint8
@@ -61,6 +62,7 @@ public:
 	};
 
 	explicit FVexelHttp(const FVexelHttpClientConfig& Config);
+	~FVexelHttp();
 
 	const FString& GetBaseUrl() const { return BaseUrl; }
 
@@ -71,14 +73,18 @@ public:
 	void SetDefaultHeader(const FString& Name, const FString& Value);
 	void RemoveDefaultHeader(const FString& Name);
 
+	/**
+	 * Keeps every later authenticated request that has its token back until the result is complete, with a value or an error. It
+	 * leaves with the default headers of that moment. Another call takes the place of the one before.
+	 */
+	void HoldRequests(const TVexelTaskResult<void>& Until);
+
 private:
 	friend class FVexelHttpPendingRequest;
 
-	TArray<TTuple<FString, FString>> CopyDefaultHeaders() const;
-
 	FString BaseUrl;
-	mutable FCriticalSection HeadersLock;
-	TArray<TTuple<FString, FString>> DefaultHeaders;
+	/** What requests take when they leave; they share it, because they may outlive the client. */
+	TSharedRef<FVexelHttpDefaults> Defaults;
 };
 
 /** A request being built. It is consumed when it is sent. */
@@ -95,13 +101,18 @@ public:
 	FVexelHttpPendingRequest& WithURLParams(const FVexelHttpUrlParams& Params);
 	/** Limits the answer's body; 1 GiB without it. A larger answer fails the request. */
 	FVexelHttpPendingRequest& WithAnswerLimit(int32 Bytes);
-	/** For requests that carry secrets: errors quote nothing of the answer, and no redirect is followed. */
+	/**
+	 * For requests that carry secrets: errors quote nothing of the answer, and no redirect is followed. Neither such a request nor
+	 * an authenticated one leaves this machine unprotected; to another machine it takes https.
+	 */
 	FVexelHttpPendingRequest& WithSecrecy();
 	/**
 	 * Attaches the provider's access token; without one the request fails as FVexelError_HttpUnauthorized, unsent. When the
 	 * service refuses the token with status 401, the provider is asked for another one and the request is sent once more.
 	 */
 	FVexelHttpPendingRequest& WithAuth(bool bAuthenticated = true);
+	/** Leaves at once also while the client holds requests: for those that the others are held for. */
+	FVexelHttpPendingRequest& WithoutHold();
 	/**
 	 * Replaces a default header of the same name. A name or a value that could end its line and begin another header fails the
 	 * request, unsent.
@@ -133,8 +144,9 @@ private:
 	friend class FVexelHttp;
 	friend class FVexelHttpRequest;
 
-	FVexelHttpPendingRequest(FVexelHttp& Client, EVexelHttpVerb Verb, const FString& Path);
+	FVexelHttpPendingRequest(const FVexelHttp& Client, EVexelHttpVerb Verb, const FString& Path);
 
+	TSharedRef<FVexelHttpDefaults> Defaults;
 	EVexelHttpVerb Verb;
 	FString Url;
 	TArray<TTuple<FString, FString>> Headers;
@@ -145,6 +157,7 @@ private:
 	int32 MaxAnswerBytes = 1 << 30;
 	bool bSecret = false;
 	bool bAuthenticated = false;
+	bool bHeld = true;
 	bool bPayloadValid = true;
 };
 
@@ -177,19 +190,27 @@ private:
 	FVexelHttpRequest(const FVexelHttpRequest&) = delete;
 
 	void Start(const FVexelHttpPendingRequest& Pending);
+	/** Takes the default headers and sends. */
+	void Leave(const FVexelHttpDefaults& Defaults);
 	/** Sends once, with the provider's token of the moment where the request is authenticated. */
 	void SendTransfer();
 	void OnTransferComplete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value);
 	void OnTokenRefreshed(const TVexelExpected<void>& Refreshed, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& FirstAnswer);
 	void Complete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value);
+	void CompleteFailed(const TCHAR* Reason);
+	void BeginWaiting();
+	/** False when the request was cancelled while it waited: it is complete then. */
+	bool EndWaiting();
 	FVexelError MakeCancelledError() const;
 
 	TVexelTaskResult<TSharedRef<FVexelHttpResponse>> Result;
 	mutable FCriticalSection Lock;
 	/** The exchange under way or done. Behind Lock. */
 	TSharedPtr<FVexelHttpTransfer> Transfer;
+	/** Behind Lock. */
 	bool bCancelled = false;
-	bool bRefreshing = false;
+	/** No exchange is under way that would complete the request: it is held, or its token is refreshed. Behind Lock. */
+	bool bWaiting = false;
 
 	/** What the exchange needs, kept for a second one until the request is complete; one completion at a time touches it. */
 	TUniquePtr<FVexelHttpTransferSetup> Setup;

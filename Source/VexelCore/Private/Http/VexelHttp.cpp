@@ -8,6 +8,29 @@
 #include "VexelErrorKinds.h"
 #include "VexelJson.h"
 #include "VexelSecrets.h"
+#include "VexelUrlUtils.h"
+
+/** What requests of a client take when they leave. */
+struct FVexelHttpDefaults
+{
+	TArray<TTuple<FString, FString>> GetHeaders() const
+	{
+		FScopeLock Guard(&Lock);
+		return Headers;
+	}
+
+	TVexelTaskResult<void> GetHold() const
+	{
+		FScopeLock Guard(&Lock);
+		return Hold;
+	}
+
+	mutable FCriticalSection Lock;
+	/** Behind Lock. */
+	TArray<TTuple<FString, FString>> Headers;
+	/** What authenticated requests wait for; refers to no task when they need not. Behind Lock. */
+	TVexelTaskResult<void> Hold;
+};
 
 namespace
 {
@@ -38,13 +61,13 @@ void Submit(const TSharedRef<FVexelHttpTransfer>& Transfer)
 	Manager.Thread->Submit(Transfer);
 }
 
-void WakeThread()
+void EndCancelledTransfers()
 {
 	FManagerData& Manager = GetManager();
 	FScopeLock Guard(&Manager.ThreadLock);
 	if (Manager.Thread)
 	{
-		Manager.Thread->Wake();
+		Manager.Thread->EndCancelled();
 	}
 }
 
@@ -89,7 +112,13 @@ void SetHeader(TArray<TTuple<FString, FString>>& Headers, const FString& Name, c
 
 FVexelHttp::FVexelHttp(const FVexelHttpClientConfig& Config)
 	: BaseUrl(Config.BaseUrl)
+	, Defaults(MakeShared<FVexelHttpDefaults>())
 {
+}
+
+FVexelHttp::~FVexelHttp()
+{
+	HoldRequests(TVexelTaskResult<void>());
 }
 
 FVexelHttpPendingRequest FVexelHttp::Request(EVexelHttpVerb Verb, const FString& Path)
@@ -99,26 +128,30 @@ FVexelHttpPendingRequest FVexelHttp::Request(EVexelHttpVerb Verb, const FString&
 
 void FVexelHttp::SetDefaultHeader(const FString& Name, const FString& Value)
 {
-	FScopeLock Guard(&HeadersLock);
-	SetHeader(DefaultHeaders, Name, Value);
+	FScopeLock Guard(&Defaults->Lock);
+	SetHeader(Defaults->Headers, Name, Value);
 }
 
 void FVexelHttp::RemoveDefaultHeader(const FString& Name)
 {
-	FScopeLock Guard(&HeadersLock);
-	RemoveHeader(DefaultHeaders, Name);
+	FScopeLock Guard(&Defaults->Lock);
+	RemoveHeader(Defaults->Headers, Name);
 }
 
-TArray<TTuple<FString, FString>> FVexelHttp::CopyDefaultHeaders() const
+void FVexelHttp::HoldRequests(const TVexelTaskResult<void>& Until)
 {
-	FScopeLock Guard(&HeadersLock);
-	return DefaultHeaders;
+	TVexelTaskResult<void> Earlier = Until;
+	{
+		FScopeLock Guard(&Defaults->Lock);
+		Swap(Defaults->Hold, Earlier);
+	}
+	// Where nobody else has the earlier one, its end here lets those leave that wait for it; they take the lock.
 }
 
-FVexelHttpPendingRequest::FVexelHttpPendingRequest(FVexelHttp& Client, EVexelHttpVerb InVerb, const FString& Path)
-	: Verb(InVerb)
+FVexelHttpPendingRequest::FVexelHttpPendingRequest(const FVexelHttp& Client, EVexelHttpVerb InVerb, const FString& Path)
+	: Defaults(Client.Defaults)
+	, Verb(InVerb)
 	, Url(Client.GetBaseUrl() + Path)
-	, Headers(Client.CopyDefaultHeaders())
 {
 }
 
@@ -158,6 +191,12 @@ FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithSecrecy()
 FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithAuth(bool bInAuthenticated)
 {
 	bAuthenticated = bInAuthenticated;
+	return *this;
+}
+
+FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithoutHold()
+{
+	bHeld = false;
 	return *this;
 }
 
@@ -215,21 +254,68 @@ FVexelHttpRequest::~FVexelHttpRequest() = default;
 
 void FVexelHttpRequest::Start(const FVexelHttpPendingRequest& Pending)
 {
-	const TTuple<FString, FString>* const BadHeader = Setup->Headers.FindByPredicate([](const TTuple<FString, FString>& Header)
-		{ return !IsHeaderName(Header.Get<0>()) || !IsHeaderValue(Header.Get<1>()); });
+	const bool bSecret = bAuthenticated || Setup->bSecret;
 	if (!Pending.bPayloadValid)
 	{
-		Complete(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the body could not be set", *Address));
+		CompleteFailed(TEXT("the body could not be set"));
+		return;
 	}
-	else if (BadHeader)
+	if (bSecret && !Setup->Url.StartsWith(TEXT("https:")) && !FVexelUrlUtils::IsLoopback(Setup->Url))
+	{
+		CompleteFailed(TEXT("a request with a secret in it goes to another machine by https alone"));
+		return;
+	}
+	const TVexelTaskResult<void> Hold = bAuthenticated && Pending.bHeld ? Pending.Defaults->GetHold() : TVexelTaskResult<void>();
+	const bool bHeldNow = Hold.IsValid() && !Hold.IsComplete();
+	if (!bHeldNow || FVexelHttpManager::GetAuthState(UsedToken) != FVexelHttp::IAuthProvider::EAuthResult::Authenticated)
+	{
+		Leave(*Pending.Defaults);
+		return;
+	}
+	BeginWaiting();
+	Hold.OnComplete([This = AsShared(), Defaults = Pending.Defaults](const TVexelExpected<void>&)
+		{ This->Leave(*Defaults); });
+}
+
+void FVexelHttpRequest::Leave(const FVexelHttpDefaults& Defaults)
+{
+	if (!EndWaiting())
+	{
+		return;
+	}
+	const TArray<TTuple<FString, FString>> OwnHeaders = MoveTemp(Setup->Headers);
+	Setup->Headers = Defaults.GetHeaders();
+	for (const TTuple<FString, FString>& Header : OwnHeaders)
+	{
+		SetHeader(Setup->Headers, Header.Get<0>(), Header.Get<1>());
+	}
+	const TTuple<FString, FString>* const BadHeader = Setup->Headers.FindByPredicate([](const TTuple<FString, FString>& Header)
+		{ return !IsHeaderName(Header.Get<0>()) || !IsHeaderValue(Header.Get<1>()); });
+	if (BadHeader)
 	{
 		const FString Name = IsHeaderName(BadHeader->Get<0>()) ? BadHeader->Get<0>() : FString(TEXT("?"));
-		Complete(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: the header '%s' is none that can be sent", *Address, *Name));
+		CompleteFailed(*FString::Printf(TEXT("the header '%s' is none that can be sent"), *Name));
+		return;
 	}
-	else
-	{
-		SendTransfer();
-	}
+	SendTransfer();
+}
+
+void FVexelHttpRequest::BeginWaiting()
+{
+	FScopeLock Guard(&Lock);
+	bWaiting = true;
+}
+
+bool FVexelHttpRequest::EndWaiting()
+{
+	FScopeLock Guard(&Lock);
+	bWaiting = false;
+	return !bCancelled;
+}
+
+void FVexelHttpRequest::CompleteFailed(const TCHAR* Reason)
+{
+	Complete(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: %s", *Address, Reason));
 }
 
 void FVexelHttpRequest::SendTransfer()
@@ -268,10 +354,7 @@ void FVexelHttpRequest::OnTransferComplete(const TVexelExpected<TSharedRef<FVexe
 		return;
 	}
 	bSentAgain = true;
-	{
-		FScopeLock Guard(&Lock);
-		bRefreshing = true;
-	}
+	BeginWaiting();
 	FVexelHttpManager::RefreshToken(UsedToken).OnComplete([This = AsShared(), Value](const TVexelExpected<void>& Refreshed)
 		{ This->OnTokenRefreshed(Refreshed, Value); });
 }
@@ -279,9 +362,9 @@ void FVexelHttpRequest::OnTransferComplete(const TVexelExpected<TSharedRef<FVexe
 void FVexelHttpRequest::OnTokenRefreshed(
 	const TVexelExpected<void>& Refreshed, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& FirstAnswer)
 {
+	if (!EndWaiting())
 	{
-		FScopeLock Guard(&Lock);
-		bRefreshing = false;
+		return;
 	}
 	FString NewToken;
 	const bool bOnline = FVexelHttpManager::GetAuthState(NewToken) == FVexelHttp::IAuthProvider::EAuthResult::Authenticated;
@@ -323,21 +406,22 @@ TVexelTaskResult<TSharedRef<FVexelHttpResponse>> FVexelHttpRequest::Await() cons
 
 void FVexelHttpRequest::Cancel()
 {
-	bool bBetweenTransfers = false;
+	bool bNobodyCompletes = false;
 	{
 		FScopeLock Guard(&Lock);
 		bCancelled = true;
-		bBetweenTransfers = bRefreshing;
+		bNobodyCompletes = bWaiting;
 		if (Transfer)
 		{
 			Transfer->RequestCancel();
 		}
 	}
-	if (bBetweenTransfers)
+	if (bNobodyCompletes)
 	{
 		Result.Complete(MakeCancelledError());
+		return;
 	}
-	WakeThread();
+	EndCancelledTransfers();
 }
 
 TSharedPtr<FVexelHttpResponse> FVexelHttpRequest::GetResponse() const

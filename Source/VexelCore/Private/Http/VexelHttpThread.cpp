@@ -8,6 +8,8 @@ namespace
 /** Longest sleep of the thread when nothing happens. It is woken for all that matters, so the value is only a safety net. */
 constexpr int PollMilliseconds = 1000;
 constexpr long MaxIdleConnections = 16;
+/** Requests beyond it wait for a connection, so that a burst of them does not use up the process's descriptors. */
+constexpr long MaxConnections = 128;
 }
 
 FVexelHttpThread::FVexelHttpThread()
@@ -17,6 +19,7 @@ FVexelHttpThread::FVexelHttpThread()
 	Multi = curl_multi_init();
 	check(Multi);
 	curl_multi_setopt(Multi, CURLMOPT_MAXCONNECTS, MaxIdleConnections);
+	curl_multi_setopt(Multi, CURLMOPT_MAX_TOTAL_CONNECTIONS, MaxConnections);
 	Thread.Reset(FRunnableThread::Create(this, TEXT("VexelHttpThread")));
 	checkf(Thread, TEXT("The network thread cannot be started"));
 }
@@ -37,6 +40,12 @@ void FVexelHttpThread::Submit(const TSharedRef<FVexelHttpTransfer>& Transfer)
 	Wake();
 }
 
+void FVexelHttpThread::EndCancelled()
+{
+	bAnyCancelled = true;
+	Wake();
+}
+
 void FVexelHttpThread::Wake()
 {
 	curl_multi_wakeup(Multi);
@@ -47,7 +56,7 @@ uint32 FVexelHttpThread::Run()
 	while (!bStopping)
 	{
 		StartSubmitted();
-		EndCancelled();
+		EndCancelledNow();
 		int NumRunning = 0;
 		curl_multi_perform(Multi, &NumRunning);
 		EndFinished();
@@ -79,21 +88,29 @@ void FVexelHttpThread::StartSubmitted()
 		else if (Transfer->Prepare())
 		{
 			curl_multi_add_handle(Multi, Transfer->GetHandle());
-			Running.Add(Transfer);
+			Running.Add(&*Transfer, Transfer);
 		}
 	}
 }
 
-void FVexelHttpThread::EndCancelled()
+void FVexelHttpThread::EndCancelledNow()
 {
-	for (int32 Index = Running.Num() - 1; Index >= 0; --Index)
+	if (!bAnyCancelled.exchange(false))
 	{
-		const TSharedRef<FVexelHttpTransfer> Transfer = Running[Index];
+		return;
+	}
+	TArray<TSharedRef<FVexelHttpTransfer>> Cancelled;
+	for (const auto& [Key, Transfer] : Running)
+	{
 		if (Transfer->IsCancelled())
 		{
-			Remove(&*Transfer);
-			Transfer->FinishCancelled();
+			Cancelled.Add(Transfer);
 		}
+	}
+	for (const TSharedRef<FVexelHttpTransfer>& Transfer : Cancelled)
+	{
+		Remove(&*Transfer);
+		Transfer->FinishCancelled();
 	}
 }
 
@@ -120,23 +137,24 @@ void FVexelHttpThread::EndFinished()
 void FVexelHttpThread::EndAll()
 {
 	StartSubmitted();
-	while (!Running.IsEmpty())
+	TArray<TSharedRef<FVexelHttpTransfer>> Ending;
+	Running.GenerateValueArray(Ending);
+	for (const TSharedRef<FVexelHttpTransfer>& Transfer : Ending)
 	{
-		const TSharedPtr<FVexelHttpTransfer> Transfer = Remove(&*Running.Last());
+		Remove(&*Transfer);
 		Transfer->FinishCancelled();
 	}
 }
 
 TSharedPtr<FVexelHttpTransfer> FVexelHttpThread::Remove(FVexelHttpTransfer* Transfer)
 {
-	const int32 Index = Running.IndexOfByPredicate([&](const TSharedRef<FVexelHttpTransfer>& Other)
-		{ return &*Other == Transfer; });
-	if (Index == INDEX_NONE)
+	const TSharedRef<FVexelHttpTransfer>* const Found = Running.Find(Transfer);
+	if (!Found)
 	{
 		return nullptr;
 	}
-	const TSharedRef<FVexelHttpTransfer> Removed = Running[Index];
+	const TSharedRef<FVexelHttpTransfer> Removed = *Found;
 	curl_multi_remove_handle(Multi, Removed->GetHandle());
-	Running.RemoveAtSwap(Index);
+	Running.Remove(Transfer);
 	return Removed;
 }

@@ -18,27 +18,30 @@ public:
 
 	/** Any thread. */
 	void Submit(const TSharedRef<FVexelHttpTransfer>& Transfer);
-	/** Makes the thread look at cancelled transfers. Any thread. */
-	void Wake();
+	/** Has the thread end the transfers that were cancelled. Any thread. */
+	void EndCancelled();
 
 	virtual uint32 Run() override;
 	virtual void Stop() override;
 
 private:
+	void Wake();
 	void StartSubmitted();
-	void EndCancelled();
+	/** Those of Running, where any was cancelled since the last call. */
+	void EndCancelledNow();
 	void EndFinished();
 	void EndAll();
 	TSharedPtr<FVexelHttpTransfer> Remove(FVexelHttpTransfer* Transfer);
 
 	CURLM* Multi;
 	std::atomic<bool> bStopping = false;
+	std::atomic<bool> bAnyCancelled = false;
 
 	FCriticalSection SubmittedLock;
 	TArray<TSharedRef<FVexelHttpTransfer>> Submitted;
 
 	/** The network thread's own. */
-	TArray<TSharedRef<FVexelHttpTransfer>> Running;
+	TMap<FVexelHttpTransfer*, TSharedRef<FVexelHttpTransfer>> Running;
 
 	TUniquePtr<FRunnableThread> Thread;
 };

@@ -5,6 +5,7 @@
 #include "Misc/ScopeLock.h"
 #include "VexelErrorKinds.h"
 #include "VexelInternalConfig.h"
+#include "VexelSecrets.h"
 #include "VexelTaskManager.h"
 
 #include <cstdlib>
@@ -23,7 +24,9 @@ constexpr curl_off_t MaxReservedBytes = 64 * 1024 * 1024;
 constexpr long MaxRedirects = 5;
 constexpr long ConnectTimeoutMilliseconds = 30'000;
 /** What an error message quotes of a body. */
-constexpr int32 MaxQuotedBytes = 1024;
+constexpr int32 MaxQuotedLength = 1024;
+/** How much of the body is searched for secrets before it is quoted. */
+constexpr int32 MaxSearchedBytes = 64 * 1024;
 
 const TCHAR* ToWord(EVexelHttpVerb Verb)
 {
@@ -108,6 +111,8 @@ void FVexelHttpTransfer::SetOptions()
 	curl_easy_setopt(Handle, CURLOPT_PRIVATE, this);
 	curl_easy_setopt(Handle, CURLOPT_ERRORBUFFER, ErrorBuffer);
 	curl_easy_setopt(Handle, CURLOPT_NOSIGNAL, 1L);
+	// A cancellation would wait for the system's search for the host's address, which can take half a minute.
+	curl_easy_setopt(Handle, CURLOPT_QUICK_EXIT, 1L);
 	curl_easy_setopt(Handle, CURLOPT_NOPROXY, GetHostsWithoutProxy().c_str());
 	curl_easy_setopt(Handle, CURLOPT_USERAGENT, "Vexel");
 	curl_easy_setopt(Handle, CURLOPT_PROTOCOLS_STR, "http,https");
@@ -393,8 +398,10 @@ FVexelError FVexelHttpTransfer::MakeCancelledError() const
 FVexelError FVexelHttpTransfer::MakeStatusError(int32 Status) const
 {
 	const TArray<uint8>& Content = Response->GetContent();
-	const int32 NumQuoted = Setup.bSecret ? 0 : FMath::Min(Content.Num(), MaxQuotedBytes);
-	const FString Quote = ToText(TConstArrayView<uint8>(Content.GetData(), NumQuoted)).TrimStartAndEnd();
+	const int32 NumRead = Setup.bSecret ? 0 : FMath::Min(Content.Num(), MaxSearchedBytes);
+	// A service may repeat what it was sent. A secret that the end of the quote would cut in two is still one here.
+	const FString Text = FVexelSecrets::Redact(ToText(TConstArrayView<uint8>(Content.GetData(), NumRead)));
+	const FString Quote = Text.Left(MaxQuotedLength).TrimStartAndEnd();
 	const FString Message = FString::Printf(
 		TEXT("%s was answered with HTTP status %d%s%s"), *Describe(), Status, Quote.IsEmpty() ? TEXT("") : TEXT(": "), *Quote);
 	const FString Title = TEXT("Request failed");
