@@ -4,6 +4,7 @@
 #include "Misc/Parse.h"
 #include "Misc/ScopedSlowTask.h"
 #include "Modules/ModuleManager.h"
+#include "ToolMenus.h"
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
 #include "VexelHttp.h"
@@ -64,14 +65,28 @@ void Notify(const FText& Title, const FText& Text, SNotificationItem::ECompletio
 }
 }
 
+void FVexelClient::RegisterMenus()
+{
+	const FToolMenuOwnerScoped Owner(this);
+	UToolMenus::Get()
+		->ExtendMenu(TEXT("LevelEditor.MainMenu.Tools"))
+		->FindOrAddSection(TEXT("Vexel"), LOCTEXT("MenuSection", "Vexel"))
+		.AddMenuEntry(TEXT("ValidateBetaFeatures"), LOCTEXT("ValidateBetaFeatures", "Validate Beta Features"),
+			LOCTEXT("ValidateBetaFeaturesTip", "Has the service check the beta features of your account."), FSlateIcon(),
+			FUIAction(FExecuteAction::CreateLambda([this]
+				{ (void)ValidateBetaFeatures(); })));
+}
+
 TVexelExpected<void> FVexelClient::ValidateBetaFeatures()
 {
 	check(IsInGameThread());
 	FVexelErrorContextScope Scope(TEXT("validate_beta_features"));
+	// Not held for the features of a login that has just begun: they would come on this thread, which waits here.
 	const TSharedRef<FVexelHttpRequest> Request = GetApiClient()
 													  ->Request(EVexelHttpVerb::Post, TEXT("/api/validate_beta_features"))
 													  .WithTimeout(TimeoutSeconds)
 													  .WithAuth()
+													  .WithoutHold()
 													  .Send();
 	ShowUntilComplete(Request);
 	TVexelExpected<TSharedRef<FVexelHttpResponse>> Result = Request->Await().Value();

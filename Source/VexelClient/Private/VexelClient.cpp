@@ -10,11 +10,14 @@
 #include "Misc/ScopeLock.h"
 #include "Modules/ModuleManager.h"
 #include "Subsystem/VexelStatusInfo.h"
+#include "ToolMenus.h"
 #include "VexelErrorKinds.h"
 #include "VexelHttp.h"
 #include "VexelInternalConfig.h"
 #include "VexelLog.h"
+#include "VexelSecureStorage.h"
 #include "VexelSentry.h"
+#include "VexelUrlUtils.h"
 #include "VexelUserSettings.h"
 
 namespace
@@ -71,6 +74,13 @@ void Report(FVexelError Error, const FVexelErrorPlace& Place)
 	}
 }
 
+/** A project's settings may name another service, which must not get the login of this one. */
+void ScopeSecretsToService()
+{
+	const TVexelExpected<FString> Origin = FVexelUrlUtils::GetOrigin(ApiUrlSetting.Get());
+	FVexelSecureStorage::SetScope(Origin.HasValue() ? Origin.GetValue() : ApiUrlSetting.Get());
+}
+
 void SetErrorReportingUser(bool bLoggedIn)
 {
 	FVexelSentryUser User;
@@ -110,6 +120,8 @@ void FVexelClient::StartupModule()
 	GetAppClient();
 	GetInsightsClient();
 	GetAuxiliaryHttpClient();
+	HoldRequestsForFeatures();
+	ScopeSecretsToService();
 	AuthProvider = MakeUnique<FVexelAuthProvider>();
 	FVexelHttpManager::SetAuthProvider(AuthProvider.Get());
 
@@ -133,6 +145,7 @@ void FVexelClient::StartupModule()
 	}
 	StartLoadingNodeTypeCache();
 	FVexelStatusInfo::StartMonitoring();
+	UToolMenus::RegisterStartupCallback(FSimpleMulticastDelegate::FDelegate::CreateRaw(this, &FVexelClient::RegisterMenus));
 }
 
 void FVexelClient::ShutdownModule()
@@ -144,16 +157,31 @@ void FVexelClient::ShutdownModule()
 	SaveNodeTypeCacheAndWait();
 	FVexelEmbed::Shutdown();
 
+	UToolMenus::UnRegisterStartupCallback(this);
+	UToolMenus::UnregisterOwner(this);
 	NodeTypeBlueprint.Reset();
 	if (UObjectInitialized())
 	{
 		GetMutableDefault<UVexelUserSettings>()->OnSettingChanged().Remove(SettingsHandle);
 	}
+	// Nobody's features come any more. Who waits for them finds the login gone.
+	FeaturesKnown.Complete(TVexelExpected<void>());
 	FVexelSentry::Stop();
 	FVexelHttpManager::Shutdown();
 	FVexelAuth::Shutdown();
 	FVexelAuthUserInfo::Clear();
 	AuthProvider.Reset();
+	ForgetClients();
+}
+
+void FVexelClient::ForgetClients()
+{
+	FScopeLock Guard(Lock.Get());
+	FeatureHeader.Empty();
+	for (TSharedPtr<FVexelHttp>* const Client : {&ApiClient, &AppClient, &InsightsClient, &AuxiliaryClient})
+	{
+		Client->Reset();
+	}
 }
 
 TSharedPtr<FVexelHttp> FVexelClient::GetApiClient()
@@ -224,6 +252,7 @@ TSharedPtr<FVexelHttp> FVexelClient::GetClient(TSharedPtr<FVexelHttp>& Held, con
 		if (&Held == &ApiClient)
 		{
 			ApplyFeatureHeader(*Held);
+			Held->HoldRequests(FeaturesKnown);
 		}
 	}
 	return Held;
@@ -238,6 +267,16 @@ void FVexelClient::ApplyFeatureHeader(FVexelHttp& Client) const
 	}
 }
 
+void FVexelClient::HoldRequestsForFeatures()
+{
+	FScopeLock Guard(Lock.Get());
+	if (!FeaturesKnown.IsValid() || FeaturesKnown.IsComplete())
+	{
+		FeaturesKnown = TVexelTaskResult<void>::MakePending();
+		ApiClient->HoldRequests(FeaturesKnown);
+	}
+}
+
 void FVexelClient::OnSettingChanged(UObject* Settings, FPropertyChangedEvent&)
 {
 	Settings->SaveConfig();
@@ -249,15 +288,17 @@ void FVexelClient::OnAuthStateChanged()
 	switch (FVexelAuth::GetState())
 	{
 		case FVexelAuth::EState::Online:
-			FVexelAuthUserInfo::ForceRefresh().OnComplete([](const TVexelExpected<FVexelAuthUserInfo>& Result)
+			FVexelAuthUserInfo::ForceRefresh().OnComplete([Known = FeaturesKnown](const TVexelExpected<FVexelAuthUserInfo>& Result)
 				{
 					if (Result.HasError())
 					{
 						Report(Result.GetError(), VEXEL_HERE);
-					} });
+					}
+					Known.Complete(TVexelExpected<void>()); });
 			break;
 		case FVexelAuth::EState::Offline:
 			FVexelAuthUserInfo::Clear();
+			HoldRequestsForFeatures();
 			break;
 		default:
 			break;

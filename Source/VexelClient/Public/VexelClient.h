@@ -62,8 +62,8 @@ public:
 	TVexelTaskResult<void> SaveNodeTypeCache();
 
 	/**
-	 * Has the service check the user's beta features, with a modal window while it does and a notification of the outcome. The
-	 * editor's console command "Vexel.ValidateBetaFeatures". Game thread; waits.
+	 * Has the service check the user's beta features, with a modal window while it does and a notification of the outcome. In the
+	 * editor an entry of the Tools menu and the console command "Vexel.ValidateBetaFeatures". Game thread; waits.
 	 */
 	TVexelExpected<void> ValidateBetaFeatures();
 
@@ -71,7 +71,11 @@ private:
 	TSharedPtr<FVexelHttp> GetClient(TSharedPtr<FVexelHttp>& Held, const FConfigValueBase& Setting);
 	/** Sets or removes the header of the features on a client. The lock is held. */
 	void ApplyFeatureHeader(FVexelHttp& Client) const;
+	/** Has the API's requests wait for the features of the next login. */
+	void HoldRequestsForFeatures();
+	void ForgetClients();
 
+	void RegisterMenus();
 	void OnSettingChanged(UObject* Settings, FPropertyChangedEvent& Event);
 	void OnAuthStateChanged();
 	void OnUserInfoChanged(const FVexelAuthUserInfo& Info);
@@ -87,6 +91,8 @@ private:
 	TSharedPtr<FVexelHttp> AuxiliaryClient;
 	/** The features' names, joined with ",". */
 	FString FeatureHeader;
+	/** Complete from when the features of a login are known, or known not to come, to the login's end. */
+	TVexelTaskResult<void> FeaturesKnown;
 
 	TUniquePtr<FVexelAuthProvider> AuthProvider;
 	FDelegateHandle SettingsHandle;

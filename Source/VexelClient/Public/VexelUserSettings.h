@@ -34,6 +34,30 @@ public:
 	UPROPERTY(Config, EditAnywhere, Category = "Service")
 	FString InsightsApiUrl;
 
+	/** Base URL of the service's public status page. */
+	UPROPERTY(Config, EditAnywhere, Category = "Service")
+	FString StatusUrl;
+
+	/** A file of certificates (PEM) to trust in place of the system's. */
+	UPROPERTY(Config, EditAnywhere, Category = "Service", AdvancedDisplay)
+	FString CaBundleFile;
+
+	/** Seconds that a request of the login may take. */
+	UPROPERTY(Config, EditAnywhere, Category = "Service", AdvancedDisplay)
+	FString AuthTimeoutSeconds;
+
+	/** Seconds that the service may be silent in the middle of an answer. */
+	UPROPERTY(Config, EditAnywhere, Category = "Service", AdvancedDisplay)
+	FString ChatStallTimeoutSeconds;
+
+	/** "file" keeps the login in an encrypted file and leaves the desktop's keyring alone. */
+	UPROPERTY(Config, EditAnywhere, Category = "Privacy", AdvancedDisplay)
+	FString SecretStore;
+
+	/** Where errors are reported; nowhere without it. */
+	UPROPERTY(Config, EditAnywhere, Category = "Privacy", AdvancedDisplay)
+	FString SentryDsn;
+
 	/** What the service has switched on for the user who is logged in; nobody's without one. */
 	UPROPERTY(Transient, VisibleAnywhere, Category = "Account")
 	TArray<FString> Features;

@@ -109,6 +109,16 @@ FConfigValueBase* FVexelInternalConfig::Find(const FString& Key)
 	return Found ? *Found : nullptr;
 }
 
+TArray<FString> FVexelInternalConfig::GetKeys()
+{
+	TArray<FString> Keys;
+	for (const FConfigValueBase* const Value : GetValues())
+	{
+		Keys.Add(Value->GetKey());
+	}
+	return Keys;
+}
+
 void FVexelInternalConfig::ReloadAll()
 {
 	for (FConfigValueBase* const Value : GetValues())

@@ -52,6 +52,7 @@ class VEXELCORE_API FVexelInternalConfig
 public:
 	/** The value of that key; null for none. */
 	static FConfigValueBase* Find(const FString& Key);
+	static TArray<FString> GetKeys();
 	/** Reload() for all of them: the settings object was edited. */
 	static void ReloadAll();
 
