@@ -1,0 +1,28 @@
+using UnrealBuildTool;
+
+public class VexelClient : ModuleRules
+{
+	public VexelClient(ReadOnlyTargetRules Target) : base(Target)
+	{
+		PCHUsage = PCHUsageMode.UseExplicitOrSharedPCHs;
+		CppStandard = CppStandardVersion.Cpp20;
+
+		PublicDependencyModuleNames.AddRange(new string[]
+		{
+			"AssetRegistry",
+			"BlueprintGraph",
+			"Core",
+			"CoreUObject",
+			"DeveloperSettings",
+			"EditorScriptingUtilities",
+			"EditorSubsystem",
+			"Engine",
+			"Json",
+			"Slate",
+			"SlateCore",
+			"ToolMenus",
+			"UnrealEd",
+			"VexelCore"
+		});
+	}
+}
