@@ -16,11 +16,13 @@ public class VexelCore : ModuleRules
 
 		PublicSystemLibraries.AddRange(new string[] { "curl", "crypto", "z", "cpp-httplib" });
 		PublicSystemLibraries.AddRange(new string[] { "secret-1", "gio-2.0", "gobject-2.0", "glib-2.0" });
+		// Debian names its folders of libraries without the vendor that the engine's name has.
+		string Architecture = Target.Architecture.LinuxName.Replace("-unknown", "");
 		PublicSystemIncludePaths.AddRange(new string[]
 		{
 			"/usr/include/libsecret-1",
 			"/usr/include/glib-2.0",
-			$"/usr/lib/{Target.Architecture.LinuxName}/glib-2.0/include"
+			$"/usr/lib/{Architecture}/glib-2.0/include"
 		});
 
 		FileReference Plugin = new FileReference(Path.Combine(PluginDirectory, "Vexel.uplugin"));

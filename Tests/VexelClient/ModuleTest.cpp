@@ -275,6 +275,22 @@ TEST_F(Module, AProfileThatCannotBeHadHoldsUpNothing)
 	EXPECT_EQ(FindRequest("/api/chat")->GetHeader("vexel-beta"), std::nullopt);
 }
 
+TEST_F(Module, ALoginThatTheEndOvertakesChangesNothing)
+{
+	ASSERT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("rt"), TEXT("first")).HasValue());
+	FVexelClient::Get().StartupModule();
+	while (!FVexelAuth::IsOnline())
+	{
+		std::this_thread::yield();
+	}
+	// What the game thread has to do about the login stands in its queue still.
+	FVexelClient::Get().ShutdownModule();
+	Pump();
+	EXPECT_FALSE(FVexelAuthUserInfo::GetCurrent().IsValid());
+	EXPECT_FALSE(FindRequest("/api/user"));
+	FVexelClient::Get().StartupModule();
+}
+
 TEST_F(Module, AFeatureThatCouldBeginAnotherHeaderIsLeftOut)
 {
 	SetFeatures({"good", "bad\\r\\nX-Evil: 1", "two,three", ""});

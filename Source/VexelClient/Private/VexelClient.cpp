@@ -113,6 +113,8 @@ FVexelClient& FVexelClient::Get()
 
 void FVexelClient::StartupModule()
 {
+	// A program may have asked for some before the editor had read its .ini files.
+	FVexelInternalConfig::ReloadAll();
 	FVexelSentry::Start(FPaths::ProjectSavedDir() / TEXT("VexelCache/ErrorReports"));
 	SettingsHandle = GetMutableDefault<UVexelUserSettings>()->OnSettingChanged().AddRaw(this, &FVexelClient::OnSettingChanged);
 	Lock = MakeUnique<FCriticalSection>();
@@ -285,6 +287,11 @@ void FVexelClient::OnSettingChanged(UObject* Settings, FPropertyChangedEvent&)
 
 void FVexelClient::OnAuthStateChanged()
 {
+	if (!AuthProvider)
+	{
+		// The module ended while this was on its way.
+		return;
+	}
 	switch (FVexelAuth::GetState())
 	{
 		case FVexelAuth::EState::Online:

@@ -71,6 +71,7 @@ void FConfigValueBase::Reload()
 {
 	FScopeLock Guard(&Lock);
 	Loaded.Reset();
+	EnsureLoaded();
 }
 
 void FConfigValueBase::EnsureLoaded() const

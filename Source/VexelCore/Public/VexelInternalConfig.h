@@ -32,7 +32,7 @@ public:
 	/** A program's own choice, above every other source, for the rest of the process. */
 	void SetOverride(const FString& Value);
 	void ClearOverride();
-	/** Forgets what was read, so that the next use reads the sources again; an override stays. */
+	/** Reads the sources again; an override stays. Game thread, whose the .ini files are: other threads then find the value read. */
 	void Reload();
 
 private:
@@ -53,7 +53,7 @@ public:
 	/** The value of that key; null for none. */
 	static FConfigValueBase* Find(const FString& Key);
 	static TArray<FString> GetKeys();
-	/** Reload() for all of them: the settings object was edited. */
+	/** Reload() for all of them: the .ini files are there, or the settings object was edited. */
 	static void ReloadAll();
 
 private:

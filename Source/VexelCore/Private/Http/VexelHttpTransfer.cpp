@@ -125,6 +125,7 @@ void FVexelHttpTransfer::SetOptions()
 	// and one slow answer would hold up every other request.
 	curl_easy_setopt(Handle, CURLOPT_PIPEWAIT, bProtected ? 1L : 0L);
 	curl_easy_setopt(Handle, CURLOPT_ACCEPT_ENCODING, "");
+	curl_easy_setopt(Handle, CURLOPT_SSLVERSION, long(CURL_SSLVERSION_TLSv1_2));
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYPEER, 1L);
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYHOST, 2L);
 	const FString CaBundle = CaBundleSetting.Get();
