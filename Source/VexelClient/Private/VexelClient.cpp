@@ -358,7 +358,7 @@ void FVexelClient::StartLoadingNodeTypeCache()
 		{
 			if (Loaded.HasError())
 			{
-				FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_EmbedLoad, Loaded.GetError(), "%s", *Loaded.GetError().ToShortString());
+				FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_EmbedLoad, Loaded.GetError(), "");
 				Error.AppendContext(TEXT("while loading node type cache"));
 				Report(MoveTemp(Error), VEXEL_HERE);
 			} });
