@@ -102,12 +102,49 @@ TEST(Json, DocumentsComeBackAsTheyWere)
 	}
 }
 
-TEST(Json, PrettyTextIsIndentedWithTabsAndReadsBack)
+TEST(Json, PrettyTextIsLaidOutAsTheEngineDoesAndReadsBack)
 {
-	const TSharedPtr<FJsonObject> Object = ReadObject(TEXT("{\"a\":[1,2],\"b\":{\"c\":true}}"));
-	const std::string Pretty = Write<TPrettyJsonPrintPolicy<TCHAR>>(Object);
-	EXPECT_THAT(Pretty, testing::StartsWith("{\n\t\"a\": ["));
-	EXPECT_EQ(Write(ReadObject(UTF8_TO_TCHAR(Pretty.c_str()))), Write(Object));
+	// The layout of a project's file, with what such a file seldom has.
+	const std::string Pretty = R"({
+	"FileVersion": 3,
+	"Name": "a\"b",
+	"Modules": [
+		{
+			"Name": "Game",
+			"AdditionalDependencies": [
+				"Engine",
+				"UMG"
+			]
+		},
+		{
+			"Enabled": true
+		}
+	],
+	"Numbers": [ 1, -2.5, null, false ],
+	"Mixed": [
+		"a",
+		1, 2,
+		"b",
+		[ 1 ],
+		[]
+	],
+	"Empty": [],
+	"Inner":
+	{
+		"None":
+		{
+		}
+	}
+})";
+	const TSharedPtr<FJsonObject> Object = ReadObject(UTF8_TO_TCHAR(Pretty.c_str()));
+	EXPECT_EQ(Write<TPrettyJsonPrintPolicy<TCHAR>>(Object), Pretty);
+}
+
+TEST(Json, ControlCharactersAreWrittenAsTheirCodes)
+{
+	const TSharedPtr<FJsonObject> Object = MakeShared<FJsonObject>();
+	Object->SetStringField(TEXT("k"), TEXT("\u0001\u000b\u001f\b\f\n\r\t\"\\/\u007f"));
+	EXPECT_EQ(Write(Object), "{\"k\":\"\\u0001\\u000b\\u001f\\b\\f\\n\\r\\t\\\"\\\\/\x7f\"}");
 }
 
 TEST(Json, NumbersKeepTheirValue)

@@ -10,7 +10,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
-#include <string>
+#include <string_view>
 
 namespace
 {
@@ -54,33 +54,64 @@ FString ToString(const ANSICHAR* Utf8, size_t Length)
 	return Text;
 }
 
-/** The text as UTF-8. Runs of ASCII, which most of a document is, are narrowed without looking at each character's kind. */
-std::string ToUtf8(FStringView Text)
+/** A text as RapidJSON reads it in place: UTF-8 with a terminator behind it. */
+using FBytes = TArray<ANSICHAR>;
+
+FBytes ToBytes(FUtf8StringView Text)
 {
-	std::string Result;
-	Result.resize(size_t(Text.Len()));
-	const TCHAR* const End = Text.GetData() + Text.Len();
-	size_t Used = 0;
-	for (const TCHAR* Next = Text.GetData(); Next != End;)
+	FBytes Bytes;
+	Bytes.Reserve(Text.Len() + 1);
+	Bytes.Append(reinterpret_cast<const ANSICHAR*>(Text.GetData()), Text.Len());
+	Bytes.Add(0);
+	return Bytes;
+}
+
+/** Copies characters up to the first that is not ASCII, and answers how many. */
+int32 CopyAscii(const TCHAR* Text, int32 Count, ANSICHAR* Out)
+{
+	// Most of a document is ASCII. A block is looked at as a whole, which the compiler makes a few instructions of.
+	constexpr int32 BlockSize = 16;
+	int32 Done = 0;
+	TCHAR Any = 0;
+	for (; Count - Done >= BlockSize && Any < 0x80; Done += Any < 0x80 ? BlockSize : 0)
 	{
-		const TCHAR* Run = Next;
-		for (; Run != End && *Run < 0x80; ++Run)
+		for (int32 Index = Done; Index < Done + BlockSize; ++Index)
 		{
-			Result[Used++] = static_cast<char>(*Run);
-		}
-		for (Next = Run; Next != End && *Next >= 0x80; ++Next)
-		{
-		}
-		if (Run != Next)
-		{
-			const FTCHARToUTF8 Wide(Run, int32(Next - Run));
-			Result.resize(Used + size_t(Wide.Length()) + size_t(End - Next));
-			FMemory::Memcpy(Result.data() + Used, Wide.Get(), size_t(Wide.Length()));
-			Used += size_t(Wide.Length());
+			Any |= Text[Index];
+			Out[Index] = static_cast<ANSICHAR>(Text[Index]);
 		}
 	}
-	Result.resize(Used);
-	return Result;
+	for (; Done < Count && Text[Done] < 0x80; ++Done)
+	{
+		Out[Done] = static_cast<ANSICHAR>(Text[Done]);
+	}
+	return Done;
+}
+
+FBytes ToBytes(FStringView Text)
+{
+	FBytes Bytes;
+	Bytes.SetNumUninitialized(Text.Len() + 1);
+	int32 Used = 0;
+	while (!Text.IsEmpty())
+	{
+		const int32 NumAscii = CopyAscii(Text.GetData(), Text.Len(), Bytes.GetData() + Used);
+		Used += NumAscii;
+		Text.RemovePrefix(NumAscii);
+		const auto IsAsciiUnit = [](TCHAR Unit)
+		{ return Unit < 0x80; };
+		const int32 NumWide = int32(std::find_if(Text.begin(), Text.end(), IsAsciiUnit) - Text.begin());
+		if (NumWide > 0)
+		{
+			const FTCHARToUTF8 Wide(Text.GetData(), NumWide);
+			Text.RemovePrefix(NumWide);
+			Bytes.SetNumUninitialized(Used + Wide.Length() + Text.Len() + 1);
+			FMemory::Memcpy(Bytes.GetData() + Used, Wide.Get(), size_t(Wide.Length()));
+			Used += Wide.Length();
+		}
+	}
+	Bytes[Used] = 0;
+	return Bytes;
 }
 
 /** Values that never change need not be made more than once. */
@@ -97,13 +128,80 @@ const TSharedPtr<FJsonValue>& GetNull()
 	return Null;
 }
 
+/** Null for a number that a double cannot hold. */
+TSharedPtr<FJsonValue> MakeNumber(const ANSICHAR* Text, size_t Length)
+{
+	const ANSICHAR* const End = Text + Length;
+	const bool bInteger = std::all_of(Text, End, [](ANSICHAR Character)
+		{ return Character == '-' || (Character >= '0' && Character <= '9'); });
+	if (bInteger && Length <= MaxExactDigits)
+	{
+		int64 Small = 0;
+		std::from_chars(Text, End, Small);
+		return MakeShared<FJsonValueNumber>(Small == 0 && *Text == '-' ? -0.0 : double(Small));
+	}
+	double Value = 0.0;
+	if (std::from_chars(Text, End, Value).ec != std::errc())
+	{
+		// Wider than the answer, because a number too small for a double is 0 and one too large for it is an error.
+		long double Wide = 0.0;
+		if (std::from_chars(Text, End, Wide).ec != std::errc() || std::abs(Wide) > 1.0)
+		{
+			return nullptr;
+		}
+		Value = 0.0;
+	}
+	if (bInteger && FMath::Abs(Value) >= MaxExactInteger)
+	{
+		return MakeShared<FJsonValueNumberString>(ToString(Text, Length));
+	}
+	return MakeShared<FJsonValueNumber>(Value);
+}
+
+/** Values recur in a document: types, states, zeros. One that was made lately is not made again, for texts and numbers never change. */
+class FRecentValues
+{
+public:
+	/** The bytes must stay where they are, as those of a text that is read in place do. Null where Make answers null. */
+	template <typename MakeType>
+	TSharedPtr<FJsonValue> Get(std::string_view Bytes, MakeType&& Make)
+	{
+		if (Bytes.size() > MaxLength)
+		{
+			return Make();
+		}
+		FSlot& Slot = Slots[std::hash<std::string_view>()(Bytes) % NumSlots];
+		if (!Slot.Value || Slot.Bytes != Bytes)
+		{
+			Slot = {Bytes, Make()};
+		}
+		return Slot.Value;
+	}
+
+private:
+	static constexpr size_t NumSlots = 256;
+	static constexpr size_t MaxLength = 64;
+
+	struct FSlot
+	{
+		std::string_view Bytes;
+		TSharedPtr<FJsonValue> Value;
+	};
+	FSlot Slots[NumSlots];
+};
+
 /** Builds the document from RapidJSON's events. */
 class FDocumentBuilder
 {
 public:
 	bool Null() { return Add(TSharedPtr<FJsonValue>(GetNull())); }
 	bool Bool(bool bValue) { return Add(TSharedPtr<FJsonValue>(GetBoolean(bValue))); }
-	bool RawNumber(const ANSICHAR* Text, rapidjson::SizeType Length, bool) { return Number(FAnsiStringView(Text, int32(Length))); }
+	bool RawNumber(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
+	{
+		TSharedPtr<FJsonValue> Number = RecentNumbers.Get(std::string_view(Text, Length), [Text, Length]
+			{ return MakeNumber(Text, Length); });
+		return Number ? Add(MoveTemp(Number)) : Fail("A number is out of range.");
+	}
 	// Never called, since numbers come as their text.
 	bool Int(int) { return false; }
 	bool Uint(unsigned) { return false; }
@@ -112,7 +210,9 @@ public:
 	bool Double(double) { return false; }
 	bool String(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
 	{
-		return Add(MakeShared<FJsonValueString>(ToString(Text, Length)));
+		const auto Make = [Text, Length]() -> TSharedPtr<FJsonValue>
+		{ return MakeShared<FJsonValueString>(ToString(Text, Length)); };
+		return Add(RecentTexts.Get(std::string_view(Text, Length), Make));
 	}
 	bool StartObject() { return Open(); }
 	bool Key(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
@@ -176,36 +276,6 @@ private:
 		return true;
 	}
 
-	bool Number(FAnsiStringView Text)
-	{
-		const ANSICHAR* const First = Text.GetData();
-		const ANSICHAR* const End = First + Text.Len();
-		const bool bInteger = std::all_of(First, End, [](ANSICHAR Character)
-			{ return Character == '-' || (Character >= '0' && Character <= '9'); });
-		if (bInteger && size_t(Text.Len()) <= MaxExactDigits)
-		{
-			int64 Small = 0;
-			std::from_chars(First, End, Small);
-			return Add(MakeShared<FJsonValueNumber>(Small == 0 && *First == '-' ? -0.0 : double(Small)));
-		}
-		double Value = 0.0;
-		if (std::from_chars(First, End, Value).ec != std::errc())
-		{
-			// Wider than the answer, because a number too small for a double is 0 and one too large for it is an error.
-			long double Wide = 0.0;
-			if (std::from_chars(First, End, Wide).ec != std::errc() || std::abs(Wide) > 1.0)
-			{
-				return Fail("A number is out of range.");
-			}
-			Value = 0.0;
-		}
-		if (bInteger && FMath::Abs(Value) >= MaxExactInteger)
-		{
-			return Add(MakeShared<FJsonValueNumberString>(ToString(First, size_t(Text.Len()))));
-		}
-		return Add(MakeShared<FJsonValueNumber>(Value));
-	}
-
 	bool Fail(const ANSICHAR* Reason)
 	{
 		Failure = Reason;
@@ -215,18 +285,20 @@ private:
 	/** Of what is open: values that are read, innermost last, and the keys of those that are fields. */
 	TArray<TSharedPtr<FJsonValue>> Values;
 	TArray<FString> Keys;
+	FRecentValues RecentTexts;
+	FRecentValues RecentNumbers;
 	int32 Depth = 0;
 	const ANSICHAR* Failure = nullptr;
 };
 
 /** "Missing a comma or '}' after an object member. Line: 3 Ch: 14" */
-FString MakeErrorMessage(const std::string& Utf8, size_t Offset, const ANSICHAR* Reason)
+FString MakeErrorMessage(const FBytes& Bytes, size_t Offset, const ANSICHAR* Reason)
 {
 	int32 Line = 1;
 	int32 Character = 1;
-	for (size_t Index = 0; Index < Utf8.size() && Index < Offset; ++Index)
+	for (int32 Index = 0; Index < Bytes.Num() && size_t(Index) < Offset; ++Index)
 	{
-		const ANSICHAR Byte = Utf8[Index];
+		const ANSICHAR Byte = Bytes[Index];
 		const bool bContinuation = (uint8(Byte) & 0xC0) == 0x80;
 		Line += Byte == '\n' ? 1 : 0;
 		Character = Byte == '\n' ? 1 : Character + (bContinuation ? 0 : 1);
@@ -242,12 +314,13 @@ struct FReadResult
 };
 
 /** The bytes are read in place, and are not what they were afterwards. */
-FReadResult ReadDocument(std::string& Bytes, TSharedPtr<FJsonValue>& OutValue)
+FReadResult ReadDocument(FBytes& Bytes, TSharedPtr<FJsonValue>& OutValue)
 {
-	const size_t Start = Bytes.starts_with(ByteOrderMark) ? sizeof(ByteOrderMark) - 1 : 0;
+	const size_t Size = size_t(Bytes.Num()) - 1;
+	const size_t Start = std::string_view(Bytes.GetData(), Size).starts_with(ByteOrderMark) ? sizeof(ByteOrderMark) - 1 : 0;
 	FDocumentBuilder Builder;
 	rapidjson::Reader Parser;
-	rapidjson::InsituStringStream Stream(Bytes.data() + Start);
+	rapidjson::InsituStringStream Stream(Bytes.GetData() + Start);
 	// Iterative, so that a hostile text cannot exhaust the stack. Numbers as their text, because the reader's own exact conversion
 	// asserts on some that are long or far out of range.
 	constexpr unsigned Flags = rapidjson::kParseIterativeFlag | rapidjson::kParseNumbersAsStringsFlag | rapidjson::kParseInsituFlag;
@@ -257,7 +330,7 @@ FReadResult ReadDocument(std::string& Bytes, TSharedPtr<FJsonValue>& OutValue)
 		return {Start + Result.Offset(), Builder.GetFailure() ? Builder.GetFailure() : rapidjson::GetParseError_En(Result.Code())};
 	}
 	// RapidJSON takes a null character for the end of the text.
-	if (Start + Stream.Tell() != Bytes.size())
+	if (Start + Stream.Tell() != Size)
 	{
 		return {Start + Stream.Tell(), "A null character is in the text."};
 	}
@@ -269,15 +342,15 @@ FReadResult ReadDocument(std::string& Bytes, TSharedPtr<FJsonValue>& OutValue)
 	return {};
 }
 
-template <typename ToBytesType>
-bool ReadText(ToBytesType ToBytes, TSharedPtr<FJsonValue>& OutValue, FString& OutError)
+template <typename ViewType>
+bool ReadText(ViewType Text, TSharedPtr<FJsonValue>& OutValue, FString& OutError)
 {
 	OutValue.Reset();
-	std::string Bytes = ToBytes();
+	FBytes Bytes = ToBytes(Text);
 	const FReadResult Result = ReadDocument(Bytes, OutValue);
 	if (Result.Reason)
 	{
-		OutError = MakeErrorMessage(ToBytes(), Result.Offset, Result.Reason);
+		OutError = MakeErrorMessage(ToBytes(Text), Result.Offset, Result.Reason);
 	}
 	return Result.Reason == nullptr;
 }
@@ -286,16 +359,12 @@ bool ReadText(ToBytesType ToBytes, TSharedPtr<FJsonValue>& OutValue, FString& Ou
 bool FJsonSerializer::Read(FStringView Text, TSharedPtr<FJsonValue>& OutValue, FString& OutError)
 {
 	// RapidJSON reads UTF-8: its numbers-as-text mode is sound for no other encoding.
-	return ReadText([Text]
-		{ return ToUtf8(Text); },
-		OutValue, OutError);
+	return ReadText(Text, OutValue, OutError);
 }
 
 bool FJsonSerializer::Read(FUtf8StringView Text, TSharedPtr<FJsonValue>& OutValue, FString& OutError)
 {
-	return ReadText([Text]
-		{ return std::string(reinterpret_cast<const char*>(Text.GetData()), size_t(Text.Len())); },
-		OutValue, OutError);
+	return ReadText(Text, OutValue, OutError);
 }
 
 bool FJsonSerializer::TakeObject(const TSharedPtr<FJsonValue>& Value, TSharedPtr<FJsonObject>& OutObject, FString& OutError)

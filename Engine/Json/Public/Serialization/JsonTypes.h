@@ -14,7 +14,7 @@ enum class EJson
 	Object
 };
 
-/** Tokens of a writer, by which the print policies place blanks and commas. */
+/** Tokens of a writer, between which it places blanks and commas. */
 enum class EJsonToken
 {
 	None,

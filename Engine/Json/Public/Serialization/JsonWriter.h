@@ -3,39 +3,64 @@
 #include "CoreMinimal.h"
 #include "Policies/PrettyJsonPrintPolicy.h"
 #include "Serialization/JsonTypes.h"
-#include "Templates/UniquePtr.h"
 
 class FArchive;
 
 namespace UE::Json::Private
 {
-/** Puts a document's pieces into text. The pieces must come in a document's order. */
-class IDocumentWriter
+/** Puts a document's pieces into text, laid out as the engine does. The pieces must come in a document's order. */
+class JSON_API FDocumentWriter
 {
 public:
-	virtual ~IDocumentWriter() = default;
+	explicit FDocumentWriter(bool bInPretty)
+		: bPretty(bInPretty)
+	{
+	}
 
-	virtual void StartObject() = 0;
-	virtual void EndObject() = 0;
-	virtual void StartArray() = 0;
-	virtual void EndArray() = 0;
-	virtual void Key(FStringView Name) = 0;
-	virtual void String(FStringView Value) = 0;
-	virtual void RawNumber(FStringView Text) = 0;
-	virtual void Number(double Value) = 0;
-	virtual void Integer(int64 Value) = 0;
-	virtual void Unsigned(uint64 Value) = 0;
-	virtual void Bool(bool bValue) = 0;
-	virtual void Null() = 0;
-	virtual bool IsComplete() const = 0;
-	/** What was written since the writer was made, or since this was last asked. */
-	virtual FStringView GetText() const = 0;
-	virtual void ClearText() = 0;
+	void StartObject();
+	void EndObject();
+	void StartArray();
+	void EndArray();
+	void Key(FStringView Name);
+	void String(FStringView Value);
+	/** A number that is JSON text already. */
+	void RawNumber(FStringView Text);
+	void Number(double Value);
+	void Integer(int64 Value);
+	void Unsigned(uint64 Value);
+	void Bool(bool bValue);
+	void Null();
+
+	/** Whether one whole document was written. */
+	bool IsComplete() const { return Open.IsEmpty() && Previous != EJsonToken::None; }
+	/** What was written since the writer was made, or since the text was last cleared or taken. */
+	FStringView GetText() const { return FStringView(Characters.GetData(), Characters.Num()); }
+	void ClearText() { Characters.Reset(); }
 	/** Moves that text to the end of Output, which costs nothing where Output is empty. */
-	virtual void TakeText(FString& Output) = 0;
+	void TakeText(FString& Output);
+
+private:
+	/** Room for that many characters behind the last, which the caller sets. */
+	TCHAR* Add(int32 Count)
+	{
+		const int32 First = Characters.AddUninitialized(Count);
+		return Characters.GetData() + First;
+	}
+	void Append(FAnsiStringView Text);
+	void AppendQuoted(FStringView Text);
+	void AppendEscaped(FStringView Text);
+	void BreakLine(int32 NumTabs);
+	void PlaceSpace();
+	/** Places what stands between the piece before and a value that begins with the token. */
+	void BeginValue(EJsonToken Token);
+
+	TArray<TCHAR> Characters;
+	/** EJson::Object or EJson::Array for each that is not ended, outermost first. */
+	TArray<EJson> Open;
+	EJsonToken Previous = EJsonToken::None;
+	bool bPretty;
 };
 
-JSON_API TUniquePtr<IDocumentWriter> MakeDocumentWriter(bool bPretty);
 /** Puts the text into an archive: as UTF-8, or as the UTF-16 that it is. */
 JSON_API void WriteText(FArchive& Archive, FStringView Text, bool bUtf8);
 }
@@ -61,35 +86,35 @@ public:
 	TJsonWriter(const TJsonWriter&) = delete;
 	TJsonWriter& operator=(const TJsonWriter&) = delete;
 
-	void WriteObjectStart() { Document->StartObject(); }
+	void WriteObjectStart() { Document.StartObject(); }
 	void WriteObjectStart(FStringView Identifier)
 	{
 		WriteIdentifierPrefix(Identifier);
 		WriteObjectStart();
 	}
-	void WriteObjectEnd() { Document->EndObject(); }
-	void WriteArrayStart() { Document->StartArray(); }
+	void WriteObjectEnd() { Document.EndObject(); }
+	void WriteArrayStart() { Document.StartArray(); }
 	void WriteArrayStart(FStringView Identifier)
 	{
 		WriteIdentifierPrefix(Identifier);
 		WriteArrayStart();
 	}
-	void WriteArrayEnd() { Document->EndArray(); }
+	void WriteArrayEnd() { Document.EndArray(); }
 
-	void WriteIdentifierPrefix(FStringView Identifier) { Document->Key(Identifier); }
+	void WriteIdentifierPrefix(FStringView Identifier) { Document.Key(Identifier); }
 
-	void WriteValue(bool Value) { Document->Bool(Value); }
-	void WriteValue(double Value) { Document->Number(Value); }
+	void WriteValue(bool Value) { Document.Bool(Value); }
+	void WriteValue(double Value) { Document.Number(Value); }
 	void WriteValue(float Value) { WriteValue(double(Value)); }
 	void WriteValue(int32 Value) { WriteValue(int64(Value)); }
 	void WriteValue(uint32 Value) { WriteValue(int64(Value)); }
-	void WriteValue(int64 Value) { Document->Integer(Value); }
-	void WriteValue(uint64 Value) { Document->Unsigned(Value); }
-	void WriteValue(const TCHAR* Value) { Document->String(FStringView(Value)); }
-	void WriteValue(const FString& Value) { Document->String(Value); }
-	void WriteValue(FStringView Value) { Document->String(Value); }
-	void WriteRawJSONValue(FStringView Number) { Document->RawNumber(Number); }
-	void WriteNull() { Document->Null(); }
+	void WriteValue(int64 Value) { Document.Integer(Value); }
+	void WriteValue(uint64 Value) { Document.Unsigned(Value); }
+	void WriteValue(const TCHAR* Value) { Document.String(FStringView(Value)); }
+	void WriteValue(const FString& Value) { Document.String(Value); }
+	void WriteValue(FStringView Value) { Document.String(Value); }
+	void WriteRawJSONValue(FStringView Number) { Document.RawNumber(Number); }
+	void WriteNull() { Document.Null(); }
 
 	template <typename ValueType>
 	void WriteValue(FStringView Identifier, const ValueType& Value)
@@ -107,7 +132,7 @@ public:
 	bool Close()
 	{
 		Flush();
-		return Document->IsComplete();
+		return Document.IsComplete();
 	}
 
 private:
@@ -115,14 +140,14 @@ private:
 	{
 		if (StringOutput)
 		{
-			Document->TakeText(*StringOutput);
+			Document.TakeText(*StringOutput);
 			return;
 		}
-		UE::Json::Private::WriteText(*ArchiveOutput, Document->GetText(), sizeof(CharType) == 1);
-		Document->ClearText();
+		UE::Json::Private::WriteText(*ArchiveOutput, Document.GetText(), sizeof(CharType) == 1);
+		Document.ClearText();
 	}
 
-	TUniquePtr<UE::Json::Private::IDocumentWriter> Document = UE::Json::Private::MakeDocumentWriter(PrintPolicy::bPretty);
+	UE::Json::Private::FDocumentWriter Document = UE::Json::Private::FDocumentWriter(PrintPolicy::bPretty);
 	/** One of the two is set. */
 	FString* StringOutput = nullptr;
 	FArchive* ArchiveOutput = nullptr;
