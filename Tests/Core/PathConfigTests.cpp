@@ -124,6 +124,16 @@ TEST(ConfigOperators, ApplyInTheOrderOfTheirLines)
 		{TEXT("!K"), ""},
 		{TEXT("K=a=b"), "a=b"},
 		{TEXT("K = a ; b"), "a ; b"},
+		{TEXT("K=a // b"), "a"},
+		{TEXT("K=http://x"), "http:"},
+		{TEXT("K=\"http://x\" // b"), "http://x"},
+		{TEXT("K=(Url=\"http://x\",N=1)"), "(Url=\"http://x\",N=1)"},
+		{TEXT("K=(A=1, \\\n\tB=2)\n+K=c"), "(A=1, \tB=2)|c"},
+		{TEXT("K=(A=1, \\\r\nB=2)"), "(A=1, B=2)"},
+		{TEXT("K={(A=1, // one\n\nB=2)\n}\n+K=c"), "(A=1, B=2)|c"},
+		{TEXT("K=\"{a}\""), "{a}"},
+		{TEXT("; what's \"this {\nK=a"), "a"},
+		{TEXT("  ;K=b \\\nK=a"), "a"},
 		{TEXT(";K=a\n//K=b\n=c\n+=d\nK"), ""},
 		{TEXT("K=\"a\\\\b\\n\\\"\""), "a\\b\n\""},
 		{TEXT("K=\"never closed"), "never closed"},
@@ -142,7 +152,7 @@ TEST(ConfigOperators, WhatIsWrittenOverALayerReadsBack)
 {
 	static const TCHAR* const Choices[] = {TEXT("a"), TEXT("A"), TEXT(""), TEXT(" edge "), TEXT("\"q\""), TEXT("tail\\"),
 		TEXT("two\nlines"), TEXT("x=y"), TEXT("; no comment"), TEXT("[no section]"), TEXT("\ttab"), TEXT("+plus"), TEXT("\u00A0"),
-		TEXT("in \"the\" middle\\n")};
+		TEXT("in \"the\" middle\\n"), TEXT("http://x"), TEXT("\"a\\\" // {b"), TEXT("x \"// {\" y"), TEXT("{"), TEXT("it's")};
 	static const TCHAR* const Keys[] = {TEXT("K"), TEXT("L"), TEXT("M.N")};
 	std::mt19937 Random(2);
 	for (int32 Round = 0; Round < 3000; ++Round)

@@ -26,41 +26,112 @@ FString ParseValue(const FString& Text)
 	return Result;
 }
 
-/** The inverse of ParseValue; quotes only where the plain text would be read otherwise. */
+/** Knows of each character of a line, one after the other, whether it stands in quotes. */
+class FQuotes
+{
+public:
+	void Pass(TCHAR Char)
+	{
+		const bool bIsQuote = Char == TEXT('"') && !bEscaped;
+		bEscaped = bOpen && Char == TEXT('\\') && !bEscaped;
+		bOpen = bOpen != bIsQuote;
+	}
+	bool AreOpen() const { return bOpen; }
+
+private:
+	bool bOpen = false;
+	bool bEscaped = false;
+};
+
+bool IsLineEnd(TCHAR Char)
+{
+	return Char == TEXT('\n') || Char == TEXT('\r');
+}
+
+bool IsBrace(TCHAR Char)
+{
+	return Char == TEXT('{') || Char == TEXT('}');
+}
+
+/** Whether the plain text of the value would be read as another one. */
+bool NeedsQuotes(const FString& Value)
+{
+	if (Value.IsEmpty())
+	{
+		return false;
+	}
+	const TCHAR Last = Value[Value.Len() - 1];
+	if (Value[0] == TEXT('"') || FChar::IsWhitespace(Value[0]) || FChar::IsWhitespace(Last) || Last == TEXT('\\'))
+	{
+		return true;
+	}
+	FQuotes Quotes;
+	for (int32 Index = 0; Index < Value.Len(); ++Index)
+	{
+		const bool bBeginsComment = Value[Index] == TEXT('/') && Index + 1 < Value.Len() && Value[Index + 1] == TEXT('/');
+		if (IsLineEnd(Value[Index]) || (!Quotes.AreOpen() && (bBeginsComment || IsBrace(Value[Index]))))
+		{
+			return true;
+		}
+		Quotes.Pass(Value[Index]);
+	}
+	return false;
+}
+
+/** The inverse of ParseValue. */
 FString FormatValue(const FString& Value)
 {
-	const bool bHasBreak = Value.Contains(TEXT("\n")) || Value.Contains(TEXT("\r"));
-	const bool bHasEdge = !Value.IsEmpty() && (FChar::IsWhitespace(Value[0]) || FChar::IsWhitespace(Value[Value.Len() - 1]));
-	if (!bHasBreak && !bHasEdge && !Value.StartsWith(TEXT("\"")))
+	return NeedsQuotes(Value) ? TEXT("\"") + Value.ReplaceCharWithEscapedChar() + TEXT("\"") : Value;
+}
+
+/**
+ * Takes the next line without its comment. A backslash at its end, or a brace that is open, continues it on the next line of the text;
+ * neither belongs to it.
+ */
+FString TakeLine(FStringView& Text)
+{
+	FString Line;
+	FQuotes Quotes;
+	int32 NumOpenBraces = 0;
+	bool bInComment = false;
+	while (!Text.IsEmpty())
 	{
-		return Value;
-	}
-	FString Result = TEXT("\"");
-	for (const TCHAR Char : Value)
-	{
-		switch (Char)
+		const TCHAR Char = Text[0];
+		const TCHAR Next = Text.Len() > 1 ? Text[1] : TCHAR(0);
+		Text.RemovePrefix(1);
+		if (IsLineEnd(Char))
 		{
-			case TEXT('\n'):
-				Result += TEXT("\\n");
+			if (NumOpenBraces <= 0)
+			{
 				break;
-			case TEXT('\r'):
-				Result += TEXT("\\r");
-				break;
-			case TEXT('\t'):
-				Result += TEXT("\\t");
-				break;
-			case TEXT('"'):
-				Result += TEXT("\\\"");
-				break;
-			case TEXT('\\'):
-				Result += TEXT("\\\\");
-				break;
-			default:
-				Result += Char;
-				break;
+			}
+			bInComment = false;
+			continue;
+		}
+		const bool bIsPlain = !bInComment && !Quotes.AreOpen();
+		bInComment = bInComment || (bIsPlain && Char == TEXT('/') && Next == TEXT('/')) || (Line.IsEmpty() && Char == TEXT(';'));
+		if (bInComment)
+		{
+			continue;
+		}
+		if (Char == TEXT('\\') && IsLineEnd(Next))
+		{
+			Text.RemovePrefix(Next == TEXT('\r') && Text.Len() > 1 && Text[1] == TEXT('\n') ? 2 : 1);
+			continue;
+		}
+		if (bIsPlain && IsBrace(Char))
+		{
+			NumOpenBraces += Char == TEXT('{') ? 1 : -1;
+			continue;
+		}
+		Quotes.Pass(Char);
+		if (!Line.IsEmpty() || !FChar::IsWhitespace(Char))
+		{
+			Line += Char;
 		}
 	}
-	return Result + TEXT("\"");
+	Line.TrimEndInline();
+	return Line;
 }
 
 void ApplyLine(FConfigSection& Section, const FString& Line)
@@ -248,13 +319,12 @@ TArray<FString> FConfigSection::GetKeys() const
 
 void FConfigFile::CombineFromBuffer(const FString& Buffer)
 {
-	TArray<FString> Lines;
-	Buffer.ParseIntoArrayLines(Lines, true);
+	FStringView Text(Buffer);
 	FString SectionName;
-	for (const FString& RawLine : Lines)
+	while (!Text.IsEmpty())
 	{
-		const FString Line = RawLine.TrimStartAndEnd();
-		if (Line.IsEmpty() || Line.StartsWith(TEXT(";")) || Line.StartsWith(TEXT("//")))
+		const FString Line = TakeLine(Text);
+		if (Line.IsEmpty())
 		{
 			continue;
 		}

@@ -23,6 +23,30 @@ bool GetParsed(FConfigCacheIni& Config, const TCHAR* Section, const TCHAR* Key, 
 	Value = Parsed;
 	return true;
 }
+
+/** The value as Convert makes it of the text; where there is none, the value stays. */
+template <typename ValueType, typename ConvertType>
+bool GetConverted(const FConfigFile& File, const TCHAR* Section, const TCHAR* Key, ValueType& Value, ConvertType Convert)
+{
+	FString Text;
+	if (!File.GetString(Section, Key, Text))
+	{
+		return false;
+	}
+	Value = Convert(*Text);
+	return true;
+}
+
+template <typename ValueType>
+using TConfigGetter = bool (FConfigCacheIni::*)(const TCHAR* Section, const TCHAR* Key, ValueType& Value, const FString& Filename);
+
+template <typename ValueType>
+ValueType GetOrDefault(FConfigCacheIni& Config, TConfigGetter<ValueType> Get, const TCHAR* Section, const TCHAR* Key, ValueType Value,
+	const FString& Filename)
+{
+	(Config.*Get)(Section, Key, Value, Filename);
+	return Value;
+}
 }
 
 void FConfigFile::Read(const FString& Filename)
@@ -52,42 +76,27 @@ bool FConfigFile::GetString(const TCHAR* Section, const TCHAR* Key, FString& Val
 
 bool FConfigFile::GetBool(const TCHAR* Section, const TCHAR* Key, bool& Value) const
 {
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text);
-	Value = bFound ? Text.ToBool() : Value;
-	return bFound;
+	return GetConverted(*this, Section, Key, Value, &FCString::ToBool);
 }
 
 bool FConfigFile::GetInt(const TCHAR* Section, const TCHAR* Key, int32& Value) const
 {
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text);
-	Value = bFound ? FCString::Atoi(*Text) : Value;
-	return bFound;
+	return GetConverted(*this, Section, Key, Value, &FCString::Atoi);
 }
 
 bool FConfigFile::GetInt64(const TCHAR* Section, const TCHAR* Key, int64& Value) const
 {
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text);
-	Value = bFound ? FCString::Atoi64(*Text) : Value;
-	return bFound;
+	return GetConverted(*this, Section, Key, Value, &FCString::Atoi64);
 }
 
 bool FConfigFile::GetFloat(const TCHAR* Section, const TCHAR* Key, float& Value) const
 {
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text);
-	Value = bFound ? FCString::Atof(*Text) : Value;
-	return bFound;
+	return GetConverted(*this, Section, Key, Value, &FCString::Atof);
 }
 
 bool FConfigFile::GetDouble(const TCHAR* Section, const TCHAR* Key, double& Value) const
 {
-	FString Text;
-	const bool bFound = GetString(Section, Key, Text);
-	Value = bFound ? FCString::Atod(*Text) : Value;
-	return bFound;
+	return GetConverted(*this, Section, Key, Value, &FCString::Atod);
 }
 
 int32 FConfigFile::GetArray(const TCHAR* Section, const TCHAR* Key, TArray<FString>& Value) const
@@ -176,37 +185,27 @@ bool FConfigCacheIni::GetText(const TCHAR* Section, const TCHAR* Key, FText& Val
 
 FString FConfigCacheIni::GetStringOrDefault(const TCHAR* Section, const TCHAR* Key, const FString& DefaultValue, const FString& Filename)
 {
-	FString Value = DefaultValue;
-	GetString(Section, Key, Value, Filename);
-	return Value;
+	return GetOrDefault(*this, &FConfigCacheIni::GetString, Section, Key, DefaultValue, Filename);
 }
 
 bool FConfigCacheIni::GetBoolOrDefault(const TCHAR* Section, const TCHAR* Key, bool DefaultValue, const FString& Filename)
 {
-	bool Value = DefaultValue;
-	GetBool(Section, Key, Value, Filename);
-	return Value;
+	return GetOrDefault(*this, &FConfigCacheIni::GetBool, Section, Key, DefaultValue, Filename);
 }
 
 int32 FConfigCacheIni::GetIntOrDefault(const TCHAR* Section, const TCHAR* Key, int32 DefaultValue, const FString& Filename)
 {
-	int32 Value = DefaultValue;
-	GetInt(Section, Key, Value, Filename);
-	return Value;
+	return GetOrDefault(*this, &FConfigCacheIni::GetInt, Section, Key, DefaultValue, Filename);
 }
 
 float FConfigCacheIni::GetFloatOrDefault(const TCHAR* Section, const TCHAR* Key, float DefaultValue, const FString& Filename)
 {
-	float Value = DefaultValue;
-	GetFloat(Section, Key, Value, Filename);
-	return Value;
+	return GetOrDefault(*this, &FConfigCacheIni::GetFloat, Section, Key, DefaultValue, Filename);
 }
 
 double FConfigCacheIni::GetDoubleOrDefault(const TCHAR* Section, const TCHAR* Key, double DefaultValue, const FString& Filename)
 {
-	double Value = DefaultValue;
-	GetDouble(Section, Key, Value, Filename);
-	return Value;
+	return GetOrDefault(*this, &FConfigCacheIni::GetDouble, Section, Key, DefaultValue, Filename);
 }
 
 int32 FConfigCacheIni::GetArray(const TCHAR* Section, const TCHAR* Key, TArray<FString>& OutArray, const FString& Filename)
