@@ -126,8 +126,34 @@ TEST(Names, InvalidCharactersAreNamedInTheReason)
 
 TEST(Names, DisplayStringsSplitWords)
 {
-	EXPECT_TRUE(FName::NameToDisplayString(TEXT("bIsOpen"), true).Equals(TEXT("Is Open")));
-	EXPECT_TRUE(FName::NameToDisplayString(TEXT("bIsOpen"), false).Equals(TEXT("B Is Open")));
-	EXPECT_TRUE(FName::NameToDisplayString(TEXT("MyHTTPServer"), false).Equals(TEXT("My HTTP Server")));
-	EXPECT_TRUE(FName::NameToDisplayString(TEXT("max_speed"), false).Equals(TEXT("Max Speed")));
+	struct FCase
+	{
+		const TCHAR* Name;
+		bool bIsBool;
+		const TCHAR* Shown;
+	};
+	for (const FCase& Case : {
+			 FCase{TEXT("bIsOpen"), true, TEXT("Is Open")},
+			 FCase{TEXT("bIsOpen"), false, TEXT("B Is Open")},
+			 FCase{TEXT("bold"), true, TEXT("Bold")},
+			 FCase{TEXT("b"), true, TEXT("B")},
+			 FCase{TEXT(""), true, TEXT("")},
+			 FCase{TEXT("max_speed"), false, TEXT("Max Speed")},
+			 FCase{TEXT("Already Apart"), false, TEXT("Already Apart")},
+			 FCase{TEXT("MyHTTPServer"), false, TEXT("My HTTPServer")},
+			 FCase{TEXT("Vector2D"), false, TEXT("Vector 2D")},
+			 FCase{TEXT("DrawScale3D"), false, TEXT("Draw Scale 3D")},
+			 FCase{TEXT("Slot12Name"), false, TEXT("Slot 12Name")},
+			 FCase{TEXT("Range(Min)"), false, TEXT("Range(Min)")},
+			 FCase{TEXT("range(min)"), false, TEXT("Range(Min)")},
+			 FCase{TEXT("-1.25"), false, TEXT("-1.25")},
+			 FCase{TEXT("SpawnActorFromClass"), false, TEXT("Spawn Actor from Class")},
+			 FCase{TEXT("SetTimerByEvent"), false, TEXT("Set Timer by Event")},
+			 FCase{TEXT("GetAllActorsOfClass"), false, TEXT("Get All Actors Of Class")},
+			 FCase{TEXT("FadeIn"), false, TEXT("Fade In")},
+			 FCase{TEXT("MaxInstances"), false, TEXT("Max Instances")},
+			 FCase{TEXT("OnBeginOverlap"), false, TEXT("On Begin Overlap")}})
+	{
+		EXPECT_STREQ(TCHAR_TO_UTF8(*FName::NameToDisplayString(Case.Name, Case.bIsBool)), TCHAR_TO_UTF8(Case.Shown));
+	}
 }

@@ -64,6 +64,23 @@ FName MakeNameAndSplit(FStringView Text, EFindName FindType)
 	return MakeName(Text, Number, FindType);
 }
 
+/** Whether the next word of a name is shown in lower case, as the third of "SetTimerByEvent" is. */
+bool BeginsArticle(FStringView Name)
+{
+	static constexpr const TCHAR* Articles[] = {TEXT("In"), TEXT("As"), TEXT("To"), TEXT("Or"), TEXT("At"), TEXT("On"), TEXT("If"),
+		TEXT("Be"), TEXT("By"), TEXT("The"), TEXT("For"), TEXT("And"), TEXT("With"), TEXT("When"), TEXT("From")};
+	for (const FStringView Article : Articles)
+	{
+		// A name's last word is never one ("FadeIn"), and "In" does not begin "Instance".
+		const bool bEndsHere = Name.Len() > Article.Len() && !FChar::IsLower(Name[Article.Len()]);
+		if (bEndsHere && Name.StartsWith(Article, ESearchCase::CaseSensitive))
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
 const FNameEntry& ResolveOrDie(FNameEntryId Id)
 {
 	const FNameEntry* const Entry = FNameTable::Get().Resolve(Id);
@@ -250,36 +267,31 @@ bool FName::IsValidXName(const FString& InName, const FString& InInvalidChars, F
 FString FName::NameToDisplayString(const FString& InDisplayName, bool bIsBool)
 {
 	FStringView Name(InDisplayName);
-	if (bIsBool && Name.Len() > 2 && Name[0] == 'b' && FChar::IsUpper(Name[1]))
+	if (bIsBool && Name.Len() > 1 && Name[0] == 'b' && FChar::IsUpper(Name[1]))
 	{
 		Name.RemovePrefix(1);
 	}
 	FString Result;
-	bool bWasUpper = false;
-	bool bWasSpace = true;
-	bool bWasDigit = false;
-	for (int32 Index = 0; Index < Name.Len(); ++Index)
+	// Capitals and digits that follow each other stay together: "DrawScale3D" is "Draw Scale 3D".
+	bool bInRun = false;
+	bool bInNumber = false;
+	for (; !Name.IsEmpty(); Name.RemovePrefix(1))
 	{
-		TCHAR Char = Name[Index];
-		if (Char == '_')
+		const TCHAR Char = Name[0] == '_' ? ' ' : Name[0];
+		const bool bIsDigit = FChar::IsDigit(Char);
+		TCHAR Before = Result.IsEmpty() ? TCHAR(0) : Result[Result.Len() - 1];
+		const bool bBeginsWord = (FChar::IsUpper(Char) || (bIsDigit && Before != '-')) && !bInRun && !bInNumber && Before != '(';
+		if (bBeginsWord && Before != 0 && Before != ' ')
 		{
-			Char = ' ';
+			Result += Before = ' ';
 		}
-		const bool bUpper = FChar::IsUpper(Char);
-		const bool bDigit = FChar::IsDigit(Char);
-		const bool bNextIsLower = Index + 1 < Name.Len() && FChar::IsLower(Name[Index + 1]);
-		// A run of capitals stays together, except that its last one begins the next word: "MyHTTPServer" is "My HTTP Server".
-		const bool bBeginsWord = (bUpper && (!bWasUpper || bNextIsLower)) || (bDigit && !bWasDigit && !bWasUpper);
-		if (bBeginsWord && !bWasSpace && Char != ' ')
-		{
-			Result += TEXT(' ');
-		}
-		Result += bWasSpace ? FChar::ToUpper(Char) : Char;
-		bWasSpace = Char == ' ';
-		bWasUpper = bUpper;
-		bWasDigit = bDigit;
+		const bool bIsFirst = Before == 0 || (!bIsDigit && (Before == ' ' || Before == '('));
+		const bool bIsLowered = bIsFirst && Before != 0 && BeginsArticle(Name);
+		Result += bIsLowered ? FChar::ToLower(Char) : (bIsFirst ? FChar::ToUpper(Char) : Char);
+		bInRun = Name[0] == '_' || (!FChar::IsLower(Char) && (bInRun || bBeginsWord));
+		bInNumber = bIsDigit || (bInNumber && (Char == '-' || Char == '.'));
 	}
-	return Result.TrimStartAndEnd();
+	return Result;
 }
 
 int32 FName::Compare(const FName& Other) const

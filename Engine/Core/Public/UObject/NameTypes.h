@@ -133,7 +133,7 @@ public:
 	}
 	static bool IsValidXName(
 		const FString& InName, const FString& InInvalidChars, FText* OutReason = nullptr, const FText* InErrorCtx = nullptr);
-	/** As the details panel shows a variable's name: "bIsOpen" (a bool) becomes "Is Open", "MaxHP" becomes "Max HP". */
+	/** As the editor shows a name: "bIsOpen" (a bool) is "Is Open", "DrawScale3D" "Draw Scale 3D", "SpawnFromClass" "Spawn from Class". */
 	static FString NameToDisplayString(const FString& InDisplayName, bool bIsBool);
 
 	/** Order of the texts without regard to case, then of the numbers. */
