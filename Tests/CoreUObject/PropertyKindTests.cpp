@@ -172,7 +172,7 @@ const FKindCase KindCases[] = {
 	{"IntPoint", &OfStruct<FIntPoint>, TEXT("(X=-3,Y=4)"), TEXT("(X=1,Y=1)"), TEXT("(X=east)")},
 	{"Guid", &OfStruct<FGuid>, TEXT("0123456789ABCDEF0123456789ABCDEF"), TEXT("00000000000000000000000000000001"), TEXT("(A=x)")},
 	{"DateTime", &OfStruct<FDateTime>, TEXT("2024.02.29-23.59.58"), TEXT("2000.01.01-00.00.00"), TEXT("tomorrow")},
-	{"Timespan", &OfStruct<FTimespan>, TEXT("+1.02:03:04.500"), TEXT("-0.00:00:01.000"), TEXT("soon")},
+	{"Timespan", &OfStruct<FTimespan>, TEXT("+00000001.02:03:04.500000100"), TEXT("-00000000.00:00:01.000000000"), TEXT("soon")},
 	{"SoftObjectPath", &OfStruct<FSoftObjectPath>, TEXT("\"/Game/A/B.B:C\""), TEXT("\"/Game/A/D.D\""), TEXT("\"/Game/Open")},
 	{"ArrayOfNames", &OfNames, TEXT("(\"a\",\"b, c\")"), TEXT("(\"\")"), TEXT("(\"a\"")},
 	{"ArrayOfTexts", &OfTexts, TEXT("(INVTEXT(\"a\"),NSLOCTEXT(\"n\", \"k\", \"b)\"))"), TEXT("(INVTEXT(\"c\"))"), TEXT("(INVTEXT(\"a\"")},

@@ -194,7 +194,7 @@ bool FTimespan::Parse(const FString& TimespanString, FTimespan& OutTimespan)
 bool FTimespan::ExportTextItem(
 	FString& ValueStr, const FTimespan& DefaultValue, UObject* Parent, int32 PortFlags, UObject* ExportRootScope) const
 {
-	ValueStr += ToString(TEXT("%d.%h:%m:%s.%f"));
+	ValueStr += ToString(TEXT("%D.%h:%m:%s.%n"));
 	return true;
 }
 

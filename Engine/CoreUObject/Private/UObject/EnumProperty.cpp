@@ -1,5 +1,6 @@
 #include "UObject/EnumProperty.h"
 
+#include "EnumeratorText.h"
 #include "PropertyKindNames.h"
 #include "Serialization/Archive.h"
 #include "UObject/Class.h"
@@ -9,6 +10,31 @@
 #include "UObject/UnrealType.h"
 
 IMPLEMENT_FIELD(FEnumProperty)
+
+void UE::CoreUObject::Private::ExportEnumerator(FString& ValueStr, const UEnum& Enum, int64 Value, int32 PortFlags)
+{
+	const bool bIsShown = Value != Enum.GetMaxEnumValue() || (PortFlags & PPF_Copy);
+	const int32 Index = bIsShown ? Enum.GetIndexByValue(Value) : INDEX_NONE;
+	if (Index == INDEX_NONE)
+	{
+		ValueStr += TEXT("(INVALID)");
+		return;
+	}
+	ValueStr += PortFlags & PPF_PropertyWindow ? Enum.GetDisplayNameTextByIndex(Index).ToString() : Enum.GetNameStringByIndex(Index);
+}
+
+const TCHAR* UE::CoreUObject::Private::ImportEnumerator(const TCHAR* Text, const UEnum& Enum, int64& OutValue)
+{
+	FString Token;
+	const TCHAR* const End = FPropertyHelpers::ReadToken(Text, Token, true);
+	const int32 Index = End ? Enum.GetIndexByNameString(Token) : INDEX_NONE;
+	if (Index == INDEX_NONE)
+	{
+		return nullptr;
+	}
+	OutValue = Enum.GetValueByIndex(Index);
+	return End;
+}
 
 FEnumProperty::~FEnumProperty()
 {
@@ -155,33 +181,27 @@ EConvertFromTypeResult FEnumProperty::ConvertFromType(
 void FEnumProperty::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,
 	int32 PortFlags, UObject* ExportRootScope) const
 {
-	const int64 Value = UnderlyingProp->GetSignedIntPropertyValue(PropertyValue);
 	if (!Enum || (PortFlags & PPF_ConsoleVariable))
 	{
 		ValueStr += UnderlyingProp->GetNumericPropertyValueToString(PropertyValue);
 		return;
 	}
-	const int32 Index = Enum->GetIndexByValue(Value);
-	if (Index == INDEX_NONE)
-	{
-		ValueStr += TEXT("(INVALID)");
-		return;
-	}
-	ValueStr += PortFlags & PPF_PropertyWindow ? Enum->GetDisplayNameTextByIndex(Index).ToString() : Enum->GetNameStringByIndex(Index);
+	UE::CoreUObject::Private::ExportEnumerator(
+		ValueStr, *Enum, UnderlyingProp->GetSignedIntPropertyValue(PropertyValue), PortFlags);
 }
 
 const TCHAR* FEnumProperty::ImportText_Internal(
 	const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const
 {
-	FString Token;
 	const TCHAR* const Start = FPropertyHelpers::SkipWhitespace(Buffer);
-	const TCHAR* const End = FPropertyHelpers::ReadToken(Start, Token, true);
-	const int32 Index = End && Enum ? Enum->GetIndexByNameString(Token) : INDEX_NONE;
-	if (Index != INDEX_NONE)
+	int64 Value = 0;
+	if (const TCHAR* const End = Enum ? UE::CoreUObject::Private::ImportEnumerator(Start, *Enum, Value) : nullptr)
 	{
-		UnderlyingProp->SetIntPropertyValue(PropertyValue, Enum->GetValueByIndex(Index));
+		UnderlyingProp->SetIntPropertyValue(PropertyValue, Value);
 		return End;
 	}
+	FString Token;
+	const TCHAR* const End = FPropertyHelpers::ReadToken(Start, Token);
 	if (End && Token.IsNumeric())
 	{
 		UnderlyingProp->SetNumericPropertyValueFromString(PropertyValue, *Token);

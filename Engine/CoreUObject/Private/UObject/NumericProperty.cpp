@@ -1,5 +1,6 @@
 #include "UObject/NumericProperty.h"
 
+#include "EnumeratorText.h"
 #include "PropertyKindNames.h"
 #include "Serialization/Archive.h"
 #include "UObject/Class.h"
@@ -408,7 +409,8 @@ void FByteProperty::SerializeItem(FArchive& Ar, void* Value, const void* Default
 EConvertFromTypeResult FByteProperty::ConvertFromType(
 	const FPropertyTag& Tag, FArchive& Ar, uint8* Data, UStruct* DefaultsStruct, const uint8* Defaults)
 {
-	const bool bTagHasName = Tag.IsType(FPropertyKindNames::Get().Enum) || (Tag.IsType(FPropertyKindNames::Get().Byte) && !Tag.EnumName.IsNone());
+	const bool bTagHasName =
+		Tag.IsType(FPropertyKindNames::Get().Enum) || (Tag.IsType(FPropertyKindNames::Get().Byte) && !Tag.EnumName.IsNone());
 	if (Enum && bTagHasName)
 	{
 		int64 Value = 0;
@@ -443,13 +445,7 @@ void FByteProperty::ExportText_Internal(FString& ValueStr, const void* PropertyV
 		Super::ExportText_Internal(ValueStr, PropertyValue, DefaultValue, Parent, PortFlags, ExportRootScope);
 		return;
 	}
-	const int32 Index = Enum->GetIndexByValue(GetPropertyValue(PropertyValue));
-	if (Index == INDEX_NONE)
-	{
-		ValueStr += TEXT("(INVALID)");
-		return;
-	}
-	ValueStr += PortFlags & PPF_PropertyWindow ? Enum->GetDisplayNameTextByIndex(Index).ToString() : Enum->GetNameStringByIndex(Index);
+	UE::CoreUObject::Private::ExportEnumerator(ValueStr, *Enum, GetPropertyValue(PropertyValue), PortFlags);
 }
 
 const TCHAR* FByteProperty::ImportText_Internal(
@@ -459,13 +455,11 @@ const TCHAR* FByteProperty::ImportText_Internal(
 	{
 		return Super::ImportText_Internal(Buffer, PropertyValue, OwnerObject, PortFlags, ErrorText);
 	}
-	FString Token;
 	const TCHAR* const Start = FPropertyHelpers::SkipWhitespace(Buffer);
-	const TCHAR* const End = FPropertyHelpers::ReadToken(Start, Token, true);
-	const int32 Index = End ? Enum->GetIndexByNameString(Token) : INDEX_NONE;
-	if (Index != INDEX_NONE)
+	int64 Value = 0;
+	if (const TCHAR* const End = UE::CoreUObject::Private::ImportEnumerator(Start, *Enum, Value))
 	{
-		SetPropertyValue(PropertyValue, static_cast<uint8>(Enum->GetValueByIndex(Index)));
+		SetPropertyValue(PropertyValue, static_cast<uint8>(Value));
 		return End;
 	}
 	if (IsNumberStart(Start))

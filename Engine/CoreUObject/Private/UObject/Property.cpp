@@ -30,7 +30,8 @@ void FProperty::Serialize(FArchive& Ar)
 	constexpr int32 MaxElementSize = 1 << 24;
 	if (ArrayDim < 1 || ArrayDim > MaxArrayDim || ElementSize < 0 || ElementSize > MaxElementSize)
 	{
-		UE_LOG(LogClass, Error, TEXT("%s: property %s has %d elements of %d bytes"), *Ar.GetArchiveName(), *GetName(), ArrayDim, ElementSize);
+		UE_LOG(
+			LogClass, Error, TEXT("%s: property %s has %d elements of %d bytes"), *Ar.GetArchiveName(), *GetName(), ArrayDim, ElementSize);
 		Ar.SetError();
 		ArrayDim = 1;
 		ElementSize = 0;
@@ -288,11 +289,17 @@ bool FProperty::ShouldPort(uint32 PortFlags) const
 	{
 		return false;
 	}
-	if (HasAnyPropertyFlags(CPF_Transient) && !(PortFlags & (PPF_ParsingDefaultProperties | PPF_IncludeTransient)))
+	const uint64 TransientFlags = (PortFlags & PPF_Copy) ? CPF_Transient | CPF_DuplicateTransient | CPF_TextExportTransient : CPF_Transient;
+	if (HasAnyPropertyFlags(TransientFlags) && !(PortFlags & (PPF_ParsingDefaultProperties | PPF_IncludeTransient)))
 	{
 		return false;
 	}
-	if ((PortFlags & PPF_Copy) && HasAnyPropertyFlags(CPF_TextExportTransient))
+	if (HasAnyPropertyFlags(CPF_NonPIEDuplicateTransient) && !(PortFlags & PPF_DuplicateForPIE))
+	{
+		return false;
+	}
+	// A details panel shows what can be edited there.
+	if ((PortFlags & PPF_PropertyWindow) && !HasAnyPropertyFlags(CPF_Edit))
 	{
 		return false;
 	}
