@@ -1,8 +1,7 @@
 #pragma once
 
-#include "CoreTypes.h"
+#include "Algo/ProjectedPredicate.h"
 #include "Templates/IdentityFunctor.h"
-#include "Templates/Invoke.h"
 #include "Templates/Less.h"
 #include "Templates/UnrealTemplate.h"
 
@@ -15,9 +14,7 @@ template <typename RangeType, typename ProjectionType, typename PredicateType = 
 void StableSortBy(RangeType&& Range, ProjectionType Projection, PredicateType IsBefore = PredicateType())
 {
 	auto* const First = GetData(Range);
-	std::stable_sort(First, First + GetNum(Range),
-		[&](const auto& A, const auto& B)
-		{ return Invoke(IsBefore, Invoke(Projection, A), Invoke(Projection, B)); });
+	std::stable_sort(First, First + GetNum(Range), UE::Core::Private::TProjectedPredicate<ProjectionType, PredicateType>{Projection, IsBefore});
 }
 
 template <typename RangeType, typename PredicateType = TLess<>>
