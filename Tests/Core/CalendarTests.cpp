@@ -144,7 +144,8 @@ TEST(Spans, TextRoundTripsAtTheTick)
 		FTimespan Parsed;
 		ASSERT_TRUE(FTimespan::Parse(Text, Parsed)) << Utf8(Text);
 		ASSERT_EQ(Parsed, Span) << Utf8(Text);
-		ASSERT_EQ(FTimespan(Span.GetDays(), Span.GetHours(), Span.GetMinutes(), Span.GetSeconds(), Span.GetFractionNano()), Span) << Utf8(Text);
+		ASSERT_EQ(FTimespan(Span.GetDays(), Span.GetHours(), Span.GetMinutes(), Span.GetSeconds(), Span.GetFractionNano()), Span)
+			<< Utf8(Text);
 	}
 }
 

@@ -170,7 +170,8 @@ void RunArrayModel(std::mt19937& Random)
 		ASSERT_EQ(Values(Array), Model) << Step;
 		ASSERT_EQ(FOwned::NumAlive, Array.Num()) << Step;
 		const auto Found = std::find(Model.begin(), Model.end(), Value);
-		ASSERT_EQ(Array.Find(FOwned(Value)), Found == Model.end() ? static_cast<int32>(INDEX_NONE) : static_cast<int32>(Found - Model.begin()));
+		ASSERT_EQ(
+			Array.Find(FOwned(Value)), Found == Model.end() ? static_cast<int32>(INDEX_NONE) : static_cast<int32>(Found - Model.begin()));
 	}
 }
 }

@@ -40,7 +40,8 @@ TEST(Format, IntegersFollowC)
 	EXPECT_EQ(Text(FString::Printf(TEXT("%d|%5d|%-5d|%05d|%+d|% d"), 42, 42, 42, -42, 42, 42)), u"42|   42|42   |-0042|+42| 42");
 	EXPECT_EQ(Text(FString::Printf(TEXT("%u %x %X %#x %08x %o"), -1, 255, 255, 255, 0xBEEF, 8)), u"4294967295 ff FF 0xff 0000beef 10");
 	EXPECT_EQ(Text(FString::Printf(TEXT("%.3d|%6.3d|%.0d|"), 7, 7, 0)), u"007|   007||");
-	EXPECT_EQ(Text(FString::Printf(TEXT("%lld %llu %llx"), std::numeric_limits<int64>::min(), std::numeric_limits<uint64>::max(), int64(-1))),
+	EXPECT_EQ(
+		Text(FString::Printf(TEXT("%lld %llu %llx"), std::numeric_limits<int64>::min(), std::numeric_limits<uint64>::max(), int64(-1))),
 		u"-9223372036854775808 18446744073709551615 ffffffffffffffff");
 	EXPECT_EQ(Text(FString::Printf(TEXT("%x %hhx"), int8(-1), -1)), u"ffffffff ff");
 	EXPECT_EQ(Text(FString::Printf(TEXT("%d %d"), true, false)), u"1 0");

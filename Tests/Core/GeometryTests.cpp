@@ -10,7 +10,8 @@ namespace
 {
 void ExpectNear(const FVector& Actual, const FVector& Expected, double Tolerance = 1e-6)
 {
-	EXPECT_TRUE(Actual.Equals(Expected, Tolerance)) << TCHAR_TO_UTF8(*Actual.ToString()) << " is not " << TCHAR_TO_UTF8(*Expected.ToString());
+	EXPECT_TRUE(Actual.Equals(Expected, Tolerance))
+		<< TCHAR_TO_UTF8(*Actual.ToString()) << " is not " << TCHAR_TO_UTF8(*Expected.ToString());
 }
 
 class FGeometryTest : public testing::Test

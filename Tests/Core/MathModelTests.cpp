@@ -111,7 +111,8 @@ TEST_F(FMathModelTest, TransformsComposeAndInvert)
 		EXPECT_TRUE(Read.Equals(A, 1e-3)) << TCHAR_TO_UTF8(*A.ToString());
 	}
 	const FTransform Flat(FQuat::Identity, FVector(1, 2, 3), FVector(2, 0, 1));
-	EXPECT_TRUE(Flat.InverseTransformPosition(FVector(5, 6, 7)).Equals(FVector(2, 0, 4))) << "a lost axis comes back as zero, not as infinity";
+	EXPECT_TRUE(Flat.InverseTransformPosition(FVector(5, 6, 7)).Equals(FVector(2, 0, 4)))
+		<< "a lost axis comes back as zero, not as infinity";
 	EXPECT_FALSE(Flat.Inverse().ContainsNaN());
 }
 

@@ -78,7 +78,8 @@ TEST(StringConv, EveryByteValueConvertsWithoutGrowingPastItsBound)
 			const std::u16string Text = Decode(Bytes);
 			EXPECT_LE(Text.size(), Bytes.size());
 			EXPECT_EQ(Text.back(), u'x');
-			EXPECT_EQ(static_cast<size_t>(UE::Core::Private::GetUtf16Length(reinterpret_cast<const UTF8CHAR*>(Bytes.data()), 3)), Text.size());
+			EXPECT_EQ(
+				static_cast<size_t>(UE::Core::Private::GetUtf16Length(reinterpret_cast<const UTF8CHAR*>(Bytes.data()), 3)), Text.size());
 		}
 	}
 }

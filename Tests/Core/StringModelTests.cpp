@@ -102,7 +102,8 @@ TEST(StringModel, ReplacingAndSplittingAreInverseToJoining)
 		const std::u16string Model = ToModel(Text);
 		int32 ExpectedCount = 0;
 		size_t At = 0;
-		for (size_t Found = Model.find(ToModel(Search)); Found != std::u16string::npos; Found = Model.find(ToModel(Search), At), ++ExpectedCount)
+		for (size_t Found = Model.find(ToModel(Search)); Found != std::u16string::npos;
+			 Found = Model.find(ToModel(Search), At), ++ExpectedCount)
 		{
 			Expected += Model.substr(At, Found - At) + ToModel(Replacement);
 			At = Found + static_cast<size_t>(Search.Len());

@@ -32,7 +32,8 @@ TEST(TextForms, PluralsFollowTheNumber)
 	FFormatNamedArguments Named;
 	Named.Add(TEXT("Num"), 2);
 	Named.Add(TEXT("Name"), INVTEXT("Ada"));
-	const FText Quoted = FText::Format(INVTEXT("There {Num}|plural( one = \"is, (just) {Name}\" , other = \"are {Num}, {Name}\" )!"), Named);
+	const FText Quoted =
+		FText::Format(INVTEXT("There {Num}|plural( one = \"is, (just) {Name}\" , other = \"are {Num}, {Name}\" )!"), Named);
 	EXPECT_EQ(Utf8(Quoted), "There are 2, Ada!");
 	Named.Add(TEXT("Num"), 1);
 	EXPECT_EQ(Utf8(FText::Format(INVTEXT("{Num}|plural(one=\"{Name}|plural(other=nested) {Name}\",other=x)"), Named)), "nested Ada");

@@ -70,12 +70,15 @@ TArray<FTypeChange> GetTypeChanges()
 		{"an array of wider elements", ArrayOf(EKind::Int), TEXT("(1,2)"), ArrayOf(EKind::Int64), TEXT("(1,2)")},
 		{"an array of other elements", ArrayOf(EKind::Str), TEXT("(\"1\",\"x\")"), ArrayOf(EKind::Int), TEXT("")},
 		{"an array that becomes one value", ArrayOf(EKind::Int), TEXT("(1,2)"), Describe(EKind::Int), TEXT("0")},
-		{"an array that becomes a set", ArrayOf(EKind::Int), TEXT("(1,2)"), DescribeContainer(EKind::Set, Describe(EKind::Int)), TEXT("(1,2)")},
+		{"an array that becomes a set", ArrayOf(EKind::Int), TEXT("(1,2)"), DescribeContainer(EKind::Set, Describe(EKind::Int)),
+			TEXT("(1,2)")},
 		{"more places", Describe(EKind::Int), TEXT("5"), Three, TEXT("5")},
 		{"fewer places", Three, TEXT("5"), Describe(EKind::Int), TEXT("5")},
-		{"a struct that becomes a number", Describe(EKind::Struct, TEXT("Value"), GetItemStruct()), TEXT("(Count=3)"), Describe(EKind::Int), TEXT("0")},
+		{"a struct that becomes a number", Describe(EKind::Struct, TEXT("Value"), GetItemStruct()), TEXT("(Count=3)"), Describe(EKind::Int),
+			TEXT("0")},
 		{"an enum as its name", Describe(EKind::Enum, TEXT("Value"), GetDoorEnum()), TEXT("Locked"), Describe(EKind::Name), TEXT("Locked")},
-		{"a reference", Describe(EKind::Object, TEXT("Value"), UObject::StaticClass()), TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\""),
+		{"a reference", Describe(EKind::Object, TEXT("Value"), UObject::StaticClass()),
+			TEXT("\"/Script/CoreUObject.Class'/Script/CoreUObject.Object'\""),
 			Describe(EKind::SoftObject, TEXT("Value"), UObject::StaticClass()), TEXT("/Script/CoreUObject.Object")},
 	};
 }
@@ -89,8 +92,10 @@ TEST_F(FLayoutTransfer, AValueStaysWhereItsNewTypeHasAPlaceForIt)
 	{
 		++Number;
 		// Members before it put it at another place.
-		UClass* const OldClass = MakeTestClass(Package, *FString::Printf(TEXT("Old%d_C"), Number), {Change.Old, Describe(EPropertyGenKind::Str, TEXT("Gone"))});
-		UClass* const NewClass = MakeTestClass(Package, *FString::Printf(TEXT("New%d_C"), Number), {Describe(EPropertyGenKind::Text, TEXT("Fresh")), Change.New});
+		UClass* const OldClass =
+			MakeTestClass(Package, *FString::Printf(TEXT("Old%d_C"), Number), {Change.Old, Describe(EPropertyGenKind::Str, TEXT("Gone"))});
+		UClass* const NewClass = MakeTestClass(
+			Package, *FString::Printf(TEXT("New%d_C"), Number), {Describe(EPropertyGenKind::Text, TEXT("Fresh")), Change.New});
 		UObject* const From = NewObject<UObject>(Package, OldClass);
 		ASSERT_TRUE(SetText(From, TEXT("Value"), Change.OldText)) << Change.Name;
 		ASSERT_TRUE(SetText(From, TEXT("Gone"), TEXT("of no use")));
@@ -102,7 +107,8 @@ TEST_F(FLayoutTransfer, AValueStaysWhereItsNewTypeHasAPlaceForIt)
 
 TEST_F(FLayoutTransfer, WhatEqualsTheOldDefaultFollowsTheNewDefault)
 {
-	const TArray<FPropertyDescription> Members = {Describe(EPropertyGenKind::Int, TEXT("Inherited")), Describe(EPropertyGenKind::Int, TEXT("Changed"))};
+	const TArray<FPropertyDescription> Members = {
+		Describe(EPropertyGenKind::Int, TEXT("Inherited")), Describe(EPropertyGenKind::Int, TEXT("Changed"))};
 	UClass* const OldClass = MakeTestClass(Package, TEXT("OldDefaults_C"), Members);
 	UClass* const NewClass = MakeTestClass(Package, TEXT("NewDefaults_C"), Members);
 	for (const TCHAR* const Name : {TEXT("Inherited"), TEXT("Changed")})

@@ -131,9 +131,9 @@ private:
 
 	FPropertyDescription MakeLeaf(const TCHAR* Name)
 	{
-		constexpr EPropertyGenKind Kinds[] = {EPropertyGenKind::Bool, EPropertyGenKind::Byte, EPropertyGenKind::Int64, EPropertyGenKind::UInt64,
-			EPropertyGenKind::Double, EPropertyGenKind::Name, EPropertyGenKind::Str, EPropertyGenKind::Text, EPropertyGenKind::Enum,
-			EPropertyGenKind::Object, EPropertyGenKind::SoftObject};
+		constexpr EPropertyGenKind Kinds[] = {EPropertyGenKind::Bool, EPropertyGenKind::Byte, EPropertyGenKind::Int64,
+			EPropertyGenKind::UInt64, EPropertyGenKind::Double, EPropertyGenKind::Name, EPropertyGenKind::Str, EPropertyGenKind::Text,
+			EPropertyGenKind::Enum, EPropertyGenKind::Object, EPropertyGenKind::SoftObject};
 		const EPropertyGenKind Kind = Kinds[Below(UE_ARRAY_COUNT(Kinds))];
 		const bool bIsEnum = Kind == EPropertyGenKind::Enum;
 		return Describe(Kind, Name, bIsEnum ? static_cast<UField*>(GetDoorEnum()) : UObject::StaticClass());

@@ -113,7 +113,8 @@ TEST_F(FPlaceholders, TypedReferenceRefusesWhatIsKnownToBeSomethingElse)
 	Part->SerializeItem(Reader, Part->ContainerPtrToValuePtr<void>(Holder));
 	EXPECT_EQ(Holder->Part, nullptr);
 	// A stand-in class that took one parent does not take another.
-	UObject* const Taken = FindOrCreatePlaceholder(FTopLevelAssetPath(TEXT("/Script/MissingModule"), TEXT("Taken")), TEXT("/Game/Typed/T.T"));
+	UObject* const Taken =
+		FindOrCreatePlaceholder(FTopLevelAssetPath(TEXT("/Script/MissingModule"), TEXT("Taken")), TEXT("/Game/Typed/T.T"));
 	const TStrongObjectPtr<UObject> Keep(Taken);
 	EXPECT_EQ(FitPlaceholder(Taken, UReflectedThing::StaticClass()), Taken);
 	EXPECT_EQ(FitPlaceholder(Taken, UReflectedPart::StaticClass()), nullptr);

@@ -40,7 +40,8 @@ TEST_P(FTaggedProperties, MembersThatAreGoneAreSteppedOver)
 	UPackage* const Package = MakeTestPackage(TEXT("/Script/PropertyTests"));
 	FTestValue Saved(Describe(EPropertyGenKind::Struct, TEXT("Value"), GetEveryKindStruct()));
 	ASSERT_TRUE(Saved.Import(EveryKindText));
-	UScriptStruct* const Fewer = MakeTestStruct(Package, TEXT("Fewer"), {Describe(EPropertyGenKind::Str, TEXT("Str")), Describe(EPropertyGenKind::Int, TEXT("New"))});
+	UScriptStruct* const Fewer = MakeTestStruct(
+		Package, TEXT("Fewer"), {Describe(EPropertyGenKind::Str, TEXT("Str")), Describe(EPropertyGenKind::Int, TEXT("New"))});
 	FTestValue Loaded(Describe(EPropertyGenKind::Struct, TEXT("Value"), Fewer));
 	ASSERT_TRUE(LoadValue(Loaded, SaveValue(Saved, GetParam()), GetParam()));
 	EXPECT_EQ(Loaded.Export(), TEXT("(Str=\"s\",New=0)"));
@@ -49,8 +50,12 @@ TEST_P(FTaggedProperties, MembersThatAreGoneAreSteppedOver)
 TEST_P(FTaggedProperties, NumbersConvertToTheirNewType)
 {
 	UPackage* const Package = MakeTestPackage(TEXT("/Script/PropertyTests"));
-	UScriptStruct* const Before = MakeTestStruct(Package, TEXT("Before"), {Describe(EPropertyGenKind::Int, TEXT("A")), Describe(EPropertyGenKind::Float, TEXT("B")), Describe(EPropertyGenKind::Bool, TEXT("C")), Describe(EPropertyGenKind::Name, TEXT("D"))});
-	UScriptStruct* const After = MakeTestStruct(Package, TEXT("After"), {Describe(EPropertyGenKind::Int64, TEXT("A")), Describe(EPropertyGenKind::Double, TEXT("B")), Describe(EPropertyGenKind::Int, TEXT("C")), Describe(EPropertyGenKind::Str, TEXT("D"))});
+	UScriptStruct* const Before = MakeTestStruct(Package, TEXT("Before"),
+		{Describe(EPropertyGenKind::Int, TEXT("A")), Describe(EPropertyGenKind::Float, TEXT("B")),
+			Describe(EPropertyGenKind::Bool, TEXT("C")), Describe(EPropertyGenKind::Name, TEXT("D"))});
+	UScriptStruct* const After = MakeTestStruct(Package, TEXT("After"),
+		{Describe(EPropertyGenKind::Int64, TEXT("A")), Describe(EPropertyGenKind::Double, TEXT("B")),
+			Describe(EPropertyGenKind::Int, TEXT("C")), Describe(EPropertyGenKind::Str, TEXT("D"))});
 	FTestValue Saved(Describe(EPropertyGenKind::Struct, TEXT("Value"), Before));
 	ASSERT_TRUE(Saved.Import(TEXT("(A=7,B=0.5,C=True,D=\"n\")")));
 	FTestValue Loaded(Describe(EPropertyGenKind::Struct, TEXT("Value"), After));
@@ -58,12 +63,14 @@ TEST_P(FTaggedProperties, NumbersConvertToTheirNewType)
 	EXPECT_EQ(Loaded.Export(), TEXT("(A=7,B=0.500000,C=1,D=\"n\")"));
 }
 
-INSTANTIATE_TEST_SUITE_P(TagForms, FTaggedProperties, testing::Values(OldTagVersion, GPackageFileUEVersion), [](const testing::TestParamInfo<FPackageFileVersion>& Info)
+INSTANTIATE_TEST_SUITE_P(TagForms, FTaggedProperties, testing::Values(OldTagVersion, GPackageFileUEVersion),
+	[](const testing::TestParamInfo<FPackageFileVersion>& Info)
 	{ return std::string(Info.param == OldTagVersion ? "OldTag" : "CompleteTypeName"); });
 
 TEST(PropertyTypeName, DescribesNestedTypes)
 {
-	const TUniquePtr<FProperty> Property(ConstructPropertyFromDescription(FFieldVariant(), DescribeMap(Describe(EPropertyGenKind::Name), Describe(EPropertyGenKind::Struct, TEXT("Value"), GetItemStruct()))));
+	const TUniquePtr<FProperty> Property(ConstructPropertyFromDescription(FFieldVariant(),
+		DescribeMap(Describe(EPropertyGenKind::Name), Describe(EPropertyGenKind::Struct, TEXT("Value"), GetItemStruct()))));
 	const FPropertyTypeName TypeName(Property.Get());
 	EXPECT_EQ(TypeName.ToString(), TEXT("MapProperty(NameProperty,StructProperty(Item(/Script/PropertyTests)))"));
 	EXPECT_EQ(TypeName.GetParameter(1).GetParameterName(0), FName(TEXT("Item")));
@@ -72,7 +79,8 @@ TEST(PropertyTypeName, DescribesNestedTypes)
 TEST(RuntimeLayout, MembersFollowEachOtherAligned)
 {
 	UScriptStruct* const Struct = MakeTestStruct(MakeTestPackage(TEXT("/Script/PropertyTests")), TEXT("Layout"),
-		{Describe(EPropertyGenKind::Bool, TEXT("A")), Describe(EPropertyGenKind::Double, TEXT("B")), Describe(EPropertyGenKind::Bool, TEXT("C")), Describe(EPropertyGenKind::Int16, TEXT("D"))});
+		{Describe(EPropertyGenKind::Bool, TEXT("A")), Describe(EPropertyGenKind::Double, TEXT("B")),
+			Describe(EPropertyGenKind::Bool, TEXT("C")), Describe(EPropertyGenKind::Int16, TEXT("D"))});
 	EXPECT_EQ(Struct->FindPropertyByName(TEXT("A"))->GetOffset_ForInternal(), 0);
 	EXPECT_EQ(Struct->FindPropertyByName(TEXT("B"))->GetOffset_ForInternal(), 8);
 	EXPECT_EQ(Struct->FindPropertyByName(TEXT("C"))->GetOffset_ForInternal(), 16);

@@ -135,9 +135,9 @@ using FScriptHeaderInitialisers = FObjectTest;
 TEST_F(FScriptHeaderInitialisers, WhatIsNotUnderstoodIsReportedWithItsPlaceAndZero)
 {
 	const char* const Refused[] = {"int32 Value = ComputeIt()", "int32 Value = 3000000000", "int32 Value = 1.5f", "uint8 Value = -1",
-		"int32 Value = 1 / 0", "float Value = 1 / 2", "bool Value = maybe", "EReflectedMood Value = EReflectedMood::Gone", "FVector Value = FVector(1, 2)",
-		"FVector Value = FRotator(1, 2, 3)", "FVector Value = FVector::Sideways", "TArray<int32> Value = {1, x}",
-		"UObject* Value = MakeIt()", "FName Value = GetName()", "FText Value = LOCTEXT(\"k\")",
+		"int32 Value = 1 / 0", "float Value = 1 / 2", "bool Value = maybe", "EReflectedMood Value = EReflectedMood::Gone",
+		"FVector Value = FVector(1, 2)", "FVector Value = FRotator(1, 2, 3)", "FVector Value = FVector::Sideways",
+		"TArray<int32> Value = {1, x}", "UObject* Value = MakeIt()", "FName Value = GetName()", "FText Value = LOCTEXT(\"k\")",
 		"TSubclassOf<UObject> Value = UNoSuchClass::StaticClass()", "int32 Value = ((((1"};
 	int32 Number = 0;
 	for (const char* const Declaration : Refused)
@@ -159,10 +159,11 @@ TEST_F(FScriptHeaderInitialisers, WhatIsNotUnderstoodIsReportedWithItsPlaceAndZe
 
 TEST_F(FScriptHeaderInitialisers, ChildClassesInheritAndOverride)
 {
-	const FScriptHeaderReport Report = LoadText("// Package: /Script/InheritedDefaults\n"
-												"UCLASS()\nclass UDefaultsChild : public UDefaultsParent { GENERATED_BODY() public: UPROPERTY() int32 Own = 2; };\n"
-												"UCLASS()\nclass UDefaultsParent : public UReflectedThing { GENERATED_BODY() public: UPROPERTY() int32 Inherited = 3; "
-												"UPROPERTY() int32 Slots[3] = {1, 2}; };\n");
+	const FScriptHeaderReport Report =
+		LoadText("// Package: /Script/InheritedDefaults\n"
+				 "UCLASS()\nclass UDefaultsChild : public UDefaultsParent { GENERATED_BODY() public: UPROPERTY() int32 Own = 2; };\n"
+				 "UCLASS()\nclass UDefaultsParent : public UReflectedThing { GENERATED_BODY() public: UPROPERTY() int32 Inherited = 3; "
+				 "UPROPERTY() int32 Slots[3] = {1, 2}; };\n");
 	ASSERT_EQ(Report.Errors, TArray<FString>());
 	const UClass* const Child = FindObject<UClass>(nullptr, TEXT("/Script/InheritedDefaults.DefaultsChild"));
 	const UObject* const Instance = NewObject<UObject>(Package, Child);

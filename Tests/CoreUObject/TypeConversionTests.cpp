@@ -194,7 +194,8 @@ TEST_P(FTypeConversion, KeepsWhatCanBeKept)
 	const FProperty* const NewMember = After->FindPropertyByName(TEXT("Member"));
 	const FString Default = ExportMember(Loaded, NewMember);
 	ASSERT_TRUE(LoadValue(Loaded, SaveValue(Saved, Version), Version));
-	EXPECT_EQ(std::string(TCHAR_TO_UTF8(*ExportMember(Loaded, NewMember))), std::string(TCHAR_TO_UTF8(Case.Loaded ? Case.Loaded : *Default)));
+	EXPECT_EQ(
+		std::string(TCHAR_TO_UTF8(*ExportMember(Loaded, NewMember))), std::string(TCHAR_TO_UTF8(Case.Loaded ? Case.Loaded : *Default)));
 	EXPECT_EQ(*After->FindPropertyByName(TEXT("Last"))->ContainerPtrToValuePtr<int32>(Loaded.Memory), 77);
 }
 

@@ -153,7 +153,9 @@ TEST_F(ScriptApiTest, EveryNameIsDeclared)
 	{
 		// A value of an interface names the class of its functions, IFoo, where reflection has UFoo.
 		const bool bInterface = Name[0] == 'I' && Types.FindClass("U" + Name.substr(1));
-		EXPECT_TRUE(bInterface || IsCoreType(Name) || Types.FindClass(Name) || Types.FindStruct(Name) || Types.FindEnum(Name) || Types.FindDelegate(Name)) << Name;
+		EXPECT_TRUE(bInterface || IsCoreType(Name) || Types.FindClass(Name) || Types.FindStruct(Name) || Types.FindEnum(Name) ||
+			Types.FindDelegate(Name))
+			<< Name;
 	}
 }
 

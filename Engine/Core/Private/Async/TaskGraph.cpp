@@ -70,8 +70,9 @@ public:
 	{
 		std::unique_lock Lock(Mutex);
 		// A wait that the clock could not add up is one without an end.
-		const std::chrono::microseconds Length(Timeout < FTimespan::FromDays(365.0) ? Timeout.GetTicks() / ETimespan::TicksPerMicrosecond
-																					: FTimespan::FromDays(365.0).GetTicks() / ETimespan::TicksPerMicrosecond);
+		const std::chrono::microseconds Length(Timeout < FTimespan::FromDays(365.0)
+				? Timeout.GetTicks() / ETimespan::TicksPerMicrosecond
+				: FTimespan::FromDays(365.0).GetTicks() / ETimespan::TicksPerMicrosecond);
 		Woken.wait_for(Lock, Length, [this]
 			{ return bWakeRequested || !Tasks.empty(); });
 		bWakeRequested = false;

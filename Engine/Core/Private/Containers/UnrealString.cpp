@@ -392,7 +392,8 @@ void FString::ReplaceCharInline(TCHAR SearchChar, TCHAR ReplacementChar, ESearch
 {
 	for (TCHAR& Char : *this)
 	{
-		const bool bSame = Char == SearchChar || (SearchCase == ESearchCase::IgnoreCase && FChar::ToLower(Char) == FChar::ToLower(SearchChar));
+		const bool bSame =
+			Char == SearchChar || (SearchCase == ESearchCase::IgnoreCase && FChar::ToLower(Char) == FChar::ToLower(SearchChar));
 		Char = bSame ? ReplacementChar : Char;
 	}
 }

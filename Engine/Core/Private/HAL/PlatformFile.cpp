@@ -128,7 +128,8 @@ public:
 	{
 		const int64 Seconds = DateTime.ToUnixTimestamp();
 		const int64 Fraction = (DateTime - FDateTime::FromUnixTimestamp(Seconds)).GetTicks();
-		const timespec Times[2] = {{Seconds, Fraction * ETimespan::NanosecondsPerTick}, {Seconds, Fraction * ETimespan::NanosecondsPerTick}};
+		const timespec Times[2] = {
+			{Seconds, Fraction * ETimespan::NanosecondsPerTick}, {Seconds, Fraction * ETimespan::NanosecondsPerTick}};
 		utimensat(AT_FDCWD, ToUtf8(Filename).c_str(), Times, 0);
 	}
 

@@ -350,8 +350,9 @@ void FPlatformProcess::LaunchURL(const TCHAR* URL, const TCHAR* Parms, FString* 
 	if (Error != nullptr)
 	{
 		TCHAR Message[256];
-		*Error = SpawnError == 0 ? FString()
-								 : FString::Printf(TEXT("Could not open the browser: %s"), FPlatformMisc::GetSystemErrorMessage(Message, 256, SpawnError));
+		*Error = SpawnError == 0
+			? FString()
+			: FString::Printf(TEXT("Could not open the browser: %s"), FPlatformMisc::GetSystemErrorMessage(Message, 256, SpawnError));
 	}
 }
 

@@ -18,7 +18,8 @@ struct FDepthScope
 };
 
 /** Flags that a file may set; the others are about this run. */
-constexpr uint32 PersistentFlags = ETextFlag::CultureInvariant | ETextFlag::ConvertedProperty | ETextFlag::Immutable | ETextFlag::InitializedFromString;
+constexpr uint32 PersistentFlags =
+	ETextFlag::CultureInvariant | ETextFlag::ConvertedProperty | ETextFlag::Immutable | ETextFlag::InitializedFromString;
 
 void SerializeUnidentified(FArchive& Ar, FTextData& Data)
 {
@@ -27,7 +28,8 @@ void SerializeUnidentified(FArchive& Ar, FTextData& Data)
 	// Packages are also written in the form of their own engine; other archives are of today.
 	const bool bIsOfToday = Ar.IsSaving() && !Ar.IsPersistent();
 	const bool bIsOld = Ar.IsPersistent() && Version < 0;
-	const bool bHasString = bIsOfToday || (Version < 0 && !bIsOld) || Version >= FEditorObjectVersion::CultureInvariantTextSerializationKeyStability;
+	const bool bHasString =
+		bIsOfToday || (Version < 0 && !bIsOld) || Version >= FEditorObjectVersion::CultureInvariantTextSerializationKeyStability;
 	if (!bHasString)
 	{
 		return;

@@ -27,7 +27,8 @@ FText FTokenizedMessage::ToText() const
 	for (const TSharedRef<IMessageToken>& Token : MessageTokens)
 	{
 		const FString& Piece = Token->ToText().ToString();
-		const bool bWouldRunTogether = !Whole.IsEmpty() && !Piece.IsEmpty() && FChar::IsAlnum(Whole[Whole.Len() - 1]) && FChar::IsAlnum(Piece[0]);
+		const bool bWouldRunTogether =
+			!Whole.IsEmpty() && !Piece.IsEmpty() && FChar::IsAlnum(Whole[Whole.Len() - 1]) && FChar::IsAlnum(Piece[0]);
 		Whole += bWouldRunTogether ? TEXT(" ") : TEXT("");
 		Whole += Piece;
 	}

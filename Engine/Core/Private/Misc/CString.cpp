@@ -52,7 +52,8 @@ FParsedInteger ParseInteger(const CharType* String, int32 Base)
 	const FNumberText Number(String);
 	const char* First = Number.Text;
 	const char* const Last = Number.Text + Number.Length;
-	const bool bHasHexPrefix = Number.Length > 2 && First[0] == '0' && (First[1] == 'x' || First[1] == 'X') && FCharAnsi::IsHexDigit(First[2]);
+	const bool bHasHexPrefix =
+		Number.Length > 2 && First[0] == '0' && (First[1] == 'x' || First[1] == 'X') && FCharAnsi::IsHexDigit(First[2]);
 	if ((Base == 0 || Base == 16) && bHasHexPrefix)
 	{
 		First += 2;

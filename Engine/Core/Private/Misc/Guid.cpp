@@ -262,7 +262,8 @@ FGuid FGuid::NewDeterministicGuid(FStringView ObjectPath, uint64 Seed)
 
 FGuid FGuid::Combine(const FGuid& GuidA, const FGuid& GuidB)
 {
-	return FGuid(HashCombine(GuidA.A, GuidB.A), HashCombine(GuidA.B, GuidB.B), HashCombine(GuidA.C, GuidB.C), HashCombine(GuidA.D, GuidB.D));
+	return FGuid(
+		HashCombine(GuidA.A, GuidB.A), HashCombine(GuidA.B, GuidB.B), HashCombine(GuidA.C, GuidB.C), HashCombine(GuidA.D, GuidB.D));
 }
 
 uint32& FGuid::operator[](int32 Index)

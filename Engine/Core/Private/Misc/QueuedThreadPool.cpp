@@ -31,7 +31,8 @@ public:
 		// Stacks are this system's default: the engine's callers ask for ones too small for its C library.
 		for (uint32 Index = 0; Index < NumQueuedThreads; ++Index)
 		{
-			TUniquePtr<FRunnableThread> Thread(FRunnableThread::Create(this, *FString::Printf(TEXT("%s #%u"), Name, Index), 0, ThreadPriority));
+			TUniquePtr<FRunnableThread> Thread(
+				FRunnableThread::Create(this, *FString::Printf(TEXT("%s #%u"), Name, Index), 0, ThreadPriority));
 			if (!Thread)
 			{
 				Destroy();

@@ -218,7 +218,8 @@ bool FArchive::CanHold(int64 Count, int64 MinElementBytes)
 	const int64 Size = TotalSize();
 	const int64 Position = Tell();
 	const bool bIsOverLimit = ArMaxSerializeSize > 0 && Count > ArMaxSerializeSize;
-	const bool bIsOverRest = Size != INDEX_NONE && Position != INDEX_NONE && Count > (Position < Size ? Size - Position : 0) / MinElementBytes;
+	const bool bIsOverRest =
+		Size != INDEX_NONE && Position != INDEX_NONE && Count > (Position < Size ? Size - Position : 0) / MinElementBytes;
 	if (Count < 0 || bIsOverLimit || bIsOverRest)
 	{
 		SetError();

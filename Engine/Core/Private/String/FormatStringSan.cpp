@@ -96,7 +96,8 @@ private:
 		switch (Specifier.Conversion)
 		{
 			case 's':
-				return Specifier.bHalf ? WriteUtf8(Specifier, Argument) : WriteTChars(Specifier, static_cast<const TCHAR*>(Argument.Pointer));
+				return Specifier.bHalf ? WriteUtf8(Specifier, Argument)
+									   : WriteTChars(Specifier, static_cast<const TCHAR*>(Argument.Pointer));
 			case 'c':
 				return WriteCharacter(Specifier, Argument);
 			case 'p':
@@ -133,7 +134,8 @@ private:
 	void WriteTChars(const FFormatSpecifier& Specifier, const TCHAR* Text)
 	{
 		Text = Text != nullptr ? Text : TEXT("(null)");
-		const int32 Len = Specifier.Precision < 0 ? FCString::Strlen(Text) : FCString::Strnlen(Text, static_cast<SIZE_T>(Specifier.Precision));
+		const int32 Len =
+			Specifier.Precision < 0 ? FCString::Strlen(Text) : FCString::Strnlen(Text, static_cast<SIZE_T>(Specifier.Precision));
 		WritePadded(Specifier, Text, Len);
 	}
 
@@ -251,8 +253,9 @@ private:
 		}
 		else
 		{
-			const std::chars_format Style = Conversion == 'f' ? std::chars_format::fixed
-															  : (Conversion == 'e' ? std::chars_format::scientific : std::chars_format::general);
+			const std::chars_format Style = Conversion == 'f'
+				? std::chars_format::fixed
+				: (Conversion == 'e' ? std::chars_format::scientific : std::chars_format::general);
 			End = std::to_chars(Digits, std::end(Digits), Magnitude, Style, Precision).ptr;
 		}
 		if (Conversion != Specifier.Conversion)

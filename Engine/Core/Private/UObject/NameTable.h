@@ -34,7 +34,9 @@ public:
 
 	static FNameTable& Get();
 
-	/** `Text` has no number and at most NAME_SIZE - 1 characters. False, with None in `OutIds`, when it is not there and may not be added. */
+	/**
+	 * `Text` has no number and at most NAME_SIZE - 1 characters. False, with None in `OutIds`, when it is not there and may not be added.
+	 */
 	bool FindOrAdd(FStringView Text, EFindName FindType, FEntryIds& OutIds);
 	FNameEntryId GetHardcoded(EName Name) const { return HardcodedIds[static_cast<uint32>(Name)]; }
 	/** Null for an id that no entry has. */

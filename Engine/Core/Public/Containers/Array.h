@@ -267,7 +267,8 @@ public:
 		const PTRINT SelfOffset = reinterpret_cast<const uint8*>(Ptr) - reinterpret_cast<const uint8*>(GetData());
 		const bool bSelf = IsOwnAddress(Ptr);
 		const SizeType Index = AddUninitialized(Count);
-		const OtherType* const From = bSelf ? reinterpret_cast<const OtherType*>(reinterpret_cast<const uint8*>(GetData()) + SelfOffset) : Ptr;
+		const OtherType* const From =
+			bSelf ? reinterpret_cast<const OtherType*>(reinterpret_cast<const uint8*>(GetData()) + SelfOffset) : Ptr;
 		ConstructItems<ElementType>(static_cast<void*>(GetData() + Index), From, Count);
 	}
 	TArray& operator+=(TArray&& Other)

@@ -412,7 +412,10 @@ public:
 	explicit operator bool() const { return Index != INDEX_NONE; }
 	int32 operator*() const { return Index; }
 	int32 GetIndex() const { return Index; }
-	friend bool operator==(const TConstSetBitIterator& A, const TConstSetBitIterator& B) { return A.Index == B.Index && A.Array == B.Array; }
+	friend bool operator==(const TConstSetBitIterator& A, const TConstSetBitIterator& B)
+	{
+		return A.Index == B.Index && A.Array == B.Array;
+	}
 
 private:
 	const TBitArray<Allocator>* Array;

@@ -106,8 +106,10 @@ public:
 		{
 			if (Data != nullptr || NewMax > 0)
 			{
-				checkf(NewMax >= 0 && static_cast<uint64>(NewMax) <= static_cast<uint64>(std::numeric_limits<int64>::max()) / BytesPerElement,
-					TEXT("Invalid container size: %lld elements of %llu bytes"), static_cast<int64>(NewMax), static_cast<uint64>(BytesPerElement));
+				checkf(
+					NewMax >= 0 && static_cast<uint64>(NewMax) <= static_cast<uint64>(std::numeric_limits<int64>::max()) / BytesPerElement,
+					TEXT("Invalid container size: %lld elements of %llu bytes"), static_cast<int64>(NewMax),
+					static_cast<uint64>(BytesPerElement));
 				Data = FMemory::Realloc(Data, static_cast<SIZE_T>(NewMax) * BytesPerElement, Alignment > 16 ? Alignment : 0u);
 			}
 		}
@@ -268,7 +270,8 @@ public:
 		}
 		SizeType CalculateSlackGrow(SizeType NumElements, SizeType, SIZE_T) const
 		{
-			checkf(NumElements <= static_cast<SizeType>(NumInlineElements), TEXT("A fixed container of %u elements is full"), NumInlineElements);
+			checkf(NumElements <= static_cast<SizeType>(NumInlineElements), TEXT("A fixed container of %u elements is full"),
+				NumInlineElements);
 			return NumInlineElements;
 		}
 		SizeType CalculateSlackShrink(SizeType, SizeType, SIZE_T) const { return NumInlineElements; }

@@ -379,7 +379,8 @@ protected:
 		{
 			return Pair->Value;
 		}
-		return Pairs[Pairs.EmplaceNewByHash(KeyHash, ElementType(Forward<InitKeyType>(Key), ValueType(Forward<ValueArgs>(Value)...)))].Value;
+		ElementType Added(Forward<InitKeyType>(Key), ValueType(Forward<ValueArgs>(Value)...));
+		return Pairs[Pairs.EmplaceNewByHash(KeyHash, MoveTemp(Added))].Value;
 	}
 
 	TMapBase() = default;

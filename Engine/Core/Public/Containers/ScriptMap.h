@@ -35,7 +35,10 @@ public:
 	void Empty(int32 Slack, const FScriptMapLayout& Layout) { Pairs.Empty(Slack, Layout.SetLayout); }
 	void RemoveAt(int32 Index, const FScriptMapLayout& Layout) { Pairs.RemoveAt(Index, Layout.SetLayout); }
 	int32 AddUninitialized(const FScriptMapLayout& Layout) { return Pairs.AddUninitialized(Layout.SetLayout); }
-	void Rehash(const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash) { Pairs.Rehash(Layout.SetLayout, GetKeyHash); }
+	void Rehash(const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash)
+	{
+		Pairs.Rehash(Layout.SetLayout, GetKeyHash);
+	}
 
 	int32 FindPairIndex(const void* Key, const FScriptMapLayout& Layout, TFunctionRef<uint32(const void*)> GetKeyHash,
 		TFunctionRef<bool(const void*, const void*)> KeyEqualityFn) const

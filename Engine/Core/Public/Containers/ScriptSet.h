@@ -27,7 +27,8 @@ public:
 		FScriptSetLayout Layout;
 		Layout.HashNextIdOffset = Align(ElementSize, alignof(int32));
 		Layout.KeyHashOffset = Layout.HashNextIdOffset + static_cast<int32>(sizeof(int32));
-		const int32 Alignment = ElementAlignment > static_cast<int32>(alignof(int32)) ? ElementAlignment : static_cast<int32>(alignof(int32));
+		const int32 Alignment =
+			ElementAlignment > static_cast<int32>(alignof(int32)) ? ElementAlignment : static_cast<int32>(alignof(int32));
 		Layout.Size = Align(Layout.KeyHashOffset + static_cast<int32>(sizeof(uint32)), Alignment);
 		Layout.SparseArrayLayout = FScriptSparseArray::GetScriptLayout(Layout.Size, Alignment);
 		return Layout;

@@ -22,7 +22,8 @@ public:
 		const int32 Alignment = ElementAlignment > static_cast<int32>(alignof(FFreeListLink))
 			? ElementAlignment
 			: static_cast<int32>(alignof(FFreeListLink));
-		const int32 Size = ElementSize > static_cast<int32>(sizeof(FFreeListLink)) ? ElementSize : static_cast<int32>(sizeof(FFreeListLink));
+		const int32 Size =
+			ElementSize > static_cast<int32>(sizeof(FFreeListLink)) ? ElementSize : static_cast<int32>(sizeof(FFreeListLink));
 		return {Alignment, Align(Size, Alignment)};
 	}
 

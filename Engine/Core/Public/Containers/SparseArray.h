@@ -434,7 +434,8 @@ private:
 			}
 			else
 			{
-				FMemory::Memcpy(static_cast<void*>(&Link(Index)), static_cast<const void*>(Other.Data.GetData() + Index), 2 * sizeof(int32));
+				FMemory::Memcpy(
+					static_cast<void*>(&Link(Index)), static_cast<const void*>(Other.Data.GetData() + Index), 2 * sizeof(int32));
 			}
 		}
 	}

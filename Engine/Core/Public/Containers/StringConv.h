@@ -204,7 +204,9 @@ private:
 	void Init(const FromType* Source, int32 SourceLen)
 	{
 		const int32 Capacity = Converter::Bound(Source, SourceLen) + 1;
-		Ptr = Capacity <= DefaultConversionSize ? Inline : static_cast<ToType*>(FMemory::Malloc(static_cast<SIZE_T>(Capacity) * sizeof(ToType)));
+		Ptr = Capacity <= DefaultConversionSize
+			? Inline
+			: static_cast<ToType*>(FMemory::Malloc(static_cast<SIZE_T>(Capacity) * sizeof(ToType)));
 		StringLength = Converter::Convert(Ptr, Source, SourceLen);
 		Ptr[StringLength] = 0;
 	}

@@ -116,7 +116,8 @@ public:
 	template <class UserClass, class FunctorType, class... VarTypes>
 	[[nodiscard]] static TDelegate CreateSPLambda(UserClass* Object, FunctorType&& Functor, VarTypes&&... Vars)
 	{
-		return Make(DelegatesInternal::MakeSharedGuard(Object->AsShared(), Object), Forward<FunctorType>(Functor), Forward<VarTypes>(Vars)...);
+		return Make(
+			DelegatesInternal::MakeSharedGuard(Object->AsShared(), Object), Forward<FunctorType>(Functor), Forward<VarTypes>(Vars)...);
 	}
 	template <class UserClass, ESPMode Mode, class FunctorType, class... VarTypes>
 	[[nodiscard]] static TDelegate CreateSPLambda(const TSharedRef<UserClass, Mode>& Object, FunctorType&& Functor, VarTypes&&... Vars)
@@ -244,7 +245,8 @@ private:
 	static TDelegate MakeMethod(Guard&& InGuard, ObjectType* Object, MethodType Method, VarTypes&&... Vars)
 	{
 		check(Method != nullptr);
-		return Make(Forward<Guard>(InGuard), DelegatesInternal::TMethodCall<ObjectType, MethodType>{Object, Method}, Forward<VarTypes>(Vars)...);
+		return Make(
+			Forward<Guard>(InGuard), DelegatesInternal::TMethodCall<ObjectType, MethodType>{Object, Method}, Forward<VarTypes>(Vars)...);
 	}
 
 	TSharedPtr<FInstance> Instance;

@@ -50,7 +50,8 @@ public:
 	virtual bool IsReadOnly(const TCHAR* Filename) = 0;
 	virtual bool Move(const TCHAR* Dest, const TCHAR* Src, bool bReplace = true, bool bEvenIfReadOnly = false, bool bAttributes = false,
 		bool bDoNotRetryOrError = false) = 0;
-	virtual uint32 Copy(const TCHAR* Dest, const TCHAR* Src, bool bReplace = true, bool bEvenIfReadOnly = false, bool bAttributes = false) = 0;
+	virtual uint32 Copy(
+		const TCHAR* Dest, const TCHAR* Src, bool bReplace = true, bool bEvenIfReadOnly = false, bool bAttributes = false) = 0;
 	virtual bool FileExists(const TCHAR* Filename) = 0;
 	virtual bool DirectoryExists(const TCHAR* Directory) = 0;
 	virtual bool MakeDirectory(const TCHAR* Path, bool bTree = false) = 0;

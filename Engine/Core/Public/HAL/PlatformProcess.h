@@ -49,7 +49,8 @@ struct CORE_API FPlatformProcess
 	 * PipeWriteChild becomes the child's output and error, PipeReadChild its input.
 	 */
 	static FProcHandle CreateProc(const TCHAR* URL, const TCHAR* Parms, bool bLaunchDetached, bool bLaunchHidden, bool bLaunchReallyHidden,
-		uint32* OutProcessID, int32 PriorityModifier, const TCHAR* OptionalWorkingDirectory, void* PipeWriteChild, void* PipeReadChild = nullptr);
+		uint32* OutProcessID, int32 PriorityModifier, const TCHAR* OptionalWorkingDirectory, void* PipeWriteChild,
+		void* PipeReadChild = nullptr);
 	static bool IsProcRunning(FProcHandle& Handle);
 	static void WaitForProc(FProcHandle& Handle);
 	static void TerminateProc(FProcHandle& Handle, bool bKillTree = false);

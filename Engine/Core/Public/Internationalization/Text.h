@@ -211,8 +211,8 @@ public:
 		EMemoryUnitStandard UnitStandard = EMemoryUnitStandard::IEC);
 
 	/**
-	 * Replaces `{Name}`; a backquote escapes. A name without an argument stays as it is. The result remembers its parts. Behind an argument,
-	 * `|plural(one=...,other=...)` and `|ordinal(one=st,two=nd,few=rd,other=th)` choose by its number, as English does, and
+	 * Replaces `{Name}`; a backquote escapes. A name without an argument stays as it is. The result remembers its parts. Behind an
+	 * argument, `|plural(one=...,other=...)` and `|ordinal(one=st,two=nd,few=rd,other=th)` choose by its number, as English does, and
 	 * `|gender(masculine,feminine,neuter)` by its gender. A choice is a pattern itself, in quotes where it has a comma or a bracket.
 	 */
 	[[nodiscard]] static FText Format(FText Fmt, const FFormatNamedArguments& InArguments);
@@ -269,8 +269,8 @@ public:
 	[[nodiscard]] uint32 GetFlags() const { return Flags; }
 
 	/**
-	 * The engine's binary form, which `Ar << Text` gives: flags, history kind, and what the kind needs. A kind or argument that is not known
-	 * sets the archive's error, as does text nested deeper than any real one.
+	 * The engine's binary form, which `Ar << Text` gives: flags, history kind, and what the kind needs. A kind or argument that is not
+	 * known sets the archive's error, as does text nested deeper than any real one.
 	 */
 	static void SerializeText(FArchive& Ar, FText& Text);
 

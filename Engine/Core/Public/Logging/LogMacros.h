@@ -37,13 +37,15 @@ struct CORE_API FMsg
 		{ \
 			if (Condition) \
 			{ \
-				FMsg::Logf(__FILE__, __LINE__, CategoryName.GetCategoryName(), ::ELogVerbosity::Verbosity, Format __VA_OPT__(, ) __VA_ARGS__); \
+				FMsg::Logf( \
+					__FILE__, __LINE__, CategoryName.GetCategoryName(), ::ELogVerbosity::Verbosity, Format __VA_OPT__(, ) __VA_ARGS__); \
 			} \
 		} \
 	} while (false)
 
 #define DECLARE_LOG_CATEGORY_EXTERN(CategoryName, DefaultVerbosity, CompileTimeVerbosity) \
-	extern struct FLogCategory##CategoryName : public FLogCategory<::ELogVerbosity::DefaultVerbosity, ::ELogVerbosity::CompileTimeVerbosity> \
+	extern struct FLogCategory##CategoryName \
+		: public FLogCategory<::ELogVerbosity::DefaultVerbosity, ::ELogVerbosity::CompileTimeVerbosity> \
 	{ \
 		FLogCategory##CategoryName() \
 			: FLogCategory(TEXT(#CategoryName)) \
@@ -54,7 +56,8 @@ struct CORE_API FMsg
 #define DEFINE_LOG_CATEGORY(CategoryName) FLogCategory##CategoryName CategoryName
 
 #define DEFINE_LOG_CATEGORY_STATIC(CategoryName, DefaultVerbosity, CompileTimeVerbosity) \
-	static struct FLogCategory##CategoryName : public FLogCategory<::ELogVerbosity::DefaultVerbosity, ::ELogVerbosity::CompileTimeVerbosity> \
+	static struct FLogCategory##CategoryName \
+		: public FLogCategory<::ELogVerbosity::DefaultVerbosity, ::ELogVerbosity::CompileTimeVerbosity> \
 	{ \
 		FLogCategory##CategoryName() \
 			: FLogCategory(TEXT(#CategoryName)) \
@@ -63,4 +66,5 @@ struct CORE_API FMsg
 	} CategoryName
 
 #define DECLARE_LOG_CATEGORY_CLASS(CategoryName, DefaultVerbosity, CompileTimeVerbosity) \
-	static inline FLogCategory<::ELogVerbosity::DefaultVerbosity, ::ELogVerbosity::CompileTimeVerbosity> CategoryName { TEXT(#CategoryName) }
+	static inline auto CategoryName = \
+		FLogCategory<::ELogVerbosity::DefaultVerbosity, ::ELogVerbosity::CompileTimeVerbosity>(TEXT(#CategoryName))

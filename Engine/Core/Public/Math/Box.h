@@ -103,7 +103,10 @@ struct TBox
 	}
 	bool IsInside(const TBox& Other) const { return IsInside(Other.Min) && IsInside(Other.Max); }
 	bool IsInsideOrOn(const TVector<T>& P) const { return GetClosestPointTo(P) == P; }
-	bool IsInside(const TVector<T>& P) const { return P.X > Min.X && P.X < Max.X && P.Y > Min.Y && P.Y < Max.Y && P.Z > Min.Z && P.Z < Max.Z; }
+	bool IsInside(const TVector<T>& P) const
+	{
+		return P.X > Min.X && P.X < Max.X && P.Y > Min.Y && P.Y < Max.Y && P.Z > Min.Z && P.Z < Max.Z;
+	}
 	bool Intersect(const TBox& Other) const
 	{
 		return Min.X <= Other.Max.X && Other.Min.X <= Max.X && Min.Y <= Other.Max.Y && Other.Min.Y <= Max.Y && Min.Z <= Other.Max.Z &&

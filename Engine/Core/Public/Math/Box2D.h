@@ -29,7 +29,10 @@ struct TBox2
 	{
 	}
 
-	bool operator==(const TBox2& Other) const { return bIsValid == Other.bIsValid && (!bIsValid || (Min == Other.Min && Max == Other.Max)); }
+	bool operator==(const TBox2& Other) const
+	{
+		return bIsValid == Other.bIsValid && (!bIsValid || (Min == Other.Min && Max == Other.Max));
+	}
 	TBox2& operator+=(const TVector2<T>& Point)
 	{
 		Min = bIsValid ? TVector2<T>(FMath::Min(Min.X, Point.X), FMath::Min(Min.Y, Point.Y)) : Point;

@@ -77,7 +77,8 @@ struct TBoxSphereBounds
 
 	FString ToString() const
 	{
-		return FString::Printf(TEXT("Origin=%s, BoxExtent=(%s), SphereRadius=(%f)"), *Origin.ToString(), *BoxExtent.ToString(), SphereRadius);
+		return FString::Printf(
+			TEXT("Origin=%s, BoxExtent=(%s), SphereRadius=(%f)"), *Origin.ToString(), *BoxExtent.ToString(), SphereRadius);
 	}
 	friend FArchive& operator<<(FArchive& Ar, TBoxSphereBounds& Bounds)
 	{

@@ -146,8 +146,14 @@ struct CORE_API FColor
 
 	uint32& DWColor() { return Bits; }
 	uint32 DWColor() const { return Bits; }
-	uint32 ToPackedARGB() const { return (static_cast<uint32>(A) << 24) | (static_cast<uint32>(R) << 16) | (static_cast<uint32>(G) << 8) | B; }
-	uint32 ToPackedRGBA() const { return (static_cast<uint32>(R) << 24) | (static_cast<uint32>(G) << 16) | (static_cast<uint32>(B) << 8) | A; }
+	uint32 ToPackedARGB() const
+	{
+		return (static_cast<uint32>(A) << 24) | (static_cast<uint32>(R) << 16) | (static_cast<uint32>(G) << 8) | B;
+	}
+	uint32 ToPackedRGBA() const
+	{
+		return (static_cast<uint32>(R) << 24) | (static_cast<uint32>(G) << 16) | (static_cast<uint32>(B) << 8) | A;
+	}
 	FLinearColor ReinterpretAsLinear() const { return FLinearColor(R / 255.f, G / 255.f, B / 255.f, A / 255.f); }
 	friend bool operator==(const FColor& X, const FColor& Y) { return X.Bits == Y.Bits; }
 

@@ -45,8 +45,14 @@ struct TIntPoint
 	TIntPoint& operator-=(const TIntPoint& Other) { return *this = *this - Other; }
 	constexpr IntType GetMax() const { return X > Y ? X : Y; }
 	constexpr IntType GetMin() const { return X < Y ? X : Y; }
-	constexpr TIntPoint ComponentMin(const TIntPoint& Other) const { return TIntPoint(X < Other.X ? X : Other.X, Y < Other.Y ? Y : Other.Y); }
-	constexpr TIntPoint ComponentMax(const TIntPoint& Other) const { return TIntPoint(X > Other.X ? X : Other.X, Y > Other.Y ? Y : Other.Y); }
+	constexpr TIntPoint ComponentMin(const TIntPoint& Other) const
+	{
+		return TIntPoint(X < Other.X ? X : Other.X, Y < Other.Y ? Y : Other.Y);
+	}
+	constexpr TIntPoint ComponentMax(const TIntPoint& Other) const
+	{
+		return TIntPoint(X > Other.X ? X : Other.X, Y > Other.Y ? Y : Other.Y);
+	}
 
 	FString ToString() const { return FString::Printf(TEXT("X=%d Y=%d"), X, Y); }
 	bool InitFromString(const FString& Text)

@@ -51,7 +51,8 @@ struct TRotationMatrix : TMatrix<T>
 	static TMatrix<T> MakeFromX(const TVector<T>& XAxis)
 	{
 		const TVector<T> X = XAxis.GetSafeNormal();
-		const TVector<T> Up = FMath::Abs(X.Z) < T(1) - static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER) ? TVector<T>(0, 0, 1) : TVector<T>(1, 0, 0);
+		const TVector<T> Up =
+			FMath::Abs(X.Z) < T(1) - static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER) ? TVector<T>(0, 0, 1) : TVector<T>(1, 0, 0);
 		return MakeFromXZ(X, Up);
 	}
 	static TMatrix<T> MakeFromXZ(const TVector<T>& XAxis, const TVector<T>& ZAxis)
@@ -69,7 +70,8 @@ struct TRotationMatrix : TMatrix<T>
 	static TMatrix<T> MakeFromZ(const TVector<T>& ZAxis)
 	{
 		const TVector<T> Z = ZAxis.GetSafeNormal();
-		const TVector<T> Up = FMath::Abs(Z.Z) < T(1) - static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER) ? TVector<T>(0, 0, 1) : TVector<T>(1, 0, 0);
+		const TVector<T> Up =
+			FMath::Abs(Z.Z) < T(1) - static_cast<T>(UE_DOUBLE_KINDA_SMALL_NUMBER) ? TVector<T>(0, 0, 1) : TVector<T>(1, 0, 0);
 		const TVector<T> X = (Up ^ Z).GetSafeNormal();
 		return TMatrix<T>(X, Z ^ X, Z, TVector<T>(0));
 	}

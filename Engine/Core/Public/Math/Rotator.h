@@ -139,7 +139,8 @@ TRotator<T> operator*(U Scale, const TRotator<T>& R) requires std::is_arithmetic
 template <typename T>
 TRotator<T> TVector<T>::ToOrientationRotator() const
 {
-	return TRotator<T>(FMath::RadiansToDegrees(FMath::Atan2(Z, FMath::Sqrt(X * X + Y * Y))), FMath::RadiansToDegrees(FMath::Atan2(Y, X)), 0);
+	return TRotator<T>(
+		FMath::RadiansToDegrees(FMath::Atan2(Z, FMath::Sqrt(X * X + Y * Y))), FMath::RadiansToDegrees(FMath::Atan2(Y, X)), 0);
 }
 }
 

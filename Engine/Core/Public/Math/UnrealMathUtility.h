@@ -426,7 +426,8 @@ struct CORE_API FMath
 	static double PointDistToSegment(const FVector& Point, const FVector& StartPoint, const FVector& EndPoint);
 	static double PointDistToLine(const FVector& Point, const FVector& Direction, const FVector& Origin);
 	/** Where the line through both points meets the plane; the line must not be parallel to it. */
-	static FVector LinePlaneIntersection(const FVector& Point1, const FVector& Point2, const FVector& PlaneOrigin, const FVector& PlaneNormal);
+	static FVector LinePlaneIntersection(
+		const FVector& Point1, const FVector& Point2, const FVector& PlaneOrigin, const FVector& PlaneNormal);
 
 	static uint32 FloorLog2(uint32 Value) { return Value == 0 ? 0 : 31 - std::countl_zero(Value); }
 	static uint64 FloorLog2_64(uint64 Value) { return Value == 0 ? 0 : 63 - std::countl_zero(Value); }

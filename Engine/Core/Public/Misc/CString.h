@@ -53,9 +53,15 @@ struct TCString
 		return static_cast<int32>(Length);
 	}
 
-	static int32 Strcmp(const CharType* First, const CharType* Second) { return CompareUpTo<false>(First, Second, ~static_cast<SIZE_T>(0)); }
+	static int32 Strcmp(const CharType* First, const CharType* Second)
+	{
+		return CompareUpTo<false>(First, Second, ~static_cast<SIZE_T>(0));
+	}
 	static int32 Strncmp(const CharType* First, const CharType* Second, SIZE_T Count) { return CompareUpTo<false>(First, Second, Count); }
-	static int32 Stricmp(const CharType* First, const CharType* Second) { return CompareUpTo<true>(First, Second, ~static_cast<SIZE_T>(0)); }
+	static int32 Stricmp(const CharType* First, const CharType* Second)
+	{
+		return CompareUpTo<true>(First, Second, ~static_cast<SIZE_T>(0));
+	}
 	static int32 Strnicmp(const CharType* First, const CharType* Second, SIZE_T Count) { return CompareUpTo<true>(First, Second, Count); }
 
 	/** Copies with the terminator; the destination must have room. */

@@ -29,7 +29,8 @@ struct CORE_API FFileHelper
 	/** False when the file cannot be read, or is larger than an array can be. */
 	static bool LoadFileToArray(TArray<uint8>& Result, const TCHAR* Filename, uint32 Flags = 0);
 	/** Text by its byte order mark: UTF-8 or UTF-16; UTF-8 without one. Bytes that are no text become U+FFFD. */
-	static bool LoadFileToString(FString& Result, const TCHAR* Filename, EHashOptions VerifyFlags = EHashOptions::None, uint32 ReadFlags = 0);
+	static bool LoadFileToString(
+		FString& Result, const TCHAR* Filename, EHashOptions VerifyFlags = EHashOptions::None, uint32 ReadFlags = 0);
 	static bool LoadFileToStringArray(TArray<FString>& Result, const TCHAR* Filename, EHashOptions VerifyFlags = EHashOptions::None);
 	static void BufferToString(FString& Result, const uint8* Buffer, int32 Size);
 
@@ -39,5 +40,6 @@ struct CORE_API FFileHelper
 		IFileManager* FileManager = &IFileManager::Get(), uint32 WriteFlags = 0);
 	/** A line break after each. */
 	static bool SaveStringArrayToFile(const TArray<FString>& Lines, const TCHAR* Filename,
-		EEncodingOptions EncodingOptions = EEncodingOptions::AutoDetect, IFileManager* FileManager = &IFileManager::Get(), uint32 WriteFlags = 0);
+		EEncodingOptions EncodingOptions = EEncodingOptions::AutoDetect, IFileManager* FileManager = &IFileManager::Get(),
+		uint32 WriteFlags = 0);
 };

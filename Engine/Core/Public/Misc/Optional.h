@@ -133,7 +133,10 @@ public:
 	const OptionalType* operator->() const { return &GetValue(); }
 	OptionalType& operator*() { return GetValue(); }
 	const OptionalType& operator*() const { return GetValue(); }
-	const OptionalType& Get(const OptionalType& DefaultValue UE_LIFETIMEBOUND) const { return bIsSet ? *Storage.GetTypedPtr() : DefaultValue; }
+	const OptionalType& Get(const OptionalType& DefaultValue UE_LIFETIMEBOUND) const
+	{
+		return bIsSet ? *Storage.GetTypedPtr() : DefaultValue;
+	}
 	OptionalType* GetPtrOrNull() { return bIsSet ? Storage.GetTypedPtr() : nullptr; }
 	const OptionalType* GetPtrOrNull() const { return bIsSet ? Storage.GetTypedPtr() : nullptr; }
 

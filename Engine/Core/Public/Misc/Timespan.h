@@ -62,9 +62,18 @@ struct FTimespan
 	constexpr int32 GetHours() const { return static_cast<int32>(Ticks / ETimespan::TicksPerHour % 24); }
 	constexpr int32 GetMinutes() const { return static_cast<int32>(Ticks / ETimespan::TicksPerMinute % 60); }
 	constexpr int32 GetSeconds() const { return static_cast<int32>(Ticks / ETimespan::TicksPerSecond % 60); }
-	constexpr int32 GetFractionMilli() const { return static_cast<int32>(Ticks % ETimespan::TicksPerSecond / ETimespan::TicksPerMillisecond); }
-	constexpr int32 GetFractionMicro() const { return static_cast<int32>(Ticks % ETimespan::TicksPerSecond / ETimespan::TicksPerMicrosecond); }
-	constexpr int32 GetFractionNano() const { return static_cast<int32>(Ticks % ETimespan::TicksPerSecond * ETimespan::NanosecondsPerTick); }
+	constexpr int32 GetFractionMilli() const
+	{
+		return static_cast<int32>(Ticks % ETimespan::TicksPerSecond / ETimespan::TicksPerMillisecond);
+	}
+	constexpr int32 GetFractionMicro() const
+	{
+		return static_cast<int32>(Ticks % ETimespan::TicksPerSecond / ETimespan::TicksPerMicrosecond);
+	}
+	constexpr int32 GetFractionNano() const
+	{
+		return static_cast<int32>(Ticks % ETimespan::TicksPerSecond * ETimespan::NanosecondsPerTick);
+	}
 	constexpr FTimespan GetDuration() const { return FTimespan(Ticks < 0 ? -Ticks : Ticks); }
 	constexpr double GetTotalDays() const { return static_cast<double>(Ticks) / ETimespan::TicksPerDay; }
 	constexpr double GetTotalHours() const { return static_cast<double>(Ticks) / ETimespan::TicksPerHour; }

@@ -51,7 +51,10 @@ public:
 	void ResetCustomVersions() override { InnerArchive.ResetCustomVersions(); }
 	void MarkScriptSerializationStart(const UObject* Object) override { InnerArchive.MarkScriptSerializationStart(Object); }
 	void MarkScriptSerializationEnd(const UObject* Object) override { InnerArchive.MarkScriptSerializationEnd(Object); }
-	bool IsProxyOf(FArchive* InOther) const override { return InOther == this || InOther == &InnerArchive || InnerArchive.IsProxyOf(InOther); }
+	bool IsProxyOf(FArchive* InOther) const override
+	{
+		return InOther == this || InOther == &InnerArchive || InnerArchive.IsProxyOf(InOther);
+	}
 	FUObjectSerializeContext* GetSerializeContext() override { return InnerArchive.GetSerializeContext(); }
 	void SetSerializeContext(FUObjectSerializeContext* Context) override { InnerArchive.SetSerializeContext(Context); }
 	void SetSerializedProperty(FProperty* InProperty) override

@@ -10,7 +10,8 @@ template <typename ElementType, typename Allocator>
 FArchive& operator<<(FArchive& Ar, TArray<ElementType, Allocator>& Array)
 {
 	using SizeType = typename TArray<ElementType, Allocator>::SizeType;
-	constexpr bool bIsBulk = TCanBulkSerialize<ElementType>::Value || (sizeof(ElementType) == 1 && std::is_trivially_copyable_v<ElementType>);
+	constexpr bool bIsBulk =
+		TCanBulkSerialize<ElementType>::Value || (sizeof(ElementType) == 1 && std::is_trivially_copyable_v<ElementType>);
 
 	const int32 Num = SerializeContainerNum(Ar, static_cast<int32>(Array.Num()), bIsBulk ? sizeof(ElementType) : 1);
 	if constexpr (bIsBulk)

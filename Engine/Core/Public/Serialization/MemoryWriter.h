@@ -7,7 +7,8 @@
 class CORE_API FMemoryWriter : public FMemoryArchive
 {
 public:
-	explicit FMemoryWriter(TArray<uint8>& InBytes, bool bIsPersistent = false, bool bSetOffset = false, const FName InArchiveName = NAME_None);
+	explicit FMemoryWriter(
+		TArray<uint8>& InBytes, bool bIsPersistent = false, bool bSetOffset = false, const FName InArchiveName = NAME_None);
 
 	FString GetArchiveName() const override;
 	int64 TotalSize() override { return Bytes.Num(); }

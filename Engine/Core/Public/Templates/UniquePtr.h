@@ -18,7 +18,8 @@ struct TDefaultDelete
 	}
 	void operator()(T* Object) const
 	{
-		static_assert(sizeof(T) > 0, "TUniquePtr cannot delete an incomplete type: define the owner's destructor where the type is complete");
+		static_assert(
+			sizeof(T) > 0, "TUniquePtr cannot delete an incomplete type: define the owner's destructor where the type is complete");
 		delete Object;
 	}
 };

@@ -142,7 +142,8 @@ FString FPackageName::LongPackageNameToFilename(const FString& InLongPackageName
 	FString Result;
 	if (!TryConvertLongPackageNameToFilename(InLongPackageName, Result, InExtension))
 	{
-		UE_LOG(LogClass, Warning, TEXT("LongPackageNameToFilename failed to convert '%s'. Path does not map to any roots."), *InLongPackageName);
+		UE_LOG(LogClass, Warning, TEXT("LongPackageNameToFilename failed to convert '%s'. Path does not map to any roots."),
+			*InLongPackageName);
 	}
 	return Result;
 }

@@ -131,8 +131,9 @@ EConvertFromTypeResult FBoolProperty::ConvertFromType(
 	}
 	FIntProperty Number{FFieldVariant(), FName()};
 	int32 Value = 0;
-	const EConvertFromTypeResult Result = Tag.IsType(Number.GetID()) ? EConvertFromTypeResult::UseSerializeItem
-																	 : Number.ConvertFromType(Tag, Ar, reinterpret_cast<uint8*>(&Value), nullptr, nullptr);
+	const EConvertFromTypeResult Result = Tag.IsType(Number.GetID())
+		? EConvertFromTypeResult::UseSerializeItem
+		: Number.ConvertFromType(Tag, Ar, reinterpret_cast<uint8*>(&Value), nullptr, nullptr);
 	if (Result == EConvertFromTypeResult::CannotConvert)
 	{
 		return Result;

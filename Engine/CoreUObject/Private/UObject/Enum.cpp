@@ -58,7 +58,8 @@ int32 UEnum::GetIndexByNameString(const FString& InSearchString, EGetByNameFlags
 	FString Search = InSearchString;
 	int32 Separator = INDEX_NONE;
 	// "EDoor::Open" names an enumerator of a regular enum too.
-	if (CppForm == ECppForm::Regular && (Separator = Search.Find(TEXT("::"), ESearchCase::CaseSensitive, ESearchDir::FromEnd)) != INDEX_NONE)
+	if (CppForm == ECppForm::Regular &&
+		(Separator = Search.Find(TEXT("::"), ESearchCase::CaseSensitive, ESearchDir::FromEnd)) != INDEX_NONE)
 	{
 		Search = Search.Mid(Separator + 2);
 	}

@@ -18,11 +18,12 @@ TMap<FName, FFieldClass*> MakeNameToFieldClassMap()
 		FInt64Property::StaticClass(), FByteProperty::StaticClass(), FUInt16Property::StaticClass(), FUInt32Property::StaticClass(),
 		FUInt64Property::StaticClass(), FFloatProperty::StaticClass(), FDoubleProperty::StaticClass(), FBoolProperty::StaticClass(),
 		FEnumProperty::StaticClass(), FNameProperty::StaticClass(), FStrProperty::StaticClass(), FTextProperty::StaticClass(),
-		FObjectProperty::StaticClass(), FClassProperty::StaticClass(), FWeakObjectProperty::StaticClass(), FLazyObjectProperty::StaticClass(),
-		FSoftObjectProperty::StaticClass(), FSoftClassProperty::StaticClass(), FInterfaceProperty::StaticClass(),
-		FStructProperty::StaticClass(), FArrayProperty::StaticClass(), FSetProperty::StaticClass(), FMapProperty::StaticClass(),
-		FOptionalProperty::StaticClass(), FDelegateProperty::StaticClass(), FMulticastInlineDelegateProperty::StaticClass(),
-		FMulticastSparseDelegateProperty::StaticClass(), FFieldPathProperty::StaticClass()};
+		FObjectProperty::StaticClass(), FClassProperty::StaticClass(), FWeakObjectProperty::StaticClass(),
+		FLazyObjectProperty::StaticClass(), FSoftObjectProperty::StaticClass(), FSoftClassProperty::StaticClass(),
+		FInterfaceProperty::StaticClass(), FStructProperty::StaticClass(), FArrayProperty::StaticClass(), FSetProperty::StaticClass(),
+		FMapProperty::StaticClass(), FOptionalProperty::StaticClass(), FDelegateProperty::StaticClass(),
+		FMulticastInlineDelegateProperty::StaticClass(), FMulticastSparseDelegateProperty::StaticClass(),
+		FFieldPathProperty::StaticClass()};
 	TMap<FName, FFieldClass*> Result;
 	for (FFieldClass* const Class : Classes)
 	{
@@ -432,7 +433,8 @@ FField* FField::Construct(const FName& FieldTypeName, const FFieldVariant& InOwn
 
 FField* FField::Duplicate(const FField* InField, const FFieldVariant& DestOwner, const FName DestName)
 {
-	FField* const Result = InField->GetClass()->Construct(DestOwner, DestName.IsNone() ? InField->GetFName() : DestName, InField->GetFlags());
+	FField* const Result =
+		InField->GetClass()->Construct(DestOwner, DestName.IsNone() ? InField->GetFName() : DestName, InField->GetFlags());
 	Result->PostDuplicate(*InField);
 	return Result;
 }

@@ -85,7 +85,8 @@ void UFunction::InitializeDerivedMembers()
 		}
 		if (!Property->HasAnyPropertyFlags(CPF_Parm))
 		{
-			FirstPropertyToInit = FirstPropertyToInit || Property->HasAnyPropertyFlags(CPF_ZeroConstructor) ? FirstPropertyToInit : Property;
+			FirstPropertyToInit =
+				FirstPropertyToInit || Property->HasAnyPropertyFlags(CPF_ZeroConstructor) ? FirstPropertyToInit : Property;
 			continue;
 		}
 		++NumParms;

@@ -254,7 +254,8 @@ void FMapProperty::ExportText_Internal(FString& ValueStr, const void* PropertyVa
 	for (FScriptMapHelper::FIterator It(Helper); It; ++It)
 	{
 		ValueStr += It.GetLogicalIndex() > 0 ? TEXT(",(") : TEXT("(");
-		KeyProp->ExportTextItem_Direct(ValueStr, Helper.GetKeyPtr(*It), KeyStructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);
+		KeyProp->ExportTextItem_Direct(
+			ValueStr, Helper.GetKeyPtr(*It), KeyStructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);
 		ValueStr += TEXT(", ");
 		ValueProp->ExportTextItem_Direct(
 			ValueStr, Helper.GetValuePtr(*It), ValueStructDefault, Parent, PortFlags | PPF_Delimited, ExportRootScope);

@@ -29,7 +29,8 @@ void ReportNameTaken(UObject* Existing, const UClass* Class)
 void RememberCreation(UObject& Object, const FStaticConstructObjectParameters& Params)
 {
 	constexpr EObjectFlags NotForUndo = static_cast<EObjectFlags>(RF_ClassDefaultObject | RF_NeedLoad);
-	const bool bRemember = GUndo && (Params.SetFlags & RF_Transactional) != 0 && (Params.SetFlags & NotForUndo) == 0 && !Object.IsA<UField>();
+	const bool bRemember =
+		GUndo && (Params.SetFlags & RF_Transactional) != 0 && (Params.SetFlags & NotForUndo) == 0 && !Object.IsA<UField>();
 	if (bRemember)
 	{
 		Object.MarkAsGarbage();
@@ -71,7 +72,8 @@ UObject* StaticAllocateObject(const UClass* Class, UObject* InOuter, FName Name,
 			}
 			return Existing;
 		}
-		else if (GUndo && Existing->HasAnyFlags(RF_Transactional) && !Existing->HasAnyFlags(static_cast<EObjectFlags>(RF_ClassDefaultObject | RF_DefaultSubObject)))
+		else if (GUndo && Existing->HasAnyFlags(RF_Transactional) &&
+			!Existing->HasAnyFlags(static_cast<EObjectFlags>(RF_ClassDefaultObject | RF_DefaultSubObject)))
 		{
 			// An undo may bring it back, so it is not there to be overwritten.
 			Existing->Rename(nullptr, GetTransientPackageAsObject(), REN_ForceGlobalUnique | REN_DoNotDirty | REN_DontCreateRedirectors);

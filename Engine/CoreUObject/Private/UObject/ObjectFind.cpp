@@ -214,7 +214,8 @@ UObject* StaticLoadObject(UClass* Class, UObject* InOuter, const TCHAR* Name, co
 		const FString PackageName = Separator == INDEX_NONE ? Path : Path.Left(Separator);
 		if (Separator == INDEX_NONE && Class != UPackage::StaticClass())
 		{
-			ObjectPath += TEXT(".") + PackageName.RightChop(PackageName.Find(TEXT("/"), ESearchCase::CaseSensitive, ESearchDir::FromEnd) + 1);
+			ObjectPath +=
+				TEXT(".") + PackageName.RightChop(PackageName.Find(TEXT("/"), ESearchCase::CaseSensitive, ESearchDir::FromEnd) + 1);
 			Found = StaticFindObject(Class, nullptr, *ObjectPath);
 		}
 		if (!Found || UE::CoreUObject::IsPlaceholder(Found))

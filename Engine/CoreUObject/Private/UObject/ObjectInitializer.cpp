@@ -293,7 +293,8 @@ void FObjectInitializer::InitProperties(const UClass* DefaultsClass, const UObje
 	const bool bNative = IsNativeClass(Class);
 	if (bNative && (!Defaults || Defaults == Class->GetDefaultObject(false)))
 	{
-		for (const FProperty* Property = Defaults ? Class->PostConstructLink : nullptr; Property; Property = Property->PostConstructLinkNext)
+		for (const FProperty* Property = Defaults ? Class->PostConstructLink : nullptr; Property;
+			 Property = Property->PostConstructLinkNext)
 		{
 			Property->CopyCompleteValue_InContainer(Obj, Defaults);
 		}

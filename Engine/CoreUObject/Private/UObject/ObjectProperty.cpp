@@ -110,7 +110,8 @@ bool FObjectPropertyBase::Identical(const void* A, const void* B, uint32 PortFla
 	{
 		return true;
 	}
-	if (!ObjectA || !ObjectB || ObjectA->GetClass() != ObjectB->GetClass() || !(PortFlags & (PPF_DeepComparison | PPF_DeepCompareInstances)))
+	if (!ObjectA || !ObjectB || ObjectA->GetClass() != ObjectB->GetClass() ||
+		!(PortFlags & (PPF_DeepComparison | PPF_DeepCompareInstances)))
 	{
 		return false;
 	}
@@ -422,7 +423,8 @@ const TCHAR* FInterfaceProperty::ImportText_Internal(
 	}
 	if (Object && InterfaceClass && !Object->GetClass()->ImplementsInterface(InterfaceClass))
 	{
-		return FPropertyHelpers::RefuseText(ErrorText, this, *FString::Printf(TEXT("does not implement %s"), *InterfaceClass->GetName()), Start);
+		return FPropertyHelpers::RefuseText(
+			ErrorText, this, *FString::Printf(TEXT("does not implement %s"), *InterfaceClass->GetName()), Start);
 	}
 	FScriptInterface& Interface = *GetPropertyValuePtr(PropertyValue);
 	Interface.SetObject(Object);

@@ -192,7 +192,8 @@ UObject* FObjectPropertyBase::FindImportedObject(
 	const UClass* const ResultClass = Cast<UClass>(Result);
 	const bool bIsOutsideMetaClass =
 		RequiredMetaClass && ResultClass && !ResultClass->IsChildOf(RequiredMetaClass) && !UE::CoreUObject::IsPlaceholder(ResultClass);
-	return bIsOutsideMetaClass || (RequiredMetaClass && Result && !ResultClass && !UE::CoreUObject::IsPlaceholder(Result)) ? nullptr : Result;
+	const bool bIsNoClass = RequiredMetaClass && Result && !ResultClass && !UE::CoreUObject::IsPlaceholder(Result);
+	return bIsOutsideMetaClass || bIsNoClass ? nullptr : Result;
 }
 
 void FObjectPropertyBase::ExportText_Internal(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent,

@@ -52,7 +52,8 @@ const TCHAR* FPropertyHelpers::RefuseText(FOutputDevice* ErrorText, const FField
 	if (ErrorText)
 	{
 		constexpr int32 MaxQuotedChars = 60;
-		ErrorText->Logf(ELogVerbosity::Warning, TEXT("%s: %s: '%s'"), *Property->GetPathName(), Reason, *FString(Buffer).Left(MaxQuotedChars));
+		ErrorText->Logf(
+			ELogVerbosity::Warning, TEXT("%s: %s: '%s'"), *Property->GetPathName(), Reason, *FString(Buffer).Left(MaxQuotedChars));
 	}
 	return nullptr;
 }

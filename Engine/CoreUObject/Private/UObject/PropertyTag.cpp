@@ -42,7 +42,8 @@ bool UsesBinaryOrNativeSerialization(const FProperty* Property)
 	if (const FStructProperty* const Struct = CastField<FStructProperty>(Property))
 	{
 		const ICppStructOps* const Ops = Struct->Struct ? Struct->Struct->GetCppStructOps() : nullptr;
-		return (Ops && Ops->HasSerializer()) || (Struct->Struct && (Struct->Struct->StructFlags & (STRUCT_Immutable | STRUCT_SerializeNative)));
+		return (Ops && Ops->HasSerializer()) ||
+			(Struct->Struct && (Struct->Struct->StructFlags & (STRUCT_Immutable | STRUCT_SerializeNative)));
 	}
 	if (const FArrayProperty* const Array = CastField<FArrayProperty>(Property))
 	{

@@ -33,7 +33,8 @@ void VisitReferences(
 				const FReferenceSchema& ElementSchema = Member.ElementStruct->GetReferenceSchema();
 				for (int32 Index = 0; Index < Array.Num(); ++Index)
 				{
-					VisitReferences(ElementSchema, Elements + static_cast<SIZE_T>(Index) * Member.Stride, Collector, ReferencingObject, Handle);
+					VisitReferences(
+						ElementSchema, Elements + static_cast<SIZE_T>(Index) * Member.Stride, Collector, ReferencingObject, Handle);
 				}
 				break;
 			}

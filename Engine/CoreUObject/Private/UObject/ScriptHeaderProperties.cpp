@@ -112,14 +112,15 @@ TArray<FProperty*> FScriptHeaderTypes::AddProperties(
 	return Added;
 }
 
-void FScriptHeaderTypes::ReadDefaults(
-	FDeclaredDefaults& Defaults, const TArray<FProperty*>& Added, const std::vector<FPropertyDeclaration>& Declarations, const FSource& Source)
+void FScriptHeaderTypes::ReadDefaults(FDeclaredDefaults& Defaults, const TArray<FProperty*>& Added,
+	const std::vector<FPropertyDeclaration>& Declarations, const FSource& Source)
 {
 	// Properties were added in the order of their declarations, of which some may have been refused.
 	int32 Next = 0;
 	for (const FPropertyDeclaration& Declaration : Declarations)
 	{
-		const FProperty* const Property = Next < Added.Num() && Added[Next]->GetFName() == ToName(Declaration.Name) ? Added[Next++] : nullptr;
+		const FProperty* const Property =
+			Next < Added.Num() && Added[Next]->GetFName() == ToName(Declaration.Name) ? Added[Next++] : nullptr;
 		if (!Property || Declaration.DefaultText.empty())
 		{
 			continue;

@@ -210,7 +210,8 @@ void FScriptHeaderTypes::NameContinuation(const FClassDeclaration& Declaration, 
 	const auto Class = Classes.find(Declaration.Name);
 	if (Class == Classes.end() || !Class->second.Declaration || Class->second.Declaration->Super != Declaration.Super)
 	{
-		AddError(Source, Declaration.Position, FString::Printf(TEXT("there is no class %s of the same base to continue"), *ToText(Declaration.Name)));
+		AddError(Source, Declaration.Position,
+			FString::Printf(TEXT("there is no class %s of the same base to continue"), *ToText(Declaration.Name)));
 		return;
 	}
 	Class->second.Continuations.push_back({&Declaration, &Source});
@@ -296,7 +297,8 @@ void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
 	}
 	if (!Super || Super->IsChildOf(Class.Class))
 	{
-		AddError(*Class.Source, Declaration.Position, FString::Printf(TEXT("there is no class %s to derive from"), *ToText(Declaration.Super)));
+		AddError(
+			*Class.Source, Declaration.Position, FString::Printf(TEXT("there is no class %s to derive from"), *ToText(Declaration.Super)));
 	}
 	Class.Class->ClassFlags = static_cast<EClassFlags>(Declaration.Flags) | CLASS_Native | CLASS_Constructed | CLASS_MatchedSerializers;
 	Class.Class->ClassConfigName = Declaration.ConfigName.empty() ? FName() : ToName(Declaration.ConfigName);

@@ -149,8 +149,8 @@ void UScriptStruct::CopyScriptStruct(void* Dest, const void* Src, int32 ArrayDim
 	{
 		for (const FProperty* Property = PropertyLink; Property; Property = Property->PropertyLinkNext)
 		{
-			Property->CopyCompleteValue_InContainer(
-				static_cast<uint8*>(Dest) + static_cast<SIZE_T>(Index) * Stride, static_cast<const uint8*>(Src) + static_cast<SIZE_T>(Index) * Stride);
+			Property->CopyCompleteValue_InContainer(static_cast<uint8*>(Dest) + static_cast<SIZE_T>(Index) * Stride,
+				static_cast<const uint8*>(Src) + static_cast<SIZE_T>(Index) * Stride);
 		}
 	}
 }

@@ -162,7 +162,8 @@ void FStructProperty::CollectReferences(void* Value, FReferenceCollector& Collec
 	}
 	for (int32 Index = 0; Index < ArrayDim; ++Index)
 	{
-		Struct->GetReferenceSchema().Visit(static_cast<uint8*>(Value) + static_cast<SIZE_T>(Index) * ElementSize, Collector, ReferencingObject);
+		Struct->GetReferenceSchema().Visit(
+			static_cast<uint8*>(Value) + static_cast<SIZE_T>(Index) * ElementSize, Collector, ReferencingObject);
 	}
 }
 

@@ -13,7 +13,8 @@ class UObject;
 struct FTransactionContext
 {
 	FTransactionContext() = default;
-	FTransactionContext(const FGuid& InTransactionId, const FGuid& InOperationId, const FText& InTitle, const TCHAR* InContext, UObject* InPrimaryObject)
+	FTransactionContext(
+		const FGuid& InTransactionId, const FGuid& InOperationId, const FText& InTitle, const TCHAR* InContext, UObject* InPrimaryObject)
 		: TransactionId(InTransactionId)
 		, OperationId(InOperationId)
 		, Title(InTitle)

@@ -11,7 +11,8 @@ public:
 	static bool IsPackageExtension(const TCHAR* Ext);
 	static bool IsPackageFilename(const FString& Filename);
 
-	static bool TryConvertFilenameToLongPackageName(const FString& InFilename, FString& OutPackageName, FString* OutFailureReason = nullptr);
+	static bool TryConvertFilenameToLongPackageName(
+		const FString& InFilename, FString& OutPackageName, FString* OutFailureReason = nullptr);
 	/** Empty when the file is below no mount point, which is logged. */
 	static FString FilenameToLongPackageName(const FString& InFilename);
 	static bool TryConvertLongPackageNameToFilename(

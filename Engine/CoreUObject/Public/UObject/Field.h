@@ -240,7 +240,8 @@ public:
 	/** Null when no class of that name is known or it is abstract. */
 	static FField* TryConstruct(
 		const FName& FieldTypeName, const FFieldVariant& InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
-	static FField* Construct(const FName& FieldTypeName, const FFieldVariant& InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
+	static FField* Construct(
+		const FName& FieldTypeName, const FFieldVariant& InOwner, const FName& InName, EObjectFlags InFlags = RF_NoFlags);
 	/** A copy of the definition (and its metadata) for another owner. */
 	static FField* Duplicate(const FField* InField, const FFieldVariant& DestOwner, const FName DestName = NAME_None);
 	static FName GenerateFFieldName(const FFieldVariant& InOwner, const FFieldClass* InClass);

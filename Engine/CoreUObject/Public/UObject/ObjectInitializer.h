@@ -53,8 +53,8 @@ public:
 	template <class TReturnType, class TClassToConstructByDefault>
 	TReturnType* CreateDefaultSubobject(UObject* Outer, FName SubobjectName, bool bTransient = false) const
 	{
-		return static_cast<TReturnType*>(
-			CreateDefaultSubobject(Outer, SubobjectName, TReturnType::StaticClass(), TClassToConstructByDefault::StaticClass(), true, bTransient));
+		return static_cast<TReturnType*>(CreateDefaultSubobject(
+			Outer, SubobjectName, TReturnType::StaticClass(), TClassToConstructByDefault::StaticClass(), true, bTransient));
 	}
 	template <class TReturnType>
 	TReturnType* CreateOptionalDefaultSubobject(UObject* Outer, FName SubobjectName, bool bTransient = false) const

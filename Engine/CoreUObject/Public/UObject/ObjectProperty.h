@@ -22,7 +22,10 @@ class COREUOBJECT_API FObjectPropertyBase : public FProperty
 	virtual UObject* GetObjectPropertyValue(const void* PropertyValueAddress) const = 0;
 	virtual void SetObjectPropertyValue(void* PropertyValueAddress, UObject* Value) const = 0;
 	/** Loads a soft reference's object. */
-	virtual UObject* LoadObjectPropertyValue(const void* PropertyValueAddress) const { return GetObjectPropertyValue(PropertyValueAddress); }
+	virtual UObject* LoadObjectPropertyValue(const void* PropertyValueAddress) const
+	{
+		return GetObjectPropertyValue(PropertyValueAddress);
+	}
 	UObject* GetObjectPropertyValue_InContainer(const void* Container, int32 ArrayIndex = 0) const
 	{
 		return GetObjectPropertyValue(ContainerPtrToValuePtr<void>(Container, ArrayIndex));
@@ -41,7 +44,10 @@ class COREUOBJECT_API FObjectPropertyBase : public FProperty
 	/** "None", or the object's class and path: `"/Script/M.Class'/Path.Name'"`. */
 	static FString GetExportPath(
 		const UObject* Object, const UObject* Parent = nullptr, const UObject* ExportRootScope = nullptr, uint32 PortFlags = PPF_None);
-	/** Reads one reference in any spelling from the front of Buffer into ResolvedValue. False with Buffer unmoved when the text is no reference. */
+	/**
+	 * Reads one reference in any spelling from the front of Buffer into ResolvedValue. False with Buffer unmoved when the text is no
+	 * reference.
+	 */
 	static bool ParseObjectPropertyValue(const FProperty* Property, UObject* OwnerObject, UClass* RequiredMetaClass, uint32 PortFlags,
 		const TCHAR*& Buffer, TObjectPtr<UObject>& OutResolvedValue);
 	/** The object that a path names: in memory, on disk, or a stand-in of ObjectClass that keeps the path. */
@@ -55,7 +61,9 @@ protected:
 		const TCHAR* Buffer, void* PropertyValue, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText) const override;
 	virtual UClass* GetRequiredMetaClass() const { return nullptr; }
 	FString GetInnerCPPTypeName() const;
-	/** After a value was read: an object of another class never stays, for C++ trusts the type. A stand-in is made to fit where it can be. */
+	/**
+	 * After a value was read: an object of another class never stays, for C++ trusts the type. A stand-in is made to fit where it can be.
+	 */
 	void FitLoadedValue(FArchive& Ar, void* Value) const;
 };
 

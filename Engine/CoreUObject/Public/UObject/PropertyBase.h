@@ -183,7 +183,10 @@ class COREUOBJECT_API FProperty : public FField
 	/** Appends the text of the value. A struct leaves out members that equal DefaultValue's. */
 	void ExportTextItem_Direct(FString& ValueStr, const void* PropertyValue, const void* DefaultValue, UObject* Parent, int32 PortFlags,
 		UObject* ExportRootScope = nullptr) const;
-	/** Reads the value from the front of Buffer. Answers what follows it, or null when the text is not of this type; the reason goes to ErrorText. */
+	/**
+	 * Reads the value from the front of Buffer. Answers what follows it, or null when the text is not of this type; the reason goes to
+	 * ErrorText.
+	 */
 	const TCHAR* ImportText_Direct(
 		const TCHAR* Buffer, void* PropertyPtr, UObject* OwnerObject, int32 PortFlags, FOutputDevice* ErrorText = nullptr) const;
 	const TCHAR* ImportText_InContainer(
@@ -235,7 +238,8 @@ protected:
 private:
 	FORCEINLINE void* ContainerToValue(void* ContainerPtr, int32 ArrayIndex) const
 	{
-		checkf(ArrayIndex >= 0 && ArrayIndex < ArrayDim, TEXT("Array index out of bounds: %i from an array of size %i"), ArrayIndex, ArrayDim);
+		checkf(
+			ArrayIndex >= 0 && ArrayIndex < ArrayDim, TEXT("Array index out of bounds: %i from an array of size %i"), ArrayIndex, ArrayDim);
 		check(ContainerPtr);
 		return static_cast<uint8*>(ContainerPtr) + Offset_Internal + static_cast<SIZE_T>(ElementSize) * ArrayIndex;
 	}
@@ -372,5 +376,8 @@ public:
 	{
 		return B ? this->GetPropertyValue(A) == this->GetPropertyValue(B) : this->GetPropertyValue(A) == InTCppType();
 	}
-	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override { Ar << *this->GetPropertyValuePtr(Value); }
+	void SerializeItem(FArchive& Ar, void* Value, const void* Defaults = nullptr) const override
+	{
+		Ar << *this->GetPropertyValuePtr(Value);
+	}
 };

@@ -10,7 +10,9 @@ class UObject;
 /** Words of the text forms that several kinds of property read and write. */
 namespace FPropertyHelpers
 {
-/** Takes a quoted string, or a word, off the front. Null when there is neither or a quote stays open. Dotted names hold '.', ':' and '/'. */
+/**
+ * Takes a quoted string, or a word, off the front. Null when there is neither or a quote stays open. Dotted names hold '.', ':' and '/'.
+ */
 COREUOBJECT_API const TCHAR* ReadToken(const TCHAR* Buffer, FString& OutString, bool bDottedNames = false);
 /** In quotes, with quotes, backslashes and control characters escaped. */
 COREUOBJECT_API FString QuoteAndEscape(const FString& Text);

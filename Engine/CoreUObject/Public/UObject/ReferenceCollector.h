@@ -16,7 +16,8 @@ public:
 
 	template <class UObjectType>
 	requires std::is_convertible_v<UObjectType*, const UObject*>
-	void AddReferencedObject(UObjectType*& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
+	void AddReferencedObject(
+		UObjectType*& Object, const UObject* ReferencingObject = nullptr, const FProperty* ReferencingProperty = nullptr)
 	{
 		HandleObjectReference(*reinterpret_cast<UObject**>(const_cast<std::remove_const_t<UObjectType>**>(&Object)), ReferencingObject,
 			ReferencingProperty);

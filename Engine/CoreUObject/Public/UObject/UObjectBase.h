@@ -36,7 +36,10 @@ public:
 
 	/** Sets exactly these flags, for code that knows all of them. */
 	FORCEINLINE void AtomicallySetFlags(EObjectFlags FlagsToAdd) { ObjectFlags = static_cast<EObjectFlags>(ObjectFlags | FlagsToAdd); }
-	FORCEINLINE void AtomicallyClearFlags(EObjectFlags FlagsToClear) { ObjectFlags = static_cast<EObjectFlags>(ObjectFlags & ~FlagsToClear); }
+	FORCEINLINE void AtomicallyClearFlags(EObjectFlags FlagsToClear)
+	{
+		ObjectFlags = static_cast<EObjectFlags>(ObjectFlags & ~FlagsToClear);
+	}
 
 protected:
 	/** Takes the identity that StaticAllocateObject prepared for the object whose constructor is running. */

@@ -81,8 +81,8 @@ COREUOBJECT_API UObject* StaticConstructObject_Internal(const FStaticConstructOb
  * is destroyed first and its memory taken; one of another class is moved to the transient package, which is logged as an error.
  */
 COREUOBJECT_API UObject* StaticAllocateObject(const UClass* Class, UObject* InOuter, FName Name, EObjectFlags SetFlags = RF_NoFlags,
-	EInternalObjectFlags InternalSetFlags = EInternalObjectFlags::None, bool bCanReuseSubobjects = false, bool* bOutReusedSubobject = nullptr,
-	UPackage* ExternalPackage = nullptr);
+	EInternalObjectFlags InternalSetFlags = EInternalObjectFlags::None, bool bCanReuseSubobjects = false,
+	bool* bOutReusedSubobject = nullptr, UPackage* ExternalPackage = nullptr);
 
 COREUOBJECT_API UPackage* GetTransientPackage();
 COREUOBJECT_API UObject* GetTransientPackageAsObject();
