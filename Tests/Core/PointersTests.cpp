@@ -217,3 +217,22 @@ TEST(Function, ReferenceCallsTheCallersObject)
 	Reference(3);
 	EXPECT_EQ(Add(0), 5);
 }
+
+TEST(SharedPointer, BothThreadModesCountAndDoNotMix)
+{
+	struct FOfOneThread : TSharedFromThis<FOfOneThread, ESPMode::NotThreadSafe>
+	{
+	};
+	using FPointer = TSharedPtr<FOfOneThread, ESPMode::NotThreadSafe>;
+	static_assert(!std::is_convertible_v<FPointer, TSharedPtr<FOfOneThread, ESPMode::ThreadSafe>>);
+	static_assert(!std::is_constructible_v<TWeakPtr<FOfOneThread, ESPMode::ThreadSafe>, FPointer>);
+	FPointer Owner = MakeShared<FOfOneThread, ESPMode::NotThreadSafe>();
+	const TWeakPtr<FOfOneThread, ESPMode::NotThreadSafe> Weak = Owner->AsWeak();
+	FPointer Second = Owner->AsShared();
+	EXPECT_EQ(Owner.GetSharedReferenceCount(), 2);
+	Owner.Reset();
+	EXPECT_TRUE(Second.IsUnique());
+	EXPECT_EQ(Weak.Pin(), Second);
+	Second.Reset();
+	EXPECT_FALSE(Weak.IsValid());
+}

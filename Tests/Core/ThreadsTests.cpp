@@ -6,6 +6,7 @@
 #include "HAL/Runnable.h"
 #include "HAL/RunnableThread.h"
 #include "Misc/QueuedThreadPool.h"
+#include "Misc/ScopeLock.h"
 #include "Misc/ScopeRWLock.h"
 
 #include <gtest/gtest.h>
@@ -330,4 +331,73 @@ TEST(Ticker, RemovalOnAnotherThreadWaitsForTheCallUnderWay)
 	Ticker.Tick(1.0f);
 	Remover.join();
 	EXPECT_TRUE(bOverAtRemoval);
+}
+
+namespace
+{
+/** What another thread says. */
+bool OnAnotherThread(TFunctionRef<bool()> Ask)
+{
+	bool bAnswer = false;
+	std::thread([&]
+		{ bAnswer = Ask(); })
+		.join();
+	return bAnswer;
+}
+}
+
+TEST(Locks, ReadersShareAndAWriterIsAlone)
+{
+	FRWLock Lock;
+	const auto CanRead = [&Lock]
+	{
+		const bool bTaken = Lock.TryReadLock();
+		if (bTaken)
+		{
+			Lock.ReadUnlock();
+		}
+		return bTaken;
+	};
+	const auto CanWrite = [&Lock]
+	{
+		const bool bTaken = Lock.TryWriteLock();
+		if (bTaken)
+		{
+			Lock.WriteUnlock();
+		}
+		return bTaken;
+	};
+	{
+		const FReadScopeLock Reading(Lock);
+		EXPECT_TRUE(OnAnotherThread(CanRead));
+		EXPECT_FALSE(OnAnotherThread(CanWrite));
+	}
+	{
+		const FWriteScopeLock Writing(Lock);
+		EXPECT_FALSE(OnAnotherThread(CanRead));
+		EXPECT_FALSE(OnAnotherThread(CanWrite));
+	}
+	EXPECT_TRUE(OnAnotherThread(CanWrite));
+}
+
+TEST(Locks, ACriticalSectionIsItsOwnThreadsAsOftenAsItTookIt)
+{
+	FCriticalSection Section;
+	const auto CanEnter = [&Section]
+	{
+		const bool bTaken = Section.TryLock();
+		if (bTaken)
+		{
+			Section.Unlock();
+		}
+		return bTaken;
+	};
+	Section.Lock();
+	{
+		const FScopeLock Again(&Section);
+		EXPECT_FALSE(OnAnotherThread(CanEnter));
+	}
+	EXPECT_FALSE(OnAnotherThread(CanEnter));
+	Section.Unlock();
+	EXPECT_TRUE(OnAnotherThread(CanEnter));
 }

@@ -9,6 +9,7 @@
 #include <cstdio>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
 #include <string>
 #include <string_view>
 
@@ -68,6 +69,44 @@ TEST(JsonText, Utf8IsReadAndWrittenWithoutAChange)
 		EXPECT_EQ(std::string(TCHAR_TO_UTF8(*Wide)), Text);
 		EXPECT_EQ(WriteToArchive<TCHAR>(Object.ToSharedRef()).size(), size_t(Wide.Len()) * sizeof(TCHAR));
 	}
+}
+
+TEST(JsonText, TextsOfEveryLengthAndMixtureComeBackFromBothEncodings)
+{
+	const TCHAR* const Pieces[] = {
+		TEXT("a"), TEXT("0123456789abcdef"), TEXT("\u00e9"), TEXT("\u9580"), TEXT("\U0001F6AA"), TEXT("\\n"), TEXT("\"")};
+	std::mt19937 Random(3);
+	for (int32 Round = 0; Round < 2000; ++Round)
+	{
+		FString Text;
+		for (uint32 Count = Random() % 9; Count > 0; --Count)
+		{
+			Text += Pieces[Random() % UE_ARRAY_COUNT(Pieces)];
+		}
+		const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+		Object->SetStringField(Text, Text);
+		Object->SetStringField(TEXT("again"), Text);
+		const std::string Utf8 = WriteToArchive<UTF8CHAR>(Object);
+		TSharedPtr<FJsonObject> FromUtf8;
+		TSharedPtr<FJsonObject> FromUtf16;
+		ASSERT_TRUE(FJsonSerializer::Deserialize(TJsonReaderFactory<UTF8CHAR>::CreateFromView(ToView(Utf8)), FromUtf8));
+		ASSERT_TRUE(FJsonSerializer::Deserialize(TJsonReaderFactory<>::Create(FString(UTF8_TO_TCHAR(Utf8.c_str()))), FromUtf16));
+		for (const TSharedPtr<FJsonObject>& Read : {FromUtf8, FromUtf16})
+		{
+			ASSERT_TRUE(Read->GetStringField(Text).Equals(Text, ESearchCase::CaseSensitive)) << Utf8;
+			ASSERT_TRUE(Read->GetStringField(TEXT("again")).Equals(Text, ESearchCase::CaseSensitive)) << Utf8;
+		}
+	}
+}
+
+TEST(JsonText, EqualTextsOfDifferentKindsStayApart)
+{
+	const std::string Text = R"({"a":"1","b":1,"c":"true","d":true,"e":"1","f":"A","g":"a","h":"null","i":null})";
+	TSharedPtr<FJsonObject> Object;
+	ASSERT_TRUE(FJsonSerializer::Deserialize(TJsonReaderFactory<UTF8CHAR>::CreateFromView(ToView(Text)), Object));
+	EXPECT_EQ(WriteToArchive<UTF8CHAR>(Object.ToSharedRef()), Text);
+	Object->SetStringField(TEXT("a"), TEXT("other"));
+	EXPECT_EQ(Object->GetStringField(TEXT("e")), TEXT("1")) << "a field that is set anew takes no other with it";
 }
 
 TEST(JsonText, BytesThatAreNoUtf8BecomeReplacementCharacters)

@@ -8,21 +8,16 @@ TArray<const UStruct*> GatherFieldIterationStructs(const UStruct* Struct, EField
 {
 	TArray<const UStruct*> Result;
 	const bool bIncludeSuper = EnumHasAnyFlags(Flags, EFieldIterationFlags::IncludeSuper);
+	const bool bIncludeInterfaces = EnumHasAnyFlags(Flags, EFieldIterationFlags::IncludeInterfaces);
 	for (const UStruct* Current = Struct; Current; Current = bIncludeSuper ? Current->GetSuperStruct() : nullptr)
 	{
 		Result.Add(Current);
-	}
-	if (!EnumHasAnyFlags(Flags, EFieldIterationFlags::IncludeInterfaces))
-	{
-		return Result;
-	}
-	for (const UClass* Class = Cast<UClass>(Struct); Class; Class = bIncludeSuper ? Class->GetSuperClass() : nullptr)
-	{
-		for (const FImplementedInterface& Interface : Class->Interfaces)
+		const UClass* const Class = bIncludeInterfaces ? Cast<UClass>(Current) : nullptr;
+		for (int32 Index = 0; Class && Index < Class->Interfaces.Num(); ++Index)
 		{
-			for (const UStruct* Current = Interface.Class; Current; Current = bIncludeSuper ? Current->GetSuperStruct() : nullptr)
+			if (const UClass* const Interface = Class->Interfaces[Index].Class)
 			{
-				Result.AddUnique(Current);
+				Result.Add(Interface);
 			}
 		}
 	}

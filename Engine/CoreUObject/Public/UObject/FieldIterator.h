@@ -36,7 +36,7 @@ enum InterfaceClassFlags
 };
 }
 
-/** The struct, then its supers, then (if wanted) each implemented interface with its supers. */
+/** The struct, then its supers; a class is followed (if wanted) by the interfaces that it names, without theirs. */
 COREUOBJECT_API TArray<const UStruct*> GatherFieldIterationStructs(const UStruct* Struct, EFieldIterationFlags Flags);
 COREUOBJECT_API bool IsDeprecatedField(const FField* Field);
 

@@ -158,22 +158,25 @@ TSharedPtr<FJsonValue> MakeNumber(const ANSICHAR* Text, size_t Length)
 	return MakeShared<FJsonValueNumber>(Value);
 }
 
-/** Values recur in a document: types, states, zeros. One that was made lately is not made again, for texts and numbers never change. */
-class FRecentValues
+/**
+ * Texts recur in a document: types, states, units. One that was made lately is not made again, for values never change. (Numbers recur
+ * too seldom to be worth the search.)
+ */
+class FRecentTexts
 {
 public:
-	/** The bytes must stay where they are, as those of a text that is read in place do. Null where Make answers null. */
-	template <typename MakeType>
-	TSharedPtr<FJsonValue> Get(std::string_view Bytes, MakeType&& Make)
+	/** The bytes must stay where they are, as those of a text that is read in place do. */
+	TSharedPtr<FJsonValue> Get(const ANSICHAR* Text, size_t Length)
 	{
-		if (Bytes.size() > MaxLength)
+		if (Length > MaxLength)
 		{
-			return Make();
+			return MakeShared<FJsonValueString>(ToString(Text, Length));
 		}
+		const std::string_view Bytes(Text, Length);
 		FSlot& Slot = Slots[std::hash<std::string_view>()(Bytes) % NumSlots];
 		if (!Slot.Value || Slot.Bytes != Bytes)
 		{
-			Slot = {Bytes, Make()};
+			Slot = {Bytes, MakeShared<FJsonValueString>(ToString(Text, Length))};
 		}
 		return Slot.Value;
 	}
@@ -198,8 +201,7 @@ public:
 	bool Bool(bool bValue) { return Add(TSharedPtr<FJsonValue>(GetBoolean(bValue))); }
 	bool RawNumber(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
 	{
-		TSharedPtr<FJsonValue> Number = RecentNumbers.Get(std::string_view(Text, Length), [Text, Length]
-			{ return MakeNumber(Text, Length); });
+		TSharedPtr<FJsonValue> Number = MakeNumber(Text, Length);
 		return Number ? Add(MoveTemp(Number)) : Fail("A number is out of range.");
 	}
 	// Never called, since numbers come as their text.
@@ -210,9 +212,7 @@ public:
 	bool Double(double) { return false; }
 	bool String(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
 	{
-		const auto Make = [Text, Length]() -> TSharedPtr<FJsonValue>
-		{ return MakeShared<FJsonValueString>(ToString(Text, Length)); };
-		return Add(RecentTexts.Get(std::string_view(Text, Length), Make));
+		return Add(RecentTexts.Get(Text, Length));
 	}
 	bool StartObject() { return Open(); }
 	bool Key(const ANSICHAR* Text, rapidjson::SizeType Length, bool)
@@ -285,8 +285,7 @@ private:
 	/** Of what is open: values that are read, innermost last, and the keys of those that are fields. */
 	TArray<TSharedPtr<FJsonValue>> Values;
 	TArray<FString> Keys;
-	FRecentValues RecentTexts;
-	FRecentValues RecentNumbers;
+	FRecentTexts RecentTexts;
 	int32 Depth = 0;
 	const ANSICHAR* Failure = nullptr;
 };
