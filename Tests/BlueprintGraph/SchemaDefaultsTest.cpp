@@ -201,7 +201,7 @@ TEST_F(FSchemaDefaultsTest, PropertiesOfFunctionsBecomeThePinTypesOfTheirParamet
 		{TEXT("/Script/Engine.GameplayStatics"), TEXT("GetAllActorsOfClass"), TEXT("ActorClass"), "Actor Class Reference"},
 		{TEXT("/Script/Engine.KismetSystemLibrary"), TEXT("LoadAsset"), TEXT("Asset"), "Soft Object Reference"},
 		{TEXT("/Script/Engine.KismetMathLibrary"), TEXT("RandomFloat"), TEXT("ReturnValue"), "Float (double-precision)"},
-		{TEXT("/Script/Engine.Actor"), TEXT("GetLocalRole"), TEXT("ReturnValue"), "E Net Role Enum"},
+		{TEXT("/Script/Engine.Actor"), TEXT("GetLocalRole"), TEXT("ReturnValue"), "ENet Role Enum"},
 	};
 	for (const FCase& Case : Cases)
 	{

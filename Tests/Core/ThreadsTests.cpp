@@ -335,69 +335,65 @@ TEST(Ticker, RemovalOnAnotherThreadWaitsForTheCallUnderWay)
 
 namespace
 {
-/** What another thread says. */
-bool OnAnotherThread(TFunctionRef<bool()> Ask)
+/** Whether another thread can take the lock now. */
+template <typename LockType>
+bool CanOtherTake(LockType& Lock, bool (LockType::*TryLock)(), void (LockType::*Unlock)())
 {
-	bool bAnswer = false;
-	std::thread([&]
-		{ bAnswer = Ask(); })
+	bool bTaken = false;
+	std::thread(
+		[&]
+		{
+			bTaken = (Lock.*TryLock)();
+			if (bTaken)
+			{
+				(Lock.*Unlock)();
+			}
+		})
 		.join();
-	return bAnswer;
+	return bTaken;
+}
+
+bool CanOtherRead(FRWLock& Lock)
+{
+	return CanOtherTake(Lock, &FRWLock::TryReadLock, &FRWLock::ReadUnlock);
+}
+
+bool CanOtherWrite(FRWLock& Lock)
+{
+	return CanOtherTake(Lock, &FRWLock::TryWriteLock, &FRWLock::WriteUnlock);
+}
+
+bool CanOtherEnter(FCriticalSection& Section)
+{
+	return CanOtherTake(Section, &FCriticalSection::TryLock, &FCriticalSection::Unlock);
 }
 }
 
 TEST(Locks, ReadersShareAndAWriterIsAlone)
 {
 	FRWLock Lock;
-	const auto CanRead = [&Lock]
-	{
-		const bool bTaken = Lock.TryReadLock();
-		if (bTaken)
-		{
-			Lock.ReadUnlock();
-		}
-		return bTaken;
-	};
-	const auto CanWrite = [&Lock]
-	{
-		const bool bTaken = Lock.TryWriteLock();
-		if (bTaken)
-		{
-			Lock.WriteUnlock();
-		}
-		return bTaken;
-	};
 	{
 		const FReadScopeLock Reading(Lock);
-		EXPECT_TRUE(OnAnotherThread(CanRead));
-		EXPECT_FALSE(OnAnotherThread(CanWrite));
+		EXPECT_TRUE(CanOtherRead(Lock));
+		EXPECT_FALSE(CanOtherWrite(Lock));
 	}
 	{
 		const FWriteScopeLock Writing(Lock);
-		EXPECT_FALSE(OnAnotherThread(CanRead));
-		EXPECT_FALSE(OnAnotherThread(CanWrite));
+		EXPECT_FALSE(CanOtherRead(Lock));
+		EXPECT_FALSE(CanOtherWrite(Lock));
 	}
-	EXPECT_TRUE(OnAnotherThread(CanWrite));
+	EXPECT_TRUE(CanOtherWrite(Lock));
 }
 
 TEST(Locks, ACriticalSectionIsItsOwnThreadsAsOftenAsItTookIt)
 {
 	FCriticalSection Section;
-	const auto CanEnter = [&Section]
-	{
-		const bool bTaken = Section.TryLock();
-		if (bTaken)
-		{
-			Section.Unlock();
-		}
-		return bTaken;
-	};
 	Section.Lock();
 	{
 		const FScopeLock Again(&Section);
-		EXPECT_FALSE(OnAnotherThread(CanEnter));
+		EXPECT_FALSE(CanOtherEnter(Section));
 	}
-	EXPECT_FALSE(OnAnotherThread(CanEnter));
+	EXPECT_FALSE(CanOtherEnter(Section));
 	Section.Unlock();
-	EXPECT_TRUE(OnAnotherThread(CanEnter));
+	EXPECT_TRUE(CanOtherEnter(Section));
 }

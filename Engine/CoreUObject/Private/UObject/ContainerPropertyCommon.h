@@ -49,7 +49,7 @@ private:
 /** Serializes an inner property's definition and takes ownership of what was loaded. A missing one is an error of the archive. */
 void SerializeInnerProperty(FArchive& Ar, FProperty*& Inner, FField* Owner);
 
-/** A member's name in text from a container's element: skips blanks, and the comma between elements. */
+/** Goes past blanks and the comma between two elements. */
 inline const TCHAR* SkipElementSeparator(const TCHAR* Buffer)
 {
 	Buffer = FPropertyHelpers::SkipWhitespace(Buffer);
