@@ -107,7 +107,7 @@ TEST(PortFlags, ReferencesAreAsLongAsTheirReaderNeedsThem)
 	EXPECT_EQ(Export(Part, Holder, PPF_ExportsNotFullyQualified), "\"/Game/PortFlagTests.PortFlagHolder_C'Part'\"");
 	EXPECT_EQ(Export(Sibling, Holder, PPF_ExportsNotFullyQualified), "\"/Game/PortFlagTests.PortFlagHolder_C'Sibling'\"");
 	EXPECT_EQ(Export(Class->GetClass(), Holder, PPF_ExportsNotFullyQualified), "\"/Script/CoreUObject.Class'/Script/CoreUObject.Class'\"");
-	EXPECT_EQ(Export(Part, Holder, PPF_SimpleObjectText), "Holder.Part");
+	EXPECT_EQ(Export(Part, Holder, PPF_SimpleObjectText), "Holder:Part");
 	EXPECT_EQ(Export(nullptr, Holder, PPF_SimpleObjectText), "None");
 }
 
