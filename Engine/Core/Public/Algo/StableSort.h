@@ -14,7 +14,8 @@ template <typename RangeType, typename ProjectionType, typename PredicateType = 
 void StableSortBy(RangeType&& Range, ProjectionType Projection, PredicateType IsBefore = PredicateType())
 {
 	auto* const First = GetData(Range);
-	std::stable_sort(First, First + GetNum(Range), UE::Core::Private::TProjectedPredicate<ProjectionType, PredicateType>{Projection, IsBefore});
+	std::stable_sort(
+		First, First + GetNum(Range), UE::Core::Private::TProjectedPredicate<ProjectionType, PredicateType>{Projection, IsBefore});
 }
 
 template <typename RangeType, typename PredicateType = TLess<>>

@@ -89,7 +89,8 @@ bool IsWellFormed(const TArray<FString>& Parts)
 
 void Remember(UObject* Object)
 {
-	[[maybe_unused]] static const FDelegateHandle ForgetsDeletedObjects = FCoreUObjectDelegates::GetPostGarbageCollect().AddStatic(&ForgetDeletedStandIns);
+	[[maybe_unused]] static const FDelegateHandle ForgetsDeletedObjects =
+		FCoreUObjectDelegates::GetPostGarbageCollect().AddStatic(&ForgetDeletedStandIns);
 	GetStandIns().Add(FWeakObjectPtr(Object));
 }
 
@@ -207,8 +208,9 @@ bool CanReparent(const UClass* Class, const UClass* SuperClass)
 	}
 	const bool bHasReadType = Instances.ContainsByPredicate([](const UObject* Instance)
 		{ return !UE::CoreUObject::IsPlaceholder(Instance); });
-	return !bHasReadType && UE::CoreUObject::IsPlaceholder(Class) && Class->GetSuperClass() == UObject::StaticClass() && SuperClass != UObject::StaticClass() &&
-		!SuperClass->IsChildOf(Class) && (!Derived || Derived->IsEmpty()) && FObjectBootstrap::FitsStandIn(SuperClass);
+	return !bHasReadType && UE::CoreUObject::IsPlaceholder(Class) && Class->GetSuperClass() == UObject::StaticClass() &&
+		SuperClass != UObject::StaticClass() && !SuperClass->IsChildOf(Class) && (!Derived || Derived->IsEmpty()) &&
+		FObjectBootstrap::FitsStandIn(SuperClass);
 }
 
 /** Gives a stand-in class its better parent. Objects of the class stay where they are and become objects of the parent's C++ type. */

@@ -88,7 +88,8 @@ bool BelongsTo(const FKeptValues& Kept, FArchive& Ar)
 
 bool IsAtOrBelow(const FString& Path, const FString& Base)
 {
-	return Path.StartsWith(Base, ESearchCase::CaseSensitive) && (Path.Len() == Base.Len() || Path[Base.Len()] == '.' || Path[Base.Len()] == '[');
+	return Path.StartsWith(Base, ESearchCase::CaseSensitive) &&
+		(Path.Len() == Base.Len() || Path[Base.Len()] == '.' || Path[Base.Len()] == '[');
 }
 }
 
@@ -98,7 +99,8 @@ void FUnknownProperties::Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8
 	{
 		return;
 	}
-	[[maybe_unused]] static const FDelegateHandle ForgetsDeletedObjects = FCoreUObjectDelegates::GetPostGarbageCollect().AddStatic(&ForgetDeletedObjects);
+	[[maybe_unused]] static const FDelegateHandle ForgetsDeletedObjects =
+		FCoreUObjectDelegates::GetPostGarbageCollect().AddStatic(&ForgetDeletedObjects);
 	FLinkerLoad& Linker = *static_cast<FLinkerLoad*>(Ar.GetLinker());
 	FKeptValues& Kept = GetStore().FindOrAdd(FWeakObjectPtr(GetStack().Last().Object));
 	if (Kept.LinkerId != Linker.GetId())
@@ -120,7 +122,10 @@ const TArray<FUnknownProperty>* FUnknownProperties::FindForWriting(FArchive& Ar)
 	}
 	if (!BelongsTo(*Kept, Ar))
 	{
-		UE_LOG(LogClass, Warning, TEXT("%s has values of properties that are not known here; they belong to the package that it came from and are not written into %s"), *GetStack().Last().Object->GetPathName(), *Ar.GetArchiveName());
+		UE_LOG(LogClass, Warning,
+			TEXT("%s has values of properties that are not known here; they belong to the package that it came from and are not written "
+				 "into %s"),
+			*GetStack().Last().Object->GetPathName(), *Ar.GetArchiveName());
 		return nullptr;
 	}
 	return Kept->ByPath.Find(GetCurrentPath());
