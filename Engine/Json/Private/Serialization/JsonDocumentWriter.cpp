@@ -241,7 +241,7 @@ void FDocumentWriter::BreakLine(int32 NumTabs)
 {
 	if (bPretty)
 	{
-		Append("\n");
+		Characters.Add('\n');
 		std::fill_n(Add(NumTabs), NumTabs, TCHAR('\t'));
 	}
 }
