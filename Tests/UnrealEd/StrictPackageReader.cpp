@@ -262,6 +262,12 @@ void FStrictPackageReader::ReadExports()
 		{
 			Complain("the properties of " + Export.Name + " are not within its bytes");
 		}
+		// Whether it has a GUID; a class's own default object says so too.
+		constexpr int64_t GuidFlagBytes = 4;
+		if (Export.Size - Export.ScriptEnd < GuidFlagBytes)
+		{
+			Complain(Export.Name + " ends with its properties");
+		}
 	}
 	Expect("the cells", CellExportTable.Offset);
 	Expect("the cells", CellImportTable.Offset);

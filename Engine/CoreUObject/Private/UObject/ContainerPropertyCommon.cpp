@@ -1,5 +1,7 @@
 #include "ContainerPropertyCommon.h"
 
+#include "UObject/LinkerLoad.h"
+
 FElementReader::FElementReader(FProperty* InElement, const FPropertyTypeName& SavedType)
 	: Element(InElement)
 {
@@ -27,6 +29,12 @@ FElementReader::FElementReader(FProperty* InElement, const FPropertyTypeName& Sa
 
 bool FElementReader::Read(FArchive& Ar, void* Value, const void* Defaults) const
 {
+	FLinkerLoad* const Linker = Ar.IsLoading() && Ar.IsPersistent() ? static_cast<FLinkerLoad*>(Ar.GetLinker()) : nullptr;
+	if (Linker && !Linker->SpendMemory(Element->GetElementSize()))
+	{
+		Ar.SetError();
+		return false;
+	}
 	if (!bConvert)
 	{
 		Element->SerializeItem(Ar, Value, Defaults);

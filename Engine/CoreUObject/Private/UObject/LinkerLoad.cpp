@@ -26,6 +26,13 @@ bool IsPartlyDeclared(const UClass* Class)
 	return Class != nullptr;
 }
 
+/** The objects that are being read, each because of the one before it. */
+TArray<const UObject*>& GetObjectsInReading()
+{
+	static TArray<const UObject*> Objects;
+	return Objects;
+}
+
 /** Sets the range of the file that reads may touch, and puts position and range back. */
 class FReadWindow
 {
@@ -230,6 +237,12 @@ int32 FLinkerLoad::FindExportOf(const UObject* Object) const
 	return Found && ExportMap[*Found].Object.Get() == Object ? *Found : INDEX_NONE;
 }
 
+UObject* FLinkerLoad::FindKeptLink(const UObject* Owner, FName Member) const
+{
+	const FWeakObjectPtr* const Found = KeptLinks.Find(FLink(FWeakObjectPtr(Owner), Member));
+	return Found ? Found->Get() : nullptr;
+}
+
 UObject* FLinkerLoad::FindOuterOf(int32 ExportIndex) const
 {
 	const FPackageIndex Outer = ExportMap[ExportIndex].OuterIndex;
@@ -270,6 +283,12 @@ UObject* FLinkerLoad::FindOuterOfExport(int32 ExportIndex)
 {
 	const FPackageIndex OuterIndex = ExportMap[ExportIndex].OuterIndex;
 	return OuterIndex.IsNull() ? LinkerRoot : IndexToObject(OuterIndex);
+}
+
+bool FLinkerLoad::SpendMemory(int64 Bytes)
+{
+	MemoryLeft -= Bytes;
+	return MemoryLeft >= 0;
 }
 
 UObject* FLinkerLoad::MakeExportObject(int32 ExportIndex, UClass* Class, UObject* Outer)
@@ -319,7 +338,7 @@ UObject* FLinkerLoad::CreateExport(int32 ExportIndex)
 	}
 	UObject* const Outer = FindOuterOfExport(ExportIndex);
 	// Making the class or the outer may have made this one.
-	if (!ExportMap[ExportIndex].Object.Get() && Class && Outer)
+	if (!ExportMap[ExportIndex].Object.Get() && Class && Outer && SpendMemory(Class->GetPropertiesSize()))
 	{
 		UObject* const Made = MakeExportObject(ExportIndex, Class, Outer);
 		ExportMap[ExportIndex].Object = Made;
@@ -414,6 +433,11 @@ void FLinkerLoad::Preload(UObject* Object)
 	}
 }
 
+bool FLinkerLoad::IsBeingRead(const UObject* Object)
+{
+	return GetObjectsInReading().Contains(Object);
+}
+
 void FLinkerLoad::NoteUnreadExport(int32 ExportIndex)
 {
 	const FString Path = GetExportPathName(ExportIndex);
@@ -444,7 +468,9 @@ void FLinkerLoad::ReadExport(int32 ExportIndex)
 	const int64 Start = ExportMap[ExportIndex].SerialOffset;
 	const int64 End = Start + ExportMap[ExportIndex].SerialSize;
 	const FReadWindow Window(Position, Limit, Start, End);
+	GetObjectsInReading().Add(Object);
 	Object->Serialize(*this);
+	GetObjectsInReading().Pop();
 	const bool bClassIsUnknown = UE::CoreUObject::IsPlaceholder(Object->GetClass());
 	if (IsError() || bClassIsUnknown)
 	{
@@ -508,6 +534,16 @@ void FLinkerLoad::TakeFingerprints()
 		{
 			Fingerprints.Add(Index, ComputeFingerprint(Object, *this));
 		}
+		if (Object && ExportMap[Index].bIsAsset)
+		{
+			TArray<UObject::FAssetRegistryTag> Tags;
+			Object->GetAssetRegistryTags(Tags);
+			TMap<FName, FString>& Values = TagsAsLoaded.FindOrAdd(FWeakObjectPtr(Object));
+			for (UObject::FAssetRegistryTag& Tag : Tags)
+			{
+				Values.Add(Tag.Name, MoveTemp(Tag.Value));
+			}
+		}
 	}
 	MetaDataFingerprint = ComputeMetaDataFingerprint(LinkerRoot);
 }
@@ -517,6 +553,12 @@ bool FLinkerLoad::IsUnchanged(int32 ExportIndex) const
 	UObject* const Object = ExportMap[ExportIndex].Object.Get();
 	const uint64* const Fingerprint = Fingerprints.Find(ExportIndex);
 	return Object && Fingerprint && *Fingerprint == ComputeFingerprint(Object, *this);
+}
+
+TMap<FName, FString> FLinkerLoad::GetTagsAsLoaded(const UObject* Asset) const
+{
+	const TMap<FName, FString>* const Found = TagsAsLoaded.Find(FWeakObjectPtr(Asset));
+	return Found ? *Found : TMap<FName, FString>();
 }
 
 bool FLinkerLoad::IsMetaDataUnchanged() const

@@ -12,6 +12,9 @@ constexpr int64 MinNameBytes = 4;
 uint64 NextLinkerId = 1;
 constexpr int64 MinImportBytes = 28;
 constexpr int64 MinExportBytes = 60;
+/** What objects and elements take in memory, for each byte of the file and to begin with: far more than any editor's file needs. */
+constexpr int64 MemoryPerFileByte = 256;
+constexpr int64 MemoryOfAnyFile = 64 << 20;
 
 bool IsInTable(FPackageIndex Index, int32 NumExports, int32 NumImports)
 {
@@ -27,6 +30,7 @@ FLinkerLoad::FLinkerLoad(TUniquePtr<FPackageBytes>&& InFile, const FString& InFi
 	LinkerRoot = Package;
 	Limit = File->Num();
 	WholeFile = File->GetWhole();
+	MemoryLeft = MemoryOfAnyFile + File->Num() * MemoryPerFileByte;
 	SetIsLoading(true);
 	SetIsPersistent(true);
 }
@@ -90,7 +94,7 @@ bool FLinkerLoad::LoadTables(FString& OutError)
 	}
 	LoadSoftPackageReferences();
 	LoadDependencies();
-	return CheckExports(OutError) && CheckEndOfFile(OutError);
+	return CheckExports(OutError) && CheckValues(OutError) && CheckEndOfFile(OutError);
 }
 
 bool FLinkerLoad::BeginTable(int32 Count, int32 Offset, int64 MinEntryBytes, const TCHAR* What, FString& OutError)
@@ -209,6 +213,34 @@ bool FLinkerLoad::CheckExports(FString& OutError) const
 			OutError = FString::Printf(TEXT("import %d (%s) has outer %d, which the tables do not have"), Index, *ImportMap[Index].ObjectName.ToString(), ImportMap[Index].OuterIndex.ForDebugging());
 			return false;
 		}
+	}
+	return true;
+}
+
+/** No byte is two exports' or the tables': who reads each export's bytes would read the same ones as often as a table can claim. */
+bool FLinkerLoad::CheckValues(FString& OutError) const
+{
+	TArray<int32> Order;
+	for (int32 Index = 0; Index < ExportMap.Num(); ++Index)
+	{
+		if (ExportMap[Index].SerialSize > 0)
+		{
+			Order.Add(Index);
+		}
+	}
+	Order.Sort([this](int32 A, int32 B)
+		{ return ExportMap[A].SerialOffset < ExportMap[B].SerialOffset; });
+	int64 End = FMath::Max(0, Summary.TotalHeaderSize);
+	for (const int32 Index : Order)
+	{
+		const FObjectExport& Export = ExportMap[Index];
+		if (Export.SerialOffset < End)
+		{
+			OutError = FString::Printf(TEXT("export %d (%s) claims bytes at offset %lld that belong to the header or to another export"),
+				Index, *Export.ObjectName.ToString(), static_cast<long long>(Export.SerialOffset));
+			return false;
+		}
+		End = Export.SerialOffset + Export.SerialSize;
 	}
 	return true;
 }

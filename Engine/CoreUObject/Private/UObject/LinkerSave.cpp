@@ -362,6 +362,15 @@ void FLinkerSave::WriteExport(int32 ExportIndex)
 	Serialize(const_cast<uint8*>(Kept.GetData()), Kept.Num());
 }
 
+void FLinkerSave::Refuse(FString&& Reason)
+{
+	if (!IsError())
+	{
+		Refusal = MoveTemp(Reason);
+		SetError();
+	}
+}
+
 TArrayView<const FLinkerSave::FTagOfOrigin> FLinkerSave::GetTagsOfOrigin(const void* Object) const
 {
 	const bool bIsInWork = ExportInWork != INDEX_NONE && ExportMap[ExportInWork].Object.Get() == Object;
@@ -454,6 +463,11 @@ bool FLinkerSave::WriteExports(FString& OutError)
 			return false;
 		}
 		WriteExport(Index);
+		if (IsError() && !Refusal.IsEmpty())
+		{
+			OutError = Refusal;
+			return false;
+		}
 		if (IsError())
 		{
 			OutError = FString::Printf(TEXT("%s cannot be written in the form of package version %d/%d"), Object ? *Object->GetPathName() : *GetExportPathName(Index), UEVer().FileVersionUE4, UEVer().FileVersionUE5);

@@ -30,6 +30,15 @@ TArray<int32> GetExportsInFileOrder(const FLinkerLoad& Origin, int32 NumExports)
 			return OffsetOfA < OffsetOfB; });
 	return Order;
 }
+
+/** "Class'/Script/Engine.Actor'" of "/Script/CoreUObject.Class'/Script/Engine.Actor'", as engines before 5.1 write it. */
+FString ShortenClassName(const FString& Text)
+{
+	int32 Quote = INDEX_NONE;
+	int32 Dot = INDEX_NONE;
+	const bool bIsReference = Text.StartsWith(TEXT("/")) && Text.EndsWith(TEXT("'")) && Text.FindChar(TEXT('\''), Quote) && Text.FindChar(TEXT('.'), Dot);
+	return bIsReference && Dot < Quote ? Text.RightChop(Dot + 1) : Text;
+}
 }
 
 void FLinkerSave::CopyBytes(const FLinkerLoad& From, int64 Start, int64 End)
@@ -93,33 +102,35 @@ void FLinkerSave::CopyCarried(EPackageSection Section)
 	CopyBytes(*Carried, Range->Start, Range->End);
 }
 
-void FLinkerSave::WriteAssetTags(const UObject* Asset, TArray<TPair<FString, FString>>&& Kept)
+/** The file's tags with the values that they have now. A tag that this host does not make stays, and one that the file lacks its engine does not know. */
+void FLinkerSave::WriteAssetTags(const UObject* Asset, TArray<TPair<FString, FString>>&& InFile)
 {
 	TArray<UObject::FAssetRegistryTag> Tags;
 	if (Asset)
 	{
 		Asset->GetAssetRegistryTags(Tags);
 	}
-	// A tag that this host does not make stays as it was.
+	// A tag that tells what it told when the file was read keeps the words of the engine that wrote it.
+	const TMap<FName, FString> AsLoaded = Origin->GetTagsAsLoaded(Asset);
+	TMap<FString, const UObject::FAssetRegistryTag*> ChangedTags;
 	for (const UObject::FAssetRegistryTag& Tag : Tags)
 	{
-		const FString Name = Tag.Name.ToString();
-		TPair<FString, FString>* const Old = Kept.FindByPredicate([&Name](const TPair<FString, FString>& Pair)
-			{ return Pair.Key == Name; });
-		if (Old)
+		const FString* const Before = AsLoaded.Find(Tag.Name);
+		if (!Before || !Before->Equals(Tag.Value, ESearchCase::CaseSensitive))
 		{
-			Old->Value = Tag.Value;
-		}
-		else
-		{
-			Kept.Emplace(Name, Tag.Value);
+			ChangedTags.Add(Tag.Name.ToString(), &Tag);
 		}
 	}
-	int32 Count = Kept.Num();
+	const bool bShortClassNames = UEVer() < EUnrealEngineObjectUE5Version::FSOFTOBJECTPATH_REMOVE_ASSET_PATH_FNAMES;
+	int32 Count = InFile.Num();
 	FArchive& Ar = *this;
 	Ar << Count;
-	for (TPair<FString, FString>& Pair : Kept)
+	for (TPair<FString, FString>& Pair : InFile)
 	{
+		if (const UObject::FAssetRegistryTag* const* const Tag = ChangedTags.Find(Pair.Key))
+		{
+			Pair.Value = bShortClassNames ? ShortenClassName((*Tag)->Value) : (*Tag)->Value;
+		}
 		Ar << Pair.Key << Pair.Value;
 	}
 }

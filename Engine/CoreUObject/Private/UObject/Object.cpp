@@ -8,6 +8,7 @@
 #include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectHash.h"
+#include "UObject/UnknownProperties.h"
 #include "UObject/UnrealType.h"
 #include "UObjectHashTables.h"
 
@@ -208,7 +209,12 @@ void UObject::PreEditChange(FEditPropertyChain& PropertyAboutToChange)
 
 bool UObject::CanEditChange(const FProperty* InProperty) const
 {
-	return !InProperty || !InProperty->HasAnyPropertyFlags(CPF_EditConst);
+	if (!InProperty)
+	{
+		return true;
+	}
+	// What could not be read and cannot be written would be lost, or the file with it.
+	return !InProperty->HasAnyPropertyFlags(CPF_EditConst) && !FUnknownProperties::HasNativeForm(this, InProperty->GetFName());
 }
 
 void UObject::PostEditChange()

@@ -118,7 +118,8 @@ private:
 void LinkStandInClass(UClass* Class, UClass* Super)
 {
 	Class->SetSuperStruct(Super);
-	Class->ClassFlags |= CLASS_Abstract | CLASS_NotPlaceable;
+	// Flags that are inherited would find their way into the packages of classes below it.
+	Class->ClassFlags |= CLASS_Abstract;
 	Class->ClassWithin = UObject::StaticClass();
 	Class->bStandsInForUnknown = true;
 	Class->Bind();

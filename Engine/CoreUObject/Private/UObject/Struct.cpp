@@ -8,10 +8,26 @@
 
 namespace
 {
+/** More than any honest type has. A package may claim lists of lists of elements, each within bounds, that no memory holds. */
+constexpr int32 MaxPropertiesSize = 1 << 24;
+
 /** An archive that neither reads nor writes, for Link. */
 class FNullArchive final : public FArchive
 {
 };
+
+/** The whole chain, which then is empty. */
+void DestroyFields(FField*& Chain)
+{
+	FField* Field = Chain;
+	Chain = nullptr;
+	while (Field)
+	{
+		FField* const Next = Field->Next;
+		delete Field;
+		Field = Next;
+	}
+}
 }
 
 bool HasRunTimeStorage(const FProperty* Property)
@@ -55,15 +71,8 @@ void UStruct::FinishDestroy()
 void UStruct::DestroyChildPropertiesAndResetPropertyLinks()
 {
 	SetDeclaredDefaults(nullptr);
-	FField* Field = ChildProperties;
-	ChildProperties = nullptr;
 	PropertyLink = RefLink = DestructorLink = PostConstructLink = nullptr;
-	while (Field)
-	{
-		FField* const NextField = Field->Next;
-		delete Field;
-		Field = NextField;
-	}
+	DestroyFields(ChildProperties);
 	DropReferenceSchema();
 }
 
@@ -220,12 +229,19 @@ void UStruct::Link(FArchive& Ar, bool bRelinkExistingProperties)
 			End = SuperStruct->GetStructureSize();
 			MinAlignment = std::max(MinAlignment, SuperStruct->GetMinAlignment());
 		}
-		for (FField* Field = ChildProperties; Field; Field = Field->Next)
+		for (FField** Place = &ChildProperties; *Place; Place = &(*Place)->Next)
 		{
-			FProperty* const Property = CastField<FProperty>(Field);
+			FProperty* const Property = CastField<FProperty>(*Place);
 			if (Property && Property->GetOwner<UObject>() == this)
 			{
 				Property->LinkWithoutChangingOffset(Ar);
+				if (static_cast<int64>(Property->GetElementSize()) * Property->ArrayDim > MaxPropertiesSize - End)
+				{
+					UE_LOG(LogClass, Error, TEXT("%s would be larger than %d bytes from its member %s on"), *GetPathName(), MaxPropertiesSize, *Property->GetName());
+					Ar.SetError();
+					DestroyFields(*Place);
+					break;
+				}
 				End = Property->SetupOffset(End);
 				MinAlignment = std::max(MinAlignment, Property->GetMinAlignment());
 			}

@@ -1,6 +1,7 @@
 #include "Serialization/Archive.h"
 #include "UObject/Class.h"
 #include "UObject/GarbageCollectionSchema.h"
+#include "UObject/LinkerLoad.h"
 #include "UObject/PropertyHelper.h"
 #include "UObject/ReferenceCollector.h"
 #include "UObject/UnrealType.h"
@@ -11,7 +12,17 @@ void FStructProperty::Serialize(FArchive& Ar)
 {
 	Super::Serialize(Ar);
 	Ar << Struct;
-	if (Ar.IsLoading() && !(Struct && Struct->IsA(UScriptStruct::StaticClass())))
+	if (!Ar.IsLoading())
+	{
+		return;
+	}
+	const bool bIsStruct = Struct && Struct->IsA(UScriptStruct::StaticClass());
+	if (bIsStruct)
+	{
+		Ar.Preload(Struct);
+	}
+	// A struct within itself, by whatever way, has no size that a value could have.
+	if (!bIsStruct || FLinkerLoad::IsBeingRead(Struct))
 	{
 		Struct = nullptr;
 		Ar.SetError();

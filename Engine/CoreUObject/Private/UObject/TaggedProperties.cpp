@@ -35,13 +35,30 @@ FProperty* FindPropertyForTag(const UStruct* Struct, FName Name, FProperty* Hint
 	return Struct->CustomFindProperty(Name);
 }
 
-void KeepUnknown(FArchive& Ar, const FPropertyTag& Tag, int64 Start)
+/** Whether saved values name their properties by id too. Undo buffers and copies do not outlive a rename. */
+bool HasGuids(const FArchive& Ar, const UStruct* Struct)
 {
-	TArray<uint8> Value;
+	return Ar.IsPersistent() && Struct->ArePropertyGuidsAvailable();
+}
+
+/** The name that a property has now which was saved as Name, or Name where its id tells nothing. */
+FName FollowRename(const UStruct* Struct, FName Name, const FGuid& Guid)
+{
+	if (!Guid.IsValid() || Struct->FindPropertyGuidFromName(Name) == Guid)
+	{
+		return Name;
+	}
+	const FName Now = Struct->FindPropertyNameFromGuid(Guid);
+	return Now.IsNone() ? Name : Now;
+}
+
+/** Keeps the value behind a tag, and stands behind it. */
+void KeepUnknown(FArchive& Ar, FUnknownProperty&& Unknown, int64 Start)
+{
 	Ar.Seek(Start);
-	Value.SetNumUninitialized(Tag.Size);
-	Ar.Serialize(Value.GetData(), Tag.Size);
-	FUnknownProperties::Add(Ar, Tag, MoveTemp(Value));
+	Unknown.Value.SetNumUninitialized(Unknown.Tag.Size);
+	Ar.Serialize(Unknown.Value.GetData(), Unknown.Tag.Size);
+	FUnknownProperties::Add(Ar, MoveTemp(Unknown));
 }
 
 /** Reads the value after a tag. False when it has no place here. */
@@ -107,7 +124,9 @@ void ForgetValue(FArchive& Ar, FProperty* Property, int32 Index, uint8* Data, co
 
 void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, const UStruct* DefaultsStruct, uint8* Defaults)
 {
+	const bool bHasGuids = HasGuids(Ar, Struct);
 	FProperty* Hint = Struct->PropertyLink;
+	FName Previous;
 	while (!Ar.IsError())
 	{
 		FPropertyTag Tag;
@@ -117,6 +136,10 @@ void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, cons
 			return;
 		}
 		const int64 Start = Ar.Tell();
+		if (bHasGuids && Tag.HasPropertyGuid)
+		{
+			Tag.Name = FollowRename(Struct, Tag.Name, Tag.PropertyGuid);
+		}
 		FProperty* const Property = FindPropertyForTag(Struct, Tag.Name, Hint);
 		Hint = Property ? Property : Hint;
 		bool bRead = ReadValue(Ar, Tag, Property, Struct, Data, DefaultsStruct, Defaults);
@@ -136,7 +159,7 @@ void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, cons
 					*Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName(), *Tag.GetType().ToString(),
 					*Property->GetClass()->GetName());
 			}
-			KeepUnknown(Ar, Tag, Start);
+			KeepUnknown(Ar, {Tag, {}, Previous, Property != nullptr, bHasOtherForm}, Start);
 		}
 		if (Ar.IsError())
 		{
@@ -148,6 +171,7 @@ void ReadTaggedProperties(FArchive& Ar, const UStruct* Struct, uint8* Data, cons
 		{
 			Ar.Seek(Start + Tag.Size);
 		}
+		Previous = Tag.Name;
 	}
 }
 
@@ -181,14 +205,17 @@ public:
 		, Data(InData)
 		, DefaultsStruct(InDefaultsStruct)
 		, Defaults(InDefaults)
-		, Unknown(FUnknownProperties::FindForWriting(InAr))
 		, bDoDelta(InAr.DoDelta() && !InAr.IsTransacting())
+		, bHasGuids(HasGuids(InAr, InStruct))
+		, bIsObject(InStruct->IsA(UClass::StaticClass()))
 	{
 	}
 
 	void Write()
 	{
+		FindKept();
 		WriteAsInOrigin();
+		WriteKeptAfter(FName());
 		for (FProperty* Property = Struct->PropertyLink; Property; Property = Property->PropertyLinkNext)
 		{
 			if (!Property->ShouldSerializeValue(Ar))
@@ -197,11 +224,13 @@ public:
 			}
 			for (int32 Index = 0; Index < Property->ArrayDim; ++Index)
 			{
-				if (!IsWritten(Property->GetFName(), Index) && Differs(Property, Index))
+				const FName Name = Property->GetFName();
+				if (!IsWritten(Name, Index) && !WriteKept(Name, Property, Index) && Differs(Property, Index))
 				{
 					WriteProperty(Property, Index);
 				}
 			}
+			WriteKeptAfter(Property->GetFName());
 		}
 		WriteOtherUnknown();
 		FName End;
@@ -212,63 +241,105 @@ private:
 	/** A property's name and the element of a static array. */
 	using FElement = TPair<FName, int32>;
 
+	void FindKept()
+	{
+		const TArray<FUnknownProperty>* const Unknown = FUnknownProperties::FindForWriting(Ar);
+		for (int32 Index = 0; Unknown && Index < Unknown->Num(); ++Index)
+		{
+			const FUnknownProperty& Property = (*Unknown)[Index];
+			Kept.Add(FElement(Property.Tag.Name, Property.Tag.ArrayIndex), &Property);
+			if (!Property.bHasProperty)
+			{
+				KeptByPrevious.FindOrAdd(Property.Previous, &Property);
+			}
+		}
+	}
+
 	/**
 	 * What the object's bytes in its file have, in their order. A value that is the default here is written even so: this host's
 	 * default need not be that of the engine that saved it.
 	 */
 	void WriteAsInOrigin()
 	{
-		const bool bMayHaveOrigin = Ar.IsPersistent() && Ar.GetLinker() && Struct->IsA(UClass::StaticClass());
-		if (!bMayHaveOrigin)
+		if (!bIsObject || !Ar.IsPersistent() || !Ar.GetLinker())
 		{
 			return;
-		}
-		TMap<FElement, const FUnknownProperty*> UnknownByElement;
-		for (int32 Index = 0; Unknown && Index < Unknown->Num(); ++Index)
-		{
-			const FUnknownProperty& Property = (*Unknown)[Index];
-			UnknownByElement.Add(FElement(Property.Tag.Name, Property.Tag.ArrayIndex), &Property);
 		}
 		FProperty* Hint = Struct->PropertyLink;
 		for (const FLinkerSave::FTagOfOrigin& Tag : static_cast<FLinkerSave*>(Ar.GetLinker())->GetTagsOfOrigin(Data))
 		{
-			if (IsWritten(Tag.Name, Tag.ArrayIndex))
+			const FName Name = bHasGuids ? FollowRename(Struct, Tag.Name, Tag.PropertyGuid) : Tag.Name;
+			if (IsWritten(Name, Tag.ArrayIndex))
 			{
 				continue;
 			}
-			FProperty* const Property = FindPropertyForTag(Struct, Tag.Name, Hint);
+			FProperty* const Property = FindPropertyForTag(Struct, Name, Hint);
 			Hint = Property ? Property : Hint;
-			const FElement Element(Tag.Name, Tag.ArrayIndex);
 			const bool bCanWrite = Property && Tag.ArrayIndex < Property->ArrayDim && Property->ShouldSerializeValue(Ar);
-			const FUnknownProperty* const* const Kept = UnknownByElement.Find(Element);
-			// A value that could not be read leaves the default, so one that differs was set since.
-			const bool bIsChanged = Kept && bCanWrite && Differs(Property, Tag.ArrayIndex);
-			if (bIsChanged && MayHaveNativeForm(Property))
+			if (!WriteKept(Name, bCanWrite ? Property : nullptr, Tag.ArrayIndex) && bCanWrite)
 			{
-				UE_LOG(LogClass, Warning, TEXT("%s: the form of property %s of %s is not known here; its change is not written"),
-					*Ar.GetArchiveName(), *Tag.Name.ToString(), *Struct->GetName());
-			}
-			if (Kept && (!bIsChanged || MayHaveNativeForm(Property)))
-			{
-				Written.Add(Element);
-				WriteUnknownProperty(Ar, **Kept);
-			}
-			else if (bCanWrite)
-			{
-				Written.Add(Element);
+				Written.Add(FElement(Name, Tag.ArrayIndex));
 				WriteProperty(Property, Tag.ArrayIndex, Tag.PropertyGuid);
 			}
 		}
 	}
 
+	/** Writes the bytes that a value has in the file if they are all that is known of it. False when there are none or it was set since. */
+	bool WriteKept(FName Name, const FProperty* Property, int32 Index)
+	{
+		if (Kept.IsEmpty())
+		{
+			return false;
+		}
+		const FElement Element(Name, Index);
+		const FUnknownProperty* const* const Found = Kept.Find(Element);
+		if (!Found)
+		{
+			return false;
+		}
+		if (Property && !IsUnset(Property, Index))
+		{
+			if (!(*Found)->bHasNativeForm)
+			{
+				Kept.Remove(Element);
+				return false;
+			}
+			static_cast<FLinkerSave*>(Ar.GetLinker())
+				->Refuse(FString::Printf(TEXT("property %s of %s was changed, and only the engine can write it: set it back, or change it there"),
+					*Name.ToString(), *FUnknownProperties::DescribeCurrent()));
+		}
+		Written.Add(Element);
+		WriteUnknownProperty(Ar, **Found);
+		return true;
+	}
+
+	/** Values without a property stand where they stood in the file, behind the one that was before them. */
+	void WriteKeptAfter(FName Previous)
+	{
+		const FUnknownProperty* const* Next = KeptByPrevious.Find(Previous);
+		while (Next && !IsWritten((*Next)->Tag.Name, (*Next)->Tag.ArrayIndex))
+		{
+			const FUnknownProperty& Property = **Next;
+			Written.Add(FElement(Property.Tag.Name, Property.Tag.ArrayIndex));
+			WriteUnknownProperty(Ar, Property);
+			Next = KeptByPrevious.Find(Property.Tag.Name);
+		}
+	}
+
+	/** Whether a value is what one that could not be read was left at: the default. */
+	bool IsUnset(const FProperty* Property, int32 Index) const
+	{
+		const uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
+		return Property->Identical(Value, GetDefault(Property, Index), Ar.GetPortFlags() | PPF_DeltaComparison);
+	}
+
 	void WriteOtherUnknown()
 	{
-		for (int32 Index = 0; Unknown && Index < Unknown->Num(); ++Index)
+		for (const TPair<FElement, const FUnknownProperty*>& Pair : Kept)
 		{
-			const FUnknownProperty& Property = (*Unknown)[Index];
-			if (!IsWritten(Property.Tag.Name, Property.Tag.ArrayIndex))
+			if (!IsWritten(Pair.Key.Key, Pair.Key.Value))
 			{
-				WriteUnknownProperty(Ar, Property);
+				WriteUnknownProperty(Ar, *Pair.Value);
 			}
 		}
 	}
@@ -284,12 +355,16 @@ private:
 	{
 		const uint8* const Default = GetDefault(Property, Index);
 		const uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
-		return !bDoDelta || !Default || !Property->Identical(Value, Default, Ar.GetPortFlags() | PPF_DeltaComparison) ||
+		// Of an object, what its archetype lacks is compared with nothing; a struct without a default is written whole.
+		const bool bIsWhole = !bDoDelta || (!Default && !bIsObject);
+		return bIsWhole || !Property->Identical(Value, Default, Ar.GetPortFlags() | PPF_DeltaComparison) ||
 			FUnknownProperties::HasAnyWithin(Ar, Property->GetFName(), Index);
 	}
 
-	void WriteProperty(FProperty* Property, int32 Index, const FGuid& Guid = FGuid())
+	void WriteProperty(FProperty* Property, int32 Index, const FGuid& GuidInOrigin = FGuid())
 	{
+		const FGuid GuidOfClass = bHasGuids ? Struct->FindPropertyGuidFromName(Property->GetFName()) : FGuid();
+		const FGuid& Guid = GuidOfClass.IsValid() ? GuidOfClass : GuidInOrigin;
 		uint8* const Value = Property->ContainerPtrToValuePtr<uint8>(Data, Index);
 		FPropertyTag Tag(Property, Index, Value);
 		Tag.HasPropertyGuid = Guid.IsValid() ? 1 : 0;
@@ -306,8 +381,12 @@ private:
 	uint8* Data;
 	const UStruct* DefaultsStruct;
 	uint8* Defaults;
-	const TArray<FUnknownProperty>* Unknown;
 	bool bDoDelta;
+	bool bHasGuids;
+	bool bIsObject;
+	/** Values of which the bytes of their file are kept. */
+	TMap<FElement, const FUnknownProperty*> Kept;
+	TMap<FName, const FUnknownProperty*> KeptByPrevious;
 	TSet<FElement> Written;
 };
 

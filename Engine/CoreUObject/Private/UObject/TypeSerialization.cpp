@@ -1,7 +1,10 @@
+#include "Templates/Casts.h"
 #include "UObject/Class.h"
 #include "UObject/CoreObjectVersion.h"
 #include "UObject/EditorObjectVersion.h"
 #include "UObject/FrameworkObjectVersion.h"
+#include "UObject/LinkerLoad.h"
+#include "UObject/LinkerSave.h"
 #include "UObject/MetaData.h"
 #include "UObject/ObjectRedirector.h"
 #include "UObject/ObjectVersion.h"
@@ -52,6 +55,51 @@ void SerializeReference(FArchive& Ar, PointerType& Reference)
 	}
 }
 
+/** The package that is being read; null for other archives. */
+FLinkerLoad* GetLoader(FArchive& Ar)
+{
+	return Ar.IsLoading() && Ar.IsPersistent() ? static_cast<FLinkerLoad*>(Ar.GetLinker()) : nullptr;
+}
+
+/** The package in whose form another is being written; null for other archives. */
+const FLinkerLoad* GetOrigin(FArchive& Ar)
+{
+	FLinker* const Linker = Ar.IsSaving() && Ar.IsPersistent() ? Ar.GetLinker() : nullptr;
+	return Linker ? static_cast<FLinkerSave*>(Linker)->GetOrigin() : nullptr;
+}
+
+/**
+ * A link from a field to the next or to its first child. In old packages links lead to properties too, which were objects then
+ * and are no fields here: the package keeps where they led.
+ */
+void SerializeFieldLink(FArchive& Ar, const UField* Owner, FName Member, TObjectPtr<UField>& Field)
+{
+	const FLinkerLoad* const Origin = GetOrigin(Ar);
+	UObject* const Kept = Origin ? Origin->FindKeptLink(Owner, Member) : nullptr;
+	UObject* Object = Kept ? Kept : static_cast<UObject*>(Field.Get());
+	if (Kept && Field)
+	{
+		// A list that goes on here and there cannot be written as one.
+		Ar.SetError();
+	}
+	Ar << Object;
+	if (!Ar.IsLoading())
+	{
+		return;
+	}
+	Field = Cast<UField>(Object);
+	if (FLinkerLoad* const Loader = Object && !Field ? GetLoader(Ar) : nullptr)
+	{
+		Loader->KeepLink(Owner, Member, Object);
+	}
+}
+
+/** Default objects have the word about a GUID as every object has, but in packages of the 4.x line. */
+bool HasGuidFlag(const FArchive& Ar, const UObject& Object)
+{
+	return !Object.HasAnyFlags(RF_ClassDefaultObject) || Ar.UEVer() >= EUnrealEngineObjectUE5Version::INITIAL_VERSION;
+}
+
 void SerializeIdentityForUndo(FArchive& Ar, UObject* Object, FName& Name, UObject*& Outer)
 {
 	Name = Object->GetFName();
@@ -98,7 +146,7 @@ void UObject::Serialize(FArchive& Ar)
 			bGarbage ? MarkAsGarbage() : ClearGarbage();
 		}
 	}
-	else if (Ar.IsPersistent() && !HasAnyFlags(RF_ClassDefaultObject) && (Ar.IsLoading() || Ar.IsSaving()))
+	else if (Ar.IsPersistent() && HasGuidFlag(Ar, *this) && (Ar.IsLoading() || Ar.IsSaving()))
 	{
 		FUniqueObjectGuid Guid(this);
 		bool bHasGuid = Guid.IsValid();
@@ -115,6 +163,12 @@ void UObject::SerializeScriptProperties(FArchive& Ar) const
 	Ar.MarkScriptSerializationStart(this);
 	UClass* const Class = GetClass();
 	UObject* const This = const_cast<UObject*>(this);
+	// Transient members of a class have defaults, which are saved as others are.
+	const bool bIsDefaultObject = HasAnyFlags(RF_ClassDefaultObject);
+	if (bIsDefaultObject)
+	{
+		Ar.StartSerializingDefaults();
+	}
 	if ((Ar.IsLoading() || Ar.IsSaving()) && !Ar.WantBinaryPropertySerialization())
 	{
 		UObject* const Defaults = GetArchetype();
@@ -125,6 +179,10 @@ void UObject::SerializeScriptProperties(FArchive& Ar) const
 	{
 		Class->SerializeBin(Ar, This);
 	}
+	if (bIsDefaultObject)
+	{
+		Ar.StopSerializingDefaults();
+	}
 	Ar.MarkScriptSerializationEnd(this);
 }
 
@@ -134,44 +192,74 @@ void UField::Serialize(FArchive& Ar)
 	Ar.UsingCustomVersion(FFrameworkObjectVersion::GUID);
 	if (Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
 	{
-		SerializeReference(Ar, Next);
+		SerializeFieldLink(Ar, this, TEXT("Next"), Next);
 	}
 }
 
 namespace
 {
+/** Under which a package keeps a child that is no field here. */
+FName GetChildName(int32 Index)
+{
+	return FName(TEXT("Children"), NAME_EXTERNAL_TO_INTERNAL(Index));
+}
+
+/** The struct's children, and in their places those that the package keeps. */
+TArray<UObject*> ListChildren(FArchive& Ar, const UStruct& Struct)
+{
+	const FLinkerLoad* const Origin = GetOrigin(Ar);
+	const auto FindKept = [Origin, &Struct](int32 Index)
+	{ return Origin ? Origin->FindKeptLink(&Struct, GetChildName(Index)) : nullptr; };
+	TArray<UObject*> Children;
+	for (UField* Child = Struct.Children; Child; Child = Child->Next)
+	{
+		while (UObject* const Kept = FindKept(Children.Num()))
+		{
+			Children.Add(Kept);
+		}
+		Children.Add(Child);
+	}
+	while (UObject* const Kept = FindKept(Children.Num()))
+	{
+		Children.Add(Kept);
+	}
+	return Children;
+}
+
 void SerializeChildren(FArchive& Ar, UStruct* Struct)
 {
 	if (Ar.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
 	{
-		SerializeReference(Ar, Struct->Children);
+		SerializeFieldLink(Ar, Struct, TEXT("Children"), Struct->Children);
 		return;
 	}
-	TArray<UField*> Children;
-	for (UField* Child = Struct->Children; Child; Child = Child->Next)
-	{
-		Children.Add(Child);
-	}
+	TArray<UObject*> Children = Ar.IsLoading() ? TArray<UObject*>() : ListChildren(Ar, *Struct);
 	int32 Count = Children.Num();
 	SerializeCount(Ar, Count, sizeof(int32));
 	Children.SetNumZeroed(Count);
-	for (UField*& Child : Children)
+	for (UObject*& Child : Children)
 	{
-		SerializeReference(Ar, Child);
+		Ar << Child;
 	}
-	if (Ar.IsLoading())
+	if (!Ar.IsLoading())
 	{
-		UField* Next = nullptr;
-		for (int32 Index = Children.Num() - 1; Index >= 0; --Index)
+		return;
+	}
+	FLinkerLoad* const Loader = GetLoader(Ar);
+	UField* Next = nullptr;
+	for (int32 Index = Children.Num() - 1; Index >= 0; --Index)
+	{
+		if (UField* const Field = Cast<UField>(Children[Index]))
 		{
-			if (Children[Index])
-			{
-				Children[Index]->Next = Next;
-				Next = Children[Index];
-			}
+			Field->Next = Next;
+			Next = Field;
 		}
-		Struct->Children = Next;
+		else if (Children[Index] && Loader)
+		{
+			Loader->KeepLink(Struct, GetChildName(Index), Children[Index]);
+		}
 	}
+	Struct->Children = Next;
 }
 
 void SerializeProperties(FArchive& Ar, UStruct* Struct)
@@ -230,7 +318,10 @@ void UStruct::Serialize(FArchive& Ar)
 	SerializeReference(Ar, Super);
 	if (Ar.IsLoading())
 	{
-		SetSuperStruct(Super && CanBeSuper(this, Super) ? Super : nullptr);
+		// Own members come behind the super's, so that must have its size.
+		Ar.Preload(Super);
+		const bool bIsWhole = Super && !FLinkerLoad::IsBeingRead(Super);
+		SetSuperStruct(bIsWhole && CanBeSuper(this, Super) ? Super : nullptr);
 	}
 	SerializeChildren(Ar, this);
 	const bool bHasProperties = !IsOldForm(Ar) || Ar.CustomVer(FCoreObjectVersion::GUID) >= FCoreObjectVersion::FProperties;

@@ -93,7 +93,7 @@ bool IsAtOrBelow(const FString& Path, const FString& Base)
 }
 }
 
-void FUnknownProperties::Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8>&& Value)
+void FUnknownProperties::Add(FArchive& Ar, FUnknownProperty&& Property)
 {
 	if (!IsPackageArchive(Ar))
 	{
@@ -109,7 +109,7 @@ void FUnknownProperties::Add(FArchive& Ar, const FPropertyTag& Tag, TArray<uint8
 		Kept.ByPath.Empty();
 		Kept.LinkerId = Linker.GetId();
 	}
-	Kept.ByPath.FindOrAdd(GetCurrentPath()).Add({Tag, MoveTemp(Value)});
+	Kept.ByPath.FindOrAdd(GetCurrentPath()).Add(MoveTemp(Property));
 	Linker.MarkKeptBytes();
 }
 
@@ -159,6 +159,38 @@ const TMap<FString, TArray<FUnknownProperty>>* FUnknownProperties::FindAll(const
 int32 FUnknownProperties::NumObjects()
 {
 	return GetStore().Num();
+}
+
+bool FUnknownProperties::HasNativeForm(const UObject* Object, FName Member)
+{
+	const TMap<FString, TArray<FUnknownProperty>>* const Kept = FindAll(Object);
+	if (!Kept)
+	{
+		return false;
+	}
+	const FString MemberPath = Member.ToString();
+	for (const TPair<FString, TArray<FUnknownProperty>>& Pair : *Kept)
+	{
+		const bool bIsWithin = IsAtOrBelow(Pair.Key, MemberPath);
+		const bool bHas = Pair.Value.ContainsByPredicate([&](const FUnknownProperty& Each)
+			{ return Each.bHasNativeForm && (bIsWithin || (Pair.Key.IsEmpty() && Each.Tag.Name == Member)); });
+		if (bHas)
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+FString FUnknownProperties::DescribeCurrent()
+{
+	if (GetStack().IsEmpty())
+	{
+		return FString();
+	}
+	const FString Path = GetCurrentPath();
+	const FString Object = GetStack().Last().Object->GetPathName();
+	return Path.IsEmpty() ? Object : Object + TEXT(".") + Path;
 }
 
 void FUnknownProperties::RemoveCurrent(FArchive& Ar)

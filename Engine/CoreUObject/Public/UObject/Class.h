@@ -119,6 +119,10 @@ public:
 	// Members
 	FProperty* FindPropertyByName(FName InName) const;
 	virtual FProperty* CustomFindProperty(const FName InName) const { return nullptr; }
+	/** Whether members have ids that outlive a rename: saved values then carry theirs, and go to the member that has it when they load. */
+	virtual bool ArePropertyGuidsAvailable() const { return false; }
+	virtual FName FindPropertyNameFromGuid(const FGuid& PropertyGuid) const { return NAME_None; }
+	virtual FGuid FindPropertyGuidFromName(const FName InName) const { return FGuid(); }
 	/** The direct child, functions and types and properties alike; null when there is none. */
 	UField* FindChild(FName InName) const;
 	FField* FindChildProperty(FName InName) const;

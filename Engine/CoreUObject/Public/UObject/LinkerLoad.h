@@ -14,6 +14,8 @@ enum class EPackageSection : uint8;
  */
 class COREUOBJECT_API FLinkerLoad : public FLinker, public FArchive
 {
+	using FLink = TPair<FWeakObjectPtr, FName>;
+
 public:
 	/** Reads the tables. Null with the reason when they cannot be read. Package may be null to inspect a file only. */
 	static TUniquePtr<FLinkerLoad> Create(const FString& Filename, UPackage* Package, FString& OutError);
@@ -30,6 +32,8 @@ public:
 	int32 FindExportIndex(const FString& PathName) const;
 	/** Reads an object that has been created. */
 	void Preload(UObject* Object) override;
+	/** Whether the object's bytes are being read at present, so that it is not yet what it will be. */
+	static bool IsBeingRead(const UObject* Object);
 
 	/** Each says what and at which offset. */
 	const TArray<FString>& GetErrors() const { return Errors; }
@@ -51,6 +55,10 @@ public:
 	const TArray<uint8>* FindUnreadTail(const UObject* Object) const { return UnreadTails.Find(FWeakObjectPtr(Object)); }
 	/** Whether an object's bytes must be written back as they are: its class is unknown, or reading them failed. */
 	bool MustKeepBytes(const UObject* Object) const { return OpaqueObjects.Contains(FWeakObjectPtr(Object)); }
+	/** A link of a list of fields to an object that is no field here, by the object that has it and the link's name. */
+	void KeepLink(const UObject* Owner, FName Member, UObject* Linked) { KeptLinks.Add(FLink(FWeakObjectPtr(Owner), Member), FWeakObjectPtr(Linked)); }
+	/** Null when there is none. */
+	UObject* FindKeptLink(const UObject* Owner, FName Member) const;
 	int32 FindExportOf(const UObject* Object) const;
 	/** The object that the file names as an export's outer; null when it is gone. */
 	UObject* FindOuterOf(int32 ExportIndex) const;
@@ -64,6 +72,14 @@ public:
 	/** Whether the object would be written as its bytes in the file tell. False before TakeFingerprints. */
 	bool IsUnchanged(int32 ExportIndex) const;
 	bool IsMetaDataUnchanged() const;
+	/** What the asset registry would have been told of the asset when the fingerprints were taken; empty for none. */
+	TMap<FName, FString> GetTagsAsLoaded(const UObject* Asset) const;
+
+	/**
+	 * Takes from the memory that objects and elements of this file may have in all: a few bytes of a file can ask for an element
+	 * of any size. False when it is spent.
+	 */
+	[[nodiscard]] bool SpendMemory(int64 Bytes);
 
 	// FArchive
 	FString GetArchiveName() const override { return Filename; }
@@ -91,6 +107,7 @@ private:
 	bool LoadSoftObjectPaths(FString& OutError);
 	bool LoadImportsAndExports(FString& OutError);
 	bool CheckExports(FString& OutError) const;
+	bool CheckValues(FString& OutError) const;
 	bool CheckEndOfFile(FString& OutError) const;
 	void LoadDependencies();
 	void LoadSoftPackageReferences();
@@ -120,6 +137,7 @@ private:
 	TSet<int32> ImportsInCreation;
 	TMap<FWeakObjectPtr, TArray<uint8>> UnreadTails;
 	TSet<FWeakObjectPtr> OpaqueObjects;
+	TMap<FLink, FWeakObjectPtr> KeptLinks;
 	TMap<uint8, int64> TableEnds;
 	/** Places of objects and paths in the export table, so that neither is looked for one by one. */
 	TMap<const UObject*, int32> ExportsByObject;
@@ -127,5 +145,7 @@ private:
 	/** By export; an object that is gone has none. */
 	TMap<int32, uint64> Fingerprints;
 	uint64 MetaDataFingerprint = 0;
+	TMap<FWeakObjectPtr, TMap<FName, FString>> TagsAsLoaded;
+	int64 MemoryLeft = 0;
 	bool bHasKeptBytes = false;
 };

@@ -37,6 +37,8 @@ public:
 	};
 	/** Those of the object that is being written, in their order there; none for an object that is new. */
 	TArrayView<const FTagOfOrigin> GetTagsOfOrigin(const void* Object) const;
+	/** Ends the writing: a value is not one that can be written, and the file must not be without it. The first reason stays. */
+	void Refuse(FString&& Reason);
 	/** Adds the object, its outers within the package, and (as they are written) what it refers to. */
 	FPackageIndex AddExport(UObject* Object);
 	/** Writes every export's value. False with the reason when a value cannot be written. */
@@ -94,7 +96,7 @@ private:
 	void CopyBytes(const FLinkerLoad& From, int64 Start, int64 End);
 	void CopyThumbnails(FLinkerLoad& From, int64 Start, int64 End);
 	void CopyAssetRegistryData(int64 Start, int64 End);
-	void WriteAssetTags(const UObject* Asset, TArray<TPair<FString, FString>>&& Kept);
+	void WriteAssetTags(const UObject* Asset, TArray<TPair<FString, FString>>&& InFile);
 	void CopyCarried(EPackageSection Section);
 	void ClearUnusedImports();
 	void MarkImportsIn(TArrayView<const uint8> Bytes);
@@ -117,4 +119,6 @@ private:
 	TMap<FSoftObjectPath, int32> SoftPathIndices;
 	int32 ExportInWork = INDEX_NONE;
 	TArray<FTagOfOrigin> TagsOfOrigin;
+	/** Why a value cannot be written. */
+	FString Refusal;
 };

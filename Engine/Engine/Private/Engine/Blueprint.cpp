@@ -299,30 +299,6 @@ void UBlueprint::Serialize(FArchive& Ar)
 	}
 }
 
-void UBlueprint::GetAssetRegistryTags(TArray<FAssetRegistryTag>& OutTags) const
-{
-	Super::GetAssetRegistryTags(OutTags);
-	const auto Add = [&OutTags](const TCHAR* Name, const FString& Value)
-	{ OutTags.Add(FAssetRegistryTag(FName(Name), Value, FAssetRegistryTag::TT_Alphabetical)); };
-	const auto AddClass = [&Add](const TCHAR* Name, const UClass* Class)
-	{ Add(Name, Class ? Class->GetClass()->GetPathName() + TEXT("'") + Class->GetPathName() + TEXT("'") : FString(TEXT("None"))); };
-	const UClass* Native = ParentClass;
-	while (Native && !Native->HasAnyClassFlags(CLASS_Native))
-	{
-		Native = Native->GetSuperClass();
-	}
-	Add(TEXT("BlueprintDescription"), BlueprintDescription);
-	Add(TEXT("BlueprintDisplayName"), BlueprintDisplayName);
-	Add(TEXT("BlueprintType"), StaticEnum<EBlueprintType>()->GetNameStringByValue(BlueprintType));
-	AddClass(TEXT("GeneratedClass"), GeneratedClass);
-	AddClass(TEXT("NativeParentClass"), Native);
-	AddClass(TEXT("ParentClass"), ParentClass);
-	if (GeneratedClass)
-	{
-		Add(TEXT("ClassFlags"), FString::Printf(TEXT("%u"), static_cast<uint32>(GeneratedClass->GetClassFlags())));
-	}
-}
-
 void UBlueprint::PostLoad()
 {
 	Super::PostLoad();

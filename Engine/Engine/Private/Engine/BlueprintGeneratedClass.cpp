@@ -11,6 +11,18 @@ UBlueprintGeneratedClass::UBlueprintGeneratedClass(const FObjectInitializer& Obj
 {
 }
 
+bool UBlueprintGeneratedClass::ArePropertyGuidsAvailable() const
+{
+	for (const UBlueprintGeneratedClass* Class = this; Class; Class = Cast<UBlueprintGeneratedClass>(Class->GetSuperClass()))
+	{
+		if (!Class->PropertyGuids.IsEmpty())
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
 FName UBlueprintGeneratedClass::FindPropertyNameFromGuid(const FGuid& PropertyGuid) const
 {
 	for (const UBlueprintGeneratedClass* Class = this; Class; Class = Cast<UBlueprintGeneratedClass>(Class->GetSuperClass()))

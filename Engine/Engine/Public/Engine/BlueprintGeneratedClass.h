@@ -47,12 +47,19 @@ public:
 	UPROPERTY()
 	TMap<FName, FGuid> PropertyGuids;
 
-	FName FindPropertyNameFromGuid(const FGuid& PropertyGuid) const;
-	FGuid FindPropertyGuidFromName(const FName InName) const;
 	UActorComponent* FindComponentTemplateByName(const FName& TemplateName) const;
 	UTimelineTemplate* FindTimelineTemplateByVariableName(const FName& TimelineName) const;
 	/** The nearest parent whose class a Blueprint made, and so on up; answers whether none of them has errors. */
 	static bool GetGeneratedClassesHierarchy(const UClass* InClass, TArray<const UBlueprintGeneratedClass*>& OutBPGClasses);
+
+	// UObject
+	virtual void GetAssetRegistryTags(TArray<FAssetRegistryTag>& OutTags) const override;
+	using UObject::GetAssetRegistryTags;
+
+	// UStruct
+	virtual bool ArePropertyGuidsAvailable() const override;
+	virtual FName FindPropertyNameFromGuid(const FGuid& PropertyGuid) const override;
+	virtual FGuid FindPropertyGuidFromName(const FName InName) const override;
 
 	// UClass
 	/** The class of the last compile: of a skeleton class too. */
