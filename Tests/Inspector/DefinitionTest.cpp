@@ -11,21 +11,6 @@
 namespace
 {
 using UECodeGen_Private::EPropertyGenKind;
-using FObjects = std::vector<TSharedPtr<FJsonObject>>;
-
-FObjects GetObjects(const FJsonObject& Owner, const TCHAR* List)
-{
-	FObjects Objects;
-	const TArray<TSharedPtr<FJsonValue>>* Values = nullptr;
-	if (Owner.TryGetArrayField(List, Values))
-	{
-		for (const TSharedPtr<FJsonValue>& Value : *Values)
-		{
-			Objects.push_back(Value->AsObject());
-		}
-	}
-	return Objects;
-}
 
 class FDefinitionTest : public FInspectorTest
 {

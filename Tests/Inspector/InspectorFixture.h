@@ -14,6 +14,22 @@
 #include <vector>
 
 using FBytes = std::vector<uint8>;
+using FObjects = std::vector<TSharedPtr<FJsonObject>>;
+
+/** The objects of a list; none where there is no such list. */
+inline FObjects GetObjects(const FJsonObject& Owner, const TCHAR* List)
+{
+	FObjects Objects;
+	const TArray<TSharedPtr<FJsonValue>>* Values = nullptr;
+	if (Owner.TryGetArrayField(List, Values))
+	{
+		for (const TSharedPtr<FJsonValue>& Value : *Values)
+		{
+			Objects.push_back(Value->AsObject());
+		}
+	}
+	return Objects;
+}
 
 inline std::filesystem::path GetSamples()
 {

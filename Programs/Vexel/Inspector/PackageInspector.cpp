@@ -2,10 +2,10 @@
 
 #include "Dom/JsonObject.h"
 #include "Dom/JsonValue.h"
-#include "StructLayouts.h"
+#include "NativeDataReader.h"
+#include "PackageValues.h"
 #include "TaggedValueReader.h"
 #include "TypeDefinitionReader.h"
-#include "UObject/LinkerLoad.h"
 #include "UObject/PackageSections.h"
 
 namespace
@@ -54,6 +54,7 @@ class FInspection
 public:
 	FInspection(FLinkerLoad& InLinker, FJsonObject& InDocument, TArray<FString>& InErrors)
 		: Linker(InLinker)
+		, Values(InLinker)
 		, Document(InDocument)
 		, Errors(InErrors)
 	{
@@ -115,7 +116,7 @@ private:
 		int32 Index = 0;
 		Document.SetArrayField(TEXT("imports"), MapObjects(Linker.ImportMap, [this, &Index](FJsonObject& Object, const FObjectImport& Import)
 													{
-			Object.SetStringField(TEXT("path"), Linker.GetImportPathName(Index));
+			Object.SetStringField(TEXT("path"), Values.GetPath(FPackageIndex::FromImport(Index)));
 			Object.SetStringField(TEXT("class"), Linker.GetImportClassPath(Index).ToString());
 			if (!Import.PackageName.IsNone())
 			{
@@ -133,16 +134,16 @@ private:
 		AddList(Document, TEXT("preload_dependencies"), MakePaths(Linker.PreloadDependencies));
 	}
 
-	FValues MakePaths(const TArray<FPackageIndex>& Indices) const
+	FValues MakePaths(const TArray<FPackageIndex>& Indices)
 	{
 		return Map(Indices, [this](FPackageIndex Index)
-			{ return MakeText(Linker.GetPathName(Index)); });
+			{ return MakeText(Values.GetPath(Index)); });
 	}
 
 	void AddExports()
 	{
 		FValues Exports;
-		FTaggedValueReader Reader(Linker);
+		FTaggedValueReader Reader(Values);
 		for (int32 Index = 0; Index < Linker.ExportMap.Num(); ++Index)
 		{
 			Exports.Add(MakeShared<FJsonValueObject>(MakeExport(Index, Reader)));
@@ -154,15 +155,15 @@ private:
 	{
 		const FObjectExport& Entry = Linker.ExportMap[Index];
 		const TSharedRef<FJsonObject> Export = MakeShared<FJsonObject>();
-		Export->SetStringField(TEXT("path"), Linker.GetExportPathName(Index));
+		Export->SetStringField(TEXT("path"), Values.GetPath(FPackageIndex::FromExport(Index)));
 		Export->SetStringField(TEXT("class"), Linker.GetExportClassPath(Index).ToString());
 		if (!Entry.SuperIndex.IsNull())
 		{
-			Export->SetStringField(TEXT("super"), Linker.GetPathName(Entry.SuperIndex));
+			Export->SetStringField(TEXT("super"), Values.GetPath(Entry.SuperIndex));
 		}
 		if (!Entry.TemplateIndex.IsNull())
 		{
-			Export->SetStringField(TEXT("template"), Linker.GetPathName(Entry.TemplateIndex));
+			Export->SetStringField(TEXT("template"), Values.GetPath(Entry.TemplateIndex));
 		}
 		Export->SetNumberField(TEXT("offset"), double(Entry.SerialOffset));
 		Export->SetNumberField(TEXT("size"), double(Entry.SerialSize));
@@ -199,22 +200,51 @@ private:
 			AddDamage(TEXT("properties"), Index, Reached);
 		}
 		Export.SetArrayField(TEXT("properties"), MoveTemp(Properties));
-		if (bRead && IsDefinition(Index))
+		if (bRead)
 		{
-			AddDefinition(Index, Export, End, Reached);
+			AddNativeData(Index, Export, Reader, End, Reached);
 		}
 		Export.SetNumberField(TEXT("native_size"), double(End - Reached));
 	}
 
-	bool IsDefinition(int32 Index) const
+	/** What the object's class has behind the properties. Reached goes on to where that ends. */
+	void AddNativeData(int32 Index, FJsonObject& Export, FTaggedValueReader& Reader, int64 End, int64& Reached)
 	{
-		return FTypeDefinitionReader::IsDefinition(Linker.GetExportClassName(Index)) && Linker.GetExportClassPath(Index).GetPackageName().ToString().StartsWith(TEXT("/Script/"));
+		AddObjectGuid(Index, Export, End, Reached);
+		if (!Linker.GetExportClassPath(Index).GetPackageName().ToString().StartsWith(TEXT("/Script/")))
+		{
+			return;
+		}
+		if (FTypeDefinitionReader::IsDefinition(Linker.GetExportClassName(Index)))
+		{
+			AddDefinition(Index, Export, End, Reached);
+		}
+		else if (!FNativeDataReader(Values, Reader).Read(Index, Reached, End, Export, Reached))
+		{
+			AddDamage(TEXT("native data"), Index, Reached);
+		}
+	}
+
+	/** Every object says whether it has a GUID; but default objects in packages of the 4.x line say nothing. */
+	void AddObjectGuid(int32 Index, FJsonObject& Export, int64 End, int64& Reached)
+	{
+		const bool bIsDefaultObject = (Linker.ExportMap[Index].ObjectFlags & RF_ClassDefaultObject) != 0;
+		if (bIsDefaultObject && Linker.UEVer() < EUnrealEngineObjectUE5Version::INITIAL_VERSION)
+		{
+			return;
+		}
+		const FReadLimit Reads(Linker, Reached, End);
+		if (Values.Read<bool>())
+		{
+			Export.SetStringField(TEXT("guid"), Values.Read<FGuid>().ToString());
+		}
+		Reached = Linker.IsError() ? Reached : Linker.Tell();
 	}
 
 	void AddDefinition(int32 Index, FJsonObject& Export, int64 End, int64& Reached)
 	{
 		const TSharedRef<FJsonObject> Definition = MakeShared<FJsonObject>();
-		if (!FTypeDefinitionReader(Linker).Read(Linker.GetExportClassName(Index), Reached, End, *Definition, Reached))
+		if (!FTypeDefinitionReader(Values).Read(Linker.GetExportClassName(Index), Reached, End, *Definition, Reached))
 		{
 			AddDamage(TEXT("members"), Index, Reached);
 		}
@@ -233,13 +263,9 @@ private:
 		{
 			return;
 		}
-		const int64 OldLimit = Linker.LimitReads(End);
-		FString Info;
-		Linker.Seek(Start);
-		static_cast<FArchive&>(Linker) << Info;
+		const FReadLimit Reads(Linker, Start, End);
+		Values.Read<FString>();
 		Start = Linker.IsError() ? Start : Linker.Tell();
-		Linker.ClearError();
-		Linker.LimitReads(OldLimit);
 	}
 
 	/** The flags before an object's properties. */
@@ -302,24 +328,24 @@ private:
 		Note(FPackageSections::ReadSearchableNames(Linker, Names, Error));
 		AddList(Document, TEXT("searchable_names"), MapObjects(Names, [this](FJsonObject& Object, const TPair<FPackageIndex, TArray<FName>>& Entry)
 														{
-			Object.SetStringField(TEXT("object"), Linker.GetPathName(Entry.Key));
+			Object.SetStringField(TEXT("object"), Values.GetPath(Entry.Key));
 			Object.SetArrayField(TEXT("names"), Map(Entry.Value, [](const FName& Name)
 				{ return MakeText(Name.ToString()); })); }));
 	}
 
 	void AddMetaData()
 	{
-		TArray<TPair<FString, TMap<FName, FString>>> MetaData;
+		TArray<TPair<FPackageIndex, TMap<FName, FString>>> MetaData;
 		Note(FPackageSections::ReadMetaData(Linker, MetaData, Error));
-		AddList(Document, TEXT("metadata"), MapObjects(MetaData, [](FJsonObject& Object, const TPair<FString, TMap<FName, FString>>& Entry)
+		AddList(Document, TEXT("metadata"), MapObjects(MetaData, [this](FJsonObject& Object, const TPair<FPackageIndex, TMap<FName, FString>>& Entry)
 												{
-			Object.SetStringField(TEXT("object"), Entry.Key);
-			const TSharedRef<FJsonObject> Values = MakeShared<FJsonObject>();
+			Object.SetStringField(TEXT("object"), Entry.Key.IsNull() ? FString() : Values.GetPath(Entry.Key));
+			const TSharedRef<FJsonObject> OfObject = MakeShared<FJsonObject>();
 			for (const TPair<FName, FString>& Value : Entry.Value)
 			{
-				Values->SetStringField(Value.Key.ToString(), Value.Value);
+				OfObject->SetStringField(Value.Key.ToString(), Value.Value);
 			}
-			Object.SetObjectField(TEXT("values"), Values); }));
+			Object.SetObjectField(TEXT("values"), OfObject); }));
 	}
 
 	void AddBulkData()
@@ -328,7 +354,7 @@ private:
 		Note(FPackageSections::ReadDataResources(Linker, Resources, Error));
 		AddList(Document, TEXT("data_resources"), MapObjects(Resources, [this](FJsonObject& Object, const FPackageDataResource& Resource)
 													  {
-			Object.SetStringField(TEXT("owner"), Linker.GetPathName(Resource.Outer));
+			Object.SetStringField(TEXT("owner"), Values.GetPath(Resource.Outer));
 			Object.SetNumberField(TEXT("offset"), double(Resource.SerialOffset));
 			Object.SetNumberField(TEXT("size"), double(Resource.SerialSize));
 			Object.SetNumberField(TEXT("raw_size"), double(Resource.RawSize));
@@ -363,6 +389,7 @@ private:
 	}
 
 	FLinkerLoad& Linker;
+	FPackageValues Values;
 	FJsonObject& Document;
 	TArray<FString>& Errors;
 	FString Error;

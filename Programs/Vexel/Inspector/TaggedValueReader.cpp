@@ -2,13 +2,11 @@
 
 #include "Dom/JsonObject.h"
 #include "Dom/JsonValue.h"
+#include "GraphPinReader.h"
 #include "Misc/Base64.h"
+#include "PackageValues.h"
 #include "StructLayouts.h"
-#include "UObject/BlueprintsObjectVersion.h"
-#include "UObject/FrameworkObjectVersion.h"
-#include "UObject/LinkerLoad.h"
 #include "UObject/ReleaseObjectVersion.h"
-#include "UObject/UE5ReleaseStreamObjectVersion.h"
 
 namespace
 {
@@ -16,62 +14,45 @@ constexpr int32 MaxDepth = 48;
 /** A value takes some hundred bytes as JSON and may take one in the file, so their number is bounded apart from the file's size. */
 constexpr int64 MaxValuesOfAnyFile = 1'000'000;
 constexpr int64 MaxValuesOfSmallFile = 10'000;
-/** A name or a path may be long and takes a few bytes in the file, so its text counts as more values. */
-constexpr int32 CharactersOfAValue = 64;
 /** More elements than this are told by their bytes. */
 constexpr int32 MaxElements = 10'000;
 constexpr int64 NameBytes = 8;
-
-template <typename Type>
-Type ReadPlain(FLinkerLoad& Linker)
-{
-	Type Value{};
-	static_cast<FArchive&>(Linker) << Value;
-	return Value;
-}
-
-FString ReadName(FLinkerLoad& Linker)
-{
-	FName Name;
-	Linker << Name;
-	return Name.ToString();
-}
 
 TSharedPtr<FJsonValue> MakeText(const FString& Text)
 {
 	return MakeShared<FJsonValueString>(Text);
 }
 
-using FSimpleReader = TSharedPtr<FJsonValue> (*)(FLinkerLoad&);
+using FSimpleReader = TSharedPtr<FJsonValue> (*)(FPackageValues&);
 
 /** The kinds whose values stand by themselves. */
 const TMap<FName, FSimpleReader>& GetSimpleReaders()
 {
 	static const TMap<FName, FSimpleReader> Readers = {
-		{TEXT("BoolProperty"), [](FLinkerLoad& Linker) -> TSharedPtr<FJsonValue>
-			{ return MakeShared<FJsonValueBoolean>(ReadPlain<uint8>(Linker) != 0); }},
-		{TEXT("Int8Property"), [](FLinkerLoad& Linker)
-			{ return MakeJsonInteger(ReadPlain<int8>(Linker)); }},
-		{TEXT("Int16Property"), [](FLinkerLoad& Linker)
-			{ return MakeJsonInteger(ReadPlain<int16>(Linker)); }},
-		{TEXT("IntProperty"), [](FLinkerLoad& Linker)
-			{ return MakeJsonInteger(ReadPlain<int32>(Linker)); }},
-		{TEXT("Int64Property"), [](FLinkerLoad& Linker)
-			{ return MakeJsonInteger(ReadPlain<int64>(Linker)); }},
-		{TEXT("UInt16Property"), [](FLinkerLoad& Linker)
-			{ return MakeJsonInteger(ReadPlain<uint16>(Linker)); }},
-		{TEXT("UInt32Property"), [](FLinkerLoad& Linker)
-			{ return MakeJsonInteger(ReadPlain<uint32>(Linker)); }},
-		{TEXT("UInt64Property"), [](FLinkerLoad& Linker)
-			{ return MakeText(FString::Printf(TEXT("%llu"), static_cast<unsigned long long>(ReadPlain<uint64>(Linker)))); }},
-		{TEXT("FloatProperty"), [](FLinkerLoad& Linker)
-			{ return MakeJsonNumber(ReadPlain<float>(Linker)); }},
-		{TEXT("DoubleProperty"), [](FLinkerLoad& Linker)
-			{ return MakeJsonNumber(ReadPlain<double>(Linker)); }},
-		{TEXT("StrProperty"), [](FLinkerLoad& Linker)
-			{ return MakeText(ReadPlain<FString>(Linker)); }},
-		{TEXT("LazyObjectProperty"), [](FLinkerLoad& Linker)
-			{ return MakeText(ReadPlain<FGuid>(Linker).ToString()); }}};
+		{TEXT("BoolProperty"), [](FPackageValues& Values) -> TSharedPtr<FJsonValue>
+			{ return MakeShared<FJsonValueBoolean>(Values.Read<uint8>() != 0); }},
+		{TEXT("Int8Property"), [](FPackageValues& Values)
+			{ return MakeJsonInteger(Values.Read<int8>()); }},
+		{TEXT("Int16Property"), [](FPackageValues& Values)
+			{ return MakeJsonInteger(Values.Read<int16>()); }},
+		{TEXT("IntProperty"), [](FPackageValues& Values)
+			{ return MakeJsonInteger(Values.Read<int32>()); }},
+		{TEXT("Int64Property"), [](FPackageValues& Values)
+			{ return MakeJsonInteger(Values.Read<int64>()); }},
+		{TEXT("UInt16Property"), [](FPackageValues& Values)
+			{ return MakeJsonInteger(Values.Read<uint16>()); }},
+		{TEXT("UInt32Property"), [](FPackageValues& Values)
+			{ return MakeJsonInteger(Values.Read<uint32>()); }},
+		{TEXT("UInt64Property"), [](FPackageValues& Values)
+			{ return MakeText(FString::Printf(TEXT("%llu"), static_cast<unsigned long long>(Values.Read<uint64>()))); }},
+		{TEXT("FloatProperty"), [](FPackageValues& Values)
+			{ return MakeJsonNumber(Values.Read<float>()); }},
+		{TEXT("DoubleProperty"), [](FPackageValues& Values)
+			{ return MakeJsonNumber(Values.Read<double>()); }},
+		{TEXT("StrProperty"), [](FPackageValues& Values)
+			{ return MakeText(Values.Read<FString>()); }},
+		{TEXT("LazyObjectProperty"), [](FPackageValues& Values)
+			{ return MakeText(Values.Read<FGuid>().ToString()); }}};
 	return Readers;
 }
 
@@ -80,35 +61,13 @@ bool IsSoftPathStruct(FName Struct)
 	static const TArray<FName> Structs = {TEXT("SoftObjectPath"), TEXT("SoftClassPath"), TEXT("StringAssetReference"), TEXT("StringClassReference")};
 	return Structs.Contains(Struct);
 }
-
-FString ReadSoftPath(FLinkerLoad& Linker)
-{
-	FSoftObjectPath Path;
-	Linker << Path;
-	return Path.ToString();
-}
 }
 
-FTaggedValueReader::FTaggedValueReader(FLinkerLoad& InLinker)
-	: Linker(InLinker)
-	, MaxValues(FMath::Clamp(InLinker.GetFileSize(), MaxValuesOfSmallFile, MaxValuesOfAnyFile))
+FTaggedValueReader::FTaggedValueReader(FPackageValues& InValues)
+	: Values(InValues)
+	, Linker(InValues.GetLinker())
+	, MaxValues(FMath::Clamp(Linker.GetFileSize(), MaxValuesOfSmallFile, MaxValuesOfAnyFile))
 {
-}
-
-FTaggedValueReader::FValue FTaggedValueReader::MakeCountedText(const FString& Text)
-{
-	NumValues += Text.Len() / CharactersOfAValue;
-	return MakeText(Text);
-}
-
-bool FTaggedValueReader::ReadCount(int32& OutCount)
-{
-	OutCount = ReadPlain<int32>(Linker);
-	if (!Linker.IsError() && OutCount < 0)
-	{
-		Linker.SetError();
-	}
-	return !Linker.IsError() && Linker.CanHold(OutCount);
 }
 
 FTaggedValueReader::FValue FTaggedValueReader::MakeBytes(int64 Start, int64 Size) const
@@ -123,132 +82,18 @@ FTaggedValueReader::FValue FTaggedValueReader::MakeBytes(int64 Start, int64 Size
 	return MakeShared<FJsonValueObject>(Object);
 }
 
-FTaggedValueReader::FValue FTaggedValueReader::ReadObject()
-{
-	const FPackageIndex Index = FPackageIndex::FromRaw(ReadPlain<int32>(Linker));
-	if (Index.IsNull())
-	{
-		return MakeShared<FJsonValueNull>();
-	}
-	if (!Linker.FindResource(Index))
-	{
-		Linker.SetError();
-		return nullptr;
-	}
-	return MakeCountedText(Linker.GetPathName(Index));
-}
-
-FTaggedValueReader::FValue FTaggedValueReader::ReadText()
-{
-	FText Text;
-	static_cast<FArchive&>(Linker) << Text;
-	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	Object->SetStringField(TEXT("text"), Text.ToString());
-	const TOptional<FString> Namespace = FTextInspector::GetNamespace(Text);
-	const TOptional<FString> Key = FTextInspector::GetKey(Text);
-	if (Key)
-	{
-		Object->SetStringField(TEXT("namespace"), Namespace ? *Namespace : FString());
-		Object->SetStringField(TEXT("key"), *Key);
-	}
-	return MakeShared<FJsonValueObject>(Object);
-}
-
 FTaggedValueReader::FValue FTaggedValueReader::ReadDelegate()
 {
 	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	const FValue Target = ReadObject();
-	Object->SetField(TEXT("object"), Target ? Target : MakeShared<FJsonValueNull>());
-	Object->SetStringField(TEXT("function"), ReadName(Linker));
+	Object->SetField(TEXT("object"), Values.ReadReference());
+	Object->SetStringField(TEXT("function"), Values.ReadName());
 	return MakeShared<FJsonValueObject>(Object);
 }
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadByte(const FPropertyTypeName& Type, int64 Size)
 {
 	const bool bHasEnum = !Type.GetParameterName(0).IsNone() || Size == NameBytes;
-	return bHasEnum && Size != 1 ? MakeText(ReadName(Linker)) : MakeJsonInteger(ReadPlain<uint8>(Linker));
-}
-
-FTaggedValueReader::FValue FTaggedValueReader::ReadOldName()
-{
-	if (Linker.CustomVer(FFrameworkObjectVersion::GUID) >= FFrameworkObjectVersion::PinsStoreFName)
-	{
-		return MakeText(ReadName(Linker));
-	}
-	return MakeText(ReadPlain<FString>(Linker));
-}
-
-FTaggedValueReader::FValue FTaggedValueReader::ReadTerminalType()
-{
-	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	Object->SetField(TEXT("TerminalCategory"), ReadOldName());
-	Object->SetField(TEXT("TerminalSubCategory"), ReadOldName());
-	Object->SetField(TEXT("TerminalSubCategoryObject"), ReadObject());
-	Object->SetBoolField(TEXT("bTerminalIsConst"), ReadPlain<bool>(Linker));
-	Object->SetBoolField(TEXT("bTerminalIsWeakPointer"), ReadPlain<bool>(Linker));
-	if (Linker.CustomVer(FReleaseObjectVersion::GUID) >= FReleaseObjectVersion::PinTypeIncludesUObjectWrapperFlag)
-	{
-		Object->SetBoolField(TEXT("bTerminalIsUObjectWrapper"), ReadPlain<bool>(Linker));
-	}
-	return MakeShared<FJsonValueObject>(Object);
-}
-
-FTaggedValueReader::FValue FTaggedValueReader::ReadPinType()
-{
-	const TCHAR* const Containers[] = {TEXT("None"), TEXT("Array"), TEXT("Set"), TEXT("Map")};
-	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	Object->SetField(TEXT("PinCategory"), ReadOldName());
-	Object->SetField(TEXT("PinSubCategory"), ReadOldName());
-	Object->SetField(TEXT("PinSubCategoryObject"), ReadObject());
-	uint8 Container = 0;
-	if (Linker.CustomVer(FFrameworkObjectVersion::GUID) >= FFrameworkObjectVersion::EdGraphPinContainerType)
-	{
-		Container = ReadPlain<uint8>(Linker);
-		if (Container == 3)
-		{
-			Object->SetField(TEXT("PinValueType"), ReadTerminalType());
-		}
-	}
-	else
-	{
-		bool bIsMap = false;
-		bool bIsSet = false;
-		if (Linker.CustomVer(FBlueprintsObjectVersion::GUID) >= FBlueprintsObjectVersion::AdvancedContainerSupport)
-		{
-			bIsMap = ReadPlain<bool>(Linker);
-			if (bIsMap)
-			{
-				Object->SetField(TEXT("PinValueType"), ReadTerminalType());
-			}
-			bIsSet = ReadPlain<bool>(Linker);
-		}
-		const bool bIsArray = ReadPlain<bool>(Linker);
-		Container = bIsMap ? 3 : bIsSet ? 2
-			: bIsArray                  ? 1
-										: 0;
-	}
-	Object->SetStringField(TEXT("ContainerType"), Containers[FMath::Min<uint8>(Container, 3)]);
-	Object->SetBoolField(TEXT("bIsReference"), ReadPlain<bool>(Linker));
-	Object->SetBoolField(TEXT("bIsWeakPointer"), ReadPlain<bool>(Linker));
-	if (Linker.UE4Ver() >= VER_UE4_MEMBERREFERENCE_IN_PINTYPE)
-	{
-		Object->SetField(TEXT("MemberParent"), ReadObject());
-		Object->SetStringField(TEXT("MemberName"), ReadName(Linker));
-		Object->SetStringField(TEXT("MemberGuid"), ReadPlain<FGuid>(Linker).ToString());
-	}
-	if (Linker.UE4Ver() >= VER_UE4_SERIALIZE_PINTYPE_CONST)
-	{
-		Object->SetBoolField(TEXT("bIsConst"), ReadPlain<bool>(Linker));
-	}
-	if (Linker.CustomVer(FReleaseObjectVersion::GUID) >= FReleaseObjectVersion::PinTypeIncludesUObjectWrapperFlag)
-	{
-		Object->SetBoolField(TEXT("bIsUObjectWrapper"), ReadPlain<bool>(Linker));
-	}
-	if (Linker.CustomVer(FUE5ReleaseStreamObjectVersion::GUID) >= FUE5ReleaseStreamObjectVersion::SerializeFloatPinDefaultValuesAsSinglePrecision)
-	{
-		Object->SetBoolField(TEXT("bSerializeAsSinglePrecisionFloat"), ReadPlain<bool>(Linker));
-	}
-	return MakeShared<FJsonValueObject>(Object);
+	return bHasEnum && Size != 1 ? MakeText(Values.ReadName()) : MakeJsonInteger(Values.Read<uint8>());
 }
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadTaggedStruct()
@@ -275,19 +120,19 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadStruct(FName StructName, int6
 	static const FName TagContainerName(TEXT("GameplayTagContainer"));
 	if (StructName == GuidName)
 	{
-		return MakeText(ReadPlain<FGuid>(Linker).ToString());
+		return MakeText(Values.Read<FGuid>().ToString());
 	}
 	if (IsSoftPathStruct(StructName))
 	{
-		return MakeCountedText(ReadSoftPath(Linker));
+		return MakeText(Values.ReadSoftPath());
 	}
 	if (StructName == PinTypeName)
 	{
-		return ReadPinType();
+		return FGraphPinReader(Values).ReadPinType();
 	}
 	if (StructName == TagContainerName)
 	{
-		return ReadElements(FPropertyTypeName(TEXT("NameProperty")), ReadPlain<int32>(Linker), -1);
+		return ReadElements(FPropertyTypeName(TEXT("NameProperty")), Values.Read<int32>(), -1);
 	}
 	if (StructLayouts::Has(StructName))
 	{
@@ -318,8 +163,8 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadElements(const FPropertyTypeN
 FTaggedValueReader::FValue FTaggedValueReader::ReadArray(const FPropertyTypeName& Type, int64 Size)
 {
 	const int64 Start = Linker.Tell();
-	int32 Count = 0;
-	if (!ReadCount(Count))
+	const int32 Count = Values.ReadCount();
+	if (Linker.IsError())
 	{
 		return nullptr;
 	}
@@ -346,13 +191,8 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadArray(const FPropertyTypeName
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadSet(const FPropertyTypeName& Type)
 {
-	int32 NumRemoved = 0;
-	int32 Count = 0;
-	if (!ReadCount(NumRemoved) || !ReadElements(Type.GetParameter(0), NumRemoved, -1) || !ReadCount(Count))
-	{
-		return nullptr;
-	}
-	return ReadElements(Type.GetParameter(0), Count, -1);
+	const FPropertyTypeName Element = Type.GetParameter(0);
+	return ReadElements(Element, Values.ReadCount(), -1) ? ReadElements(Element, Values.ReadCount(), -1) : nullptr;
 }
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadMap(const FPropertyTypeName& Type, int64 Size)
@@ -377,9 +217,9 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadMap(const FPropertyTypeName& 
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadPairs(const FPropertyTypeName& KeyType, const FPropertyTypeName& ValueType)
 {
-	int32 NumRemoved = 0;
-	int32 Count = 0;
-	if (!ReadCount(NumRemoved) || !ReadElements(KeyType, NumRemoved, -1) || !ReadCount(Count) || Count > MaxElements)
+	const FValue Removed = ReadElements(KeyType, Values.ReadCount(), -1);
+	const int32 Count = Removed ? Values.ReadCount() : 0;
+	if (!Removed || Linker.IsError() || Count > MaxElements)
 	{
 		return nullptr;
 	}
@@ -402,16 +242,15 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadPairs(const FPropertyTypeName
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadFieldPath()
 {
-	const FValue Path = ReadElements(FPropertyTypeName(TEXT("NameProperty")), ReadPlain<int32>(Linker), -1);
+	const FValue Path = ReadElements(FPropertyTypeName(TEXT("NameProperty")), Values.Read<int32>(), -1);
 	const bool bHasOwner = Linker.CustomVer(FReleaseObjectVersion::GUID) >= FReleaseObjectVersion::FFieldPathOwnerSerialization;
-	return !Path || !bHasOwner || ReadObject() ? Path : nullptr;
+	return !Path || !bHasOwner || Values.ReadReference() ? Path : nullptr;
 }
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadMulticastDelegate()
 {
-	int32 Count = 0;
 	TArray<TSharedPtr<FJsonValue>> Delegates;
-	for (ReadCount(Count); Delegates.Num() < Count && !Linker.IsError();)
+	for (int32 Left = Values.ReadCount(); Left > 0 && !Linker.IsError(); --Left)
 	{
 		Delegates.Add(ReadDelegate());
 	}
@@ -420,7 +259,7 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadMulticastDelegate()
 
 FTaggedValueReader::FValue FTaggedValueReader::ReadOptional(const FPropertyTypeName& Type)
 {
-	const bool bIsSet = ReadPlain<bool>(Linker);
+	const bool bIsSet = Values.Read<bool>();
 	return bIsSet ? Read(Type.GetParameter(0), -1) : FValue(MakeShared<FJsonValueNull>());
 }
 
@@ -435,7 +274,7 @@ const TMap<FName, FTaggedValueReader::FKindReader>& FTaggedValueReader::GetKindR
 			{TEXT("ByteProperty"), [](FTaggedValueReader& Self, const FType& Type, int64 Size)
 				{ return Self.ReadByte(Type, Size); }},
 			{TEXT("TextProperty"), [](FTaggedValueReader& Self, const FType&, int64)
-				{ return Self.ReadText(); }},
+				{ return Self.Values.ReadText(); }},
 			{TEXT("ArrayProperty"), [](FTaggedValueReader& Self, const FType& Type, int64 Size)
 				{ return Self.ReadArray(Type, Size); }},
 			{TEXT("SetProperty"), [](FTaggedValueReader& Self, const FType& Type, int64)
@@ -447,20 +286,20 @@ const TMap<FName, FTaggedValueReader::FKindReader>& FTaggedValueReader::GetKindR
 			{TEXT("DelegateProperty"), [](FTaggedValueReader& Self, const FType&, int64)
 				{ return Self.ReadDelegate(); }},
 			{TEXT("NameProperty"), [](FTaggedValueReader& Self, const FType&, int64)
-				{ return Self.MakeCountedText(ReadName(Self.Linker)); }},
+				{ return MakeText(Self.Values.ReadName()); }},
 			{TEXT("EnumProperty"), [](FTaggedValueReader& Self, const FType&, int64)
-				{ return Self.MakeCountedText(ReadName(Self.Linker)); }},
+				{ return MakeText(Self.Values.ReadName()); }},
 			{TEXT("FieldPathProperty"), [](FTaggedValueReader& Self, const FType&, int64)
 				{ return Self.ReadFieldPath(); }}};
 		for (const TCHAR* const Kind : {TEXT("ObjectProperty"), TEXT("ClassProperty"), TEXT("WeakObjectProperty"), TEXT("InterfaceProperty"), TEXT("ObjectPtrProperty"), TEXT("ClassPtrProperty")})
 		{
 			Result.Add(FName(Kind), [](FTaggedValueReader& Self, const FType&, int64)
-				{ return Self.ReadObject(); });
+				{ return Self.Values.ReadReference(); });
 		}
 		for (const TCHAR* const Kind : {TEXT("SoftObjectProperty"), TEXT("SoftClassProperty"), TEXT("AssetObjectProperty"), TEXT("AssetClassProperty")})
 		{
 			Result.Add(FName(Kind), [](FTaggedValueReader& Self, const FType&, int64)
-				{ return Self.MakeCountedText(ReadSoftPath(Self.Linker)); });
+				{ return MakeText(Self.Values.ReadSoftPath()); });
 		}
 		for (const TCHAR* const Kind : {TEXT("MulticastDelegateProperty"), TEXT("MulticastInlineDelegateProperty"), TEXT("MulticastSparseDelegateProperty")})
 		{
@@ -481,7 +320,7 @@ FTaggedValueReader::FValue FTaggedValueReader::Read(const FPropertyTypeName& Typ
 	const TGuardValue<int32> Deeper(Depth, Depth + 1);
 	if (const FSimpleReader* const Simple = GetSimpleReaders().Find(Type.GetName()))
 	{
-		return (*Simple)(Linker);
+		return (*Simple)(Values);
 	}
 	const FKindReader* const Reader = GetKindReaders().Find(Type.GetName());
 	return Reader ? (*Reader)(*this, Type, Size) : nullptr;
@@ -511,8 +350,7 @@ FTaggedValueReader::FValue FTaggedValueReader::ReadTagged(const FPropertyTag& Ta
 
 bool FTaggedValueReader::ReadProperties(int64 Start, int64 End, TArray<TSharedPtr<FJsonValue>>& OutProperties, int64& OutEnd)
 {
-	const int64 OldLimit = Linker.LimitReads(End);
-	Linker.Seek(Start);
+	const FReadLimit Reads(Linker, Start, End);
 	while (!Linker.IsError() && NumValues <= MaxValues)
 	{
 		FPropertyTag Tag;
@@ -533,12 +371,13 @@ bool FTaggedValueReader::ReadProperties(int64 Start, int64 End, TArray<TSharedPt
 		{
 			Property->SetNumberField(TEXT("index"), Tag.ArrayIndex);
 		}
+		if (Tag.HasPropertyGuid)
+		{
+			Property->SetStringField(TEXT("guid"), Tag.PropertyGuid.ToString());
+		}
 		Property->SetField(TEXT("value"), Value);
 		OutProperties.Add(MakeShared<FJsonValueObject>(Property));
 	}
-	OutEnd = Linker.IsError() ? Linker.GetErrorPosition() : Linker.Tell();
-	const bool bDone = !Linker.IsError();
-	Linker.ClearError();
-	Linker.LimitReads(OldLimit);
-	return bDone;
+	OutEnd = Reads.GetReached();
+	return !Linker.IsError();
 }

@@ -6,6 +6,7 @@
 class FJsonObject;
 class FJsonValue;
 class FLinkerLoad;
+class FPackageValues;
 
 /**
  * Reads saved values as JSON from their tags alone, whether or not their classes are known here. A value that cannot be read is
@@ -14,7 +15,7 @@ class FLinkerLoad;
 class FTaggedValueReader
 {
 public:
-	explicit FTaggedValueReader(FLinkerLoad& InLinker);
+	explicit FTaggedValueReader(FPackageValues& InValues);
 
 	/** The properties from here to the end of the list. False when a tag is damaged or ends beyond End; OutEnd is where it ended. */
 	bool ReadProperties(int64 Start, int64 End, TArray<TSharedPtr<FJsonValue>>& OutProperties, int64& OutEnd);
@@ -31,8 +32,6 @@ private:
 	FValue Read(const FPropertyTypeName& Type, int64 Size);
 	FValue ReadStruct(FName StructName, int64 Size);
 	FValue ReadTaggedStruct();
-	FValue ReadPinType();
-	FValue ReadTerminalType();
 	FValue ReadArray(const FPropertyTypeName& Type, int64 Size);
 	FValue ReadSet(const FPropertyTypeName& Type);
 	FValue ReadMap(const FPropertyTypeName& Type, int64 Size);
@@ -43,13 +42,9 @@ private:
 	FValue ReadMulticastDelegate();
 	FValue ReadFieldPath();
 	FValue ReadOptional(const FPropertyTypeName& Type);
-	FValue ReadObject();
-	FValue ReadText();
-	FValue ReadOldName();
 	FValue MakeBytes(int64 Start, int64 Size) const;
-	FValue MakeCountedText(const FString& Text);
-	bool ReadCount(int32& OutCount);
 
+	FPackageValues& Values;
 	FLinkerLoad& Linker;
 	int32 Depth = 0;
 	int64 NumValues = 0;

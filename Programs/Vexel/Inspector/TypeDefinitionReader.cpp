@@ -2,10 +2,10 @@
 
 #include "Dom/JsonObject.h"
 #include "Dom/JsonValue.h"
+#include "PackageValues.h"
 #include "StructLayouts.h"
 #include "UObject/CoreObjectVersion.h"
 #include "UObject/FrameworkObjectVersion.h"
-#include "UObject/LinkerLoad.h"
 #include "UObject/ReleaseObjectVersion.h"
 #include "UObject/Script.h"
 
@@ -128,14 +128,6 @@ const EDefinition* FindDefinition(FName ClassName)
 	return ByName.Find(ClassName);
 }
 
-template <typename Type>
-Type ReadPlain(FLinkerLoad& Linker)
-{
-	Type Value{};
-	static_cast<FArchive&>(Linker) << Value;
-	return Value;
-}
-
 FString ToHex(uint64 Flags)
 {
 	return FString::Printf(TEXT("0x%llx"), static_cast<unsigned long long>(Flags));
@@ -151,6 +143,12 @@ void AddList(FJsonObject& Out, const TCHAR* Name, TArray<TSharedPtr<FJsonValue>>
 }
 }
 
+FTypeDefinitionReader::FTypeDefinitionReader(FPackageValues& InValues)
+	: Values(InValues)
+	, Linker(InValues.GetLinker())
+{
+}
+
 bool FTypeDefinitionReader::IsDefinition(FName ClassName)
 {
 	return FindDefinition(ClassName) != nullptr;
@@ -160,9 +158,7 @@ bool FTypeDefinitionReader::Read(FName ClassName, int64 Start, int64 End, FJsonO
 {
 	const EDefinition* const Kind = FindDefinition(ClassName);
 	check(Kind);
-	const int64 OldLimit = Linker.LimitReads(End);
-	Linker.Seek(Start);
-	ReadObjectEnd();
+	const FReadLimit Reads(Linker, Start, End);
 	switch (*Kind)
 	{
 		case EDefinition::Class:
@@ -173,8 +169,8 @@ bool FTypeDefinitionReader::Read(FName ClassName, int64 Start, int64 End, FJsonO
 			break;
 		case EDefinition::SparseDelegate:
 			ReadFunction(OutDefinition);
-			OutDefinition.SetStringField(TEXT("owning_class"), ReadName());
-			OutDefinition.SetStringField(TEXT("delegate"), ReadName());
+			OutDefinition.SetStringField(TEXT("owning_class"), Values.ReadName());
+			OutDefinition.SetStringField(TEXT("delegate"), Values.ReadName());
 			break;
 		case EDefinition::ScriptStruct:
 			ReadScriptStruct(OutDefinition);
@@ -186,69 +182,22 @@ bool FTypeDefinitionReader::Read(FName ClassName, int64 Start, int64 End, FJsonO
 			ReadPropertyObject(ClassName, OutDefinition);
 			break;
 	}
-	const bool bRead = !Linker.IsError();
-	OutEnd = bRead ? Linker.Tell() : Linker.GetErrorPosition();
-	Linker.ClearError();
-	Linker.LimitReads(OldLimit);
-	return bRead;
-}
-
-FTypeDefinitionReader::FValue FTypeDefinitionReader::ReadReference()
-{
-	const int64 Start = Linker.Tell();
-	const FPackageIndex Index = FPackageIndex::FromRaw(ReadPlain<int32>(Linker));
-	if (Index.IsNull() || Linker.IsError())
-	{
-		return MakeShared<FJsonValueNull>();
-	}
-	if (!Linker.FindResource(Index))
-	{
-		Linker.Seek(Start);
-		Linker.SetError();
-		return MakeShared<FJsonValueNull>();
-	}
-	return MakeShared<FJsonValueString>(Linker.GetPathName(Index));
-}
-
-FString FTypeDefinitionReader::ReadName()
-{
-	FName Name;
-	Linker << Name;
-	return Name.ToString();
-}
-
-int32 FTypeDefinitionReader::ReadCount(int64 MinEntryBytes)
-{
-	const int32 Count = ReadPlain<int32>(Linker);
-	if (Linker.IsError() || Count < 0 || !Linker.CanHold(Count, MinEntryBytes))
-	{
-		Linker.SetError();
-		return 0;
-	}
-	return Count;
-}
-
-/** Behind its properties every object but a default object says whether it has a GUID. */
-void FTypeDefinitionReader::ReadObjectEnd()
-{
-	if (ReadPlain<bool>(Linker))
-	{
-		ReadPlain<FGuid>(Linker);
-	}
+	OutEnd = Reads.GetReached();
+	return !Linker.IsError();
 }
 
 void FTypeDefinitionReader::ReadFieldLink(FJsonObject& Out)
 {
 	if (Linker.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
 	{
-		Out.SetField(TEXT("next"), ReadReference());
+		Out.SetField(TEXT("next"), Values.ReadReference());
 	}
 }
 
 void FTypeDefinitionReader::ReadScript(FJsonObject& Out)
 {
-	const int32 MemoryBytes = ReadPlain<int32>(Linker);
-	const int32 FileBytes = ReadCount(1);
+	const int32 MemoryBytes = Values.Read<int32>();
+	const int32 FileBytes = Values.ReadCount(1);
 	if (FileBytes > 0)
 	{
 		const TSharedRef<FJsonObject> Script = MakeShared<FJsonObject>();
@@ -263,17 +212,17 @@ void FTypeDefinitionReader::ReadScript(FJsonObject& Out)
 void FTypeDefinitionReader::ReadStruct(FJsonObject& Out)
 {
 	ReadFieldLink(Out);
-	Out.SetField(TEXT("super"), ReadReference());
+	Out.SetField(TEXT("super"), Values.ReadReference());
 	if (Linker.CustomVer(FFrameworkObjectVersion::GUID) < FFrameworkObjectVersion::RemoveUField_Next)
 	{
-		Out.SetField(TEXT("first_child"), ReadReference());
+		Out.SetField(TEXT("first_child"), Values.ReadReference());
 	}
 	else
 	{
 		TArray<FValue> Children;
-		for (int32 Left = ReadCount(sizeof(int32)); Left > 0; --Left)
+		for (int32 Left = Values.ReadCount(sizeof(int32)); Left > 0; --Left)
 		{
-			Children.Add(ReadReference());
+			Children.Add(Values.ReadReference());
 		}
 		AddList(Out, TEXT("children"), MoveTemp(Children));
 	}
@@ -281,7 +230,7 @@ void FTypeDefinitionReader::ReadStruct(FJsonObject& Out)
 	{
 		TArray<FValue> Members;
 		constexpr int64 MinPropertyBytes = 8;
-		for (int32 Left = ReadCount(MinPropertyBytes); Left > 0 && !Linker.IsError(); --Left)
+		for (int32 Left = Values.ReadCount(MinPropertyBytes); Left > 0 && !Linker.IsError(); --Left)
 		{
 			Members.Add(ReadProperty());
 		}
@@ -293,16 +242,16 @@ void FTypeDefinitionReader::ReadStruct(FJsonObject& Out)
 void FTypeDefinitionReader::ReadFunction(FJsonObject& Out)
 {
 	ReadStruct(Out);
-	const uint32 Flags = ReadPlain<uint32>(Linker);
+	const uint32 Flags = Values.Read<uint32>();
 	Out.SetStringField(TEXT("function_flags"), ToHex(Flags));
 	if (Flags & FUNC_Net)
 	{
-		ReadPlain<int16>(Linker);
+		Values.Read<int16>();
 	}
 	if (Linker.UEVer() >= VER_UE4_SERIALIZE_BLUEPRINT_EVENTGRAPH_FASTCALLS_IN_UFUNCTION)
 	{
-		Out.SetField(TEXT("event_graph_function"), ReadReference());
-		Out.SetNumberField(TEXT("event_graph_offset"), ReadPlain<int32>(Linker));
+		Out.SetField(TEXT("event_graph_function"), Values.ReadReference());
+		Out.SetNumberField(TEXT("event_graph_offset"), Values.Read<int32>());
 	}
 }
 
@@ -310,11 +259,11 @@ void FTypeDefinitionReader::ReadInterfaces(FJsonObject& Out)
 {
 	TArray<FValue> Interfaces;
 	constexpr int64 InterfaceBytes = 3 * sizeof(int32);
-	for (int32 Left = ReadCount(InterfaceBytes); Left > 0; --Left)
+	for (int32 Left = Values.ReadCount(InterfaceBytes); Left > 0; --Left)
 	{
-		Interfaces.Add(ReadReference());
-		ReadPlain<int32>(Linker);
-		ReadPlain<bool>(Linker);
+		Interfaces.Add(Values.ReadReference());
+		Values.Read<int32>();
+		Values.Read<bool>();
 	}
 	AddList(Out, TEXT("interfaces"), MoveTemp(Interfaces));
 }
@@ -324,41 +273,41 @@ void FTypeDefinitionReader::ReadClass(FJsonObject& Out)
 	ReadStruct(Out);
 	const TSharedRef<FJsonObject> Functions = MakeShared<FJsonObject>();
 	constexpr int64 FunctionBytes = 12;
-	for (int32 Left = ReadCount(FunctionBytes); Left > 0; --Left)
+	for (int32 Left = Values.ReadCount(FunctionBytes); Left > 0; --Left)
 	{
-		const FString Name = ReadName();
-		Functions->SetField(Name, ReadReference());
+		const FString Name = Values.ReadName();
+		Functions->SetField(Name, Values.ReadReference());
 	}
 	if (!Functions->Values.IsEmpty())
 	{
 		Out.SetObjectField(TEXT("functions"), Functions);
 	}
-	Out.SetStringField(TEXT("class_flags"), ToHex(ReadPlain<uint32>(Linker)));
-	Out.SetField(TEXT("within"), ReadReference());
-	Out.SetStringField(TEXT("config"), ReadName());
+	Out.SetStringField(TEXT("class_flags"), ToHex(Values.Read<uint32>()));
+	Out.SetField(TEXT("within"), Values.ReadReference());
+	Out.SetStringField(TEXT("config"), Values.ReadName());
 	const bool bInterfacesLast = Linker.UEVer() >= VER_UE4_UCLASS_SERIALIZE_INTERFACES_AFTER_LINKING;
 	if (!bInterfacesLast)
 	{
 		ReadInterfaces(Out);
 	}
-	Out.SetField(TEXT("generated_by"), ReadReference());
+	Out.SetField(TEXT("generated_by"), Values.ReadReference());
 	if (bInterfacesLast)
 	{
 		ReadInterfaces(Out);
 	}
-	ReadPlain<bool>(Linker);
-	ReadName();
+	Values.Read<bool>();
+	Values.ReadName();
 	if (Linker.UEVer() >= VER_UE4_ADD_COOKED_TO_UCLASS)
 	{
-		Out.SetBoolField(TEXT("cooked"), ReadPlain<bool>(Linker));
+		Out.SetBoolField(TEXT("cooked"), Values.Read<bool>());
 	}
-	Out.SetField(TEXT("default_object"), ReadReference());
+	Out.SetField(TEXT("default_object"), Values.ReadReference());
 }
 
 void FTypeDefinitionReader::ReadScriptStruct(FJsonObject& Out)
 {
 	ReadStruct(Out);
-	Out.SetStringField(TEXT("struct_flags"), ToHex(ReadPlain<uint32>(Linker)));
+	Out.SetStringField(TEXT("struct_flags"), ToHex(Values.Read<uint32>()));
 }
 
 void FTypeDefinitionReader::ReadEnum(FJsonObject& Out)
@@ -368,47 +317,47 @@ void FTypeDefinitionReader::ReadEnum(FJsonObject& Out)
 	const bool bByteValues = Linker.CustomVer(FCoreObjectVersion::GUID) < FCoreObjectVersion::EnumProperties;
 	TArray<FValue> Enumerators;
 	constexpr int64 NameBytes = 8;
-	const int32 Count = ReadCount(bHasValues ? NameBytes + 1 : NameBytes);
+	const int32 Count = Values.ReadCount(bHasValues ? NameBytes + 1 : NameBytes);
 	for (int32 Index = 0; Index < Count && !Linker.IsError(); ++Index)
 	{
 		const TSharedRef<FJsonObject> Enumerator = MakeShared<FJsonObject>();
-		Enumerator->SetStringField(TEXT("name"), ReadName());
-		const int64 Value = !bHasValues ? Index : bByteValues ? ReadPlain<uint8>(Linker)
-															  : ReadPlain<int64>(Linker);
+		Enumerator->SetStringField(TEXT("name"), Values.ReadName());
+		const int64 Value = !bHasValues ? Index : bByteValues ? Values.Read<uint8>()
+															  : Values.Read<int64>();
 		Enumerator->SetField(TEXT("value"), MakeJsonInteger(Value));
 		Enumerators.Add(MakeShared<FJsonValueObject>(Enumerator));
 	}
 	Out.SetArrayField(TEXT("enumerators"), MoveTemp(Enumerators));
 	const bool bHasForm = Linker.UEVer() >= VER_UE4_ENUM_CLASS_SUPPORT;
-	Out.SetNumberField(TEXT("form"), bHasForm ? ReadPlain<uint8>(Linker) : ReadPlain<bool>(Linker) ? 1
+	Out.SetNumberField(TEXT("form"), bHasForm ? Values.Read<uint8>() : Values.Read<bool>() ? 1
 																								   : 0);
 }
 
 void FTypeDefinitionReader::ReadPropertyObject(FName Kind, FJsonObject& Out)
 {
 	ReadFieldLink(Out);
-	Out.SetNumberField(TEXT("array_dim"), ReadPlain<int32>(Linker));
-	Out.SetStringField(TEXT("property_flags"), ToHex(ReadPlain<uint64>(Linker)));
-	Out.SetStringField(TEXT("rep_notify"), ReadName());
+	Out.SetNumberField(TEXT("array_dim"), Values.Read<int32>());
+	Out.SetStringField(TEXT("property_flags"), ToHex(Values.Read<uint64>()));
+	Out.SetStringField(TEXT("rep_notify"), Values.ReadName());
 	if (Linker.CustomVer(FReleaseObjectVersion::GUID) >= FReleaseObjectVersion::PropertiesSerializeRepCondition)
 	{
-		Out.SetNumberField(TEXT("rep_condition"), ReadPlain<uint8>(Linker));
+		Out.SetNumberField(TEXT("rep_condition"), Values.Read<uint8>());
 	}
 	ReadPropertyType(Kind, Out, false);
 }
 
 void FTypeDefinitionReader::ReadMetaData(FJsonObject& Out)
 {
-	if (Linker.IsFilterEditorOnly() || !ReadPlain<bool>(Linker))
+	if (Linker.IsFilterEditorOnly() || !Values.Read<bool>())
 	{
 		return;
 	}
 	const TSharedRef<FJsonObject> MetaData = MakeShared<FJsonObject>();
 	constexpr int64 MinPairBytes = 12;
-	for (int32 Left = ReadCount(MinPairBytes); Left > 0 && !Linker.IsError(); --Left)
+	for (int32 Left = Values.ReadCount(MinPairBytes); Left > 0 && !Linker.IsError(); --Left)
 	{
-		const FString Key = ReadName();
-		MetaData->SetStringField(Key, ReadPlain<FString>(Linker));
+		const FString Key = Values.ReadName();
+		MetaData->SetStringField(Key, Values.Read<FString>());
 	}
 	Out.SetObjectField(TEXT("metadata"), MetaData);
 }
@@ -428,16 +377,16 @@ FTypeDefinitionReader::FValue FTypeDefinitionReader::ReadProperty()
 		return MakeShared<FJsonValueNull>();
 	}
 	const TGuardValue<int32> Deeper(Depth, Depth + 1);
-	Out->SetStringField(TEXT("name"), ReadName());
+	Out->SetStringField(TEXT("name"), Values.ReadName());
 	Out->SetStringField(TEXT("type"), Kind.ToString());
-	ReadPlain<uint32>(Linker);
+	Values.Read<uint32>();
 	ReadMetaData(*Out);
-	Out->SetNumberField(TEXT("array_dim"), ReadPlain<int32>(Linker));
-	Out->SetNumberField(TEXT("element_size"), ReadPlain<int32>(Linker));
-	Out->SetStringField(TEXT("property_flags"), ToHex(ReadPlain<uint64>(Linker)));
-	ReadPlain<uint16>(Linker);
-	Out->SetStringField(TEXT("rep_notify"), ReadName());
-	Out->SetNumberField(TEXT("rep_condition"), ReadPlain<uint8>(Linker));
+	Out->SetNumberField(TEXT("array_dim"), Values.Read<int32>());
+	Out->SetNumberField(TEXT("element_size"), Values.Read<int32>());
+	Out->SetStringField(TEXT("property_flags"), ToHex(Values.Read<uint64>()));
+	Values.Read<uint16>();
+	Out->SetStringField(TEXT("rep_notify"), Values.ReadName());
+	Out->SetNumberField(TEXT("rep_condition"), Values.Read<uint8>());
 	ReadPropertyType(Kind, *Out, true);
 	return MakeShared<FJsonValueObject>(Out);
 }
@@ -454,11 +403,11 @@ void FTypeDefinitionReader::ReadPropertyType(FName KindName, FJsonObject& Out, b
 	}
 	for (const TCHAR* const Reference : Kind->References)
 	{
-		Out.SetField(Reference, ReadReference());
+		Out.SetField(Reference, Values.ReadReference());
 	}
 	for (const TCHAR* const Property : Kind->Properties)
 	{
-		Out.SetField(Property, bWithin ? ReadProperty() : ReadReference());
+		Out.SetField(Property, bWithin ? ReadProperty() : Values.ReadReference());
 	}
 	if (KindName == FName(TEXT("BoolProperty")))
 	{
@@ -466,6 +415,6 @@ void FTypeDefinitionReader::ReadPropertyType(FName KindName, FJsonObject& Out, b
 	}
 	else if (KindName == FName(TEXT("FieldPathProperty")))
 	{
-		Out.SetStringField(TEXT("class"), ReadName());
+		Out.SetStringField(TEXT("class"), Values.ReadName());
 	}
 }

@@ -341,6 +341,10 @@ bool FPackageSections::ReadDataResources(FLinkerLoad& Linker, TArray<FPackageDat
 			Ar << CookedIndex;
 		}
 		Ar << Resource.SerialOffset << Resource.DuplicateSerialOffset << Resource.SerialSize << Resource.RawSize << Resource.Outer << Resource.LegacyBulkDataFlags;
+		if (!Resource.Outer.IsNull() && !Linker.FindResource(Resource.Outer) && !Ar.IsError())
+		{
+			Linker.SetError();
+		}
 	}
 	return Reader.Finish(OutError);
 }
@@ -383,11 +387,19 @@ bool FPackageSections::ReadPayloads(FLinkerLoad& Linker, TArray<FPackagePayload>
 			Ar << AccessMode;
 		}
 		Payload.Identifier = BytesToHex(Identifier, IdentifierBytes);
+		const int64 Room = Linker.GetFileSize() - Linker.Summary.PayloadTocOffset - HeaderBytes;
+		const bool bIsElsewhere = Payload.Offset < 0;
+		const bool bFits = Payload.CompressedSize >= 0 && Payload.RawSize >= 0 &&
+			(bIsElsewhere || (Payload.Offset <= Room && Payload.CompressedSize <= Room - Payload.Offset));
+		if (!bFits && !Ar.IsError())
+		{
+			Linker.SetError();
+		}
 	}
 	return Reader.Finish(OutError);
 }
 
-bool FPackageSections::ReadMetaData(FLinkerLoad& Linker, TArray<TPair<FString, TMap<FName, FString>>>& Out, FString& OutError)
+bool FPackageSections::ReadMetaData(FLinkerLoad& Linker, TArray<TPair<FPackageIndex, TMap<FName, FString>>>& Out, FString& OutError)
 {
 	constexpr int64 MinObjectBytes = 8;
 	constexpr int64 MinValueBytes = 12;
@@ -401,10 +413,10 @@ bool FPackageSections::ReadMetaData(FLinkerLoad& Linker, TArray<TPair<FString, T
 	int32 NumOfPackage = 0;
 	Reader.ReadCount(NumObjects, MinObjectBytes);
 	Reader.ReadCount(NumOfPackage, MinValueBytes);
-	const auto ReadValues = [&](FString&& Path, int32 NumValues)
+	const auto ReadValues = [&](FPackageIndex Object, int32 NumValues)
 	{
-		TPair<FString, TMap<FName, FString>>& Entry = Out.AddDefaulted_GetRef();
-		Entry.Key = MoveTemp(Path);
+		TPair<FPackageIndex, TMap<FName, FString>>& Entry = Out.AddDefaulted_GetRef();
+		Entry.Key = Object;
 		for (int32 Index = 0; Index < NumValues && !Ar.IsError(); ++Index)
 		{
 			FName Key;
@@ -420,8 +432,8 @@ bool FPackageSections::ReadMetaData(FLinkerLoad& Linker, TArray<TPair<FString, T
 		int32 NumValues = 0;
 		Ar << Object;
 		Reader.ReadCount(NumValues, MinValueBytes);
-		ReadValues(Linker.GetPathName(Object), NumValues);
+		ReadValues(Object, NumValues);
 	}
-	ReadValues(FString(), NumOfPackage);
+	ReadValues(FPackageIndex(), NumOfPackage);
 	return Reader.Finish(OutError);
 }

@@ -115,6 +115,6 @@ public:
 	static bool ReadSearchableNames(FLinkerLoad& Linker, TArray<TPair<FPackageIndex, TArray<FName>>>& Out, FString& OutError);
 	static bool ReadDataResources(FLinkerLoad& Linker, TArray<FPackageDataResource>& Out, FString& OutError);
 	static bool ReadPayloads(FLinkerLoad& Linker, TArray<FPackagePayload>& Out, FString& OutError);
-	/** By the path of an object within the package; the package's own under an empty path. Of 5.6 and later. */
-	static bool ReadMetaData(FLinkerLoad& Linker, TArray<TPair<FString, TMap<FName, FString>>>& Out, FString& OutError);
+	/** By object; the package's own under the null index. Of 5.6 and later. */
+	static bool ReadMetaData(FLinkerLoad& Linker, TArray<TPair<FPackageIndex, TMap<FName, FString>>>& Out, FString& OutError);
 };
