@@ -39,7 +39,8 @@ public:
 		{
 			Text += FString::Printf(TEXT("Timeline %s %s\n"), *Timeline->GetPathName(), *Timeline->TimelineGuid.ToString());
 		}
-		for (const USCS_Node* const Node : Blueprint.SimpleConstructionScript->GetAllNodes())
+		const bool bHasComponents = Blueprint.SimpleConstructionScript != nullptr;
+		for (const USCS_Node* const Node : bHasComponents ? Blueprint.SimpleConstructionScript->GetAllNodes() : TArray<USCS_Node*>())
 		{
 			const USCS_Node* const Parent = Blueprint.SimpleConstructionScript->FindParentNode(const_cast<USCS_Node*>(Node));
 			Text += FString::Printf(TEXT("Component %s %s below %s from %s\n"), *Node->GetVariableName().ToString(),

@@ -141,10 +141,50 @@ std::set<std::string> ReadProperties(FLinkerLoad& Linker, int32 Index)
 	return bIsRead ? Properties : std::set<std::string>();
 }
 
+/** Why bytes of a class differ when they are written from the objects' values, and in how many of the samples' exports they may. */
+struct FKnownDifference
+{
+	const char* Class;
+	int32 AtMost;
+	const char* Reason;
+};
+
+constexpr FKnownDifference KnownDifferences[] = {
+	{"MetaData", 50, "entries of objects that the file itself has lost are not written"},
+	{"Blueprint", 15, "the enumeration of replication conditions is another module's here; one keeps the last edited graph in its old form"},
+	{"BlueprintGeneratedClass", 5, "the size in memory of a struct that only the engine's C++ has"},
+	{"WidgetBlueprintGeneratedClass", 1, "the size in memory of a struct that only the engine's C++ has"},
+	{"K2Node_GetClassDefaults", 4, "an empty text that was saved with its closing zero is saved without"},
+	{"K2Node_VariableGet", 1, "an empty text that was saved with its closing zero is saved without"},
+	{"K2Node_VariableSet", 1, "an empty text that was saved with its closing zero is saved without"},
+	{"TextBlock", 3, "members of a struct of the engine stand in another order"},
+};
+
+/** That nothing differs but what is known to, and that nothing is listed which no longer does. */
+void CheckDifferences(const std::map<std::string, FComparison>& Comparisons)
+{
+	std::map<std::string, int32> Others;
+	for (const auto& [Group, Comparison] : Comparisons)
+	{
+		for (const auto& [Class, Count] : Comparison.OthersByClass)
+		{
+			Others[Class] += Count;
+		}
+	}
+	for (const FKnownDifference& Known : KnownDifferences)
+	{
+		EXPECT_GT(Others[Known.Class], 0) << Known.Class << " no longer differs: " << Known.Reason;
+		EXPECT_LE(Others[Known.Class], Known.AtMost) << Known.Class << ": " << Known.Reason;
+		Others.erase(Known.Class);
+	}
+	for (const auto& [Class, Count] : Others)
+	{
+		ADD_FAILURE() << Count << " exports of " << Class << " differ";
+	}
+}
+
 TEST_F(FPackageRoundTripTest, ObjectsWrittenAnewInTheirOwnVersionLoseNothing)
 {
-	// A pointer into memory, of which files say nothing but that it is there.
-	const std::string UberGraphFrame = "UberGraphFrame";
 	std::map<std::string, FComparison> Comparisons;
 	int32 NumProperties = 0;
 	for (const std::string& Sample : PackageSamples::List())
@@ -174,14 +214,12 @@ TEST_F(FPackageRoundTripTest, ObjectsWrittenAnewInTheirOwnVersionLoseNothing)
 			for (const std::string& Property : ReadProperties(*Loaded.GetLinker(), Index))
 			{
 				++NumProperties;
-				const bool bIsKept = Now.contains(Property) || Property.starts_with(UberGraphFrame);
-				EXPECT_TRUE(bIsKept) << Property << " of " << TCHAR_TO_UTF8(*After->GetExportPathName(Index));
+				EXPECT_TRUE(Now.contains(Property)) << Property << " of " << TCHAR_TO_UTF8(*After->GetExportPathName(Index));
 			}
 		}
 	}
-	const FComparison All = Report("written anew", Comparisons);
+	Report("written anew", Comparisons);
 	EXPECT_GT(NumProperties, 1000);
-	// What differs is the order of members, the spelling of empty texts, metadata of objects that are gone, and definitions.
-	EXPECT_GE(All.SameExports * 4, All.Exports * 3);
+	CheckDifferences(Comparisons);
 }
 }
