@@ -330,7 +330,7 @@ void FTypeDefinitionReader::ReadEnum(FJsonObject& Out)
 	Out.SetArrayField(TEXT("enumerators"), MoveTemp(Enumerators));
 	const bool bHasForm = Linker.UEVer() >= VER_UE4_ENUM_CLASS_SUPPORT;
 	Out.SetNumberField(TEXT("form"), bHasForm ? Values.Read<uint8>() : Values.Read<bool>() ? 1
-																								   : 0);
+																						   : 0);
 }
 
 void FTypeDefinitionReader::ReadPropertyObject(FName Kind, FJsonObject& Out)
