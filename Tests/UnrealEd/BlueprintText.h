@@ -62,7 +62,7 @@ private:
 	static void AddGraph(const TCHAR* Kind, const UEdGraph& Graph, FString& Text)
 	{
 		Text += FString::Printf(
-			TEXT("%s %s %s flags %x\n"), Kind, *Graph.GetPathName(), *Graph.GraphGuid.ToString(), static_cast<uint32>(Graph.GetFlags()));
+			TEXT("%s %s %s flags %x\n"), Kind, *Graph.GetPathName(), *Graph.GraphGuid.ToString(), static_cast<uint32>(Graph.GetFlags() & RF_Load));
 		for (UEdGraphNode* const Node : Graph.Nodes)
 		{
 			FString NodeText;

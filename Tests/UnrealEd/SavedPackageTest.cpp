@@ -35,8 +35,12 @@ FString Describe(const UBlueprint& Blueprint)
 {
 	FString Text = FBlueprintText::Take(Blueprint);
 	const UObject* const Defaults = Blueprint.GeneratedClass->GetDefaultObject();
-	for (TFieldIterator<FProperty> It(Blueprint.GeneratedClass, EFieldIteratorFlags::ExcludeSuper); It; ++It)
+	for (TFieldIterator<FProperty> It(Blueprint.GeneratedClass); It; ++It)
 	{
+		if (!Cast<UBlueprintGeneratedClass>(It->GetOwnerClass()))
+		{
+			continue;
+		}
 		FString Value;
 		It->ExportTextItem_InContainer(Value, Defaults, nullptr, nullptr, PPF_None);
 		Text += FString::Printf(TEXT("Default %s %s=%s\n"), *It->GetCPPType(), *It->GetName(), *Value);
