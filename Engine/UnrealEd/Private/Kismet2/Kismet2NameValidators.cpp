@@ -42,7 +42,7 @@ FText INameValidatorInterface::GetErrorText(const FString& Name, EValidatorResul
 			return LOCTEXT("LocallyInUse_Error", "Conflicts with another object in the same scope!");
 		case EValidatorResult::ContainsInvalidCharacters:
 			return FText::Format(LOCTEXT("ContainsInvalidCharacters_Error", "Name {0} cannot contain the following characters: {1}"),
-				FText::FromString(Name), FText::FromString(INVALID_OBJECTNAME_CHARACTERS));
+				FText::FromString(Name), FText::FromString(UE_BLUEPRINT_INVALID_NAME_CHARACTERS));
 		case EValidatorResult::ExistingName:
 		case EValidatorResult::Ok:
 			break;
@@ -118,7 +118,7 @@ EValidatorResult FKismetNameValidator::IsValid(const FString& Name, bool bOrigin
 		return EValidatorResult::TooLong;
 	}
 	FText Reason;
-	if (!FName(*Name).IsValidObjectName(Reason))
+	if (!FName(*Name).IsValidXName(Reason, UE_BLUEPRINT_INVALID_NAME_CHARACTERS))
 	{
 		return EValidatorResult::ContainsInvalidCharacters;
 	}

@@ -104,8 +104,8 @@ void CreateDefaultGraphs(UBlueprint& Blueprint)
 	if (bHasConstructionScript)
 	{
 		UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(&Blueprint, UEdGraphSchema_K2::FN_UserConstructionScript, UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
-		Graph->bAllowDeletion = false;
 		FBlueprintEditorUtils::AddFunctionGraph(&Blueprint, Graph, false, AActor::StaticClass());
+		Graph->bAllowDeletion = false;
 	}
 }
 

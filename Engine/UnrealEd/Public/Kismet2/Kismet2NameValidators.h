@@ -2,6 +2,9 @@
 
 #include "CoreMinimal.h"
 
+/** Spaces are allowed: "Open Door" is a function like another. */
+#define UE_BLUEPRINT_INVALID_NAME_CHARACTERS TEXT("\"',/.:|&!~\n\r\t@#(){}[]=;^%$`")
+
 class UBlueprint;
 class UEdGraphNode;
 class UStruct;
