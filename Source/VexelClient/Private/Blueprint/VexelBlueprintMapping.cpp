@@ -2,8 +2,15 @@
 
 #include "Blueprint/Builders/VexelBlueprintNodeTypeIdBuilder.h"
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
+#include "Blueprint/VexelBlueprintNodeType.h"
+#include "Blueprint/VexelNodeTypeIndex.h"
+#include "Blueprint/VexelVariableNodeType.h"
 #include "VexelLog.h"
 
+#include "Async/Async.h"
+#include "BlueprintActionDatabase.h"
+#include "BlueprintActionFilter.h"
+#include "BlueprintNodeSpawner.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphNode.h"
 #include "EditorAssetLibrary.h"
@@ -12,6 +19,8 @@
 #include "Engine/LevelScriptBlueprint.h"
 #include "Engine/World.h"
 #include "Internationalization/Text.h"
+#include "K2Node.h"
+#include "Kismet2/BlueprintEditorUtils.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -28,6 +37,49 @@ FString MakeBaseName(const UEdGraphNode& Node)
 	}
 	Base.RemoveSpacesInline();
 	return Base;
+}
+
+/** Where an id of a node type is looked up. */
+struct FNodeTypePlace
+{
+	const UBlueprint& Blueprint;
+	/** Null for the Blueprint as a whole. */
+	const UEdGraph* Graph;
+};
+
+UBlueprintNodeSpawner* FindSpawner(const TVexelNodeTypeId& Id, const FNodeTypePlace& Place)
+{
+	const auto Find = [&Id, &Place]
+	{
+		UBlueprintNodeSpawner* const Variable = VexelVariableNodeType::MakeSpawner(Id, Place.Blueprint, Place.Graph);
+		// The database knows locals of other functions too.
+		return Variable || VexelVariableNodeType::IsLocal(Id) ? Variable : FVexelNodeTypeIndex::Get().Find(Id);
+	};
+	return IsInGameThread() ? Find() : Async(EAsyncExecution::TaskGraphMainThread, Find).Get();
+}
+
+TArray<FVexelBlueprintNodeType> ListNodeTypes(const FNodeTypePlace& Place, FVexelBlueprintMapping& Mapping)
+{
+	FBlueprintActionFilter Filter;
+	Filter.Context.Blueprints.Add(const_cast<UBlueprint*>(&Place.Blueprint));
+	if (Place.Graph)
+	{
+		Filter.Context.Graphs.Add(const_cast<UEdGraph*>(Place.Graph));
+	}
+	TArray<FVexelBlueprintNodeType> Types;
+	for (const auto& [Key, Actions] : FBlueprintActionDatabase::Get().GetAllActions())
+	{
+		for (const UBlueprintNodeSpawner* const Spawner : Actions)
+		{
+			FBlueprintActionInfo Action(Key.ResolveObjectPtr(), Spawner);
+			const UEdGraphNode* const Template = Filter.IsFiltered(Action) ? nullptr : Spawner->GetTemplateNode();
+			if (Template && Template->IsA<UK2Node>())
+			{
+				Types.Emplace(*Template, Mapping);
+			}
+		}
+	}
+	return Types;
 }
 
 UBlueprint* GetLevelScript(UObject* Asset)
@@ -109,13 +161,7 @@ TVexelNodeId FVexelBlueprintMapping::MakeNodeReference(const UEdGraphNode& Node,
 	{
 		return TVexelNodeId(*Name);
 	}
-	const FString Base = MakeBaseName(Node);
-	int32 Number = 0;
-	FString Candidate = FString::Printf(TEXT("%s_%d"), *Base, Number);
-	while (NodeNames.HasName(Candidate))
-	{
-		Candidate = FString::Printf(TEXT("%s_%d"), *Base, ++Number);
-	}
+	FString Candidate = NodeNames.MakeFreeName(MakeBaseName(Node));
 	if (bRegister)
 	{
 		NodeNames.Add(Node.NodeGuid, Candidate);
@@ -125,6 +171,13 @@ TVexelNodeId FVexelBlueprintMapping::MakeNodeReference(const UEdGraphNode& Node,
 
 bool FVexelBlueprintMapping::ResolveNodeInGraph(const TVexelNodeId& Id, const UEdGraph& Graph, UEdGraphNode*& OutNode)
 {
+	// Nobody is given a name that is in the table, so what has it there is the only node to look for.
+	if (const FGuid* const NodeGuid = NodeNames.FindGuid(Id.ToString()))
+	{
+		UEdGraphNode* const Named = FindNamedNode(*NodeGuid, Graph);
+		OutNode = Named ? Named : OutNode;
+		return Named != nullptr;
+	}
 	for (UEdGraphNode* const Node : Graph.Nodes)
 	{
 		if (Node && MakeNodeReference(*Node, false) == Id)
@@ -134,6 +187,26 @@ bool FVexelBlueprintMapping::ResolveNodeInGraph(const TVexelNodeId& Id, const UE
 		}
 	}
 	return false;
+}
+
+UEdGraphNode* FVexelBlueprintMapping::FindNamedNode(const FGuid& NodeGuid, const UEdGraph& Graph)
+{
+	TWeakObjectPtr<UEdGraphNode>& Found = FoundNodes.FindOrAdd(NodeGuid);
+	UEdGraphNode* const Last = Found.Get();
+	// A node that was removed keeps its graph as its outer, so only the graph's own list tells.
+	if (Last && Last->NodeGuid == NodeGuid && Graph.Nodes.Contains(Last))
+	{
+		return Last;
+	}
+	for (UEdGraphNode* const Node : Graph.Nodes)
+	{
+		if (Node && Node->NodeGuid == NodeGuid)
+		{
+			Found = Node;
+			return Node;
+		}
+	}
+	return nullptr;
 }
 
 TVexelPinId FVexelBlueprintMapping::MakePinReference(const UEdGraphPin& Pin)
@@ -157,6 +230,33 @@ bool FVexelBlueprintMapping::ResolvePinInNode(const TVexelPinId& Id, const UEdGr
 TVexelNodeTypeId FVexelBlueprintMapping::MakeNodeTypeReference(const UEdGraphNode& Node)
 {
 	return FVexelBlueprintNodeTypeIdBuilder::Create(&Node, *this);
+}
+
+bool FVexelBlueprintMapping::ResolveNodeTypeForGraph(const TVexelNodeTypeId& Id, const UEdGraph& Graph, UBlueprintNodeSpawner*& OutSpawner)
+{
+	const UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForGraph(&Graph);
+	UBlueprintNodeSpawner* const Found = Blueprint ? FindSpawner(Id, {*Blueprint, &Graph}) : nullptr;
+	OutSpawner = Found ? Found : OutSpawner;
+	return Found != nullptr;
+}
+
+bool FVexelBlueprintMapping::ResolveNodeTypeForBlueprint(
+	const TVexelNodeTypeId& Id, const UBlueprint& Blueprint, UBlueprintNodeSpawner*& OutSpawner)
+{
+	UBlueprintNodeSpawner* const Found = FindSpawner(Id, {Blueprint, nullptr});
+	OutSpawner = Found ? Found : OutSpawner;
+	return Found != nullptr;
+}
+
+TArray<FVexelBlueprintNodeType> FVexelBlueprintMapping::IterateNodeTypesForBlueprint(const UBlueprint& Blueprint)
+{
+	return ListNodeTypes({Blueprint, FBlueprintEditorUtils::FindEventGraph(&Blueprint)}, *this);
+}
+
+TArray<FVexelBlueprintNodeType> FVexelBlueprintMapping::IterateNodeTypesForGraph(const UEdGraph& Graph)
+{
+	const UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForGraph(&Graph);
+	return Blueprint ? ListNodeTypes({*Blueprint, &Graph}, *this) : TArray<FVexelBlueprintNodeType>();
 }
 
 TVexelPropTypeId FVexelBlueprintMapping::MakePropTypeReference(const FEdGraphPinType& PinType, const FAssetData* SubCategoryAsset)

@@ -3,10 +3,13 @@
 #include "Blueprint/VexelNodeNameTable.h"
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
+#include "UObject/WeakObjectPtr.h"
 #include "VexelId.h"
 
 class FProperty;
+class FVexelBlueprintNodeType;
 class UBlueprint;
+class UBlueprintNodeSpawner;
 class UEdGraph;
 class UEdGraphNode;
 class UEdGraphPin;
@@ -45,6 +48,7 @@ public:
 
 	/** The name that the node has, or the next free one of its title; bRegister keeps that one for the node. */
 	TVexelNodeId MakeNodeReference(const UEdGraphNode& Node, bool bRegister);
+	/** The first node of the graph that has the name, or would be given it. */
 	bool ResolveNodeInGraph(const TVexelNodeId& Id, const UEdGraph& Graph, UEdGraphNode*& OutNode);
 
 	TVexelPinId MakePinReference(const UEdGraphPin& Pin);
@@ -52,6 +56,16 @@ public:
 
 	/** Empty for a node of a class that has no rule. */
 	TVexelNodeTypeId MakeNodeTypeReference(const UEdGraphNode& Node);
+	/**
+	 * What makes a node of the type in the graph. The id of a variable names one of the Blueprint, or one of the function that the graph
+	 * belongs to; every other names an action of the editor's database. From another thread, waits for the game thread.
+	 */
+	bool ResolveNodeTypeForGraph(const TVexelNodeTypeId& Id, const UEdGraph& Graph, UBlueprintNodeSpawner*& OutSpawner);
+	/** The same without a graph, so without locals and parameters. */
+	bool ResolveNodeTypeForBlueprint(const TVexelNodeTypeId& Id, const UBlueprint& Blueprint, UBlueprintNodeSpawner*& OutSpawner);
+	/** Every type of node that the Blueprint's event graph, or the graph, takes. */
+	TArray<FVexelBlueprintNodeType> IterateNodeTypesForBlueprint(const UBlueprint& Blueprint);
+	TArray<FVexelBlueprintNodeType> IterateNodeTypesForGraph(const UEdGraph& Graph);
 
 	/** SubCategoryAsset stands in for a type's object that is not loaded; it may be null. */
 	TVexelPropTypeId MakePropTypeReference(const FEdGraphPinType& PinType, const FAssetData* SubCategoryAsset);
@@ -63,7 +77,11 @@ public:
 	FGuid MakePropGuidDirect(const UObject* OwnerObject, const TVexelPropId& PropId);
 
 private:
+	UEdGraphNode* FindNamedNode(const FGuid& NodeGuid, const UEdGraph& Graph);
+
 	FVexelNodeNameTable NodeNames;
+	/** Where nodes with names were last found. An entry holds while the node has that GUID. */
+	TMap<FGuid, TWeakObjectPtr<UEdGraphNode>> FoundNodes;
 	/** By "owner path.property name". */
 	TMap<FString, FGuid> PropGuids;
 };

@@ -7,6 +7,17 @@ void FVexelNodeNameTable::Add(const FGuid& NodeGuid, const FString& Name)
 	GuidsByName.Add(Name, NodeGuid);
 }
 
+FString FVexelNodeNameTable::MakeFreeName(const FString& Base) const
+{
+	int32& Number = FirstFreeNumbers.FindOrAdd(Base);
+	FString Name = FString::Printf(TEXT("%s_%d"), *Base, Number);
+	while (HasName(Name))
+	{
+		Name = FString::Printf(TEXT("%s_%d"), *Base, ++Number);
+	}
+	return Name;
+}
+
 TSharedRef<FJsonObject> FVexelNodeNameTable::ToJson() const
 {
 	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
@@ -21,6 +32,7 @@ void FVexelNodeNameTable::FromJson(const TSharedRef<FJsonObject>& Object)
 {
 	NamesByGuid.Reset();
 	GuidsByName.Reset();
+	FirstFreeNumbers.Reset();
 	for (const auto& [Key, Value] : Object->Values)
 	{
 		FGuid Guid;

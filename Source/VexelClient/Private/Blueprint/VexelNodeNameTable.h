@@ -12,6 +12,10 @@ public:
 	const FString* FindName(const FGuid& NodeGuid) const { return NamesByGuid.Find(NodeGuid); }
 	/** Letter case does not matter. */
 	bool HasName(const FString& Name) const { return GuidsByName.Contains(Name); }
+	/** Null where no node has the name. Letter case does not matter. Valid until the table changes. */
+	const FGuid* FindGuid(const FString& Name) const { return GuidsByName.Find(Name); }
+	/** The first of "Base_0", "Base_1", ... that is nobody's. */
+	FString MakeFreeName(const FString& Base) const;
 	/** Neither the GUID nor the name may be in the table. */
 	void Add(const FGuid& NodeGuid, const FString& Name);
 
@@ -32,4 +36,6 @@ private:
 
 	TMap<FGuid, FString, FDefaultSetAllocator, FGuidKeyFuncs> NamesByGuid;
 	TMap<FString, FGuid> GuidsByName;
+	/** By base, a number below which no name is free: a graph may have thousands of nodes of one title. */
+	mutable TMap<FString, int32> FirstFreeNumbers;
 };
