@@ -1,0 +1,208 @@
+#include "GraphFormatter/CommentFrames.h"
+#include "GraphFormatter/GraphFormatter.h"
+
+#include "EdGraphNode_Comment.h"
+#include "EdGraphSchema_K2.h"
+#include "EdGraphUtilities.h"
+#include "K2Node_CallFunction.h"
+#include "K2Node_ExecutionSequence.h"
+#include "K2Node_IfThenElse.h"
+#include "K2Node_CustomEvent.h"
+#include "LumTestBlueprint.h"
+#include "Misc/FileHelper.h"
+#include "Misc/Paths.h"
+
+#include <filesystem>
+#include <gmock/gmock.h>
+
+namespace
+{
+class FGraphFormatterTest : public FLumTest
+{
+protected:
+	virtual void SetUp() override
+	{
+		FLumTest::SetUp();
+		// Without the events that every Actor Blueprint starts with.
+		const TArray<TObjectPtr<UEdGraphNode>> Nodes = EventGraph->Nodes;
+		for (UEdGraphNode* const Node : Nodes)
+		{
+			EventGraph->RemoveNode(Node);
+		}
+	}
+
+	UEdGraphNode& Call(const char* Function)
+	{
+		FString Class;
+		FString Name;
+		FString(UTF8_TO_TCHAR(Function)).Split(TEXT("."), &Class, &Name);
+		UClass* const Owner = FindFirstObject<UClass>(*Class, EFindFirstObjectOptions::NativeFirst);
+		check(Owner);
+		return Place<UK2Node_CallFunction>([Owner, &Name](UK2Node_CallFunction& Node)
+			{ Node.FunctionReference.SetExternalMember(FName(*Name), Owner); });
+	}
+
+	static void Link(UEdGraphNode& From, const TCHAR* FromPin, UEdGraphNode& To, const TCHAR* ToPin)
+	{
+		From.FindPinChecked(FromPin)->MakeLinkTo(To.FindPinChecked(ToPin));
+	}
+
+	void Format(const TArray<UEdGraphNode*>& Nodes) { GraphFormatter::FormatSelectedNodes(*EventGraph, Nodes, 200.0, 200.0); }
+
+	void FormatAll()
+	{
+		TArray<UEdGraphNode*> Nodes;
+		for (UEdGraphNode* const Node : EventGraph->Nodes)
+		{
+			Nodes.Add(Node);
+		}
+		Format(Nodes);
+	}
+
+	/** Pairs of nodes, comments apart, that cover each other. */
+	static int32 CountOverlaps(const UEdGraph& Graph)
+	{
+		TArray<FBox2D> Bounds;
+		for (const UEdGraphNode* const Node : Graph.Nodes)
+		{
+			if (!Node->IsA<UEdGraphNode_Comment>())
+			{
+				Bounds.Add(FCommentFrames::GetBounds(*Node));
+			}
+		}
+		int32 NumOverlaps = 0;
+		for (int32 A = 0; A < Bounds.Num(); ++A)
+		{
+			for (int32 B = A + 1; B < Bounds.Num(); ++B)
+			{
+				const bool bApart = Bounds[A].Max.X <= Bounds[B].Min.X || Bounds[B].Max.X <= Bounds[A].Min.X ||
+					Bounds[A].Max.Y <= Bounds[B].Min.Y || Bounds[B].Max.Y <= Bounds[A].Min.Y;
+				NumOverlaps += bApart ? 0 : 1;
+			}
+		}
+		return NumOverlaps;
+	}
+
+	TArray<FIntPoint> GetPositions() const
+	{
+		TArray<FIntPoint> Positions;
+		for (const UEdGraphNode* const Node : EventGraph->Nodes)
+		{
+			Positions.Add(FIntPoint(Node->NodePosX, Node->NodePosY));
+		}
+		return Positions;
+	}
+};
+
+TEST_F(FGraphFormatterTest, ExecutionRunsStraightToTheRightAndValuesStandBeforeTheirUse)
+{
+	UEdGraphNode& Event = Place<UK2Node_CustomEvent>();
+	UEdGraphNode& Branch = Place<UK2Node_IfThenElse>();
+	UEdGraphNode& Yes = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& No = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& After = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& Compare = Call("KismetMathLibrary.Greater_IntInt");
+	UEdGraphNode& Sum = Call("KismetMathLibrary.Add_IntInt");
+	Link(Event, TEXT("then"), Branch, TEXT("execute"));
+	Link(Branch, TEXT("then"), Yes, TEXT("execute"));
+	Link(Branch, TEXT("else"), No, TEXT("execute"));
+	Link(Yes, TEXT("then"), After, TEXT("execute"));
+	Link(Compare, TEXT("ReturnValue"), Branch, TEXT("Condition"));
+	Link(Sum, TEXT("ReturnValue"), Compare, TEXT("A"));
+	Event.NodePosX = 320;
+	Event.NodePosY = -48;
+	FormatAll();
+
+	EXPECT_EQ(FIntPoint(320, -48), FIntPoint(Event.NodePosX, Event.NodePosY)) << "where execution begins stays";
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+	EXPECT_LT(Event.NodePosX, Branch.NodePosX);
+	EXPECT_LT(Branch.NodePosX, Yes.NodePosX);
+	EXPECT_LT(Yes.NodePosX, After.NodePosX);
+	EXPECT_EQ(Branch.NodePosY, Yes.NodePosY);
+	EXPECT_EQ(Yes.NodePosY, After.NodePosY);
+	EXPECT_EQ(Yes.NodePosX, No.NodePosX);
+	EXPECT_GT(No.NodePosY, Yes.NodePosY);
+	EXPECT_LT(Compare.NodePosX, Branch.NodePosX);
+	EXPECT_GT(Compare.NodePosY, Event.NodePosY);
+	EXPECT_LT(Sum.NodePosX, Compare.NodePosX);
+}
+
+TEST_F(FGraphFormatterTest, TheRestOfTheGraphStaysAndIsNotCovered)
+{
+	UEdGraphNode& Event = Place<UK2Node_CustomEvent>();
+	UEdGraphNode& Kept = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& Added = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& InTheWay = Call("KismetSystemLibrary.Delay");
+	Link(Event, TEXT("then"), Kept, TEXT("execute"));
+	Link(Kept, TEXT("then"), Added, TEXT("execute"));
+	Kept.NodePosX = 400;
+	InTheWay.NodePosX = 400 + FMath::CeilToInt32(FCommentFrames::GetBounds(Kept).GetSize().X) + 50;
+	Added.NodePosX = -5000;
+	Format({&Kept, &Added});
+
+	EXPECT_EQ(FIntPoint(400, 0), FIntPoint(Kept.NodePosX, Kept.NodePosY)) << "linked to what was not selected";
+	EXPECT_EQ(0, InTheWay.NodePosY);
+	EXPECT_EQ(FIntPoint(0, 0), FIntPoint(Event.NodePosX, Event.NodePosY));
+	EXPECT_GT(Added.NodePosX, Kept.NodePosX);
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+}
+
+TEST_F(FGraphFormatterTest, LoopsAndValuesOfThemselvesAreLaidOutToo)
+{
+	UEdGraphNode& First = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& Second = Call("KismetSystemLibrary.PrintString");
+	Link(First, TEXT("then"), Second, TEXT("execute"));
+	Link(Second, TEXT("then"), First, TEXT("execute"));
+	UEdGraphNode& A = Call("KismetMathLibrary.Add_IntInt");
+	UEdGraphNode& B = Call("KismetMathLibrary.Add_IntInt");
+	Link(A, TEXT("ReturnValue"), B, TEXT("A"));
+	Link(B, TEXT("ReturnValue"), A, TEXT("A"));
+	FormatAll();
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+	EXPECT_NE(First.NodePosX, Second.NodePosX);
+}
+
+TEST_F(FGraphFormatterTest, ACommentGoesWithTheNodesThatLieOnIt)
+{
+	UEdGraphNode& Event = Place<UK2Node_CustomEvent>();
+	UEdGraphNode& Print = Call("KismetSystemLibrary.PrintString");
+	Link(Event, TEXT("then"), Print, TEXT("execute"));
+	Print.NodePosX = 3000;
+	Print.NodePosY = 900;
+	UEdGraphNode_Comment& Comment = Place<UEdGraphNode_Comment>();
+	Comment.NodePosX = 2900;
+	Comment.NodePosY = 800;
+	Comment.NodeWidth = 600;
+	Comment.NodeHeight = 600;
+	UEdGraphNode_Comment& Elsewhere = Place<UEdGraphNode_Comment>();
+	Elsewhere.NodePosY = 9000;
+	Elsewhere.NodeWidth = 500;
+	FormatAll();
+	EXPECT_LT(Print.NodePosX, 1000);
+	const FBox2D Bounds = FCommentFrames::GetBounds(Comment);
+	EXPECT_TRUE(Bounds.IsInside(FCommentFrames::GetBounds(Print).Min) && Bounds.IsInside(FCommentFrames::GetBounds(Print).Max));
+	EXPECT_FALSE(Bounds.IsInside(FCommentFrames::GetBounds(Event).Min));
+	EXPECT_EQ(9000, Elsewhere.NodePosY);
+	EXPECT_EQ(500, Elsewhere.NodeWidth);
+}
+
+TEST_F(FGraphFormatterTest, TheTextsOfTheRealEditorAreLaidOutWithoutOverlapsAndTwiceTheSame)
+{
+	const std::filesystem::path Folder = std::filesystem::path(VEXEL_SOURCE_DIR) / "../shared/samples/t3d";
+	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Folder))
+	{
+		FString Text;
+		if (Entry.is_regular_file() && FFileHelper::LoadFileToString(Text, *FString(UTF8_TO_TCHAR(Entry.path().c_str()))))
+		{
+			TSet<UEdGraphNode*> Pasted;
+			FEdGraphUtilities::ImportNodesFromText(EventGraph, Text, Pasted);
+		}
+	}
+	ASSERT_GT(EventGraph->Nodes.Num(), 60);
+	FormatAll();
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+	const TArray<FIntPoint> Once = GetPositions();
+	FormatAll();
+	EXPECT_TRUE(Once == GetPositions());
+}
+}
