@@ -3,6 +3,7 @@
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
 #include "EdGraph/EdGraphPin.h"
+#include "EdGraph/EdGraphSchema.h"
 #include "Lum/LumErrors.h"
 #include "UObject/WeakObjectPtr.h"
 #include "VexelExpected.h"
@@ -12,6 +13,8 @@ class FProperty;
 class ILumCompound;
 class ILumProperty;
 class ILumPropertyCollector;
+class UBlueprint;
+class UEdGraph;
 class UObject;
 class UStruct;
 
@@ -70,6 +73,10 @@ public:
 
 	/** The type id of a property's values. */
 	static TVexelExpected<TVexelPropTypeId> GetPropertyTypeId(const FProperty& Property);
+
+	/** Adds a function to the Blueprint, which can be undone. The name must be nobody's in it. */
+	static TVexelExpected<UEdGraph*> AddGraphToBlueprint(UBlueprint& Blueprint, const FString& Name, EGraphType Type);
+	static TVexelExpected<void> RemoveGraphFromBlueprint(UEdGraph& Graph);
 
 	/** A pin's default as a string: object pins as references, the common math structs as their components. */
 	static TVexelExpected<TSharedRef<FJsonValue>> GetPinDefaultValueAsJsonValue(const UEdGraphPin& Pin);

@@ -1,6 +1,12 @@
 #include "Tools/VexelToolManager.h"
 
+#include "Tools/Blueprint/VexelToolBlueprintCompile.h"
+#include "Tools/Blueprint/VexelToolBlueprintGraphAdd.h"
+#include "Tools/Blueprint/VexelToolBlueprintGraphRemove.h"
 #include "Tools/Blueprint/VexelToolBlueprintLoad.h"
+#include "Tools/Blueprint/VexelToolBlueprintNodeLink.h"
+#include "Tools/Blueprint/VexelToolBlueprintNodeRemove.h"
+#include "Tools/Blueprint/VexelToolBlueprintNodeSpawn.h"
 
 namespace
 {
@@ -25,13 +31,13 @@ struct FToolTableRow
 
 /** The vocabulary shared with the service: name, icon, text while running, text when done, what performs it. */
 const FToolTableRow ToolTable[] = {
-	{{TEXT("compile"), IconCompile, TEXT("Compiling blueprint"), TEXT("Interpreting compilation results...")}, Make<FVexelToolUnavailable>},
-	{{TEXT("graph_add"), IconEdit, TEXT("Creating function graph..."), TEXT("Function graph created")}, Make<FVexelToolUnavailable>},
-	{{TEXT("graph_remove"), IconEdit, TEXT("Removing function graph..."), TEXT("Function graph removed")}, Make<FVexelToolUnavailable>},
+	{{TEXT("compile"), IconCompile, TEXT("Compiling blueprint"), TEXT("Interpreting compilation results...")}, Make<FVexelToolBlueprintCompile>},
+	{{TEXT("graph_add"), IconEdit, TEXT("Creating function graph..."), TEXT("Function graph created")}, Make<FVexelToolBlueprintGraphAdd>},
+	{{TEXT("graph_remove"), IconEdit, TEXT("Removing function graph..."), TEXT("Function graph removed")}, Make<FVexelToolBlueprintGraphRemove>},
 	{{TEXT("read_blueprint"), IconRead, TEXT("Loading blueprint"), TEXT("Blueprint loaded")}, Make<FVexelToolBlueprintLoad>},
-	{{TEXT("node_link"), IconEdit, TEXT("Linking nodes..."), TEXT("Nodes linked")}, Make<FVexelToolUnavailable>},
-	{{TEXT("node_remove"), IconEdit, TEXT("Removing nodes..."), TEXT("Nodes removed")}, Make<FVexelToolUnavailable>},
-	{{TEXT("node_spawn"), IconEdit, TEXT("Spawning nodes..."), TEXT("Nodes spawned")}, Make<FVexelToolUnavailable>},
+	{{TEXT("node_link"), IconEdit, TEXT("Linking nodes..."), TEXT("Nodes linked")}, Make<FVexelToolBlueprintNodeLink>},
+	{{TEXT("node_remove"), IconEdit, TEXT("Removing nodes..."), TEXT("Nodes removed")}, Make<FVexelToolBlueprintNodeRemove>},
+	{{TEXT("node_spawn"), IconEdit, TEXT("Spawning nodes..."), TEXT("Nodes spawned")}, Make<FVexelToolBlueprintNodeSpawn>},
 	{{TEXT("object_edit"), IconEdit, TEXT("Editing blueprint objects..."), TEXT("Object edits applied")}, Make<FVexelToolUnavailable>},
 	{{TEXT("search_node"), IconSearch, TEXT("Browsing nodes..."), TEXT("Interpreting nodes...")}, Make<FVexelToolUnavailable>},
 	{{TEXT("search_type"), IconSearch, TEXT("Browsing types..."), TEXT("Interpreting types...")}, Make<FVexelToolUnavailable>},

@@ -1,0 +1,217 @@
+#include "Blueprint/VexelBlueprintManipulator.h"
+
+#include "Blueprint/VexelBlueprintMapping.h"
+#include "Blueprint/VexelNodeTypeIndex.h"
+#include "GraphFormatter/GraphFormatter.h"
+
+#include "BlueprintNodeSpawner.h"
+#include "EdGraph/EdGraph.h"
+#include "EdGraph/EdGraphSchema.h"
+#include "Engine/Blueprint.h"
+#include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/CompilerResultsLog.h"
+#include "Kismet2/KismetEditorUtilities.h"
+#include "ScopedTransaction.h"
+
+namespace
+{
+/** Both spacings of a layout, in units of the graph. */
+constexpr double LayoutSpacing = 200.0;
+/** Type ids that an unknown one is answered with. */
+constexpr int32 MaxNearestTypes = 5;
+
+FVexelError_BlueprintManipulationFailed MakeError(const FVexelErrorPlace& Place, FString Detail)
+{
+	return FVexelError_BlueprintManipulationFailed(Place, MoveTemp(Detail));
+}
+
+void SetDefault(const UEdGraphSchema& Schema, UEdGraphPin& Pin, const FString& Value)
+{
+	const FString Before = Pin.GetDefaultAsString();
+	Schema.TrySetDefaultValue(Pin, Value);
+	// What the pin cannot hold stays as it was given, for the compile to say what is wrong with it.
+	if (Pin.GetDefaultAsString() == Before && Before != Value)
+	{
+		Pin.DefaultValue = Value;
+	}
+}
+
+FString ListPins(const UEdGraphNode& Node, FVexelBlueprintMapping& Mapping)
+{
+	TArray<FString> Names;
+	for (const UEdGraphPin* const Pin : Node.Pins)
+	{
+		if (Pin && !Pin->bHidden)
+		{
+			Names.Add(FString::Printf(
+				TEXT("'%s' (%s)"), *Mapping.MakePinReference(*Pin), Pin->Direction == EGPD_Input ? TEXT("input") : TEXT("output")));
+		}
+	}
+	return FString::Join(Names, TEXT(", "));
+}
+}
+
+FVexelBlueprintManipulator::FVexelBlueprintManipulator(UBlueprint& InBlueprint, FVexelBlueprintMapping& InMapping)
+	: Blueprint(&InBlueprint)
+	, Mapping(InMapping)
+{
+}
+
+TVexelExpected<TVexelNodeId> FVexelBlueprintManipulator::SpawnNode(
+	const TVexelGraphId& GraphId, const TVexelNodeTypeId& TypeId, const TArray<TTuple<FName, FString>>& PinDefaults) const
+{
+	VEXEL_TRY(UEdGraph* const Graph, FindGraph(VEXEL_HERE, GraphId));
+	UBlueprintNodeSpawner* Spawner = nullptr;
+	if (TypeId.IsEmpty() || !Mapping.ResolveNodeTypeForGraph(TypeId, *Graph, Spawner) || !Spawner)
+	{
+		return MakeError(VEXEL_HERE, TEXT("Node type is not valid") + ListNearestTypes(TypeId));
+	}
+	FScopedTransaction Transaction(INVTEXT("(Vexel) Spawn Node"));
+	Graph->Modify();
+	UEdGraphNode* const Node = Spawner->Invoke(Graph, IBlueprintNodeBinder::FBindingSet(), Graph->GetGoodPlaceForNewNode());
+	if (!Node)
+	{
+		Transaction.Cancel();
+		return MakeError(VEXEL_HERE, TEXT("Failed to create node from spawner."));
+	}
+	for (const TTuple<FName, FString>& PinDefault : PinDefaults)
+	{
+		if (UEdGraphPin* const Pin = Node->FindPin(PinDefault.Get<0>(), EGPD_MAX))
+		{
+			SetDefault(*Graph->GetSchema(), *Pin, PinDefault.Get<1>());
+		}
+	}
+	FinishEdit();
+	return Mapping.MakeNodeReference(*Node, true);
+}
+
+TVexelExpected<TVexelNodeId> FVexelBlueprintManipulator::RemoveNode(const TVexelGraphId& GraphId, const TVexelNodeId& NodeId) const
+{
+	VEXEL_TRY(UEdGraph* const Graph, FindGraph(VEXEL_HERE, GraphId));
+	VEXEL_TRY(UEdGraphNode* const Node, FindNode(VEXEL_HERE, *Graph, NodeId));
+	const FScopedTransaction Transaction(INVTEXT("(Vexel) Remove Node"));
+	Graph->Modify();
+	FBlueprintEditorUtils::RemoveNode(Blueprint.Get(), Node, true);
+	FinishEdit();
+	return NodeId;
+}
+
+TVexelExpected<TTuple<TVexelNodeId, TVexelNodeId>> FVexelBlueprintManipulator::EditConnection(const TVexelGraphId& GraphId,
+	const TVexelNodeId& FromNode, const TVexelPinId& FromPin, const TVexelNodeId& ToNode, const TVexelPinId& ToPin, const bool bConnect) const
+{
+	VEXEL_TRY(UEdGraph* const Graph, FindGraph(VEXEL_HERE, GraphId));
+	VEXEL_TRY(UEdGraphNode* const From, FindNode(VEXEL_HERE, *Graph, FromNode));
+	VEXEL_TRY(UEdGraphPin* const Source, FindPin(VEXEL_HERE, *From, FromPin));
+	VEXEL_TRY(UEdGraphNode* const To, FindNode(VEXEL_HERE, *Graph, ToNode));
+	VEXEL_TRY(UEdGraphPin* const Target, FindPin(VEXEL_HERE, *To, ToPin));
+	const UEdGraphSchema& Schema = *Graph->GetSchema();
+	const FPinConnectionResponse Response = Schema.CanCreateConnection(Source, Target);
+	if (bConnect && !Response.CanSafeConnect() && Response.Response == CONNECT_RESPONSE_DISALLOW)
+	{
+		return MakeError(VEXEL_HERE, FString::Printf(TEXT("Connection not allowed from '%s'.'%s' to '%s'.'%s': %s"), *FromNode, *FromPin, *ToNode, *ToPin, *Response.Message.ToString()));
+	}
+	if (!bConnect && !Source->LinkedTo.Contains(Target))
+	{
+		return MakeError(VEXEL_HERE,
+			FString::Printf(TEXT("No connection found from '%s'.'%s' to '%s'.'%s'"), *FromNode, *FromPin, *ToNode, *ToPin));
+	}
+
+	FScopedTransaction Transaction(INVTEXT("(Vexel) Edit connection"));
+	Graph->Modify();
+	Source->Modify();
+	Target->Modify();
+	if (!bConnect)
+	{
+		Schema.BreakSinglePinLink(Source, Target);
+	}
+	else if (!Schema.TryCreateConnection(Source, Target))
+	{
+		Transaction.Cancel();
+		return MakeError(VEXEL_HERE,
+			FString::Printf(TEXT("Connection not allowed from '%s'.'%s' to '%s'.'%s'"), *FromNode, *FromPin, *ToNode, *ToPin));
+	}
+	FinishEdit();
+	return TTuple<TVexelNodeId, TVexelNodeId>(Mapping.MakeNodeReference(*From, true), Mapping.MakeNodeReference(*To, true));
+}
+
+TVexelExpected<void> FVexelBlueprintManipulator::FormatSelectedNodes(const TVexelGraphId& GraphId, const TArray<TVexelNodeId>& NodeIds) const
+{
+	VEXEL_TRY(UEdGraph* const Graph, FindGraph(VEXEL_HERE, GraphId));
+	TArray<UEdGraphNode*> Nodes;
+	for (const TVexelNodeId& NodeId : NodeIds)
+	{
+		VEXEL_TRY(UEdGraphNode* const Node, FindNode(VEXEL_HERE, *Graph, NodeId));
+		Nodes.Add(Node);
+	}
+	const FScopedTransaction Transaction(INVTEXT("(Vexel) Format nodes"));
+	GraphFormatter::FormatSelectedNodes(*Graph, Nodes, LayoutSpacing, LayoutSpacing);
+	FinishEdit();
+	return {};
+}
+
+TVexelTaskResult<TSharedRef<FCompilerResultsLog>> FVexelBlueprintManipulator::CompileBlueprint() const
+{
+	return TVexelTaskResult<void>(TVexelExpected<void>()).ThenOn(EVexelTaskThread::GameThread, [Compiled = Blueprint]() -> TVexelExpected<TSharedRef<FCompilerResultsLog>>
+		{
+			UBlueprint* const Target = Compiled.Get();
+			if (!Target)
+			{
+				return MakeError(VEXEL_HERE, TEXT("Blueprint is invalid."));
+			}
+			const TSharedRef<FCompilerResultsLog> Log = MakeShared<FCompilerResultsLog>(true);
+			FBlueprintEditorUtils::RefreshAllNodes(Target);
+			FKismetEditorUtilities::CompileBlueprint(Target, EBlueprintCompileOptions::None, &Log.Get());
+			return Log; });
+}
+
+TVexelExpected<UEdGraph*> FVexelBlueprintManipulator::FindGraph(const FVexelErrorPlace& Place, const TVexelGraphId& GraphId) const
+{
+	if (!Blueprint.IsValid())
+	{
+		return MakeError(Place, TEXT("Blueprint is invalid."));
+	}
+	UEdGraph* Graph = nullptr;
+	if (!Mapping.ResolveGraphInBlueprint(GraphId, *Blueprint, Graph))
+	{
+		return MakeError(Place, TEXT("Graph reference is invalid or does not exist in the blueprint."));
+	}
+	return Graph;
+}
+
+TVexelExpected<UEdGraphNode*> FVexelBlueprintManipulator::FindNode(
+	const FVexelErrorPlace& Place, const UEdGraph& Graph, const TVexelNodeId& NodeId) const
+{
+	UEdGraphNode* Node = nullptr;
+	if (!Mapping.ResolveNodeInGraph(NodeId, Graph, Node))
+	{
+		return MakeError(Place, FString::Printf(TEXT("Node '%s' not found in the graph '%s'"), *NodeId, *Mapping.MakeGraphReference(Graph)));
+	}
+	return Node;
+}
+
+TVexelExpected<UEdGraphPin*> FVexelBlueprintManipulator::FindPin(
+	const FVexelErrorPlace& Place, const UEdGraphNode& Node, const TVexelPinId& PinId) const
+{
+	UEdGraphPin* Pin = nullptr;
+	if (!Mapping.ResolvePinInNode(PinId, Node, Pin))
+	{
+		return MakeError(Place, FString::Printf(TEXT("Pin '%s' not found in node '%s'. Its pins: %s"), *PinId, *Mapping.MakeNodeReference(Node, false), *ListPins(Node, Mapping)));
+	}
+	return Pin;
+}
+
+FString FVexelBlueprintManipulator::ListNearestTypes(const TVexelNodeTypeId& TypeId) const
+{
+	TArray<FString> Names;
+	for (const TVexelNodeTypeId& Nearest : FVexelNodeTypeIndex::Get().FindNearest(TypeId, MaxNearestTypes))
+	{
+		Names.Add(FString::Printf(TEXT("'%s'"), *Nearest));
+	}
+	return Names.IsEmpty() ? FString() : TEXT(". Nearest: ") + FString::Join(Names, TEXT(", "));
+}
+
+void FVexelBlueprintManipulator::FinishEdit() const
+{
+	FBlueprintEditorUtils::RefreshAllNodes(Blueprint.Get());
+	FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint.Get());
+}
