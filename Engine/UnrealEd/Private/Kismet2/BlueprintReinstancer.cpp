@@ -305,6 +305,12 @@ void FBlueprintCompileReinstancer::ApplyVariableDefaults(const FRebuiltClass& Re
 	}
 }
 
+bool FBlueprintCompileReinstancer::AreSkeletonsWithoutInstances() const
+{
+	return !Classes.ContainsByPredicate([](const FRebuiltClass& Rebuilt)
+		{ return Rebuilt.Blueprint->SkeletonGeneratedClass.Get() != Rebuilt.Class || !Rebuilt.OldInstances.IsEmpty(); });
+}
+
 void FBlueprintCompileReinstancer::ReplaceObjects()
 {
 	UObject* const Transient = GetTransientPackageAsObject();
@@ -329,7 +335,8 @@ void FBlueprintCompileReinstancer::ReplaceObjects()
 			Replacements.Add(Old, New);
 		}
 	}
-	if (Replacements.Num() > 0)
+	// To look through every object takes long, and skeletons are made again at every edit.
+	if (Replacements.Num() > 0 && !AreSkeletonsWithoutInstances())
 	{
 		UE::CoreUObject::ReplaceObjectReferences(Replacements);
 	}

@@ -43,6 +43,8 @@ private:
 	/** Ids of the old properties of the class and of the ancestors that are rebuilt with it, by their old names. */
 	TMap<FName, FGuid> GetOldPropertyGuids(const FRebuiltClass& Rebuilt) const;
 	static void ApplyVariableDefaults(const FRebuiltClass& Rebuilt, TArray<FString>& OutErrors);
+	/** The default objects of such classes are reached through their classes alone. */
+	bool AreSkeletonsWithoutInstances() const;
 	void ReplaceObjects();
 
 	/** Parents first. */
