@@ -212,6 +212,25 @@ FString FVexelBlueprintManipulator::ListNearestTypes(const TVexelNodeTypeId& Typ
 
 void FVexelBlueprintManipulator::FinishEdit() const
 {
-	FBlueprintEditorUtils::RefreshAllNodes(Blueprint.Get());
-	FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint.Get());
+	bUnfinished = true;
+	if (!bFinishLater)
+	{
+		Refresh();
+	}
+}
+
+void FVexelBlueprintManipulator::Refresh() const
+{
+	if (bUnfinished && Blueprint.IsValid())
+	{
+		bUnfinished = false;
+		FBlueprintEditorUtils::RefreshAllNodes(Blueprint.Get());
+		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint.Get());
+	}
+}
+
+FVexelBlueprintManipulator::FBatch::~FBatch()
+{
+	Manipulator.bFinishLater = false;
+	Manipulator.Refresh();
 }

@@ -25,6 +25,25 @@ public:
 	/** Both stay the caller's; the Blueprint may go meanwhile. */
 	FVexelBlueprintManipulator(UBlueprint& InBlueprint, FVexelBlueprintMapping& InMapping);
 
+	/**
+	 * Held over many edits: what ends each of them, the refresh of all nodes and of the Blueprint's members, is done once, at the end of the
+	 * scope. The manipulator must outlive it.
+	 */
+	class FBatch
+	{
+	public:
+		explicit FBatch(const FVexelBlueprintManipulator& InManipulator)
+			: Manipulator(InManipulator)
+		{
+			Manipulator.bFinishLater = true;
+		}
+		~FBatch();
+		UE_NONCOPYABLE(FBatch)
+
+	private:
+		const FVexelBlueprintManipulator& Manipulator;
+	};
+
 	/** Places a node of the type at a free spot. Values for pins that it does not have are passed over. */
 	TVexelExpected<TVexelNodeId> SpawnNode(
 		const TVexelGraphId& GraphId, const TVexelNodeTypeId& TypeId, const TArray<TTuple<FName, FString>>& PinDefaults) const;
@@ -48,7 +67,11 @@ private:
 	TVexelExpected<UEdGraphPin*> FindPin(const FVexelErrorPlace& Place, const UEdGraphNode& Node, const TVexelPinId& PinId) const;
 	FString ListNearestTypes(const TVexelNodeTypeId& TypeId) const;
 	void FinishEdit() const;
+	void Refresh() const;
 
 	TWeakObjectPtr<UBlueprint> Blueprint;
 	FVexelBlueprintMapping& Mapping;
+	/** A batch is open, and one of its edits has been made. */
+	mutable bool bFinishLater = false;
+	mutable bool bUnfinished = false;
 };

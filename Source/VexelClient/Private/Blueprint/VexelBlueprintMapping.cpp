@@ -3,6 +3,7 @@
 #include "Blueprint/Builders/VexelBlueprintNodeTypeIdBuilder.h"
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Blueprint/VexelBlueprintNodeType.h"
+#include "Blueprint/VexelComponentEventType.h"
 #include "Blueprint/VexelNodeTypeIndex.h"
 #include "Blueprint/VexelVariableNodeType.h"
 #include "VexelLog.h"
@@ -49,11 +50,18 @@ struct FNodeTypePlace
 
 UBlueprintNodeSpawner* FindSpawner(const TVexelNodeTypeId& Id, const FNodeTypePlace& Place)
 {
-	const auto Find = [&Id, &Place]
+	const auto Find = [&Id, &Place]() -> UBlueprintNodeSpawner*
 	{
-		UBlueprintNodeSpawner* const Variable = VexelVariableNodeType::MakeSpawner(Id, Place.Blueprint, Place.Graph);
+		if (UBlueprintNodeSpawner* const Variable = VexelVariableNodeType::MakeSpawner(Id, Place.Blueprint, Place.Graph))
+		{
+			return Variable;
+		}
+		if (UBlueprintNodeSpawner* const Event = VexelComponentEventType::MakeSpawner(Id, Place.Blueprint))
+		{
+			return Event;
+		}
 		// The database knows locals of other functions too.
-		return Variable || VexelVariableNodeType::IsLocal(Id) ? Variable : FVexelNodeTypeIndex::Get().Find(Id);
+		return VexelVariableNodeType::IsLocal(Id) ? nullptr : FVexelNodeTypeIndex::Get().Find(Id);
 	};
 	return IsInGameThread() ? Find() : Async(EAsyncExecution::TaskGraphMainThread, Find).Get();
 }

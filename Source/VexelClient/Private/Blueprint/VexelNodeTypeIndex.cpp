@@ -5,6 +5,7 @@
 
 #include "Algo/Sort.h"
 #include "BlueprintActionDatabase.h"
+#include "BlueprintBoundEventNodeSpawner.h"
 #include "BlueprintNodeSpawner.h"
 #include "EdGraph/EdGraphNode.h"
 
@@ -123,7 +124,9 @@ void FVexelNodeTypeIndex::AddEntry(const FObjectKey& Key, const TArray<TObjectPt
 	const uint64 EntryOrder = static_cast<uint64>(NextEntryOrder++) << 32;
 	for (int32 Index = 0; Index < Actions.Num(); ++Index)
 	{
-		const UEdGraphNode* const Template = Actions[Index] ? Actions[Index]->GetTemplateNode() : nullptr;
+		// An event of a component or a placed actor is nothing until it is bound to one.
+		const bool bIsWhole = Actions[Index] && !Actions[Index]->IsA<UBlueprintBoundEventNodeSpawner>();
+		const UEdGraphNode* const Template = bIsWhole ? Actions[Index]->GetTemplateNode() : nullptr;
 		TVexelNodeTypeId Id = Template ? Mapping.MakeNodeTypeReference(*Template) : TVexelNodeTypeId();
 		if (!Id.IsEmpty())
 		{

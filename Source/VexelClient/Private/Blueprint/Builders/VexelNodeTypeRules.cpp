@@ -187,9 +187,10 @@ FString MakeTemporaryId(const UK2Node_TemporaryVariable& Node, FVexelBlueprintMa
 
 FString MakeDelegateId(const UK2Node_BaseMCDelegate& Node, const TCHAR* Verb)
 {
-	const FMemberReference& Reference = Node.DelegateReference;
-	return FString::Printf(TEXT("delegate.%s.%s%s"), Verb, *MakeOwnerPrefix(Reference.GetMemberParentClass(Node.GetBlueprintClassFromNode())),
-		*Reference.GetMemberName().ToString());
+	const FProperty* const Dispatcher = Node.GetProperty();
+	const UClass* const Owner =
+		Dispatcher ? Dispatcher->GetOwnerClass() : Node.DelegateReference.GetMemberParentClass(Node.GetBlueprintClassFromNode());
+	return FString::Printf(TEXT("delegate.%s.%s%s"), Verb, *MakeOwnerPrefix(Owner), *Node.GetPropertyName().ToString());
 }
 
 FString MakeAsyncId(const UEdGraphNode& Node)

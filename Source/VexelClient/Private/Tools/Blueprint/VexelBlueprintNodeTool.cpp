@@ -21,8 +21,11 @@ TVexelExpected<TSharedRef<FJsonObject>> FVexelNodeToolInput::Run(
 		return FVexelError_ToolInvalidInput(VEXEL_HERE, FString(GraphMissing).Replace(TEXT("%s"), *Graph, ESearchCase::CaseSensitive));
 	}
 	FErrors Errors;
-	Apply(FVexelBlueprintManipulator(Target.GetBlueprint(), *Mapping), Errors);
-
+	{
+		const FVexelBlueprintManipulator Manipulator(Target.GetBlueprint(), *Mapping);
+		const FVexelBlueprintManipulator::FBatch Batch(Manipulator);
+		Apply(Manipulator, Errors);
+	}
 	VEXEL_TRY(const TSharedRef<FJsonObject> Exported, Target.Export());
 	const TSharedRef<FJsonObject> Answer = MakeShared<FJsonObject>();
 	Answer->SetObjectField(TEXT("blueprint"), Exported);

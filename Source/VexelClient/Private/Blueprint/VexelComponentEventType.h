@@ -1,0 +1,17 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "VexelId.h"
+
+class UBlueprint;
+class UBlueprintNodeSpawner;
+
+/** Node types of events that components send. An action of such an event is nothing without the component that a graph's menu binds it to. */
+namespace VexelComponentEventType
+{
+/**
+ * What makes the node of "event.PrimitiveComponent.OnComponentBeginOverlap.Box": the event of a dispatcher that the owner declares, sent by
+ * the component of the Blueprint. Null where the id names no such event.
+ */
+UBlueprintNodeSpawner* MakeSpawner(const TVexelNodeTypeId& Id, const UBlueprint& Blueprint);
+}
