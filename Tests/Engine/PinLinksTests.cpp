@@ -104,7 +104,8 @@ TEST_F(FPinLinksTest, AnyMixOfEditsLeavesEveryReferenceMutual)
 				break;
 			case 8:
 			{
-				UEdGraphPin* const SubPin = Pin->GetOwningNode()->CreatePin(EGPD_Input, FName(TEXT("real")), FName(*FString::Printf(TEXT("Sub_%d"), Step)));
+				UEdGraphPin* const SubPin = Pin->GetOwningNode()->CreatePin(
+					EGPD_Input, FName(TEXT("real")), FName(*FString::Printf(TEXT("Sub_%d"), Step)));
 				SubPin->ParentPin = Pin;
 				Pin->SubPins.Add(SubPin);
 				break;
@@ -162,8 +163,9 @@ TEST_F(FPinLinksTest, HandlersHearOfNodesThatComeAndGoUntilTheyAreRemoved)
 {
 	UEdGraph* const Graph = MakeGraph();
 	int32 NumChanges = 0;
-	const FDelegateHandle Handle = Graph->AddOnGraphChangedHandler(UEdGraph::FOnGraphChanged::FDelegate::CreateLambda([&NumChanges](const FEdGraphEditAction&)
-		{ ++NumChanges; }));
+	const FDelegateHandle Handle = Graph->AddOnGraphChangedHandler(
+		UEdGraph::FOnGraphChanged::FDelegate::CreateLambda([&NumChanges](const FEdGraphEditAction&)
+			{ ++NumChanges; }));
 	UEdGraphNode* const First = MakeNode(*Graph, nullptr, TEXT("Out"));
 	EXPECT_EQ(NumChanges, 1);
 	EXPECT_TRUE(Graph->RemoveNode(First));

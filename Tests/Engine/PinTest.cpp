@@ -100,7 +100,8 @@ TEST_F(FPinTest, TextKeepsEveryField)
 
 TEST_F(FPinTest, BrokenTextMakesNoPinAndSaysWhy)
 {
-	for (const TCHAR* const Text : {TEXT("Pin (PinName=\"a"), TEXT("Pin PinName=\"a\""), TEXT("Pin (PinName)"), TEXT("Pin ("), TEXT("Pin (PinName=(((((,)")})
+	for (const TCHAR* const Text :
+		{TEXT("Pin (PinName=\"a"), TEXT("Pin PinName=\"a\""), TEXT("Pin (PinName)"), TEXT("Pin ("), TEXT("Pin (PinName=(((((,)")})
 	{
 		UEdGraphNode* const Node = MakeNode(*MakeGraph(), nullptr, nullptr);
 		FComplaints Complaints;

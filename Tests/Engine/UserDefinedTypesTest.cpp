@@ -49,7 +49,9 @@ TEST_F(FUserDefinedTypesTest, ValuesAreWrittenByMemberIdsAndReadByWhatTheUserTyp
 	TArray<uint8> Memory;
 	Memory.SetNumZeroed(Struct->GetStructureSize());
 	Struct->InitializeStruct(Memory.GetData());
-	ASSERT_NE(Struct->ImportText(TEXT("(Weather=NewEnumerator3,Rain (mm)=2.5)"), Memory.GetData(), nullptr, PPF_None, nullptr, TEXT("S_Day")), nullptr);
+	ASSERT_NE(
+		Struct->ImportText(TEXT("(Weather=NewEnumerator3,Rain (mm)=2.5)"), Memory.GetData(), nullptr, PPF_None, nullptr, TEXT("S_Day")),
+		nullptr);
 	FString Text;
 	Struct->ExportText(Text, Memory.GetData(), nullptr, nullptr, PPF_None, nullptr);
 	EXPECT_EQ(Text,

@@ -56,21 +56,21 @@ const TArray<FKey>& GetButtons()
 {
 	static const TArray<FKey> Keys = ReadKeys(
 		TEXT("AnyKey MouseScrollUp MouseScrollDown LeftMouseButton RightMouseButton MiddleMouseButton ThumbMouseButton ThumbMouseButton2 ")
-			TEXT("BackSpace Tab Enter Pause CapsLock Escape SpaceBar PageUp PageDown End Home Left Up Right Down Insert Delete ")
-				TEXT("Zero One Two Three Four Five Six Seven Eight Nine ")
-					TEXT("A B C D E F G H I J K L M N O P Q R S T U V W X Y Z ")
-						TEXT("NumPadZero NumPadOne NumPadTwo NumPadThree NumPadFour NumPadFive NumPadSix NumPadSeven NumPadEight NumPadNine ")
-							TEXT("Multiply Add Subtract Decimal Divide F1 F2 F3 F4 F5 F6 F7 F8 F9 F10 F11 F12 NumLock ScrollLock ")
-								TEXT("LeftShift RightShift LeftControl RightControl LeftAlt RightAlt LeftCommand RightCommand ")
-									TEXT("Semicolon Equals Comma Underscore Hyphen Period Slash Tilde LeftBracket Backslash RightBracket Apostrophe Quote ")
-										TEXT("Ampersand Asterix Caret Colon Dollar Exclamation LeftParantheses RightParantheses ")
-											TEXT("A_AccentGrave E_AccentGrave E_AccentAigu C_Cedille Section ")
-												TEXT("Gamepad_LeftThumbstick Gamepad_RightThumbstick Gamepad_Special_Left Gamepad_Special_Right ")
-													TEXT("Gamepad_FaceButton_Bottom Gamepad_FaceButton_Right Gamepad_FaceButton_Left Gamepad_FaceButton_Top ")
-														TEXT("Gamepad_LeftShoulder Gamepad_RightShoulder Gamepad_LeftTrigger Gamepad_RightTrigger ")
-															TEXT("Gamepad_DPad_Up Gamepad_DPad_Down Gamepad_DPad_Right Gamepad_DPad_Left ")
-																TEXT("Gamepad_LeftStick_Up Gamepad_LeftStick_Down Gamepad_LeftStick_Right Gamepad_LeftStick_Left ")
-																	TEXT("Gamepad_RightStick_Up Gamepad_RightStick_Down Gamepad_RightStick_Right Gamepad_RightStick_Left"));
+			TEXT("BackSpace Tab Enter Pause CapsLock Escape SpaceBar PageUp PageDown End Home Left Up Right Down Insert Delete ") TEXT(
+				"Zero One Two Three Four Five Six Seven Eight Nine ") TEXT("A B C D E F G H I J K L M N O P Q R S T U V W X Y Z ")
+				TEXT("NumPadZero NumPadOne NumPadTwo NumPadThree NumPadFour NumPadFive NumPadSix NumPadSeven NumPadEight NumPadNine ") TEXT(
+					"Multiply Add Subtract Decimal Divide F1 F2 F3 F4 F5 F6 F7 F8 F9 F10 F11 F12 NumLock ScrollLock ")
+					TEXT("LeftShift RightShift LeftControl RightControl LeftAlt RightAlt LeftCommand RightCommand ") TEXT(
+						"Semicolon Equals Comma Underscore Hyphen Period Slash Tilde LeftBracket Backslash RightBracket Apostrophe Quote ")
+						TEXT("Ampersand Asterix Caret Colon Dollar Exclamation LeftParantheses RightParantheses ")
+							TEXT("A_AccentGrave E_AccentGrave E_AccentAigu C_Cedille Section ")
+								TEXT("Gamepad_LeftThumbstick Gamepad_RightThumbstick Gamepad_Special_Left Gamepad_Special_Right ") TEXT(
+									"Gamepad_FaceButton_Bottom Gamepad_FaceButton_Right Gamepad_FaceButton_Left Gamepad_FaceButton_Top ")
+									TEXT("Gamepad_LeftShoulder Gamepad_RightShoulder Gamepad_LeftTrigger Gamepad_RightTrigger ")
+										TEXT("Gamepad_DPad_Up Gamepad_DPad_Down Gamepad_DPad_Right Gamepad_DPad_Left ") TEXT(
+											"Gamepad_LeftStick_Up Gamepad_LeftStick_Down Gamepad_LeftStick_Right Gamepad_LeftStick_Left ")
+											TEXT("Gamepad_RightStick_Up Gamepad_RightStick_Down Gamepad_RightStick_Right "
+												 "Gamepad_RightStick_Left"));
 	return Keys;
 }
 
@@ -84,7 +84,8 @@ const TArray<FKey>& GetAxes()
 
 const TArray<FKey>& GetVectors()
 {
-	static const TArray<FKey> Keys = ReadKeys(TEXT("Mouse2D Gamepad_Left2D Gamepad_Right2D Gesture_Flick Tilt RotationRate Gravity Acceleration"));
+	static const TArray<FKey> Keys = ReadKeys(
+		TEXT("Mouse2D Gamepad_Left2D Gamepad_Right2D Gesture_Flick Tilt RotationRate Gravity Acceleration"));
 	return Keys;
 }
 }

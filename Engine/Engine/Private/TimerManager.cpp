@@ -68,7 +68,8 @@ uint64 FTimerManager::FindNextDue(uint64 NewestHandle) const
 	double NextDue = Now;
 	for (const TPair<uint64, FTimer>& Pair : Timers)
 	{
-		const bool bEarlier = Next == 0 ? Pair.Value.Due <= NextDue : Pair.Value.Due < NextDue || (Pair.Value.Due == NextDue && Pair.Key < Next);
+		const bool bEarlier = Next == 0 ? Pair.Value.Due <= NextDue
+										: Pair.Value.Due < NextDue || (Pair.Value.Due == NextDue && Pair.Key < Next);
 		if (Pair.Key <= NewestHandle && bEarlier)
 		{
 			Next = Pair.Key;

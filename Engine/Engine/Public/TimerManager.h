@@ -10,10 +10,12 @@ class ENGINE_API FTimerManager
 {
 public:
 	/** InRate in seconds; a rate of 0 or less only clears the handle's timer. InFirstDelay below 0 stands for InRate. */
-	void SetTimer(FTimerHandle& InOutHandle, const FTimerDelegate& InDelegate, float InRate, bool bInLoop = false, float InFirstDelay = -1.0f);
+	void SetTimer(
+		FTimerHandle& InOutHandle, const FTimerDelegate& InDelegate, float InRate, bool bInLoop = false, float InFirstDelay = -1.0f);
 
 	template <class UserClass>
-	void SetTimer(FTimerHandle& InOutHandle, UserClass* InObj, void (UserClass::*InTimerMethod)(), float InRate, bool bInLoop = false, float InFirstDelay = -1.0f)
+	void SetTimer(FTimerHandle& InOutHandle, UserClass* InObj, void (UserClass::*InTimerMethod)(), float InRate, bool bInLoop = false,
+		float InFirstDelay = -1.0f)
 	{
 		SetTimer(InOutHandle, FTimerDelegate::CreateUObject(InObj, InTimerMethod), InRate, bInLoop, InFirstDelay);
 	}
@@ -24,7 +26,10 @@ public:
 	}
 
 	FTimerHandle SetTimerForNextTick(const FTimerDelegate& InDelegate);
-	FTimerHandle SetTimerForNextTick(TFunction<void()>&& Callback) { return SetTimerForNextTick(FTimerDelegate::CreateLambda(MoveTemp(Callback))); }
+	FTimerHandle SetTimerForNextTick(TFunction<void()>&& Callback)
+	{
+		return SetTimerForNextTick(FTimerDelegate::CreateLambda(MoveTemp(Callback)));
+	}
 
 	/** Ends the timer and invalidates the handle. Safe from within the timer's own call. */
 	void ClearTimer(FTimerHandle& InHandle);

@@ -15,7 +15,8 @@ void FGraphReference::SetGraph(UEdGraph* InGraph)
 
 UEdGraph* FGraphReference::GetGraph() const
 {
-	if (MacroGraph)
+	// A graph that was removed lives on, outside of its Blueprint, for an undo to bring it back.
+	if (MacroGraph && (!GraphBlueprint || MacroGraph->IsIn(GraphBlueprint)))
 	{
 		return MacroGraph;
 	}
@@ -27,8 +28,11 @@ UEdGraph* FGraphReference::GetGraph() const
 	GraphBlueprint->GetAllGraphs(Graphs);
 	UEdGraph* const* const Found = Graphs.FindByPredicate([this](const UEdGraph* Graph)
 		{ return Graph->GraphGuid == GraphGuid; });
-	MacroGraph = Found ? *Found : nullptr;
-	return MacroGraph;
+	if (Found)
+	{
+		MacroGraph = *Found;
+	}
+	return Found ? *Found : nullptr;
 }
 
 UEdGraph::UEdGraph(const FObjectInitializer& ObjectInitializer)
@@ -171,7 +175,8 @@ FVector2D UEdGraph::GetGoodPlaceForNewNode() const
 void UEdGraph::MoveNodesToAnotherGraph(UEdGraph* DestinationGraph, bool bIsLoading, bool bInIsCompiling)
 {
 	check(DestinationGraph && DestinationGraph != this);
-	const ERenameFlagsType RenameFlags = (bIsLoading ? REN_ForceNoResetLoaders : REN_None) | (bInIsCompiling ? REN_NonTransactional | REN_DoNotDirty : REN_None) | REN_DontCreateRedirectors;
+	const ERenameFlagsType RenameFlags = (bIsLoading ? REN_ForceNoResetLoaders : REN_None) |
+		(bInIsCompiling ? REN_NonTransactional | REN_DoNotDirty : REN_None) | REN_DontCreateRedirectors;
 	DestinationGraph->Modify();
 	Modify();
 	TArray<TObjectPtr<UEdGraphNode>> Moving = MoveTemp(Nodes);

@@ -66,25 +66,29 @@ UEdGraphPin* UEdGraphNode::CreatePin(EEdGraphPinDirection Dir, const FEdGraphPin
 	return NewPin;
 }
 
-UEdGraphPin* UEdGraphNode::CreatePin(
-	EEdGraphPinDirection Dir, const FName PinCategory, const FName PinSubCategory, UObject* PinSubCategoryObject, const FName PinName, const FCreatePinParams& PinParams)
+UEdGraphPin* UEdGraphNode::CreatePin(EEdGraphPinDirection Dir, const FName PinCategory, const FName PinSubCategory,
+	UObject* PinSubCategoryObject, const FName PinName, const FCreatePinParams& PinParams)
 {
-	FEdGraphPinType PinType(PinCategory, PinSubCategory, PinSubCategoryObject, PinParams.ContainerType, PinParams.bIsReference, PinParams.ValueTerminalType);
+	FEdGraphPinType PinType(
+		PinCategory, PinSubCategory, PinSubCategoryObject, PinParams.ContainerType, PinParams.bIsReference, PinParams.ValueTerminalType);
 	PinType.bIsConst = PinParams.bIsConst;
 	return CreatePin(Dir, PinType, PinName, PinParams.Index);
 }
 
-UEdGraphPin* UEdGraphNode::CreatePin(EEdGraphPinDirection Dir, const FName PinCategory, const FName PinName, const FCreatePinParams& PinParams)
+UEdGraphPin* UEdGraphNode::CreatePin(
+	EEdGraphPinDirection Dir, const FName PinCategory, const FName PinName, const FCreatePinParams& PinParams)
 {
 	return CreatePin(Dir, PinCategory, NAME_None, nullptr, PinName, PinParams);
 }
 
-UEdGraphPin* UEdGraphNode::CreatePin(EEdGraphPinDirection Dir, const FName PinCategory, const FName PinSubCategory, const FName PinName, const FCreatePinParams& PinParams)
+UEdGraphPin* UEdGraphNode::CreatePin(
+	EEdGraphPinDirection Dir, const FName PinCategory, const FName PinSubCategory, const FName PinName, const FCreatePinParams& PinParams)
 {
 	return CreatePin(Dir, PinCategory, PinSubCategory, nullptr, PinName, PinParams);
 }
 
-UEdGraphPin* UEdGraphNode::CreatePin(EEdGraphPinDirection Dir, const FName PinCategory, UObject* PinSubCategoryObject, const FName PinName, const FCreatePinParams& PinParams)
+UEdGraphPin* UEdGraphNode::CreatePin(EEdGraphPinDirection Dir, const FName PinCategory, UObject* PinSubCategoryObject, const FName PinName,
+	const FCreatePinParams& PinParams)
 {
 	return CreatePin(Dir, PinCategory, NAME_None, PinSubCategoryObject, PinName, PinParams);
 }
@@ -304,7 +308,8 @@ void UEdGraphNode::MakeAutomaticallyPlacedGhostNode()
 {
 	EnabledState = ENodeEnabledState::Disabled;
 	bUserSetEnabledState = false;
-	NodeComment = LOCTEXT("DefaultEventHelpMessage", "This node is disabled and will not be called.\nDrag off pins to build functionality.").ToString();
+	NodeComment = LOCTEXT("DefaultEventHelpMessage", "This node is disabled and will not be called.\nDrag off pins to build functionality.")
+					  .ToString();
 	bCommentBubblePinned = false;
 	bCommentBubbleVisible = false;
 }
@@ -465,7 +470,8 @@ void UEdGraphNode::ConvertDeprecatedPins()
 		{
 			continue;
 		}
-		UEdGraphPin* const Pin = CreatePin(OldPin->Direction, OldPin->PinType, OldPin->PinName.IsEmpty() ? FName() : FName(*OldPin->PinName));
+		UEdGraphPin* const Pin = CreatePin(
+			OldPin->Direction, OldPin->PinType, OldPin->PinName.IsEmpty() ? FName() : FName(*OldPin->PinName));
 		Converted.Add(OldPin, Pin);
 		Pin->PinId = MakeId(*OldPin);
 		Pin->PinFriendlyName = OldPin->PinFriendlyName;

@@ -43,7 +43,8 @@ void AppendPinType(FString& Out, const FEdGraphPinType& PinType, int32 PortFlags
 		Out += TEXT("PinType.");
 		Out += It->GetName();
 		Out += TEXT("=");
-		It->ExportTextItem_Direct(Out, It->ContainerPtrToValuePtr<void>(&PinType), It->ContainerPtrToValuePtr<void>(&DefaultType), nullptr, PortFlags | PPF_Delimited);
+		It->ExportTextItem_Direct(Out, It->ContainerPtrToValuePtr<void>(&PinType), It->ContainerPtrToValuePtr<void>(&DefaultType), nullptr,
+			PortFlags | PPF_Delimited);
 		Out += TEXT(",");
 	}
 }

@@ -271,7 +271,8 @@ private:
 		{
 			return;
 		}
-		if (!Property->ImportText_Direct(*Value, Property->ContainerPtrToValuePtr<void>(&Pin.PinType), Parent, PortFlags | PPF_Delimited, ErrorText))
+		if (!Property->ImportText_Direct(
+				*Value, Property->ContainerPtrToValuePtr<void>(&Pin.PinType), Parent, PortFlags | PPF_Delimited, ErrorText))
 		{
 			Fail(*FString::Printf(TEXT("'%s' is no value of PinType.%s"), *Value.Left(256), *Member));
 		}
@@ -297,7 +298,8 @@ private:
 		FString NodeName;
 		FString PinGuidText;
 		FGuid PinGuid;
-		if (!Reference.TrimStartAndEnd().Split(TEXT(" "), &NodeName, &PinGuidText, ESearchCase::CaseSensitive) || !FGuid::Parse(PinGuidText, PinGuid))
+		if (!Reference.TrimStartAndEnd().Split(TEXT(" "), &NodeName, &PinGuidText, ESearchCase::CaseSensitive) ||
+			!FGuid::Parse(PinGuidText, PinGuid))
 		{
 			Fail(*FString::Printf(TEXT("'%s' is no reference to a pin"), *Reference.Left(128)));
 			return;

@@ -40,7 +40,8 @@ void ConvertToReal(FName& Category, FName& SubCategory)
 /** The names that a package of the archive's version has for a type. */
 void ConvertFromReal(const FArchive& Ar, FName& Category, FName& SubCategory)
 {
-	const bool bIsOldPackage = Ar.IsSaving() && Ar.IsPersistent() && Ar.CustomVer(FUE5ReleaseStreamObjectVersion::GUID) < FUE5ReleaseStreamObjectVersion::BlueprintPinsUseRealNumbers;
+	const bool bIsOldPackage = Ar.IsSaving() && Ar.IsPersistent() &&
+		Ar.CustomVer(FUE5ReleaseStreamObjectVersion::GUID) < FUE5ReleaseStreamObjectVersion::BlueprintPinsUseRealNumbers;
 	if (bIsOldPackage && Category == RealCategory)
 	{
 		Category = FloatCategory;
@@ -226,7 +227,8 @@ bool FEdGraphPinType::Serialize(FArchive& Ar)
 			[this](bool bFlag)
 			{ bIsUObjectWrapper = bFlag; });
 	}
-	if (Ar.CustomVer(FUE5ReleaseStreamObjectVersion::GUID) >= FUE5ReleaseStreamObjectVersion::SerializeFloatPinDefaultValuesAsSinglePrecision)
+	if (Ar.CustomVer(FUE5ReleaseStreamObjectVersion::GUID) >=
+		FUE5ReleaseStreamObjectVersion::SerializeFloatPinDefaultValuesAsSinglePrecision)
 	{
 		SerializeFlag(
 			Ar, [this]

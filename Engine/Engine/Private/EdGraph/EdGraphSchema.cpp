@@ -22,7 +22,8 @@ FString FGraphDisplayInfo::GetNotesAsString() const
 	return Result;
 }
 
-FEdGraphSchemaAction::FEdGraphSchemaAction(FText InNodeCategory, FText InMenuDesc, FText InToolTip, const int32 InGrouping, FText InKeywords, int32 InSectionID)
+FEdGraphSchemaAction::FEdGraphSchemaAction(
+	FText InNodeCategory, FText InMenuDesc, FText InToolTip, const int32 InGrouping, FText InKeywords, int32 InSectionID)
 	: Grouping(InGrouping)
 	, SectionID(InSectionID)
 	, MenuDescription(MoveTemp(InMenuDesc))
@@ -32,7 +33,8 @@ FEdGraphSchemaAction::FEdGraphSchemaAction(FText InNodeCategory, FText InMenuDes
 {
 }
 
-UEdGraphNode* FEdGraphSchemaAction_NewNode::PerformAction(UEdGraph* ParentGraph, UEdGraphPin* FromPin, const FVector2D Location, bool bSelectNewNode)
+UEdGraphNode* FEdGraphSchemaAction_NewNode::PerformAction(
+	UEdGraph* ParentGraph, UEdGraphPin* FromPin, const FVector2D Location, bool bSelectNewNode)
 {
 	if (!NodeTemplate)
 	{
@@ -148,7 +150,8 @@ void UEdGraphSchema::BreakSinglePinLink(UEdGraphPin* SourcePin, UEdGraphPin* Tar
 	SourcePin->GetOwningNode()->NodeConnectionListChanged();
 }
 
-FPinConnectionResponse UEdGraphSchema::MovePinLinks(UEdGraphPin& MoveFromPin, UEdGraphPin& MoveToPin, bool bIsIntermediateMove, bool bNotifyLinkedNodes) const
+FPinConnectionResponse UEdGraphSchema::MovePinLinks(
+	UEdGraphPin& MoveFromPin, UEdGraphPin& MoveToPin, bool bIsIntermediateMove, bool bNotifyLinkedNodes) const
 {
 	FPinConnectionResponse Result(CONNECT_RESPONSE_MAKE, FText());
 	const TArray<UEdGraphPin*> OldLinks = MoveFromPin.LinkedTo;

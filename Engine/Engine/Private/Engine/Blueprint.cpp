@@ -173,14 +173,17 @@ FName UBlueprint::GetVariableNameFromClassByGuid(const UClass* InClass, const FG
 	VisitBlueprints(InClass,
 		[&](const UBlueprint& Blueprint)
 		{
-			const FBPVariableDescription* const Variable = Blueprint.NewVariables.FindByPredicate([&VarGuid](const FBPVariableDescription& Candidate)
+			const FBPVariableDescription* const Variable = Blueprint.NewVariables.FindByPredicate(
+				[&VarGuid](const FBPVariableDescription& Candidate)
 				{ return Candidate.VarGuid == VarGuid; });
 			if (Variable)
 			{
 				Result = Variable->VarName;
 				return true;
 			}
-			const USCS_Node* const Node = Blueprint.SimpleConstructionScript ? Blueprint.SimpleConstructionScript->FindSCSNodeByGuid(VarGuid) : nullptr;
+			const USCS_Node* const Node = Blueprint.SimpleConstructionScript
+				? Blueprint.SimpleConstructionScript->FindSCSNodeByGuid(VarGuid)
+				: nullptr;
 			if (Node)
 			{
 				Result = Node->GetVariableName();
@@ -204,14 +207,16 @@ bool UBlueprint::GetVariableGuidFromClassByFieldName(const UClass* InClass, cons
 	return VisitBlueprints(InClass,
 		[&](const UBlueprint& Blueprint)
 		{
-			const FBPVariableDescription* const Variable = Blueprint.NewVariables.FindByPredicate([VarName](const FBPVariableDescription& Candidate)
+			const FBPVariableDescription* const Variable = Blueprint.NewVariables.FindByPredicate(
+				[VarName](const FBPVariableDescription& Candidate)
 				{ return Candidate.VarName == VarName; });
 			if (Variable)
 			{
 				VarGuid = Variable->VarGuid;
 				return true;
 			}
-			const USCS_Node* const Node = Blueprint.SimpleConstructionScript ? Blueprint.SimpleConstructionScript->FindSCSNode(VarName) : nullptr;
+			const USCS_Node* const Node = Blueprint.SimpleConstructionScript ? Blueprint.SimpleConstructionScript->FindSCSNode(VarName)
+																			 : nullptr;
 			if (Node)
 			{
 				VarGuid = Node->VariableGuid;

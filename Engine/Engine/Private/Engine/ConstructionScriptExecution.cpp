@@ -55,7 +55,9 @@ void USimpleConstructionScript::ExecuteScriptOnActor(AActor* Actor)
 			continue;
 		}
 		// A root node of this Blueprint may hang below a component that a parent class made.
-		USceneComponent* const Named = Node->ParentComponentOrVariableName.IsNone() ? nullptr : Cast<USceneComponent>(StaticFindObjectFast(nullptr, Actor, Node->ParentComponentOrVariableName));
+		USceneComponent* const Named = Node->ParentComponentOrVariableName.IsNone()
+			? nullptr
+			: Cast<USceneComponent>(StaticFindObjectFast(nullptr, Actor, Node->ParentComponentOrVariableName));
 		Node->ExecuteNodeOnActor(Actor, Named ? Named : Actor->GetRootComponent());
 	}
 }

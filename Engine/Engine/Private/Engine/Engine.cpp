@@ -34,8 +34,10 @@ UWorld* UEngine::GetWorldFromContextObject(const UObject* Object, EGetWorldError
 	UWorld* const World = Object ? Object->GetWorld() : nullptr;
 	if (!World && ErrorMode != EGetWorldErrorMode::ReturnNull)
 	{
-		checkf(ErrorMode != EGetWorldErrorMode::Assert, TEXT("No world was found for object (%s) passed in to UEngine::GetWorldFromContextObject()."), *GetPathNameSafe(Object));
-		UE_LOG(LogEngine, Warning, TEXT("No world was found for object (%s) passed in to UEngine::GetWorldFromContextObject()."), *GetPathNameSafe(Object));
+		checkf(ErrorMode != EGetWorldErrorMode::Assert,
+			TEXT("No world was found for object (%s) passed in to UEngine::GetWorldFromContextObject()."), *GetPathNameSafe(Object));
+		UE_LOG(LogEngine, Warning, TEXT("No world was found for object (%s) passed in to UEngine::GetWorldFromContextObject()."),
+			*GetPathNameSafe(Object));
 	}
 	return World;
 }

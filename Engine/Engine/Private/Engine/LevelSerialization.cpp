@@ -31,7 +31,8 @@ int32 SerializeCountOfUnread(FArchive& Ar)
 
 int32 SerializeVisibility(FArchive& Ar, FPrecomputedVisibilityHandler& Handler)
 {
-	Ar << Handler.PrecomputedVisibilityCellBucketOriginXY << Handler.PrecomputedVisibilityCellSizeXY << Handler.PrecomputedVisibilityCellSizeZ;
+	Ar << Handler.PrecomputedVisibilityCellBucketOriginXY << Handler.PrecomputedVisibilityCellSizeXY
+	   << Handler.PrecomputedVisibilityCellSizeZ;
 	Ar << Handler.PrecomputedVisibilityCellBucketSizeXY << Handler.PrecomputedVisibilityNumCellBuckets;
 	return SerializeCountOfUnread(Ar);
 }
@@ -99,7 +100,8 @@ void ULevel::SerializeBuiltData(FArchive& Ar)
 		return;
 	}
 	const int64 Start = Ar.Tell();
-	const bool bIsEmpty = SerializeVisibility(Ar, PrecomputedVisibilityHandler) == 0 && SerializeDistances(Ar, PrecomputedVolumeDistanceField) == 0;
+	const bool bIsEmpty = SerializeVisibility(Ar, PrecomputedVisibilityHandler) == 0 &&
+		SerializeDistances(Ar, PrecomputedVolumeDistanceField) == 0;
 	bBuiltDataIsUnread = Ar.IsLoading() && !bIsEmpty && !Ar.IsError();
 	if (bBuiltDataIsUnread)
 	{

@@ -46,7 +46,8 @@ bool FMemberReference::IsSelfMember(const UClass* OwnerClass, const UClass* Self
 	}
 	const UBlueprint* const Blueprint = UBlueprint::GetBlueprintFromClass(OwnerClass);
 	const bool bSameMaker = OwnerClass->ClassGeneratedBy && SelfScope->ClassGeneratedBy == OwnerClass->ClassGeneratedBy;
-	return SelfScope->IsChildOf(OwnerClass) || bSameMaker || (Blueprint && Blueprint->GeneratedClass && SelfScope->IsChildOf(Blueprint->GeneratedClass.Get()));
+	return SelfScope->IsChildOf(OwnerClass) || bSameMaker ||
+		(Blueprint && Blueprint->GeneratedClass && SelfScope->IsChildOf(Blueprint->GeneratedClass.Get()));
 }
 
 void FMemberReference::SetFromOwner(const UClass* OwnerClass, bool bIsConsideredSelfContext, UPackage* SignaturePackage)
@@ -139,7 +140,8 @@ void FMemberReference::SetLocalMember(FName InMemberName, FString InScopeName, c
 	bSelfContext = false;
 }
 
-void FMemberReference::SetDirect(const FName InFieldName, const FGuid InMemberGuid, TSubclassOf<UObject> InMemberParentClass, bool bIsConsideredSelfContext)
+void FMemberReference::SetDirect(
+	const FName InFieldName, const FGuid InMemberGuid, TSubclassOf<UObject> InMemberParentClass, bool bIsConsideredSelfContext)
 {
 	*this = FMemberReference();
 	MemberName = InFieldName;

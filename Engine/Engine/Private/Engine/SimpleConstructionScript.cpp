@@ -121,7 +121,8 @@ USCS_Node* USimpleConstructionScript::CreateNode(UClass* NewComponentClass, FNam
 	const FName TemplateName(*(VariableName.ToString() + USCS_Node::ComponentTemplateNameSuffix));
 	USCS_Node* const Node = NewObject<USCS_Node>(this, MakeUniqueObjectName(this, USCS_Node::StaticClass()), RF_Transactional);
 	Node->ComponentClass = NewComponentClass;
-	Node->ComponentTemplate = NewObject<UActorComponent>(Owner, NewComponentClass, TemplateName, RF_ArchetypeObject | RF_Transactional | RF_Public);
+	Node->ComponentTemplate = NewObject<UActorComponent>(
+		Owner, NewComponentClass, TemplateName, RF_ArchetypeObject | RF_Transactional | RF_Public);
 	Node->SetVariableName(VariableName, false);
 	Node->VariableGuid = FGuid::NewGuid();
 	return Node;
@@ -157,7 +158,8 @@ void USimpleConstructionScript::AddNode(USCS_Node* Node)
 void USimpleConstructionScript::ValidateSceneRootNodes()
 {
 	const UClass* const ParentClass = GetParentClass();
-	const AActor* const ParentDefaults = ParentClass && ParentClass->IsChildOf(AActor::StaticClass()) ? GetDefault<AActor>(ParentClass) : nullptr;
+	const AActor* const ParentDefaults = ParentClass && ParentClass->IsChildOf(AActor::StaticClass()) ? GetDefault<AActor>(ParentClass)
+																									  : nullptr;
 	if (!ParentDefaults)
 	{
 		return;
@@ -166,8 +168,9 @@ void USimpleConstructionScript::ValidateSceneRootNodes()
 	UBlueprintGeneratedClass::GetGeneratedClassesHierarchy(ParentClass, Parents);
 	const auto IsSceneRoot = [this](const USCS_Node* Node)
 	{ return Node && Node != DefaultSceneRootNode && Node->ComponentTemplate && Node->ComponentTemplate->IsA<USceneComponent>(); };
-	const bool bParentHasRoot = ParentDefaults->GetRootComponent() || Parents.ContainsByPredicate([](const UBlueprintGeneratedClass* Parent)
-																		  { return Parent->SimpleConstructionScript && Parent->SimpleConstructionScript->GetRootNodes().Num() > 0; });
+	const bool bParentHasRoot = ParentDefaults->GetRootComponent() ||
+		Parents.ContainsByPredicate([](const UBlueprintGeneratedClass* Parent)
+			{ return Parent->SimpleConstructionScript && Parent->SimpleConstructionScript->GetRootNodes().Num() > 0; });
 	const bool bNeedsDefault = !bParentHasRoot && !RootNodes.ContainsByPredicate([&IsSceneRoot](const USCS_Node* Node)
 													  { return IsSceneRoot(Node); });
 	const bool bHasDefault = DefaultSceneRootNode && RootNodes.Contains(DefaultSceneRootNode);

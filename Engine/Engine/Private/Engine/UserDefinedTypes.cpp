@@ -97,7 +97,8 @@ void UUserDefinedStruct::InitializeStruct(void* Dest, int32 ArrayDim) const
 void UUserDefinedStruct::SetDefaults(TFunctionRef<void(uint8*)> Fill)
 {
 	FreeDefaultInstance();
-	uint8* const Instance = static_cast<uint8*>(FMemory::Malloc(static_cast<SIZE_T>(FMath::Max(GetStructureSize(), 1)), static_cast<uint32>(FMath::Max(GetMinAlignment(), 1))));
+	uint8* const Instance = static_cast<uint8*>(
+		FMemory::Malloc(static_cast<SIZE_T>(FMath::Max(GetStructureSize(), 1)), static_cast<uint32>(FMath::Max(GetMinAlignment(), 1))));
 	Super::InitializeStruct(Instance);
 	Fill(Instance);
 	DefaultInstance = Instance;

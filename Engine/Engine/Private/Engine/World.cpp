@@ -42,7 +42,9 @@ UWorld::~UWorld() = default;
 UWorld* UWorld::CreateWorld(const EWorldType::Type InWorldType, bool bInformEngineOfWorld, FName WorldName, UPackage* InWorldPackage)
 {
 	const FString BaseName = WorldName.IsNone() ? FString(TEXT("Untitled")) : WorldName.ToString();
-	UPackage* const Package = InWorldPackage ? InWorldPackage : CreatePackage(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), FName(*(TEXT("/Temp/") + BaseName))).ToString());
+	UPackage* const Package = InWorldPackage
+		? InWorldPackage
+		: CreatePackage(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), FName(*(TEXT("/Temp/") + BaseName))).ToString());
 	Package->ThisContainsMap();
 	UWorld* const World = NewObject<UWorld>(Package, FName(*BaseName), RF_Public | RF_Standalone | RF_Transactional);
 	World->WorldType = InWorldType;
@@ -89,7 +91,8 @@ AActor* UWorld::SpawnActor(UClass* Class, FTransform const* Transform, const FAc
 {
 	if (!Class || !Class->IsChildOf(AActor::StaticClass()) || Class->HasAnyClassFlags(CLASS_Deprecated | CLASS_Abstract))
 	{
-		UE_LOG(LogSpawn, Warning, TEXT("SpawnActor failed because the class '%s' cannot be spawned"), Class ? *Class->GetName() : TEXT("None"));
+		UE_LOG(LogSpawn, Warning, TEXT("SpawnActor failed because the class '%s' cannot be spawned"),
+			Class ? *Class->GetName() : TEXT("None"));
 		return nullptr;
 	}
 	ULevel* const Level = SpawnParameters.OverrideLevel ? SpawnParameters.OverrideLevel : GetCurrentLevel();

@@ -17,7 +17,9 @@ DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FActorComponentActivatedSignature, 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FActorComponentDeactivateSignature, UActorComponent*, Component);
 
 /** A part of an actor. */
-UCLASS(DefaultToInstanced, BlueprintType, abstract, meta = (ShortTooltip = "An ActorComponent is a reusable component that can be added to any actor."), config = Engine, HideCategories = (Activation, "Components|Activation"))
+UCLASS(DefaultToInstanced, BlueprintType, abstract,
+	meta = (ShortTooltip = "An ActorComponent is a reusable component that can be added to any actor."), config = Engine,
+	HideCategories = (Activation, "Components|Activation"))
 class ENGINE_API UActorComponent : public UObject
 {
 	GENERATED_BODY()
@@ -32,12 +34,15 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Tags)
 	TArray<FName> ComponentTags;
 
+	/** What the component of a parent is given may be changed in its children. */
 	UPROPERTY(EditDefaultsOnly, BlueprintReadOnly, Category = "Variable")
 	uint8 bEditableWhenInherited : 1;
 
+	/** The component is active from the start. */
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = Activation)
 	uint8 bAutoActivate : 1;
 
+	/** The server keeps what is replicated of the component the same on its clients. */
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = ComponentReplication, meta = (DisplayName = "Component Replicates"))
 	uint8 bReplicates : 1;
 
@@ -47,9 +52,11 @@ public:
 	UPROPERTY()
 	EComponentCreationMethod CreationMethod = EComponentCreationMethod::Native;
 
+	/** Called when the component has become active. */
 	UPROPERTY(BlueprintAssignable, Category = "Components|Activation")
 	FActorComponentActivatedSignature OnComponentActivated;
 
+	/** Called when the component has become inactive. */
 	UPROPERTY(BlueprintAssignable, Category = "Components|Activation")
 	FActorComponentDeactivateSignature OnComponentDeactivated;
 
@@ -61,30 +68,40 @@ public:
 	virtual void PostEditUndo() override;
 	ULevel* GetComponentLevel() const;
 
+	/** True if the tag is among the tags of the component. */
 	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Components")
 	bool ComponentHasTag(FName Tag) const;
 
+	/** True while the component does its work. */
 	UFUNCTION(BlueprintCallable, BlueprintPure, Category = "Components|Activation")
 	bool IsActive() const { return bIsActive; }
 
+	/** Starts the component; one that is active already starts again only with Reset. */
 	UFUNCTION(BlueprintCallable, Category = "Components|Activation")
 	virtual void Activate(bool bReset = false);
 
+	/** Stops the component. */
 	UFUNCTION(BlueprintCallable, Category = "Components|Activation")
 	virtual void Deactivate();
 
+	/** Starts or stops the component; one that is active already starts again only with Reset. */
 	UFUNCTION(BlueprintCallable, Category = "Components|Activation")
 	virtual void SetActive(bool bNewActive, bool bReset = false);
 
-	UFUNCTION(BlueprintCallable, Category = "Components", meta = (Keywords = "Delete", DisplayName = "Destroy Component", ScriptName = "DestroyComponent"))
+	/** Removes the component from its actor. */
+	UFUNCTION(BlueprintCallable, Category = "Components",
+		meta = (Keywords = "Delete", DisplayName = "Destroy Component", ScriptName = "DestroyComponent"))
 	void K2_DestroyComponent(UObject* Object);
 
+	/** When play begins for the component. */
 	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "Begin Play"))
 	void ReceiveBeginPlay();
 
+	/** When the component leaves play, and why. */
 	UFUNCTION(BlueprintImplementableEvent, meta = (Keywords = "delete", DisplayName = "End Play"))
 	void ReceiveEndPlay(EEndPlayReason::Type EndPlayReason);
 
+	/** Every frame that the component ticks, with the seconds that have passed since the one before. */
 	UFUNCTION(BlueprintImplementableEvent, meta = (DisplayName = "Tick"))
 	void ReceiveTick(float DeltaSeconds);
 

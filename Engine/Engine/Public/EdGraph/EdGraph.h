@@ -104,7 +104,10 @@ public:
 
 	/** Makes a node of the class with a new name in this graph, transactional, without pins. */
 	UEdGraphNode* CreateNode(TSubclassOf<UEdGraphNode> NewNodeClass, bool bFromUI, bool bSelectNewNode);
-	UEdGraphNode* CreateNode(TSubclassOf<UEdGraphNode> NewNodeClass, bool bSelectNewNode = true) { return CreateNode(NewNodeClass, false, bSelectNewNode); }
+	UEdGraphNode* CreateNode(TSubclassOf<UEdGraphNode> NewNodeClass, bool bSelectNewNode = true)
+	{
+		return CreateNode(NewNodeClass, false, bSelectNewNode);
+	}
 	/** Puts a node that is outered to this graph into it, and tells. */
 	void AddNode(UEdGraphNode* NodeToAdd, bool bUserAction = false, bool bSelectNewNode = true);
 	/** Takes the node out; bBreakAllLinks also unlinks it. False when it is not in the graph. */

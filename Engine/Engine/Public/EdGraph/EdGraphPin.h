@@ -154,8 +154,8 @@ struct FEdGraphPinType
 	{
 	}
 
-	FEdGraphPinType(FName InPinCategory, FName InPinSubCategory, UObject* InPinSubCategoryObject, EPinContainerType InContainerType, bool bInIsReference,
-		const FEdGraphTerminalType& InValueTerminalType)
+	FEdGraphPinType(FName InPinCategory, FName InPinSubCategory, UObject* InPinSubCategoryObject, EPinContainerType InContainerType,
+		bool bInIsReference, const FEdGraphTerminalType& InValueTerminalType)
 		: PinCategory(InPinCategory)
 		, PinSubCategory(InPinSubCategory)
 		, PinSubCategoryObject(InPinSubCategoryObject)
@@ -341,13 +341,18 @@ public:
 
 	/** Appends `(PinId=...,PinName="...",...)`. */
 	ENGINE_API bool ExportTextItem(FString& ValueStr, int32 PortFlags) const;
-	/** Reads what ExportTextItem writes, and unknown keys; leaves Buffer behind the closing parenthesis. Links to pins not read yet wait for ResolveAllPinReferences. */
+	/**
+	 * Reads what ExportTextItem writes, and unknown keys; leaves Buffer behind the closing parenthesis. Links to pins not read yet wait
+	 * for ResolveAllPinReferences.
+	 */
 	ENGINE_API bool ImportTextItem(const TCHAR*& Buffer, int32 PortFlags, UObject* Parent, FOutputDevice* ErrorText);
 	/** Forgets the links that still wait for pins that have not appeared. */
 	static ENGINE_API void ResolveAllPinReferences();
 	/** After undo: drops links whose other end does not link back, and links the ends that only this side knows of. */
 	static ENGINE_API void SanitizePinsPostUndoRedo(UEdGraphNode* Node, const TArray<UEdGraphPin*>& Pins);
-	/** For the pins of one node as read from outside: drops sub-pins, parents and pass-throughs that only one side knows of, and circles. */
+	/**
+	 * For the pins of one node as read from outside: drops sub-pins, parents and pass-throughs that only one side knows of, and circles.
+	 */
 	static ENGINE_API void SanitizeFamilies(const TArray<UEdGraphPin*>& Pins);
 
 	/** Serializes the pins in Ar's version, reusing those of ArrayRef that have the same ids so that links to them hold. */

@@ -107,14 +107,18 @@ struct ENGINE_API FEdGraphSchemaAction
 	GENERATED_BODY()
 
 	FEdGraphSchemaAction() = default;
-	FEdGraphSchemaAction(FText InNodeCategory, FText InMenuDesc, FText InToolTip, const int32 InGrouping, FText InKeywords = FText(), int32 InSectionID = 0);
+	FEdGraphSchemaAction(
+		FText InNodeCategory, FText InMenuDesc, FText InToolTip, const int32 InGrouping, FText InKeywords = FText(), int32 InSectionID = 0);
 	virtual ~FEdGraphSchemaAction() = default;
 
 	static FName StaticGetTypeId() { return FName(TEXT("FEdGraphSchemaAction")); }
 	virtual FName GetTypeId() const { return StaticGetTypeId(); }
 
 	/** Does it; answers the new node, or null when the action made none. */
-	virtual UEdGraphNode* PerformAction(UEdGraph* ParentGraph, UEdGraphPin* FromPin, const FVector2D Location, bool bSelectNewNode = true) { return nullptr; }
+	virtual UEdGraphNode* PerformAction(UEdGraph* ParentGraph, UEdGraphPin* FromPin, const FVector2D Location, bool bSelectNewNode = true)
+	{
+		return nullptr;
+	}
 
 	const FText& GetMenuDescription() const { return MenuDescription; }
 	const FText& GetTooltipDescription() const { return TooltipDescription; }
@@ -142,10 +146,14 @@ struct ENGINE_API FEdGraphSchemaAction_NewNode : public FEdGraphSchemaAction
 	UPROPERTY()
 	TObjectPtr<UEdGraphNode> NodeTemplate = nullptr;
 
-	virtual UEdGraphNode* PerformAction(UEdGraph* ParentGraph, UEdGraphPin* FromPin, const FVector2D Location, bool bSelectNewNode = true) override;
+	virtual UEdGraphNode* PerformAction(
+		UEdGraph* ParentGraph, UEdGraphPin* FromPin, const FVector2D Location, bool bSelectNewNode = true) override;
 };
 
-/** The rules of a kind of graph. The base allows everything that is not plainly wrong; schemas have no state of their own and are used through their class default objects. */
+/**
+ * The rules of a kind of graph. The base allows everything that is not plainly wrong; schemas have no state of their own and are used
+ * through their class default objects.
+ */
 UCLASS(abstract)
 class ENGINE_API UEdGraphSchema : public UObject
 {
@@ -199,6 +207,15 @@ public:
 	virtual bool CanDuplicateGraph(UEdGraph* InSourceGraph) const { return true; }
 	virtual UEdGraph* DuplicateGraph(UEdGraph* GraphToDuplicate) const { return nullptr; }
 	virtual void HandleGraphBeingDeleted(UEdGraph& GraphBeingRemoved) const {}
+	/**
+	 * What is pasted in place of a node that the graph cannot hold, in the graph that the node stands in, with its links; null where
+	 * nothing takes its place. Names in InOutExtraNames are taken beside those of the graph's Blueprint; one that is given is added.
+	 */
+	virtual UEdGraphNode* CreateSubstituteNode(
+		UEdGraphNode* Node, const UEdGraph* Graph, struct FObjectInstancingGraph* InstanceGraph, TSet<FName>& InOutExtraNames) const
+	{
+		return nullptr;
+	}
 	virtual void BackwardCompatibilityNodeConversion(UEdGraph* Graph, bool bOnlySafeChanges) const {}
 	virtual bool CanEncapuslateNode(UEdGraphNode const& TestNode) const { return true; }
 	virtual FText GetContextMenuTitle(const UEdGraph*) const { return FText(); }

@@ -361,7 +361,8 @@ public:
 	template <class TFieldType>
 	static FName GetFieldNameFromClassByGuid(const UClass* InClass, const FGuid FieldGuid)
 	{
-		return std::is_base_of_v<FField, TFieldType> ? GetVariableNameFromClassByGuid(InClass, FieldGuid) : GetFunctionNameFromClassByGuid(InClass, FieldGuid);
+		return std::is_base_of_v<FField, TFieldType> ? GetVariableNameFromClassByGuid(InClass, FieldGuid)
+													 : GetFunctionNameFromClassByGuid(InClass, FieldGuid);
 	}
 	/** The id of a Blueprint-declared variable or function. False when the class's Blueprints declare no such member. */
 	template <class TFieldType>

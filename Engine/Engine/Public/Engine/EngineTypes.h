@@ -226,7 +226,8 @@ struct FAttachmentTransformRules
 		, bWeldSimulatedBodies(bInWeldSimulatedBodies)
 	{
 	}
-	FAttachmentTransformRules(EAttachmentRule InLocationRule, EAttachmentRule InRotationRule, EAttachmentRule InScaleRule, bool bInWeldSimulatedBodies)
+	FAttachmentTransformRules(
+		EAttachmentRule InLocationRule, EAttachmentRule InRotationRule, EAttachmentRule InScaleRule, bool bInWeldSimulatedBodies)
 		: LocationRule(InLocationRule)
 		, RotationRule(InRotationRule)
 		, ScaleRule(InScaleRule)

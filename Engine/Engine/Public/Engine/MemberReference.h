@@ -19,7 +19,9 @@ struct FMemberReference
 	GENERATED_BODY()
 
 protected:
-	/** Class that declares the member, or the package of a signature; null for a member of the Blueprint itself and for a local variable. */
+	/**
+	 * Class that declares the member, or the package of a signature; null for a member of the Blueprint itself and for a local variable.
+	 */
 	UPROPERTY()
 	mutable TObjectPtr<UObject> MemberParent = nullptr;
 
@@ -66,7 +68,8 @@ public:
 	ENGINE_API void SetSelfMember(FName InMemberName, FGuid& InMemberGuid);
 	ENGINE_API void SetLocalMember(FName InMemberName, UStruct* InScope, const FGuid InMemberGuid);
 	ENGINE_API void SetLocalMember(FName InMemberName, FString InScopeName, const FGuid InMemberGuid);
-	ENGINE_API void SetDirect(const FName InFieldName, const FGuid InMemberGuid, TSubclassOf<class UObject> InMemberParentClass, bool bIsConsideredSelfContext);
+	ENGINE_API void SetDirect(
+		const FName InFieldName, const FGuid InMemberGuid, TSubclassOf<class UObject> InMemberParentClass, bool bIsConsideredSelfContext);
 	/** Turns a reference that names one of SelfScope's own members into a self reference, or back. */
 	ENGINE_API void InvalidateScope();
 
@@ -96,7 +99,8 @@ public:
 	 * Blueprint that holds the reference. Null when there is no such member.
 	 */
 	template <class TFieldType>
-	TFieldType* ResolveMember(UClass* SelfScope = nullptr, const bool bAlwaysFollowRedirects = false, const bool bIsUnknownAllowed = false) const
+	TFieldType* ResolveMember(
+		UClass* SelfScope = nullptr, const bool bAlwaysFollowRedirects = false, const bool bIsUnknownAllowed = false) const
 	{
 		if constexpr (std::is_base_of_v<UFunction, TFieldType> || std::is_same_v<UFunction, TFieldType>)
 		{

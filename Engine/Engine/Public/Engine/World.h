@@ -43,7 +43,8 @@ public:
 	EWorldType::Type WorldType = EWorldType::None;
 
 	/** Makes a world with an empty persistent level in a package of its own, or in InWorldPackage. */
-	static UWorld* CreateWorld(const EWorldType::Type InWorldType, bool bInformEngineOfWorld, FName WorldName = NAME_None, UPackage* InWorldPackage = nullptr);
+	static UWorld* CreateWorld(
+		const EWorldType::Type InWorldType, bool bInformEngineOfWorld, FName WorldName = NAME_None, UPackage* InWorldPackage = nullptr);
 	void DestroyWorld(bool bInformEngineOfWorld);
 	static void AddReferencedObjects(UObject* InThis, FReferenceCollector& Collector);
 
@@ -58,12 +59,14 @@ public:
 		return static_cast<T*>(SpawnActor(Class, &Transform, SpawnParameters));
 	}
 	template <class T>
-	T* SpawnActor(UClass* Class, FVector const& Location, FRotator const& Rotation, const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters())
+	T* SpawnActor(UClass* Class, FVector const& Location, FRotator const& Rotation,
+		const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters())
 	{
 		return static_cast<T*>(SpawnActor(Class, &Location, &Rotation, SpawnParameters));
 	}
 	/** Null for an abstract class and for one that is no actor. */
-	AActor* SpawnActor(UClass* InClass, FVector const* Location = nullptr, FRotator const* Rotation = nullptr, const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters());
+	AActor* SpawnActor(UClass* InClass, FVector const* Location = nullptr, FRotator const* Rotation = nullptr,
+		const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters());
 	AActor* SpawnActor(UClass* Class, FTransform const* Transform, const FActorSpawnParameters& SpawnParameters = FActorSpawnParameters());
 	/** Takes the actor out of its level and marks it as garbage. */
 	bool DestroyActor(AActor* Actor, bool bNetForce = false, bool bShouldModifyLevel = true);
@@ -72,7 +75,10 @@ public:
 	ULevel* GetCurrentLevel() const { return PersistentLevel; }
 	const TArray<ULevel*> GetLevels() const;
 	FString GetMapName() const { return GetName(); }
-	bool IsGameWorld() const { return WorldType == EWorldType::Game || WorldType == EWorldType::PIE || WorldType == EWorldType::GamePreview; }
+	bool IsGameWorld() const
+	{
+		return WorldType == EWorldType::Game || WorldType == EWorldType::PIE || WorldType == EWorldType::GamePreview;
+	}
 	FTimerManager& GetTimerManager() const;
 	void Tick(float DeltaSeconds);
 	virtual UWorld* GetWorld() const override { return const_cast<UWorld*>(this); }
