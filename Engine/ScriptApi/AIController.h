@@ -37,11 +37,15 @@ public:
 
 	/** Goes to an actor. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Navigation", meta = (AdvancedDisplay = "bStopOnOverlap,bCanStrafe,bAllowPartialPath"))
-	EPathFollowingRequestResult::Type MoveToActor(AActor* Goal, float AcceptanceRadius = -1, bool bStopOnOverlap = true, bool bUsePathfinding = true, bool bCanStrafe = true, TSubclassOf<UNavigationQueryFilter> FilterClass = nullptr, bool bAllowPartialPath = true);
+	EPathFollowingRequestResult::Type MoveToActor(AActor* Goal, float AcceptanceRadius = -1, bool bStopOnOverlap = true,
+		bool bUsePathfinding = true, bool bCanStrafe = true, TSubclassOf<UNavigationQueryFilter> FilterClass = nullptr,
+		bool bAllowPartialPath = true);
 
 	/** Goes to a place. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Navigation", meta = (AdvancedDisplay = "bStopOnOverlap,bCanStrafe,bAllowPartialPath"))
-	EPathFollowingRequestResult::Type MoveToLocation(const FVector& Dest, float AcceptanceRadius = -1, bool bStopOnOverlap = true, bool bUsePathfinding = true, bool bProjectDestinationToNavigation = false, bool bCanStrafe = true, TSubclassOf<UNavigationQueryFilter> FilterClass = nullptr, bool bAllowPartialPath = true);
+	EPathFollowingRequestResult::Type MoveToLocation(const FVector& Dest, float AcceptanceRadius = -1, bool bStopOnOverlap = true,
+		bool bUsePathfinding = true, bool bProjectDestinationToNavigation = false, bool bCanStrafe = true,
+		TSubclassOf<UNavigationQueryFilter> FilterClass = nullptr, bool bAllowPartialPath = true);
 
 	/** The move status. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Navigation")
@@ -67,9 +71,11 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "AI")
 	bool UseBlackboard(UBlackboardData* BlackboardAsset, UBlackboardComponent*& BlackboardComponent);
 
+	/** Keeps a resource of tasks for itself. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Tasks")
 	void ClaimTaskResource(TSubclassOf<UGameplayTaskResource> ResourceClass);
 
+	/** Gives a resource of tasks free. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Tasks")
 	void UnclaimTaskResource(TSubclassOf<UGameplayTaskResource> ResourceClass);
 
@@ -123,7 +129,8 @@ class AIMODULE_API UAIBlueprintHelperLibrary : public UBlueprintFunctionLibrary
 public:
 	/** Goes to an actor or a place. */
 	UFUNCTION(BlueprintCallable, Category = "AI", meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true"))
-	static UAIAsyncTaskBlueprintProxy* CreateMoveToProxyObject(UObject* WorldContextObject, APawn* Pawn, FVector Destination, AActor* TargetActor = nullptr, float AcceptanceRadius = 5.f, bool bStopOnOverlap = false);
+	static UAIAsyncTaskBlueprintProxy* CreateMoveToProxyObject(UObject* WorldContextObject, APawn* Pawn, FVector Destination,
+		AActor* TargetActor = nullptr, float AcceptanceRadius = 5.f, bool bStopOnOverlap = false);
 
 	/** Sends a message to a pawn's logic. */
 	UFUNCTION(BlueprintCallable, Category = "AI", meta = (DefaultToSelf = "MessageSource"))
@@ -131,7 +138,8 @@ public:
 
 	/** Spawns a pawn that a behaviour tree controls. */
 	UFUNCTION(BlueprintCallable, Category = "AI", meta = (WorldContext = "WorldContextObject", UnsafeDuringActorConstruction = "true"))
-	static APawn* SpawnAIFromClass(UObject* WorldContextObject, TSubclassOf<APawn> PawnClass, UBehaviorTree* BehaviorTree, FVector Location, FRotator Rotation = FRotator::ZeroRotator, bool bNoCollisionFail = false, AActor* Owner = nullptr);
+	static APawn* SpawnAIFromClass(UObject* WorldContextObject, TSubclassOf<APawn> PawnClass, UBehaviorTree* BehaviorTree, FVector Location,
+		FRotator Rotation = FRotator::ZeroRotator, bool bNoCollisionFail = false, AActor* Owner = nullptr);
 
 	/** The AI controller. */
 	UFUNCTION(BlueprintPure, Category = "AI", meta = (DefaultToSelf = "ControlledActor"))
@@ -141,9 +149,11 @@ public:
 	UFUNCTION(BlueprintPure, Category = "AI", meta = (DefaultToSelf = "Target"))
 	static UBlackboardComponent* GetBlackboard(AActor* Target);
 
+	/** Stops the movement or the logic of the AI while an animation plays. */
 	UFUNCTION(BlueprintCallable, Category = "Animation", meta = (DefaultToSelf = "AnimInstance"))
 	static void LockAIResourcesWithAnimation(UAnimInstance* AnimInstance, bool bLockMovement, bool LockAILogic);
 
+	/** Lets the movement or the logic of the AI go on after an animation. */
 	UFUNCTION(BlueprintCallable, Category = "Animation", meta = (DefaultToSelf = "AnimInstance"))
 	static void UnlockAIResourcesWithAnimation(UAnimInstance* AnimInstance, bool bUnlockMovement, bool UnlockAILogic);
 
@@ -227,12 +237,15 @@ class AIMODULE_API UBrainComponent : public UActorComponent
 	GENERATED_BODY()
 
 public:
+	/** Starts what the AI does. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Logic")
 	void StartLogic();
 
+	/** Starts what the AI does from its beginning. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Logic")
 	void RestartLogic();
 
+	/** Stops what the AI does. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Logic")
 	void StopLogic(const FString& Reason);
 

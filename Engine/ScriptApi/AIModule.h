@@ -12,5 +12,6 @@ class AIMODULE_API UNavLocalGridManager : public UObject
 
 public:
 	UFUNCTION(BlueprintCallable, Category = "AI|Navigation", meta = (WorldContext = "WorldContextObject"))
-	static int32 AddLocalNavigationGridForBox(UObject* WorldContextObject, const FVector& Location, FVector Extent = FVector(1, 1, 1), FRotator Rotation = FRotator::ZeroRotator, const int32 Radius2D = 5, const float Height = 100.f, bool bRebuildGrids = true);
+	static int32 AddLocalNavigationGridForBox(UObject* WorldContextObject, const FVector& Location, FVector Extent = FVector(1, 1, 1),
+		FRotator Rotation = FRotator::ZeroRotator, const int32 Radius2D = 5, const float Height = 100.f, bool bRebuildGrids = true);
 };

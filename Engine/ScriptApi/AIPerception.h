@@ -32,7 +32,8 @@ class AIMODULE_API UAISense_Hearing : public UAISense
 public:
 	/** Makes a noise. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Perception", meta = (WorldContext = "WorldContextObject"))
-	static void ReportNoiseEvent(UObject* WorldContextObject, FVector NoiseLocation, float Loudness = 1.f, AActor* Instigator = nullptr, float MaxRange = 0.f, FName Tag = NAME_None);
+	static void ReportNoiseEvent(UObject* WorldContextObject, FVector NoiseLocation, float Loudness = 1.f, AActor* Instigator = nullptr,
+		float MaxRange = 0.f, FName Tag = NAME_None);
 };
 
 /** Being hurt. */
@@ -44,7 +45,8 @@ class AIMODULE_API UAISense_Damage : public UAISense
 public:
 	/** Tells of damage. */
 	UFUNCTION(BlueprintCallable, Category = "AI|Perception", meta = (WorldContext = "WorldContextObject"))
-	static void ReportDamageEvent(UObject* WorldContextObject, AActor* DamagedActor, AActor* Instigator, float DamageAmount, FVector EventLocation, FVector HitLocation, FName Tag = NAME_None);
+	static void ReportDamageEvent(UObject* WorldContextObject, AActor* DamagedActor, AActor* Instigator, float DamageAmount,
+		FVector EventLocation, FVector HitLocation, FName Tag = NAME_None);
 };
 
 /** Touch. */

@@ -4,22 +4,36 @@
 #include "CoreMinimal.h"
 #include "Actor.generated.h"
 
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_FiveParams(FTakeAnyDamageSignature, AActor, OnTakeAnyDamage, AActor*, DamagedActor, float, Damage, const UDamageType*, DamageType, AController*, InstigatedBy, AActor*, DamageCauser);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_NineParams(FTakePointDamageSignature, AActor, OnTakePointDamage, AActor*, DamagedActor, float, Damage, AController*, InstigatedBy, FVector, HitLocation, UPrimitiveComponent*, FHitComponent, FName, BoneName, FVector, ShotFromDirection, const UDamageType*, DamageType, AActor*, DamageCauser);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_SevenParams(FTakeRadialDamageSignature, AActor, OnTakeRadialDamage, AActor*, DamagedActor, float, Damage, const UDamageType*, DamageType, FVector, Origin, const FHitResult&, HitInfo, AController*, InstigatedBy, AActor*, DamageCauser);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorBeginOverlapSignature, AActor, OnActorBeginOverlap, AActor*, OverlappedActor, AActor*, OtherActor);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorEndOverlapSignature, AActor, OnActorEndOverlap, AActor*, OverlappedActor, AActor*, OtherActor);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_FourParams(FActorHitSignature, AActor, OnActorHit, AActor*, SelfActor, AActor*, OtherActor, FVector, NormalImpulse, const FHitResult&, Hit);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_FiveParams(FTakeAnyDamageSignature, AActor, OnTakeAnyDamage, AActor*, DamagedActor, float, Damage,
+	const UDamageType*, DamageType, AController*, InstigatedBy, AActor*, DamageCauser);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_NineParams(FTakePointDamageSignature, AActor, OnTakePointDamage, AActor*, DamagedActor, float,
+	Damage, AController*, InstigatedBy, FVector, HitLocation, UPrimitiveComponent*, FHitComponent, FName, BoneName, FVector,
+	ShotFromDirection, const UDamageType*, DamageType, AActor*, DamageCauser);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_SevenParams(FTakeRadialDamageSignature, AActor, OnTakeRadialDamage, AActor*, DamagedActor, float,
+	Damage, const UDamageType*, DamageType, FVector, Origin, const FHitResult&, HitInfo, AController*, InstigatedBy, AActor*, DamageCauser);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorBeginOverlapSignature, AActor, OnActorBeginOverlap, AActor*, OverlappedActor, AActor*, OtherActor);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorEndOverlapSignature, AActor, OnActorEndOverlap, AActor*, OverlappedActor, AActor*, OtherActor);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_FourParams(
+	FActorHitSignature, AActor, OnActorHit, AActor*, SelfActor, AActor*, OtherActor, FVector, NormalImpulse, const FHitResult&, Hit);
 DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(FActorBeginCursorOverSignature, AActor, OnBeginCursorOver, AActor*, TouchedActor);
 DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(FActorEndCursorOverSignature, AActor, OnEndCursorOver, AActor*, TouchedActor);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorOnClickedSignature, AActor, OnClicked, AActor*, TouchedActor, FKey, ButtonPressed);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorOnReleasedSignature, AActor, OnReleased, AActor*, TouchedActor, FKey, ButtonReleased);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorOnInputTouchBeginSignature, AActor, OnInputTouchBegin, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorOnInputTouchEndSignature, AActor, OnInputTouchEnd, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorBeginTouchOverSignature, AActor, OnInputTouchEnter, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorEndTouchOverSignature, AActor, OnInputTouchLeave, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorOnClickedSignature, AActor, OnClicked, AActor*, TouchedActor, FKey, ButtonPressed);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorOnReleasedSignature, AActor, OnReleased, AActor*, TouchedActor, FKey, ButtonReleased);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorOnInputTouchBeginSignature, AActor, OnInputTouchBegin, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorOnInputTouchEndSignature, AActor, OnInputTouchEnd, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorBeginTouchOverSignature, AActor, OnInputTouchEnter, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorEndTouchOverSignature, AActor, OnInputTouchLeave, ETouchIndex::Type, FingerIndex, AActor*, TouchedActor);
 DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(FActorDestroyedSignature, AActor, OnDestroyed, AActor*, DestroyedActor);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FActorEndPlaySignature, AActor, OnEndPlay, AActor*, Actor, EEndPlayReason::Type, EndPlayReason);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FActorEndPlaySignature, AActor, OnEndPlay, AActor*, Actor, EEndPlayReason::Type, EndPlayReason);
 
 // Extends native
 UCLASS()
@@ -29,7 +43,8 @@ class ENGINE_API AActor : public UObject
 
 public:
 	/** Moves the actor to a place in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Actor Location", ScriptName = "SetActorLocation", Keywords = "position"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Actor Location", ScriptName = "SetActorLocation", Keywords = "position"))
 	bool K2_SetActorLocation(FVector NewLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Turns the actor. */
@@ -37,31 +52,40 @@ public:
 	bool K2_SetActorRotation(FRotator NewRotation, bool bTeleportPhysics);
 
 	/** Moves and turns the actor. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Actor Location And Rotation", ScriptName = "SetActorLocationAndRotation"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Actor Location And Rotation", ScriptName = "SetActorLocationAndRotation"))
 	bool K2_SetActorLocationAndRotation(FVector NewLocation, FRotator NewRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Sets the actor's place, rotation and scale in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Actor Transform", ScriptName = "SetActorTransform"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Actor Transform", ScriptName = "SetActorTransform"))
 	bool K2_SetActorTransform(const FTransform& NewTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Moves the actor by a distance in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Actor World Offset", ScriptName = "AddActorWorldOffset", Keywords = "location position"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Actor World Offset", ScriptName = "AddActorWorldOffset", Keywords = "location position"))
 	void K2_AddActorWorldOffset(FVector DeltaLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Turns the actor in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Actor World Rotation", ScriptName = "AddActorWorldRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Actor World Rotation", ScriptName = "AddActorWorldRotation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddActorWorldRotation(FRotator DeltaRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Moves the actor by a distance along its own axes. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Actor Local Offset", ScriptName = "AddActorLocalOffset", Keywords = "location position"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Actor Local Offset", ScriptName = "AddActorLocalOffset", Keywords = "location position"))
 	void K2_AddActorLocalOffset(FVector DeltaLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Turns the actor around its own axes. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Actor Local Rotation", ScriptName = "AddActorLocalRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Actor Local Rotation", ScriptName = "AddActorLocalRotation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddActorLocalRotation(FRotator DeltaRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Place of the root component in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Get Actor Location", ScriptName = "GetActorLocation", Keywords = "position"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Get Actor Location", ScriptName = "GetActorLocation", Keywords = "position"))
 	FVector K2_GetActorLocation() const;
 
 	/** Rotation of the root component in the world. */
@@ -69,7 +93,8 @@ public:
 	FRotator K2_GetActorRotation() const;
 
 	/** The transform from the actor's space to the world's. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Get Actor Transform", ScriptName = "GetActorTransform"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Get Actor Transform", ScriptName = "GetActorTransform"))
 	const FTransform& GetTransform() const;
 
 	/** Scale of the root component in the world. */
@@ -105,7 +130,8 @@ public:
 	float GetHorizontalDistanceTo(const AActor* OtherActor) const;
 
 	/** Ends the actor. */
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (DisplayName = "Destroy Actor", ScriptName = "DestroyActor", Keywords = "Delete"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Actor", meta = (DisplayName = "Destroy Actor", ScriptName = "DestroyActor", Keywords = "Delete"))
 	void K2_DestroyActor();
 
 	/** True if this machine has the say over the actor. */
@@ -113,7 +139,8 @@ public:
 	bool HasAuthority() const;
 
 	/** Hides or shows the actor in the game. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (DisplayName = "Set Actor Hidden In Game", Keywords = "Visible Hidden Show Hide"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Rendering", meta = (DisplayName = "Set Actor Hidden In Game", Keywords = "Visible Hidden Show Hide"))
 	void SetActorHiddenInGame(bool bNewHidden);
 
 	/** Switches all collision of the actor. */
@@ -161,28 +188,37 @@ public:
 	AController* GetInstigatorController() const;
 
 	/** First component of a class, or null. */
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (ComponentClass = "/Script/Engine.ActorComponent", DeterminesOutputType = "ComponentClass"))
+	UFUNCTION(BlueprintCallable, Category = "Actor",
+		meta = (ComponentClass = "/Script/Engine.ActorComponent", DeterminesOutputType = "ComponentClass"))
 	UActorComponent* GetComponentByClass(TSubclassOf<UActorComponent> ComponentClass) const;
 
 	/** All components of a class. */
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (ComponentClass = "/Script/Engine.ActorComponent", DeterminesOutputType = "ComponentClass", DisplayName = "Get Components By Class", ScriptName = "GetComponentsByClass"))
+	UFUNCTION(BlueprintCallable, Category = "Actor",
+		meta = (ComponentClass = "/Script/Engine.ActorComponent", DeterminesOutputType = "ComponentClass",
+			DisplayName = "Get Components By Class", ScriptName = "GetComponentsByClass"))
 	TArray<UActorComponent*> K2_GetComponentsByClass(TSubclassOf<UActorComponent> ComponentClass) const;
 
 	/** Components of a class that have a tag. */
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (ComponentClass = "/Script/Engine.ActorComponent", DeterminesOutputType = "ComponentClass"))
+	UFUNCTION(BlueprintCallable, Category = "Actor",
+		meta = (ComponentClass = "/Script/Engine.ActorComponent", DeterminesOutputType = "ComponentClass"))
 	TArray<UActorComponent*> GetComponentsByTag(TSubclassOf<UActorComponent> ComponentClass, FName Tag) const;
 
 	/** Attaches the actor's root to another actor's. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Attach Actor To Actor", ScriptName = "AttachToActor", bWeldSimulatedBodies = true))
-	void K2_AttachToActor(AActor* ParentActor, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule, EAttachmentRule ScaleRule, bool bWeldSimulatedBodies);
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Attach Actor To Actor", ScriptName = "AttachToActor", bWeldSimulatedBodies = true))
+	void K2_AttachToActor(AActor* ParentActor, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule,
+		EAttachmentRule ScaleRule, bool bWeldSimulatedBodies);
 
 	/** Attaches the actor's root to a component. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Attach Actor To Component", ScriptName = "AttachToComponent", bWeldSimulatedBodies = true))
-	void K2_AttachToComponent(USceneComponent* Parent, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule, EAttachmentRule ScaleRule, bool bWeldSimulatedBodies);
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Attach Actor To Component", ScriptName = "AttachToComponent", bWeldSimulatedBodies = true))
+	void K2_AttachToComponent(USceneComponent* Parent, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule,
+		EAttachmentRule ScaleRule, bool bWeldSimulatedBodies);
 
 	/** Takes the actor from what it is attached to. */
 	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Detach From Actor", ScriptName = "DetachFromActor"))
-	void K2_DetachFromActor(EDetachmentRule LocationRule = EDetachmentRule::KeepRelative, EDetachmentRule RotationRule = EDetachmentRule::KeepRelative, EDetachmentRule ScaleRule = EDetachmentRule::KeepRelative);
+	void K2_DetachFromActor(EDetachmentRule LocationRule = EDetachmentRule::KeepRelative,
+		EDetachmentRule RotationRule = EDetachmentRule::KeepRelative, EDetachmentRule ScaleRule = EDetachmentRule::KeepRelative);
 
 	/** Lets a player's input reach the actor. */
 	UFUNCTION(BlueprintCallable, Category = "Input")
@@ -193,15 +229,18 @@ public:
 	void DisableInput(APlayerController* PlayerController);
 
 	/** Value of an input axis, if input reaches the actor. */
-	UFUNCTION(BlueprintCallable, Category = "Input", meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisName"))
+	UFUNCTION(BlueprintCallable, Category = "Input",
+		meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisName"))
 	float GetInputAxisValue(const FName InputAxisName) const;
 
 	/** Gets the value of the input axis key if input is enabled for this actor. */
-	UFUNCTION(BlueprintCallable, Category = "Input", meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisKey"))
+	UFUNCTION(BlueprintCallable, Category = "Input",
+		meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisKey"))
 	float GetInputAxisKeyValue(const FKey InputAxisKey) const;
 
 	/** Gets the value of the input axis key of three dimensions if input is enabled for this actor. */
-	UFUNCTION(BlueprintCallable, Category = "Input", meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisKey"))
+	UFUNCTION(BlueprintCallable, Category = "Input",
+		meta = (BlueprintInternalUseOnly = "true", BlueprintProtected, HideSelfPin = "true", HidePin = "InputAxisKey"))
 	FVector GetInputVectorAxisValue(const FKey InputAxisKey) const;
 
 	/** True if the actor overlaps another. */
@@ -238,7 +277,8 @@ public:
 
 	/** The actor runs into something, or something into it. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "Collision", meta = (DisplayName = "Hit"))
-	void ReceiveHit(UPrimitiveComponent* MyComp, AActor* Other, UPrimitiveComponent* OtherComp, bool bSelfMoved, FVector HitLocation, FVector HitNormal, FVector NormalImpulse, const FHitResult& Hit);
+	void ReceiveHit(UPrimitiveComponent* MyComp, AActor* Other, UPrimitiveComponent* OtherComp, bool bSelfMoved, FVector HitLocation,
+		FVector HitNormal, FVector NormalImpulse, const FHitResult& Hit);
 
 	/** Another actor begins to overlap. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "Collision", meta = (DisplayName = "ActorBeginOverlap"))
@@ -302,15 +342,19 @@ public:
 
 	/** Makes a noise that pawns may hear. */
 	UFUNCTION(BlueprintCallable, BlueprintAuthorityOnly, Category = "Game", meta = (AdvancedDisplay = "3"))
-	void MakeNoise(float Loudness = 1.f, APawn* NoiseInstigator = nullptr, FVector NoiseLocation = FVector::ZeroVector, float MaxRange = 0.f, FName Tag = NAME_None);
+	void MakeNoise(float Loudness = 1.f, APawn* NoiseInstigator = nullptr, FVector NoiseLocation = FVector::ZeroVector,
+		float MaxRange = 0.f, FName Tag = NAME_None);
 
 	/** The actor is hurt at a place. */
 	UFUNCTION(BlueprintImplementableEvent, BlueprintAuthorityOnly, Category = "Game|Damage", meta = (DisplayName = "PointDamage"))
-	void ReceivePointDamage(float Damage, const UDamageType* DamageType, FVector HitLocation, FVector HitNormal, UPrimitiveComponent* HitComponent, FName BoneName, FVector ShotFromDirection, AController* InstigatedBy, AActor* DamageCauser, const FHitResult& HitInfo);
+	void ReceivePointDamage(float Damage, const UDamageType* DamageType, FVector HitLocation, FVector HitNormal,
+		UPrimitiveComponent* HitComponent, FName BoneName, FVector ShotFromDirection, AController* InstigatedBy, AActor* DamageCauser,
+		const FHitResult& HitInfo);
 
 	/** The actor is hurt by an explosion. */
 	UFUNCTION(BlueprintImplementableEvent, BlueprintAuthorityOnly, Category = "Game|Damage", meta = (DisplayName = "RadialDamage"))
-	void ReceiveRadialDamage(float DamageReceived, const UDamageType* DamageType, FVector Origin, const FHitResult& HitInfo, AController* InstigatedBy, AActor* DamageCauser);
+	void ReceiveRadialDamage(float DamageReceived, const UDamageType* DamageType, FVector Origin, const FHitResult& HitInfo,
+		AController* InstigatedBy, AActor* DamageCauser);
 
 	/** The pointer comes over the actor. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "Input|Mouse Input", meta = (DisplayName = "ActorBeginCursorOver"))
@@ -345,27 +389,34 @@ public:
 	void ReceiveActorOnInputTouchLeave(const ETouchIndex::Type FingerIndex);
 
 	/** Places the actor in its parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Actor Relative Location", ScriptName = "SetActorRelativeLocation"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Actor Relative Location", ScriptName = "SetActorRelativeLocation"))
 	void K2_SetActorRelativeLocation(FVector NewRelativeLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Turns the actor in its parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Actor Relative Rotation", ScriptName = "SetActorRelativeRotation"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Actor Relative Rotation", ScriptName = "SetActorRelativeRotation"))
 	void K2_SetActorRelativeRotation(FRotator NewRelativeRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Places, turns and scales the actor in its parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Actor Relative Transform", ScriptName = "SetActorRelativeTransform"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Actor Relative Transform", ScriptName = "SetActorRelativeTransform"))
 	void K2_SetActorRelativeTransform(const FTransform& NewRelativeTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a transform in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Actor World Transform", ScriptName = "AddActorWorldTransform"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Actor World Transform", ScriptName = "AddActorWorldTransform"))
 	void K2_AddActorWorldTransform(const FTransform& DeltaTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a transform in the world without scaling. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Actor World Transform Keep Scale", ScriptName = "AddActorWorldTransformKeepScale", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Actor World Transform Keep Scale", ScriptName = "AddActorWorldTransformKeepScale",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddActorWorldTransformKeepScale(const FTransform& DeltaTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a transform along the actor's own axes. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Actor Local Transform", ScriptName = "AddActorLocalTransform"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Actor Local Transform", ScriptName = "AddActorLocalTransform"))
 	void K2_AddActorLocalTransform(const FTransform& NewTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Scales the actor in its parent's space. */
@@ -377,7 +428,8 @@ public:
 	FVector GetActorRelativeScale3D() const;
 
 	/** Moves the actor where it fits. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Teleport", ScriptName = "TeleportTo", Keywords = "Move Position"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Teleport", ScriptName = "TeleportTo", Keywords = "Move Position"))
 	bool K2_TeleportTo(FVector DestLocation, FRotator DestRotation);
 
 	/** Component that the actor's place is of. */
@@ -441,19 +493,24 @@ public:
 	UChildActorComponent* GetParentComponent() const;
 
 	/** First component of a class with a tag. */
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (DeterminesOutputType = "ComponentClass", ComponentClass = "/Script/Engine.ActorComponent"))
+	UFUNCTION(BlueprintCallable, Category = "Actor",
+		meta = (DeterminesOutputType = "ComponentClass", ComponentClass = "/Script/Engine.ActorComponent"))
 	UActorComponent* FindComponentByTag(TSubclassOf<UActorComponent> ComponentClass, FName Tag) const;
 
 	/** Components that have an interface. */
 	UFUNCTION(BlueprintCallable, Category = "Actor")
 	TArray<UActorComponent*> GetComponentsByInterface(TSubclassOf<UInterface> Interface) const;
 
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (BlueprintInternalUseOnly = "true", DefaultToSelf = "ComponentTemplateContext", InternalUseParam = "ComponentTemplateContext,bDeferredFinish"))
-	UActorComponent* AddComponent(FName TemplateName, bool bManualAttachment, const FTransform& RelativeTransform, const UObject* ComponentTemplateContext, bool bDeferredFinish = false);
+	UFUNCTION(BlueprintCallable, Category = "Actor",
+		meta = (BlueprintInternalUseOnly = "true", DefaultToSelf = "ComponentTemplateContext",
+			InternalUseParam = "ComponentTemplateContext,bDeferredFinish"))
+	UActorComponent* AddComponent(FName TemplateName, bool bManualAttachment, const FTransform& RelativeTransform,
+		const UObject* ComponentTemplateContext, bool bDeferredFinish = false);
 
 	/** Adds a component of a class. */
 	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (BlueprintInternalUseOnly = "true", ScriptNoExport))
-	UActorComponent* AddComponentByClass(TSubclassOf<UActorComponent> Class, bool bManualAttachment, const FTransform& RelativeTransform, bool bDeferredFinish);
+	UActorComponent* AddComponentByClass(
+		TSubclassOf<UActorComponent> Class, bool bManualAttachment, const FTransform& RelativeTransform, bool bDeferredFinish);
 
 	/** Ends the adding of a component. */
 	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (BlueprintInternalUseOnly = "true", ScriptNoExport))
@@ -526,7 +583,8 @@ public:
 	void GetOverlappingComponents(TArray<UPrimitiveComponent*>& OverlappingComponents) const;
 
 	/** A player begins to look through the actor. */
-	UFUNCTION(BlueprintImplementableEvent, Category = "Collision", meta = (DisplayName = "OnBecomeViewTarget", ScriptName = "OnBecomeViewTarget"))
+	UFUNCTION(
+		BlueprintImplementableEvent, Category = "Collision", meta = (DisplayName = "OnBecomeViewTarget", ScriptName = "OnBecomeViewTarget"))
 	void K2_OnBecomeViewTarget(APlayerController* PC);
 
 	/** A player looks through the actor no longer. */

@@ -8,7 +8,8 @@ DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnMontageStartedMCDelegate, UAnimMo
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnMontageEndedMCDelegate, UAnimMontage*, Montage, bool, bInterrupted);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE(FOnAllMontageInstancesEndedMCDelegate);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnMontageBlendingOutStartedMCDelegate, UAnimMontage*, Montage, bool, bInterrupted);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FPlayMontageAnimNotifyDelegate, FName, NotifyName, const FBranchingPointNotifyPayload&, BranchingPointPayload);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(
+	FPlayMontageAnimNotifyDelegate, FName, NotifyName, const FBranchingPointNotifyPayload&, BranchingPointPayload);
 
 /** Runs the animation of a mesh. */
 UCLASS(transient, Blueprintable, hideCategories = AnimInstance, BlueprintType)
@@ -87,22 +88,29 @@ public:
 
 	/** Plays a montage. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
-	float Montage_Play(UAnimMontage* MontageToPlay, float InPlayRate = 1.f, EMontagePlayReturnType ReturnValueType = EMontagePlayReturnType::MontageLength, float InTimeToStartMontageAt = 0.f, bool bStopAllMontages = true);
+	float Montage_Play(UAnimMontage* MontageToPlay, float InPlayRate = 1.f,
+		EMontagePlayReturnType ReturnValueType = EMontagePlayReturnType::MontageLength, float InTimeToStartMontageAt = 0.f,
+		bool bStopAllMontages = true);
 
 	/** Plays a montage with a blend of your own. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
-	float Montage_PlayWithBlendIn(UAnimMontage* MontageToPlay, const FAlphaBlendArgs& BlendIn, float InPlayRate = 1.f, EMontagePlayReturnType ReturnValueType = EMontagePlayReturnType::MontageLength, float InTimeToStartMontageAt = 0.f, bool bStopAllMontages = true);
+	float Montage_PlayWithBlendIn(UAnimMontage* MontageToPlay, const FAlphaBlendArgs& BlendIn, float InPlayRate = 1.f,
+		EMontagePlayReturnType ReturnValueType = EMontagePlayReturnType::MontageLength, float InTimeToStartMontageAt = 0.f,
+		bool bStopAllMontages = true);
 
 	/** Ends a montage with a blend of your own. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
 	void Montage_StopWithBlendOut(const FAlphaBlendArgs& BlendOut, const UAnimMontage* Montage = nullptr);
 
+	/** Stops the montages of the group, with a blend of that many seconds. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
 	void Montage_StopGroupByName(float InBlendOutTime, FName GroupName);
 
+	/** Pauses the montage, or all when none is given. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
 	void Montage_Pause(const UAnimMontage* Montage = nullptr);
 
+	/** Goes on with a montage that was paused. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
 	void Montage_Resume(const UAnimMontage* Montage);
 
@@ -118,9 +126,11 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
 	void Montage_SetNextSection(FName SectionNameToChange, FName NextSection, const UAnimMontage* Montage = nullptr);
 
+	/** Sets how fast the montage plays. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
 	void Montage_SetPlayRate(const UAnimMontage* Montage, float NewPlayRate = 1.f);
 
+	/** True while the montage plays or blends out. */
 	UFUNCTION(BlueprintPure, Category = "Animation|Montage")
 	bool Montage_IsActive(const UAnimMontage* Montage) const;
 
@@ -152,7 +162,9 @@ public:
 
 	/** Plays an animation in a slot. */
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
-	UAnimMontage* PlaySlotAnimationAsDynamicMontage(UAnimSequenceBase* Asset, FName SlotNodeName, float BlendInTime = 0.25f, float BlendOutTime = 0.25f, float InPlayRate = 1.f, int32 LoopCount = 1, float BlendOutTriggerTime = -1.f, float InTimeToStartMontageAt = 0.f);
+	UAnimMontage* PlaySlotAnimationAsDynamicMontage(UAnimSequenceBase* Asset, FName SlotNodeName, float BlendInTime = 0.25f,
+		float BlendOutTime = 0.25f, float InPlayRate = 1.f, int32 LoopCount = 1, float BlendOutTriggerTime = -1.f,
+		float InTimeToStartMontageAt = 0.f);
 
 	UFUNCTION(BlueprintCallable, Category = "Animation|Montage")
 	void StopSlotAnimation(float InBlendOutTime = 0.25f, FName SlotNodeName = NAME_None);

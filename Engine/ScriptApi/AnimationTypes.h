@@ -321,7 +321,8 @@ class ENGINE_API UAnimNotify : public UObject
 public:
 	/** The moment has come. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "AnimNotify", meta = (AutoCreateRefTerm = "EventReference"))
-	bool Received_Notify(USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, const FAnimNotifyEventReference& EventReference) const;
+	bool Received_Notify(
+		USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, const FAnimNotifyEventReference& EventReference) const;
 
 	/** The notify name. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "AnimNotify")
@@ -340,15 +341,18 @@ class ENGINE_API UAnimNotifyState : public UObject
 public:
 	/** The span begins. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "AnimNotify", meta = (AutoCreateRefTerm = "EventReference"))
-	bool Received_NotifyBegin(USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, float TotalDuration, const FAnimNotifyEventReference& EventReference) const;
+	bool Received_NotifyBegin(USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, float TotalDuration,
+		const FAnimNotifyEventReference& EventReference) const;
 
 	/** Each frame of the span. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "AnimNotify", meta = (AutoCreateRefTerm = "EventReference"))
-	bool Received_NotifyTick(USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, float FrameDeltaTime, const FAnimNotifyEventReference& EventReference) const;
+	bool Received_NotifyTick(USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, float FrameDeltaTime,
+		const FAnimNotifyEventReference& EventReference) const;
 
 	/** The span ends. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "AnimNotify", meta = (AutoCreateRefTerm = "EventReference"))
-	bool Received_NotifyEnd(USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, const FAnimNotifyEventReference& EventReference) const;
+	bool Received_NotifyEnd(
+		USkeletalMeshComponent* MeshComp, UAnimSequenceBase* Animation, const FAnimNotifyEventReference& EventReference) const;
 
 	/** The notify name. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "AnimNotify")

@@ -54,7 +54,9 @@ class ENGINE_API UPolys : public UObject
 };
 
 /** Shape of a volume. */
-UCLASS(editinlinenew, MinimalAPI, hidecategories = (Physics, Lighting, LOD, Rendering, TextureStreaming, Transform, Activation, "Components|Activation"), showcategories = (Mobility, "Rendering|Material"))
+UCLASS(editinlinenew, MinimalAPI,
+	hidecategories = (Physics, Lighting, LOD, Rendering, TextureStreaming, Transform, Activation, "Components|Activation"),
+	showcategories = (Mobility, "Rendering|Material"))
 class ENGINE_API UBrushComponent : public UPrimitiveComponent
 {
 	GENERATED_BODY()

@@ -30,10 +30,14 @@ public:
 	FOnPrimaryAssetBundlesChanged Completed;
 
 	/** Replaces bundles of all loaded primary assets that have the old ones. */
-	UFUNCTION(BlueprintCallable, Category = "Asset Manager", meta = (BlueprintInternalUseOnly = "true", WorldContext = "WorldContextObject"))
-	static UAsyncActionChangePrimaryAssetBundles* AsyncChangeBundleStateForMatchingPrimaryAssets(UObject* WorldContextObject, const TArray<FName>& NewBundles, const TArray<FName>& OldBundles);
+	UFUNCTION(
+		BlueprintCallable, Category = "Asset Manager", meta = (BlueprintInternalUseOnly = "true", WorldContext = "WorldContextObject"))
+	static UAsyncActionChangePrimaryAssetBundles* AsyncChangeBundleStateForMatchingPrimaryAssets(
+		UObject* WorldContextObject, const TArray<FName>& NewBundles, const TArray<FName>& OldBundles);
 
 	/** Adds and removes bundles of some primary assets. */
-	UFUNCTION(BlueprintCallable, Category = "Asset Manager", meta = (BlueprintInternalUseOnly = "true", WorldContext = "WorldContextObject"))
-	static UAsyncActionChangePrimaryAssetBundles* AsyncChangeBundleStateForPrimaryAssetList(UObject* WorldContextObject, const TArray<FPrimaryAssetId>& PrimaryAssetList, const TArray<FName>& AddBundles, const TArray<FName>& RemoveBundles);
+	UFUNCTION(
+		BlueprintCallable, Category = "Asset Manager", meta = (BlueprintInternalUseOnly = "true", WorldContext = "WorldContextObject"))
+	static UAsyncActionChangePrimaryAssetBundles* AsyncChangeBundleStateForPrimaryAssetList(UObject* WorldContextObject,
+		const TArray<FPrimaryAssetId>& PrimaryAssetList, const TArray<FName>& AddBundles, const TArray<FName>& RemoveBundles);
 };

@@ -29,7 +29,8 @@ struct FSoundModulationDefaultSettings
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnAudioPlaybackPercent, const USoundWave*, PlayingSoundWave, const float, PlaybackPercent);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnAudioSingleEnvelopeValue, const USoundWave*, PlayingSoundWave, const float, EnvelopeValue);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FOnAudioMultiEnvelopeValue, const float, AverageEnvelopeValue, const float, MaxEnvelope, const int32, NumWaveInstances);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(
+	FOnAudioMultiEnvelopeValue, const float, AverageEnvelopeValue, const float, MaxEnvelope, const int32, NumWaveInstances);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnAudioPlayStateChanged, EAudioComponentPlayState, PlayState);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnAudioVirtualizationChanged, bool, bIsVirtualized);
 DECLARE_DYNAMIC_DELEGATE_TwoParams(FOnQueueSubtitles, const TArray<FSubtitleCue>&, Subtitles, float, CueDuration);
@@ -106,7 +107,8 @@ public:
 
 	/** Plays and grows louder. */
 	UFUNCTION(BlueprintCallable, Category = "Audio|Components|Audio")
-	void FadeIn(float FadeInDuration, float FadeVolumeLevel = 1.0f, float StartTime = 0.0f, const EAudioFaderCurve FadeCurve = EAudioFaderCurve::Linear);
+	void FadeIn(float FadeInDuration, float FadeVolumeLevel = 1.0f, float StartTime = 0.0f,
+		const EAudioFaderCurve FadeCurve = EAudioFaderCurve::Linear);
 
 	/** Grows quieter and stops. */
 	UFUNCTION(BlueprintCallable, Category = "Audio|Components|Audio")

@@ -50,12 +50,14 @@ enum class ETemperatureSeverityType : uint8
 };
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE(FPlatformDelegate);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FPlatformScreenOrientationChangedDelegate, TEnumAsByte<EScreenOrientation::Type>, inScreenOrientation);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(
+	FPlatformScreenOrientationChangedDelegate, TEnumAsByte<EScreenOrientation::Type>, inScreenOrientation);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FPlatformStartupArgumentsDelegate, const TArray<FString>&, StartupArguments);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FPlatformRegisteredForRemoteNotificationsDelegate, const TArray<uint8>&, inArray);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FPlatformRegisteredForUserNotificationsDelegate, int32, inInt);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FPlatformFailedToRegisterForRemoteNotificationsDelegate, FString, inString);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FPlatformReceivedRemoteNotificationDelegate, FString, inString, TEnumAsByte<EApplicationState::Type>, inAppState);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(
+	FPlatformReceivedRemoteNotificationDelegate, FString, inString, TEnumAsByte<EApplicationState::Type>, inAppState);
 
 /** A game's run that hears of the device. */
 UCLASS()
@@ -102,11 +104,13 @@ public:
 
 	/** Shows a message of the device at a time. */
 	UFUNCTION(BlueprintCallable, Category = "Platform|LocalNotification")
-	static int32 ScheduleLocalNotificationAtTime(const FDateTime& FireDateTime, bool LocalTime, const FText& Title, const FText& Body, const FText& Action, const FString& ActivationEvent);
+	static int32 ScheduleLocalNotificationAtTime(const FDateTime& FireDateTime, bool LocalTime, const FText& Title, const FText& Body,
+		const FText& Action, const FString& ActivationEvent);
 
 	/** Shows a message of the device after some seconds. */
 	UFUNCTION(BlueprintCallable, Category = "Platform|LocalNotification")
-	static int32 ScheduleLocalNotificationFromNow(int32 inSecondsFromNow, const FText& Title, const FText& Body, const FText& Action, const FString& ActivationEvent);
+	static int32 ScheduleLocalNotificationFromNow(
+		int32 inSecondsFromNow, const FText& Title, const FText& Body, const FText& Action, const FString& ActivationEvent);
 
 	/** Shows a mark on the game's icon at a time. */
 	UFUNCTION(BlueprintCallable, Category = "Platform|LocalNotification")

@@ -4,8 +4,10 @@
 #include "Pawn.h"
 #include "Character.generated.h"
 
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FMovementModeChangedSignature, ACharacter*, Character, EMovementMode, PrevMovementMode, uint8, PreviousCustomMode);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FCharacterMovementUpdatedSignature, float, DeltaSeconds, FVector, OldLocation, FVector, OldVelocity);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(
+	FMovementModeChangedSignature, ACharacter*, Character, EMovementMode, PrevMovementMode, uint8, PreviousCustomMode);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(
+	FCharacterMovementUpdatedSignature, float, DeltaSeconds, FVector, OldLocation, FVector, OldVelocity);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE(FCharacterReachedApexSignature);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FLandedSignature, const FHitResult&, Hit);
 
@@ -120,7 +122,8 @@ public:
 	FVector GetBaseTranslationOffset() const;
 
 	/** The base rotation offset rotator. */
-	UFUNCTION(BlueprintCallable, Category = "Character", meta = (DisplayName = "Get Base Rotation Offset", ScriptName = "GetBaseRotationOffset"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Character", meta = (DisplayName = "Get Base Rotation Offset", ScriptName = "GetBaseRotationOffset"))
 	FRotator GetBaseRotationOffsetRotator() const;
 
 	/** Montage that the character plays. */
@@ -144,23 +147,27 @@ public:
 	bool IsJumpProvidingForce() const;
 
 	/** True if it can jump internal. */
-	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Character", meta = (DisplayName = "CanJump", BlueprintInternalUseOnly = "true"))
+	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Character",
+		meta = (DisplayName = "CanJump", BlueprintInternalUseOnly = "true"))
 	bool CanJumpInternal() const;
 
 	/** The character walks off an edge. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Character")
-	void OnWalkingOffLedge(const FVector& PreviousFloorImpactNormal, const FVector& PreviousFloorContactNormal, const FVector& PreviousLocation, float TimeDelta);
+	void OnWalkingOffLedge(const FVector& PreviousFloorImpactNormal, const FVector& PreviousFloorContactNormal,
+		const FVector& PreviousLocation, float TimeDelta);
 
 	/** The character is launched. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "Character")
 	void OnLaunched(FVector LaunchVelocity, bool bXYOverride, bool bZOverride);
 
 	/** The way of moving changes. */
-	UFUNCTION(BlueprintImplementableEvent, Category = "Character", meta = (DisplayName = "OnMovementModeChanged", ScriptName = "OnMovementModeChanged"))
+	UFUNCTION(BlueprintImplementableEvent, Category = "Character",
+		meta = (DisplayName = "OnMovementModeChanged", ScriptName = "OnMovementModeChanged"))
 	void K2_OnMovementModeChanged(EMovementMode PrevMovementMode, EMovementMode NewMovementMode, uint8 PrevCustomMode, uint8 NewCustomMode);
 
 	/** Moves the character in a way of your own. */
-	UFUNCTION(BlueprintImplementableEvent, Category = "Character", meta = (DisplayName = "UpdateCustomMovement", ScriptName = "UpdateCustomMovement"))
+	UFUNCTION(BlueprintImplementableEvent, Category = "Character",
+		meta = (DisplayName = "UpdateCustomMovement", ScriptName = "UpdateCustomMovement"))
 	void K2_UpdateCustomMovement(float DeltaTime);
 
 	/** The character crouches. */

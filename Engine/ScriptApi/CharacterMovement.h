@@ -22,7 +22,8 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Walking", meta = (ClampMin = "0", ForceUnits = "cm/s"))
 	float MaxWalkSpeed;
 
-	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Jumping / Falling", meta = (DisplayName = "Jump Z Velocity", ForceUnits = "cm/s"))
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Jumping / Falling",
+		meta = (DisplayName = "Jump Z Velocity", ForceUnits = "cm/s"))
 	float JumpZVelocity;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement (General Settings)")
@@ -213,7 +214,8 @@ public:
 	void SetWalkableFloorAngle(float InWalkableFloorAngle);
 
 	/** The walkable floor angle. */
-	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement", meta = (ScriptName = "GetWalkableFloorAngle", DisplayName = "Get Walkable Floor Angle"))
+	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement",
+		meta = (ScriptName = "GetWalkableFloorAngle", DisplayName = "Get Walkable Floor Angle"))
 	float K2_GetWalkableFloorAngle() const;
 
 	/** Sets the walkable floor z. */
@@ -221,7 +223,8 @@ public:
 	void SetWalkableFloorZ(float InWalkableFloorZ);
 
 	/** The walkable floor z. */
-	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement", meta = (ScriptName = "GetWalkableFloorZ", DisplayName = "Get Walkable Floor Z"))
+	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement",
+		meta = (ScriptName = "GetWalkableFloorZ", DisplayName = "Get Walkable Floor Z"))
 	float K2_GetWalkableFloorZ() const;
 
 	/** True if it is walking. */
@@ -286,11 +289,14 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement")
 	float GetValidPerchRadius() const;
 
-	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement", meta = (DisplayName = "Find Floor", ScriptName = "FindFloor"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Pawn|Components|CharacterMovement", meta = (DisplayName = "Find Floor", ScriptName = "FindFloor"))
 	void K2_FindFloor(FVector CapsuleLocation, FFindFloorResult& FloorResult) const;
 
-	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement", meta = (DisplayName = "Compute Floor Distance", ScriptName = "ComputeFloorDist"))
-	void K2_ComputeFloorDist(FVector CapsuleLocation, float LineDistance, float SweepDistance, float SweepRadius, FFindFloorResult& FloorResult) const;
+	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement",
+		meta = (DisplayName = "Compute Floor Distance", ScriptName = "ComputeFloorDist"))
+	void K2_ComputeFloorDist(
+		FVector CapsuleLocation, float LineDistance, float SweepDistance, float SweepRadius, FFindFloorResult& FloorResult) const;
 
 	/** Sets the avoidance enabled. */
 	UFUNCTION(BlueprintCallable, Category = "Pawn|Components|CharacterMovement")

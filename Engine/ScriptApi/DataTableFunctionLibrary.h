@@ -24,7 +24,8 @@ class ENGINE_API UDataTableFunctionLibrary : public UBlueprintFunctionLibrary
 public:
 	/** Value of a curve of a table. */
 	UFUNCTION(BlueprintCallable, Category = "DataTable", meta = (ExpandEnumAsExecs = "OutResult"))
-	static void EvaluateCurveTableRow(UCurveTable* CurveTable, FName RowName, float InXY, TEnumAsByte<EEvaluateCurveTableResult::Type>& OutResult, float& OutXY, const FString& ContextString);
+	static void EvaluateCurveTableRow(UCurveTable* CurveTable, FName RowName, float InXY,
+		TEnumAsByte<EEvaluateCurveTableResult::Type>& OutResult, float& OutXY, const FString& ContextString);
 
 	/** True if the row is there. */
 	UFUNCTION(BlueprintPure, Category = "DataTable")
@@ -39,7 +40,8 @@ public:
 	static TArray<FString> GetDataTableColumnAsString(const UDataTable* DataTable, FName PropertyName);
 
 	/** A row by name; false if it is not there. */
-	UFUNCTION(BlueprintCallable, CustomThunk, Category = "DataTable", meta = (CustomStructureParam = "OutRow", BlueprintInternalUseOnly = "true"))
+	UFUNCTION(
+		BlueprintCallable, CustomThunk, Category = "DataTable", meta = (CustomStructureParam = "OutRow", BlueprintInternalUseOnly = "true"))
 	static bool GetDataTableRowFromName(UDataTable* Table, FName RowName, FTableRowBase& OutRow);
 
 	/** Fills a table with comma-separated rows, in the editor. */

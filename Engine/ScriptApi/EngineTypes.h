@@ -195,7 +195,9 @@ enum class ETeleportType : uint8
 };
 
 /** What a trace or a sweep hit, and where. */
-USTRUCT(BlueprintType, meta = (HasNativeBreak = "/Script/Engine.GameplayStatics.BreakHitResult", HasNativeMake = "/Script/Engine.GameplayStatics.MakeHitResult"))
+USTRUCT(BlueprintType,
+	meta = (HasNativeBreak = "/Script/Engine.GameplayStatics.BreakHitResult",
+		HasNativeMake = "/Script/Engine.GameplayStatics.MakeHitResult"))
 struct ENGINE_API FHitResult
 {
 	GENERATED_BODY()

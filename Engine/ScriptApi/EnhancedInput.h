@@ -154,7 +154,8 @@ struct FEnhancedActionKeyMapping
 	TArray<TObjectPtr<UInputModifier>> Modifiers;
 };
 
-DECLARE_DYNAMIC_DELEGATE_FourParams(FEnhancedInputActionHandlerDynamicSignature, FInputActionValue, ActionValue, float, ElapsedTime, float, TriggeredTime, const UInputAction*, SourceAction);
+DECLARE_DYNAMIC_DELEGATE_FourParams(FEnhancedInputActionHandlerDynamicSignature, FInputActionValue, ActionValue, float, ElapsedTime, float,
+	TriggeredTime, const UInputAction*, SourceAction);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE(FOnControlMappingsRebuilt);
 
 /** Something that a player does by input. */
@@ -224,6 +225,7 @@ public:
 	UPROPERTY(BlueprintReadWrite, Category = "Trigger")
 	FInputActionValue LastValue;
 
+	/** Says whether the trigger has fired, for the value that the action has now. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Trigger")
 	ETriggerState UpdateState(const UEnhancedPlayerInput* PlayerInput, FInputActionValue ModifiedValue, float DeltaTime);
 
@@ -239,6 +241,7 @@ class ENHANCEDINPUT_API UInputModifier : public UObject
 	GENERATED_BODY()
 
 public:
+	/** Changes the value of the input before its action sees it. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Modifier")
 	FInputActionValue ModifyRaw(const UEnhancedPlayerInput* PlayerInput, FInputActionValue CurrentValue, float DeltaTime) const;
 
@@ -284,7 +287,8 @@ public:
 
 	/** Adds keys of actions. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (AutoCreateRefTerm = "Options"))
-	void AddMappingContext(const UInputMappingContext* MappingContext, int32 Priority, const FModifyContextOptions& Options = FModifyContextOptions());
+	void AddMappingContext(
+		const UInputMappingContext* MappingContext, int32 Priority, const FModifyContextOptions& Options = FModifyContextOptions());
 
 	/** Takes keys of actions away. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (AutoCreateRefTerm = "Options"))
@@ -295,18 +299,21 @@ public:
 	void ClearAllMappings();
 
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (AutoCreateRefTerm = "Options"))
-	void RequestRebuildControlMappings(const FModifyContextOptions& Options = FModifyContextOptions(), EInputMappingRebuildType RebuildType = EInputMappingRebuildType::Rebuild);
+	void RequestRebuildControlMappings(const FModifyContextOptions& Options = FModifyContextOptions(),
+		EInputMappingRebuildType RebuildType = EInputMappingRebuildType::Rebuild);
 
 	UFUNCTION(BlueprintCallable, Category = "Input")
 	TArray<FKey> QueryKeysMappedToAction(const UInputAction* Action) const;
 
 	/** Plays an action. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (AutoCreateRefTerm = "Modifiers,Triggers"))
-	void InjectInputForAction(const UInputAction* Action, FInputActionValue RawValue, const TArray<UInputModifier*>& Modifiers, const TArray<UInputTrigger*>& Triggers);
+	void InjectInputForAction(const UInputAction* Action, FInputActionValue RawValue, const TArray<UInputModifier*>& Modifiers,
+		const TArray<UInputTrigger*>& Triggers);
 
 	/** Plays an action. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (AutoCreateRefTerm = "Modifiers,Triggers"))
-	void InjectInputVectorForAction(const UInputAction* Action, FVector Value, const TArray<UInputModifier*>& Modifiers, const TArray<UInputTrigger*>& Triggers);
+	void InjectInputVectorForAction(
+		const UInputAction* Action, FVector Value, const TArray<UInputModifier*>& Modifiers, const TArray<UInputTrigger*>& Triggers);
 };
 
 /** Mapping contexts of a player at this machine. */
@@ -346,18 +353,23 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Input", meta = (NativeMakeFunc))
 	static FInputActionValue MakeInputActionValueOfType(double X, double Y, double Z, const EInputActionValueType ValueType);
 
-	UFUNCTION(BlueprintPure, Category = "Input", meta = (DisplayName = "Get Input Action Value (bool)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Input",
+		meta = (DisplayName = "Get Input Action Value (bool)", CompactNodeTitle = "->", BlueprintAutocast))
 	static bool Conv_InputActionValueToBool(FInputActionValue InValue);
 
-	UFUNCTION(BlueprintPure, Category = "Input", meta = (DisplayName = "Get Input Action Value (axis 1D)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Input",
+		meta = (DisplayName = "Get Input Action Value (axis 1D)", CompactNodeTitle = "->", BlueprintAutocast))
 	static double Conv_InputActionValueToAxis1D(FInputActionValue InValue);
 
-	UFUNCTION(BlueprintPure, Category = "Input", meta = (DisplayName = "Get Input Action Value (axis 2D)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Input",
+		meta = (DisplayName = "Get Input Action Value (axis 2D)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FVector2D Conv_InputActionValueToAxis2D(FInputActionValue InValue);
 
-	UFUNCTION(BlueprintPure, Category = "Input", meta = (DisplayName = "Get Input Action Value (axis 3D)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Input",
+		meta = (DisplayName = "Get Input Action Value (axis 3D)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FVector Conv_InputActionValueToAxis3D(FInputActionValue ActionValue);
 
-	UFUNCTION(BlueprintPure, Category = "Input", meta = (DisplayName = "To String (Input Action Value)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Input",
+		meta = (DisplayName = "To String (Input Action Value)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_InputActionValueToString(FInputActionValue ActionValue);
 };

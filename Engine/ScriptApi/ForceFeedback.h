@@ -14,7 +14,8 @@ class ENGINE_API UForceFeedbackAttenuation : public UObject
 };
 
 /** A rumble in the world. */
-UCLASS(ClassGroup = Utility, hidecategories = (Object, ActorComponent, Physics, Rendering, Mobility, LOD), meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = Utility, hidecategories = (Object, ActorComponent, Physics, Rendering, Mobility, LOD),
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API UForceFeedbackComponent : public USceneComponent
 {
 	GENERATED_BODY()

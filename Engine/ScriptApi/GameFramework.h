@@ -6,7 +6,8 @@
 
 /** An actor that has no place in the world. */
 // Extends native
-UCLASS(abstract, hidecategories = (Input, Movement, Collision, Rendering, HLOD, WorldPartition, DataLayers), showcategories = ("Input|MouseInput", "Input|TouchInput"), NotBlueprintable)
+UCLASS(abstract, hidecategories = (Input, Movement, Collision, Rendering, HLOD, WorldPartition, DataLayers),
+	showcategories = ("Input|MouseInput", "Input|TouchInput"), NotBlueprintable)
 class ENGINE_API AInfo : public AActor
 {
 	GENERATED_BODY()

@@ -177,7 +177,8 @@ public:
 
 	/** The resolution scale information ex. */
 	UFUNCTION(BlueprintCallable, Category = "Settings", meta = (DisplayName = "GetResolutionScaleInformation"))
-	void GetResolutionScaleInformationEx(float& CurrentScaleNormalized, float& CurrentScaleValue, float& MinScaleValue, float& MaxScaleValue) const;
+	void GetResolutionScaleInformationEx(
+		float& CurrentScaleNormalized, float& CurrentScaleValue, float& MinScaleValue, float& MaxScaleValue) const;
 
 	/** Sets the resolution scale value ex. */
 	UFUNCTION(BlueprintCallable, Category = "Settings", meta = (DisplayName = "SetResolutionScaleValue"))

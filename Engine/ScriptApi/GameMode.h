@@ -8,7 +8,8 @@
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FOnPlayerStatePawnSet, APlayerState*, Player, APawn*, NewPawn, APawn*, OldPawn);
 
 /** Rules of a game; it is on the server alone. */
-UCLASS(config = Game, notplaceable, BlueprintType, Blueprintable, Transient, hideCategories = (Info, Rendering, MovementReplication, Replication, Actor))
+UCLASS(config = Game, notplaceable, BlueprintType, Blueprintable, Transient,
+	hideCategories = (Info, Rendering, MovementReplication, Replication, Actor))
 class ENGINE_API AGameModeBase : public AInfo
 {
 	GENERATED_BODY()
@@ -99,12 +100,15 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Game")
 	void ChangeName(AController* Controller, const FString& NewName, bool bNameChange);
 
+	/** When a player is about to start at a place, which can still be prepared here. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	void InitStartSpot(AActor* StartSpot, AController* NewPlayer);
 
+	/** Whether the actor starts anew when the level is reset. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	bool ShouldReset(AActor* ActorToReset);
 
+	/** Whether the player may enter the world again, for example after a death. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	bool PlayerCanRestart(APlayerController* Player);
 
@@ -112,9 +116,11 @@ public:
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	bool CanSpectate(APlayerController* Viewer, APlayerState* ViewTarget);
 
+	/** When a new player has joined and is to start. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	void HandleStartingNewPlayer(APlayerController* NewPlayer);
 
+	/** Finds the place where the player starts, by its name when one is asked for. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game", meta = (BlueprintInternalUseOnly = "true"))
 	AActor* FindPlayerStart(AController* Player, const FString& IncomingName = TEXT(""));
 
@@ -122,9 +128,11 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Game", meta = (DisplayName = "FindPlayerStart", ScriptName = "FindPlayerStart"))
 	AActor* K2_FindPlayerStart(AController* Player, const FString& IncomingName = TEXT(""));
 
+	/** Makes the pawn of the player at the place where the player starts. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	APawn* SpawnDefaultPawnFor(AController* NewPlayer, AActor* StartSpot);
 
+	/** Makes the pawn of the player at a place. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	APawn* SpawnDefaultPawnAtTransform(AController* NewPlayer, const FTransform& SpawnTransform);
 
@@ -132,6 +140,7 @@ public:
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	UClass* GetDefaultPawnClassForController(AController* InController);
 
+	/** Whether the player watches instead of playing. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Game")
 	bool MustSpectate(APlayerController* NewPlayerController) const;
 
@@ -148,7 +157,8 @@ public:
 	void K2_OnChangeName(AController* Other, const FString& NewName, bool bNameChange);
 
 	/** A player gets another controller. */
-	UFUNCTION(BlueprintImplementableEvent, Category = "Game", meta = (DisplayName = "OnSwapPlayerControllers", ScriptName = "OnSwapPlayerControllers"))
+	UFUNCTION(BlueprintImplementableEvent, Category = "Game",
+		meta = (DisplayName = "OnSwapPlayerControllers", ScriptName = "OnSwapPlayerControllers"))
 	void K2_OnSwapPlayerControllers(APlayerController* OldPC, APlayerController* NewPC);
 };
 
@@ -338,9 +348,11 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "PlayerState", meta = (DisplayName = "Get Unique Net Id", ScriptName = "GetUniqueNetId"))
 	FUniqueNetIdRepl BP_GetUniqueId() const;
 
+	/** When the player comes back and takes over from the state that was kept of it. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "PlayerState", meta = (DisplayName = "OverrideWith"))
 	void ReceiveOverrideWith(APlayerState* OldPlayerState);
 
+	/** When what the player has reached is copied into a new state, as at a change of the level. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "PlayerState", meta = (DisplayName = "CopyProperties"))
 	void ReceiveCopyProperties(APlayerState* NewPlayerState);
 };

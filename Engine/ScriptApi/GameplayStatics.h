@@ -36,7 +36,8 @@ public:
 	static AActor* GetActorOfClass(const UObject* WorldContextObject, TSubclassOf<AActor> ActorClass);
 
 	/** All actors of a class. Slow: do not call it each frame. */
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "ActorClass", DynamicOutputParam = "OutActors"))
+	UFUNCTION(BlueprintCallable, Category = "Actor",
+		meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "ActorClass", DynamicOutputParam = "OutActors"))
 	static void GetAllActorsOfClass(const UObject* WorldContextObject, TSubclassOf<AActor> ActorClass, TArray<AActor*>& OutActors);
 
 	/** All actors that have an interface. Slow: do not call it each frame. */
@@ -48,7 +49,8 @@ public:
 	static void GetAllActorsWithTag(const UObject* WorldContextObject, FName Tag, TArray<AActor*>& OutActors);
 
 	/** Opens a level by name. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject", AdvancedDisplay = "2", DisplayName = "Open Level (by Name)"))
+	UFUNCTION(BlueprintCallable, Category = "Game",
+		meta = (WorldContext = "WorldContextObject", AdvancedDisplay = "2", DisplayName = "Open Level (by Name)"))
 	static void OpenLevel(const UObject* WorldContextObject, FName LevelName, bool bAbsolute = true, FString Options = FString(TEXT("")));
 
 	/** Name of the level. */
@@ -65,11 +67,13 @@ public:
 
 	/** Hurts an actor, and answers by how much. */
 	UFUNCTION(BlueprintCallable, BlueprintAuthorityOnly, Category = "Game|Damage")
-	static float ApplyDamage(AActor* DamagedActor, float BaseDamage, AController* EventInstigator, AActor* DamageCauser, TSubclassOf<UDamageType> DamageTypeClass);
+	static float ApplyDamage(AActor* DamagedActor, float BaseDamage, AController* EventInstigator, AActor* DamageCauser,
+		TSubclassOf<UDamageType> DamageTypeClass);
 
 	/** Hurts an actor at a place, and answers by how much. */
 	UFUNCTION(BlueprintCallable, BlueprintAuthorityOnly, Category = "Game|Damage")
-	static float ApplyPointDamage(AActor* DamagedActor, float BaseDamage, const FVector& HitFromDirection, const FHitResult& HitInfo, AController* EventInstigator, AActor* DamageCauser, TSubclassOf<UDamageType> DamageTypeClass);
+	static float ApplyPointDamage(AActor* DamagedActor, float BaseDamage, const FVector& HitFromDirection, const FHitResult& HitInfo,
+		AController* EventInstigator, AActor* DamageCauser, TSubclassOf<UDamageType> DamageTypeClass);
 
 	/** Makes an empty saved game. */
 	UFUNCTION(BlueprintCallable, Category = "SaveGame", meta = (DeterminesOutputType = "SaveGameClass"))
@@ -92,12 +96,17 @@ public:
 	static bool DeleteGameInSlot(const FString& SlotName, const int32 UserIndex);
 
 	/** Begins to spawn an actor; its values are set before FinishSpawningActor. */
-	UFUNCTION(BlueprintCallable, Category = "Spawning", meta = (WorldContext = "WorldContextObject", UnsafeDuringActorConstruction = "true", BlueprintInternalUseOnly = "true"))
-	static AActor* BeginDeferredActorSpawnFromClass(const UObject* WorldContextObject, TSubclassOf<AActor> ActorClass, const FTransform& SpawnTransform, ESpawnActorCollisionHandlingMethod CollisionHandlingOverride = ESpawnActorCollisionHandlingMethod::Undefined, AActor* Owner = nullptr, ESpawnActorScaleMethod TransformScaleMethod = ESpawnActorScaleMethod::MultiplyWithRoot);
+	UFUNCTION(BlueprintCallable, Category = "Spawning",
+		meta = (WorldContext = "WorldContextObject", UnsafeDuringActorConstruction = "true", BlueprintInternalUseOnly = "true"))
+	static AActor* BeginDeferredActorSpawnFromClass(const UObject* WorldContextObject, TSubclassOf<AActor> ActorClass,
+		const FTransform& SpawnTransform,
+		ESpawnActorCollisionHandlingMethod CollisionHandlingOverride = ESpawnActorCollisionHandlingMethod::Undefined,
+		AActor* Owner = nullptr, ESpawnActorScaleMethod TransformScaleMethod = ESpawnActorScaleMethod::MultiplyWithRoot);
 
 	/** Ends the spawning of an actor. */
 	UFUNCTION(BlueprintCallable, Category = "Spawning", meta = (UnsafeDuringActorConstruction = "true", BlueprintInternalUseOnly = "true"))
-	static AActor* FinishSpawningActor(AActor* Actor, const FTransform& SpawnTransform, ESpawnActorScaleMethod TransformScaleMethod = ESpawnActorScaleMethod::MultiplyWithRoot);
+	static AActor* FinishSpawningActor(AActor* Actor, const FTransform& SpawnTransform,
+		ESpawnActorScaleMethod TransformScaleMethod = ESpawnActorScaleMethod::MultiplyWithRoot);
 
 	/** Makes an object of a class. */
 	UFUNCTION(BlueprintCallable, Category = "Spawning", meta = (BlueprintInternalUseOnly = "true", DefaultToSelf = "Outer"))
@@ -144,7 +153,8 @@ public:
 	static UClass* GetObjectClass(const UObject* Object);
 
 	/** Adds a player at this machine. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject", AdvancedDisplay = "2", UnsafeDuringActorConstruction = "true"))
+	UFUNCTION(BlueprintCallable, Category = "Game",
+		meta = (WorldContext = "WorldContextObject", AdvancedDisplay = "2", UnsafeDuringActorConstruction = "true"))
 	static APlayerController* CreatePlayer(const UObject* WorldContextObject, int32 ControllerId = -1, bool bSpawnPlayerController = true);
 
 	/** Takes a player at this machine out. */
@@ -160,24 +170,36 @@ public:
 	static void SetPlayerControllerID(APlayerController* Player, int32 ControllerId);
 
 	/** Opens a level. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject", AdvancedDisplay = "2", DisplayName = "Open Level (by Object Reference)"))
-	static void OpenLevelBySoftObjectPtr(const UObject* WorldContextObject, const TSoftObjectPtr<UWorld> Level, bool bAbsolute = true, FString Options = FString(TEXT("")));
+	UFUNCTION(BlueprintCallable, Category = "Game",
+		meta = (WorldContext = "WorldContextObject", AdvancedDisplay = "2", DisplayName = "Open Level (by Object Reference)"))
+	static void OpenLevelBySoftObjectPtr(
+		const UObject* WorldContextObject, const TSoftObjectPtr<UWorld> Level, bool bAbsolute = true, FString Options = FString(TEXT("")));
 
 	/** Streams a level in. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", DisplayName = "Load Stream Level (by Name)"))
-	static void LoadStreamLevel(const UObject* WorldContextObject, FName LevelName, bool bMakeVisibleAfterLoad, bool bShouldBlockOnLoad, FLatentActionInfo LatentInfo);
+	UFUNCTION(BlueprintCallable, Category = "Game",
+		meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", DisplayName = "Load Stream Level (by Name)"))
+	static void LoadStreamLevel(const UObject* WorldContextObject, FName LevelName, bool bMakeVisibleAfterLoad, bool bShouldBlockOnLoad,
+		FLatentActionInfo LatentInfo);
 
 	/** Streams a level in. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", DisplayName = "Load Stream Level (by Object Reference)"))
-	static void LoadStreamLevelBySoftObjectPtr(const UObject* WorldContextObject, const TSoftObjectPtr<UWorld> Level, bool bMakeVisibleAfterLoad, bool bShouldBlockOnLoad, FLatentActionInfo LatentInfo);
+	UFUNCTION(BlueprintCallable, Category = "Game",
+		meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo",
+			DisplayName = "Load Stream Level (by Object Reference)"))
+	static void LoadStreamLevelBySoftObjectPtr(const UObject* WorldContextObject, const TSoftObjectPtr<UWorld> Level,
+		bool bMakeVisibleAfterLoad, bool bShouldBlockOnLoad, FLatentActionInfo LatentInfo);
 
 	/** Streams a level out. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", DisplayName = "Unload Stream Level (by Name)"))
-	static void UnloadStreamLevel(const UObject* WorldContextObject, FName LevelName, FLatentActionInfo LatentInfo, bool bShouldBlockOnUnload);
+	UFUNCTION(BlueprintCallable, Category = "Game",
+		meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", DisplayName = "Unload Stream Level (by Name)"))
+	static void UnloadStreamLevel(
+		const UObject* WorldContextObject, FName LevelName, FLatentActionInfo LatentInfo, bool bShouldBlockOnUnload);
 
 	/** Streams a level out. */
-	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", DisplayName = "Unload Stream Level (by Object Reference)"))
-	static void UnloadStreamLevelBySoftObjectPtr(const UObject* WorldContextObject, const TSoftObjectPtr<UWorld> Level, FLatentActionInfo LatentInfo, bool bShouldBlockOnUnload);
+	UFUNCTION(BlueprintCallable, Category = "Game",
+		meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo",
+			DisplayName = "Unload Stream Level (by Object Reference)"))
+	static void UnloadStreamLevelBySoftObjectPtr(
+		const UObject* WorldContextObject, const TSoftObjectPtr<UWorld> Level, FLatentActionInfo LatentInfo, bool bShouldBlockOnUnload);
 
 	/** The streaming level. */
 	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject"))
@@ -224,11 +246,14 @@ public:
 	static bool HasLaunchOption(const FString& OptionToCheck);
 
 	UFUNCTION(BlueprintPure, Category = "Foliage", meta = (WorldContext = "WorldContextObject"))
-	static int32 GrassOverlappingSphereCount(const UObject* WorldContextObject, const UStaticMesh* StaticMesh, FVector CenterPosition, float Radius);
+	static int32 GrassOverlappingSphereCount(
+		const UObject* WorldContextObject, const UStaticMesh* StaticMesh, FVector CenterPosition, float Radius);
 
 	/** All actors of a class that have a tag. Slow: do not call it each frame. */
-	UFUNCTION(BlueprintCallable, Category = "Actor", meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "ActorClass", DynamicOutputParam = "OutActors"))
-	static void GetAllActorsOfClassWithTag(const UObject* WorldContextObject, TSubclassOf<AActor> ActorClass, FName Tag, TArray<AActor*>& OutActors);
+	UFUNCTION(BlueprintCallable, Category = "Actor",
+		meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "ActorClass", DynamicOutputParam = "OutActors"))
+	static void GetAllActorsOfClassWithTag(
+		const UObject* WorldContextObject, TSubclassOf<AActor> ActorClass, FName Tag, TArray<AActor*>& OutActors);
 
 	/** The actor array average location. */
 	UFUNCTION(BlueprintPure, Category = "Actor")
@@ -243,12 +268,20 @@ public:
 	static AActor* FindNearestActor(FVector Origin, const TArray<AActor*>& ActorsToCheck, float& Distance);
 
 	/** Hurts actors around a place. */
-	UFUNCTION(BlueprintCallable, BlueprintAuthorityOnly, Category = "Game|Damage", meta = (WorldContext = "WorldContextObject", AutoCreateRefTerm = "IgnoreActors"))
-	static bool ApplyRadialDamage(const UObject* WorldContextObject, float BaseDamage, const FVector& Origin, float DamageRadius, TSubclassOf<UDamageType> DamageTypeClass, const TArray<AActor*>& IgnoreActors, AActor* DamageCauser = nullptr, AController* InstigatedByController = nullptr, bool bDoFullDamage = false, ECollisionChannel DamagePreventionChannel = ECC_Visibility);
+	UFUNCTION(BlueprintCallable, BlueprintAuthorityOnly, Category = "Game|Damage",
+		meta = (WorldContext = "WorldContextObject", AutoCreateRefTerm = "IgnoreActors"))
+	static bool ApplyRadialDamage(const UObject* WorldContextObject, float BaseDamage, const FVector& Origin, float DamageRadius,
+		TSubclassOf<UDamageType> DamageTypeClass, const TArray<AActor*>& IgnoreActors, AActor* DamageCauser = nullptr,
+		AController* InstigatedByController = nullptr, bool bDoFullDamage = false,
+		ECollisionChannel DamagePreventionChannel = ECC_Visibility);
 
 	/** Hurts actors around a place, less the further they are. */
-	UFUNCTION(BlueprintCallable, BlueprintAuthorityOnly, Category = "Game|Damage", meta = (WorldContext = "WorldContextObject", AutoCreateRefTerm = "IgnoreActors"))
-	static bool ApplyRadialDamageWithFalloff(const UObject* WorldContextObject, float BaseDamage, float MinimumDamage, const FVector& Origin, float DamageInnerRadius, float DamageOuterRadius, float DamageFalloff, TSubclassOf<UDamageType> DamageTypeClass, const TArray<AActor*>& IgnoreActors, AActor* DamageCauser = nullptr, AController* InstigatedByController = nullptr, ECollisionChannel DamagePreventionChannel = ECC_Visibility);
+	UFUNCTION(BlueprintCallable, BlueprintAuthorityOnly, Category = "Game|Damage",
+		meta = (WorldContext = "WorldContextObject", AutoCreateRefTerm = "IgnoreActors"))
+	static bool ApplyRadialDamageWithFalloff(const UObject* WorldContextObject, float BaseDamage, float MinimumDamage,
+		const FVector& Origin, float DamageInnerRadius, float DamageOuterRadius, float DamageFalloff,
+		TSubclassOf<UDamageType> DamageTypeClass, const TArray<AActor*>& IgnoreActors, AActor* DamageCauser = nullptr,
+		AController* InstigatedByController = nullptr, ECollisionChannel DamagePreventionChannel = ECC_Visibility);
 };
 
 /** What a saved game keeps. */

@@ -13,7 +13,9 @@ enum class EGameplayContainerMatchType : uint8
 };
 
 /** A name in a tree of names. */
-USTRUCT(BlueprintType, meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeLiteralGameplayTag", HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.GetTagName"))
+USTRUCT(BlueprintType,
+	meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeLiteralGameplayTag",
+		HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.GetTagName"))
 struct FGameplayTag
 {
 	GENERATED_BODY()
@@ -23,7 +25,9 @@ struct FGameplayTag
 };
 
 /** Several tags. */
-USTRUCT(BlueprintType, meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeGameplayTagContainerFromArray", HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.BreakGameplayTagContainer"))
+USTRUCT(BlueprintType,
+	meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeGameplayTagContainerFromArray",
+		HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.BreakGameplayTagContainer"))
 struct FGameplayTagContainer
 {
 	GENERATED_BODY()
@@ -55,10 +59,12 @@ public:
 	UFUNCTION(BlueprintPure, Category = "GameplayTags")
 	static bool MatchesAnyTags(FGameplayTag TagOne, const FGameplayTagContainer& OtherContainer, bool bExactMatch);
 
-	UFUNCTION(BlueprintPure, Category = "GameplayTags", meta = (DisplayName = "Equal (GameplayTag)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "GameplayTags",
+		meta = (DisplayName = "Equal (GameplayTag)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_GameplayTag(FGameplayTag A, FGameplayTag B);
 
-	UFUNCTION(BlueprintPure, Category = "GameplayTags", meta = (DisplayName = "Not Equal (GameplayTag)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "GameplayTags",
+		meta = (DisplayName = "Not Equal (GameplayTag)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_GameplayTag(FGameplayTag A, FGameplayTag B);
 
 	/** True if it is gameplay tag valid. */
@@ -92,8 +98,10 @@ public:
 	static bool DoesContainerMatchTagQuery(const FGameplayTagContainer& TagContainer, const FGameplayTagQuery& TagQuery);
 
 	/** The all actors of class matching tag query. */
-	UFUNCTION(BlueprintCallable, Category = "GameplayTags", meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "ActorClass", DynamicOutputParam = "OutActors"))
-	static void GetAllActorsOfClassMatchingTagQuery(UObject* WorldContextObject, TSubclassOf<AActor> ActorClass, const FGameplayTagQuery& GameplayTagQuery, TArray<AActor*>& OutActors);
+	UFUNCTION(BlueprintCallable, Category = "GameplayTags",
+		meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "ActorClass", DynamicOutputParam = "OutActors"))
+	static void GetAllActorsOfClassMatchingTagQuery(
+		UObject* WorldContextObject, TSubclassOf<AActor> ActorClass, const FGameplayTagQuery& GameplayTagQuery, TArray<AActor*>& OutActors);
 
 	/** Adds a tag. */
 	UFUNCTION(BlueprintCallable, Category = "GameplayTags")
@@ -105,12 +113,15 @@ public:
 
 	/** Adds tags. */
 	UFUNCTION(BlueprintCallable, Category = "GameplayTags")
-	static void AppendGameplayTagContainers(UPARAM(ref) FGameplayTagContainer& InOutTagContainer, const FGameplayTagContainer& InTagContainer);
+	static void AppendGameplayTagContainers(
+		UPARAM(ref) FGameplayTagContainer& InOutTagContainer, const FGameplayTagContainer& InTagContainer);
 
-	UFUNCTION(BlueprintPure, Category = "GameplayTags", meta = (DisplayName = "Equal (GameplayTagContainer)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "GameplayTags",
+		meta = (DisplayName = "Equal (GameplayTagContainer)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_GameplayTagContainer(const FGameplayTagContainer& A, const FGameplayTagContainer& B);
 
-	UFUNCTION(BlueprintPure, Category = "GameplayTags", meta = (DisplayName = "Not Equal (GameplayTagContainer)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "GameplayTags",
+		meta = (DisplayName = "Not Equal (GameplayTagContainer)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_GameplayTagContainer(const FGameplayTagContainer& A, const FGameplayTagContainer& B);
 
 	UFUNCTION(BlueprintPure, Category = "GameplayTags")

@@ -27,7 +27,8 @@ class ENGINE_API AHUD : public AActor
 public:
 	/** Draws a text. */
 	UFUNCTION(BlueprintCallable, Category = "HUD", meta = (TextColor = "(R=0,G=0,B=0,A=1)"))
-	void DrawText(const FString& Text, FLinearColor TextColor, float ScreenX, float ScreenY, UFont* Font = nullptr, float Scale = 1.f, bool bScalePosition = false);
+	void DrawText(const FString& Text, FLinearColor TextColor, float ScreenX, float ScreenY, UFont* Font = nullptr, float Scale = 1.f,
+		bool bScalePosition = false);
 
 	/** Draws a filled rectangle. */
 	UFUNCTION(BlueprintCallable, Category = "HUD", meta = (RectColor = "(R=0,G=0,B=0,A=1)"))
@@ -69,11 +70,14 @@ public:
 
 	/** Draws a line. */
 	UFUNCTION(BlueprintCallable, Category = "HUD")
-	void DrawLine(float StartScreenX, float StartScreenY, float EndScreenX, float EndScreenY, FLinearColor LineColor, float LineThickness = 0.f);
+	void DrawLine(
+		float StartScreenX, float StartScreenY, float EndScreenX, float EndScreenY, FLinearColor LineColor, float LineThickness = 0.f);
 
 	/** Draws a texture. */
 	UFUNCTION(BlueprintCallable, Category = "HUD", meta = (AdvancedDisplay = "9"))
-	void DrawTexture(UTexture* Texture, float ScreenX, float ScreenY, float ScreenW, float ScreenH, float TextureU, float TextureV, float TextureUWidth, float TextureVHeight, FLinearColor TintColor = FLinearColor::White, EBlendMode BlendMode = BLEND_Translucent, float Scale = 1.f, bool bScalePosition = false, float Rotation = 0.f, FVector2D RotPivot = FVector2D::ZeroVector);
+	void DrawTexture(UTexture* Texture, float ScreenX, float ScreenY, float ScreenW, float ScreenH, float TextureU, float TextureV,
+		float TextureUWidth, float TextureVHeight, FLinearColor TintColor = FLinearColor::White, EBlendMode BlendMode = BLEND_Translucent,
+		float Scale = 1.f, bool bScalePosition = false, float Rotation = 0.f, FVector2D RotPivot = FVector2D::ZeroVector);
 
 	/** Draws a texture in its own size. */
 	UFUNCTION(BlueprintCallable, Category = "HUD")
@@ -81,11 +85,14 @@ public:
 
 	/** Draws a material. */
 	UFUNCTION(BlueprintCallable, Category = "HUD", meta = (AdvancedDisplay = "9"))
-	void DrawMaterial(UMaterialInterface* Material, float ScreenX, float ScreenY, float ScreenW, float ScreenH, float MaterialU, float MaterialV, float MaterialUWidth, float MaterialVHeight, float Scale = 1.f, bool bScalePosition = false, float Rotation = 0.f, FVector2D RotPivot = FVector2D::ZeroVector);
+	void DrawMaterial(UMaterialInterface* Material, float ScreenX, float ScreenY, float ScreenW, float ScreenH, float MaterialU,
+		float MaterialV, float MaterialUWidth, float MaterialVHeight, float Scale = 1.f, bool bScalePosition = false, float Rotation = 0.f,
+		FVector2D RotPivot = FVector2D::ZeroVector);
 
 	/** Draws a material. */
 	UFUNCTION(BlueprintCallable, Category = "HUD")
-	void DrawMaterialSimple(UMaterialInterface* Material, float ScreenX, float ScreenY, float ScreenW, float ScreenH, float Scale = 1.f, bool bScalePosition = false);
+	void DrawMaterialSimple(UMaterialInterface* Material, float ScreenX, float ScreenY, float ScreenW, float ScreenH, float Scale = 1.f,
+		bool bScalePosition = false);
 
 	/** Screen place of a point of the world. */
 	UFUNCTION(BlueprintCallable, Category = "HUD")
@@ -101,7 +108,8 @@ public:
 
 	/** Actors in a rectangle of the screen. */
 	UFUNCTION(BlueprintPure, Category = "HUD", meta = (DeterminesOutputType = "ClassFilter", DynamicOutputParam = "OutActors"))
-	void GetActorsInSelectionRectangle(TSubclassOf<AActor> ClassFilter, const FVector2D& FirstPoint, const FVector2D& SecondPoint, TArray<AActor*>& OutActors, bool bIncludeNonCollidingComponents = true, bool bActorMustBeFullyEnclosed = false);
+	void GetActorsInSelectionRectangle(TSubclassOf<AActor> ClassFilter, const FVector2D& FirstPoint, const FVector2D& SecondPoint,
+		TArray<AActor*>& OutActors, bool bIncludeNonCollidingComponents = true, bool bActorMustBeFullyEnclosed = false);
 
 	/** The owning pawn. */
 	UFUNCTION(BlueprintPure, Category = "HUD")
@@ -121,19 +129,26 @@ class ENGINE_API UCanvas : public UObject
 public:
 	/** Draws a line. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas", meta = (DisplayName = "Draw Line", ScriptName = "DrawLine"))
-	void K2_DrawLine(FVector2D ScreenPositionA = FVector2D::ZeroVector, FVector2D ScreenPositionB = FVector2D::ZeroVector, float Thickness = 1.0f, FLinearColor RenderColor = FLinearColor::White);
+	void K2_DrawLine(FVector2D ScreenPositionA = FVector2D::ZeroVector, FVector2D ScreenPositionB = FVector2D::ZeroVector,
+		float Thickness = 1.0f, FLinearColor RenderColor = FLinearColor::White);
 
 	/** Draws a texture. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas", meta = (DisplayName = "Draw Texture", ScriptName = "DrawTexture"))
-	void K2_DrawTexture(UTexture* RenderTexture, FVector2D ScreenPosition, FVector2D ScreenSize, FVector2D CoordinatePosition, FVector2D CoordinateSize = FVector2D(1, 1), FLinearColor RenderColor = FLinearColor::White, EBlendMode BlendMode = BLEND_Translucent, float Rotation = 0.f, FVector2D PivotPoint = FVector2D(0.5, 0.5));
+	void K2_DrawTexture(UTexture* RenderTexture, FVector2D ScreenPosition, FVector2D ScreenSize, FVector2D CoordinatePosition,
+		FVector2D CoordinateSize = FVector2D(1, 1), FLinearColor RenderColor = FLinearColor::White,
+		EBlendMode BlendMode = BLEND_Translucent, float Rotation = 0.f, FVector2D PivotPoint = FVector2D(0.5, 0.5));
 
 	/** Draws a material. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas", meta = (DisplayName = "Draw Material", ScriptName = "DrawMaterial"))
-	void K2_DrawMaterial(UMaterialInterface* RenderMaterial, FVector2D ScreenPosition, FVector2D ScreenSize, FVector2D CoordinatePosition, FVector2D CoordinateSize = FVector2D(1, 1), float Rotation = 0.f, FVector2D PivotPoint = FVector2D(0.5, 0.5));
+	void K2_DrawMaterial(UMaterialInterface* RenderMaterial, FVector2D ScreenPosition, FVector2D ScreenSize, FVector2D CoordinatePosition,
+		FVector2D CoordinateSize = FVector2D(1, 1), float Rotation = 0.f, FVector2D PivotPoint = FVector2D(0.5, 0.5));
 
 	/** Draws a text. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas", meta = (DisplayName = "Draw Text", ScriptName = "DrawText"))
-	void K2_DrawText(UFont* RenderFont, const FString& RenderText, FVector2D ScreenPosition = FVector2D::ZeroVector, FVector2D Scale = FVector2D(1, 1), FLinearColor RenderColor = FLinearColor::White, float Kerning = 0.f, FLinearColor ShadowColor = FLinearColor::Black, FVector2D ShadowOffset = FVector2D(1, 1), bool bCentreX = false, bool bCentreY = false, bool bOutlined = false, FLinearColor OutlineColor = FLinearColor::Black);
+	void K2_DrawText(UFont* RenderFont, const FString& RenderText, FVector2D ScreenPosition = FVector2D::ZeroVector,
+		FVector2D Scale = FVector2D(1, 1), FLinearColor RenderColor = FLinearColor::White, float Kerning = 0.f,
+		FLinearColor ShadowColor = FLinearColor::Black, FVector2D ShadowOffset = FVector2D(1, 1), bool bCentreX = false,
+		bool bCentreY = false, bool bOutlined = false, FLinearColor OutlineColor = FLinearColor::Black);
 
 	/** Draws a rectangle. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas", meta = (DisplayName = "Draw Box", ScriptName = "DrawBox"))
@@ -141,7 +156,8 @@ public:
 
 	/** Draws a polygon. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas", meta = (DisplayName = "Draw Polygon", ScriptName = "DrawPolygon"))
-	void K2_DrawPolygon(UTexture* RenderTexture, FVector2D ScreenPosition, FVector2D Radius = FVector2D(1, 1), int32 NumberOfSides = 3, FLinearColor RenderColor = FLinearColor::White);
+	void K2_DrawPolygon(UTexture* RenderTexture, FVector2D ScreenPosition, FVector2D Radius = FVector2D(1, 1), int32 NumberOfSides = 3,
+		FLinearColor RenderColor = FLinearColor::White);
 
 	/** Screen place of a point of the world. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas", meta = (DisplayName = "Project", ScriptName = "Project"))

@@ -12,11 +12,13 @@ class ENGINE_API UKismetGuidLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** True if they are the same. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Guid", meta = (DisplayName = "Equal (Guid)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Guid", meta = (DisplayName = "Equal (Guid)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_GuidGuid(const FGuid& A, const FGuid& B);
 
 	/** True if they differ. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Guid", meta = (DisplayName = "Not Equal (Guid)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Utilities|Guid",
+		meta = (DisplayName = "Not Equal (Guid)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_GuidGuid(const FGuid& A, const FGuid& B);
 
 	/** True if the identifier is not zero. */
@@ -32,7 +34,8 @@ public:
 	static FGuid NewGuid();
 
 	/** Text of an identifier. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Guid", meta = (DisplayName = "To String (Guid)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|Guid",
+		meta = (DisplayName = "To String (Guid)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast))
 	static FString Conv_GuidToString(const FGuid& InGuid);
 
 	/** Reads an identifier. */

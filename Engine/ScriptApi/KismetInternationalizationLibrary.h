@@ -45,7 +45,8 @@ public:
 	static FString GetCurrentLocale();
 
 	/** Sets language and country. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|Internationalization", meta = (DisplayName = "Set Current Language & Locale", AdvancedDisplay = "SaveToConfig"))
+	UFUNCTION(BlueprintCallable, Category = "Utilities|Internationalization",
+		meta = (DisplayName = "Set Current Language & Locale", AdvancedDisplay = "SaveToConfig"))
 	static bool SetCurrentLanguageAndLocale(const FString& Culture, const bool SaveToConfig = false);
 
 	/** Sets the language of a group of assets. */
@@ -66,11 +67,13 @@ public:
 
 	/** Languages that there are translations for. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Internationalization")
-	static TArray<FString> GetLocalizedCultures(const bool IncludeGame = true, const bool IncludeEngine = false, const bool IncludeEditor = false, const bool IncludeAdditional = false);
+	static TArray<FString> GetLocalizedCultures(const bool IncludeGame = true, const bool IncludeEngine = false,
+		const bool IncludeEditor = false, const bool IncludeAdditional = false);
 
 	/** The language that fits best. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Internationalization", meta = (AdvancedDisplay = "FallbackCulture"))
-	static FString GetSuitableCulture(const TArray<FString>& AvailableCultures, const FString& CultureToMatch, const FString& FallbackCulture = TEXT("en"));
+	static FString GetSuitableCulture(
+		const TArray<FString>& AvailableCultures, const FString& CultureToMatch, const FString& FallbackCulture = TEXT("en"));
 
 	/** Name of a language for people. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Internationalization", meta = (AdvancedDisplay = "Localized"))

@@ -20,22 +20,29 @@ class ENGINE_API UKismetMaterialLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Sets a number of a parameter collection. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (WorldContext = "WorldContextObject", Keywords = "SetFloatParameterValue"))
-	static void SetScalarParameterValue(UObject* WorldContextObject, UMaterialParameterCollection* Collection, FName ParameterName, float ParameterValue);
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (WorldContext = "WorldContextObject", Keywords = "SetFloatParameterValue"))
+	static void SetScalarParameterValue(
+		UObject* WorldContextObject, UMaterialParameterCollection* Collection, FName ParameterName, float ParameterValue);
 
 	/** Sets a colour of a parameter collection. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (WorldContext = "WorldContextObject", Keywords = "SetColorParameterValue"))
-	static void SetVectorParameterValue(UObject* WorldContextObject, UMaterialParameterCollection* Collection, FName ParameterName, const FLinearColor& ParameterValue);
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (WorldContext = "WorldContextObject", Keywords = "SetColorParameterValue"))
+	static void SetVectorParameterValue(
+		UObject* WorldContextObject, UMaterialParameterCollection* Collection, FName ParameterName, const FLinearColor& ParameterValue);
 
 	/** Number of a parameter collection. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (WorldContext = "WorldContextObject", Keywords = "GetFloatParameterValue"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (WorldContext = "WorldContextObject", Keywords = "GetFloatParameterValue"))
 	static float GetScalarParameterValue(UObject* WorldContextObject, UMaterialParameterCollection* Collection, FName ParameterName);
 
 	/** Colour of a parameter collection. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (WorldContext = "WorldContextObject", Keywords = "GetColorParameterValue"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (WorldContext = "WorldContextObject", Keywords = "GetColorParameterValue"))
 	static FLinearColor GetVectorParameterValue(UObject* WorldContextObject, UMaterialParameterCollection* Collection, FName ParameterName);
 
 	/** Makes a material whose parameters can change. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (WorldContext = "WorldContextObject"))
-	static UMaterialInstanceDynamic* CreateDynamicMaterialInstance(UObject* WorldContextObject, UMaterialInterface* Parent, FName OptionalName = NAME_None, EMIDCreationFlags CreationFlags = EMIDCreationFlags::None);
+	static UMaterialInstanceDynamic* CreateDynamicMaterialInstance(UObject* WorldContextObject, UMaterialInterface* Parent,
+		FName OptionalName = NAME_None, EMIDCreationFlags CreationFlags = EMIDCreationFlags::None);
 };

@@ -13,46 +13,57 @@ class ENGINE_API UKismetMathLibrary : public UBlueprintFunctionLibrary
 public:
 	/** A point in time of its parts */
 	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (Keywords = "construct build", NativeMakeFunc))
-	static FDateTime MakeDateTime(int32 Year, int32 Month, int32 Day, int32 Hour = 0, int32 Minute = 0, int32 Second = 0, int32 Millisecond = 0);
+	static FDateTime MakeDateTime(
+		int32 Year, int32 Month, int32 Day, int32 Hour = 0, int32 Minute = 0, int32 Second = 0, int32 Millisecond = 0);
 
 	/** The parts of a point in time */
 	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (NativeBreakFunc))
-	static void BreakDateTime(FDateTime InDateTime, int32& Year, int32& Month, int32& Day, int32& Hour, int32& Minute, int32& Second, int32& Millisecond);
+	static void BreakDateTime(
+		FDateTime InDateTime, int32& Year, int32& Month, int32& Day, int32& Hour, int32& Minute, int32& Second, int32& Millisecond);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime + Timespan", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime + Timespan", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FDateTime Add_DateTimeTimespan(FDateTime A, FTimespan B);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime - Timespan", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime - Timespan", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FDateTime Subtract_DateTimeTimespan(FDateTime A, FTimespan B);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime - DateTime", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime - DateTime", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FTimespan Subtract_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** Returns true if A is equal to B (A == B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "Equal (DateTime)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "Equal (DateTime)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** Returns true if A is not equal to B (A != B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "Not Equal (DateTime)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "Not Equal (DateTime)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** Returns true if A is greater than B (A > B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime > DateTime", CompactNodeTitle = ">", Keywords = "> greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime > DateTime", CompactNodeTitle = ">", Keywords = "> greater"))
 	static bool Greater_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** Returns true if A is greater than or equal to B (A >= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime >= DateTime", CompactNodeTitle = ">=", Keywords = ">= greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime >= DateTime", CompactNodeTitle = ">=", Keywords = ">= greater"))
 	static bool GreaterEqual_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** Returns true if A is less than B (A < B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime < DateTime", CompactNodeTitle = "<", Keywords = "< less"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime < DateTime", CompactNodeTitle = "<", Keywords = "< less"))
 	static bool Less_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** Returns true if A is less than or equal to B (A <= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime <= DateTime", CompactNodeTitle = "<=", Keywords = "<= less"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime <= DateTime", CompactNodeTitle = "<=", Keywords = "<= less"))
 	static bool LessEqual_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** Local time of this machine */
@@ -112,39 +123,48 @@ public:
 	static void BreakTimespan(FTimespan InTimespan, int32& Days, int32& Hours, int32& Minutes, int32& Seconds, int32& Milliseconds);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan + Timespan", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan + Timespan", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FTimespan Add_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan - Timespan", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan - Timespan", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FTimespan Subtract_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** A length of time times a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan * Float", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan * Float", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FTimespan Multiply_TimespanFloat(FTimespan A, float Scalar);
 
 	/** Returns true if A is equal to B (A == B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Equal (Timespan)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Equal (Timespan)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** Returns true if A is not equal to B (A != B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Not Equal (Timespan)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Not Equal (Timespan)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** Returns true if A is greater than B (A > B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan > Timespan", CompactNodeTitle = ">", Keywords = "> greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan > Timespan", CompactNodeTitle = ">", Keywords = "> greater"))
 	static bool Greater_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** Returns true if A is greater than or equal to B (A >= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan >= Timespan", CompactNodeTitle = ">=", Keywords = ">= greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan >= Timespan", CompactNodeTitle = ">=", Keywords = ">= greater"))
 	static bool GreaterEqual_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** Returns true if A is less than B (A < B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan < Timespan", CompactNodeTitle = "<", Keywords = "< less"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan < Timespan", CompactNodeTitle = "<", Keywords = "< less"))
 	static bool Less_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** Returns true if A is less than or equal to B (A <= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan <= Timespan", CompactNodeTitle = "<=", Keywords = "<= less"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan <= Timespan", CompactNodeTitle = "<=", Keywords = "<= less"))
 	static bool LessEqual_TimespanTimespan(FTimespan A, FTimespan B);
 
 	/** The days part of a length of time */
@@ -208,7 +228,8 @@ public:
 	static FTimespan FromSeconds(double Seconds);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|DateTime", meta = (DisplayName = "DateTime + DateTime", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|DateTime",
+		meta = (DisplayName = "DateTime + DateTime", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FDateTime Add_DateTimeDateTime(FDateTime A, FDateTime B);
 
 	/** The day at midnight. */
@@ -276,7 +297,8 @@ public:
 	static void BreakTimespan2(FTimespan InTimespan, int32& Days, int32& Hours, int32& Minutes, int32& Seconds, int32& FractionNano);
 
 	/** A length of time divided by a number. */
-	UFUNCTION(BlueprintPure, Category = "Math|Timespan", meta = (DisplayName = "Timespan / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Timespan",
+		meta = (DisplayName = "Timespan / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FTimespan Divide_TimespanFloat(FTimespan A, float Scalar);
 
 	/** A length of time without its sign. */

@@ -12,19 +12,25 @@ class ENGINE_API UKismetMathLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Multiplication (A * B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "float * float", CompactNodeTitle = "*", Keywords = "* multiply", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Float",
+		meta = (DisplayName = "float * float", CompactNodeTitle = "*", Keywords = "* multiply",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static double Multiply_DoubleDouble(double A, double B);
 
 	/** Division (A / B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "float / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Float",
+		meta = (DisplayName = "float / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static double Divide_DoubleDouble(double A, double B = 1.0);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "float + float", CompactNodeTitle = "+", Keywords = "+ add plus", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Float",
+		meta = (DisplayName = "float + float", CompactNodeTitle = "+", Keywords = "+ add plus",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static double Add_DoubleDouble(double A, double B = 1.0);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "float - float", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Float",
+		meta = (DisplayName = "float - float", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static double Subtract_DoubleDouble(double A, double B = 1.0);
 
 	/** Remainder of a division (A % B) */
@@ -36,23 +42,28 @@ public:
 	static bool Less_DoubleDouble(double A, double B);
 
 	/** Returns true if A is greater than B (A > B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Float > Float", CompactNodeTitle = ">", Keywords = "> greater"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Float > Float", CompactNodeTitle = ">", Keywords = "> greater"))
 	static bool Greater_DoubleDouble(double A, double B);
 
 	/** Returns true if A is less than or equal to B (A <= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Float <= Float", CompactNodeTitle = "<=", Keywords = "<= less"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Float <= Float", CompactNodeTitle = "<=", Keywords = "<= less"))
 	static bool LessEqual_DoubleDouble(double A, double B);
 
 	/** Returns true if A is greater than or equal to B (A >= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Float >= Float", CompactNodeTitle = ">=", Keywords = ">= greater"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Float >= Float", CompactNodeTitle = ">=", Keywords = ">= greater"))
 	static bool GreaterEqual_DoubleDouble(double A, double B);
 
 	/** Returns true if A is exactly equal to B (A == B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Equal (Float)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Equal (Float)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_DoubleDouble(double A, double B);
 
 	/** Returns true if A does not equal B (A != B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Not Equal (Float)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Float",
+		meta = (DisplayName = "Not Equal (Float)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_DoubleDouble(double A, double B);
 
 	/** True if the values differ by no more than the tolerance */
@@ -164,7 +175,8 @@ public:
 	static double Loge(double A);
 
 	/** Square root */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Square Root", CompactNodeTitle = "SQRT", Keywords = "square root"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Square Root", CompactNodeTitle = "SQRT", Keywords = "square root"))
 	static double Sqrt(double A);
 
 	/** A * A */
@@ -176,11 +188,13 @@ public:
 	static double FixedTurn(double InCurrent, double InDesired, double InDeltaRate);
 
 	/** The smaller value */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Min (Float)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Float",
+		meta = (DisplayName = "Min (Float)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
 	static double FMin(double A, double B);
 
 	/** The larger value */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Max (Float)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Float",
+		meta = (DisplayName = "Max (Float)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
 	static double FMax(double A, double B);
 
 	/** Value held between Min and Max, both included */
@@ -320,7 +334,8 @@ public:
 	static double GridSnap_Float(double Location, double GridSize);
 
 	/** Whole number of times that the divisor fits, and what remains. */
-	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Division (whole and remainder, Integer64)", Keywords = "modulus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Division (whole and remainder, Integer64)", Keywords = "modulus"))
 	static int64 FMod64(double Dividend, double Divisor, double& Remainder);
 
 	/** Smooths a series of numbers. */
@@ -329,19 +344,26 @@ public:
 
 	/** Smooths a series of numbers, less the further they jump. */
 	UFUNCTION(BlueprintPure, Category = "Math|Float", meta = (DisplayName = "Dynamic Weighted Moving Average Float"))
-	static float DynamicWeightedMovingAverage_Float(float CurrentSample, float PreviousSample, float MaxDistance, float MinWeight, float MaxWeight);
+	static float DynamicWeightedMovingAverage_Float(
+		float CurrentSample, float PreviousSample, float MaxDistance, float MinWeight, float MaxWeight);
 
 	/** Follows a target as if a spring pulled. */
 	UFUNCTION(BlueprintCallable, Category = "Math|Interpolation", meta = (AdvancedDisplay = "8"))
-	static float FloatSpringInterp(float Current, float Target, UPARAM(ref) FFloatSpringState& SpringState, float Stiffness, float CriticalDampingFactor, float DeltaTime, float Mass = 1.f, float TargetVelocityAmount = 1.f, bool bClamp = false, float MinValue = -1.f, float MaxValue = 1.f, bool bInitializeFromTarget = false);
+	static float FloatSpringInterp(float Current, float Target, UPARAM(ref) FFloatSpringState& SpringState, float Stiffness,
+		float CriticalDampingFactor, float DeltaTime, float Mass = 1.f, float TargetVelocityAmount = 1.f, bool bClamp = false,
+		float MinValue = -1.f, float MaxValue = 1.f, bool bInitializeFromTarget = false);
 
 	/** Follows a target as if a spring pulled. */
 	UFUNCTION(BlueprintCallable, Category = "Math|Interpolation", meta = (AdvancedDisplay = "8"))
-	static FVector VectorSpringInterp(FVector Current, FVector Target, UPARAM(ref) FVectorSpringState& SpringState, float Stiffness, float CriticalDampingFactor, float DeltaTime, float Mass = 1.f, float TargetVelocityAmount = 1.f, bool bClamp = false, FVector MinValue = FVector(-1.f), FVector MaxValue = FVector(1.f), bool bInitializeFromTarget = false);
+	static FVector VectorSpringInterp(FVector Current, FVector Target, UPARAM(ref) FVectorSpringState& SpringState, float Stiffness,
+		float CriticalDampingFactor, float DeltaTime, float Mass = 1.f, float TargetVelocityAmount = 1.f, bool bClamp = false,
+		FVector MinValue = FVector(-1.f), FVector MaxValue = FVector(1.f), bool bInitializeFromTarget = false);
 
 	/** Follows a rotation as if a spring pulled. */
 	UFUNCTION(BlueprintCallable, Category = "Math|Interpolation", meta = (AdvancedDisplay = "8"))
-	static FQuat QuaternionSpringInterp(FQuat Current, FQuat Target, UPARAM(ref) FQuaternionSpringState& SpringState, float Stiffness, float CriticalDampingFactor, float DeltaTime, float Mass = 1.f, float TargetVelocityAmount = 1.f, bool bInitializeFromTarget = false);
+	static FQuat QuaternionSpringInterp(FQuat Current, FQuat Target, UPARAM(ref) FQuaternionSpringState& SpringState, float Stiffness,
+		float CriticalDampingFactor, float DeltaTime, float Mass = 1.f, float TargetVelocityAmount = 1.f,
+		bool bInitializeFromTarget = false);
 
 	/** Lets a spring forget what it did; call it when its target jumps. */
 	UFUNCTION(BlueprintCallable, Category = "Math|Interpolation")
@@ -385,9 +407,11 @@ public:
 
 	/** A rotation between two, on an easing curve. */
 	UFUNCTION(BlueprintPure, Category = "Math|Interpolation", meta = (DisplayName = "Ease (Rotator)", BlueprintInternalUseOnly = "true"))
-	static FRotator REase(FRotator A, FRotator B, float Alpha, bool bShortestPath, TEnumAsByte<EEasingFunc::Type> EasingFunc, float BlendExp = 2, int32 Steps = 2);
+	static FRotator REase(FRotator A, FRotator B, float Alpha, bool bShortestPath, TEnumAsByte<EEasingFunc::Type> EasingFunc,
+		float BlendExp = 2, int32 Steps = 2);
 
 	/** A transform between two, on an easing curve. */
 	UFUNCTION(BlueprintPure, Category = "Math|Interpolation", meta = (DisplayName = "Ease (Transform)", BlueprintInternalUseOnly = "true"))
-	static FTransform TEase(const FTransform& A, const FTransform& B, float Alpha, TEnumAsByte<EEasingFunc::Type> EasingFunc, float BlendExp = 2, int32 Steps = 2);
+	static FTransform TEase(const FTransform& A, const FTransform& B, float Alpha, TEnumAsByte<EEasingFunc::Type> EasingFunc,
+		float BlendExp = 2, int32 Steps = 2);
 };

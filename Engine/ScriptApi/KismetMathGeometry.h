@@ -32,7 +32,8 @@ public:
 	static FLinearColor LinearColorLerp(FLinearColor A, FLinearColor B, float Alpha);
 
 	/** Each part times a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "LinearColor * Float", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "LinearColor * Float", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FLinearColor Multiply_LinearColorFloat(FLinearColor A, float B);
 
 	/** A frame rate of its fraction. */
@@ -49,7 +50,8 @@ public:
 
 	/** The parts of a time of frames. */
 	UFUNCTION(BlueprintPure, Category = "Math|Frame Rate", meta = (NativeBreakFunc))
-	static void BreakQualifiedFrameTime(const FQualifiedFrameTime& InFrameTime, FFrameNumber& Frame, FFrameRate& FrameRate, float& SubFrame);
+	static void BreakQualifiedFrameTime(
+		const FQualifiedFrameTime& InFrameTime, FFrameNumber& Frame, FFrameRate& FrameRate, float& SubFrame);
 
 	/** Seconds of a time of frames. */
 	UFUNCTION(BlueprintPure, Category = "Math|Frame Rate", meta = (DisplayName = "Qualified Frame Time To Seconds", BlueprintAutocast))
@@ -180,11 +182,13 @@ public:
 	static FColor LinearColor_ToRGBE(FLinearColor InLinearColor);
 
 	/** Colour of 8 bits a part, rounded, without sRGB. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "Quantize with rounding (LinearColor)", CompactNodeTitle = "->", Keywords = "cast convert"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "Quantize with rounding (LinearColor)", CompactNodeTitle = "->", Keywords = "cast convert"))
 	static FColor LinearColor_QuantizeRound(FLinearColor InColor);
 
 	/** Colour of 8 bits a part, cut, without sRGB. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "Quantize (LinearColor)", CompactNodeTitle = "->", Keywords = "cast convert"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "Quantize (LinearColor)", CompactNodeTitle = "->", Keywords = "cast convert"))
 	static FColor LinearColor_Quantize(FLinearColor InColor);
 
 	/** The plane through a point that faces a direction. */
@@ -193,15 +197,18 @@ public:
 
 	/** Where a segment meets a plane. */
 	UFUNCTION(BlueprintPure, Category = "Math|Intersection", meta = (DisplayName = "Line Plane Intersection"))
-	static bool LinePlaneIntersection(const FVector& LineStart, const FVector& LineEnd, const FPlane& APlane, float& T, FVector& Intersection);
+	static bool LinePlaneIntersection(
+		const FVector& LineStart, const FVector& LineEnd, const FPlane& APlane, float& T, FVector& Intersection);
 
 	/** Where a segment meets a plane. */
 	UFUNCTION(BlueprintPure, Category = "Math|Intersection", meta = (DisplayName = "Line Plane Intersection (Origin & Normal)"))
-	static bool LinePlaneIntersection_OriginNormal(const FVector& LineStart, const FVector& LineEnd, FVector PlaneOrigin, FVector PlaneNormal, float& T, FVector& Intersection);
+	static bool LinePlaneIntersection_OriginNormal(
+		const FVector& LineStart, const FVector& LineEnd, FVector PlaneOrigin, FVector PlaneNormal, float& T, FVector& Intersection);
 
 	/** The smallest rectangle around points on a surface. */
 	UFUNCTION(BlueprintCallable, Category = "Math|Geometry", meta = (WorldContext = "WorldContextObject", CallableWithoutWorldContext))
-	static void MinimumAreaRectangle(UObject* WorldContextObject, const TArray<FVector>& InVerts, const FVector& SampleSurfaceNormal, FVector& OutRectCenter, FRotator& OutRectRotation, float& OutSideLengthX, float& OutSideLengthY, bool bDebugDraw = false);
+	static void MinimumAreaRectangle(UObject* WorldContextObject, const TArray<FVector>& InVerts, const FVector& SampleSurfaceNormal,
+		FVector& OutRectCenter, FRotator& OutRectRotation, float& OutSideLengthX, float& OutSideLengthY, bool bDebugDraw = false);
 
 	/** True if all points lie in one plane. */
 	UFUNCTION(BlueprintPure, Category = "Math|Geometry")
@@ -260,26 +267,32 @@ public:
 	static FVector Box_GetClosestPointTo(const FBox& Box, const FVector& Point);
 
 	/** Addition (A + B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "LinearColor + LinearColor", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "LinearColor + LinearColor", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FLinearColor Add_LinearColorLinearColor(FLinearColor A, FLinearColor B);
 
 	/** Subtraction (A - B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "LinearColor - LinearColor", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "LinearColor - LinearColor", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FLinearColor Subtract_LinearColorLinearColor(FLinearColor A, FLinearColor B);
 
 	/** Multiplication (A * B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "LinearColor * LinearColor", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "LinearColor * LinearColor", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FLinearColor Multiply_LinearColorLinearColor(FLinearColor A, FLinearColor B);
 
 	/** Division (A / B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "LinearColor / LinearColor", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "LinearColor / LinearColor", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FLinearColor Divide_LinearColorLinearColor(FLinearColor A, FLinearColor B);
 
 	/** True if the colours are the same. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "Equal (LinearColor)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "Equal (LinearColor)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_LinearColorLinearColor(FLinearColor A, FLinearColor B);
 
 	/** True if the colours differ. */
-	UFUNCTION(BlueprintPure, Category = "Math|Color", meta = (DisplayName = "Not Equal (LinearColor)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Color",
+		meta = (DisplayName = "Not Equal (LinearColor)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_LinearColorLinearColor(FLinearColor A, FLinearColor B);
 };

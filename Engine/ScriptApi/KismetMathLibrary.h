@@ -35,27 +35,33 @@ class ENGINE_API UKismetMathLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Opposite of the value (NOT A) */
-	UFUNCTION(BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "NOT Boolean", CompactNodeTitle = "NOT", Keywords = "! not negate"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "NOT Boolean", CompactNodeTitle = "NOT", Keywords = "! not negate"))
 	static bool Not_PreBool(bool A);
 
 	/** True if the values are equal (A == B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "Equal (Boolean)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "Equal (Boolean)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_BoolBool(bool A, bool B);
 
 	/** True if the values are not equal (A != B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "Not Equal (Boolean)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Boolean",
+		meta = (DisplayName = "Not Equal (Boolean)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_BoolBool(bool A, bool B);
 
 	/** True if both values are true (A AND B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "AND Boolean", CompactNodeTitle = "AND", Keywords = "& and", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Boolean",
+		meta = (DisplayName = "AND Boolean", CompactNodeTitle = "AND", Keywords = "& and", CommutativeAssociativeBinaryOperator = "true"))
 	static bool BooleanAND(bool A, bool B);
 
 	/** True if either value is true (A OR B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "OR Boolean", CompactNodeTitle = "OR", Keywords = "| or", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Boolean",
+		meta = (DisplayName = "OR Boolean", CompactNodeTitle = "OR", Keywords = "| or", CommutativeAssociativeBinaryOperator = "true"))
 	static bool BooleanOR(bool A, bool B);
 
 	/** False only if both values are true */
-	UFUNCTION(BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "NAND Boolean", CompactNodeTitle = "NAND", Keywords = "!& nand"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Boolean", meta = (DisplayName = "NAND Boolean", CompactNodeTitle = "NAND", Keywords = "!& nand"))
 	static bool BooleanNAND(bool A, bool B);
 
 	/** True if exactly one value is true (A XOR B) */
@@ -67,19 +73,25 @@ public:
 	static bool BooleanNOR(bool A, bool B);
 
 	/** Multiplication (A * B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte * Byte", CompactNodeTitle = "*", Keywords = "* multiply", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Byte",
+		meta = (DisplayName = "Byte * Byte", CompactNodeTitle = "*", Keywords = "* multiply",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static uint8 Multiply_ByteByte(uint8 A, uint8 B);
 
 	/** Division (A / B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte / Byte", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte / Byte", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static uint8 Divide_ByteByte(uint8 A, uint8 B = 1);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte + Byte", CompactNodeTitle = "+", Keywords = "+ add plus", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Byte",
+		meta = (DisplayName = "Byte + Byte", CompactNodeTitle = "+", Keywords = "+ add plus",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static uint8 Add_ByteByte(uint8 A, uint8 B = 1);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte - Byte", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte - Byte", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static uint8 Subtract_ByteByte(uint8 A, uint8 B = 1);
 
 	/** Remainder of a division (A % B) */
@@ -87,11 +99,13 @@ public:
 	static uint8 Percent_ByteByte(uint8 A, uint8 B = 1);
 
 	/** The smaller value */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Min (Byte)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Byte",
+		meta = (DisplayName = "Min (Byte)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
 	static uint8 BMin(uint8 A, uint8 B);
 
 	/** The larger value */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Max (Byte)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Byte",
+		meta = (DisplayName = "Max (Byte)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
 	static uint8 BMax(uint8 A, uint8 B);
 
 	/** Returns true if A is less than B (A < B) */
@@ -107,7 +121,8 @@ public:
 	static bool LessEqual_ByteByte(uint8 A, uint8 B);
 
 	/** Returns true if A is greater than or equal to B (A >= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte >= Byte", CompactNodeTitle = ">=", Keywords = ">= greater"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Byte >= Byte", CompactNodeTitle = ">=", Keywords = ">= greater"))
 	static bool GreaterEqual_ByteByte(uint8 A, uint8 B);
 
 	/** Returns true if A is equal to B (A == B) */
@@ -115,63 +130,80 @@ public:
 	static bool EqualEqual_ByteByte(uint8 A, uint8 B);
 
 	/** Returns true if A is not equal to B (A != B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Byte", meta = (DisplayName = "Not Equal (Byte)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Byte",
+		meta = (DisplayName = "Not Equal (Byte)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_ByteByte(uint8 A, uint8 B);
 
 	/** Multiplication (A * B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "integer * integer", CompactNodeTitle = "*", Keywords = "* multiply", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "integer * integer", CompactNodeTitle = "*", Keywords = "* multiply",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static int32 Multiply_IntInt(int32 A, int32 B);
 
 	/** Division (A / B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "integer / integer", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "integer / integer", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static int32 Divide_IntInt(int32 A, int32 B = 1);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "integer + integer", CompactNodeTitle = "+", Keywords = "+ add plus", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "integer + integer", CompactNodeTitle = "+", Keywords = "+ add plus",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static int32 Add_IntInt(int32 A, int32 B = 1);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "integer - integer", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "integer - integer", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static int32 Subtract_IntInt(int32 A, int32 B = 1);
 
 	/** Remainder of a division (A % B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "% (Integer)", CompactNodeTitle = "%", Keywords = "% modulus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "% (Integer)", CompactNodeTitle = "%", Keywords = "% modulus"))
 	static int32 Percent_IntInt(int32 A, int32 B = 1);
 
 	/** Returns true if A is less than B (A < B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Integer < Integer", CompactNodeTitle = "<", Keywords = "< less"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Integer < Integer", CompactNodeTitle = "<", Keywords = "< less"))
 	static bool Less_IntInt(int32 A, int32 B);
 
 	/** Returns true if A is greater than B (A > B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Integer > Integer", CompactNodeTitle = ">", Keywords = "> greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Integer > Integer", CompactNodeTitle = ">", Keywords = "> greater"))
 	static bool Greater_IntInt(int32 A, int32 B);
 
 	/** Returns true if A is less than or equal to B (A <= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Integer <= Integer", CompactNodeTitle = "<=", Keywords = "<= less"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Integer <= Integer", CompactNodeTitle = "<=", Keywords = "<= less"))
 	static bool LessEqual_IntInt(int32 A, int32 B);
 
 	/** Returns true if A is greater than or equal to B (A >= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Integer >= Integer", CompactNodeTitle = ">=", Keywords = ">= greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Integer >= Integer", CompactNodeTitle = ">=", Keywords = ">= greater"))
 	static bool GreaterEqual_IntInt(int32 A, int32 B);
 
 	/** Returns true if A is equal to B (A == B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Equal (Integer)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Equal (Integer)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_IntInt(int32 A, int32 B);
 
 	/** Returns true if A is not equal to B (A != B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Not Equal (Integer)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Not Equal (Integer)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_IntInt(int32 A, int32 B);
 
 	/** Bitwise AND (A & B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Bitwise AND", CompactNodeTitle = "&", Keywords = "& and", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Bitwise AND", CompactNodeTitle = "&", Keywords = "& and", CommutativeAssociativeBinaryOperator = "true"))
 	static int32 And_IntInt(int32 A, int32 B);
 
 	/** Bitwise XOR (A ^ B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Bitwise XOR", CompactNodeTitle = "^", Keywords = "^ xor", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Bitwise XOR", CompactNodeTitle = "^", Keywords = "^ xor", CommutativeAssociativeBinaryOperator = "true"))
 	static int32 Xor_IntInt(int32 A, int32 B);
 
 	/** Bitwise OR (A | B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Bitwise OR", CompactNodeTitle = "|", Keywords = "| or", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Bitwise OR", CompactNodeTitle = "|", Keywords = "| or", CommutativeAssociativeBinaryOperator = "true"))
 	static int32 Or_IntInt(int32 A, int32 B);
 
 	/** Bitwise NOT (~A) */
@@ -179,79 +211,103 @@ public:
 	static int32 Not_Int(int32 A);
 
 	/** The smaller value */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Min (Integer)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Min (Integer)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
 	static int32 Min(int32 A, int32 B);
 
 	/** The larger value */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer", meta = (DisplayName = "Max (Integer)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer",
+		meta = (DisplayName = "Max (Integer)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
 	static int32 Max(int32 A, int32 B);
 
 	/** Multiplication (A * B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 * Integer64", CompactNodeTitle = "*", Keywords = "* multiply", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 * Integer64", CompactNodeTitle = "*", Keywords = "* multiply",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static int64 Multiply_Int64Int64(int64 A, int64 B);
 
 	/** Division (A / B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 / Integer64", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 / Integer64", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static int64 Divide_Int64Int64(int64 A, int64 B = 1);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 + Integer64", CompactNodeTitle = "+", Keywords = "+ add plus", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 + Integer64", CompactNodeTitle = "+", Keywords = "+ add plus",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static int64 Add_Int64Int64(int64 A, int64 B = 1);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 - Integer64", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 - Integer64", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static int64 Subtract_Int64Int64(int64 A, int64 B = 1);
 
 	/** Remainder of a division (A % B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "% (Integer64)", CompactNodeTitle = "%", Keywords = "% modulus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "% (Integer64)", CompactNodeTitle = "%", Keywords = "% modulus"))
 	static int64 Percent_Int64Int64(int64 A, int64 B = 1);
 
 	/** Returns true if A is less than B (A < B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 < Integer64", CompactNodeTitle = "<", Keywords = "< less"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 < Integer64", CompactNodeTitle = "<", Keywords = "< less"))
 	static bool Less_Int64Int64(int64 A, int64 B);
 
 	/** Returns true if A is greater than B (A > B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 > Integer64", CompactNodeTitle = ">", Keywords = "> greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 > Integer64", CompactNodeTitle = ">", Keywords = "> greater"))
 	static bool Greater_Int64Int64(int64 A, int64 B);
 
 	/** Returns true if A is less than or equal to B (A <= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 <= Integer64", CompactNodeTitle = "<=", Keywords = "<= less"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 <= Integer64", CompactNodeTitle = "<=", Keywords = "<= less"))
 	static bool LessEqual_Int64Int64(int64 A, int64 B);
 
 	/** Returns true if A is greater than or equal to B (A >= B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Integer64 >= Integer64", CompactNodeTitle = ">=", Keywords = ">= greater"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Integer64 >= Integer64", CompactNodeTitle = ">=", Keywords = ">= greater"))
 	static bool GreaterEqual_Int64Int64(int64 A, int64 B);
 
 	/** Returns true if A is equal to B (A == B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Equal (Integer64)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Equal (Integer64)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_Int64Int64(int64 A, int64 B);
 
 	/** Returns true if A is not equal to B (A != B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Not Equal (Integer64)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Not Equal (Integer64)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_Int64Int64(int64 A, int64 B);
 
 	/** Bitwise AND (A & B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Bitwise AND (Integer64)", CompactNodeTitle = "&", Keywords = "& and", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Bitwise AND (Integer64)", CompactNodeTitle = "&", Keywords = "& and",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static int64 And_Int64Int64(int64 A, int64 B);
 
 	/** Bitwise XOR (A ^ B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Bitwise XOR (Integer64)", CompactNodeTitle = "^", Keywords = "^ xor", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Bitwise XOR (Integer64)", CompactNodeTitle = "^", Keywords = "^ xor",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static int64 Xor_Int64Int64(int64 A, int64 B);
 
 	/** Bitwise OR (A | B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Bitwise OR (Integer64)", CompactNodeTitle = "|", Keywords = "| or", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Bitwise OR (Integer64)", CompactNodeTitle = "|", Keywords = "| or",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static int64 Or_Int64Int64(int64 A, int64 B);
 
 	/** Bitwise NOT (~A) */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Bitwise NOT (Integer64)", CompactNodeTitle = "~", Keywords = "~ not"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Bitwise NOT (Integer64)", CompactNodeTitle = "~", Keywords = "~ not"))
 	static int64 Not_Int64(int64 A);
 
 	/** The smaller value */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Min (Integer64)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Min (Integer64)", CompactNodeTitle = "MIN", CommutativeAssociativeBinaryOperator = "true"))
 	static int64 MinInt64(int64 A, int64 B);
 
 	/** The larger value */
-	UFUNCTION(BlueprintPure, Category = "Math|Integer64", meta = (DisplayName = "Max (Integer64)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Integer64",
+		meta = (DisplayName = "Max (Integer64)", CompactNodeTitle = "MAX", CommutativeAssociativeBinaryOperator = "true"))
 	static int64 MaxInt64(int64 A, int64 B);
 
 	/** -1, 0 or 1 by the sign of the value */

@@ -29,11 +29,13 @@ public:
 
 	/** A rotation of three angles in degrees */
 	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (Keywords = "construct build rotation rotate rotator", NativeMakeFunc))
-	static FRotator MakeRotator(UPARAM(DisplayName = "X (Roll)") float Roll, UPARAM(DisplayName = "Y (Pitch)") float Pitch, UPARAM(DisplayName = "Z (Yaw)") float Yaw);
+	static FRotator MakeRotator(UPARAM(DisplayName = "X (Roll)") float Roll, UPARAM(DisplayName = "Y (Pitch)") float Pitch,
+		UPARAM(DisplayName = "Z (Yaw)") float Yaw);
 
 	/** The three angles of a rotation, in degrees */
 	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (Keywords = "rotation rotate rotator breakrotator", NativeBreakFunc))
-	static void BreakRotator(UPARAM(DisplayName = "Rotation") FRotator InRot, UPARAM(DisplayName = "X (Roll)") float& Roll, UPARAM(DisplayName = "Y (Pitch)") float& Pitch, UPARAM(DisplayName = "Z (Yaw)") float& Yaw);
+	static void BreakRotator(UPARAM(DisplayName = "Rotation") FRotator InRot, UPARAM(DisplayName = "X (Roll)") float& Roll,
+		UPARAM(DisplayName = "Y (Pitch)") float& Pitch, UPARAM(DisplayName = "Z (Yaw)") float& Yaw);
 
 	/** Rotation whose X axis points along a vector */
 	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (Keywords = "construct build rotation rotate rotator"))
@@ -76,19 +78,23 @@ public:
 	static FRotator FindLookAtRotation(const FVector& Start, const FVector& Target);
 
 	/** Returns true if A is equal to B within a tolerance */
-	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Equal (Rotator)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Equal (Rotator)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_RotatorRotator(FRotator A, FRotator B, float ErrorTolerance = 1.e-4f);
 
 	/** Returns true if A is not equal to B within a tolerance */
-	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Not Equal (Rotator)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Rotator",
+		meta = (DisplayName = "Not Equal (Rotator)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_RotatorRotator(FRotator A, FRotator B, float ErrorTolerance = 1.e-4f);
 
 	/** Each angle times a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Scale Rotator", CompactNodeTitle = "*", Keywords = "* multiply rotate rotation"))
+	UFUNCTION(BlueprintPure, Category = "Math|Rotator",
+		meta = (DisplayName = "Scale Rotator", CompactNodeTitle = "*", Keywords = "* multiply rotate rotation"))
 	static FRotator Multiply_RotatorFloat(FRotator A, float B);
 
 	/** Each angle times a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Scale Rotator (Integer)", CompactNodeTitle = "*", Keywords = "* multiply rotate rotation"))
+	UFUNCTION(BlueprintPure, Category = "Math|Rotator",
+		meta = (DisplayName = "Scale Rotator (Integer)", CompactNodeTitle = "*", Keywords = "* multiply rotate rotation"))
 	static FRotator Multiply_RotatorInt(FRotator A, int32 B);
 
 	/** Rotation A, then rotation B */
@@ -124,7 +130,8 @@ public:
 	static FRotator NormalizedDeltaRotator(FRotator A, FRotator B);
 
 	/** Rotation around an axis by an angle in degrees */
-	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Rotator from Axis and Angle", Keywords = "make construct build rotate rotation"))
+	UFUNCTION(BlueprintPure, Category = "Math|Rotator",
+		meta = (DisplayName = "Rotator from Axis and Angle", Keywords = "make construct build rotate rotation"))
 	static FRotator RotatorFromAxisAndAngle(FVector Axis, float Angle);
 
 	/** A transform of its parts */
@@ -136,7 +143,8 @@ public:
 	static void BreakTransform(const FTransform& InTransform, FVector& Location, FRotator& Rotation, FVector& Scale);
 
 	/** Transform A, then transform B */
-	UFUNCTION(BlueprintPure, Category = "Math|Transform", meta = (DisplayName = "Compose Transforms", CompactNodeTitle = "*", Keywords = "multiply *"))
+	UFUNCTION(BlueprintPure, Category = "Math|Transform",
+		meta = (DisplayName = "Compose Transforms", CompactNodeTitle = "*", Keywords = "multiply *"))
 	static FTransform ComposeTransforms(const FTransform& A, const FTransform& B);
 
 	/** The transform back */
@@ -172,7 +180,8 @@ public:
 	static FTransform MakeRelativeTransform(const FTransform& A, const FTransform& RelativeTo);
 
 	/** Returns true if A is equal to B */
-	UFUNCTION(BlueprintPure, Category = "Math|Transform", meta = (DisplayName = "Equal (Transform)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Transform",
+		meta = (DisplayName = "Equal (Transform)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_TransformTransform(const FTransform& A, const FTransform& B);
 
 	/** Rotation B, then rotation A */
@@ -188,7 +197,8 @@ public:
 	static FVector Quat_RotateVector(const FQuat& Q, const FVector& V);
 
 	/** The three directions of a rotation. */
-	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Break Rotator Into Axes", Keywords = "rotate rotation break"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Break Rotator Into Axes", Keywords = "rotate rotation break"))
 	static void BreakRotIntoAxes(const FRotator& InRot, FVector& X, FVector& Y, FVector& Z);
 
 	/** Rotation of three directions. */
@@ -205,7 +215,8 @@ public:
 
 	/** Smooths a series of rotations, less the further they jump. */
 	UFUNCTION(BlueprintPure, Category = "Math|Rotator", meta = (DisplayName = "Dynamic Weighted Moving Average Rotator"))
-	static FRotator DynamicWeightedMovingAverage_FRotator(FRotator CurrentSample, FRotator PreviousSample, float MaxDistance, float MinWeight, float MaxWeight);
+	static FRotator DynamicWeightedMovingAverage_FRotator(
+		FRotator CurrentSample, FRotator PreviousSample, float MaxDistance, float MinWeight, float MaxWeight);
 
 	/** The matrix that changes nothing. */
 	UFUNCTION(BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Identity (Matrix)"))
@@ -216,23 +227,28 @@ public:
 	static FVector Matrix_GetOrigin(const FMatrix& InMatrix);
 
 	/** The first matrix, then the second. */
-	UFUNCTION(BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Matrix * Matrix", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Matrix * Matrix", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FMatrix Multiply_MatrixMatrix(const FMatrix& A, const FMatrix& B);
 
 	/** Sum of two matrices. */
-	UFUNCTION(BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Matrix + Matrix", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Matrix + Matrix", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FMatrix Add_MatrixMatrix(const FMatrix& A, const FMatrix& B);
 
 	/** Each part times a number. */
-	UFUNCTION(BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Matrix * Float", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Matrix * Float", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FMatrix Multiply_MatrixFloat(const FMatrix& A, double B);
 
 	/** True if all parts are nearly equal. */
-	UFUNCTION(BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Equal (Matrix)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Equal (Matrix)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_MatrixMatrix(const FMatrix& A, const FMatrix& B, float Tolerance = 1.e-4f);
 
 	/** True if a part differs. */
-	UFUNCTION(BlueprintPure, Category = "Math|Matrix", meta = (DisplayName = "Not Equal (Matrix)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Matrix",
+		meta = (DisplayName = "Not Equal (Matrix)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_MatrixMatrix(const FMatrix& A, const FMatrix& B, float Tolerance = 1.e-4f);
 
 	/** A vector through a matrix. */
@@ -388,7 +404,8 @@ public:
 	static bool EqualEqual_QuatQuat(const FQuat& A, const FQuat& B, float Tolerance = 1.e-4f);
 
 	/** True if the rotations differ. */
-	UFUNCTION(BlueprintPure, Category = "Math|Quat", meta = (DisplayName = "Not Equal (Quat)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Quat",
+		meta = (DisplayName = "Not Equal (Quat)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_QuatQuat(const FQuat& A, const FQuat& B, float ErrorTolerance = 1.e-4f);
 
 	/** Sum of the parts. */
@@ -396,7 +413,8 @@ public:
 	static FQuat Add_QuatQuat(const FQuat& A, const FQuat& B);
 
 	/** Difference of the parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|Quat", meta = (DisplayName = "Quat - Quat", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Quat", meta = (DisplayName = "Quat - Quat", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FQuat Subtract_QuatQuat(const FQuat& A, const FQuat& B);
 
 	/** A quaternion of its parts. */
@@ -521,11 +539,13 @@ public:
 
 	/** A transform between two. */
 	UFUNCTION(BlueprintPure, Category = "Math|Transform", meta = (DisplayName = "Lerp (Transform)", AdvancedDisplay = "3"))
-	static FTransform TLerp(const FTransform& A, const FTransform& B, float Alpha, TEnumAsByte<ELerpInterpolationMode::Type> LerpInterpolationMode = ELerpInterpolationMode::QuatInterp);
+	static FTransform TLerp(const FTransform& A, const FTransform& B, float Alpha,
+		TEnumAsByte<ELerpInterpolationMode::Type> LerpInterpolationMode = ELerpInterpolationMode::QuatInterp);
 
 	/** True if the transforms are nearly the same. */
 	UFUNCTION(BlueprintPure, Category = "Math|Transform", meta = (DisplayName = "Nearly Equal (Transform)"))
-	static bool NearlyEqual_TransformTransform(const FTransform& A, const FTransform& B, float LocationTolerance = 1.e-4f, float RotationTolerance = 1.e-4f, float Scale3DTolerance = 1.e-4f);
+	static bool NearlyEqual_TransformTransform(const FTransform& A, const FTransform& B, float LocationTolerance = 1.e-4f,
+		float RotationTolerance = 1.e-4f, float Scale3DTolerance = 1.e-4f);
 
 	/** Determinant of the transform's matrix. */
 	UFUNCTION(BlueprintPure, Category = "Math|Transform", meta = (DisplayName = "Determinant"))

@@ -24,51 +24,65 @@ public:
 	static void BreakVector(FVector InVec, double& X, double& Y, double& Z);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector + vector", CompactNodeTitle = "+", Keywords = "+ add plus", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector + vector", CompactNodeTitle = "+", Keywords = "+ add plus",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static FVector Add_VectorVector(FVector A, FVector B);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector - vector", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector - vector", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FVector Subtract_VectorVector(FVector A, FVector B);
 
 	/** Multiplication (A * B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector * vector", CompactNodeTitle = "*", Keywords = "* multiply", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector * vector", CompactNodeTitle = "*", Keywords = "* multiply",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static FVector Multiply_VectorVector(FVector A, FVector B);
 
 	/** Division (A / B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector / vector", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector / vector", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FVector Divide_VectorVector(FVector A, FVector B);
 
 	/** Adds a number to each component */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector + float", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector + float", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FVector Add_VectorFloat(FVector A, double B);
 
 	/** Subtracts a number from each component */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector - float", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector - float", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FVector Subtract_VectorFloat(FVector A, double B);
 
 	/** Scales a vector by a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector * float", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector * float", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FVector Multiply_VectorFloat(FVector A, double B);
 
 	/** Divides a vector by a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FVector Divide_VectorFloat(FVector A, double B = 1.0);
 
 	/** Adds a number to each component */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector + integer", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector + integer", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FVector Add_VectorInt(FVector A, int32 B);
 
 	/** Subtracts a number from each component */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector - integer", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector - integer", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FVector Subtract_VectorInt(FVector A, int32 B);
 
 	/** Scales a vector by a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector * integer", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector * integer", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FVector Multiply_VectorInt(FVector A, int32 B);
 
 	/** Divides a vector by a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "vector / integer", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "vector / integer", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FVector Divide_VectorInt(FVector A, int32 B = 1);
 
 	/** The vector that points the other way */
@@ -76,19 +90,23 @@ public:
 	static FVector NegateVector(FVector A);
 
 	/** Returns true if A is equal to B within a tolerance */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "Equal (Vector)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "Equal (Vector)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_VectorVector(FVector A, FVector B, float ErrorTolerance = 1.e-4f);
 
 	/** Returns true if A is not equal to B within a tolerance */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "Not Equal (Vector)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "Not Equal (Vector)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_VectorVector(FVector A, FVector B, float ErrorTolerance = 1.e-4f);
 
 	/** Returns true if A is exactly equal to B */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "Equal Exactly (Vector)", CompactNodeTitle = "===", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "Equal Exactly (Vector)", CompactNodeTitle = "===", Keywords = "== equal"))
 	static bool EqualExactly_VectorVector(FVector A, FVector B);
 
 	/** Returns true if A is not exactly equal to B */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "Not Equal Exactly (Vector)", CompactNodeTitle = "!==", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector",
+		meta = (DisplayName = "Not Equal Exactly (Vector)", CompactNodeTitle = "!==", Keywords = "!= not equal"))
 	static bool NotEqualExactly_VectorVector(FVector A, FVector B);
 
 	/** Dot product, |A| * |B| * cos(angle) */
@@ -377,11 +395,13 @@ public:
 
 	/** Smooths a series of vectors, less the further they jump. */
 	UFUNCTION(BlueprintPure, Category = "Math|Vector", meta = (DisplayName = "Dynamic Weighted Moving Average Vector"))
-	static FVector DynamicWeightedMovingAverage_FVector(FVector CurrentSample, FVector PreviousSample, float MaxDistance, float MinWeight, float MaxWeight);
+	static FVector DynamicWeightedMovingAverage_FVector(
+		FVector CurrentSample, FVector PreviousSample, float MaxDistance, float MinWeight, float MaxWeight);
 
 	/** How steep a floor is along and across a direction. */
 	UFUNCTION(BlueprintPure, Category = "Math|Vector")
-	static void GetSlopeDegreeAngles(const FVector& MyRightYAxis, const FVector& FloorNormal, const FVector& UpVector, double& OutSlopePitchDegreeAngle, double& OutSlopeRollDegreeAngle);
+	static void GetSlopeDegreeAngles(const FVector& MyRightYAxis, const FVector& FloorNormal, const FVector& UpVector,
+		double& OutSlopePitchDegreeAngle, double& OutSlopeRollDegreeAngle);
 
 	/** True if a box along the axes holds a point. */
 	UFUNCTION(BlueprintPure, Category = "Math|Vector")
@@ -409,7 +429,8 @@ public:
 
 	/** Where two segments come nearest. */
 	UFUNCTION(BlueprintPure, Category = "Math|Vector")
-	static void FindNearestPointsOnLineSegments(FVector Segment1Start, FVector Segment1End, FVector Segment2Start, FVector Segment2End, FVector& Segment1Point, FVector& Segment2Point);
+	static void FindNearestPointsOnLineSegments(FVector Segment1Start, FVector Segment1End, FVector Segment2Start, FVector Segment2End,
+		FVector& Segment1Point, FVector& Segment2Point);
 
 	/** The point of a plane that is nearest. */
 	UFUNCTION(BlueprintPure, Category = "Math|Vector")

@@ -20,27 +20,35 @@ public:
 	static void BreakVector2D(FVector2D InVec, double& X, double& Y);
 
 	/** Addition (A + B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "vector2d + vector2d", CompactNodeTitle = "+", Keywords = "+ add plus", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "vector2d + vector2d", CompactNodeTitle = "+", Keywords = "+ add plus",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static FVector2D Add_Vector2DVector2D(FVector2D A, FVector2D B);
 
 	/** Subtraction (A - B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "vector2d - vector2d", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "vector2d - vector2d", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FVector2D Subtract_Vector2DVector2D(FVector2D A, FVector2D B);
 
 	/** Multiplication (A * B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "vector2d * vector2d", CompactNodeTitle = "*", Keywords = "* multiply", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "vector2d * vector2d", CompactNodeTitle = "*", Keywords = "* multiply",
+			CommutativeAssociativeBinaryOperator = "true"))
 	static FVector2D Multiply_Vector2DVector2D(FVector2D A, FVector2D B);
 
 	/** Division (A / B) */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "vector2d / vector2d", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "vector2d / vector2d", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FVector2D Divide_Vector2DVector2D(FVector2D A, FVector2D B);
 
 	/** Scales a vector by a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "vector2d * float", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "vector2d * float", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FVector2D Multiply_Vector2DFloat(FVector2D A, double B);
 
 	/** Divides a vector by a number */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "vector2d / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "vector2d / float", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FVector2D Divide_Vector2DFloat(FVector2D A, double B = 1.0);
 
 	/** Length of a vector */
@@ -60,7 +68,8 @@ public:
 	static double Distance2D(FVector2D V1, FVector2D V2);
 
 	/** Returns true if A is equal to B within a tolerance */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Equal (Vector2D)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "Equal (Vector2D)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_Vector2DVector2D(FVector2D A, FVector2D B, float ErrorTolerance = 1.e-4f);
 
 	/** (0, 0) */
@@ -100,27 +109,33 @@ public:
 	static FVector2D Vector2D_Unit45Deg();
 
 	/** Adds a number to both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Vector2D + Float", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "Vector2D + Float", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FVector2D Add_Vector2DFloat(FVector2D A, double B);
 
 	/** Takes a number from both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Vector2D - Float", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "Vector2D - Float", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FVector2D Subtract_Vector2DFloat(FVector2D A, double B);
 
 	/** True if the parts are the same. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Equal Exactly (Vector2D)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "Equal Exactly (Vector2D)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualExactly_Vector2DVector2D(FVector2D A, FVector2D B);
 
 	/** True if a part differs. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Not Equal Exactly (Vector2D)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "Not Equal Exactly (Vector2D)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqualExactly_Vector2DVector2D(FVector2D A, FVector2D B);
 
 	/** True if a part differs by more than the tolerance. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Not Equal (Vector2D)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector2D",
+		meta = (DisplayName = "Not Equal (Vector2D)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_Vector2DVector2D(FVector2D A, FVector2D B, float ErrorTolerance = 1.e-4f);
 
 	/** The vector the other way. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Negate Vector 2D", CompactNodeTitle = "-", Keywords = "inverse"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Vector2D", meta = (DisplayName = "Negate Vector 2D", CompactNodeTitle = "-", Keywords = "inverse"))
 	static FVector2D Negated2D(const FVector2D& A);
 
 	/** Sets the parts of a vector. */
@@ -272,7 +287,8 @@ public:
 	static FVector4 Vector4_NormalUnsafe3(const FVector4& A);
 
 	/** Makes the length of the first three parts 1. */
-	UFUNCTION(BlueprintCallable, Category = "Math|Vector4", meta = (DisplayName = "Normalize In Place XYZ (Vector4)", Keywords = "Unit Vector"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Math|Vector4", meta = (DisplayName = "Normalize In Place XYZ (Vector4)", Keywords = "Unit Vector"))
 	static void Vector4_Normalize3(UPARAM(ref) FVector4& A, float Tolerance = 1.e-8f);
 
 	/** A direction that bounced from a surface. */
@@ -284,74 +300,92 @@ public:
 	static FVector4 TransformVector4(const FMatrix& Matrix, const FVector4& Vec4);
 
 	/** Addition (A + B) of both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint + IntPoint", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint + IntPoint", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FIntPoint Add_IntPointIntPoint(FIntPoint A, FIntPoint B);
 
 	/** Addition (A + B) with a number, for both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint + Integer", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint + Integer", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FIntPoint Add_IntPointInt(FIntPoint A, int32 B);
 
 	/** Subtraction (A - B) of both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint - IntPoint", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint - IntPoint", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FIntPoint Subtract_IntPointIntPoint(FIntPoint A, FIntPoint B);
 
 	/** Subtraction (A - B) with a number, for both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint - Integer", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint - Integer", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FIntPoint Subtract_IntPointInt(FIntPoint A, int32 B);
 
 	/** Multiplication (A * B) of both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint * IntPoint", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint * IntPoint", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FIntPoint Multiply_IntPointIntPoint(FIntPoint A, FIntPoint B);
 
 	/** Multiplication (A * B) with a number, for both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint * Integer", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint * Integer", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FIntPoint Multiply_IntPointInt(FIntPoint A, int32 B);
 
 	/** Division (A / B) of both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint / IntPoint", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint / IntPoint", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FIntPoint Divide_IntPointIntPoint(FIntPoint A, FIntPoint B);
 
 	/** Division (A / B) with a number, for both parts. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "IntPoint / Integer", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "IntPoint / Integer", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FIntPoint Divide_IntPointInt(FIntPoint A, int32 B);
 
 	/** True if the parts are the same. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "Equal (IntPoint)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "Equal (IntPoint)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool Equal_IntPointIntPoint(FIntPoint A, FIntPoint B);
 
 	/** True if a part differs. */
-	UFUNCTION(BlueprintPure, Category = "Math|IntPoint", meta = (DisplayName = "Not Equal (IntPoint)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|IntPoint",
+		meta = (DisplayName = "Not Equal (IntPoint)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_IntPointIntPoint(FIntPoint A, FIntPoint B);
 
 	/** Addition (A + B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Vector4 + Vector4", CompactNodeTitle = "+", Keywords = "+ add plus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector4",
+		meta = (DisplayName = "Vector4 + Vector4", CompactNodeTitle = "+", Keywords = "+ add plus"))
 	static FVector4 Add_Vector4Vector4(const FVector4& A, const FVector4& B);
 
 	/** Subtraction (A - B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Vector4 - Vector4", CompactNodeTitle = "-", Keywords = "- subtract minus"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector4",
+		meta = (DisplayName = "Vector4 - Vector4", CompactNodeTitle = "-", Keywords = "- subtract minus"))
 	static FVector4 Subtract_Vector4Vector4(const FVector4& A, const FVector4& B);
 
 	/** Multiplication (A * B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Vector4 * Vector4", CompactNodeTitle = "*", Keywords = "* multiply"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector4",
+		meta = (DisplayName = "Vector4 * Vector4", CompactNodeTitle = "*", Keywords = "* multiply"))
 	static FVector4 Multiply_Vector4Vector4(const FVector4& A, const FVector4& B);
 
 	/** Division (A / B) of each part. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Vector4 / Vector4", CompactNodeTitle = "/", Keywords = "/ divide division"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector4",
+		meta = (DisplayName = "Vector4 / Vector4", CompactNodeTitle = "/", Keywords = "/ divide division"))
 	static FVector4 Divide_Vector4Vector4(const FVector4& A, const FVector4& B);
 
 	/** True if the parts are the same. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Equal Exactly (Vector4)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector4",
+		meta = (DisplayName = "Equal Exactly (Vector4)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualExactly_Vector4Vector4(const FVector4& A, const FVector4& B);
 
 	/** True if the parts are nearly the same. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Equal (Vector4)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Equal (Vector4)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_Vector4Vector4(const FVector4& A, const FVector4& B, float ErrorTolerance = 1.e-4f);
 
 	/** True if a part differs. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Not Equal Exactly (Vector4)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector4",
+		meta = (DisplayName = "Not Equal Exactly (Vector4)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqualExactly_Vector4Vector4(const FVector4& A, const FVector4& B);
 
 	/** True if a part differs by more than the tolerance. */
-	UFUNCTION(BlueprintPure, Category = "Math|Vector4", meta = (DisplayName = "Not Equal (Vector4)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Math|Vector4",
+		meta = (DisplayName = "Not Equal (Vector4)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_Vector4Vector4(const FVector4& A, const FVector4& B, float ErrorTolerance = 1.e-4f);
 };

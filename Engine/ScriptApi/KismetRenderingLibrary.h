@@ -12,20 +12,28 @@ class ENGINE_API UKismetRenderingLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Fills a picture with a colour. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "ClearRenderTarget", UnsafeDuringActorConstruction = "true"))
-	static void ClearRenderTarget2D(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, FLinearColor ClearColor = FLinearColor(0, 0, 0, 1));
+	UFUNCTION(BlueprintCallable, Category = "Rendering",
+		meta = (WorldContext = "WorldContextObject", Keywords = "ClearRenderTarget", UnsafeDuringActorConstruction = "true"))
+	static void ClearRenderTarget2D(
+		UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, FLinearColor ClearColor = FLinearColor(0, 0, 0, 1));
 
 	/** Makes a picture to draw into. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject"))
-	static UTextureRenderTarget2D* CreateRenderTarget2D(UObject* WorldContextObject, int32 Width = 256, int32 Height = 256, ETextureRenderTargetFormat Format = RTF_RGBA16f, FLinearColor ClearColor = FLinearColor::Black, bool bAutoGenerateMipMaps = false, bool bSupportUAVs = false);
+	static UTextureRenderTarget2D* CreateRenderTarget2D(UObject* WorldContextObject, int32 Width = 256, int32 Height = 256,
+		ETextureRenderTargetFormat Format = RTF_RGBA16f, FLinearColor ClearColor = FLinearColor::Black, bool bAutoGenerateMipMaps = false,
+		bool bSupportUAVs = false);
 
 	/** Makes an array of pictures to draw into. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject"))
-	static UTextureRenderTarget2DArray* CreateRenderTarget2DArray(UObject* WorldContextObject, int32 Width = 256, int32 Height = 256, int32 Slices = 1, ETextureRenderTargetFormat Format = RTF_RGBA16f, FLinearColor ClearColor = FLinearColor::Black, bool bAutoGenerateMipMaps = false, bool bSupportUAVs = false);
+	static UTextureRenderTarget2DArray* CreateRenderTarget2DArray(UObject* WorldContextObject, int32 Width = 256, int32 Height = 256,
+		int32 Slices = 1, ETextureRenderTargetFormat Format = RTF_RGBA16f, FLinearColor ClearColor = FLinearColor::Black,
+		bool bAutoGenerateMipMaps = false, bool bSupportUAVs = false);
 
 	/** Makes a volume to draw into. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject"))
-	static UTextureRenderTargetVolume* CreateRenderTargetVolume(UObject* WorldContextObject, int32 Width = 16, int32 Height = 16, int32 Depth = 16, ETextureRenderTargetFormat Format = RTF_RGBA16f, FLinearColor ClearColor = FLinearColor::Black, bool bAutoGenerateMipMaps = false, bool bSupportUAVs = false);
+	static UTextureRenderTargetVolume* CreateRenderTargetVolume(UObject* WorldContextObject, int32 Width = 16, int32 Height = 16,
+		int32 Depth = 16, ETextureRenderTargetFormat Format = RTF_RGBA16f, FLinearColor ClearColor = FLinearColor::Black,
+		bool bAutoGenerateMipMaps = false, bool bSupportUAVs = false);
 
 	/** Frees a picture's memory. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering")
@@ -36,20 +44,27 @@ public:
 	static void ResizeRenderTarget2D(UTextureRenderTarget2D* TextureRenderTarget, int32 Width = 256, int32 Height = 256);
 
 	/** Fills a picture with a material. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "DrawMaterialToRenderTarget", UnsafeDuringActorConstruction = "true"))
-	static void DrawMaterialToRenderTarget(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, UMaterialInterface* Material);
+	UFUNCTION(BlueprintCallable, Category = "Rendering",
+		meta = (WorldContext = "WorldContextObject", Keywords = "DrawMaterialToRenderTarget", UnsafeDuringActorConstruction = "true"))
+	static void DrawMaterialToRenderTarget(
+		UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, UMaterialInterface* Material);
 
 	/** Makes a texture asset of a picture, in the editor. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (Keywords = "Create Static Texture from Render Target", UnsafeDuringActorConstruction = "true"))
-	static UTexture2D* RenderTargetCreateStaticTexture2DEditorOnly(UTextureRenderTarget2D* RenderTarget, FString Name = "Texture", TextureCompressionSettings CompressionSettings = TC_Default, TextureMipGenSettings MipSettings = TMGS_FromTextureGroup);
+	UFUNCTION(BlueprintCallable, Category = "Rendering",
+		meta = (Keywords = "Create Static Texture from Render Target", UnsafeDuringActorConstruction = "true"))
+	static UTexture2D* RenderTargetCreateStaticTexture2DEditorOnly(UTextureRenderTarget2D* RenderTarget, FString Name = "Texture",
+		TextureCompressionSettings CompressionSettings = TC_Default, TextureMipGenSettings MipSettings = TMGS_FromTextureGroup);
 
 	/** Copies a picture into a texture asset, in the editor. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "Convert Render Target", UnsafeDuringActorConstruction = "true"))
-	static void ConvertRenderTargetToTexture2DEditorOnly(UObject* WorldContextObject, UTextureRenderTarget2D* RenderTarget, UTexture2D* Texture);
+	UFUNCTION(BlueprintCallable, Category = "Rendering",
+		meta = (WorldContext = "WorldContextObject", Keywords = "Convert Render Target", UnsafeDuringActorConstruction = "true"))
+	static void ConvertRenderTargetToTexture2DEditorOnly(
+		UObject* WorldContextObject, UTextureRenderTarget2D* RenderTarget, UTexture2D* Texture);
 
 	/** Saves a picture as a file. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "ExportRenderTarget"))
-	static void ExportRenderTarget(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, const FString& FilePath, const FString& FileName);
+	static void ExportRenderTarget(
+		UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, const FString& FilePath, const FString& FileName);
 
 	/** Saves a texture as a file. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "ExportTexture2D"))
@@ -72,32 +87,41 @@ public:
 	static FColor ReadRenderTargetUV(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, float U, float V);
 
 	/** Colour of a point as it is stored. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "ReadRenderTargetRawPixel"))
-	static FLinearColor ReadRenderTargetRawPixel(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, int32 X, int32 Y, bool bNormalize = true);
+	UFUNCTION(
+		BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "ReadRenderTargetRawPixel"))
+	static FLinearColor ReadRenderTargetRawPixel(
+		UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, int32 X, int32 Y, bool bNormalize = true);
 
 	/** Colour of a point from 0 to 1 as it is stored. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "ReadRenderTargetRawUV"))
-	static FLinearColor ReadRenderTargetRawUV(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, float U, float V, bool bNormalize = true);
+	static FLinearColor ReadRenderTargetRawUV(
+		UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, float U, float V, bool bNormalize = true);
 
 	/** Begins to draw into a picture. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "BeginDrawCanvasToRenderTarget", UnsafeDuringActorConstruction = "true"))
-	static void BeginDrawCanvasToRenderTarget(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, UCanvas*& Canvas, FVector2D& Size, FDrawToRenderTargetContext& Context);
+	UFUNCTION(BlueprintCallable, Category = "Rendering",
+		meta = (WorldContext = "WorldContextObject", Keywords = "BeginDrawCanvasToRenderTarget", UnsafeDuringActorConstruction = "true"))
+	static void BeginDrawCanvasToRenderTarget(UObject* WorldContextObject, UTextureRenderTarget2D* TextureRenderTarget, UCanvas*& Canvas,
+		FVector2D& Size, FDrawToRenderTargetContext& Context);
 
 	/** Ends to draw into a picture. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (WorldContext = "WorldContextObject", Keywords = "EndDrawCanvasToRenderTarget", UnsafeDuringActorConstruction = "true"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering",
+		meta = (WorldContext = "WorldContextObject", Keywords = "EndDrawCanvasToRenderTarget", UnsafeDuringActorConstruction = "true"))
 	static void EndDrawCanvasToRenderTarget(UObject* WorldContextObject, const FDrawToRenderTargetContext& Context);
 
 	/** Weights of up to four bones. */
 	UFUNCTION(BlueprintPure, Category = "Rendering", meta = (DisplayName = "Make Skin Weight Info", NativeMakeFunc))
-	static FSkelMeshSkinWeightInfo MakeSkinWeightInfo(int32 Bone0, uint8 Weight0, int32 Bone1, uint8 Weight1, int32 Bone2, uint8 Weight2, int32 Bone3, uint8 Weight3);
+	static FSkelMeshSkinWeightInfo MakeSkinWeightInfo(
+		int32 Bone0, uint8 Weight0, int32 Bone1, uint8 Weight1, int32 Bone2, uint8 Weight2, int32 Bone3, uint8 Weight3);
 
 	/** Weights of four bones. */
 	UFUNCTION(BlueprintPure, Category = "Rendering", meta = (DisplayName = "Break Skin Weight Info", NativeBreakFunc))
-	static void BreakSkinWeightInfo(FSkelMeshSkinWeightInfo InWeight, int32& Bone0, uint8& Weight0, int32& Bone1, uint8& Weight1, int32& Bone2, uint8& Weight2, int32& Bone3, uint8& Weight3);
+	static void BreakSkinWeightInfo(FSkelMeshSkinWeightInfo InWeight, int32& Bone0, uint8& Weight0, int32& Bone1, uint8& Weight1,
+		int32& Bone2, uint8& Weight2, int32& Bone3, uint8& Weight3);
 
 	/** Sets finer shadows for a component and all that is attached to it. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering", meta = (Keywords = "SetCastInsetShadowForAllAttachments"))
-	static void SetCastInsetShadowForAllAttachments(UPrimitiveComponent* PrimitiveComponent, bool bCastInsetShadow, bool bLightAttachmentsAsGroup);
+	static void SetCastInsetShadowForAllAttachments(
+		UPrimitiveComponent* PrimitiveComponent, bool bCastInsetShadow, bool bLightAttachmentsAsGroup);
 
 	/** Projection of a view. */
 	UFUNCTION(BlueprintPure, Category = "Rendering")

@@ -23,67 +23,83 @@ class ENGINE_API UKismetStringLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Text of a number. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Float)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Float)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_DoubleToString(double InDouble);
 
 	/** Text of a number. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Integer)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Integer)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_IntToString(int32 InInt);
 
 	/** Text of a number. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Integer64)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Integer64)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_Int64ToString(int64 InInt);
 
 	/** Text of a number. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Byte)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Byte)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_ByteToString(uint8 InByte);
 
 	/** "true" or "false". */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Boolean)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Boolean)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_BoolToString(bool InBool);
 
 	/** Text of a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Vector)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Vector)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_VectorToString(FVector InVec);
 
 	/** Text of a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Vector2D)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Vector2D)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_Vector2dToString(FVector2D InVec);
 
 	/** Text of a rotation. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Rotator)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Rotator)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_RotatorToString(FRotator InRot);
 
 	/** Text of a transform. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Transform)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Transform)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_TransformToString(const FTransform& InTrans);
 
 	/** Name of an object. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Object)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Object)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_ObjectToString(UObject* InObj);
 
 	/** Text of a colour. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (LinearColor)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (LinearColor)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_ColorToString(FLinearColor InColor);
 
 	/** Text of a name. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Name)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Name)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_NameToString(FName InName);
 
 	/** Name of a text. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Name (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Name (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FName Conv_StringToName(const FString& InString);
 
 	/** Number at the start of a text, or 0. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Integer (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Integer (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static int32 Conv_StringToInt(const FString& InString);
 
 	/** Number at the start of a text, or 0. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Float (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Float (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static double Conv_StringToDouble(const FString& InString);
 
 	/** The first text, then the second. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Append", Keywords = "+ concat cat", CommutativeAssociativeBinaryOperator = "true"))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "Append", Keywords = "+ concat cat", CommutativeAssociativeBinaryOperator = "true"))
 	static FString Concat_StrStr(const FString& A, const FString& B);
 
 	/** True if the texts are equal, letter case included. */
@@ -91,7 +107,8 @@ public:
 	static bool EqualEqual_StrStr(const FString& A, const FString& B);
 
 	/** True if the texts are equal, letter case aside. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Equal, Case Insensitive (String)", CompactNodeTitle = "=="))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Equal, Case Insensitive (String)", CompactNodeTitle = "=="))
 	static bool EqualEqual_StriStri(const FString& A, const FString& B);
 
 	/** True if the texts are not equal, letter case included. */
@@ -99,7 +116,8 @@ public:
 	static bool NotEqual_StrStr(const FString& A, const FString& B);
 
 	/** True if the texts are not equal, letter case aside. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "Not Equal, Case Insensitive (String)", CompactNodeTitle = "!="))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "Not Equal, Case Insensitive (String)", CompactNodeTitle = "!="))
 	static bool NotEqual_StriStri(const FString& A, const FString& B);
 
 	/** Number of characters. */
@@ -124,7 +142,8 @@ public:
 
 	/** Place of a text in another, or -1. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
-	static int32 FindSubstring(const FString& SearchIn, const FString& Substring, bool bUseCase = false, bool bSearchFromEnd = false, int32 StartPosition = -1);
+	static int32 FindSubstring(
+		const FString& SearchIn, const FString& Substring, bool bUseCase = false, bool bSearchFromEnd = false, int32 StartPosition = -1);
 
 	/** True if a text stands in another. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
@@ -136,7 +155,8 @@ public:
 
 	/** The parts between separators. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (Keywords = "split"))
-	static TArray<FString> ParseIntoArray(const FString& SourceString, const FString& Delimiter = FString(TEXT(" ")), const bool CullEmptyStrings = true);
+	static TArray<FString> ParseIntoArray(
+		const FString& SourceString, const FString& Delimiter = FString(TEXT(" ")), const bool CullEmptyStrings = true);
 
 	/** The texts with a separator between them. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
@@ -152,7 +172,8 @@ public:
 
 	/** Text with every occurrence of one put in place of another. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
-	static FString Replace(const FString& SourceString, const FString& From, const FString& To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+	static FString Replace(
+		const FString& SourceString, const FString& From, const FString& To, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
 
 	/** Text without white space at its ends. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
@@ -187,47 +208,58 @@ public:
 	static bool IsNumeric(const FString& SourceString);
 
 	/** Text of a number. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Float)", CompactNodeTitle = "->", BlueprintAutocast, DeprecatedFunction))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Float)", CompactNodeTitle = "->", BlueprintAutocast, DeprecatedFunction))
 	static FString Conv_FloatToString(float InFloat);
 
 	/** Text of a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Vector3f)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Vector3f)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_Vector3fToString(FVector3f InVec);
 
 	/** Text of a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (IntVector)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (IntVector)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_IntVectorToString(FIntVector InIntVec);
 
 	/** Text of a point. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (IntPoint)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (IntPoint)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_IntPointToString(FIntPoint InIntPoint);
 
 	/** Text of a matrix. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Matrix)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To String (Matrix)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_MatrixToString(const FMatrix& InMatrix);
 
 	/** Number at the start of a text, or 0. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Integer64 (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Integer64 (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static int64 Conv_StringToInt64(const FString& InString);
 
 	/** Reads a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Vector (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Vector (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static void Conv_StringToVector(const FString& InString, FVector& OutConvertedVector, bool& OutIsValid);
 
 	/** Reads a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Vector3f (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Vector3f (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static void Conv_StringToVector3f(const FString& InString, FVector3f& OutConvertedVector, bool& OutIsValid);
 
 	/** Reads a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Vector2D (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Vector2D (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static void Conv_StringToVector2D(const FString& InString, FVector2D& OutConvertedVector2D, bool& OutIsValid);
 
 	/** Reads a rotation. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Rotator (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Rotator (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static void Conv_StringToRotator(const FString& InString, FRotator& OutConvertedRotator, bool& OutIsValid);
 
 	/** Reads a colour. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To Color (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|String",
+		meta = (DisplayName = "To Color (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static void Conv_StringToColor(const FString& InString, FLinearColor& OutConvertedColor, bool& OutIsValid);
 
 	/** A text, a prefix, a truth value and a suffix. */
@@ -288,15 +320,18 @@ public:
 
 	/** True if the text matches a pattern of * and ? */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
-	static bool MatchesWildcard(const FString& SourceString, const FString& Wildcard, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+	static bool MatchesWildcard(
+		const FString& SourceString, const FString& Wildcard, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
 
 	/** The parts before and behind a separator. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")
-	static bool Split(const FString& SourceString, const FString& InStr, FString& LeftS, FString& RightS, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase, ESearchDir::Type SearchDir = ESearchDir::FromStart);
+	static bool Split(const FString& SourceString, const FString& InStr, FString& LeftS, FString& RightS,
+		ESearchCase::Type SearchCase = ESearchCase::IgnoreCase, ESearchDir::Type SearchDir = ESearchDir::FromStart);
 
 	/** Puts one text in place of another, in a variable. */
 	UFUNCTION(BlueprintCallable, Category = "Utilities|String")
-	static int32 ReplaceInline(UPARAM(ref) FString& SourceString, const FString& SearchText, const FString& ReplacementText, ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
+	static int32 ReplaceInline(UPARAM(ref) FString& SourceString, const FString& SearchText, const FString& ReplacementText,
+		ESearchCase::Type SearchCase = ESearchCase::IgnoreCase);
 
 	/** Takes empty texts out of an array. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|String")

@@ -24,27 +24,33 @@ public:
 	static bool IsValidSoftClassReference(const TSoftClassPtr<UObject>& SoftClassReference);
 
 	/** Path of the object. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To String (SoftObjectReference)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "To String (SoftObjectReference)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast))
 	static FString Conv_SoftObjectReferenceToString(const TSoftObjectPtr<UObject>& SoftObjectReference);
 
 	/** Path of the class. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To String (SoftClassReference)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "To String (SoftClassReference)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast))
 	static FString Conv_SoftClassReferenceToString(const TSoftClassPtr<UObject>& SoftClassReference);
 
 	/** True if both name the same object. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "Equal (SoftObjectReference)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "Equal (SoftObjectReference)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_SoftObjectReference(const TSoftObjectPtr<UObject>& A, const TSoftObjectPtr<UObject>& B);
 
 	/** True if they name different objects. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "Not Equal (SoftObjectReference)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "Not Equal (SoftObjectReference)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_SoftObjectReference(const TSoftObjectPtr<UObject>& A, const TSoftObjectPtr<UObject>& B);
 
 	/** True if both name the same class. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "Equal (SoftClassReference)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "Equal (SoftClassReference)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_SoftClassReference(const TSoftClassPtr<UObject>& A, const TSoftClassPtr<UObject>& B);
 
 	/** True if they name different classes. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "Not Equal (SoftClassReference)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "Not Equal (SoftClassReference)", CompactNodeTitle = "!=", Keywords = "!= not equal"))
 	static bool NotEqual_SoftClassReference(const TSoftClassPtr<UObject>& A, const TSoftClassPtr<UObject>& B);
 
 	/** A path of its text. */
@@ -56,11 +62,14 @@ public:
 	static void BreakSoftObjectPath(FSoftObjectPath InSoftObjectPath, FString& PathString);
 
 	/** The reference of a path. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To Soft Object Reference", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast, BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "To Soft Object Reference", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast,
+			BlueprintThreadSafe))
 	static TSoftObjectPtr<UObject> Conv_SoftObjPathToSoftObjRef(const FSoftObjectPath& SoftObjectPath);
 
 	/** The path of a reference. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To Soft Object Path", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "To Soft Object Path", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintThreadSafe))
 	static FSoftObjectPath Conv_SoftObjRefToSoftObjPath(TSoftObjectPtr<UObject> SoftObjectReference);
 
 	/** A path of its text. */
@@ -72,7 +81,9 @@ public:
 	static void BreakSoftClassPath(FSoftClassPath InSoftClassPath, FString& PathString);
 
 	/** The reference of a path. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To Soft Class Reference", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast, BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "To Soft Class Reference", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast,
+			BlueprintThreadSafe))
 	static TSoftClassPtr<UObject> Conv_SoftClassPathToSoftClassRef(const FSoftClassPath& SoftClassPath);
 
 	/** A path of a package and an asset. */
@@ -84,15 +95,20 @@ public:
 	static void BreakTopLevelAssetPath(const FTopLevelAssetPath& TopLevelAssetPath, FString& PathString);
 
 	/** Class of a reference, or null while it is not loaded. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "Resolve Soft Class Reference", DeterminesOutputType = "SoftClass", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "Resolve Soft Class Reference", DeterminesOutputType = "SoftClass", BlueprintAutocast))
 	static UClass* Conv_SoftClassReferenceToClass(const TSoftClassPtr<UObject>& SoftClass);
 
 	/** A reference that does not keep the object loaded. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To Soft Object Reference (Object)", CompactNodeTitle = "->", DeterminesOutputType = "Object", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "To Soft Object Reference (Object)", CompactNodeTitle = "->", DeterminesOutputType = "Object",
+			BlueprintAutocast))
 	static TSoftObjectPtr<UObject> Conv_ObjectToSoftObjectReference(UObject* Object);
 
 	/** A reference that does not keep the class loaded. */
-	UFUNCTION(BlueprintPure, Category = "Utilities", meta = (DisplayName = "To Soft Class Reference (Class)", CompactNodeTitle = "->", DeterminesOutputType = "Class", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities",
+		meta = (DisplayName = "To Soft Class Reference (Class)", CompactNodeTitle = "->", DeterminesOutputType = "Class",
+			BlueprintAutocast))
 	static TSoftClassPtr<UObject> Conv_ClassToSoftClassReference(const TSubclassOf<UObject>& Class);
 
 	/** True if the object is of the class or one derived from it. */
@@ -196,15 +212,19 @@ public:
 	static bool IsValidPrimaryAssetId(FPrimaryAssetId PrimaryAssetId);
 
 	/** Text of an identifier. */
-	UFUNCTION(BlueprintPure, Category = "AssetManager", meta = (DisplayName = "To String (PrimaryAssetId)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast, BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "AssetManager",
+		meta = (DisplayName = "To String (PrimaryAssetId)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast,
+			BlueprintThreadSafe))
 	static FString Conv_PrimaryAssetIdToString(FPrimaryAssetId PrimaryAssetId);
 
 	/** True if they are the same. */
-	UFUNCTION(BlueprintPure, Category = "AssetManager", meta = (DisplayName = "Equal (PrimaryAssetId)", CompactNodeTitle = "==", Keywords = "== equal", BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "AssetManager",
+		meta = (DisplayName = "Equal (PrimaryAssetId)", CompactNodeTitle = "==", Keywords = "== equal", BlueprintThreadSafe))
 	static bool EqualEqual_PrimaryAssetId(FPrimaryAssetId A, FPrimaryAssetId B);
 
 	/** True if they differ. */
-	UFUNCTION(BlueprintPure, Category = "AssetManager", meta = (DisplayName = "Not Equal (PrimaryAssetId)", CompactNodeTitle = "!=", Keywords = "!= not equal", BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "AssetManager",
+		meta = (DisplayName = "Not Equal (PrimaryAssetId)", CompactNodeTitle = "!=", Keywords = "!= not equal", BlueprintThreadSafe))
 	static bool NotEqual_PrimaryAssetId(FPrimaryAssetId A, FPrimaryAssetId B);
 
 	/** True if the type is named. */
@@ -212,15 +232,19 @@ public:
 	static bool IsValidPrimaryAssetType(FPrimaryAssetType PrimaryAssetType);
 
 	/** Text of a type. */
-	UFUNCTION(BlueprintPure, Category = "AssetManager", meta = (DisplayName = "To String (PrimaryAssetType)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast, BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "AssetManager",
+		meta = (DisplayName = "To String (PrimaryAssetType)", CompactNodeTitle = "->", Keywords = "cast convert", BlueprintAutocast,
+			BlueprintThreadSafe))
 	static FString Conv_PrimaryAssetTypeToString(FPrimaryAssetType PrimaryAssetType);
 
 	/** True if they are the same. */
-	UFUNCTION(BlueprintPure, Category = "AssetManager", meta = (DisplayName = "Equal (PrimaryAssetType)", CompactNodeTitle = "==", Keywords = "== equal", BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "AssetManager",
+		meta = (DisplayName = "Equal (PrimaryAssetType)", CompactNodeTitle = "==", Keywords = "== equal", BlueprintThreadSafe))
 	static bool EqualEqual_PrimaryAssetType(FPrimaryAssetType A, FPrimaryAssetType B);
 
 	/** True if they differ. */
-	UFUNCTION(BlueprintPure, Category = "AssetManager", meta = (DisplayName = "Not Equal (PrimaryAssetType)", CompactNodeTitle = "!=", Keywords = "!= not equal", BlueprintThreadSafe))
+	UFUNCTION(BlueprintPure, Category = "AssetManager",
+		meta = (DisplayName = "Not Equal (PrimaryAssetType)", CompactNodeTitle = "!=", Keywords = "!= not equal", BlueprintThreadSafe))
 	static bool NotEqual_PrimaryAssetType(FPrimaryAssetType A, FPrimaryAssetType B);
 
 	/** Lets go of a primary asset. */
@@ -237,7 +261,8 @@ public:
 
 	/** Primary assets that have some bundles and not others. */
 	UFUNCTION(BlueprintCallable, Category = "AssetManager")
-	static void GetPrimaryAssetsWithBundleState(const TArray<FName>& RequiredBundles, const TArray<FName>& ExcludedBundles, const TArray<FPrimaryAssetType>& ValidTypes, bool bForceCurrentState, TArray<FPrimaryAssetId>& OutPrimaryAssetIdList);
+	static void GetPrimaryAssetsWithBundleState(const TArray<FName>& RequiredBundles, const TArray<FName>& ExcludedBundles,
+		const TArray<FPrimaryAssetType>& ValidTypes, bool bForceCurrentState, TArray<FPrimaryAssetId>& OutPrimaryAssetIdList);
 
 	/** Sets a property by name. */
 	UFUNCTION(BlueprintCallable, Category = "Utilities|Object", meta = (BlueprintInternalUseOnly = "true"))
@@ -316,6 +341,7 @@ public:
 	static void SetCollisionProfileNameProperty(UObject* Object, FName PropertyName, const FCollisionProfileName& Value);
 
 	/** Sets a property by name. */
-	UFUNCTION(BlueprintCallable, CustomThunk, Category = "Utilities|Object", meta = (BlueprintInternalUseOnly = "true", CustomStructureParam = "Value", AutoCreateRefTerm = "Value"))
+	UFUNCTION(BlueprintCallable, CustomThunk, Category = "Utilities|Object",
+		meta = (BlueprintInternalUseOnly = "true", CustomStructureParam = "Value", AutoCreateRefTerm = "Value"))
 	static void SetStructurePropertyByName(UObject* Object, FName PropertyName, const FGenericStruct& Value);
 };

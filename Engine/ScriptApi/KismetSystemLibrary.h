@@ -48,12 +48,17 @@ class ENGINE_API UKismetSystemLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Writes a text to the screen and the log. */
-	UFUNCTION(BlueprintCallable, Category = "Development", meta = (WorldContext = "WorldContextObject", CallableWithoutWorldContext, Keywords = "log print", AdvancedDisplay = "2", DevelopmentOnly))
-	static void PrintString(const UObject* WorldContextObject, const FString& InString = FString(TEXT("Hello")), bool bPrintToScreen = true, bool bPrintToLog = true, FLinearColor TextColor = FLinearColor(0.0, 0.66, 1.0), float Duration = 2.f, const FName Key = NAME_None);
+	UFUNCTION(BlueprintCallable, Category = "Development",
+		meta = (WorldContext = "WorldContextObject", CallableWithoutWorldContext, Keywords = "log print", AdvancedDisplay = "2",
+			DevelopmentOnly))
+	static void PrintString(const UObject* WorldContextObject, const FString& InString = FString(TEXT("Hello")), bool bPrintToScreen = true,
+		bool bPrintToLog = true, FLinearColor TextColor = FLinearColor(0.0, 0.66, 1.0), float Duration = 2.f, const FName Key = NAME_None);
 
 	/** Writes a text to the screen and the log. */
-	UFUNCTION(BlueprintCallable, Category = "Development", meta = (WorldContext = "WorldContextObject", CallableWithoutWorldContext, Keywords = "log", AdvancedDisplay = "2", DevelopmentOnly))
-	static void PrintText(const UObject* WorldContextObject, const FText InText = INVTEXT("Hello"), bool bPrintToScreen = true, bool bPrintToLog = true, FLinearColor TextColor = FLinearColor(0.0, 0.66, 1.0), float Duration = 2.f, const FName Key = NAME_None);
+	UFUNCTION(BlueprintCallable, Category = "Development",
+		meta = (WorldContext = "WorldContextObject", CallableWithoutWorldContext, Keywords = "log", AdvancedDisplay = "2", DevelopmentOnly))
+	static void PrintText(const UObject* WorldContextObject, const FText InText = INVTEXT("Hello"), bool bPrintToScreen = true,
+		bool bPrintToLog = true, FLinearColor TextColor = FLinearColor(0.0, 0.66, 1.0), float Duration = 2.f, const FName Key = NAME_None);
 
 	/** Writes a warning to the log. */
 	UFUNCTION(BlueprintCallable, Category = "Development", meta = (DevelopmentOnly))
@@ -136,28 +141,36 @@ public:
 	static FString GetEngineVersion();
 
 	/** Waits, and goes on when the time is over. A call while it waits is ignored. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|FlowControl", meta = (Latent, WorldContext = "WorldContextObject", LatentInfo = "LatentInfo", Duration = "0.2", Keywords = "sleep"))
+	UFUNCTION(BlueprintCallable, Category = "Utilities|FlowControl",
+		meta = (Latent, WorldContext = "WorldContextObject", LatentInfo = "LatentInfo", Duration = "0.2", Keywords = "sleep"))
 	static void Delay(const UObject* WorldContextObject, float Duration, struct FLatentActionInfo LatentInfo);
 
 	/** Goes on in the next frame. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|FlowControl", meta = (Latent, WorldContext = "WorldContextObject", LatentInfo = "LatentInfo", Keywords = "sleep"))
+	UFUNCTION(BlueprintCallable, Category = "Utilities|FlowControl",
+		meta = (Latent, WorldContext = "WorldContextObject", LatentInfo = "LatentInfo", Keywords = "sleep"))
 	static void DelayUntilNextTick(const UObject* WorldContextObject, struct FLatentActionInfo LatentInfo);
 
 	/** Waits, and begins again with each call. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities|FlowControl", meta = (Latent, WorldContext = "WorldContextObject", LatentInfo = "LatentInfo", Duration = "0.2", Keywords = "sleep"))
+	UFUNCTION(BlueprintCallable, Category = "Utilities|FlowControl",
+		meta = (Latent, WorldContext = "WorldContextObject", LatentInfo = "LatentInfo", Duration = "0.2", Keywords = "sleep"))
 	static void RetriggerableDelay(const UObject* WorldContextObject, float Duration, FLatentActionInfo LatentInfo);
 
 	/** Moves a component to a place over some time. */
-	UFUNCTION(BlueprintCallable, Category = "Components", meta = (Latent, LatentInfo = "LatentInfo", ExpandEnumAsExecs = "MoveAction", OverTime = "0.2"))
-	static void MoveComponentTo(USceneComponent* Component, FVector TargetRelativeLocation, FRotator TargetRelativeRotation, bool bEaseOut, bool bEaseIn, float OverTime, bool bForceShortestRotationPath, TEnumAsByte<EMoveComponentAction::Type> MoveAction, FLatentActionInfo LatentInfo);
+	UFUNCTION(BlueprintCallable, Category = "Components",
+		meta = (Latent, LatentInfo = "LatentInfo", ExpandEnumAsExecs = "MoveAction", OverTime = "0.2"))
+	static void MoveComponentTo(USceneComponent* Component, FVector TargetRelativeLocation, FRotator TargetRelativeRotation, bool bEaseOut,
+		bool bEaseIn, float OverTime, bool bForceShortestRotationPath, TEnumAsByte<EMoveComponentAction::Type> MoveAction,
+		FLatentActionInfo LatentInfo);
 
 	/** Runs a console command. */
 	UFUNCTION(BlueprintCallable, Category = "Development", meta = (WorldContext = "WorldContextObject"))
-	static void ExecuteConsoleCommand(const UObject* WorldContextObject, const FString& Command, APlayerController* SpecificPlayer = nullptr);
+	static void ExecuteConsoleCommand(
+		const UObject* WorldContextObject, const FString& Command, APlayerController* SpecificPlayer = nullptr);
 
 	/** Ends the game. */
 	UFUNCTION(BlueprintCallable, Category = "Game", meta = (WorldContext = "WorldContextObject"))
-	static void QuitGame(const UObject* WorldContextObject, APlayerController* SpecificPlayer, TEnumAsByte<EQuitPreference::Type> QuitPreference, bool bIgnorePlatformRestrictions);
+	static void QuitGame(const UObject* WorldContextObject, APlayerController* SpecificPlayer,
+		TEnumAsByte<EQuitPreference::Type> QuitPreference, bool bIgnorePlatformRestrictions);
 
 	/** Opens an address in the machine's browser. */
 	UFUNCTION(BlueprintCallable, Category = "Platform")
@@ -180,12 +193,16 @@ public:
 	static UClass* LoadClassAsset_Blocking(TSoftClassPtr<UObject> AssetClass);
 
 	/** Loads an object and goes on when it is there. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", BlueprintInternalUseOnly = "true"))
-	static void LoadAsset(const UObject* WorldContextObject, TSoftObjectPtr<UObject> Asset, FOnAssetLoaded OnLoaded, FLatentActionInfo LatentInfo);
+	UFUNCTION(BlueprintCallable, Category = "Utilities",
+		meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", BlueprintInternalUseOnly = "true"))
+	static void LoadAsset(
+		const UObject* WorldContextObject, TSoftObjectPtr<UObject> Asset, FOnAssetLoaded OnLoaded, FLatentActionInfo LatentInfo);
 
 	/** Loads a class and goes on when it is there. */
-	UFUNCTION(BlueprintCallable, Category = "Utilities", meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", BlueprintInternalUseOnly = "true"))
-	static void LoadAssetClass(const UObject* WorldContextObject, TSoftClassPtr<UObject> AssetClass, FOnAssetClassLoaded OnLoaded, FLatentActionInfo LatentInfo);
+	UFUNCTION(BlueprintCallable, Category = "Utilities",
+		meta = (WorldContext = "WorldContextObject", Latent, LatentInfo = "LatentInfo", BlueprintInternalUseOnly = "true"))
+	static void LoadAssetClass(
+		const UObject* WorldContextObject, TSoftClassPtr<UObject> AssetClass, FOnAssetClassLoaded OnLoaded, FLatentActionInfo LatentInfo);
 
 	/** Value of a console variable. */
 	UFUNCTION(BlueprintPure, Category = "Utilities")
@@ -273,7 +290,8 @@ public:
 
 	/** Splits a command line. */
 	UFUNCTION(BlueprintCallable, Category = "Development")
-	static void ParseCommandLine(const FString& InCmdLine, TArray<FString>& OutTokens, TArray<FString>& OutSwitches, TMap<FString, FString>& OutParams);
+	static void ParseCommandLine(
+		const FString& InCmdLine, TArray<FString>& OutTokens, TArray<FString>& OutSwitches, TMap<FString, FString>& OutParams);
 
 	/** Begins a step that can be undone. */
 	UFUNCTION(BlueprintCallable, Category = "Transactions")

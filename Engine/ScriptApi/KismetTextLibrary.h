@@ -77,40 +77,52 @@ class ENGINE_API UKismetTextLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Text of a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Vector)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Vector)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_VectorToText(FVector InVec);
 
 	/** "true" or "false". */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Boolean)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Boolean)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_BoolToText(bool InBool);
 
 	/** Text of a byte. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Byte)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Byte)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_ByteToText(uint8 Value);
 
 	/** Text of a name. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Name)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Name)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_NameToText(FName InName);
 
 	/** Text that is never translated. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (String)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (String)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_StringToText(const FString& InString);
 
 	/** What the text reads. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Text)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|String", meta = (DisplayName = "To String (Text)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FString Conv_TextToString(const FText& InText);
 
 	/** Name of an object as text. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Object)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Object)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_ObjectToText(UObject* InObj);
 
 	/** A number as people write it. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Integer)", AdvancedDisplay = "1", BlueprintAutocast))
-	static FText Conv_IntToText(int32 Value, bool bAlwaysSign = false, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324);
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Integer)", AdvancedDisplay = "1", BlueprintAutocast))
+	static FText Conv_IntToText(int32 Value, bool bAlwaysSign = false, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1,
+		int32 MaximumIntegralDigits = 324);
 
 	/** A number as people write it. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Float)", AdvancedDisplay = "1", BlueprintAutocast))
-	static FText Conv_DoubleToText(double Value, TEnumAsByte<ERoundingMode> RoundingMode, bool bAlwaysSign = false, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0, int32 MaximumFractionalDigits = 3);
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Float)", AdvancedDisplay = "1", BlueprintAutocast))
+	static FText Conv_DoubleToText(double Value, TEnumAsByte<ERoundingMode> RoundingMode, bool bAlwaysSign = false,
+		bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0,
+		int32 MaximumFractionalDigits = 3);
 
 	/** True if the text reads nothing. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Text")
@@ -145,36 +157,47 @@ public:
 	static FText Format(FText InPattern, TArray<FFormatArgumentData> InArgs);
 
 	/** Text of a vector. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Vector2D)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Vector2D)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_Vector2dToText(FVector2D InVec);
 
 	/** Text of a rotation. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Rotator)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Rotator)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_RotatorToText(FRotator InRot);
 
 	/** Text of a transform. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Transform)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|Text",
+		meta = (DisplayName = "To Text (Transform)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_TransformToText(const FTransform& InTrans);
 
 	/** Text of a colour. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (LinearColor)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|Text",
+		meta = (DisplayName = "To Text (LinearColor)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText Conv_ColorToText(FLinearColor InColor);
 
 	/** A number as people write it. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Integer64)", AdvancedDisplay = "1", BlueprintAutocast))
-	static FText Conv_Int64ToText(int64 Value, bool bAlwaysSign = false, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324);
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Integer64)", AdvancedDisplay = "1", BlueprintAutocast))
+	static FText Conv_Int64ToText(int64 Value, bool bAlwaysSign = false, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1,
+		int32 MaximumIntegralDigits = 324);
 
 	/** An amount of money, given in its smallest unit. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "AsCurrency"))
 	static FText AsCurrencyBase(int32 BaseValue, const FString& CurrencyCode, const FString& CultureCode = FString(TEXT("")));
 
 	/** An amount of money. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "AsCurrency (Integer) - DEPRECATED (use AsCurrency)", AdvancedDisplay = "1", DeprecatedFunction))
-	static FText AsCurrency_Integer(int32 Value, TEnumAsByte<ERoundingMode> RoundingMode, bool bAlwaysSign = false, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0, int32 MaximumFractionalDigits = 3, const FString& CurrencyCode = FString(TEXT("")));
+	UFUNCTION(BlueprintPure, Category = "Utilities|Text",
+		meta = (DisplayName = "AsCurrency (Integer) - DEPRECATED (use AsCurrency)", AdvancedDisplay = "1", DeprecatedFunction))
+	static FText AsCurrency_Integer(int32 Value, TEnumAsByte<ERoundingMode> RoundingMode, bool bAlwaysSign = false,
+		bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0,
+		int32 MaximumFractionalDigits = 3, const FString& CurrencyCode = FString(TEXT("")));
 
 	/** A share of 1 as a percentage. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "AsPercent", AdvancedDisplay = "1"))
-	static FText AsPercent_Float(float Value, TEnumAsByte<ERoundingMode> RoundingMode, bool bAlwaysSign = false, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0, int32 MaximumFractionalDigits = 3);
+	static FText AsPercent_Float(float Value, TEnumAsByte<ERoundingMode> RoundingMode, bool bAlwaysSign = false, bool bUseGrouping = true,
+		int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0,
+		int32 MaximumFractionalDigits = 3);
 
 	/** A date as people write it. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "AsDate", AdvancedDisplay = "1"))
@@ -206,7 +229,9 @@ public:
 
 	/** An amount of memory as people write it. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "AsMemory", AdvancedDisplay = "1"))
-	static FText AsMemory(int64 NumBytes, EMemoryUnitStandard UnitStandard = EMemoryUnitStandard::IEC, bool bUseGrouping = true, int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0, int32 MaximumFractionalDigits = 3);
+	static FText AsMemory(int64 NumBytes, EMemoryUnitStandard UnitStandard = EMemoryUnitStandard::IEC, bool bUseGrouping = true,
+		int32 MinimumIntegralDigits = 1, int32 MaximumIntegralDigits = 324, int32 MinimumFractionalDigits = 0,
+		int32 MaximumFractionalDigits = 3);
 
 	/** A text that reads nothing. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Text")
@@ -214,10 +239,12 @@ public:
 
 	/** A text of the translation tables. */
 	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (AdvancedDisplay = "SourceString"))
-	static bool FindTextInLocalizationTable(const FString& Namespace, const FString& Key, FText& OutText, const FString& SourceString = FString(TEXT("")));
+	static bool FindTextInLocalizationTable(
+		const FString& Namespace, const FString& Key, FText& OutText, const FString& SourceString = FString(TEXT("")));
 
 	/** True if the texts read differently, letter case aside. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "Not Equal, Case Insensitive (Text)", CompactNodeTitle = "!="))
+	UFUNCTION(
+		BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "Not Equal, Case Insensitive (Text)", CompactNodeTitle = "!="))
 	static bool NotEqual_IgnoreCase_TextText(const FText& A, const FText& B);
 
 	/** True if the text is not to be saved. */
@@ -261,6 +288,7 @@ public:
 	static bool IsPolyglotDataValid(const FPolyglotTextData& PolyglotData, bool& IsValid, FText& ErrorMessage);
 
 	/** Text of translations. */
-	UFUNCTION(BlueprintPure, Category = "Utilities|Text", meta = (DisplayName = "To Text (Polyglot Data)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Utilities|Text",
+		meta = (DisplayName = "To Text (Polyglot Data)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FText PolyglotDataToText(const FPolyglotTextData& PolyglotData);
 };

@@ -20,8 +20,10 @@ class LEVELSEQUENCE_API ULevelSequencePlayer : public UMovieSceneSequencePlayer
 
 public:
 	/** Makes a player of a film. */
-	UFUNCTION(BlueprintCallable, Category = "Sequencer|Player", meta = (WorldContext = "WorldContextObject", DynamicOutputParam = "OutActor"))
-	static ULevelSequencePlayer* CreateLevelSequencePlayer(UObject* WorldContextObject, ULevelSequence* LevelSequence, FMovieSceneSequencePlaybackSettings Settings, ALevelSequenceActor*& OutActor);
+	UFUNCTION(
+		BlueprintCallable, Category = "Sequencer|Player", meta = (WorldContext = "WorldContextObject", DynamicOutputParam = "OutActor"))
+	static ULevelSequencePlayer* CreateLevelSequencePlayer(UObject* WorldContextObject, ULevelSequence* LevelSequence,
+		FMovieSceneSequencePlaybackSettings Settings, ALevelSequenceActor*& OutActor);
 
 	/** The active camera component. */
 	UFUNCTION(BlueprintCallable, Category = "Sequencer|Player")

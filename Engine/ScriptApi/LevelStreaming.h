@@ -99,12 +99,18 @@ class ENGINE_API ULevelStreamingDynamic : public ULevelStreaming
 
 public:
 	/** Loads a copy of a level at a place. */
-	UFUNCTION(BlueprintCallable, Category = "LevelStreaming", meta = (WorldContext = "WorldContextObject", DisplayName = "Load Level Instance (by Name)"))
-	static ULevelStreamingDynamic* LoadLevelInstance(UObject* WorldContextObject, FString LevelName, FVector Location, FRotator Rotation, bool& bOutSuccess, const FString& OptionalLevelNameOverride = TEXT(""), TSubclassOf<ULevelStreamingDynamic> OptionalLevelStreamingClass = nullptr, bool bLoadAsTempPackage = false);
+	UFUNCTION(BlueprintCallable, Category = "LevelStreaming",
+		meta = (WorldContext = "WorldContextObject", DisplayName = "Load Level Instance (by Name)"))
+	static ULevelStreamingDynamic* LoadLevelInstance(UObject* WorldContextObject, FString LevelName, FVector Location, FRotator Rotation,
+		bool& bOutSuccess, const FString& OptionalLevelNameOverride = TEXT(""),
+		TSubclassOf<ULevelStreamingDynamic> OptionalLevelStreamingClass = nullptr, bool bLoadAsTempPackage = false);
 
 	/** Loads a copy of a level at a place. */
-	UFUNCTION(BlueprintCallable, Category = "LevelStreaming", meta = (WorldContext = "WorldContextObject", DisplayName = "Load Level Instance (by Object Reference)"))
-	static ULevelStreamingDynamic* LoadLevelInstanceBySoftObjectPtr(UObject* WorldContextObject, TSoftObjectPtr<UWorld> Level, FVector Location, FRotator Rotation, bool& bOutSuccess, const FString& OptionalLevelNameOverride = TEXT(""), TSubclassOf<ULevelStreamingDynamic> OptionalLevelStreamingClass = nullptr, bool bLoadAsTempPackage = false);
+	UFUNCTION(BlueprintCallable, Category = "LevelStreaming",
+		meta = (WorldContext = "WorldContextObject", DisplayName = "Load Level Instance (by Object Reference)"))
+	static ULevelStreamingDynamic* LoadLevelInstanceBySoftObjectPtr(UObject* WorldContextObject, TSoftObjectPtr<UWorld> Level,
+		FVector Location, FRotator Rotation, bool& bOutSuccess, const FString& OptionalLevelNameOverride = TEXT(""),
+		TSubclassOf<ULevelStreamingDynamic> OptionalLevelStreamingClass = nullptr, bool bLoadAsTempPackage = false);
 };
 
 /** A level that is always there. */
@@ -123,7 +129,12 @@ class ENGINE_API ALevelStreamingVolume : public AVolume
 
 /** Script of a level. */
 // Extends native
-UCLASS(notplaceable, meta = (KismetHideOverrides = "ReceiveAnyDamage,ReceivePointDamage,ReceiveRadialDamage,ReceiveActorBeginOverlap,ReceiveActorEndOverlap,ReceiveHit,ReceiveDestroyed,ReceiveActorBeginCursorOver,ReceiveActorEndCursorOver,ReceiveActorOnClicked,ReceiveActorOnReleased,ReceiveActorOnInputTouchBegin,ReceiveActorOnInputTouchEnd,ReceiveActorOnInputTouchEnter,ReceiveActorOnInputTouchLeave"), HideCategories = (Collision, Rendering, Transformation))
+UCLASS(notplaceable,
+	meta = (KismetHideOverrides =
+				"ReceiveAnyDamage,ReceivePointDamage,ReceiveRadialDamage,ReceiveActorBeginOverlap,ReceiveActorEndOverlap,ReceiveHit,"
+				"ReceiveDestroyed,ReceiveActorBeginCursorOver,ReceiveActorEndCursorOver,ReceiveActorOnClicked,ReceiveActorOnReleased,"
+				"ReceiveActorOnInputTouchBegin,ReceiveActorOnInputTouchEnd,ReceiveActorOnInputTouchEnter,ReceiveActorOnInputTouchLeave"),
+	HideCategories = (Collision, Rendering, Transformation))
 class ENGINE_API ALevelScriptActor : public AActor
 {
 	GENERATED_BODY()
@@ -135,7 +146,8 @@ public:
 
 	/** Sets the cinematic mode. */
 	UFUNCTION(BlueprintCallable, Category = "Game|Cinematic")
-	void SetCinematicMode(bool bCinematicMode, bool bHidePlayer = true, bool bAffectsHUD = true, bool bAffectsMovement = false, bool bAffectsTurning = false);
+	void SetCinematicMode(
+		bool bCinematicMode, bool bHidePlayer = true, bool bAffectsHUD = true, bool bAffectsMovement = false, bool bAffectsTurning = false);
 
 	/** The level begins anew. */
 	UFUNCTION(BlueprintImplementableEvent, BlueprintAuthorityOnly, Category = "Miscellaneous")

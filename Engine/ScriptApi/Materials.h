@@ -102,7 +102,8 @@ public:
 
 	/** Sets the force mip levels to be resident. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering|Material")
-	void SetForceMipLevelsToBeResident(bool OverrideForceMiplevelsToBeResident, bool bForceMiplevelsToBeResidentValue, float ForceDuration, int32 CinematicTextureGroups = 0, bool bFastResponse = false);
+	void SetForceMipLevelsToBeResident(bool OverrideForceMiplevelsToBeResident, bool bForceMiplevelsToBeResidentValue, float ForceDuration,
+		int32 CinematicTextureGroups = 0, bool bFastResponse = false);
 };
 
 /** A material whose values change in the game. */
@@ -141,31 +142,39 @@ public:
 	void SetDoubleVectorParameterValue(FName ParameterName, FVector4 Value);
 
 	/** The scalar parameter value. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (DisplayName = "Get Scalar Parameter Value", ScriptName = "GetScalarParameterValue", Keywords = "GetFloatParameterValue"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (DisplayName = "Get Scalar Parameter Value", ScriptName = "GetScalarParameterValue", Keywords = "GetFloatParameterValue"))
 	float K2_GetScalarParameterValue(FName ParameterName);
 
 	/** The texture parameter value. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (DisplayName = "Get Texture Parameter Value", ScriptName = "GetTextureParameterValue", Keywords = "GetTextureParameterValue"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (DisplayName = "Get Texture Parameter Value", ScriptName = "GetTextureParameterValue",
+			Keywords = "GetTextureParameterValue"))
 	UTexture* K2_GetTextureParameterValue(FName ParameterName);
 
 	/** The vector parameter value. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (DisplayName = "Get Vector Parameter Value", ScriptName = "GetVectorParameterValue", Keywords = "GetColorParameterValue"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (DisplayName = "Get Vector Parameter Value", ScriptName = "GetVectorParameterValue", Keywords = "GetColorParameterValue"))
 	FLinearColor K2_GetVectorParameterValue(FName ParameterName);
 
 	/** The scalar parameter value by info. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (DisplayName = "Get Scalar Parameter Value By Info", ScriptName = "GetScalarParameterValueByInfo"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (DisplayName = "Get Scalar Parameter Value By Info", ScriptName = "GetScalarParameterValueByInfo"))
 	float K2_GetScalarParameterValueByInfo(const FMaterialParameterInfo& ParameterInfo);
 
 	/** The vector parameter value by info. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (DisplayName = "Get Vector Parameter Value By Info", ScriptName = "GetVectorParameterValueByInfo"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (DisplayName = "Get Vector Parameter Value By Info", ScriptName = "GetVectorParameterValueByInfo"))
 	FLinearColor K2_GetVectorParameterValueByInfo(const FMaterialParameterInfo& ParameterInfo);
 
 	/** Goes from one material's values to another's. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (DisplayName = "Interpolate Material Instance Params", ScriptName = "InterpolateMaterialInstanceParams"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (DisplayName = "Interpolate Material Instance Params", ScriptName = "InterpolateMaterialInstanceParams"))
 	void K2_InterpolateMaterialInstanceParams(UMaterialInstance* SourceA, UMaterialInstance* SourceB, float Alpha);
 
 	/** Takes the values of another material. */
-	UFUNCTION(BlueprintCallable, Category = "Rendering|Material", meta = (ScriptName = "CopyMaterialInstanceParameters", DisplayName = "Copy Material Instance Parameters"))
+	UFUNCTION(BlueprintCallable, Category = "Rendering|Material",
+		meta = (ScriptName = "CopyMaterialInstanceParameters", DisplayName = "Copy Material Instance Parameters"))
 	void K2_CopyMaterialInstanceParameters(UMaterialInterface* Source, bool bQuickParametersOnly = false);
 
 	UFUNCTION(BlueprintCallable, Category = "Rendering|Material")

@@ -153,7 +153,8 @@ public:
 
 	/** Adds copies. */
 	UFUNCTION(BlueprintCallable, Category = "Components|InstancedStaticMesh")
-	TArray<int32> AddInstances(const TArray<FTransform>& InstanceTransforms, bool bShouldReturnIndices, bool bWorldSpace = false, bool bUpdateNavigation = true);
+	TArray<int32> AddInstances(
+		const TArray<FTransform>& InstanceTransforms, bool bShouldReturnIndices, bool bWorldSpace = false, bool bUpdateNavigation = true);
 
 	/** Adds a copy at a place in the world. */
 	UFUNCTION(BlueprintCallable, Category = "Components|InstancedStaticMesh", meta = (DeprecatedFunction))
@@ -165,15 +166,18 @@ public:
 
 	/** Moves a copy. */
 	UFUNCTION(BlueprintCallable, Category = "Components|InstancedStaticMesh")
-	bool UpdateInstanceTransform(int32 InstanceIndex, const FTransform& NewInstanceTransform, bool bWorldSpace = false, bool bMarkRenderStateDirty = false, bool bTeleport = false);
+	bool UpdateInstanceTransform(int32 InstanceIndex, const FTransform& NewInstanceTransform, bool bWorldSpace = false,
+		bool bMarkRenderStateDirty = false, bool bTeleport = false);
 
 	/** Moves several copies. */
 	UFUNCTION(BlueprintCallable, Category = "Components|InstancedStaticMesh")
-	bool BatchUpdateInstancesTransforms(int32 StartInstanceIndex, const TArray<FTransform>& NewInstancesTransforms, bool bWorldSpace = false, bool bMarkRenderStateDirty = false, bool bTeleport = false);
+	bool BatchUpdateInstancesTransforms(int32 StartInstanceIndex, const TArray<FTransform>& NewInstancesTransforms,
+		bool bWorldSpace = false, bool bMarkRenderStateDirty = false, bool bTeleport = false);
 
 	/** Moves several copies to one place. */
 	UFUNCTION(BlueprintCallable, Category = "Components|InstancedStaticMesh")
-	bool BatchUpdateInstancesTransform(int32 StartInstanceIndex, int32 NumInstances, const FTransform& NewInstancesTransform, bool bWorldSpace = false, bool bMarkRenderStateDirty = false, bool bTeleport = false);
+	bool BatchUpdateInstancesTransform(int32 StartInstanceIndex, int32 NumInstances, const FTransform& NewInstancesTransform,
+		bool bWorldSpace = false, bool bMarkRenderStateDirty = false, bool bTeleport = false);
 
 	/** Removes a copy. */
 	UFUNCTION(BlueprintCallable, Category = "Components|InstancedStaticMesh")

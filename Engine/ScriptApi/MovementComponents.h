@@ -74,11 +74,13 @@ public:
 	float GetMaxSpeedModifier() const;
 
 	/** The max speed modifier. */
-	UFUNCTION(BlueprintCallable, Category = "Components|Movement", meta = (ScriptName = "GetMaxSpeedModifier", DisplayName = "Get Max Speed Modifier"))
+	UFUNCTION(BlueprintCallable, Category = "Components|Movement",
+		meta = (ScriptName = "GetMaxSpeedModifier", DisplayName = "Get Max Speed Modifier"))
 	float K2_GetMaxSpeedModifier() const;
 
 	/** The modified max speed. */
-	UFUNCTION(BlueprintCallable, Category = "Components|Movement", meta = (ScriptName = "GetModifiedMaxSpeed", DisplayName = "Get Modified Max Speed"))
+	UFUNCTION(BlueprintCallable, Category = "Components|Movement",
+		meta = (ScriptName = "GetModifiedMaxSpeed", DisplayName = "Get Modified Max Speed"))
 	float K2_GetModifiedMaxSpeed() const;
 
 	/** True if it is exceeding max speed. */
@@ -93,7 +95,8 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Components|Movement")
 	void SetUpdatedComponent(USceneComponent* NewUpdatedComponent);
 
-	UFUNCTION(BlueprintCallable, Category = "Components|Movement", meta = (ScriptName = "MoveUpdatedComponent", DisplayName = "Move Updated Component", AutoCreateRefTerm = "Delta,NewRotation"))
+	UFUNCTION(BlueprintCallable, Category = "Components|Movement",
+		meta = (ScriptName = "MoveUpdatedComponent", DisplayName = "Move Updated Component", AutoCreateRefTerm = "Delta,NewRotation"))
 	bool K2_MoveUpdatedComponent(FVector Delta, FRotator NewRotation, FHitResult& OutHit, bool bSweep = true, bool bTeleport = false);
 
 	/** Sets the plane constraint axis setting. */

@@ -187,7 +187,8 @@ class NIAGARA_API UNiagaraScript : public UObject
 };
 
 /** Shows an effect. */
-UCLASS(ClassGroup = (Rendering, Common), Blueprintable, hidecategories = (Object, Physics, Collision), showcategories = Trigger, editinlinenew, meta = (BlueprintSpawnableComponent, DisplayName = "Niagara Particle System Component"))
+UCLASS(ClassGroup = (Rendering, Common), Blueprintable, hidecategories = (Object, Physics, Collision), showcategories = Trigger,
+	editinlinenew, meta = (BlueprintSpawnableComponent, DisplayName = "Niagara Particle System Component"))
 class NIAGARA_API UNiagaraComponent : public UFXSystemComponent
 {
 	GENERATED_BODY()
@@ -410,22 +411,33 @@ class NIAGARA_API UNiagaraFunctionLibrary : public UBlueprintFunctionLibrary
 
 public:
 	/** Shows an effect at a place. */
-	UFUNCTION(BlueprintCallable, Category = "Niagara", meta = (WorldContext = "WorldContextObject", Keywords = "niagara System", UnsafeDuringActorConstruction = "true"))
-	static UNiagaraComponent* SpawnSystemAtLocation(const UObject* WorldContextObject, UNiagaraSystem* SystemTemplate, FVector Location, FRotator Rotation = FRotator::ZeroRotator, FVector Scale = FVector(1.f), bool bAutoDestroy = true, bool bAutoActivate = true, ENCPoolMethod PoolingMethod = ENCPoolMethod::None, bool bPreCullCheck = true);
+	UFUNCTION(BlueprintCallable, Category = "Niagara",
+		meta = (WorldContext = "WorldContextObject", Keywords = "niagara System", UnsafeDuringActorConstruction = "true"))
+	static UNiagaraComponent* SpawnSystemAtLocation(const UObject* WorldContextObject, UNiagaraSystem* SystemTemplate, FVector Location,
+		FRotator Rotation = FRotator::ZeroRotator, FVector Scale = FVector(1.f), bool bAutoDestroy = true, bool bAutoActivate = true,
+		ENCPoolMethod PoolingMethod = ENCPoolMethod::None, bool bPreCullCheck = true);
 
 	/** Shows an effect on a component. */
 	UFUNCTION(BlueprintCallable, Category = "Niagara", meta = (Keywords = "niagara System", UnsafeDuringActorConstruction = "true"))
-	static UNiagaraComponent* SpawnSystemAttached(UNiagaraSystem* SystemTemplate, USceneComponent* AttachToComponent, FName AttachPointName, FVector Location, FRotator Rotation, EAttachLocation::Type LocationType, bool bAutoDestroy, bool bAutoActivate = true, ENCPoolMethod PoolingMethod = ENCPoolMethod::None, bool bPreCullCheck = true);
+	static UNiagaraComponent* SpawnSystemAttached(UNiagaraSystem* SystemTemplate, USceneComponent* AttachToComponent, FName AttachPointName,
+		FVector Location, FRotator Rotation, EAttachLocation::Type LocationType, bool bAutoDestroy, bool bAutoActivate = true,
+		ENCPoolMethod PoolingMethod = ENCPoolMethod::None, bool bPreCullCheck = true);
 
-	UFUNCTION(BlueprintCallable, Category = "Niagara", meta = (Keywords = "niagara StaticMesh", DisplayName = "Set Niagara Static Mesh Component"))
-	static void OverrideSystemUserVariableStaticMeshComponent(UNiagaraComponent* NiagaraSystem, const FString& OverrideName, UStaticMeshComponent* StaticMeshComponent);
+	UFUNCTION(BlueprintCallable, Category = "Niagara",
+		meta = (Keywords = "niagara StaticMesh", DisplayName = "Set Niagara Static Mesh Component"))
+	static void OverrideSystemUserVariableStaticMeshComponent(
+		UNiagaraComponent* NiagaraSystem, const FString& OverrideName, UStaticMeshComponent* StaticMeshComponent);
 
-	UFUNCTION(BlueprintCallable, Category = "Niagara", meta = (Keywords = "niagara SkeletalMesh", DisplayName = "Set Niagara Skeletal Mesh Component"))
-	static void OverrideSystemUserVariableSkeletalMeshComponent(UNiagaraComponent* NiagaraSystem, const FString& OverrideName, USkeletalMeshComponent* SkeletalMeshComponent);
+	UFUNCTION(BlueprintCallable, Category = "Niagara",
+		meta = (Keywords = "niagara SkeletalMesh", DisplayName = "Set Niagara Skeletal Mesh Component"))
+	static void OverrideSystemUserVariableSkeletalMeshComponent(
+		UNiagaraComponent* NiagaraSystem, const FString& OverrideName, USkeletalMeshComponent* SkeletalMeshComponent);
 
 	/** The niagara parameter collection. */
-	UFUNCTION(BlueprintCallable, Category = "Niagara", meta = (WorldContext = "WorldContextObject", Keywords = "niagara parameter collection"))
-	static UNiagaraParameterCollectionInstance* GetNiagaraParameterCollection(UObject* WorldContextObject, UNiagaraParameterCollection* Collection);
+	UFUNCTION(
+		BlueprintCallable, Category = "Niagara", meta = (WorldContext = "WorldContextObject", Keywords = "niagara parameter collection"))
+	static UNiagaraParameterCollectionInstance* GetNiagaraParameterCollection(
+		UObject* WorldContextObject, UNiagaraParameterCollection* Collection);
 };
 
 /** Values of parameters that effects share. */

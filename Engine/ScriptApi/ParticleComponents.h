@@ -25,10 +25,13 @@ enum class EPSCPoolMethod : uint8
 };
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnSystemFinished, UParticleSystemComponent*, PSystem);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_FourParams(FParticleSpawnSignature, FName, EventName, float, EmitterTime, FVector, Location, FVector, Velocity);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_FourParams(
+	FParticleSpawnSignature, FName, EventName, float, EmitterTime, FVector, Location, FVector, Velocity);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FParticleBurstSignature, FName, EventName, float, EmitterTime, int32, ParticleCount);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_SixParams(FParticleDeathSignature, FName, EventName, float, EmitterTime, int32, ParticleTime, FVector, Location, FVector, Velocity, FVector, Direction);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_NineParams(FParticleCollisionSignature, FName, EventName, float, EmitterTime, int32, ParticleTime, FVector, Location, FVector, Velocity, FVector, Direction, FVector, Normal, FName, BoneName, UPhysicalMaterial*, PhysMat);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_SixParams(FParticleDeathSignature, FName, EventName, float, EmitterTime, int32, ParticleTime, FVector,
+	Location, FVector, Velocity, FVector, Direction);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_NineParams(FParticleCollisionSignature, FName, EventName, float, EmitterTime, int32, ParticleTime,
+	FVector, Location, FVector, Velocity, FVector, Direction, FVector, Normal, FName, BoneName, UPhysicalMaterial*, PhysMat);
 
 /** An effect. */
 UCLASS(Abstract, BlueprintType)
@@ -85,14 +88,16 @@ public:
 
 	/** Sets the auto attachment parameters. */
 	UFUNCTION(BlueprintCallable, Category = "Effects|Components|ParticleSystem")
-	void SetAutoAttachmentParameters(USceneComponent* Parent, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule, EAttachmentRule ScaleRule);
+	void SetAutoAttachmentParameters(
+		USceneComponent* Parent, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule, EAttachmentRule ScaleRule);
 
 	UFUNCTION(BlueprintCallable, Category = "Effects|Components|ParticleSystem")
 	void ReleaseToPool();
 };
 
 /** Shows particles. */
-UCLASS(ClassGroup = (Rendering, Common), hidecategories = (Object, Physics, Collision), showcategories = Trigger, editinlinenew, meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = (Rendering, Common), hidecategories = (Object, Physics, Collision), showcategories = Trigger, editinlinenew,
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API UParticleSystemComponent : public UFXSystemComponent
 {
 	GENERATED_BODY()
@@ -151,7 +156,8 @@ public:
 	void SetMaterialParameter(FName ParameterName, UMaterialInterface* Param);
 
 	UFUNCTION(BlueprintCallable, Category = "Effects|Components|ParticleSystem")
-	void GenerateParticleEvent(const FName InEventName, const float InEmitterTime, const FVector InLocation, const FVector InDirection, const FVector InVelocity);
+	void GenerateParticleEvent(
+		const FName InEventName, const float InEmitterTime, const FVector InLocation, const FVector InDirection, const FVector InVelocity);
 
 	UFUNCTION(BlueprintCallable, Category = "Effects|Components|ParticleSystem")
 	UMaterialInstanceDynamic* CreateNamedDynamicMaterialInstance(FName InName, UMaterialInterface* SourceMaterial);

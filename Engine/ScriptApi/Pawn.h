@@ -15,7 +15,8 @@ enum class EAutoPossessAI : uint8
 };
 
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FPawnRestartedSignature, APawn*, Pawn);
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(FPawnControllerChangedSignature, APawn*, Pawn, AController*, OldController, AController*, NewController);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_ThreeParams(
+	FPawnControllerChangedSignature, APawn*, Pawn, AController*, OldController, AController*, NewController);
 
 /** An actor that a player or an AI controls. */
 UCLASS(config = Game, BlueprintType, Blueprintable, hideCategories = (Navigation))

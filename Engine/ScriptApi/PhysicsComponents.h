@@ -123,7 +123,8 @@ public:
 };
 
 /** A joint between two bodies. */
-UCLASS(ClassGroup = Physics, meta = (BlueprintSpawnableComponent), HideCategories = (Activation, "Components|Activation", Physics, Mobility))
+UCLASS(
+	ClassGroup = Physics, meta = (BlueprintSpawnableComponent), HideCategories = (Activation, "Components|Activation", Physics, Mobility))
 class ENGINE_API UPhysicsConstraintComponent : public USceneComponent
 {
 	GENERATED_BODY()
@@ -155,7 +156,8 @@ public:
 
 	/** The constrained components. */
 	UFUNCTION(BlueprintCallable, Category = "Physics|Components|PhysicsConstraint")
-	void GetConstrainedComponents(UPrimitiveComponent*& OutComponent1, FName& OutBoneName1, UPrimitiveComponent*& OutComponent2, FName& OutBoneName2);
+	void GetConstrainedComponents(
+		UPrimitiveComponent*& OutComponent1, FName& OutBoneName1, UPrimitiveComponent*& OutComponent2, FName& OutBoneName2);
 
 	/** Sets the disable collision. */
 	UFUNCTION(BlueprintCallable, Category = "Physics|Components|PhysicsConstraint")
@@ -274,7 +276,8 @@ public:
 };
 
 /** Pushes everything around it. */
-UCLASS(hidecategories = (Object, Mobility, LOD, Physics), ClassGroup = Physics, showcategories = Trigger, meta = (BlueprintSpawnableComponent))
+UCLASS(
+	hidecategories = (Object, Mobility, LOD, Physics), ClassGroup = Physics, showcategories = Trigger, meta = (BlueprintSpawnableComponent))
 class ENGINE_API URadialForceComponent : public USceneComponent
 {
 	GENERATED_BODY()

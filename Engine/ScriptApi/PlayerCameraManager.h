@@ -73,7 +73,8 @@ public:
 
 	/** Fades the picture over time. */
 	UFUNCTION(BlueprintCallable, Category = "Camera")
-	void StartCameraFade(float FromAlpha, float ToAlpha, float Duration, FLinearColor Color, bool bShouldFadeAudio = false, bool bHoldWhenFinished = false);
+	void StartCameraFade(
+		float FromAlpha, float ToAlpha, float Duration, FLinearColor Color, bool bShouldFadeAudio = false, bool bHoldWhenFinished = false);
 
 	/** Ends a fade. */
 	UFUNCTION(BlueprintCallable, Category = "Camera")
@@ -85,11 +86,14 @@ public:
 
 	/** Shakes the camera. */
 	UFUNCTION(BlueprintCallable, Category = "Camera Shakes")
-	UCameraShakeBase* StartCameraShake(TSubclassOf<UCameraShakeBase> ShakeClass, float Scale = 1.f, ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal, FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
+	UCameraShakeBase* StartCameraShake(TSubclassOf<UCameraShakeBase> ShakeClass, float Scale = 1.f,
+		ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal, FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
 
 	/** Shakes the camera from a place in the world. */
 	UFUNCTION(BlueprintCallable, Category = "Camera Shakes")
-	UCameraShakeBase* StartCameraShakeFromSource(TSubclassOf<UCameraShakeBase> ShakeClass, UCameraShakeSourceComponent* SourceComponent, float Scale = 1.f, ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal, FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
+	UCameraShakeBase* StartCameraShakeFromSource(TSubclassOf<UCameraShakeBase> ShakeClass, UCameraShakeSourceComponent* SourceComponent,
+		float Scale = 1.f, ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal,
+		FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
 
 	/** Ends a shake. */
 	UFUNCTION(BlueprintCallable, Category = "Camera Shakes")
@@ -99,7 +103,8 @@ public:
 	void StopAllInstancesOfCameraShake(TSubclassOf<UCameraShakeBase> Shake, bool bImmediately = true);
 
 	UFUNCTION(BlueprintCallable, Category = "Camera Shakes")
-	void StopAllInstancesOfCameraShakeFromSource(TSubclassOf<UCameraShakeBase> Shake, UCameraShakeSourceComponent* SourceComponent, bool bImmediately = true);
+	void StopAllInstancesOfCameraShakeFromSource(
+		TSubclassOf<UCameraShakeBase> Shake, UCameraShakeSourceComponent* SourceComponent, bool bImmediately = true);
 
 	UFUNCTION(BlueprintCallable, Category = "Camera Shakes")
 	void StopAllCameraShakes(bool bImmediately = true);
@@ -156,7 +161,8 @@ public:
 
 	/** Changes the camera. */
 	UFUNCTION(BlueprintImplementableEvent, BlueprintCosmetic, Category = "CameraModifier")
-	void BlueprintModifyCamera(float DeltaTime, FVector ViewLocation, FRotator ViewRotation, float FOV, FVector& NewViewLocation, FRotator& NewViewRotation, float& NewFOV);
+	void BlueprintModifyCamera(float DeltaTime, FVector ViewLocation, FRotator ViewRotation, float FOV, FVector& NewViewLocation,
+		FRotator& NewViewRotation, float& NewFOV);
 
 	/** Changes the effects. */
 	UFUNCTION(BlueprintImplementableEvent, BlueprintCosmetic, Category = "CameraModifier")
@@ -215,7 +221,8 @@ public:
 	void Start();
 
 	UFUNCTION(BlueprintCallable, Category = "CameraShakeSourceComponent")
-	void StartCameraShake(TSubclassOf<UCameraShakeBase> InCameraShake, float Scale = 1.f, ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal, FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
+	void StartCameraShake(TSubclassOf<UCameraShakeBase> InCameraShake, float Scale = 1.f,
+		ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal, FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
 
 	UFUNCTION(BlueprintCallable, Category = "CameraShakeSourceComponent")
 	void StopAllCameraShakes(bool bImmediately = true);

@@ -62,7 +62,8 @@ public:
 
 	/** Passes the view to another actor over some seconds. */
 	UFUNCTION(BlueprintCallable, Category = "Game|Player", meta = (Keywords = "Camera"))
-	void SetViewTargetWithBlend(AActor* NewViewTarget, float BlendTime = 0, EViewTargetBlendFunction BlendFunc = VTBlend_Linear, float BlendExp = 0, bool bLockOutgoing = false);
+	void SetViewTargetWithBlend(AActor* NewViewTarget, float BlendTime = 0, EViewTargetBlendFunction BlendFunc = VTBlend_Linear,
+		float BlendExp = 0, bool bLockOutgoing = false);
 
 	/** Place of the mouse, if there is one. */
 	UFUNCTION(BlueprintPure, Category = "Game|Player")
@@ -85,11 +86,13 @@ public:
 	float GetInputKeyTimeDown(FKey Key) const;
 
 	/** World place of a point of the screen, and the direction into it. */
-	UFUNCTION(BlueprintCallable, Category = "Game|Player", meta = (DisplayName = "Convert Screen Location To World Space", Keywords = "deproject"))
+	UFUNCTION(BlueprintCallable, Category = "Game|Player",
+		meta = (DisplayName = "Convert Screen Location To World Space", Keywords = "deproject"))
 	bool DeprojectScreenPositionToWorld(float ScreenX, float ScreenY, FVector& WorldLocation, FVector& WorldDirection) const;
 
 	/** Screen place of a point of the world. */
-	UFUNCTION(BlueprintCallable, Category = "Game|Player", meta = (DisplayName = "Convert World Location To Screen Location", Keywords = "project"))
+	UFUNCTION(BlueprintCallable, Category = "Game|Player",
+		meta = (DisplayName = "Convert World Location To Screen Location", Keywords = "project"))
 	bool ProjectWorldLocationToScreen(FVector WorldLocation, FVector2D& ScreenLocation, bool bPlayerViewportRelative = false) const;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "PlayerController")
@@ -189,12 +192,19 @@ public:
 	void SetDisableHaptics(bool bNewDisabled);
 
 	/** Makes the gamepad rumble. */
-	UFUNCTION(BlueprintCallable, Category = "Game|Feedback", meta = (Latent, LatentInfo = "LatentInfo", ExpandEnumAsExecs = "Action", Duration = "-1", bAffectsLeftLarge = "true", bAffectsLeftSmall = "true", bAffectsRightLarge = "true", bAffectsRightSmall = "true", AdvancedDisplay = "bAffectsLeftLarge,bAffectsLeftSmall,bAffectsRightLarge,bAffectsRightSmall"))
-	void PlayDynamicForceFeedback(float Intensity, float Duration, bool bAffectsLeftLarge, bool bAffectsLeftSmall, bool bAffectsRightLarge, bool bAffectsRightSmall, TEnumAsByte<EDynamicForceFeedbackAction::Type> Action, FLatentActionInfo LatentInfo);
+	UFUNCTION(BlueprintCallable, Category = "Game|Feedback",
+		meta = (Latent, LatentInfo = "LatentInfo", ExpandEnumAsExecs = "Action", Duration = "-1", bAffectsLeftLarge = "true",
+			bAffectsLeftSmall = "true", bAffectsRightLarge = "true", bAffectsRightSmall = "true",
+			AdvancedDisplay = "bAffectsLeftLarge,bAffectsLeftSmall,bAffectsRightLarge,bAffectsRightSmall"))
+	void PlayDynamicForceFeedback(float Intensity, float Duration, bool bAffectsLeftLarge, bool bAffectsLeftSmall, bool bAffectsRightLarge,
+		bool bAffectsRightSmall, TEnumAsByte<EDynamicForceFeedbackAction::Type> Action, FLatentActionInfo LatentInfo);
 
 	/** Makes the gamepad rumble. */
-	UFUNCTION(BlueprintCallable, Category = "Game|Feedback", meta = (DisplayName = "Client Play Force Feedback", ScriptName = "ClientPlayForceFeedback", AdvancedDisplay = "bIgnoreTimeDilation,bPlayWhilePaused"))
-	void K2_ClientPlayForceFeedback(UForceFeedbackEffect* ForceFeedbackEffect, FName Tag, bool bLooping, bool bIgnoreTimeDilation, bool bPlayWhilePaused);
+	UFUNCTION(BlueprintCallable, Category = "Game|Feedback",
+		meta = (DisplayName = "Client Play Force Feedback", ScriptName = "ClientPlayForceFeedback",
+			AdvancedDisplay = "bIgnoreTimeDilation,bPlayWhilePaused"))
+	void K2_ClientPlayForceFeedback(
+		UForceFeedbackEffect* ForceFeedbackEffect, FName Tag, bool bLooping, bool bIgnoreTimeDilation, bool bPlayWhilePaused);
 
 	/** Ends a rumble. */
 	UFUNCTION(BlueprintCallable, Client, Reliable, Category = "Game|Feedback")
@@ -231,7 +241,8 @@ public:
 
 	/** Shakes the player's camera. */
 	UFUNCTION(BlueprintCallable, Unreliable, Client, Category = "Game|Feedback")
-	void ClientStartCameraShake(TSubclassOf<UCameraShakeBase> Shake, float Scale = 1.f, ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal, FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
+	void ClientStartCameraShake(TSubclassOf<UCameraShakeBase> Shake, float Scale = 1.f,
+		ECameraShakePlaySpace PlaySpace = ECameraShakePlaySpace::CameraLocal, FRotator UserPlaySpaceRot = FRotator::ZeroRotator);
 
 	/** Ends a shake of the player's camera. */
 	UFUNCTION(BlueprintCallable, Reliable, Client, Category = "Game|Feedback")
@@ -245,15 +256,18 @@ public:
 
 	/** What of some object types is under the pointer. */
 	UFUNCTION(BlueprintPure, Category = "Game|Player")
-	bool GetHitResultUnderCursorForObjects(const TArray<TEnumAsByte<EObjectTypeQuery>>& ObjectTypes, bool bTraceComplex, FHitResult& HitResult) const;
+	bool GetHitResultUnderCursorForObjects(
+		const TArray<TEnumAsByte<EObjectTypeQuery>>& ObjectTypes, bool bTraceComplex, FHitResult& HitResult) const;
 
 	/** What is under a finger. */
 	UFUNCTION(BlueprintCallable, Category = "Game|Player")
-	bool GetHitResultUnderFingerByChannel(ETouchIndex::Type FingerIndex, ETraceTypeQuery TraceChannel, bool bTraceComplex, FHitResult& HitResult) const;
+	bool GetHitResultUnderFingerByChannel(
+		ETouchIndex::Type FingerIndex, ETraceTypeQuery TraceChannel, bool bTraceComplex, FHitResult& HitResult) const;
 
 	/** What of some object types is under a finger. */
 	UFUNCTION(BlueprintCallable, Category = "Game|Player")
-	bool GetHitResultUnderFingerForObjects(ETouchIndex::Type FingerIndex, const TArray<TEnumAsByte<EObjectTypeQuery>>& ObjectTypes, bool bTraceComplex, FHitResult& HitResult) const;
+	bool GetHitResultUnderFingerForObjects(ETouchIndex::Type FingerIndex, const TArray<TEnumAsByte<EObjectTypeQuery>>& ObjectTypes,
+		bool bTraceComplex, FHitResult& HitResult) const;
 
 	/** The input touch state. */
 	UFUNCTION(BlueprintPure, Category = "Game|Player")
@@ -284,7 +298,8 @@ public:
 	void GetInputAnalogStickState(EControllerAnalogStick::Type WhichStick, float& StickX, float& StickY) const;
 
 	/** Place and direction in the world of the pointer. */
-	UFUNCTION(BlueprintPure, Category = "Game|Player", meta = (DisplayName = "Convert Mouse Location To World Space", Keywords = "deproject"))
+	UFUNCTION(
+		BlueprintPure, Category = "Game|Player", meta = (DisplayName = "Convert Mouse Location To World Space", Keywords = "deproject"))
 	bool DeprojectMousePositionToWorld(FVector& WorldLocation, FVector& WorldDirection) const;
 
 	/** The platform user id. */

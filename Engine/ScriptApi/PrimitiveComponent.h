@@ -4,15 +4,24 @@
 #include "SceneComponent.h"
 #include "PrimitiveComponent.generated.h"
 
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentWakeSignature, UPrimitiveComponent, OnComponentWake, UPrimitiveComponent*, WakingComponent, FName, BoneName);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentSleepSignature, UPrimitiveComponent, OnComponentSleep, UPrimitiveComponent*, SleepingComponent, FName, BoneName);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(FComponentBeginCursorOverSignature, UPrimitiveComponent, OnBeginCursorOver, UPrimitiveComponent*, TouchedComponent);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(FComponentEndCursorOverSignature, UPrimitiveComponent, OnEndCursorOver, UPrimitiveComponent*, TouchedComponent);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentOnReleasedSignature, UPrimitiveComponent, OnReleased, UPrimitiveComponent*, TouchedComponent, FKey, ButtonReleased);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentOnInputTouchBeginSignature, UPrimitiveComponent, OnInputTouchBegin, ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentOnInputTouchEndSignature, UPrimitiveComponent, OnInputTouchEnd, ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentBeginTouchOverSignature, UPrimitiveComponent, OnInputTouchEnter, ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentEndTouchOverSignature, UPrimitiveComponent, OnInputTouchLeave, ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FComponentWakeSignature, UPrimitiveComponent, OnComponentWake, UPrimitiveComponent*, WakingComponent, FName, BoneName);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FComponentSleepSignature, UPrimitiveComponent, OnComponentSleep, UPrimitiveComponent*, SleepingComponent, FName, BoneName);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(
+	FComponentBeginCursorOverSignature, UPrimitiveComponent, OnBeginCursorOver, UPrimitiveComponent*, TouchedComponent);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(
+	FComponentEndCursorOverSignature, UPrimitiveComponent, OnEndCursorOver, UPrimitiveComponent*, TouchedComponent);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(
+	FComponentOnReleasedSignature, UPrimitiveComponent, OnReleased, UPrimitiveComponent*, TouchedComponent, FKey, ButtonReleased);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentOnInputTouchBeginSignature, UPrimitiveComponent, OnInputTouchBegin,
+	ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentOnInputTouchEndSignature, UPrimitiveComponent, OnInputTouchEnd,
+	ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentBeginTouchOverSignature, UPrimitiveComponent, OnInputTouchEnter,
+	ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_TwoParams(FComponentEndTouchOverSignature, UPrimitiveComponent, OnInputTouchLeave,
+	ETouchIndex::Type, FingerIndex, UPrimitiveComponent*, TouchedComponent);
 
 /** A component that is drawn or collides. */
 UCLASS(Abstract, HideCategories = (Mobility, VirtualTexture), ShowCategories = (PhysicsVolume))
@@ -37,8 +46,10 @@ public:
 	uint8 CastShadow : 1;
 
 	/** Finds where a line meets the component. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (DisplayName = "Line Trace Component", ScriptName = "LineTraceComponent", bTraceComplex = "true"))
-	bool K2_LineTraceComponent(FVector TraceStart, FVector TraceEnd, bool bTraceComplex, bool bShowTrace, bool bPersistentShowTrace, FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
+	UFUNCTION(BlueprintCallable, Category = "Collision",
+		meta = (DisplayName = "Line Trace Component", ScriptName = "LineTraceComponent", bTraceComplex = "true"))
+	bool K2_LineTraceComponent(FVector TraceStart, FVector TraceEnd, bool bTraceComplex, bool bShowTrace, bool bPersistentShowTrace,
+		FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
 
 	/** Sets what collision is used for. */
 	UFUNCTION(BlueprintCallable, Category = "Collision")
@@ -126,7 +137,8 @@ public:
 
 	/** Makes a material of the component that can change in the game. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering|Material")
-	UMaterialInstanceDynamic* CreateDynamicMaterialInstance(int32 ElementIndex, UMaterialInterface* SourceMaterial = nullptr, FName OptionalName = NAME_None);
+	UMaterialInstanceDynamic* CreateDynamicMaterialInstance(
+		int32 ElementIndex, UMaterialInterface* SourceMaterial = nullptr, FName OptionalName = NAME_None);
 
 	/** Switches the shadow. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering")
@@ -270,16 +282,22 @@ public:
 	bool GetGenerateOverlapEvents() const;
 
 	/** Whether a sphere overlaps the component. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (ScriptName = "SphereOverlapComponent", DisplayName = "Sphere Overlap Component", bTraceComplex = "true"))
-	bool K2_SphereOverlapComponent(FVector InSphereCentre, float InSphereRadius, bool bTraceComplex, bool bShowTrace, bool bPersistentShowTrace, FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
+	UFUNCTION(BlueprintCallable, Category = "Collision",
+		meta = (ScriptName = "SphereOverlapComponent", DisplayName = "Sphere Overlap Component", bTraceComplex = "true"))
+	bool K2_SphereOverlapComponent(FVector InSphereCentre, float InSphereRadius, bool bTraceComplex, bool bShowTrace,
+		bool bPersistentShowTrace, FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
 
 	/** Whether a box overlaps the component. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (ScriptName = "BoxOverlapComponent", DisplayName = "Box Overlap Component", bTraceComplex = "true"))
-	bool K2_BoxOverlapComponent(FVector InBoxCentre, const FBox InBox, bool bTraceComplex, bool bShowTrace, bool bPersistentShowTrace, FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
+	UFUNCTION(BlueprintCallable, Category = "Collision",
+		meta = (ScriptName = "BoxOverlapComponent", DisplayName = "Box Overlap Component", bTraceComplex = "true"))
+	bool K2_BoxOverlapComponent(FVector InBoxCentre, const FBox InBox, bool bTraceComplex, bool bShowTrace, bool bPersistentShowTrace,
+		FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
 
 	/** Finds where a moving sphere meets the component. */
-	UFUNCTION(BlueprintCallable, Category = "Collision", meta = (ScriptName = "SphereTraceComponent", DisplayName = "Sphere Trace Component", bTraceComplex = "true"))
-	bool K2_SphereTraceComponent(FVector TraceStart, FVector TraceEnd, float SphereRadius, bool bTraceComplex, bool bShowTrace, bool bPersistentShowTrace, FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
+	UFUNCTION(BlueprintCallable, Category = "Collision",
+		meta = (ScriptName = "SphereTraceComponent", DisplayName = "Sphere Trace Component", bTraceComplex = "true"))
+	bool K2_SphereTraceComponent(FVector TraceStart, FVector TraceEnd, float SphereRadius, bool bTraceComplex, bool bShowTrace,
+		bool bPersistentShowTrace, FVector& HitLocation, FVector& HitNormal, FName& BoneName, FHitResult& OutHit);
 
 	/** The point of the body that is nearest and its distance. */
 	UFUNCTION(BlueprintCallable, Category = "Collision")
@@ -290,11 +308,13 @@ public:
 	bool K2_IsCollisionEnabled() const;
 
 	/** True if traces find the component. */
-	UFUNCTION(BlueprintPure, Category = "Collision", meta = (ScriptName = "IsQueryCollisionEnabled", DisplayName = "Is Query Collision Enabled"))
+	UFUNCTION(
+		BlueprintPure, Category = "Collision", meta = (ScriptName = "IsQueryCollisionEnabled", DisplayName = "Is Query Collision Enabled"))
 	bool K2_IsQueryCollisionEnabled() const;
 
 	/** True if physics meets the component. */
-	UFUNCTION(BlueprintPure, Category = "Collision", meta = (ScriptName = "IsPhysicsCollisionEnabled", DisplayName = "Is Physics Collision Enabled"))
+	UFUNCTION(BlueprintPure, Category = "Collision",
+		meta = (ScriptName = "IsPhysicsCollisionEnabled", DisplayName = "Is Physics Collision Enabled"))
 	bool K2_IsPhysicsCollisionEnabled() const;
 
 	/** Whether fast bodies are tested on their whole way. */

@@ -22,7 +22,8 @@ public:
 
 	/** Saves a game. */
 	UFUNCTION(BlueprintCallable, Category = "SaveGame", meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true"))
-	static UAsyncActionHandleSaveGame* AsyncSaveGameToSlot(UObject* WorldContextObject, USaveGame* SaveGameObject, const FString& SlotName, const int32 UserIndex);
+	static UAsyncActionHandleSaveGame* AsyncSaveGameToSlot(
+		UObject* WorldContextObject, USaveGame* SaveGameObject, const FString& SlotName, const int32 UserIndex);
 
 	/** Loads a game. */
 	UFUNCTION(BlueprintCallable, Category = "SaveGame", meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true"))
@@ -47,8 +48,10 @@ public:
 	FOnPrimaryAssetLoaded Completed;
 
 	/** Loads a primary asset. */
-	UFUNCTION(BlueprintCallable, Category = "AssetManager", meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
-	static UAsyncActionLoadPrimaryAsset* AsyncLoadPrimaryAsset(UObject* WorldContextObject, FPrimaryAssetId PrimaryAsset, const TArray<FName>& LoadBundles);
+	UFUNCTION(BlueprintCallable, Category = "AssetManager",
+		meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
+	static UAsyncActionLoadPrimaryAsset* AsyncLoadPrimaryAsset(
+		UObject* WorldContextObject, FPrimaryAssetId PrimaryAsset, const TArray<FName>& LoadBundles);
 };
 
 /** Loads a primary asset's class. */
@@ -62,8 +65,10 @@ public:
 	FOnPrimaryAssetClassLoaded Completed;
 
 	/** Loads a primary asset's class. */
-	UFUNCTION(BlueprintCallable, Category = "AssetManager", meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
-	static UAsyncActionLoadPrimaryAssetClass* AsyncLoadPrimaryAssetClass(UObject* WorldContextObject, FPrimaryAssetId PrimaryAsset, const TArray<FName>& LoadBundles);
+	UFUNCTION(BlueprintCallable, Category = "AssetManager",
+		meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
+	static UAsyncActionLoadPrimaryAssetClass* AsyncLoadPrimaryAssetClass(
+		UObject* WorldContextObject, FPrimaryAssetId PrimaryAsset, const TArray<FName>& LoadBundles);
 };
 
 /** Loads primary assets. */
@@ -77,8 +82,10 @@ public:
 	FOnPrimaryAssetListLoaded Completed;
 
 	/** Loads primary assets. */
-	UFUNCTION(BlueprintCallable, Category = "AssetManager", meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
-	static UAsyncActionLoadPrimaryAssetList* AsyncLoadPrimaryAssetList(UObject* WorldContextObject, const TArray<FPrimaryAssetId>& PrimaryAssetList, const TArray<FName>& LoadBundles);
+	UFUNCTION(BlueprintCallable, Category = "AssetManager",
+		meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
+	static UAsyncActionLoadPrimaryAssetList* AsyncLoadPrimaryAssetList(
+		UObject* WorldContextObject, const TArray<FPrimaryAssetId>& PrimaryAssetList, const TArray<FName>& LoadBundles);
 };
 
 /** Loads primary assets' classes. */
@@ -92,8 +99,10 @@ public:
 	FOnPrimaryAssetClassListLoaded Completed;
 
 	/** Loads primary assets' classes. */
-	UFUNCTION(BlueprintCallable, Category = "AssetManager", meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
-	static UAsyncActionLoadPrimaryAssetClassList* AsyncLoadPrimaryAssetClassList(UObject* WorldContextObject, const TArray<FPrimaryAssetId>& PrimaryAssetList, const TArray<FName>& LoadBundles);
+	UFUNCTION(BlueprintCallable, Category = "AssetManager",
+		meta = (WorldContext = "WorldContextObject", BlueprintInternalUseOnly = "true", AutoCreateRefTerm = "LoadBundles"))
+	static UAsyncActionLoadPrimaryAssetClassList* AsyncLoadPrimaryAssetClassList(
+		UObject* WorldContextObject, const TArray<FPrimaryAssetId>& PrimaryAssetList, const TArray<FName>& LoadBundles);
 };
 
 /** A node that goes on later and can be given up. */

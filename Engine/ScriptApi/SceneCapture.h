@@ -98,7 +98,8 @@ public:
 };
 
 /** Draws what a camera sees into a texture. */
-UCLASS(hidecategories = (Collision, Object, Physics, SceneComponent), ClassGroup = Rendering, editinlinenew, meta = (BlueprintSpawnableComponent))
+UCLASS(hidecategories = (Collision, Object, Physics, SceneComponent), ClassGroup = Rendering, editinlinenew,
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API USceneCaptureComponent2D : public USceneCaptureComponent
 {
 	GENERATED_BODY()
@@ -138,7 +139,8 @@ public:
 };
 
 /** Draws the world on all sides into a texture. */
-UCLASS(hidecategories = (Collision, Object, Physics, SceneComponent), ClassGroup = Rendering, editinlinenew, meta = (BlueprintSpawnableComponent))
+UCLASS(hidecategories = (Collision, Object, Physics, SceneComponent), ClassGroup = Rendering, editinlinenew,
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API USceneCaptureComponentCube : public USceneCaptureComponent
 {
 	GENERATED_BODY()

@@ -14,7 +14,8 @@ enum ERelativeTransformSpace : int
 	RTS_ParentBoneSpace UMETA(DisplayName = "Parent Bone Space")
 };
 
-DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(FPhysicsVolumeChanged, USceneComponent, PhysicsVolumeChangedDelegate, APhysicsVolume*, NewVolume);
+DECLARE_DYNAMIC_MULTICAST_SPARSE_DELEGATE_OneParam(
+	FPhysicsVolumeChanged, USceneComponent, PhysicsVolumeChangedDelegate, APhysicsVolume*, NewVolume);
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FIsRootComponentChanged, USceneComponent*, UpdatedComponent, bool, bIsRootComponent);
 
 // Extends native
@@ -25,7 +26,8 @@ class ENGINE_API USceneComponent : public UActorComponent
 
 public:
 	/** Place in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Get World Location", ScriptName = "GetWorldLocation", Keywords = "position"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Get World Location", ScriptName = "GetWorldLocation", Keywords = "position"))
 	FVector K2_GetComponentLocation() const;
 
 	/** Rotation in the world. */
@@ -37,7 +39,8 @@ public:
 	FVector K2_GetComponentScale() const;
 
 	/** The transform from the component's space to the world's. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Get World Transform", ScriptName = "GetWorldTransform"))
+	UFUNCTION(
+		BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Get World Transform", ScriptName = "GetWorldTransform"))
 	FTransform K2_GetComponentToWorld() const;
 
 	/** Direction that the component looks in. */
@@ -77,12 +80,17 @@ public:
 	bool IsVisible() const;
 
 	/** Attaches the component to another. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Attach Component To Component", ScriptName = "AttachToComponent", bWeldSimulatedBodies = true))
-	bool K2_AttachToComponent(USceneComponent* Parent, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule, EAttachmentRule ScaleRule, bool bWeldSimulatedBodies);
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Attach Component To Component", ScriptName = "AttachToComponent", bWeldSimulatedBodies = true))
+	bool K2_AttachToComponent(USceneComponent* Parent, FName SocketName, EAttachmentRule LocationRule, EAttachmentRule RotationRule,
+		EAttachmentRule ScaleRule, bool bWeldSimulatedBodies);
 
 	/** Takes the component from its parent. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Detach From Component", ScriptName = "DetachFromComponent"))
-	void K2_DetachFromComponent(EDetachmentRule LocationRule = EDetachmentRule::KeepRelative, EDetachmentRule RotationRule = EDetachmentRule::KeepRelative, EDetachmentRule ScaleRule = EDetachmentRule::KeepRelative, bool bCallModify = true);
+	UFUNCTION(
+		BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Detach From Component", ScriptName = "DetachFromComponent"))
+	void K2_DetachFromComponent(EDetachmentRule LocationRule = EDetachmentRule::KeepRelative,
+		EDetachmentRule RotationRule = EDetachmentRule::KeepRelative, EDetachmentRule ScaleRule = EDetachmentRule::KeepRelative,
+		bool bCallModify = true);
 
 	/** Component that this one is attached to. */
 	UFUNCTION(BlueprintCallable, Category = "Transformation")
@@ -101,59 +109,81 @@ public:
 	void SetMobility(EComponentMobility::Type NewMobility);
 
 	/** Moves the component to a place in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set World Location", ScriptName = "SetWorldLocation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set World Location", ScriptName = "SetWorldLocation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_SetWorldLocation(FVector NewLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Turns the component in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set World Rotation", ScriptName = "SetWorldRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set World Rotation", ScriptName = "SetWorldRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_SetWorldRotation(FRotator NewRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Moves and turns the component in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set World Location And Rotation", ScriptName = "SetWorldLocationAndRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set World Location And Rotation", ScriptName = "SetWorldLocationAndRotation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_SetWorldLocationAndRotation(FVector NewLocation, FRotator NewRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Sets the transform in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set World Transform", ScriptName = "SetWorldTransform", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set World Transform", ScriptName = "SetWorldTransform", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_SetWorldTransform(const FTransform& NewTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Moves the component in its parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Relative Location", ScriptName = "SetRelativeLocation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Relative Location", ScriptName = "SetRelativeLocation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_SetRelativeLocation(FVector NewLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Turns the component in its parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Relative Rotation", ScriptName = "SetRelativeRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Relative Rotation", ScriptName = "SetRelativeRotation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_SetRelativeRotation(FRotator NewRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Moves and turns the component in its parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Relative Location And Rotation", ScriptName = "SetRelativeLocationAndRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
-	void K2_SetRelativeLocationAndRotation(FVector NewLocation, FRotator NewRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Relative Location And Rotation", ScriptName = "SetRelativeLocationAndRotation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	void K2_SetRelativeLocationAndRotation(
+		FVector NewLocation, FRotator NewRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Sets the transform in the parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Set Relative Transform", ScriptName = "SetRelativeTransform", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Set Relative Transform", ScriptName = "SetRelativeTransform",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_SetRelativeTransform(const FTransform& NewTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a distance in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add World Offset", ScriptName = "AddWorldOffset", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add World Offset", ScriptName = "AddWorldOffset", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddWorldOffset(FVector DeltaLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a rotation in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add World Rotation", ScriptName = "AddWorldRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add World Rotation", ScriptName = "AddWorldRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddWorldRotation(FRotator DeltaRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a distance along the component's own axes. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Local Offset", ScriptName = "AddLocalOffset", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Local Offset", ScriptName = "AddLocalOffset", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddLocalOffset(FVector DeltaLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a rotation around the component's own axes. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Local Rotation", ScriptName = "AddLocalRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Local Rotation", ScriptName = "AddLocalRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddLocalRotation(FRotator DeltaRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a distance in the parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Relative Location", ScriptName = "AddRelativeLocation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Relative Location", ScriptName = "AddRelativeLocation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddRelativeLocation(FVector DeltaLocation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a rotation in the parent's space. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (DisplayName = "Add Relative Rotation", ScriptName = "AddRelativeRotation", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (DisplayName = "Add Relative Rotation", ScriptName = "AddRelativeRotation",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddRelativeRotation(FRotator DeltaRotation, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Puts the component at its parent's place. */
@@ -185,15 +215,19 @@ public:
 	FName GetAttachSocketName() const;
 
 	/** Adds a transform in the world. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (ScriptName = "AddWorldTransform", DisplayName = "Add World Transform", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (ScriptName = "AddWorldTransform", DisplayName = "Add World Transform", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddWorldTransform(const FTransform& DeltaTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a transform in the world without scaling. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (ScriptName = "AddWorldTransformKeepScale", DisplayName = "Add World Transform Keep Scale", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (ScriptName = "AddWorldTransformKeepScale", DisplayName = "Add World Transform Keep Scale",
+			AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddWorldTransformKeepScale(const FTransform& DeltaTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Adds a transform along the component's own axes. */
-	UFUNCTION(BlueprintCallable, Category = "Transformation", meta = (ScriptName = "AddLocalTransform", DisplayName = "Add Local Transform", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
+	UFUNCTION(BlueprintCallable, Category = "Transformation",
+		meta = (ScriptName = "AddLocalTransform", DisplayName = "Add Local Transform", AdvancedDisplay = "bSweep,SweepHitResult,bTeleport"))
 	void K2_AddLocalTransform(const FTransform& DeltaTransform, bool bSweep, FHitResult& SweepHitResult, bool bTeleport);
 
 	/** Names of all sockets. */

@@ -17,7 +17,8 @@ public:
 };
 
 /** A mesh in the world. */
-UCLASS(hidecategories = (Input), showcategories = ("Input|MouseInput", "Input|TouchInput"), ConversionRoot, ComponentWrapperClass, Blueprintable)
+UCLASS(hidecategories = (Input), showcategories = ("Input|MouseInput", "Input|TouchInput"), ConversionRoot, ComponentWrapperClass,
+	Blueprintable)
 class ENGINE_API AStaticMeshActor : public AActor
 {
 	GENERATED_BODY()
@@ -99,7 +100,8 @@ public:
 };
 
 /** A shape in the level. */
-UCLASS(hidecategories = (Object, Collision, Display, Rendering, Physics, Input, Blueprint), showcategories = ("Input|MouseInput", "Input|TouchInput"), NotBlueprintable, ConversionRoot)
+UCLASS(hidecategories = (Object, Collision, Display, Rendering, Physics, Input, Blueprint),
+	showcategories = ("Input|MouseInput", "Input|TouchInput"), NotBlueprintable, ConversionRoot)
 class ENGINE_API ABrush : public AActor
 {
 	GENERATED_BODY()

@@ -132,7 +132,8 @@ public:
 
 	/** Takes the pose of another mesh from now on. */
 	UFUNCTION(BlueprintCallable, Category = "Components|SkinnedMesh")
-	void SetLeaderPoseComponent(USkinnedMeshComponent* NewLeaderBoneComponent, bool bForceUpdate = false, bool bInFollowerShouldTickPose = false);
+	void SetLeaderPoseComponent(
+		USkinnedMeshComponent* NewLeaderBoneComponent, bool bForceUpdate = false, bool bInFollowerShouldTickPose = false);
 
 	/** Sets the capsule indirect shadow min visibility. */
 	UFUNCTION(BlueprintCallable, Category = "Components|SkinnedMesh")
@@ -179,7 +180,8 @@ public:
 	void TransformFromBoneSpace(FName BoneName, FVector InPosition, FRotator InRotation, FVector& OutPosition, FRotator& OutRotation);
 
 	/** The bone that is nearest to a place. */
-	UFUNCTION(BlueprintCallable, Category = "Components|SkinnedMesh", meta = (DisplayName = "Find Closest Bone", ScriptName = "FindClosestBone", Keywords = "FindClosestBone"))
+	UFUNCTION(BlueprintCallable, Category = "Components|SkinnedMesh",
+		meta = (DisplayName = "Find Closest Bone", ScriptName = "FindClosestBone", Keywords = "FindClosestBone"))
 	FName FindClosestBone_K2(FVector TestLocation, FVector& BoneLocation, float IgnoreScale = 0.f, bool bRequirePhysicsAsset = false) const;
 
 	/** Sets the render static. */
@@ -365,7 +367,8 @@ public:
 
 	/** Sets what is played and how. */
 	UFUNCTION(BlueprintCallable, Category = "Animation", meta = (Keywords = "Animation"))
-	void OverrideAnimationData(UAnimationAsset* InAnimToPlay, bool bIsLooping = true, bool bIsPlaying = true, float Position = 0.f, float PlayRate = 1.f);
+	void OverrideAnimationData(
+		UAnimationAsset* InAnimToPlay, bool bIsLooping = true, bool bIsPlaying = true, float Position = 0.f, float PlayRate = 1.f);
 
 	/** Sets the weight of a morph target. */
 	UFUNCTION(BlueprintCallable, Category = "Animation", meta = (UnsafeDuringActorConstruction = "true"))
@@ -434,10 +437,12 @@ public:
 
 	/** Sets the all bodies below physics blend weight. */
 	UFUNCTION(BlueprintCallable, Category = "Animation")
-	void SetAllBodiesBelowPhysicsBlendWeight(const FName& InBoneName, float PhysicsBlendWeight, bool bSkipCustomPhysicsType = false, bool bIncludeSelf = true);
+	void SetAllBodiesBelowPhysicsBlendWeight(
+		const FName& InBoneName, float PhysicsBlendWeight, bool bSkipCustomPhysicsType = false, bool bIncludeSelf = true);
 
 	UFUNCTION(BlueprintCallable, Category = "Animation")
-	void AccumulateAllBodiesBelowPhysicsBlendWeight(const FName& InBoneName, float AddPhysicsBlendWeight, bool bSkipCustomPhysicsType = false);
+	void AccumulateAllBodiesBelowPhysicsBlendWeight(
+		const FName& InBoneName, float AddPhysicsBlendWeight, bool bSkipCustomPhysicsType = false);
 
 	/** Sets the all bodies below linear velocity. */
 	UFUNCTION(BlueprintCallable, Category = "Animation")
@@ -485,8 +490,11 @@ public:
 	FName FindConstraintBoneName(int32 ConstraintIndex);
 
 	/** The closest point on physics asset. */
-	UFUNCTION(BlueprintCallable, Category = "Animation", meta = (DisplayName = "Get Closest Point On Physics Asset", ScriptName = "GetClosestPointOnPhysicsAsset", Keywords = "closest point"))
-	bool K2_GetClosestPointOnPhysicsAsset(const FVector& WorldPosition, FVector& ClosestWorldPosition, FVector& Normal, FName& BoneName, float& Distance) const;
+	UFUNCTION(BlueprintCallable, Category = "Animation",
+		meta = (DisplayName = "Get Closest Point On Physics Asset", ScriptName = "GetClosestPointOnPhysicsAsset",
+			Keywords = "closest point"))
+	bool K2_GetClosestPointOnPhysicsAsset(
+		const FVector& WorldPosition, FVector& ClosestWorldPosition, FVector& Normal, FName& BoneName, float& Distance) const;
 
 	/** Sets the teleport rotation threshold. */
 	UFUNCTION(BlueprintCallable, Category = "Animation")

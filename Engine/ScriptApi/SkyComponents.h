@@ -183,7 +183,8 @@ public:
 };
 
 /** Air of a planet. */
-UCLASS(ClassGroup = Rendering, collapsecategories, hidecategories = (Object, Mobility, Activation), editinlinenew, meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = Rendering, collapsecategories, hidecategories = (Object, Mobility, Activation), editinlinenew,
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API USkyAtmosphereComponent : public USceneComponent
 {
 	GENERATED_BODY()
@@ -278,7 +279,9 @@ public:
 };
 
 /** Light of the sky. */
-UCLASS(ClassGroup = (Lights, SkyLights), hidecategories = (Input, Collision, Replication, Info), showcategories = (Movement, Rendering, "Utilities|Transformation", "Input|MouseInput", "Input|TouchInput"), ComponentWrapperClass, ConversionRoot, Blueprintable)
+UCLASS(ClassGroup = (Lights, SkyLights), hidecategories = (Input, Collision, Replication, Info),
+	showcategories = (Movement, Rendering, "Utilities|Transformation", "Input|MouseInput", "Input|TouchInput"), ComponentWrapperClass,
+	ConversionRoot, Blueprintable)
 class ENGINE_API ASkyLight : public AInfo
 {
 	GENERATED_BODY()

@@ -58,7 +58,8 @@ struct FSplinePoint
 };
 
 /** A curve in the world. */
-UCLASS(ClassGroup = Utility, ShowCategories = (Mobility), HideCategories = (Physics, Collision, Lighting, Rendering, Mobility), meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = Utility, ShowCategories = (Mobility), HideCategories = (Physics, Collision, Lighting, Rendering, Mobility),
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API USplineComponent : public UPrimitiveComponent
 {
 	GENERATED_BODY()
@@ -89,7 +90,8 @@ public:
 
 	/** Adds a point before another. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	void AddSplinePointAtIndex(const FVector& Position, int32 Index, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
+	void AddSplinePointAtIndex(
+		const FVector& Position, int32 Index, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
 
 	/** Takes out a point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
@@ -113,23 +115,28 @@ public:
 
 	/** Sets the location at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	void SetLocationAtSplinePoint(int32 PointIndex, const FVector& InLocation, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
+	void SetLocationAtSplinePoint(
+		int32 PointIndex, const FVector& InLocation, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
 
 	/** Sets the tangent at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	void SetTangentAtSplinePoint(int32 PointIndex, const FVector& InTangent, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
+	void SetTangentAtSplinePoint(
+		int32 PointIndex, const FVector& InTangent, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
 
 	/** Sets the tangents at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	void SetTangentsAtSplinePoint(int32 PointIndex, const FVector& InArriveTangent, const FVector& InLeaveTangent, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
+	void SetTangentsAtSplinePoint(int32 PointIndex, const FVector& InArriveTangent, const FVector& InLeaveTangent,
+		ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
 
 	/** Sets the up vector at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	void SetUpVectorAtSplinePoint(int32 PointIndex, const FVector& InUpVector, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
+	void SetUpVectorAtSplinePoint(
+		int32 PointIndex, const FVector& InUpVector, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
 
 	/** Sets the rotation at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	void SetRotationAtSplinePoint(int32 PointIndex, const FRotator& InRotation, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
+	void SetRotationAtSplinePoint(
+		int32 PointIndex, const FRotator& InRotation, ESplineCoordinateSpace::Type CoordinateSpace, bool bUpdateSpline = true);
 
 	/** Sets the scale at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
@@ -277,7 +284,8 @@ public:
 
 	/** The location and tangent at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	void GetLocationAndTangentAtSplinePoint(int32 PointIndex, FVector& Location, FVector& Tangent, ESplineCoordinateSpace::Type CoordinateSpace) const;
+	void GetLocationAndTangentAtSplinePoint(
+		int32 PointIndex, FVector& Location, FVector& Tangent, ESplineCoordinateSpace::Type CoordinateSpace) const;
 
 	/** The distance along spline at spline point. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
@@ -309,7 +317,8 @@ public:
 
 	/** The transform at distance along spline. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	FTransform GetTransformAtDistanceAlongSpline(float Distance, ESplineCoordinateSpace::Type CoordinateSpace, bool bUseScale = false) const;
+	FTransform GetTransformAtDistanceAlongSpline(
+		float Distance, ESplineCoordinateSpace::Type CoordinateSpace, bool bUseScale = false) const;
 
 	/** The roll at distance along spline. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
@@ -345,7 +354,8 @@ public:
 
 	/** The transform at time. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	FTransform GetTransformAtTime(float Time, ESplineCoordinateSpace::Type CoordinateSpace, bool bUseConstantVelocity = false, bool bUseScale = false) const;
+	FTransform GetTransformAtTime(
+		float Time, ESplineCoordinateSpace::Type CoordinateSpace, bool bUseConstantVelocity = false, bool bUseScale = false) const;
 
 	/** The scale at time. */
 	UFUNCTION(BlueprintCallable, Category = "Spline")
@@ -376,5 +386,6 @@ public:
 	FVector FindRightVectorClosestToWorldLocation(const FVector& WorldLocation, ESplineCoordinateSpace::Type CoordinateSpace) const;
 
 	UFUNCTION(BlueprintCallable, Category = "Spline")
-	FTransform FindTransformClosestToWorldLocation(const FVector& WorldLocation, ESplineCoordinateSpace::Type CoordinateSpace, bool bUseScale = false) const;
+	FTransform FindTransformClosestToWorldLocation(
+		const FVector& WorldLocation, ESplineCoordinateSpace::Type CoordinateSpace, bool bUseScale = false) const;
 };

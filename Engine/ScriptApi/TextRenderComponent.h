@@ -26,7 +26,8 @@ enum EVerticalTextAligment : int
 };
 
 /** A text in the world. */
-UCLASS(ClassGroup = Rendering, hidecategories = (Object, LOD, Physics, TextureStreaming, Activation, "Components|Activation", Collision), meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = Rendering, hidecategories = (Object, LOD, Physics, TextureStreaming, Activation, "Components|Activation", Collision),
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API UTextRenderComponent : public UPrimitiveComponent
 {
 	GENERATED_BODY()
@@ -130,7 +131,9 @@ public:
 };
 
 /** A picture that always faces the camera. */
-UCLASS(ClassGroup = Rendering, collapsecategories, hidecategories = (Object, Activation, "Components|Activation", Physics, Collision, Lighting, Mesh, PhysicsVolume), editinlinenew, meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = Rendering, collapsecategories,
+	hidecategories = (Object, Activation, "Components|Activation", Physics, Collision, Lighting, Mesh, PhysicsVolume), editinlinenew,
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API UBillboardComponent : public UPrimitiveComponent
 {
 	GENERATED_BODY()
@@ -163,14 +166,17 @@ public:
 };
 
 /** Materials that always face the camera. */
-UCLASS(hidecategories = (Object, Activation, "Components|Activation", Physics, Collision, Lighting, Mesh, PhysicsVolume), editinlinenew, ClassGroup = Rendering, meta = (BlueprintSpawnableComponent))
+UCLASS(hidecategories = (Object, Activation, "Components|Activation", Physics, Collision, Lighting, Mesh, PhysicsVolume), editinlinenew,
+	ClassGroup = Rendering, meta = (BlueprintSpawnableComponent))
 class ENGINE_API UMaterialBillboardComponent : public UPrimitiveComponent
 {
 	GENERATED_BODY()
 };
 
 /** An arrow for the editor. */
-UCLASS(ClassGroup = Utility, hidecategories = (Object, LOD, Physics, Lighting, TextureStreaming, Activation, "Components|Activation", Collision, Rendering), editinlinenew, meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = Utility,
+	hidecategories = (Object, LOD, Physics, Lighting, TextureStreaming, Activation, "Components|Activation", Collision, Rendering),
+	editinlinenew, meta = (BlueprintSpawnableComponent))
 class ENGINE_API UArrowComponent : public UPrimitiveComponent
 {
 	GENERATED_BODY()
@@ -219,7 +225,9 @@ public:
 };
 
 /** A material that is laid on surfaces. */
-UCLASS(Blueprintable, ClassGroup = (Rendering, Common), hidecategories = (Collision, Object, Physics, SceneComponent, Activation, "Components|Activation", Mobility), meta = (BlueprintSpawnableComponent))
+UCLASS(Blueprintable, ClassGroup = (Rendering, Common),
+	hidecategories = (Collision, Object, Physics, SceneComponent, Activation, "Components|Activation", Mobility),
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API UDecalComponent : public USceneComponent
 {
 	GENERATED_BODY()
@@ -322,7 +330,9 @@ public:
 };
 
 /** An actor within an actor. */
-UCLASS(ClassGroup = Utility, hidecategories = (Object, LOD, Physics, Lighting, TextureStreaming, Activation, "Components|Activation", Collision), meta = (BlueprintSpawnableComponent))
+UCLASS(ClassGroup = Utility,
+	hidecategories = (Object, LOD, Physics, Lighting, TextureStreaming, Activation, "Components|Activation", Collision),
+	meta = (BlueprintSpawnableComponent))
 class ENGINE_API UChildActorComponent : public USceneComponent
 {
 	GENERATED_BODY()

@@ -223,7 +223,8 @@ public:
 
 	/** Makes a picture that Blueprints draw. */
 	UFUNCTION(BlueprintCallable, Category = "Canvas Render Target 2D", meta = (WorldContext = "WorldContextObject"))
-	static UCanvasRenderTarget2D* CreateCanvasRenderTarget2D(UObject* WorldContextObject, TSubclassOf<UCanvasRenderTarget2D> CanvasRenderTarget2DClass, int32 Width = 1024, int32 Height = 1024);
+	static UCanvasRenderTarget2D* CreateCanvasRenderTarget2D(
+		UObject* WorldContextObject, TSubclassOf<UCanvasRenderTarget2D> CanvasRenderTarget2DClass, int32 Width = 1024, int32 Height = 1024);
 
 	/** Draws the picture. */
 	UFUNCTION(BlueprintImplementableEvent, Category = "Canvas Render Target 2D")

@@ -255,7 +255,8 @@ public:
 	void UnbindAllFromAnimationFinished(UWidgetAnimation* Animation);
 
 	UFUNCTION(BlueprintCallable, Category = "User Interface|Animation")
-	void BindToAnimationEvent(UWidgetAnimation* Animation, FWidgetAnimationDynamicEvent Delegate, EWidgetAnimationEvent AnimationEvent, FName UserTag = NAME_None);
+	void BindToAnimationEvent(UWidgetAnimation* Animation, FWidgetAnimationDynamicEvent Delegate, EWidgetAnimationEvent AnimationEvent,
+		FName UserTag = NAME_None);
 
 	/** An animation begins. */
 	UFUNCTION(BlueprintImplementableEvent, BlueprintCosmetic, Category = "Animation")
@@ -267,11 +268,14 @@ public:
 
 	/** Plays an animation. */
 	UFUNCTION(BlueprintCallable, Category = "User Interface|Animation")
-	UUMGSequencePlayer* PlayAnimation(UWidgetAnimation* InAnimation, float StartAtTime = 0.0f, int32 NumLoopsToPlay = 1, EUMGSequencePlayMode::Type PlayMode = EUMGSequencePlayMode::Forward, float PlaybackSpeed = 1.0f, bool bRestoreState = false);
+	UUMGSequencePlayer* PlayAnimation(UWidgetAnimation* InAnimation, float StartAtTime = 0.0f, int32 NumLoopsToPlay = 1,
+		EUMGSequencePlayMode::Type PlayMode = EUMGSequencePlayMode::Forward, float PlaybackSpeed = 1.0f, bool bRestoreState = false);
 
 	/** Plays a part of an animation. */
 	UFUNCTION(BlueprintCallable, Category = "User Interface|Animation")
-	UUMGSequencePlayer* PlayAnimationTimeRange(UWidgetAnimation* InAnimation, float StartAtTime = 0.0f, float EndAtTime = 0.0f, int32 NumLoopsToPlay = 1, EUMGSequencePlayMode::Type PlayMode = EUMGSequencePlayMode::Forward, float PlaybackSpeed = 1.0f, bool bRestoreState = false);
+	UUMGSequencePlayer* PlayAnimationTimeRange(UWidgetAnimation* InAnimation, float StartAtTime = 0.0f, float EndAtTime = 0.0f,
+		int32 NumLoopsToPlay = 1, EUMGSequencePlayMode::Type PlayMode = EUMGSequencePlayMode::Forward, float PlaybackSpeed = 1.0f,
+		bool bRestoreState = false);
 
 	/** Plays an animation forward from where it is. */
 	UFUNCTION(BlueprintCallable, Category = "User Interface|Animation")

@@ -193,6 +193,10 @@ public:
 	UPROPERTY(BlueprintReadOnly, EditAnywhere, Category = "Layout (Slot)")
 	TObjectPtr<UPanelSlot> Slot;
 
+	/** Whether the Blueprint that holds the widget has it as a variable. */
+	UPROPERTY()
+	bool bIsVariable = true;
+
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, BlueprintGetter = GetIsEnabled, BlueprintSetter = SetIsEnabled, Category = "Behavior")
 	bool bIsEnabled = true;
 

@@ -5,10 +5,13 @@
 #include "SceneComponent.h"
 #include "WidgetComponent.generated.h"
 
-DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnHoveredWidgetChanged, UWidgetComponent*, WidgetComponent, UWidgetComponent*, PreviousWidgetComponent);
+DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(
+	FOnHoveredWidgetChanged, UWidgetComponent*, WidgetComponent, UWidgetComponent*, PreviousWidgetComponent);
 
 /** A widget in the world. */
-UCLASS(Blueprintable, ClassGroup = UserInterface, hidecategories = (Object, Activation, "Components|Activation", Sockets, Base, Lighting, LOD, Mesh), editinlinenew, meta = (BlueprintSpawnableComponent))
+UCLASS(Blueprintable, ClassGroup = UserInterface,
+	hidecategories = (Object, Activation, "Components|Activation", Sockets, Base, Lighting, LOD, Mesh), editinlinenew,
+	meta = (BlueprintSpawnableComponent))
 class UMG_API UWidgetComponent : public UMeshComponent
 {
 	GENERATED_BODY()

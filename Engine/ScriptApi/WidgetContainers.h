@@ -9,6 +9,7 @@ DECLARE_DYNAMIC_MULTICAST_DELEGATE_OneParam(FOnUserScrolledEvent, float, Current
 DECLARE_DYNAMIC_MULTICAST_DELEGATE_TwoParams(FOnExpandableAreaExpansionChanged, UExpandableArea*, Area, bool, bIsExpanded);
 
 /** Widgets that can be scrolled. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UScrollBox : public UPanelWidget
 {
@@ -103,7 +104,8 @@ public:
 	void ScrollToEnd();
 
 	UFUNCTION(BlueprintCallable, Category = "Widget")
-	void ScrollWidgetIntoView(UWidget* WidgetToFind, bool AnimateScroll = true, EDescendantScrollDestination ScrollDestination = EDescendantScrollDestination::IntoView, float Padding = 0);
+	void ScrollWidgetIntoView(UWidget* WidgetToFind, bool AnimateScroll = true,
+		EDescendantScrollDestination ScrollDestination = EDescendantScrollDestination::IntoView, float Padding = 0);
 
 	UFUNCTION(BlueprintCallable, Category = "Scroll")
 	void EndInertialScrolling();
@@ -134,6 +136,7 @@ public:
 };
 
 /** A widget of a set size. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API USizeBox : public UContentWidget
 {
@@ -216,6 +219,7 @@ public:
 };
 
 /** A widget that is scaled to its place. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UScaleBox : public UContentWidget
 {
@@ -252,6 +256,7 @@ public:
 };
 
 /** A widget with a background. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UBorder : public UContentWidget
 {
@@ -322,6 +327,7 @@ public:
 };
 
 /** Blurs what is behind a widget. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UBackgroundBlur : public UContentWidget
 {
@@ -345,6 +351,7 @@ public:
 };
 
 /** Keeps a widget where every screen shows it. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API USafeZone : public UContentWidget
 {
@@ -399,6 +406,7 @@ public:
 };
 
 /** A place that users of a widget fill. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UNamedSlot : public UContentWidget
 {

@@ -37,12 +37,15 @@ public:
 	UPROPERTY(BlueprintAssignable, Category = "Drag and Drop")
 	FOnDragDropMulticast OnDragged;
 
+	/** When it is dropped on something that takes it. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Drag and Drop")
 	void Drop(const FPointerEvent& PointerEvent);
 
+	/** When it is dropped where nothing takes it. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Drag and Drop")
 	void DragCancelled(const FPointerEvent& PointerEvent);
 
+	/** While it is dragged along. */
 	UFUNCTION(BlueprintNativeEvent, BlueprintCallable, Category = "Drag and Drop")
 	void Dragged(const FPointerEvent& PointerEvent);
 };

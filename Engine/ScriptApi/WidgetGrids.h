@@ -5,6 +5,7 @@
 #include "WidgetGrids.generated.h"
 
 /** Widgets in rows and columns of their own sizes. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UGridPanel : public UPanelWidget
 {
@@ -90,6 +91,7 @@ public:
 };
 
 /** Widgets in rows and columns of one size. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UUniformGridPanel : public UPanelWidget
 {
@@ -153,6 +155,7 @@ public:
 };
 
 /** Widgets in lines that break. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UWrapBox : public UPanelWidget
 {

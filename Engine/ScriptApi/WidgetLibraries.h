@@ -21,11 +21,13 @@ public:
 
 	/** Only widgets get input. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (DisplayName = "Set Input Mode UI Only"))
-	static void SetInputMode_UIOnlyEx(APlayerController* PlayerController, UWidget* InWidgetToFocus = nullptr, EMouseLockMode InMouseLockMode = EMouseLockMode::DoNotLock, const bool bFlushInput = false);
+	static void SetInputMode_UIOnlyEx(APlayerController* PlayerController, UWidget* InWidgetToFocus = nullptr,
+		EMouseLockMode InMouseLockMode = EMouseLockMode::DoNotLock, const bool bFlushInput = false);
 
 	/** Widgets get input, then the game. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (DisplayName = "Set Input Mode Game And UI"))
-	static void SetInputMode_GameAndUIEx(APlayerController* PlayerController, UWidget* InWidgetToFocus = nullptr, EMouseLockMode InMouseLockMode = EMouseLockMode::DoNotLock, bool bHideCursorDuringCapture = true, const bool bFlushInput = false);
+	static void SetInputMode_GameAndUIEx(APlayerController* PlayerController, UWidget* InWidgetToFocus = nullptr,
+		EMouseLockMode InMouseLockMode = EMouseLockMode::DoNotLock, bool bHideCursorDuringCapture = true, const bool bFlushInput = false);
 
 	/** Only the game gets input. */
 	UFUNCTION(BlueprintCallable, Category = "Input", meta = (DisplayName = "Set Input Mode Game Only"))
@@ -37,15 +39,18 @@ public:
 
 	/** Draws a rectangle. */
 	UFUNCTION(BlueprintCallable, Category = "Painting")
-	static void DrawBox(FPaintContext& Context, FVector2D Position, FVector2D Size, USlateBrushAsset* Brush, FLinearColor Tint = FLinearColor::White);
+	static void DrawBox(
+		FPaintContext& Context, FVector2D Position, FVector2D Size, USlateBrushAsset* Brush, FLinearColor Tint = FLinearColor::White);
 
 	/** Draws a line. */
 	UFUNCTION(BlueprintCallable, Category = "Painting")
-	static void DrawLine(FPaintContext& Context, FVector2D PositionA, FVector2D PositionB, FLinearColor Tint = FLinearColor::White, bool bAntiAlias = true, float Thickness = 1.0f);
+	static void DrawLine(FPaintContext& Context, FVector2D PositionA, FVector2D PositionB, FLinearColor Tint = FLinearColor::White,
+		bool bAntiAlias = true, float Thickness = 1.0f);
 
 	/** Draws lines. */
 	UFUNCTION(BlueprintCallable, Category = "Painting")
-	static void DrawLines(FPaintContext& Context, const TArray<FVector2D>& Points, FLinearColor Tint = FLinearColor::White, bool bAntiAlias = true, float Thickness = 1.0f);
+	static void DrawLines(FPaintContext& Context, const TArray<FVector2D>& Points, FLinearColor Tint = FLinearColor::White,
+		bool bAntiAlias = true, float Thickness = 1.0f);
 
 	/** Draws a text. */
 	UFUNCTION(BlueprintCallable, Category = "Painting", meta = (DeprecatedFunction))
@@ -53,7 +58,8 @@ public:
 
 	/** Draws a text. */
 	UFUNCTION(BlueprintCallable, Category = "Painting", meta = (DisplayName = "Draw Text"))
-	static void DrawTextFormatted(FPaintContext& Context, const FText& Text, FVector2D Position, UFont* Font, float FontSize = 16.0f, FName FontTypeFace = FName(TEXT("Regular")), FLinearColor Tint = FLinearColor::White);
+	static void DrawTextFormatted(FPaintContext& Context, const FText& Text, FVector2D Position, UFont* Font, float FontSize = 16.0f,
+		FName FontTypeFace = FName(TEXT("Regular")), FLinearColor Tint = FLinearColor::White);
 
 	/** The event was taken. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply")
@@ -63,15 +69,19 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply")
 	static FEventReply Unhandled();
 
+	/** Has the widget get all that the mouse does, until it lets go. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply", meta = (DefaultToSelf = "CapturingWidget"))
 	static FEventReply CaptureMouse(UPARAM(ref) FEventReply& Reply, UWidget* CapturingWidget);
 
+	/** Lets go of the mouse. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply")
 	static FEventReply ReleaseMouseCapture(UPARAM(ref) FEventReply& Reply);
 
+	/** Keeps the mouse within the widget. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply", meta = (DefaultToSelf = "CapturingWidget"))
 	static FEventReply LockMouse(UPARAM(ref) FEventReply& Reply, UWidget* CapturingWidget);
 
+	/** Lets the mouse leave the widget again. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply")
 	static FEventReply UnlockMouse(UPARAM(ref) FEventReply& Reply);
 
@@ -79,6 +89,7 @@ public:
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply", meta = (DefaultToSelf = "FocusWidget"))
 	static FEventReply SetUserFocus(UPARAM(ref) FEventReply& Reply, UWidget* FocusWidget, bool bInAllUsers = false);
 
+	/** Takes the focus from the widget that has it. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Event Reply")
 	static FEventReply ClearUserFocus(UPARAM(ref) FEventReply& Reply, bool bInAllUsers = false);
 
@@ -94,6 +105,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Widget|Drag and Drop|Event Reply", meta = (DefaultToSelf = "WidgetDetectingDrag"))
 	static FEventReply DetectDragIfPressed(const FPointerEvent& PointerEvent, UWidget* WidgetDetectingDrag, FKey DragKey);
 
+	/** Ends what is being dragged. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Drag and Drop|Event Reply")
 	static FEventReply EndDragDrop(UPARAM(ref) FEventReply& Reply);
 
@@ -150,36 +162,45 @@ public:
 	static void DismissAllMenus();
 
 	/** All widgets of a class. */
-	UFUNCTION(BlueprintCallable, Category = "Widget", meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "WidgetClass", DynamicOutputParam = "FoundWidgets"))
-	static void GetAllWidgetsOfClass(UObject* WorldContextObject, TArray<UUserWidget*>& FoundWidgets, TSubclassOf<UUserWidget> WidgetClass, bool TopLevelOnly = true);
+	UFUNCTION(BlueprintCallable, Category = "Widget",
+		meta = (WorldContext = "WorldContextObject", DeterminesOutputType = "WidgetClass", DynamicOutputParam = "FoundWidgets"))
+	static void GetAllWidgetsOfClass(
+		UObject* WorldContextObject, TArray<UUserWidget*>& FoundWidgets, TSubclassOf<UUserWidget> WidgetClass, bool TopLevelOnly = true);
 
 	/** All widgets that have an interface. */
 	UFUNCTION(BlueprintCallable, Category = "Widget", meta = (WorldContext = "WorldContextObject"))
-	static void GetAllWidgetsWithInterface(UObject* WorldContextObject, TArray<UUserWidget*>& FoundWidgets, TSubclassOf<UInterface> Interface, bool TopLevelOnly);
+	static void GetAllWidgetsWithInterface(
+		UObject* WorldContextObject, TArray<UUserWidget*>& FoundWidgets, TSubclassOf<UInterface> Interface, bool TopLevelOnly);
 
 	/** The input event from key event. */
-	UFUNCTION(BlueprintPure, Category = "Widget", meta = (DisplayName = "To Input Event (KeyEvent)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(
+		BlueprintPure, Category = "Widget", meta = (DisplayName = "To Input Event (KeyEvent)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FInputEvent GetInputEventFromKeyEvent(const FKeyEvent& Event);
 
 	/** The key event from analog input event. */
-	UFUNCTION(BlueprintPure, Category = "Widget", meta = (DisplayName = "To Key Event (Analog Input Event)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Widget",
+		meta = (DisplayName = "To Key Event (Analog Input Event)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FKeyEvent GetKeyEventFromAnalogInputEvent(const FAnalogInputEvent& Event);
 
 	/** The input event from character event. */
-	UFUNCTION(BlueprintPure, Category = "Widget", meta = (DisplayName = "To Input Event (Character Event)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Widget",
+		meta = (DisplayName = "To Input Event (Character Event)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FInputEvent GetInputEventFromCharacterEvent(const FCharacterEvent& Event);
 
 	/** The input event from pointer event. */
-	UFUNCTION(BlueprintPure, Category = "Widget", meta = (DisplayName = "To Input Event (Pointer Event)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Widget",
+		meta = (DisplayName = "To Input Event (Pointer Event)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FInputEvent GetInputEventFromPointerEvent(const FPointerEvent& Event);
 
 	/** The input event from navigation event. */
-	UFUNCTION(BlueprintPure, Category = "Widget", meta = (DisplayName = "To Input Event (Navigation Event)", CompactNodeTitle = "->", BlueprintAutocast))
+	UFUNCTION(BlueprintPure, Category = "Widget",
+		meta = (DisplayName = "To Input Event (Navigation Event)", CompactNodeTitle = "->", BlueprintAutocast))
 	static FInputEvent GetInputEventFromNavigationEvent(const FNavigationEvent& Event);
 
 	/** The safe zone padding. */
 	UFUNCTION(BlueprintPure, Category = "Widget|Safe Zone", meta = (WorldContext = "WorldContextObject"))
-	static void GetSafeZonePadding(UObject* WorldContextObject, FVector4& SafePadding, FVector2D& SafePaddingScale, FVector4& SpillOverPadding);
+	static void GetSafeZonePadding(
+		UObject* WorldContextObject, FVector4& SafePadding, FVector2D& SafePaddingScale, FVector4& SpillOverPadding);
 
 	/** Sets the hardware cursor. */
 	UFUNCTION(BlueprintCallable, Category = "Widget|Hardware Cursor", meta = (WorldContext = "WorldContextObject"))
@@ -187,7 +208,8 @@ public:
 
 	/** Sets the color vision deficiency type. */
 	UFUNCTION(BlueprintCallable, Category = "Widget|Accessibility")
-	static void SetColorVisionDeficiencyType(EColorVisionDeficiency Type, float Severity, bool CorrectDeficiency, bool ShowCorrectionWithDeficiency);
+	static void SetColorVisionDeficiencyType(
+		EColorVisionDeficiency Type, float Severity, bool CorrectDeficiency, bool ShowCorrectionWithDeficiency);
 };
 
 /** Places and sizes of widgets. */
@@ -199,7 +221,8 @@ class UMG_API UWidgetLayoutLibrary : public UBlueprintFunctionLibrary
 public:
 	/** Place on the screen, for widgets, of a point of the world. */
 	UFUNCTION(BlueprintPure, Category = "Viewport")
-	static bool ProjectWorldLocationToWidgetPosition(APlayerController* PlayerController, FVector WorldLocation, FVector2D& ScreenPosition, bool bPlayerViewportRelative);
+	static bool ProjectWorldLocationToWidgetPosition(
+		APlayerController* PlayerController, FVector WorldLocation, FVector2D& ScreenPosition, bool bPlayerViewportRelative);
 
 	/** The viewport scale. */
 	UFUNCTION(BlueprintPure, Category = "Viewport", meta = (WorldContext = "WorldContextObject"))
@@ -315,20 +338,25 @@ public:
 
 	/** Place on the screen of one on a widget. */
 	UFUNCTION(BlueprintPure, Category = "User Interface|Geometry", meta = (WorldContext = "WorldContextObject"))
-	static void LocalToViewport(UObject* WorldContextObject, const FGeometry& Geometry, FVector2D LocalCoordinate, FVector2D& PixelPosition, FVector2D& ViewportPosition);
+	static void LocalToViewport(UObject* WorldContextObject, const FGeometry& Geometry, FVector2D LocalCoordinate, FVector2D& PixelPosition,
+		FVector2D& ViewportPosition);
 
 	UFUNCTION(BlueprintPure, Category = "User Interface|Geometry", meta = (WorldContext = "WorldContextObject"))
-	static void AbsoluteToViewport(UObject* WorldContextObject, FVector2D AbsoluteDesktopCoordinate, FVector2D& PixelPosition, FVector2D& ViewportPosition);
+	static void AbsoluteToViewport(
+		UObject* WorldContextObject, FVector2D AbsoluteDesktopCoordinate, FVector2D& PixelPosition, FVector2D& ViewportPosition);
 
 	UFUNCTION(BlueprintPure, Category = "User Interface|Geometry", meta = (WorldContext = "WorldContextObject"))
-	static void ScreenToWidgetLocal(UObject* WorldContextObject, const FGeometry& Geometry, FVector2D ScreenPosition, FVector2D& LocalCoordinate, bool bIncludeWindowPosition = false);
+	static void ScreenToWidgetLocal(UObject* WorldContextObject, const FGeometry& Geometry, FVector2D ScreenPosition,
+		FVector2D& LocalCoordinate, bool bIncludeWindowPosition = false);
 
 	UFUNCTION(BlueprintPure, Category = "User Interface|Geometry", meta = (WorldContext = "WorldContextObject"))
-	static void ScreenToWidgetAbsolute(UObject* WorldContextObject, FVector2D ScreenPosition, FVector2D& AbsoluteCoordinate, bool bIncludeWindowPosition = false);
+	static void ScreenToWidgetAbsolute(
+		UObject* WorldContextObject, FVector2D ScreenPosition, FVector2D& AbsoluteCoordinate, bool bIncludeWindowPosition = false);
 
 	UFUNCTION(BlueprintPure, Category = "User Interface|Geometry", meta = (WorldContext = "WorldContextObject"))
 	static void ScreenToViewport(UObject* WorldContextObject, FVector2D ScreenPosition, FVector2D& ViewportPosition);
 
-	UFUNCTION(BlueprintPure, Category = "SlateBrush", meta = (DisplayName = "Equal (SlateBrush)", CompactNodeTitle = "==", Keywords = "== equal"))
+	UFUNCTION(
+		BlueprintPure, Category = "SlateBrush", meta = (DisplayName = "Equal (SlateBrush)", CompactNodeTitle = "==", Keywords = "== equal"))
 	static bool EqualEqual_SlateBrush(const FSlateBrush& A, const FSlateBrush& B);
 };

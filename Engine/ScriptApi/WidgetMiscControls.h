@@ -110,6 +110,7 @@ public:
 };
 
 /** Empty place. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API USpacer : public UWidget
 {

@@ -87,6 +87,7 @@ public:
 };
 
 /** Widgets at any places. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UCanvasPanel : public UPanelWidget
 {
@@ -188,6 +189,7 @@ public:
 };
 
 /** Widgets one over the other. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UOverlay : public UPanelWidget
 {
@@ -200,6 +202,7 @@ public:
 };
 
 /** Widgets in a row. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UHorizontalBox : public UPanelWidget
 {
@@ -212,6 +215,7 @@ public:
 };
 
 /** Widgets in a column. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UVerticalBox : public UPanelWidget
 {

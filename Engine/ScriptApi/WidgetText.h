@@ -32,6 +32,7 @@ public:
 };
 
 /** A text. */
+// Initially: bIsVariable = false
 UCLASS()
 class UMG_API UTextBlock : public UTextLayoutWidget
 {

@@ -173,6 +173,27 @@ TEST_F(FScriptHeaders, EveryContinuationsInitialValuesCount)
 	}
 }
 
+TEST_F(FScriptHeaders, AnInheritedMemberStartsAsTheDirectiveSays)
+{
+	const FScriptHeaderReport Report = LoadText(
+		"// Package: /Script/HeaderTestInherited\n"
+		"UCLASS()\nclass UInheritedBase : public UObject\n{\n\tGENERATED_BODY()\n\tUPROPERTY() int32 Value = 1;\n};\n"
+		"// Initially: Value = 2\nUCLASS()\nclass UInheritedChild : public UInheritedBase\n{\n\tGENERATED_BODY()\n};\n"
+		"UCLASS()\nclass UInheritedGrandchild : public UInheritedChild\n{\n\tGENERATED_BODY()\n};\n"
+		"// Initially: Nothing = 2\nUCLASS()\nclass UInheritedMistake : public UInheritedBase\n{\n\tGENERATED_BODY()\n};\n");
+	ASSERT_EQ(Report.Errors.Num(), 1);
+	EXPECT_TRUE(Report.Errors[0].Contains(TEXT("Nothing"))) << TCHAR_TO_UTF8(*Report.Errors[0]);
+	const std::pair<const TCHAR*, int32> Expected[] = {
+		{TEXT("InheritedBase"), 1}, {TEXT("InheritedChild"), 2}, {TEXT("InheritedGrandchild"), 2}, {TEXT("InheritedMistake"), 1}};
+	for (const auto& [Name, Value] : Expected)
+	{
+		const UClass* const Class = FindObject<UClass>(nullptr, *(FString(TEXT("/Script/HeaderTestInherited.")) + Name));
+		ASSERT_NE(Class, nullptr);
+		const FIntProperty* const Property = FindFProperty<FIntProperty>(Class, TEXT("Value"));
+		EXPECT_EQ(*Property->ContainerPtrToValuePtr<int32>(Class->GetDefaultObject()), Value);
+	}
+}
+
 TEST_F(FScriptHeaders, AMistakeInAContinuationsInitialValueNamesItsFile)
 {
 	const FScriptHeaderReport Report = LoadTexts({"// Package: /Script/HeaderTestMistake\nUCLASS()\nclass UMistaken : public UObject\n{\n"

@@ -193,7 +193,17 @@ TEST(Parser, DirectivesNameThePackageAndExtendNativeClasses)
 	EXPECT_TRUE(Header.Classes.at(0).bExtendsNative);
 	EXPECT_EQ(MetaValue(Header.Classes[0].MetaData, "ToolTip"), "The actor.");
 	EXPECT_FALSE(Header.Classes[0].bContinues);
+	EXPECT_FALSE(Header.Classes[0].InheritedDefault.has_value());
 	EXPECT_TRUE(Parse("// Continues\nUCLASS()\nclass AActor : public UObject\n{\n};").Classes.at(0).bContinues);
+}
+
+TEST(Parser, ADirectiveGivesAnInheritedMemberAnotherStart)
+{
+	const FHeader Header = Parse("/** A text. */\n// Initially: bShown = false\nUCLASS()\nclass UText : public UPart\n{\n};");
+	ASSERT_TRUE(Header.Classes.at(0).InheritedDefault.has_value());
+	EXPECT_EQ(Header.Classes[0].InheritedDefault->first, "bShown");
+	EXPECT_EQ(Header.Classes[0].InheritedDefault->second, "false");
+	EXPECT_EQ(MetaValue(Header.Classes[0].MetaData, "ToolTip"), "A text.");
 }
 
 TEST(Parser, PreprocessorConditionsChooseWhatIsRead)

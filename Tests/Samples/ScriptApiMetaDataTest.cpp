@@ -2,6 +2,7 @@
 
 #include "EdGraphSchema_K2.h"
 #include "EditorFixture.h"
+#include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectIterator.h"
 #include "UObject/UnrealType.h"
@@ -24,7 +25,8 @@ void ForEachFunction(const std::function<void(const UFunction*, const FFunctionD
 			const UClass* const Reflected = FindDeclaredClass(Header.Header, Class.Name);
 			for (const FFunctionDeclaration& Function : Class.Functions)
 			{
-				const UFunction* const Found = Reflected ? Reflected->FindFunctionByName(FName(UTF8_TO_TCHAR(Function.Name.c_str()))) : nullptr;
+				const UFunction* const Found = Reflected ? Reflected->FindFunctionByName(FName(UTF8_TO_TCHAR(Function.Name.c_str())))
+														 : nullptr;
 				const std::string Line = Header.Path.filename().string() + ":" + std::to_string(Function.Position.Line);
 				const std::string Where = Line + ": " + Class.Name + "::" + Function.Name;
 				ASSERT_TRUE(Found) << Where;
@@ -43,6 +45,34 @@ TArray<FString> SplitNames(const FString& List)
 		Name.TrimStartAndEndInline();
 	}
 	return Names;
+}
+
+TEST_F(FScriptApiMetaDataTest, EveryEventAndEveryMemberOfACompiledClassSaysWhatItIs)
+{
+	int32 NumEvents = 0;
+	for (TObjectIterator<UFunction> Function; Function; ++Function)
+	{
+		const UClass* const Class = Function->GetOwnerClass();
+		const bool bIsOurs = Class && Class->HasAnyClassFlags(CLASS_Native) && Class->GetOutermost()->GetName() == TEXT("/Script/Engine");
+		const bool bIsEvent = bIsOurs && Function->HasAnyFunctionFlags(FUNC_BlueprintEvent);
+		NumEvents += bIsEvent ? 1 : 0;
+		if (bIsEvent && Function->GetMetaData(TEXT("ToolTip")).IsEmpty())
+		{
+			ADD_FAILURE() << TCHAR_TO_UTF8(*Function->GetPathName());
+		}
+	}
+	EXPECT_GT(NumEvents, 50);
+	for (const TCHAR* const Path :
+		{TEXT("/Script/Engine.Actor"), TEXT("/Script/Engine.ActorComponent"), TEXT("/Script/Engine.SceneComponent")})
+	{
+		const UClass* const Class = FindObject<UClass>(nullptr, Path);
+		for (TFieldIterator<UFunction> Function(Class, EFieldIterationFlags::None); Function; ++Function)
+		{
+			const bool bIsInternal = Function->HasMetaData(FBlueprintMetadata::MD_BlueprintInternalUseOnly) ||
+				Function->HasAnyFunctionFlags(FUNC_Delegate);
+			EXPECT_TRUE(bIsInternal || !Function->GetMetaData(TEXT("ToolTip")).IsEmpty()) << TCHAR_TO_UTF8(*Function->GetPathName());
+		}
+	}
 }
 
 TEST_F(FScriptApiMetaDataTest, NamesParametersThatAreThere)
@@ -101,7 +131,8 @@ TEST_F(FScriptApiMetaDataTest, EveryDefaultArgumentIsAGoodDefaultOfItsPin)
 		for (const FPropertyDeclaration& Parameter : Declaration.Parameters)
 		{
 			const std::string* const Default = Declaration.MetaData.Find("CPP_Default_" + Parameter.Name);
-			EXPECT_EQ(Default != nullptr, !Parameter.DefaultText.empty()) << Where << ", " << Parameter.Name << " = " << Parameter.DefaultText;
+			EXPECT_EQ(Default != nullptr, !Parameter.DefaultText.empty())
+				<< Where << ", " << Parameter.Name << " = " << Parameter.DefaultText;
 			const FProperty* const Property = Function->FindPropertyByName(FName(UTF8_TO_TCHAR(Parameter.Name.c_str())));
 			FEdGraphPinType PinType;
 			if (!Default || !Property || !Schema->ConvertPropertyToPinType(Property, PinType))

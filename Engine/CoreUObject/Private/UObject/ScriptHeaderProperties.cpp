@@ -121,21 +121,25 @@ void FScriptHeaderTypes::ReadDefaults(FDeclaredDefaults& Defaults, const TArray<
 	{
 		const FProperty* const Property =
 			Next < Added.Num() && Added[Next]->GetFName() == ToName(Declaration.Name) ? Added[Next++] : nullptr;
-		if (!Property || Declaration.DefaultText.empty())
+		if (Property && !Declaration.DefaultText.empty())
 		{
-			continue;
+			ReadDefault(Defaults, *Property, Declaration.DefaultText, Source, Declaration.Position);
 		}
-		void* const Value = Property->AllocateAndInitializeValue();
-		if (FInitialiserReader(ToText(Declaration.DefaultText)).Read(Property, Value))
-		{
-			Defaults.Add(Property, Value);
-			continue;
-		}
-		Property->DestroyAndFreeValue(Value);
-		AddError(Source, Declaration.Position,
-			FString::Printf(TEXT("the initial value of %s is not understood, so it is zero: %s"), *Property->GetName(),
-				*ToText(Declaration.DefaultText)));
 	}
+}
+
+void FScriptHeaderTypes::ReadDefault(
+	FDeclaredDefaults& Defaults, const FProperty& Property, const std::string& Text, const FSource& Source, const FPosition& Position)
+{
+	void* const Value = Property.AllocateAndInitializeValue();
+	if (FInitialiserReader(ToText(Text)).Read(&Property, Value))
+	{
+		Defaults.Add(&Property, Value);
+		return;
+	}
+	Property.DestroyAndFreeValue(Value);
+	AddError(Source, Position,
+		FString::Printf(TEXT("the initial value of %s is not understood, so it is zero: %s"), *Property.GetName(), *ToText(Text)));
 }
 
 bool FScriptHeaderTypes::Describe(const FTypeReference& Type, FPropertyDescription& Out, const FSource& Source, const FPosition& Position)

@@ -428,6 +428,18 @@ TArray<TArray<FProperty*>> FScriptHeaderTypes::AddClassProperties(FClassInProgre
 void FScriptHeaderTypes::ReadClassDefaults(FClassInProgress& Class, const TArray<TArray<FProperty*>>& Added)
 {
 	TUniquePtr<FDeclaredDefaults> Defaults = MakeUnique<FDeclaredDefaults>();
+	if (const auto& Inherited = Class.Declaration->InheritedDefault)
+	{
+		const FProperty* const Property = Class.Class->FindPropertyByName(ToName(Inherited->first));
+		if (Property)
+		{
+			ReadDefault(*Defaults, *Property, Inherited->second, *Class.Source, Class.Declaration->Position);
+		}
+		else
+		{
+			AddError(*Class.Source, Class.Declaration->Position, FString::Printf(TEXT("there is no member %s to inherit"), *ToText(Inherited->first)));
+		}
+	}
 	ReadDefaults(*Defaults, Added[0], Class.Declaration->Properties, *Class.Source);
 	int32 Index = 0;
 	for (const TDeclared<FClassDeclaration>& Continuation : Class.Continuations)

@@ -69,6 +69,8 @@ private:
 	/** Initial values of members just added, in the order of their declarations. The struct is linked. */
 	void ReadDefaults(FDeclaredDefaults& Defaults, const TArray<FProperty*>& Added,
 		const std::vector<HeaderParser::FPropertyDeclaration>& Declarations, const FSource& Source);
+	void ReadDefault(FDeclaredDefaults& Defaults, const FProperty& Property, const std::string& Text, const FSource& Source,
+		const HeaderParser::FPosition& Position);
 	bool Describe(const HeaderParser::FTypeReference& Type, FPropertyDescription& Out, const FSource& Source,
 		const HeaderParser::FPosition& Position);
 	/** What a struct's, an enum's or a delegate's name means as a member's type. */

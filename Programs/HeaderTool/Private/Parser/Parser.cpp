@@ -17,6 +17,17 @@ bool IsApiMacro(const FToken& Token)
 	return Token.IsIdentifier() && Token.Text.size() > 4 && Token.Text.substr(Token.Text.size() - 4) == "_API";
 }
 
+/** The name and the value of "bName = Value"; nothing when the text has no such form. */
+std::optional<std::pair<std::string, std::string>> ReadInheritedDefault(const std::optional<std::string>& Text)
+{
+	const size_t Equals = Text ? Text->find(" = ") : std::string::npos;
+	if (Equals == std::string::npos)
+	{
+		return std::nullopt;
+	}
+	return std::pair(Text->substr(0, Equals), Text->substr(Equals + 3));
+}
+
 /** What a class or struct body gives, for whoever it belongs to. */
 struct FBody
 {
@@ -203,6 +214,7 @@ private:
 		Class.bInterface = bInterface;
 		Class.bExtendsNative = FindDirective(Cursor, Macro, "Extends native").has_value();
 		Class.bContinues = FindDirective(Cursor, Macro, "Continues").has_value();
+		Class.InheritedDefault = ReadInheritedDefault(FindDirective(Cursor, Macro, "Initially"));
 		bool bApi = false;
 		std::vector<std::string> Bases;
 		if (!ParseSpecifiers(Cursor, Class.Specifiers) || !ReadTypeName("class", Class.Name, Class.Position, bApi) || !ReadBases(Bases))

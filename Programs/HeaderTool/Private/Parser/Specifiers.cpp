@@ -148,7 +148,7 @@ size_t IndentOf(const std::string_view Line) { return std::min(Line.find_first_n
 bool IsDirective(const std::string_view Comment)
 {
 	const std::string_view Text = TrimLeft(Comment.substr(2));
-	return Text.substr(0, 8) == "Package:" || TrimRight(Text) == "Extends native";
+	return Text.substr(0, 8) == "Package:" || Text.substr(0, 10) == "Initially:" || TrimRight(Text) == "Extends native";
 }
 
 /** The comment lines that speak of the token: the last block comment, or the last unbroken run of line comments. */

@@ -270,6 +270,8 @@ struct FClassDeclaration
 	bool bExtendsNative = false;
 	/** `// Continues` stands before the declaration: its members belong to the class of the same name in another header. */
 	bool bContinues = false;
+	/** From `// Initially: bName = Value` before the declaration: an inherited member and the C++ text of the value that it starts with here. */
+	std::optional<std::pair<std::string, std::string>> InheritedDefault;
 	bool bDeclaresPureVirtual = false;
 	bool bDeclaresAddReferencedObjects = false;
 	int32_t BodyLine = 0;
