@@ -46,9 +46,15 @@ void UK2Node_Switch::CreateFunctionPin()
 void UK2Node_Switch::CreateCasePins()
 {
 	const TArray<FName>* const Cases = GetNamedCases();
-	for (int32 Index = 0; Cases && Index < Cases->Num(); ++Index)
+	if (!Cases)
 	{
-		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, (*Cases)[Index]);
+		return;
+	}
+	// Text of another host may list more names than values, or fewer.
+	SetNumCaseValues(Cases->Num());
+	for (const FName Case : *Cases)
+	{
+		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, Case);
 	}
 }
 
@@ -67,15 +73,19 @@ void UK2Node_Switch::AddPinToSwitchNode()
 		Name = FName(*FString::Printf(TEXT("Case_%d"), Index++));
 	} while (Cases->Contains(Name));
 	Cases->Add(Name);
+	SetNumCaseValues(Cases->Num());
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, Name);
 }
 
 void UK2Node_Switch::RemovePinFromSwitchNode(UEdGraphPin* TargetPin)
 {
 	Modify();
-	if (TArray<FName>* const Cases = GetNamedCases())
+	TArray<FName>* const Cases = GetNamedCases();
+	const int32 Case = Cases ? Cases->IndexOfByKey(TargetPin->PinName) : INDEX_NONE;
+	if (Case != INDEX_NONE)
 	{
-		Cases->Remove(TargetPin->PinName);
+		Cases->RemoveAt(Case);
+		RemoveCaseValue(Case);
 	}
 	RemovePin(TargetPin);
 }

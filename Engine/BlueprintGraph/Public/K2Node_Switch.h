@@ -37,6 +37,9 @@ protected:
 	virtual void CreateCasePins();
 	/** The names that a user gave the cases; null where the cases are not named. */
 	virtual TArray<FName>* GetNamedCases() { return nullptr; }
+	/** For cases that have values beside their names: there are as many values as names from now on. */
+	virtual void SetNumCaseValues(int32 Num) {}
+	virtual void RemoveCaseValue(int32 Index) {}
 	void CreateFunctionPin();
 	/** A library that has comparison functions. */
 	void SetComparison(const TCHAR* ClassPath, FName InFunctionName);

@@ -9,7 +9,8 @@ void UK2Node_SetCameraRigParameters::AllocateDefaultPins()
 {
 	CreateExecPin();
 	CreateThenPin();
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/GameplayCameras.BlueprintCameraEvaluationDataRef")), TEXT("CameraData"));
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct,
+		FindObject<UScriptStruct>(nullptr, TEXT("/Script/GameplayCameras.BlueprintCameraEvaluationDataRef")), TEXT("CameraData"));
 }
 
 FText UK2Node_SetCameraRigParameters::GetNodeTitle(ENodeTitleType::Type TitleType) const

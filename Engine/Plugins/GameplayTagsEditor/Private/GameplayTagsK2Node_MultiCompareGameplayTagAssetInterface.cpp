@@ -8,7 +8,8 @@
 
 void UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterface::CreateOwnerPin()
 {
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Interface, FindObject<UClass>(nullptr, TEXT("/Script/GameplayTags.GameplayTagAssetInterface")), TEXT("Tagged Object"));
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Interface,
+		FindObject<UClass>(nullptr, TEXT("/Script/GameplayTags.GameplayTagAssetInterface")), TEXT("Tagged Object"));
 }
 
 UScriptStruct* UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterface::GetCaseStruct() const

@@ -18,7 +18,8 @@ FText UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterfaceSingleTags::GetNo
 
 FText UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterfaceSingleTags::GetTooltipText() const
 {
-	return LOCTEXT("GameplayTagsMultiCompareGameplayTagAssetInterfaceSingleTags_Tooltip", "Checks the tags of an object against several tags.");
+	return LOCTEXT(
+		"GameplayTagsMultiCompareGameplayTagAssetInterfaceSingleTags_Tooltip", "Checks the tags of an object against several tags.");
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -16,29 +16,6 @@ void UGameplayTagsK2Node_SwitchGameplayTag::CreateSelectionPin()
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, FGameplayTag::StaticStruct(), TEXT("Selection"));
 }
 
-void UGameplayTagsK2Node_SwitchGameplayTag::CreateCasePins()
-{
-	// Text of another host may list more names than values, or fewer.
-	PinTags.SetNum(PinNames.Num());
-	Super::CreateCasePins();
-}
-
-void UGameplayTagsK2Node_SwitchGameplayTag::AddPinToSwitchNode()
-{
-	Super::AddPinToSwitchNode();
-	PinTags.SetNum(PinNames.Num());
-}
-
-void UGameplayTagsK2Node_SwitchGameplayTag::RemovePinFromSwitchNode(UEdGraphPin* TargetPin)
-{
-	const int32 Case = PinNames.IndexOfByKey(TargetPin->PinName);
-	if (PinTags.IsValidIndex(Case))
-	{
-		PinTags.RemoveAt(Case);
-	}
-	Super::RemovePinFromSwitchNode(TargetPin);
-}
-
 FText UGameplayTagsK2Node_SwitchGameplayTag::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	return LOCTEXT("GameplayTagsSwitchGameplayTag_Title", "Switch on Gameplay Tag");

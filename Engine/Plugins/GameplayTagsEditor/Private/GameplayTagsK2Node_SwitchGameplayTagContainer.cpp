@@ -16,29 +16,6 @@ void UGameplayTagsK2Node_SwitchGameplayTagContainer::CreateSelectionPin()
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, FGameplayTagContainer::StaticStruct(), TEXT("Selection"));
 }
 
-void UGameplayTagsK2Node_SwitchGameplayTagContainer::CreateCasePins()
-{
-	// Text of another host may list more names than values, or fewer.
-	PinContainers.SetNum(PinNames.Num());
-	Super::CreateCasePins();
-}
-
-void UGameplayTagsK2Node_SwitchGameplayTagContainer::AddPinToSwitchNode()
-{
-	Super::AddPinToSwitchNode();
-	PinContainers.SetNum(PinNames.Num());
-}
-
-void UGameplayTagsK2Node_SwitchGameplayTagContainer::RemovePinFromSwitchNode(UEdGraphPin* TargetPin)
-{
-	const int32 Case = PinNames.IndexOfByKey(TargetPin->PinName);
-	if (PinContainers.IsValidIndex(Case))
-	{
-		PinContainers.RemoveAt(Case);
-	}
-	Super::RemovePinFromSwitchNode(TargetPin);
-}
-
 FText UGameplayTagsK2Node_SwitchGameplayTagContainer::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	return LOCTEXT("GameplayTagsSwitchGameplayTagContainer_Title", "Switch on Gameplay Tag Container");

@@ -7,7 +7,9 @@
 #include "GameplayTagContainer.generated.h"
 
 /** A name in a tree of names. */
-USTRUCT(BlueprintType, meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeLiteralGameplayTag", HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.GetTagName"))
+USTRUCT(BlueprintType,
+	meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeLiteralGameplayTag",
+		HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.GetTagName"))
 struct FGameplayTag
 {
 	GENERATED_BODY()
@@ -17,7 +19,9 @@ struct FGameplayTag
 };
 
 /** Several tags. */
-USTRUCT(BlueprintType, meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeGameplayTagContainerFromArray", HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.BreakGameplayTagContainer"))
+USTRUCT(BlueprintType,
+	meta = (HasNativeMake = "/Script/GameplayTags.BlueprintGameplayTagLibrary.MakeGameplayTagContainerFromArray",
+		HasNativeBreak = "/Script/GameplayTags.BlueprintGameplayTagLibrary.BreakGameplayTagContainer"))
 struct FGameplayTagContainer
 {
 	GENERATED_BODY()

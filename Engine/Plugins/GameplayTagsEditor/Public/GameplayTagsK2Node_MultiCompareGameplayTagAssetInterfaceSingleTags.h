@@ -6,7 +6,8 @@
 
 /** Checks the tags of an object against several tags. */
 UCLASS()
-class GAMEPLAYTAGSEDITOR_API UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterfaceSingleTags : public UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterface
+class GAMEPLAYTAGSEDITOR_API UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterfaceSingleTags
+	: public UGameplayTagsK2Node_MultiCompareGameplayTagAssetInterface
 {
 	GENERATED_BODY()
 

@@ -6,7 +6,8 @@
 
 /** Checks a container of tags against several tags. */
 UCLASS()
-class GAMEPLAYTAGSEDITOR_API UGameplayTagsK2Node_MultiCompareGameplayTagContainerSingleTags : public UGameplayTagsK2Node_MultiCompareGameplayTagContainer
+class GAMEPLAYTAGSEDITOR_API UGameplayTagsK2Node_MultiCompareGameplayTagContainerSingleTags
+	: public UGameplayTagsK2Node_MultiCompareGameplayTagContainer
 {
 	GENERATED_BODY()
 

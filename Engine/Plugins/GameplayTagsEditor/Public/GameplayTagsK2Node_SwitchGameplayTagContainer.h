@@ -19,13 +19,12 @@ public:
 	TArray<FName> PinNames;
 
 	UGameplayTagsK2Node_SwitchGameplayTagContainer(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
-	virtual void AddPinToSwitchNode() override;
-	virtual void RemovePinFromSwitchNode(UEdGraphPin* TargetPin) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;
 
 protected:
 	virtual void CreateSelectionPin() override;
-	virtual void CreateCasePins() override;
 	virtual TArray<FName>* GetNamedCases() override { return &PinNames; }
+	virtual void SetNumCaseValues(int32 Num) override { PinContainers.SetNum(Num); }
+	virtual void RemoveCaseValue(int32 Index) override { PinContainers.RemoveAt(Index); }
 };

@@ -14,12 +14,15 @@ FEdGraphPinType FInputActionValuePin::GetType(const UObject* InputAction)
 	const FEdGraphPinType Types[] = {
 		FEdGraphPinType(Schema::PC_Boolean, NAME_None, nullptr, EPinContainerType::None, false, FEdGraphTerminalType()),
 		FEdGraphPinType(Schema::PC_Real, Schema::PC_Double, nullptr, EPinContainerType::None, false, FEdGraphTerminalType()),
-		FEdGraphPinType(Schema::PC_Struct, NAME_None, TBaseStructure<FVector2D>::Get(), EPinContainerType::None, false, FEdGraphTerminalType()),
-		FEdGraphPinType(Schema::PC_Struct, NAME_None, TBaseStructure<FVector>::Get(), EPinContainerType::None, false, FEdGraphTerminalType()),
+		FEdGraphPinType(
+			Schema::PC_Struct, NAME_None, TBaseStructure<FVector2D>::Get(), EPinContainerType::None, false, FEdGraphTerminalType()),
+		FEdGraphPinType(
+			Schema::PC_Struct, NAME_None, TBaseStructure<FVector>::Get(), EPinContainerType::None, false, FEdGraphTerminalType()),
 	};
 	const FProperty* const ValueType = InputAction ? FindFProperty<FProperty>(InputAction->GetClass(), TEXT("ValueType")) : nullptr;
 	const FEnumProperty* const Enum = CastField<FEnumProperty>(ValueType);
-	const int64 Value = Enum ? Enum->GetUnderlyingProperty()->GetSignedIntPropertyValue(Enum->ContainerPtrToValuePtr<void>(InputAction)) : 0;
+	const int64 Value = Enum ? Enum->GetUnderlyingProperty()->GetSignedIntPropertyValue(Enum->ContainerPtrToValuePtr<void>(InputAction))
+							 : 0;
 	return Types[Value > 0 && Value < static_cast<int64>(UE_ARRAY_COUNT(Types)) ? Value : 0];
 }
 

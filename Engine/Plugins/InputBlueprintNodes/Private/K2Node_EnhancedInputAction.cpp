@@ -22,7 +22,8 @@ void UK2Node_EnhancedInputAction::AllocateDefaultPins()
 	}
 	if (InputAction)
 	{
-		UEdGraphPin* const Action = CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, FInputActionValuePin::GetActionClass(), TEXT("InputAction"));
+		UEdGraphPin* const Action = CreatePin(
+			EGPD_Output, UEdGraphSchema_K2::PC_Object, FInputActionValuePin::GetActionClass(), TEXT("InputAction"));
 		Action->DefaultObject = InputAction;
 		Action->bAdvancedView = true;
 	}
@@ -37,12 +38,15 @@ bool UK2Node_EnhancedInputAction::IsCompatibleWithGraph(const UEdGraph* TargetGr
 FText UK2Node_EnhancedInputAction::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	const FText Name = FInputActionValuePin::GetActionName(InputAction);
-	return TitleType == ENodeTitleType::MenuTitle ? Name : FText::Format(LOCTEXT("EnhancedInputAction_Name", "EnhancedInputAction {0}"), Name);
+	return TitleType == ENodeTitleType::MenuTitle ? Name
+												  : FText::Format(LOCTEXT("EnhancedInputAction_Name", "EnhancedInputAction {0}"), Name);
 }
 
 FText UK2Node_EnhancedInputAction::GetTooltipText() const
 {
-	return FText::Format(LOCTEXT("EnhancedInputAction_Tooltip", "Event for when the keys bound to input action {0} are pressed or released."), FInputActionValuePin::GetActionName(InputAction));
+	return FText::Format(
+		LOCTEXT("EnhancedInputAction_Tooltip", "Event for when the keys bound to input action {0} are pressed or released."),
+		FInputActionValuePin::GetActionName(InputAction));
 }
 
 FText UK2Node_EnhancedInputAction::GetMenuCategory() const

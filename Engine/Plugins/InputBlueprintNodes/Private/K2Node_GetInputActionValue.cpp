@@ -17,7 +17,8 @@ FText UK2Node_GetInputActionValue::GetNodeTitle(ENodeTitleType::Type TitleType) 
 
 FText UK2Node_GetInputActionValue::GetTooltipText() const
 {
-	return FText::Format(LOCTEXT("GetInputActionValue_Tooltip", "Returns the current value of input action {0}. If input is disabled for the actor the value will be 0."),
+	return FText::Format(LOCTEXT("GetInputActionValue_Tooltip",
+							 "Returns the current value of input action {0}. If input is disabled for the actor the value will be 0."),
 		FInputActionValuePin::GetActionName(InputAction));
 }
 

@@ -8,7 +8,8 @@
 void UK2Node_InputDebugKey::AllocateDefaultPins()
 {
 	FInputNodePins::CreateKeyPins(*this);
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/EnhancedInput.InputActionValue")), TEXT("ActionValue"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/EnhancedInput.InputActionValue")),
+		TEXT("ActionValue"));
 }
 
 FText UK2Node_InputDebugKey::GetKeyText() const

@@ -9,9 +9,12 @@ void UK2Node_EvaluateLiveLinkFrame::AllocateDefaultPins()
 {
 	CreateExecPin();
 	CreateThenPin()->PinFriendlyName = LOCTEXT("EvaluateLiveLinkFrame_Valid", "Valid Frame");
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("FrameNotAvailable"))->PinFriendlyName = LOCTEXT("EvaluateLiveLinkFrame_Invalid", "Invalid Frame");
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Class, FindObject<UClass>(nullptr, TEXT("/Script/LiveLinkInterface.LiveLinkRole")), TEXT("LiveLinkRole"));
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/LiveLinkInterface.LiveLinkSubjectName")), TEXT("LiveLinkSubject"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("FrameNotAvailable"))->PinFriendlyName = LOCTEXT(
+		"EvaluateLiveLinkFrame_Invalid", "Invalid Frame");
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Class, FindObject<UClass>(nullptr, TEXT("/Script/LiveLinkInterface.LiveLinkRole")),
+		TEXT("LiveLinkRole"));
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct,
+		FindObject<UScriptStruct>(nullptr, TEXT("/Script/LiveLinkInterface.LiveLinkSubjectName")), TEXT("LiveLinkSubject"));
 	CreateTimePins();
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, TEXT("DataResult"));
 }

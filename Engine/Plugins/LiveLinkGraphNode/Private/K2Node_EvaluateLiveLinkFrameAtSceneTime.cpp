@@ -7,7 +7,8 @@
 
 void UK2Node_EvaluateLiveLinkFrameAtSceneTime::CreateTimePins()
 {
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/CoreUObject.Timecode")), TEXT("SceneTime"));
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/CoreUObject.Timecode")),
+		TEXT("SceneTime"));
 }
 
 FText UK2Node_EvaluateLiveLinkFrameAtSceneTime::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -7,7 +7,8 @@
 
 void UK2Node_GetSequenceBinding::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/MovieScene.MovieSceneObjectBindingID")), TEXT("Output"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct,
+		FindObject<UScriptStruct>(nullptr, TEXT("/Script/MovieScene.MovieSceneObjectBindingID")), TEXT("Output"));
 }
 
 FText UK2Node_GetSequenceBinding::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -7,8 +7,10 @@
 
 void UK2Node_MakeStateTreeReference::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, FindObject<UClass>(nullptr, TEXT("/Script/StateTreeModule.StateTree")), TEXT("StateTree"));
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/StateTreeModule.StateTreeReference")), TEXT("StateTreeReference"));
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, FindObject<UClass>(nullptr, TEXT("/Script/StateTreeModule.StateTree")),
+		TEXT("StateTree"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct,
+		FindObject<UScriptStruct>(nullptr, TEXT("/Script/StateTreeModule.StateTreeReference")), TEXT("StateTreeReference"));
 }
 
 FText UK2Node_MakeStateTreeReference::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -10,7 +10,8 @@ void UK2Node_StateTreeBlueprintPropertyRef::AllocateDefaultPins()
 	CreateExecPin();
 	CreateThenPin();
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_Else);
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, FindObject<UScriptStruct>(nullptr, TEXT("/Script/StateTreeModule.StateTreeBlueprintPropertyRef")), TEXT("PropertyRef"));
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct,
+		FindObject<UScriptStruct>(nullptr, TEXT("/Script/StateTreeModule.StateTreeBlueprintPropertyRef")), TEXT("PropertyRef"));
 	FCreatePinParams Reference;
 	Reference.bIsReference = true;
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, UEdGraphSchema_K2::PN_ReturnValue, Reference);

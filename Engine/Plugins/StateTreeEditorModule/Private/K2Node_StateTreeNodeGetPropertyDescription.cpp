@@ -10,8 +10,9 @@ void UK2Node_StateTreeNodeGetPropertyDescription::AllocateDefaultPins()
 FText UK2Node_StateTreeNodeGetPropertyDescription::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	const FName Name = Variable.GetMemberName();
-	return Name.IsNone() || TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("GetPropertyDescription_Title", "Get Property Description")
-																   : FText::Format(LOCTEXT("GetPropertyDescription_Named", "Get Property Description of {0}"), FText::FromName(Name));
+	return Name.IsNone() || TitleType == ENodeTitleType::MenuTitle
+		? LOCTEXT("GetPropertyDescription_Title", "Get Property Description")
+		: FText::Format(LOCTEXT("GetPropertyDescription_Named", "Get Property Description of {0}"), FText::FromName(Name));
 }
 
 FText UK2Node_StateTreeNodeGetPropertyDescription::GetTooltipText() const

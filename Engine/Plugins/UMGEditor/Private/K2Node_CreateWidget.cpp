@@ -13,7 +13,8 @@ UClass* UK2Node_CreateWidget::GetClassPinBaseClass() const
 
 void UK2Node_CreateWidget::CreateOwnPins()
 {
-	UEdGraphPin* const Player = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, FindObject<UClass>(nullptr, TEXT("/Script/Engine.PlayerController")), TEXT("OwningPlayer"));
+	UEdGraphPin* const Player = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object,
+		FindObject<UClass>(nullptr, TEXT("/Script/Engine.PlayerController")), TEXT("OwningPlayer"));
 	GeneratePinTooltip(*Player, LOCTEXT("CreateWidget_OwnerTip", "The player that 'owns' the widget."));
 }
 
