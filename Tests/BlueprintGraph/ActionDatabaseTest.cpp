@@ -1,5 +1,4 @@
-#include "BlueprintActionDatabase.h"
-#include "BlueprintActionFilter.h"
+#include "ActionDatabaseFixture.h"
 #include "BlueprintBoundEventNodeSpawner.h"
 #include "BlueprintEventNodeSpawner.h"
 #include "BlueprintFunctionNodeSpawner.h"
@@ -9,7 +8,6 @@
 #include "Engine/SCS_Node.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/UserDefinedEnum.h"
-#include "GraphFixture.h"
 #include "K2Node_AddComponent.h"
 #include "K2Node_CallDelegate.h"
 #include "K2Node_CallFunction.h"
@@ -23,64 +21,10 @@
 #include "K2Node_SwitchEnum.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
-#include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/EnumEditorUtils.h"
 
 namespace
 {
-using FActionList = FBlueprintActionDatabase::FActionList;
-
-class FActionDatabaseTest : public FGraphTest
-{
-protected:
-	static const FActionList& GetActions(const UObject* Key)
-	{
-		static const FActionList None;
-		const FActionList* const Found = FBlueprintActionDatabase::Get().GetAllActions().Find(FObjectKey(Key));
-		return Found ? *Found : None;
-	}
-
-	/** The action whose node has the menu title; null when there is none. */
-	static UBlueprintNodeSpawner* Find(const UObject* Key, const TCHAR* Title)
-	{
-		for (UBlueprintNodeSpawner* const Action : GetActions(Key))
-		{
-			if (Action->PrimeDefaultUiSpec().MenuName.ToString() == Title)
-			{
-				return Action;
-			}
-		}
-		return nullptr;
-	}
-
-	template <class NodeType>
-	NodeType* Spawn(const UObject* Key, const TCHAR* Title, const IBlueprintNodeBinder::FBindingSet& Bindings = {})
-	{
-		UBlueprintNodeSpawner* const Action = Find(Key, Title);
-		EXPECT_NE(Action, nullptr) << TCHAR_TO_UTF8(Title);
-		return Action ? Cast<NodeType>(Action->Invoke(Graph, Bindings, FVector2D(16, 32))) : nullptr;
-	}
-
-	bool IsFiltered(const UObject* Key, const TCHAR* Title, UEdGraph* InGraph = nullptr)
-	{
-		UBlueprintNodeSpawner* const Action = Find(Key, Title);
-		EXPECT_NE(Action, nullptr) << TCHAR_TO_UTF8(Title);
-		FBlueprintActionFilter Filter;
-		Filter.Context.Blueprints.Add(Blueprint);
-		Filter.Context.Graphs.Add(InGraph ? InGraph : Graph);
-		FBlueprintActionInfo Info(Key, Action);
-		return !Action || Filter.IsFiltered(Info);
-	}
-
-	void AddVariable(const TCHAR* Name)
-	{
-		const FEdGraphPinType Type(UEdGraphSchema_K2::PC_Int, NAME_None, nullptr, EPinContainerType::None, false, FEdGraphTerminalType());
-		ASSERT_TRUE(FBlueprintEditorUtils::AddMemberVariable(Blueprint, Name, Type));
-	}
-
-	static UClass* FindClass(const TCHAR* Path) { return FindObject<UClass>(nullptr, Path); }
-};
-
 TEST_F(FActionDatabaseTest, EveryActionMakesItsTemplateAndTellsWhatAMenuShows)
 {
 	int32 NumActions = 0;
@@ -132,7 +76,10 @@ TEST_F(FActionDatabaseTest, AnOperationHasOneActionForAllItsTypes)
 	{
 		const FBlueprintActionInfo Info(Math, Action);
 		const UFunction* const Function = Info.GetAssociatedFunction();
-		NumAdditions += Function && Function->GetName().StartsWith(TEXT("Add_")) && Action->NodeClass == UK2Node_PromotableOperator::StaticClass() ? 1 : 0;
+		NumAdditions += Function && Function->GetName().StartsWith(TEXT("Add_")) &&
+				Action->NodeClass == UK2Node_PromotableOperator::StaticClass()
+			? 1
+			: 0;
 		EXPECT_FALSE(Function && Function->GetName() == TEXT("Add_IntInt"));
 	}
 	EXPECT_EQ(NumAdditions, 1);
@@ -170,7 +117,8 @@ TEST_F(FActionDatabaseTest, ActionsFollowTheirBlueprint)
 	EXPECT_EQ(Find(Blueprint, TEXT("Get Health")), nullptr);
 	EXPECT_NE(Find(Blueprint, TEXT("Get Energy")), nullptr);
 
-	UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Heal"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(
+		Blueprint, TEXT("Heal"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Blueprint, Function, true, nullptr);
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	UK2Node_CallFunction* const Call = Spawn<UK2Node_CallFunction>(Blueprint, TEXT("Heal"));
@@ -216,7 +164,8 @@ TEST_F(FActionDatabaseTest, CastsMacrosComponentsAndEnumsHaveActions)
 
 TEST_F(FActionDatabaseTest, ABoundEventIsBoundToItsComponent)
 {
-	USCS_Node* const Component = Blueprint->SimpleConstructionScript->CreateNode(FindClass(TEXT("/Script/Engine.BoxComponent")), TEXT("Box"));
+	USCS_Node* const Component = Blueprint->SimpleConstructionScript->CreateNode(
+		FindClass(TEXT("/Script/Engine.BoxComponent")), TEXT("Box"));
 	Blueprint->SimpleConstructionScript->AddNode(Component);
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	const FObjectProperty* const Property = FindFProperty<FObjectProperty>(Blueprint->SkeletonGeneratedClass.Get(), TEXT("Box"));
@@ -241,7 +190,8 @@ TEST_F(FActionDatabaseTest, ABoundEventIsBoundToItsComponent)
 TEST_F(FActionDatabaseTest, TheFilterRefusesWhatCannotBeThere)
 {
 	const UClass* const System = FindClass(TEXT("/Script/Engine.KismetSystemLibrary"));
-	UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Work"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(
+		Blueprint, TEXT("Work"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Blueprint, Function, true, nullptr);
 	EXPECT_FALSE(IsFiltered(System, TEXT("Delay")));
 	EXPECT_TRUE(IsFiltered(System, TEXT("Delay"), Function));

@@ -27,6 +27,7 @@ FBlueprintActionDatabase::FBlueprintActionDatabase()
 {
 	Instance = this;
 	FCoreUObjectDelegates::OnAssetLoaded.AddRaw(this, &FBlueprintActionDatabase::RefreshAssetActions);
+	FCoreUObjectDelegates::GetPostGarbageCollect().AddRaw(this, &FBlueprintActionDatabase::DropDeadEntries);
 	RefreshAll();
 }
 
@@ -118,7 +119,6 @@ void FBlueprintActionDatabase::ClearAssetActions(UObject* AssetObject)
 
 void FBlueprintActionDatabase::RefreshChangedAssets()
 {
-	DropDeadEntries();
 	const TSet<FObjectKey> Changed = MoveTemp(ChangedAssets);
 	ChangedAssets.Empty();
 	for (const FObjectKey& Key : Changed)
@@ -143,11 +143,6 @@ void FBlueprintActionDatabase::RefreshChangedAssets()
 
 void FBlueprintActionDatabase::DropDeadEntries()
 {
-	if (ChangedAssets.IsEmpty())
-	{
-		return;
-	}
-	// An asset goes rarely, and never without others changing.
 	for (FActionRegistry::TIterator Entry(ActionRegistry); Entry; ++Entry)
 	{
 		if (!Entry.Key().ResolveObjectPtr())
