@@ -70,7 +70,8 @@ TEST_F(FCompilerFunctionsTest, AnOverrideHasTheParametersOfWhatItOverrides)
 	GetEntry(Override)->CreateUserDefinedPin(TEXT("Number"), Type, EGPD_Output);
 	Compile();
 	EXPECT_EQ(Results->NumErrors, 1);
-	EXPECT_TRUE(Errors().StartsWith(TEXT("The function Work does not have the parameters of the function of "))) << TCHAR_TO_UTF8(*Errors());
+	EXPECT_TRUE(Errors().StartsWith(TEXT("The function Work does not have the parameters of the function of ")))
+		<< TCHAR_TO_UTF8(*Errors());
 }
 
 TEST_F(FCompilerFunctionsTest, AMacroThatWaitsCannotBeUsedInAFunction)
@@ -142,7 +143,8 @@ TEST_F(FCompilerFunctionsTest, TypesThatAreMissingAreErrors)
 	Chain(Break->FindPin(TEXT("X")), Text->FindPin(TEXT("Duration")));
 	Break->StructType = nullptr;
 	Compile();
-	EXPECT_TRUE(Errors().Contains(TEXT("The variable type of Place is unknown; try changing the variable's type."))) << TCHAR_TO_UTF8(*Errors());
+	EXPECT_TRUE(Errors().Contains(TEXT("The variable type of Place is unknown; try changing the variable's type.")))
+		<< TCHAR_TO_UTF8(*Errors());
 	EXPECT_TRUE(Break->bHasCompilerMessage);
 	EXPECT_EQ(Break->ErrorType, int32(EMessageSeverity::Error));
 	EXPECT_EQ(Blueprint->GeneratedClass->FindPropertyByName(TEXT("Place")), nullptr);

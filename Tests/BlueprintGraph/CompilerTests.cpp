@@ -35,7 +35,8 @@ TEST_F(FCompilerTest, ALostFunctionIsAnErrorOnItsNodeAndGoesAwayWhenItIsMended)
 	Compile();
 	EXPECT_EQ(Results->NumErrors, 1);
 	EXPECT_EQ(Said(EMessageSeverity::Error),
-		TEXT("Could not find a function named \"PrintNonsense\" in 'KismetSystemLibrary'.\nMake sure 'KismetSystemLibrary' has been compiled for Print Nonsense|"));
+		TEXT("Could not find a function named \"PrintNonsense\" in 'KismetSystemLibrary'.\nMake sure 'KismetSystemLibrary' has been "
+			 "compiled for Print Nonsense|"));
 	EXPECT_EQ(Blueprint->Status, BS_Error);
 	EXPECT_TRUE(Lost->bHasCompilerMessage);
 	EXPECT_EQ(Lost->ErrorType, int32(EMessageSeverity::Error));
@@ -48,6 +49,51 @@ TEST_F(FCompilerTest, ALostFunctionIsAnErrorOnItsNodeAndGoesAwayWhenItIsMended)
 	EXPECT_EQ(Results->NumErrors, 0);
 	EXPECT_FALSE(Lost->bHasCompilerMessage);
 	EXPECT_EQ(Blueprint->Status, BS_UpToDate);
+}
+
+TEST_F(FCompilerTest, EveryMessageAboutNodesLeadsToOneOfThem)
+{
+	// One mistake of each kind that a node can make, all of them in one graph.
+	UK2Node_CallFunction* const Lost = Print();
+	Lost->FunctionReference.SetExternalMember(TEXT("PrintNonsense"), FindObject<UClass>(nullptr, SystemLibrary));
+	UK2Node_VariableSet* const Set = Variable<UK2Node_VariableSet>(TEXT("Nothing"));
+	UK2Node_SpawnActorFromClass* const Spawn = Add<UK2Node_SpawnActorFromClass>();
+	UK2Node_DynamicCast* const Cast = Add<UK2Node_DynamicCast>();
+	UK2Node_CallFunction* const Text = Print();
+	Text->FindPin(TEXT("Duration"))->DefaultValue = TEXT("soon");
+	Print();
+	UEdGraphPin* Then = Event->GetThenPin();
+	for (UK2Node* const Node : TArray<UK2Node*>{Lost, Spawn, Cast, Text})
+	{
+		Chain(Then, Node->GetExecPin());
+		Then = Node->GetThenPin();
+	}
+	Chain(Then, Set->GetExecPin());
+	Compile();
+	EXPECT_EQ(Results->NumErrors, 5) << TCHAR_TO_UTF8(*Said(EMessageSeverity::Error));
+	EXPECT_EQ(Said(EMessageSeverity::Info), TEXT("Print String is never executed: nothing leads to it|"));
+	TSet<const UObject*> Blamed;
+	for (const TSharedRef<FTokenizedMessage>& Message : Results->Messages)
+	{
+		int32 NumNodes = 0;
+		for (const TSharedRef<IMessageToken>& Token : Message->GetMessageTokens())
+		{
+			const UObject* const Object =
+				Token->GetType() == EMessageToken::EdGraph ? static_cast<const FEdGraphToken&>(*Token).GetGraphObject() : nullptr;
+			if (Object && Object->IsA<UK2Node>())
+			{
+				EXPECT_TRUE(Object->IsIn(Blueprint));
+				++NumNodes;
+				Blamed.Add(Object);
+			}
+		}
+		EXPECT_GT(NumNodes, 0) << TCHAR_TO_UTF8(*Message->ToText().ToString());
+	}
+	for (const UK2Node* const Node : TArray<const UK2Node*>{Lost, Set, Spawn, Cast, Text})
+	{
+		EXPECT_TRUE(Blamed.Contains(Node)) << TCHAR_TO_UTF8(*Node->GetName());
+		EXPECT_TRUE(Node->bHasCompilerMessage);
+	}
 }
 
 TEST_F(FCompilerTest, WhatIsNotExecutedIsANoteAndItsMistakesDoNotCount)
@@ -84,8 +130,11 @@ TEST_F(FCompilerTest, InputsThatNeedALinkAndTypesThatAreOpenAreErrors)
 	Chain(Length->GetThenPin(), Play->GetExecPin());
 	Compile();
 	const FString Errors = Said(EMessageSeverity::Error);
-	EXPECT_TRUE(Errors.Contains(TEXT("The type of Target Array is undetermined.  Connect something to Clear to imply a specific type."))) << TCHAR_TO_UTF8(*Errors);
-	EXPECT_TRUE(Errors.Contains(TEXT("This blueprint (self) is not a PrimitiveComponent, therefore 'Target' of Set Simulate Physics must have a connection."))) << TCHAR_TO_UTF8(*Errors);
+	EXPECT_TRUE(Errors.Contains(TEXT("The type of Target Array is undetermined.  Connect something to Clear to imply a specific type.")))
+		<< TCHAR_TO_UTF8(*Errors);
+	EXPECT_TRUE(Errors.Contains(
+		TEXT("This blueprint (self) is not a PrimitiveComponent, therefore 'Target' of Set Simulate Physics must have a connection.")))
+		<< TCHAR_TO_UTF8(*Errors);
 	EXPECT_EQ(Results->NumErrors, 2);
 }
 
@@ -102,7 +151,8 @@ TEST_F(FCompilerTest, LostAndRetypedVariablesAreFound)
 	// A type changed below the node, as a hand-made text may have it: the link no longer fits.
 	Get->GetValuePin()->PinType.PinCategory = UEdGraphSchema_K2::PC_Boolean;
 	Compile();
-	EXPECT_TRUE(Said(EMessageSeverity::Error).StartsWith(TEXT("Can't connect pins Count and Count: "))) << TCHAR_TO_UTF8(*Said(EMessageSeverity::Error));
+	EXPECT_TRUE(Said(EMessageSeverity::Error).StartsWith(TEXT("Can't connect pins Count and Count: ")))
+		<< TCHAR_TO_UTF8(*Said(EMessageSeverity::Error));
 
 	Blueprint->NewVariables.Empty();
 	Compile();
@@ -119,7 +169,8 @@ TEST_F(FCompilerTest, DuplicateNamesAreErrors)
 	Blueprint->NewVariables.Add(Blueprint->NewVariables[0]);
 	Compile();
 	const FString Errors = Said(EMessageSeverity::Error);
-	EXPECT_TRUE(Errors.Contains(TEXT("Found more than one function with the same name Start; second occurance at Start"))) << TCHAR_TO_UTF8(*Errors);
+	EXPECT_TRUE(Errors.Contains(TEXT("Found more than one function with the same name Start; second occurance at Start")))
+		<< TCHAR_TO_UTF8(*Errors);
 	EXPECT_TRUE(Errors.Contains(TEXT("Found more than one member variable with the same name Count"))) << TCHAR_TO_UTF8(*Errors);
 }
 
@@ -136,7 +187,8 @@ TEST_F(FCompilerTest, ARingOfPureNodesIsAnErrorOnce)
 
 TEST_F(FCompilerTest, AFunctionMayNotWaitAndMustReturnWhatItPromises)
 {
-	UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Work"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(
+		Blueprint, TEXT("Work"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Blueprint, Function, true, nullptr);
 	TArray<UK2Node_FunctionEntry*> Entries;
 	Function->GetNodesOfClass(Entries);
@@ -145,7 +197,8 @@ TEST_F(FCompilerTest, AFunctionMayNotWaitAndMustReturnWhatItPromises)
 	UK2Node_CallFunction* const Delay = Call(SystemLibrary, TEXT("Delay"));
 	Chain(Entries[0]->GetThenPin(), Delay->GetExecPin());
 	Compile();
-	EXPECT_EQ(Said(EMessageSeverity::Error), TEXT("The latent node Delay cannot be used in the function Work: a function returns at once|"));
+	EXPECT_EQ(
+		Said(EMessageSeverity::Error), TEXT("The latent node Delay cannot be used in the function Work: a function returns at once|"));
 }
 
 TEST_F(FCompilerTest, CastsSayWhenTheyAlwaysOrNeverSucceed)
@@ -165,7 +218,8 @@ TEST_F(FCompilerTest, CastsSayWhenTheyAlwaysOrNeverSucceed)
 	}
 	Compile();
 	EXPECT_EQ(Said(EMessageSeverity::Warning), TEXT("'Controller' does not inherit from 'Pawn' (Cast To Controller would always fail).|"));
-	EXPECT_EQ(Said(EMessageSeverity::Info), TEXT("'Pawn' is already a 'Actor', you don't need Cast To Actor.|'Pawn' is already a 'Pawn', you don't need Cast To Pawn.|"));
+	EXPECT_EQ(Said(EMessageSeverity::Info),
+		TEXT("'Pawn' is already a 'Actor', you don't need Cast To Actor.|'Pawn' is already a 'Pawn', you don't need Cast To Pawn.|"));
 }
 
 TEST_F(FCompilerTest, MacrosClassesAndOrphansThatAreMissing)
@@ -184,14 +238,16 @@ TEST_F(FCompilerTest, MacrosClassesAndOrphansThatAreMissing)
 	const FString Errors = Said(EMessageSeverity::Error);
 	EXPECT_TRUE(Errors.Contains(TEXT("is pointing at an invalid macro graph."))) << TCHAR_TO_UTF8(*Errors);
 	EXPECT_TRUE(Errors.Contains(TEXT("must have a Class specified."))) << TCHAR_TO_UTF8(*Errors);
-	EXPECT_TRUE(Said(EMessageSeverity::Warning).Contains(TEXT("Old Text no longer exists on node Print String"))) << TCHAR_TO_UTF8(*Said(EMessageSeverity::Warning));
+	EXPECT_TRUE(Said(EMessageSeverity::Warning).Contains(TEXT("Old Text no longer exists on node Print String")))
+		<< TCHAR_TO_UTF8(*Said(EMessageSeverity::Warning));
 }
 
 TEST_F(FCompilerTest, UsersOfAChangedMemberAreRefreshedAndChecked)
 {
 	AddInteger(TEXT("Count"));
 	Compile();
-	UBlueprint* const User = FKismetEditorUtilities::CreateBlueprint(Blueprint->GeneratedClass.Get(), CreatePackage(TEXT("/Game/BP_User")), TEXT("BP_User"), BPTYPE_Normal);
+	UBlueprint* const User = FKismetEditorUtilities::CreateBlueprint(
+		Blueprint->GeneratedClass.Get(), CreatePackage(TEXT("/Game/BP_User")), TEXT("BP_User"), BPTYPE_Normal);
 	UBlueprint* const Maker = Blueprint;
 	Blueprint = User;
 	Graph = User->UbergraphPages[0];
@@ -218,7 +274,8 @@ TEST_F(FCompilerTest, AMissingParentAndARingOfParentsLeaveTheBlueprintAsItWas)
 	EXPECT_EQ(Said(EMessageSeverity::Error), TEXT("The parent class of BP_Test does not exist. Reparent it to another class.|"));
 	Blueprint->ParentClass = Before;
 	Compile();
-	EXPECT_TRUE(Said(EMessageSeverity::Error).StartsWith(TEXT("The parents of BP_Test form a ring"))) << TCHAR_TO_UTF8(*Said(EMessageSeverity::Error));
+	EXPECT_TRUE(Said(EMessageSeverity::Error).StartsWith(TEXT("The parents of BP_Test form a ring")))
+		<< TCHAR_TO_UTF8(*Said(EMessageSeverity::Error));
 	Blueprint->ParentClass = Parent;
 	Compile();
 	EXPECT_EQ(Results->NumErrors, 0);

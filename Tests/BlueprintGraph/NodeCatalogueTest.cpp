@@ -36,37 +36,54 @@ const TCHAR* const ActorClass = TEXT("\"/Script/CoreUObject.Class'/Script/Engine
 #define FUNCTION_OF(Class, Name) TEXT("(MemberParent=\"/Script/CoreUObject.Class'/Script/Engine." Class "'\",MemberName=\"" Name "\")")
 
 const FCatalogueRow Catalogue[] = {
-	{Graph, TEXT("K2Node_CallFunction"), TEXT("FunctionReference"), FUNCTION_OF("KismetSystemLibrary", "PrintString"), {TEXT("execute"), TEXT("then"), TEXT("InString")}},
-	{Graph, TEXT("K2Node_CallArrayFunction"), TEXT("FunctionReference"), FUNCTION_OF("KismetArrayLibrary", "Array_Add"), {TEXT("TargetArray"), TEXT("NewItem")}},
-	{Graph, TEXT("K2Node_CallDataTableFunction"), TEXT("FunctionReference"), FUNCTION_OF("KismetSystemLibrary", "PrintString"), {TEXT("InString")}},
-	{Graph, TEXT("K2Node_CallMaterialParameterCollectionFunction"), TEXT("FunctionReference"), FUNCTION_OF("KismetSystemLibrary", "PrintString"), {TEXT("InString")}},
-	{Graph, TEXT("K2Node_CallParentFunction"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "ReceiveTick"), {TEXT("execute"), TEXT("DeltaSeconds")}},
-	{Graph, TEXT("K2Node_CommutativeAssociativeBinaryOperator"), TEXT("FunctionReference"), FUNCTION_OF("KismetMathLibrary", "BooleanAND"), {TEXT("A"), TEXT("B"), TEXT("ReturnValue")}},
-	{Graph, TEXT("K2Node_PromotableOperator"), TEXT("FunctionReference"), FUNCTION_OF("KismetMathLibrary", "Add_DoubleDouble"), {TEXT("A"), TEXT("B"), TEXT("ReturnValue")}},
-	{Graph, TEXT("K2Node_GetInputAxisKeyValue"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "GetInputAxisKeyValue"), {TEXT("InputAxisKey"), TEXT("ReturnValue")}},
-	{Graph, TEXT("K2Node_GetInputAxisValue"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "GetInputAxisValue"), {TEXT("InputAxisName")}},
-	{Graph, TEXT("K2Node_GetInputVectorAxisValue"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "GetInputVectorAxisValue"), {TEXT("ReturnValue")}},
+	{Graph, TEXT("K2Node_CallFunction"), TEXT("FunctionReference"), FUNCTION_OF("KismetSystemLibrary", "PrintString"),
+		{TEXT("execute"), TEXT("then"), TEXT("InString")}},
+	{Graph, TEXT("K2Node_CallArrayFunction"), TEXT("FunctionReference"), FUNCTION_OF("KismetArrayLibrary", "Array_Add"),
+		{TEXT("TargetArray"), TEXT("NewItem")}},
+	{Graph, TEXT("K2Node_CallDataTableFunction"), TEXT("FunctionReference"), FUNCTION_OF("KismetSystemLibrary", "PrintString"),
+		{TEXT("InString")}},
+	{Graph, TEXT("K2Node_CallMaterialParameterCollectionFunction"), TEXT("FunctionReference"),
+		FUNCTION_OF("KismetSystemLibrary", "PrintString"), {TEXT("InString")}},
+	{Graph, TEXT("K2Node_CallParentFunction"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "ReceiveTick"),
+		{TEXT("execute"), TEXT("DeltaSeconds")}},
+	{Graph, TEXT("K2Node_CommutativeAssociativeBinaryOperator"), TEXT("FunctionReference"), FUNCTION_OF("KismetMathLibrary", "BooleanAND"),
+		{TEXT("A"), TEXT("B"), TEXT("ReturnValue")}},
+	{Graph, TEXT("K2Node_PromotableOperator"), TEXT("FunctionReference"), FUNCTION_OF("KismetMathLibrary", "Add_DoubleDouble"),
+		{TEXT("A"), TEXT("B"), TEXT("ReturnValue")}},
+	{Graph, TEXT("K2Node_GetInputAxisKeyValue"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "GetInputAxisKeyValue"),
+		{TEXT("InputAxisKey"), TEXT("ReturnValue")}},
+	{Graph, TEXT("K2Node_GetInputAxisValue"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "GetInputAxisValue"),
+		{TEXT("InputAxisName")}},
+	{Graph, TEXT("K2Node_GetInputVectorAxisValue"), TEXT("FunctionReference"), FUNCTION_OF("Actor", "GetInputVectorAxisValue"),
+		{TEXT("ReturnValue")}},
 	{Graph, TEXT("K2Node_AddComponent"), TEXT("TemplateType"), TEXT("\"/Script/CoreUObject.Class'/Script/Engine.SceneComponent'\"")},
-	{Graph, TEXT("K2Node_AddComponentByClass"), nullptr, nullptr, {TEXT("Class"), TEXT("RelativeTransform"), TEXT("bManualAttachment"), TEXT("self")}},
+	{Graph, TEXT("K2Node_AddComponentByClass"), nullptr, nullptr,
+		{TEXT("Class"), TEXT("RelativeTransform"), TEXT("bManualAttachment"), TEXT("self")}},
 	{Graph, TEXT("K2Node_GenericCreateObject"), nullptr, nullptr, {TEXT("Class"), TEXT("Outer"), TEXT("ReturnValue")}},
-	{Graph, TEXT("K2Node_SpawnActorFromClass"), nullptr, nullptr, {TEXT("Class"), TEXT("SpawnTransform"), TEXT("CollisionHandlingOverride"), TEXT("Owner")}},
+	{Graph, TEXT("K2Node_SpawnActorFromClass"), nullptr, nullptr,
+		{TEXT("Class"), TEXT("SpawnTransform"), TEXT("CollisionHandlingOverride"), TEXT("Owner")}},
 	{Graph, TEXT("K2Node_GetClassDefaults"), nullptr, nullptr, {TEXT("Class")}},
-	{Graph, TEXT("K2Node_GetDataTableRow"), nullptr, nullptr, {TEXT("DataTable"), TEXT("RowName"), TEXT("RowNotFound"), TEXT("ReturnValue")}},
+	{Graph, TEXT("K2Node_GetDataTableRow"), nullptr, nullptr,
+		{TEXT("DataTable"), TEXT("RowName"), TEXT("RowNotFound"), TEXT("ReturnValue")}},
 	{Graph, TEXT("K2Node_LoadAsset"), nullptr, nullptr, {TEXT("Asset"), TEXT("Completed"), TEXT("Object")}},
 	{Graph, TEXT("K2Node_LoadAssetClass"), nullptr, nullptr, {TEXT("AssetClass"), TEXT("Class")}},
 	{Graph, TEXT("K2Node_ConvertAsset"), nullptr, nullptr, {TEXT("Asset"), TEXT("Object")}},
-	{Graph, TEXT("K2Node_GetSubsystem"), TEXT("CustomClass"), TEXT("\"/Script/CoreUObject.Class'/Script/Engine.EngineSubsystem'\""), {TEXT("ReturnValue")}},
+	{Graph, TEXT("K2Node_GetSubsystem"), TEXT("CustomClass"), TEXT("\"/Script/CoreUObject.Class'/Script/Engine.EngineSubsystem'\""),
+		{TEXT("ReturnValue")}},
 	{Graph, TEXT("K2Node_GetSubsystemFromPC"), nullptr, nullptr, {TEXT("PlayerController"), TEXT("ReturnValue")}},
 	{Graph, TEXT("K2Node_Copy"), nullptr, nullptr, {TEXT("Input"), TEXT("ReturnValue")}},
-	{Graph, TEXT("K2Node_Event"), TEXT("EventReference"), FUNCTION_OF("Actor", "ReceiveTick"), {TEXT("OutputDelegate"), TEXT("then"), TEXT("DeltaSeconds")}},
+	{Graph, TEXT("K2Node_Event"), TEXT("EventReference"), FUNCTION_OF("Actor", "ReceiveTick"),
+		{TEXT("OutputDelegate"), TEXT("then"), TEXT("DeltaSeconds")}},
 	{Graph, TEXT("K2Node_ActorBoundEvent"), TEXT("EventReference"), FUNCTION_OF("Actor", "ReceiveTick"), {TEXT("OutputDelegate")}},
 	{Graph, TEXT("K2Node_ComponentBoundEvent"), TEXT("EventReference"), FUNCTION_OF("Actor", "ReceiveTick"), {TEXT("OutputDelegate")}},
 	{Graph, TEXT("K2Node_CustomEvent"), TEXT("CustomFunctionName"), TEXT("Ring"), {TEXT("OutputDelegate"), TEXT("then")}},
 	{Graph, TEXT("K2Node_BreakStruct"), TEXT("StructType"), HitStruct, {TEXT("HitResult"), TEXT("Distance")}},
 	{Graph, TEXT("K2Node_MakeStruct"), TEXT("StructType"), VectorStruct, {TEXT("Vector"), TEXT("X"), TEXT("Y"), TEXT("Z")}},
 	{Graph, TEXT("K2Node_SetFieldsInStruct"), TEXT("StructType"), VectorStruct, {TEXT("StructRef"), TEXT("StructOut")}},
-	{Graph, TEXT("K2Node_VariableGet"), TEXT("VariableReference"), FUNCTION_OF("Actor", "InitialLifeSpan"), {TEXT("InitialLifeSpan"), TEXT("self")}},
-	{Graph, TEXT("K2Node_VariableSet"), TEXT("VariableReference"), FUNCTION_OF("Actor", "InitialLifeSpan"), {TEXT("InitialLifeSpan"), TEXT("Output_Get")}},
+	{Graph, TEXT("K2Node_VariableGet"), TEXT("VariableReference"), FUNCTION_OF("Actor", "InitialLifeSpan"),
+		{TEXT("InitialLifeSpan"), TEXT("self")}},
+	{Graph, TEXT("K2Node_VariableSet"), TEXT("VariableReference"), FUNCTION_OF("Actor", "InitialLifeSpan"),
+		{TEXT("InitialLifeSpan"), TEXT("Output_Get")}},
 	{Graph, TEXT("K2Node_VariableSetRef"), nullptr, nullptr, {TEXT("Target"), TEXT("Value")}},
 	{Graph, TEXT("K2Node_SetVariableOnPersistentFrame"), nullptr, nullptr, {TEXT("execute"), TEXT("then")}},
 	{Graph, TEXT("K2Node_TemporaryVariable"), TEXT("VariableType"), TEXT("(PinCategory=\"int\")"), {TEXT("Variable")}},
@@ -102,7 +119,8 @@ const FCatalogueRow Catalogue[] = {
 	{Graph, TEXT("K2Node_MakeMap"), nullptr, nullptr, {TEXT("Map"), TEXT("Key 0"), TEXT("Value 0")}},
 	{Graph, TEXT("K2Node_MakeSet"), nullptr, nullptr, {TEXT("Set"), TEXT("[0]")}},
 	{Graph, TEXT("K2Node_GetArrayItem"), nullptr, nullptr, {TEXT("Array"), TEXT("Dimension 1"), TEXT("Output")}},
-	{Graph, TEXT("K2Node_MapForEach"), nullptr, nullptr, {TEXT("MapPin"), TEXT("BreakPin"), TEXT("KeyPin"), TEXT("ValuePin"), TEXT("CompletedPin")}},
+	{Graph, TEXT("K2Node_MapForEach"), nullptr, nullptr,
+		{TEXT("MapPin"), TEXT("BreakPin"), TEXT("KeyPin"), TEXT("ValuePin"), TEXT("CompletedPin")}},
 	{Graph, TEXT("K2Node_SetForEach"), nullptr, nullptr, {TEXT("SetPin"), TEXT("ValuePin")}},
 	{Graph, TEXT("K2Node_SwitchInteger"), nullptr, nullptr, {TEXT("Default"), TEXT("Selection")}},
 	{Graph, TEXT("K2Node_SwitchName"), TEXT("PinNames"), TEXT("(\"One\",\"Two\")"), {TEXT("One"), TEXT("Two")}},
@@ -112,16 +130,19 @@ const FCatalogueRow Catalogue[] = {
 	{Graph, TEXT("K2Node_EaseFunction"), nullptr, nullptr, {TEXT("Function"), TEXT("Alpha"), TEXT("A"), TEXT("B"), TEXT("Result")}},
 	{Graph, TEXT("K2Node_Timeline"), nullptr, nullptr, {TEXT("Play"), TEXT("Update"), TEXT("Direction")}},
 	{Input, TEXT("K2Node_InputDebugKey"), TEXT("InputKey"), TEXT("F"), {TEXT("Pressed"), TEXT("ActionValue")}},
-	{Input, TEXT("K2Node_EnhancedInputAction"), nullptr, nullptr, {TEXT("Triggered"), TEXT("Completed"), TEXT("ActionValue"), TEXT("ElapsedSeconds")}},
+	{Input, TEXT("K2Node_EnhancedInputAction"), nullptr, nullptr,
+		{TEXT("Triggered"), TEXT("Completed"), TEXT("ActionValue"), TEXT("ElapsedSeconds")}},
 	{Input, TEXT("K2Node_GetInputActionValue"), nullptr, nullptr, {TEXT("ReturnValue")}},
 	{TEXT("UMGEditor"), TEXT("K2Node_CreateWidget"), nullptr, nullptr, {TEXT("Class"), TEXT("OwningPlayer"), TEXT("ReturnValue")}},
 	{TEXT("UMGEditor"), TEXT("K2Node_CreateDragDropOperation"), nullptr, nullptr, {TEXT("Class"), TEXT("ReturnValue")}},
 	{Tags, TEXT("GameplayTagsK2Node_MultiCompareGameplayTagAssetInterface"), nullptr, nullptr, {TEXT("Case_0"), TEXT("Case_0 True")}},
 	{Tags, TEXT("GameplayTagsK2Node_MultiCompareGameplayTagAssetInterfaceSingleTags"), nullptr, nullptr, {TEXT("Case_0")}},
 	{Tags, TEXT("GameplayTagsK2Node_MultiCompareGameplayTagContainer"), nullptr, nullptr, {TEXT("Gameplay Tag Container"), TEXT("Case_0")}},
-	{Tags, TEXT("GameplayTagsK2Node_MultiCompareGameplayTagContainerSingleTags"), nullptr, nullptr, {TEXT("Gameplay Tag Container"), TEXT("Case_0")}},
+	{Tags, TEXT("GameplayTagsK2Node_MultiCompareGameplayTagContainerSingleTags"), nullptr, nullptr,
+		{TEXT("Gameplay Tag Container"), TEXT("Case_0")}},
 	{Tags, TEXT("GameplayTagsK2Node_SwitchGameplayTag"), TEXT("PinNames"), TEXT("(\"Case_0\")"), {TEXT("Selection"), TEXT("Case_0")}},
-	{Tags, TEXT("GameplayTagsK2Node_SwitchGameplayTagContainer"), TEXT("PinNames"), TEXT("(\"Case_0\")"), {TEXT("Selection"), TEXT("Case_0")}},
+	{Tags, TEXT("GameplayTagsK2Node_SwitchGameplayTagContainer"), TEXT("PinNames"), TEXT("(\"Case_0\")"),
+		{TEXT("Selection"), TEXT("Case_0")}},
 	{StateTree, TEXT("K2Node_MakeStateTreeReference"), nullptr, nullptr, {TEXT("StateTree")}},
 	{StateTree, TEXT("K2Node_StateTreeBlueprintPropertyRef"), nullptr, nullptr, {TEXT("PropertyRef"), TEXT("ReturnValue")}},
 	{StateTree, TEXT("K2Node_StateTreeNodeGetPropertyDescription"), nullptr, nullptr, {TEXT("Description")}},
@@ -140,7 +161,10 @@ const FCatalogueRow Catalogue[] = {
 class FNodeCatalogueTest : public FGraphTest
 {
 protected:
-	static UClass* FindClass(const FCatalogueRow& Row) { return FindObject<UClass>(nullptr, *FString::Printf(TEXT("/Script/%s.%s"), Row.Module, Row.Class)); }
+	static UClass* FindClass(const FCatalogueRow& Row)
+	{
+		return FindObject<UClass>(nullptr, *FString::Printf(TEXT("/Script/%s.%s"), Row.Module, Row.Class));
+	}
 
 	UK2Node* Spawn(const FCatalogueRow& Row, UEdGraph* InGraph)
 	{
@@ -174,10 +198,12 @@ protected:
 		for (const UEdGraphPin* const Pin : Node.Pins)
 		{
 			const FEdGraphPinType& Type = Pin->PinType;
-			Pins.push_back(TCHAR_TO_UTF8(*FString::Printf(TEXT("%d %s %s/%s/%s %d%d%d hidden %d advanced %d '%s' '%s' '%s'"), static_cast<int32>(Pin->Direction.GetValue()), *Pin->PinName.ToString(),
-				*Type.PinCategory.ToString(), *Type.PinSubCategory.ToString(), *GetPathNameSafe(Type.PinSubCategoryObject.Get()), static_cast<int32>(Type.ContainerType),
-				static_cast<int32>(Type.bIsReference), static_cast<int32>(Type.bIsConst), static_cast<int32>(Pin->bHidden), static_cast<int32>(Pin->bAdvancedView),
-				*Pin->PinFriendlyName.ToString(), *Pin->GetDefaultAsString(), *Pin->AutogeneratedDefaultValue)));
+			Pins.push_back(TCHAR_TO_UTF8(*FString::Printf(TEXT("%d %s %s/%s/%s %d%d%d hidden %d advanced %d '%s' '%s' '%s'"),
+				static_cast<int32>(Pin->Direction.GetValue()), *Pin->PinName.ToString(), *Type.PinCategory.ToString(),
+				*Type.PinSubCategory.ToString(), *GetPathNameSafe(Type.PinSubCategoryObject.Get()), static_cast<int32>(Type.ContainerType),
+				static_cast<int32>(Type.bIsReference), static_cast<int32>(Type.bIsConst), static_cast<int32>(Pin->bHidden),
+				static_cast<int32>(Pin->bAdvancedView), *Pin->PinFriendlyName.ToString(), *Pin->GetDefaultAsString(),
+				*Pin->AutogeneratedDefaultValue)));
 		}
 		return Pins;
 	}
@@ -215,7 +241,8 @@ TEST_F(FNodeCatalogueTest, EveryNodeSaysWhatItIs)
 		}
 		EXPECT_FALSE(Node->GetTooltipText().IsEmpty());
 		// A title in the programmer's words means that the class has none of its own.
-		EXPECT_FALSE(Node->GetNodeTitle(ENodeTitleType::FullTitle).ToString().Contains(TEXT("K2Node"))) << TCHAR_TO_UTF8(*Node->GetNodeTitle(ENodeTitleType::FullTitle).ToString());
+		EXPECT_FALSE(Node->GetNodeTitle(ENodeTitleType::FullTitle).ToString().Contains(TEXT("K2Node")))
+			<< TCHAR_TO_UTF8(*Node->GetNodeTitle(ENodeTitleType::FullTitle).ToString());
 	}
 }
 
@@ -250,7 +277,8 @@ TEST_F(FNodeCatalogueTest, MenuFindsNodesByCategoryAndKeywords)
 TEST_F(FNodeCatalogueTest, TextOfEveryNodeBringsItsPinsBack)
 {
 	UPackage* const Package = CreatePackage(TEXT("/Game/BP_CatalogueCopy"));
-	UBlueprint* const Other = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), Package, TEXT("BP_CatalogueCopy"), BPTYPE_Normal);
+	UBlueprint* const Other = FKismetEditorUtilities::CreateBlueprint(
+		AActor::StaticClass(), Package, TEXT("BP_CatalogueCopy"), BPTYPE_Normal);
 	UEdGraph* const OtherGraph = Other->UbergraphPages[0];
 	for (const FCatalogueRow& Row : Catalogue)
 	{

@@ -80,7 +80,8 @@ protected:
 	UEdGraph* AddDispatcher(const TCHAR* Name)
 	{
 		FBlueprintEditorUtils::AddMemberVariable(Blueprint, Name, MakeType(Schema_K2::PC_MCDelegate));
-		UEdGraph* const Signature = FBlueprintEditorUtils::CreateNewGraph(Blueprint, Name, UEdGraph::StaticClass(), Schema_K2::StaticClass());
+		UEdGraph* const Signature = FBlueprintEditorUtils::CreateNewGraph(
+			Blueprint, Name, UEdGraph::StaticClass(), Schema_K2::StaticClass());
 		Schema().CreateFunctionGraphTerminators(*Signature, static_cast<UClass*>(nullptr));
 		Schema().MarkFunctionEntryAsEditable(Signature, true);
 		Blueprint->DelegateSignatureGraphs.Add(Signature);
@@ -119,7 +120,8 @@ TEST_F(FNodeGraphsTest, CopyOfACollapsedGraphHasAGraphOfItsOwn)
 	ASSERT_TRUE(Schema().TryCreateConnection(Source->GetReturnValuePin(), Composite->FindPin(TEXT("If"))));
 	const TArray<UEdGraphNode*> Pasted = CopyAndPaste({Composite, Source}, Graph);
 	ASSERT_EQ(Pasted.Num(), 2);
-	const UK2Node_Composite* const Copy = Cast<UK2Node_Composite>(Pasted[0]) ? Cast<UK2Node_Composite>(Pasted[0]) : Cast<UK2Node_Composite>(Pasted[1]);
+	const UK2Node_Composite* const Copy = Cast<UK2Node_Composite>(Pasted[0]) ? Cast<UK2Node_Composite>(Pasted[0])
+																			 : Cast<UK2Node_Composite>(Pasted[1]);
 	ASSERT_TRUE(Copy && Copy->BoundGraph);
 	EXPECT_NE(Copy->BoundGraph, Composite->BoundGraph);
 	EXPECT_EQ(Copy->BoundGraph->GetOuter(), Copy);

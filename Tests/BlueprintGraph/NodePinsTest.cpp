@@ -64,7 +64,8 @@ TEST_F(FNodePinsTest, SequenceKeepsItsLinksWhenOutputsComeAndGo)
 
 TEST_F(FNodePinsTest, OperandsAreNamedByLettersWithoutGaps)
 {
-	UK2Node_CommutativeAssociativeBinaryOperator* const And = Add<UK2Node_CommutativeAssociativeBinaryOperator>([](UK2Node_CommutativeAssociativeBinaryOperator& Node)
+	UK2Node_CommutativeAssociativeBinaryOperator* const And = Add<UK2Node_CommutativeAssociativeBinaryOperator>(
+		[](UK2Node_CommutativeAssociativeBinaryOperator& Node)
 		{ Node.SetFromFunction(FindObject<UClass>(nullptr, MathLibrary)->FindFunctionByName(TEXT("BooleanAND"))); });
 	And->AddInputPin();
 	And->AddInputPin();
@@ -86,7 +87,8 @@ TEST_F(FNodePinsTest, PairOfAMapGoesAsAWhole)
 	UK2Node_MakeMap* const Make = Add<UK2Node_MakeMap>();
 	Make->AddInputPin();
 	Make->AddInputPin();
-	ASSERT_TRUE(Schema().TryCreateConnection(Call(MathLibrary, TEXT("RandomInteger"))->GetReturnValuePin(), Make->FindPin(TEXT("Value 2"))));
+	ASSERT_TRUE(
+		Schema().TryCreateConnection(Call(MathLibrary, TEXT("RandomInteger"))->GetReturnValuePin(), Make->FindPin(TEXT("Value 2"))));
 	Make->RemoveInputPin(Make->FindPin(TEXT("Value 1")));
 	EXPECT_EQ(NamesOf(Make, EGPD_Input), FNames({"Key 0", "Value 0", "Key 1", "Value 1"}));
 	EXPECT_EQ(Make->FindPin(TEXT("Value 1"))->LinkedTo.Num(), 1);
@@ -133,7 +135,8 @@ TEST_F(FNodePinsTest, SpawnedClassGivesItsExposedProperties)
 {
 	FEdGraphPinType Type;
 	Type.PinCategory = UEdGraphSchema_K2::PC_Int;
-	UBlueprint* const Spawned = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Spawned")), TEXT("BP_Spawned"), BPTYPE_Normal);
+	UBlueprint* const Spawned = FKismetEditorUtilities::CreateBlueprint(
+		AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Spawned")), TEXT("BP_Spawned"), BPTYPE_Normal);
 	ASSERT_TRUE(FBlueprintEditorUtils::AddMemberVariable(Spawned, TEXT("Ammo"), Type, TEXT("30")));
 	*FBlueprintEditorUtils::GetBlueprintVariablePropertyFlags(Spawned, TEXT("Ammo")) |= CPF_ExposeOnSpawn | CPF_BlueprintVisible;
 	FBlueprintEditorUtils::SetBlueprintVariableMetaData(Spawned, TEXT("Ammo"), nullptr, FBlueprintMetadata::MD_ExposeOnSpawn, TEXT("true"));
@@ -162,8 +165,12 @@ TEST_F(FNodePinsTest, SpawnedClassGivesItsExposedProperties)
 
 TEST_F(FNodePinsTest, AssignedDispatcherGetsAnEventOfItsOwn)
 {
-	const UK2Node_AssignDelegate* const Assign = Add<UK2Node_AssignDelegate>([](UK2Node_AssignDelegate& Node)
-		{ Node.DelegateReference.SetExternalMember(TEXT("OnComponentHit"), FindObject<UClass>(nullptr, TEXT("/Script/Engine.PrimitiveComponent"))); });
+	const UK2Node_AssignDelegate* const Assign = Add<UK2Node_AssignDelegate>(
+		[](UK2Node_AssignDelegate& Node)
+		{
+			Node.DelegateReference.SetExternalMember(
+				TEXT("OnComponentHit"), FindObject<UClass>(nullptr, TEXT("/Script/Engine.PrimitiveComponent")));
+		});
 	ASSERT_NE(Assign->GetDelegatePin(), nullptr);
 	ASSERT_EQ(Assign->GetDelegatePin()->LinkedTo.Num(), 1);
 	const UK2Node_CustomEvent* const Event = Cast<UK2Node_CustomEvent>(Assign->GetDelegatePin()->LinkedTo[0]->GetOwningNode());

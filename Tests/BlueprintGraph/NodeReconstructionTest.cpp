@@ -35,7 +35,8 @@ protected:
 	/** A function of the Blueprint with one parameter, and its entry. */
 	UK2Node_EditablePinBase* AddFunction(const TCHAR* Name, const TCHAR* Parameter, const FEdGraphPinType& Type)
 	{
-		UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(Blueprint, Name, UEdGraph::StaticClass(), Schema_K2::StaticClass());
+		UEdGraph* const Function = FBlueprintEditorUtils::CreateNewGraph(
+			Blueprint, Name, UEdGraph::StaticClass(), Schema_K2::StaticClass());
 		FBlueprintEditorUtils::AddFunctionGraph<UClass>(Blueprint, Function, true, nullptr);
 		UK2Node_EditablePinBase* const Entry = FBlueprintEditorUtils::GetEntryNode(Function);
 		Entry->CreateUserDefinedPin(Parameter, Type, EGPD_Output);
@@ -98,7 +99,8 @@ TEST_F(FNodeReconstructionTest, ParameterThatIsGoneIsAnOrphanUntilItComesBack)
 
 TEST_F(FNodeReconstructionTest, RenamedParameterKeepsTheLinksOfBothEnds)
 {
-	UK2Node_EditablePinBase* const Entry = AddFunction(TEXT("Heal"), TEXT("Amount"), MakeType(Schema_K2::PC_Struct, TBaseStructure<FVector>::Get()));
+	UK2Node_EditablePinBase* const Entry = AddFunction(
+		TEXT("Heal"), TEXT("Amount"), MakeType(Schema_K2::PC_Struct, TBaseStructure<FVector>::Get()));
 	UK2Node_CallFunction* const Caller = CallOwn(TEXT("Heal"));
 	Schema().SplitPin(Caller->FindPinChecked(TEXT("Amount")));
 	UEdGraphPin* const Source = Number();
@@ -155,14 +157,16 @@ TEST_F(FNodeReconstructionTest, EveryResultNodeGetsTheFunctionsResults)
 
 TEST_F(FNodeReconstructionTest, MacroInstanceFollowsTheMacrosEnds)
 {
-	UEdGraph* const Macro = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Ring"), UEdGraph::StaticClass(), Schema_K2::StaticClass());
+	UEdGraph* const Macro = FBlueprintEditorUtils::CreateNewGraph(
+		Blueprint, TEXT("Ring"), UEdGraph::StaticClass(), Schema_K2::StaticClass());
 	FBlueprintEditorUtils::AddMacroGraph(Blueprint, Macro, true, nullptr);
 	UK2Node_Tunnel* const Entry = const_cast<UK2Node_Tunnel*>(UK2Node_MacroInstance::FindTunnel(Macro, true));
 	Entry->CreateUserDefinedPin(TEXT("Times"), MakeType(Schema_K2::PC_Int), EGPD_Output);
 	UK2Node_MacroInstance* const Instance = Add<UK2Node_MacroInstance>([Macro](UK2Node_MacroInstance& Node)
 		{ Node.SetMacroGraph(Macro); });
 	ASSERT_NE(Instance->FindPin(TEXT("Times"), EGPD_Input), nullptr);
-	ASSERT_TRUE(Schema().TryCreateConnection(Call(MathLibrary, TEXT("RandomInteger"))->GetReturnValuePin(), Instance->FindPin(TEXT("Times"))));
+	ASSERT_TRUE(
+		Schema().TryCreateConnection(Call(MathLibrary, TEXT("RandomInteger"))->GetReturnValuePin(), Instance->FindPin(TEXT("Times"))));
 
 	Entry->CreateUserDefinedPin(TEXT("Loud"), MakeType(Schema_K2::PC_Boolean), EGPD_Output);
 	EXPECT_EQ(Entry->RenameUserDefinedPin(TEXT("Times"), TEXT("Count")), UK2Node::ERenamePinResult_Success);
@@ -205,7 +209,8 @@ TEST_F(FNodeReconstructionTest, CopyOfASplitPinIsSplitAndCombinesAgain)
 TEST_F(FNodeReconstructionTest, SplitPinFollowsItsStructure)
 {
 	UPackage* const Package = CreatePackage(*(Blueprint->GetOutermost()->GetName() + TEXT("_S")));
-	UUserDefinedStruct* const Struct = FStructureEditorUtils::CreateUserDefinedStruct(Package, *FPackageName::GetShortName(Package), RF_Public | RF_Standalone | RF_Transactional);
+	UUserDefinedStruct* const Struct = FStructureEditorUtils::CreateUserDefinedStruct(
+		Package, *FPackageName::GetShortName(Package), RF_Public | RF_Standalone | RF_Transactional);
 	FStructureEditorUtils::ChangeVariableType(Struct, FStructureEditorUtils::GetVarDesc(Struct)[0].VarGuid, MakeType(Schema_K2::PC_Int));
 	FStructureEditorUtils::RenameVariable(Struct, FStructureEditorUtils::GetVarDesc(Struct)[0].VarGuid, TEXT("Count"));
 	FStructureEditorUtils::AddVariable(Struct, MakeType(Schema_K2::PC_String));
@@ -235,7 +240,8 @@ TEST_F(FNodeReconstructionTest, SplitPinFollowsItsStructure)
 TEST_F(FNodeReconstructionTest, MakeAndBreakFollowTheirStructure)
 {
 	UPackage* const Package = CreatePackage(*(Blueprint->GetOutermost()->GetName() + TEXT("_M")));
-	UUserDefinedStruct* const Struct = FStructureEditorUtils::CreateUserDefinedStruct(Package, *FPackageName::GetShortName(Package), RF_Public | RF_Standalone | RF_Transactional);
+	UUserDefinedStruct* const Struct = FStructureEditorUtils::CreateUserDefinedStruct(
+		Package, *FPackageName::GetShortName(Package), RF_Public | RF_Standalone | RF_Transactional);
 	FStructureEditorUtils::ChangeVariableType(Struct, FStructureEditorUtils::GetVarDesc(Struct)[0].VarGuid, MakeType(Schema_K2::PC_Int));
 	UK2Node_MakeStruct* const Make = Add<UK2Node_MakeStruct>([Struct](UK2Node_MakeStruct& Node)
 		{ Node.StructType = Struct; });

@@ -52,7 +52,10 @@ protected:
 			{ Node.SetFromFunction(Function); });
 	}
 
-	static std::string TypeOf(const UEdGraphPin* Pin) { return Pin ? TCHAR_TO_UTF8(*Schema_K2::TypeToText(Pin->PinType).ToString()) : "no pin"; }
+	static std::string TypeOf(const UEdGraphPin* Pin)
+	{
+		return Pin ? TCHAR_TO_UTF8(*Schema_K2::TypeToText(Pin->PinType).ToString()) : "no pin";
+	}
 	static FName CategoryOf(const UEdGraphPin* Pin) { return Pin ? Pin->PinType.PinCategory : FName(); }
 };
 

@@ -78,8 +78,10 @@ TEST_F(FNodeVariadicTest, AddedPinsComeWithACopyAndOutliveReconstruction)
 {
 	UK2Node_Select* const Select = Add<UK2Node_Select>();
 	EXPECT_TRUE(Schema().TryCreateConnection(Integer(), Select->GetIndexPin()));
-	const TArray<UK2Node*> Nodes = {Add<UK2Node_ExecutionSequence>(), Add<UK2Node_MultiGate>(), Add<UK2Node_DoOnceMultiInput>(), Add<UK2Node_MakeArray>(), Add<UK2Node_MakeSet>(), Add<UK2Node_MakeMap>(),
-		Operator<UK2Node_CommutativeAssociativeBinaryOperator>(TEXT("BooleanOR")), Operator<UK2Node_PromotableOperator>(TEXT("Add_DoubleDouble")), Select};
+	const TArray<UK2Node*> Nodes = {Add<UK2Node_ExecutionSequence>(), Add<UK2Node_MultiGate>(), Add<UK2Node_DoOnceMultiInput>(),
+		Add<UK2Node_MakeArray>(), Add<UK2Node_MakeSet>(), Add<UK2Node_MakeMap>(),
+		Operator<UK2Node_CommutativeAssociativeBinaryOperator>(TEXT("BooleanOR")),
+		Operator<UK2Node_PromotableOperator>(TEXT("Add_DoubleDouble")), Select};
 	for (UK2Node* const Node : Nodes)
 	{
 		SCOPED_TRACE(TCHAR_TO_UTF8(*Node->GetClass()->GetName()));
@@ -223,7 +225,10 @@ TEST_F(FNodeVariadicTest, FunctionsOfMapsAndSetsTakeTheirContainersTypes)
 	AddToMap->ReconstructNode();
 	EXPECT_EQ(CategoryOf(AddToMap->FindPin(TEXT("Key"))), Schema_K2::PC_Name);
 	EXPECT_EQ(AddToMap->FindPin(TEXT("TargetMap"))->PinType.PinValueType.TerminalCategory, Schema_K2::PC_Int);
-	EXPECT_EQ(Schema().CanCreateConnection(Call(MathLibrary, TEXT("RandomUnitVector"))->GetReturnValuePin(), AddToMap->FindPin(TEXT("Value"))).Response, CONNECT_RESPONSE_DISALLOW);
+	EXPECT_EQ(Schema()
+				  .CanCreateConnection(Call(MathLibrary, TEXT("RandomUnitVector"))->GetReturnValuePin(), AddToMap->FindPin(TEXT("Value")))
+				  .Response,
+		CONNECT_RESPONSE_DISALLOW);
 	Schema().BreakPinLinks(*Map, true);
 	EXPECT_EQ(CategoryOf(AddToMap->FindPin(TEXT("Key"))), Schema_K2::PC_Wildcard);
 	EXPECT_EQ(CategoryOf(AddToMap->FindPin(TEXT("Value"))), Schema_K2::PC_Wildcard);
@@ -237,12 +242,17 @@ TEST_F(FNodeVariadicTest, FunctionsOfMapsAndSetsTakeTheirContainersTypes)
 
 TEST_F(FNodeVariadicTest, ElementDecidesTheArraysTypeAsWell)
 {
-	UK2Node_CallArrayFunction* const Find = Add<UK2Node_CallArrayFunction>([](UK2Node_CallArrayFunction& Node)
-		{ Node.SetFromFunction(FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetArrayLibrary"))->FindFunctionByName(TEXT("Array_Find"))); });
+	UK2Node_CallArrayFunction* const Find = Add<UK2Node_CallArrayFunction>(
+		[](UK2Node_CallArrayFunction& Node)
+		{
+			Node.SetFromFunction(
+				FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetArrayLibrary"))->FindFunctionByName(TEXT("Array_Find")));
+		});
 	ASSERT_TRUE(Schema().TryCreateConnection(Integer(), Find->FindPin(TEXT("ItemToFind"))));
 	EXPECT_EQ(CategoryOf(Find->GetTargetArrayPin()), Schema_K2::PC_Int);
 	EXPECT_TRUE(Find->GetTargetArrayPin()->PinType.IsArray());
-	EXPECT_EQ(Schema().CanCreateConnection(Variable(Schema_K2::PC_String, EPinContainerType::Array), Find->GetTargetArrayPin()).Response, CONNECT_RESPONSE_DISALLOW);
+	EXPECT_EQ(Schema().CanCreateConnection(Variable(Schema_K2::PC_String, EPinContainerType::Array), Find->GetTargetArrayPin()).Response,
+		CONNECT_RESPONSE_DISALLOW);
 	EXPECT_TRUE(Schema().TryCreateConnection(Variable(Schema_K2::PC_Int, EPinContainerType::Array), Find->GetTargetArrayPin()));
 }
 }

@@ -55,12 +55,15 @@ struct FAcceptedDifference
 
 const FAcceptedDifference AcceptedDifferences[] = {
 	{nullptr, nullptr, true, "default", "early engines wrote no generated defaults"},
-	{nullptr, nullptr, true, "sub-category", "engines before 5 had one kind of number with a point, which is loaded as the wider one until the node is reconstructed"},
+	{nullptr, nullptr, true, "sub-category",
+		"engines before 5 had one kind of number with a point, which is loaded as the wider one until the node is reconstructed"},
 	{TEXT("CallFunction"), TEXT("WorldContextObject"), true, "const", "the libraries declared their world contexts without const"},
 	{TEXT("CallFunction"), TEXT("Key"), true, "extra", "Print String had no key before engine 5"},
 	{TEXT("CallFunction"), TEXT("bFlushInput"), true, "extra", "the input modes had no choice of flushing input before engine 5"},
-	{TEXT("CallFunction"), TEXT("WorldContextObject"), false, "hidden", "a text does not say whether the Blueprint that it was copied from has a world"},
-	{TEXT("CallFunction"), TEXT("DrawDebugType"), false, "default", "this one text has the value without having generated it, unlike every other enumeration pin"},
+	{TEXT("CallFunction"), TEXT("WorldContextObject"), false, "hidden",
+		"a text does not say whether the Blueprint that it was copied from has a world"},
+	{TEXT("CallFunction"), TEXT("DrawDebugType"), false, "default",
+		"this one text has the value without having generated it, unlike every other enumeration pin"},
 };
 
 /** Why the definition of a real node is not here. */
@@ -82,7 +85,8 @@ const FMissingDefinition MissingDefinitions[] = {
 
 const char* FindReasonForMissing(const std::string& Identity)
 {
-	const FMissingDefinition* const Found = std::find_if(std::begin(MissingDefinitions), std::end(MissingDefinitions), [&Identity](const FMissingDefinition& Row)
+	const FMissingDefinition* const Found = std::find_if(std::begin(MissingDefinitions), std::end(MissingDefinitions),
+		[&Identity](const FMissingDefinition& Row)
 		{ return Identity.find(Row.Mark) != std::string::npos; });
 	return Found != std::end(MissingDefinitions) ? Found->Reason : nullptr;
 }
@@ -114,7 +118,8 @@ void ChooseClasses(const UK2Node& Sample, UK2Node& Fresh)
 {
 	for (const UEdGraphPin* const Pin : Sample.Pins)
 	{
-		UEdGraphPin* const Own = Pin->PinType.PinCategory == UEdGraphSchema_K2::PC_Class ? Fresh.FindPin(Pin->PinName, EGPD_Input) : nullptr;
+		UEdGraphPin* const Own = Pin->PinType.PinCategory == UEdGraphSchema_K2::PC_Class ? Fresh.FindPin(Pin->PinName, EGPD_Input)
+																						 : nullptr;
 		if (Own && Pin->DefaultObject && Pin->DefaultObject != Own->DefaultObject)
 		{
 			// Not by the schema, which would refuse a class of a project that is not here.
@@ -131,7 +136,8 @@ std::string DescribeIdentity(const UK2Node& Node)
 	std::string Identity = Blueprint ? ToUtf8(Blueprint->GetClass()->GetName()) : "";
 	for (TFieldIterator<FProperty> Property(Node.GetClass()); Property; ++Property)
 	{
-		const bool bIsIdentity = Property->GetOwnerClass()->IsChildOf(UK2Node::StaticClass()) && Property->GetOwnerClass() != UK2Node::StaticClass();
+		const bool bIsIdentity = Property->GetOwnerClass()->IsChildOf(UK2Node::StaticClass()) &&
+			Property->GetOwnerClass() != UK2Node::StaticClass();
 		if (bIsIdentity && !Property->Identical_InContainer(&Node, Node.GetClass()->GetDefaultObject()))
 		{
 			FString Text;
@@ -189,15 +195,20 @@ FFields Describe(const UEdGraphPin& Pin)
 /** A type that links decided is a wildcard on the fresh node, and has no default yet. */
 bool IsDecidedByLinks(const UEdGraphPin& Fresh, const std::string& Field)
 {
-	static const std::set<std::string> OfType = {"category", "sub-category", "object", "member", "container", "value category", "const", "reference", "default"};
+	static const std::set<std::string> OfType = {
+		"category", "sub-category", "object", "member", "container", "value category", "const", "reference", "default"};
 	return Fresh.PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard && OfType.contains(Field);
 }
 
 const FAcceptedDifference* FindAccepted(const UK2Node& Node, const UEdGraphPin& Pin, const std::string& Field, const bool bIsOldPackage)
 {
 	const FString Class = Node.GetClass()->GetName().Replace(TEXT("K2Node_"), TEXT(""));
-	const FAcceptedDifference* const Found = std::find_if(std::begin(AcceptedDifferences), std::end(AcceptedDifferences), [&](const FAcceptedDifference& Row)
-		{ return (!Row.Class || Class == Row.Class) && (!Row.Pin || Pin.PinName == FName(Row.Pin)) && (!Row.bOldPackages || bIsOldPackage) && Field == Row.What; });
+	const FAcceptedDifference* const Found = std::find_if(std::begin(AcceptedDifferences), std::end(AcceptedDifferences),
+		[&](const FAcceptedDifference& Row)
+		{
+			return (!Row.Class || Class == Row.Class) && (!Row.Pin || Pin.PinName == FName(Row.Pin)) &&
+				(!Row.bOldPackages || bIsOldPackage) && Field == Row.What;
+		});
 	return Found != std::end(AcceptedDifferences) ? Found : nullptr;
 }
 
@@ -307,7 +318,8 @@ FLoadedSample::~FLoadedSample()
 	// The same names are needed for the next version of the sample.
 	for (UPackage* const Package : FindLoadedPackages())
 	{
-		Package->Rename(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), TEXT("/Temp/Sample")).ToString(), nullptr, REN_DontCreateRedirectors | REN_NonTransactional);
+		Package->Rename(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), TEXT("/Temp/Sample")).ToString(), nullptr,
+			REN_DontCreateRedirectors | REN_NonTransactional);
 	}
 	std::error_code Ignored;
 	std::filesystem::remove_all(Copied, Ignored);
@@ -340,7 +352,8 @@ void FNodeComparison::Compare(UK2Node& Sample, const bool bIsOldPackage)
 	const UK2Node* const Fresh = MakeFresh(Sample);
 	++Result.NumCompared;
 	const size_t Before = Differences.size();
-	const std::string Title = ToUtf8(Sample.GetClass()->GetName() + TEXT(" '") + Sample.GetNodeTitle(ENodeTitleType::ListView).ToString() + TEXT("'"));
+	const std::string Title = ToUtf8(
+		Sample.GetClass()->GetName() + TEXT(" '") + Sample.GetNodeTitle(ENodeTitleType::ListView).ToString() + TEXT("'"));
 	for (const UEdGraphPin* const Pin : Sample.Pins)
 	{
 		const UEdGraphPin* const Own = IsDeclared(*Pin) ? Fresh->FindPin(Pin->PinName, Pin->Direction) : nullptr;
@@ -362,7 +375,8 @@ void FNodeComparison::Compare(UK2Node& Sample, const bool bIsOldPackage)
 				Result.Accepted.insert(Accepted->Reason);
 				continue;
 			}
-			Differences.push_back(Title + " pin " + ToUtf8(Pin->PinName.ToString()) + ": " + Field + " is '" + Actual[Index].second + "', the editor's is '" + Expected[Index].second + "'");
+			Differences.push_back(Title + " pin " + ToUtf8(Pin->PinName.ToString()) + ": " + Field + " is '" + Actual[Index].second +
+				"', the editor's is '" + Expected[Index].second + "'");
 		}
 	}
 	for (const UEdGraphPin* const Pin : Fresh->Pins)

@@ -22,7 +22,8 @@ protected:
 	static bool IsOfEngine4(const std::filesystem::path& Path)
 	{
 		const std::string Text = Path.string();
-		return Text.find("UE4") != std::string::npos || Text.find("AirSim") != std::string::npos || Text.find("WBP_TimeOfDay") != std::string::npos;
+		return Text.find("UE4") != std::string::npos || Text.find("AirSim") != std::string::npos ||
+			Text.find("WBP_TimeOfDay") != std::string::npos;
 	}
 
 	/** What reconstruction must not change of a pin. */
@@ -33,10 +34,11 @@ protected:
 		{
 			Links += TEXT(" ") + Linked->GetOwningNode()->GetName() + TEXT(".") + Linked->PinName.ToString();
 		}
-		return TCHAR_TO_UTF8(*FString::Printf(TEXT("%s %s %s/%s/%s container %d hidden %d orphaned %d = '%s' %s links%s"), *Pin.PinId.ToString(), *Pin.PinName.ToString(),
-			*Pin.PinType.PinCategory.ToString(), *Pin.PinType.PinSubCategory.ToString(), *GetPathNameSafe(Pin.PinType.PinSubCategoryObject.Get()),
-			static_cast<int32>(Pin.PinType.ContainerType), static_cast<int32>(Pin.bHidden && Pin.PinName != TEXT("WorldContextObject")), static_cast<int32>(Pin.bOrphanedPin), Pin.bHidden ? TEXT("") : *Pin.GetDefaultAsString(),
-			*Pin.PinType.PinSubCategoryMemberReference.MemberName.ToString(), *Links));
+		return TCHAR_TO_UTF8(*FString::Printf(TEXT("%s %s %s/%s/%s container %d hidden %d orphaned %d = '%s' %s links%s"),
+			*Pin.PinId.ToString(), *Pin.PinName.ToString(), *Pin.PinType.PinCategory.ToString(), *Pin.PinType.PinSubCategory.ToString(),
+			*GetPathNameSafe(Pin.PinType.PinSubCategoryObject.Get()), static_cast<int32>(Pin.PinType.ContainerType),
+			static_cast<int32>(Pin.bHidden && Pin.PinName != TEXT("WorldContextObject")), static_cast<int32>(Pin.bOrphanedPin),
+			Pin.bHidden ? TEXT("") : *Pin.GetDefaultAsString(), *Pin.PinType.PinSubCategoryMemberReference.MemberName.ToString(), *Links));
 	}
 
 	static std::vector<std::string> DescribeKept(const UK2Node& Node)

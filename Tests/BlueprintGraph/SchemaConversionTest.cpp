@@ -203,8 +203,9 @@ TEST_F(FSchemaConversionTest, EachPairOfTypesHasItsAnswer)
 		const int32 NumNodes = Graph->Nodes.Num();
 		const std::string Answer = Case.Answer;
 		const FPinConnectionResponse Response = Schema().CanCreateConnection(&Output, &Input);
-		const ECanCreateConnectionResponse Expected = Answer == "yes" ? CONNECT_RESPONSE_MAKE : Answer == "no" ? CONNECT_RESPONSE_DISALLOW
-																											   : CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE;
+		const ECanCreateConnectionResponse Expected = Answer == "yes" ? CONNECT_RESPONSE_MAKE
+			: Answer == "no"                                          ? CONNECT_RESPONSE_DISALLOW
+																	  : CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE;
 		EXPECT_EQ(Response.Response.GetValue(), Expected);
 		// The answer does not depend on the pin that the drag starts from.
 		EXPECT_EQ(Schema().CanCreateConnection(&Input, &Output).Response.GetValue(), Expected);
@@ -239,9 +240,11 @@ TEST_F(FSchemaConversionTest, ObjectsAreCastDownOnlyWhenTheUserWantsIt)
 {
 	UEdGraphPin& Actor = MakePin(EGPD_Output, "object Actor");
 	UEdGraphPin& Character = MakePin(EGPD_Input, "object Character");
-	EXPECT_EQ(Schema().CanCreateConnection(&Actor, &Character).Message.ToString(), FString(TEXT("Actor Object Reference is not compatible with Character Object Reference.")));
+	EXPECT_EQ(Schema().CanCreateConnection(&Actor, &Character).Message.ToString(),
+		FString(TEXT("Actor Object Reference is not compatible with Character Object Reference.")));
 	GetMutableDefault<UBlueprintEditorSettings>()->bAutoCastObjectConnections = true;
-	EXPECT_EQ(Schema().CanCreateConnection(&Actor, &Character).Message.ToString(), FString(TEXT("Convert Actor Object Reference to Character Object Reference.")));
+	EXPECT_EQ(Schema().CanCreateConnection(&Actor, &Character).Message.ToString(),
+		FString(TEXT("Convert Actor Object Reference to Character Object Reference.")));
 	ASSERT_TRUE(Schema().TryCreateConnection(&Actor, &Character));
 	const UK2Node_DynamicCast* const Between = Cast<UK2Node_DynamicCast>(Character.LinkedTo[0]->GetOwningNode());
 	ASSERT_NE(Between, nullptr);
@@ -291,7 +294,8 @@ TEST_F(FSchemaConversionTest, ConversionStandsBetweenAndTakesTheFormerLinksPlace
 
 TEST_F(FSchemaConversionTest, OperatorWidensToItsNewOperand)
 {
-	const UFunction* const Function = FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetMathLibrary"))->FindFunctionByName(TEXT("Add_IntInt"));
+	const UFunction* const Function =
+		FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetMathLibrary"))->FindFunctionByName(TEXT("Add_IntInt"));
 	UK2Node_PromotableOperator* const Add = FSchemaFixture::Add<UK2Node_PromotableOperator>([Function](UK2Node_PromotableOperator& Node)
 		{ Node.SetFromFunction(Function); });
 	ASSERT_TRUE(Schema().TryCreateConnection(&MakePin(EGPD_Output, "int"), Add->FindPinChecked(TEXT("A"))));
@@ -304,7 +308,8 @@ TEST_F(FSchemaConversionTest, OperatorWidensToItsNewOperand)
 	EXPECT_EQ(Number.LinkedTo[0], Add->FindPin(TEXT("B")));
 	EXPECT_EQ(Add->GetFunctionName(), FName(TEXT("Add_DoubleDouble")));
 	// A value that widens to what the operator has needs no promotion of the operator.
-	EXPECT_EQ(Schema().CanCreateConnection(&MakePin(EGPD_Output, "int"), Add->FindPinChecked(TEXT("B"))).Response, CONNECT_RESPONSE_BREAK_OTHERS_B);
+	EXPECT_EQ(Schema().CanCreateConnection(&MakePin(EGPD_Output, "int"), Add->FindPinChecked(TEXT("B"))).Response,
+		CONNECT_RESPONSE_BREAK_OTHERS_B);
 }
 
 TEST_F(FSchemaConversionTest, SelfIsOfTheBlueprintsClass)

@@ -94,7 +94,8 @@ TEST_F(FSchemaDefaultsTest, EntriesOfEnumerationsAreTakenByAnyOfTheirNames)
 	UEdGraphPin& Pin = MakePin(EGPD_Input, "byte ECollisionChannel");
 	const UEnum* const Enum = Cast<UEnum>(Pin.PinType.PinSubCategoryObject.Get());
 	const int32 Index = Enum->GetIndexByNameString(TEXT("ECC_WorldDynamic"));
-	for (const FString& Name : {FString(TEXT("ECC_WorldDynamic")), FString(TEXT("ECollisionChannel::ECC_WorldDynamic")), Enum->GetDisplayNameTextByIndex(Index).ToString()})
+	for (const FString& Name : {FString(TEXT("ECC_WorldDynamic")), FString(TEXT("ECollisionChannel::ECC_WorldDynamic")),
+			 Enum->GetDisplayNameTextByIndex(Index).ToString()})
 	{
 		Pin.DefaultValue.Empty();
 		Schema().TrySetDefaultValue(Pin, Name);
@@ -118,7 +119,8 @@ TEST_F(FSchemaDefaultsTest, ObjectsAndClassesMustBeWhatThePinAsksFor)
 		{"class Actor", Blueprint, "Literal on pin Pin is not a class."},
 		{"object Blueprint", Blueprint, ""},
 		{"object Actor", AActor::StaticClass()->GetDefaultObject(), ""},
-		{"object Character", AActor::StaticClass()->GetDefaultObject(), "/Script/Engine.Default__Actor isn't a Character (specified on pin Pin)"},
+		{"object Character", AActor::StaticClass()->GetDefaultObject(),
+			"/Script/Engine.Default__Actor isn't a Character (specified on pin Pin)"},
 		{"object Actor", nullptr, ""},
 	};
 	for (const FCase& Case : Cases)
@@ -176,7 +178,8 @@ TEST_F(FSchemaDefaultsTest, ParametersByReferenceTakeDefaultsWhereTheFunctionSay
 		UEdGraphSchema_K2::GetAutoEmitTermParameters(Function, Names);
 		EXPECT_EQ(UEdGraphSchema_K2::IsAutoCreateRefTerm(Pin), Names.Contains(Pin->PinName.ToString()));
 	}
-	UFunction* const Function = FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetSystemLibrary"))->FindFunctionByName(TEXT("LineTraceSingle"));
+	UFunction* const Function =
+		FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetSystemLibrary"))->FindFunctionByName(TEXT("LineTraceSingle"));
 	TArray<FString> Names;
 	UEdGraphSchema_K2::GetAutoEmitTermParameters(Function, Names);
 	EXPECT_TRUE(Names.Contains(TEXT("ActorsToIgnore")));
@@ -207,9 +210,11 @@ TEST_F(FSchemaDefaultsTest, PropertiesOfFunctionsBecomeThePinTypesOfTheirParamet
 	{
 		const UFunction* const Function = FindObject<UClass>(nullptr, Case.Class)->FindFunctionByName(Case.Function);
 		ASSERT_NE(Function, nullptr) << TCHAR_TO_UTF8(Case.Function);
-		EXPECT_EQ(std::string(TCHAR_TO_UTF8(*UEdGraphSchema_K2::TypeToText(Function->FindPropertyByName(Case.Parameter)).ToString())), Case.Text);
+		EXPECT_EQ(
+			std::string(TCHAR_TO_UTF8(*UEdGraphSchema_K2::TypeToText(Function->FindPropertyByName(Case.Parameter)).ToString())), Case.Text);
 	}
-	EXPECT_EQ(UEdGraphSchema_K2::TypeToText(Type("map name object Actor")).ToString(), FString(TEXT("Map of Names to Actor Object References")));
+	EXPECT_EQ(
+		UEdGraphSchema_K2::TypeToText(Type("map name object Actor")).ToString(), FString(TEXT("Map of Names to Actor Object References")));
 	EXPECT_EQ(UEdGraphSchema_K2::TypeToText(Type("ref struct Vector")).ToString(), FString(TEXT("Vector (by ref)")));
 	EXPECT_EQ(UEdGraphSchema_K2::TypeToText(Type("set of string")).ToString(), FString(TEXT("Set of Strings")));
 }

@@ -7,7 +7,10 @@
 #include <sstream>
 #include <string>
 
-/** A graph with pins of any type: "int", "real double", "byte ECollisionChannel", "array of object Actor", "map name int", "ref struct Vector". */
+/**
+ * A graph with pins of any type: "int", "real double", "byte ECollisionChannel", "array of object Actor", "map name int", "ref struct
+ * Vector".
+ */
 class FSchemaFixture : public FGraphTest
 {
 protected:

@@ -72,7 +72,8 @@ TEST_F(FSchemaLinksTest, CallTakesManyTargetsOrOneArrayOfThem)
 	EXPECT_EQ(Schema().CanCreateConnection(&Single, Target).Response, CONNECT_RESPONSE_BREAK_OTHERS_B);
 	EXPECT_EQ(Schema().CanCreateConnection(&MakePin(EGPD_Output, "set of object Actor"), Target).Response, CONNECT_RESPONSE_DISALLOW);
 	// A function with a result has one target.
-	UEdGraphPin* const OneTarget = Call(TEXT("/Script/Engine.Actor"), TEXT("K2_GetActorLocation"))->FindPinChecked(UEdGraphSchema_K2::PN_Self);
+	UEdGraphPin* const OneTarget =
+		Call(TEXT("/Script/Engine.Actor"), TEXT("K2_GetActorLocation"))->FindPinChecked(UEdGraphSchema_K2::PN_Self);
 	EXPECT_EQ(Schema().CanCreateConnection(&Array, OneTarget).Response, CONNECT_RESPONSE_DISALLOW);
 }
 
@@ -111,9 +112,11 @@ TEST_F(FSchemaLinksTest, WhatCannotBeLinkedSaysWhyAndChangesNothing)
 
 TEST_F(FSchemaLinksTest, StructWithMoreMembersIsRefusedWithItsOwnReason)
 {
-	const FPinConnectionResponse Response = Schema().CanCreateConnection(&MakePin(EGPD_Output, "struct Plane"), &MakePin(EGPD_Input, "struct Vector"));
+	const FPinConnectionResponse Response = Schema().CanCreateConnection(
+		&MakePin(EGPD_Output, "struct Plane"), &MakePin(EGPD_Input, "struct Vector"));
 	EXPECT_EQ(Response.Response, CONNECT_RESPONSE_DISALLOW);
-	EXPECT_EQ(Response.Message.ToString(), FString(TEXT("Only exactly matching structures are considered compatible. Derived structures are disallowed.")));
+	EXPECT_EQ(Response.Message.ToString(),
+		FString(TEXT("Only exactly matching structures are considered compatible. Derived structures are disallowed.")));
 	// A function of the library takes the part that the other wants.
 	EXPECT_EQ(Schema().CanCreateConnection(&MakePin(EGPD_Output, "struct KeyEvent"), &MakePin(EGPD_Input, "struct InputEvent")).Response,
 		CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE);

@@ -43,7 +43,8 @@ protected:
 	static TArray<UEdGraph*> GetAll()
 	{
 		TArray<UEdGraph*> Graphs;
-		for (const TCHAR* const Path : {TEXT("/Engine/EditorBlueprintResources/StandardMacros.StandardMacros"), TEXT("/Engine/EditorBlueprintResources/ActorMacros.ActorMacros")})
+		for (const TCHAR* const Path : {TEXT("/Engine/EditorBlueprintResources/StandardMacros.StandardMacros"),
+				 TEXT("/Engine/EditorBlueprintResources/ActorMacros.ActorMacros")})
 		{
 			const UBlueprint* const Library = FindObject<UBlueprint>(nullptr, Path);
 			for (UEdGraph* const Macro : Library ? Library->MacroGraphs : TArray<TObjectPtr<UEdGraph>>())
@@ -77,13 +78,15 @@ TEST_F(FStandardMacrosTest, EveryMacroIsWiredFromItsInputsToItsOutputs)
 		for (const UEdGraphNode* const Node : Macro->Nodes)
 		{
 			const UK2Node* const K2 = CastChecked<UK2Node>(Node);
-			EXPECT_TRUE(K2->IsNodePure() || Reached.contains(Node)) << "is never executed: " << TCHAR_TO_UTF8(*Node->GetNodeTitle(ENodeTitleType::ListView).ToString());
+			EXPECT_TRUE(K2->IsNodePure() || Reached.contains(Node))
+				<< "is never executed: " << TCHAR_TO_UTF8(*Node->GetNodeTitle(ENodeTitleType::ListView).ToString());
 			for (const UEdGraphPin* const Pin : Node->Pins)
 			{
 				for (const UEdGraphPin* const Linked : Pin->LinkedTo)
 				{
 					EXPECT_TRUE(Linked->LinkedTo.Contains(const_cast<UEdGraphPin*>(Pin)));
-					EXPECT_TRUE(Schema().ArePinsCompatible(Pin, Linked)) << TCHAR_TO_UTF8(*Pin->GetName()) << " and " << TCHAR_TO_UTF8(*Linked->GetName());
+					EXPECT_TRUE(Schema().ArePinsCompatible(Pin, Linked))
+						<< TCHAR_TO_UTF8(*Pin->GetName()) << " and " << TCHAR_TO_UTF8(*Linked->GetName());
 				}
 			}
 		}

@@ -3,8 +3,6 @@
 #include "K2Node_FunctionResult.h"
 #include "K2Node_FunctionTerminator.h"
 #include "K2Node_VariableGet.h"
-#include "Kismet2/CompilerResultsLog.h"
-#include "Logging/TokenizedMessage.h"
 #include "UObject/Interface.h"
 #include "UObject/UnrealType.h"
 
@@ -24,20 +22,6 @@ protected:
 	{
 		return AddNode<UK2Node_VariableGet>(FBlueprintEditorUtils::FindEventGraph(To), [&](UK2Node_VariableGet& Node)
 			{ Node.VariableReference.SetExternalMember(Variable, Of); });
-	}
-
-	/** The texts of the errors of a compile, a line each. */
-	static FString CompileForErrors(UBlueprint* ToCompile)
-	{
-		FCompilerResultsLog Results(false);
-		Results.bSilentMode = true;
-		FKismetEditorUtilities::CompileBlueprint(ToCompile, EBlueprintCompileOptions::None, &Results);
-		FString Lines;
-		for (const TSharedRef<FTokenizedMessage>& Message : Results.Messages)
-		{
-			Lines += Message->GetSeverity() == EMessageSeverity::Error ? Message->ToText().ToString() + TEXT("|") : FString();
-		}
-		return Lines;
 	}
 
 	static FTopLevelAssetPath PathOf(const UBlueprint* Interface) { return FTopLevelAssetPath(Interface->GeneratedClass.Get()); }

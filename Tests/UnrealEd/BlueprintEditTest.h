@@ -9,7 +9,9 @@
 #include "GameFramework/Actor.h"
 #include "K2Node_CallFunction.h"
 #include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/CompilerResultsLog.h"
 #include "Kismet2/KismetEditorUtilities.h"
+#include "Logging/TokenizedMessage.h"
 #include "Misc/Guid.h"
 #include "ScopedTransaction.h"
 #include "UObject/Package.h"
@@ -71,6 +73,34 @@ protected:
 			FBlueprintEditorUtils::CreateNewGraph(ToBlueprint, FName(Name), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 		FBlueprintEditorUtils::AddFunctionGraph<UClass>(ToBlueprint, NewGraph, true, nullptr);
 		return NewGraph;
+	}
+
+	/** The texts of what a compile says with at least the severity, a line each. */
+	static TArray<FString> Compile(UBlueprint* ToCompile, EMessageSeverity::Type Least = EMessageSeverity::Info)
+	{
+		FCompilerResultsLog Results(false);
+		Results.bSilentMode = true;
+		FKismetEditorUtilities::CompileBlueprint(ToCompile, EBlueprintCompileOptions::None, &Results);
+		TArray<FString> Lines;
+		for (const TSharedRef<FTokenizedMessage>& Message : Results.Messages)
+		{
+			if (Message->GetSeverity() <= Least)
+			{
+				Lines.Add(Message->ToText().ToString());
+			}
+		}
+		return Lines;
+	}
+
+	/** The errors of a compile, each with a bar behind it. */
+	static FString CompileForErrors(UBlueprint* ToCompile)
+	{
+		FString Lines;
+		for (const FString& Line : Compile(ToCompile, EMessageSeverity::Error))
+		{
+			Lines += Line + TEXT("|");
+		}
+		return Lines;
 	}
 
 	static bool Undo() { return GEditor->UndoTransaction(); }

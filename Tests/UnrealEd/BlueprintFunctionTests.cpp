@@ -1,8 +1,7 @@
 #include "BlueprintEditTest.h"
+#include "BlueprintText.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_FunctionEntry.h"
-#include "Kismet2/CompilerResultsLog.h"
-#include "Logging/TokenizedMessage.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -24,19 +23,6 @@ protected:
 	{
 		return AddNode<UK2Node_CallFunction>(ToGraph, [Function](UK2Node_CallFunction& Node)
 			{ Node.SetFromFunction(Function); });
-	}
-
-	static FString CompileForErrors(UBlueprint* ToCompile)
-	{
-		FCompilerResultsLog Results(false);
-		Results.bSilentMode = true;
-		FKismetEditorUtilities::CompileBlueprint(ToCompile, EBlueprintCompileOptions::None, &Results);
-		FString Lines;
-		for (const TSharedRef<FTokenizedMessage>& Message : Results.Messages)
-		{
-			Lines += Message->ToText().ToString() + TEXT("|");
-		}
-		return Lines;
 	}
 };
 
@@ -84,7 +70,7 @@ TEST_F(FBlueprintFunctionTest, WhatIsDeclaredOfAFunctionReachesItsCalls)
 	FBlueprintEditorUtils::RefreshAllNodes(Blueprint);
 	ASSERT_NE(Call->GetExecPin(), nullptr) << "the call follows the function";
 	Graph->Nodes[0]->FindPin(UEdGraphSchema_K2::PN_Then)->MakeLinkTo(Call->GetExecPin());
-	EXPECT_TRUE(CompileForErrors(Blueprint).Contains(TEXT("is deprecated. Use Unlock.")));
+	EXPECT_TRUE(FString::Join(Compile(Blueprint), TEXT("|")).Contains(TEXT("is deprecated. Use Unlock.")));
 }
 
 TEST_F(FBlueprintFunctionTest, ACustomEventsDefaultsAndFlagsAreItsFunctions)
@@ -100,7 +86,7 @@ TEST_F(FBlueprintFunctionTest, ACustomEventsDefaultsAndFlagsAreItsFunctions)
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	const UFunction* const Function = Blueprint->GeneratedClass->FindFunctionByName(TEXT("Knock"));
 	ASSERT_NE(Function, nullptr);
-	EXPECT_TRUE(Function->HasAllFunctionFlags(FUNC_Event | FUNC_Net | FUNC_NetServer | FUNC_NetReliable | FUNC_BlueprintCallable));
+	EXPECT_TRUE(Function->HasAllFunctionFlags(FUNC_BlueprintEvent | FUNC_Net | FUNC_NetServer | FUNC_NetReliable | FUNC_BlueprintCallable));
 	EXPECT_EQ(Function->GetMetaData(TEXT("CallInEditor")), TEXT("true"));
 	EXPECT_EQ(AddCallOf(Graph, Function)->FindPin(TEXT("Times"))->DefaultValue, TEXT("3"));
 }
@@ -166,5 +152,57 @@ TEST_F(FBlueprintFunctionTest, CallsFollowTheParametersAndAnUndoTakesBothBack)
 	EXPECT_EQ(Call->FindPin(TEXT("Width")), nullptr);
 	Redo();
 	EXPECT_NE(Call->FindPin(TEXT("Width")), nullptr);
+}
+
+TEST_F(FBlueprintFunctionTest, CallsAndOverridesInOtherBlueprintsFollowAndTheUndoTakesAllBackThoughTheyWereCompiled)
+{
+	UEdGraph* const Function = AddFunction(Blueprint, TEXT("Open"));
+	UK2Node_FunctionEntry* const Entry = GetEntry(Function);
+	Entry->CreateUserDefinedPin(TEXT("Width"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+	Entry->CreateUserDefinedPin(TEXT("Height"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	UBlueprint* const Child = MakeBlueprint(TEXT("BP_Child"), Blueprint->GeneratedClass.Get());
+	UEdGraph* const Override =
+		FBlueprintEditorUtils::CreateNewGraph(Child, TEXT("Open"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	FBlueprintEditorUtils::AddFunctionGraph(Child, Override, false, Blueprint->GeneratedClass.Get());
+	UBlueprint* const Other = MakeBlueprint(TEXT("BP_Other"));
+	UEdGraph* const Page = FBlueprintEditorUtils::FindEventGraph(Other);
+	const UK2Node_CallFunction* const Call = AddCallOf(Page, Blueprint->GeneratedClass->FindFunctionByName(TEXT("Open")));
+	UK2Node_CallFunction* const Giver = AddCall(Page, TEXT("/Script/Engine.KismetMathLibrary"), TEXT("RandomInteger"));
+	ASSERT_TRUE(Page->GetSchema()->TryCreateConnection(Giver->GetReturnValuePin(), Call->FindPin(TEXT("Height"))));
+	Call->FindPin(TEXT("Width"))->DefaultValue = TEXT("7");
+	for (UBlueprint* const User : {Child, Other})
+	{
+		FKismetEditorUtilities::CompileBlueprint(User);
+		User->GetPackage()->SetDirtyFlag(false);
+	}
+	GEditor->ResetTransaction(Title(TEXT("Test")));
+	const FString ChildBefore = FBlueprintText::Take(*Child);
+	const FString OtherBefore = FBlueprintText::Take(*Other);
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Edit")));
+		Entry->RemoveUserDefinedPinByName(TEXT("Width"));
+		Entry->RemoveUserDefinedPinByName(TEXT("Height"));
+		Entry->CreateUserDefinedPin(TEXT("Depth"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Blueprint);
+	}
+	EXPECT_NE(Call->FindPin(TEXT("Depth")), nullptr);
+	ASSERT_NE(Call->FindPin(TEXT("Height")), nullptr);
+	EXPECT_TRUE(Call->FindPin(TEXT("Height"))->bOrphanedPin) << "its link is not lost";
+	EXPECT_NE(FBlueprintEditorUtils::GetEntryNode(Override)->FindPin(TEXT("Depth")), nullptr);
+	EXPECT_TRUE(Child->GetPackage()->IsDirty());
+	EXPECT_TRUE(Other->GetPackage()->IsDirty());
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	const FString ChildAfter = FBlueprintText::Take(*Child);
+	const FString OtherAfter = FBlueprintText::Take(*Other);
+	Undo();
+	EXPECT_EQ(DescribeDifference(ChildBefore, FBlueprintText::Take(*Child)), FString());
+	EXPECT_EQ(DescribeDifference(OtherBefore, FBlueprintText::Take(*Other)), FString());
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	EXPECT_EQ(DescribeDifference(OtherBefore, FBlueprintText::Take(*Other)), FString());
+	EXPECT_EQ(Other->Status, BS_UpToDate);
+	Redo();
+	EXPECT_EQ(DescribeDifference(ChildAfter, FBlueprintText::Take(*Child)), FString());
+	EXPECT_EQ(DescribeDifference(OtherAfter, FBlueprintText::Take(*Other)), FString());
 }
 }

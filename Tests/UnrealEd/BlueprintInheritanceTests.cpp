@@ -31,7 +31,10 @@ protected:
 		return Type;
 	}
 
-	static FIntProperty* FindInt(const UBlueprint& Blueprint, const TCHAR* Name) { return FindFProperty<FIntProperty>(Blueprint.GeneratedClass.Get(), Name); }
+	static FIntProperty* FindInt(const UBlueprint& Blueprint, const TCHAR* Name)
+	{
+		return FindFProperty<FIntProperty>(Blueprint.GeneratedClass.Get(), Name);
+	}
 
 	/** The value of the class defaults; -1 without such a variable. */
 	static int32 GetDefault(const UBlueprint& Blueprint, const TCHAR* Name)
@@ -72,7 +75,8 @@ TEST_F(FBlueprintInheritanceTest, NamesOfAParentsMembersAreTakenInTheChild)
 {
 	UBlueprint* const Parent = MakeBlueprint(TEXT("BP_NamesParent"));
 	FBlueprintEditorUtils::AddMemberVariable(Parent, FName(TEXT("Speed")), IntType());
-	UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(Parent, FName(TEXT("Run")), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(
+		Parent, FName(TEXT("Run")), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Parent, Graph, true, nullptr);
 	FKismetEditorUtilities::CompileBlueprint(Parent);
 	UBlueprint* const Child = MakeBlueprint(TEXT("BP_NamesChild"), Parent->GeneratedClass.Get());

@@ -28,8 +28,10 @@ TEST_F(FBlueprintPackageTest, NodesOfEveryEngineVersionAreReadToTheirLastByteAnd
 			continue;
 		}
 		SCOPED_TRACE(Entry.path().string());
-		const FString Name = FString(UTF8_TO_TCHAR((Entry.path().parent_path().filename().string() + "_" + Entry.path().stem().string()).c_str()));
-		UPackage* const Package = CreatePackage(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), FName(*(TEXT("/Temp/") + Name))).ToString());
+		const FString Name = FString(
+			UTF8_TO_TCHAR((Entry.path().parent_path().filename().string() + "_" + Entry.path().stem().string()).c_str()));
+		UPackage* const Package = CreatePackage(
+			*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), FName(*(TEXT("/Temp/") + Name))).ToString());
 		FString Error;
 		const TUniquePtr<FLinkerLoad> Linker = FLinkerLoad::Create(FString(UTF8_TO_TCHAR(Entry.path().c_str())), Package, Error);
 		ASSERT_TRUE(Linker) << TCHAR_TO_UTF8(*Error);

@@ -74,7 +74,8 @@ TEST_F(FBlueprintSaveTest, ASaveThatRunsOutOfSpaceKeepsTheOldFileAndLeavesNoOthe
 TEST_F(FBlueprintSaveTest, AnAssetWithoutAPlaceOnDiskIsNotSavedAndStaysDirty)
 {
 	UPackage* const Package = CreatePackage(TEXT("/NoSuchMount/BP_Nowhere"));
-	UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), Package, TEXT("BP_Nowhere"), BPTYPE_Normal);
+	UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(
+		AActor::StaticClass(), Package, TEXT("BP_Nowhere"), BPTYPE_Normal);
 	EXPECT_FALSE(UEditorAssetLibrary::SaveLoadedAsset(Blueprint));
 	EXPECT_TRUE(Log.Contains("SaveLoadedAsset failed: '/NoSuchMount/BP_Nowhere' has no place on disk.")) << Log.ToText();
 	EXPECT_TRUE(Package->IsDirty());
@@ -89,7 +90,8 @@ TEST_F(FBlueprintSaveTest, EverySpellingOfAPathFindsTheAsset)
 	{
 		EXPECT_EQ(UEditorAssetLibrary::LoadAsset(Path), Blueprint) << TCHAR_TO_UTF8(Path);
 	}
-	for (const TCHAR* const Path : {TEXT(""), TEXT("BP_Spelt"), TEXT("/Game/Save/"), TEXT("/Game/Save/BP_Spelt.Other"), TEXT("/Game/../BP_Spelt"), TEXT("'")})
+	for (const TCHAR* const Path :
+		{TEXT(""), TEXT("BP_Spelt"), TEXT("/Game/Save/"), TEXT("/Game/Save/BP_Spelt.Other"), TEXT("/Game/../BP_Spelt"), TEXT("'")})
 	{
 		EXPECT_EQ(UEditorAssetLibrary::LoadAsset(Path), nullptr) << TCHAR_TO_UTF8(Path);
 	}

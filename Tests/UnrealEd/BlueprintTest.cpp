@@ -49,7 +49,8 @@ TEST_F(FBlueprintTest, ANewBlueprintHasItsClassesDefaultsAndGraphs)
 TEST_F(FBlueprintTest, AVariableBecomesAPropertyAndKeepsItsValueThroughRenameAndRetype)
 {
 	UBlueprint* const Blueprint = MakeBlueprint(TEXT("BP_Variables"));
-	ASSERT_TRUE(FBlueprintEditorUtils::AddMemberVariable(Blueprint, FName(TEXT("Health")), MakeType(UEdGraphSchema_K2::PC_Int), TEXT("42")));
+	ASSERT_TRUE(
+		FBlueprintEditorUtils::AddMemberVariable(Blueprint, FName(TEXT("Health")), MakeType(UEdGraphSchema_K2::PC_Int), TEXT("42")));
 	EXPECT_FALSE(FBlueprintEditorUtils::AddMemberVariable(Blueprint, FName(TEXT("health")), MakeType(UEdGraphSchema_K2::PC_Int)));
 	EXPECT_FALSE(FBlueprintEditorUtils::AddMemberVariable(Blueprint, FName(TEXT("bHidden")), MakeType(UEdGraphSchema_K2::PC_Boolean)));
 	EXPECT_NE(FindFProperty<FIntProperty>(Blueprint->SkeletonGeneratedClass.Get(), TEXT("Health")), nullptr);
@@ -121,7 +122,8 @@ TEST_F(FBlueprintTest, AChildFollowsItsParentsLayout)
 TEST_F(FBlueprintTest, AFunctionGraphBecomesAFunctionAndItsNameIsTaken)
 {
 	UBlueprint* const Blueprint = MakeBlueprint(TEXT("BP_Functions"));
-	UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(Blueprint, FName(TEXT("Open")), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(
+		Blueprint, FName(TEXT("Open")), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Blueprint, Graph, true, nullptr);
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	EXPECT_NE(Blueprint->GeneratedClass->FindFunctionByName(FName(TEXT("Open"))), nullptr);
@@ -138,7 +140,8 @@ TEST_F(FBlueprintTest, AFunctionGraphBecomesAFunctionAndItsNameIsTaken)
 TEST_F(FBlueprintTest, ASavedBlueprintLoadsAgain)
 {
 	UBlueprint* const Blueprint = MakeBlueprint(TEXT("BP_Saved"));
-	FBlueprintEditorUtils::AddMemberVariable(Blueprint, FName(TEXT("Health")), MakeType(UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_Double), TEXT("12.5"));
+	FBlueprintEditorUtils::AddMemberVariable(
+		Blueprint, FName(TEXT("Health")), MakeType(UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_Double), TEXT("12.5"));
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	const int32 NumNodes = FBlueprintEditorUtils::FindEventGraph(Blueprint)->Nodes.Num();
 	EXPECT_TRUE(UEditorAssetLibrary::SaveLoadedAsset(Blueprint));

@@ -102,3 +102,27 @@ private:
 		}
 	}
 };
+
+/** The first line that differs, with those around it, so that a failure can be read. */
+inline FString DescribeDifference(const FString& Expected, const FString& Actual)
+{
+	TArray<FString> ExpectedLines;
+	TArray<FString> ActualLines;
+	Expected.ParseIntoArrayLines(ExpectedLines, false);
+	Actual.ParseIntoArrayLines(ActualLines, false);
+	for (int32 Index = 0; Index < FMath::Max(ExpectedLines.Num(), ActualLines.Num()); ++Index)
+	{
+		const FString Wanted = ExpectedLines.IsValidIndex(Index) ? ExpectedLines[Index] : FString(TEXT("(end)"));
+		const FString Got = ActualLines.IsValidIndex(Index) ? ActualLines[Index] : FString(TEXT("(end)"));
+		if (!Wanted.Equals(Got, ESearchCase::CaseSensitive))
+		{
+			FString Owner;
+			for (int32 Above = FMath::Min(Index, ExpectedLines.Num() - 1); Above >= 0 && Owner.IsEmpty(); --Above)
+			{
+				Owner = ExpectedLines[Above].StartsWith(TEXT("Begin Object Class")) ? ExpectedLines[Above] : FString();
+			}
+			return FString::Printf(TEXT("line %d below %s\n  expected: %s\n  actual:   %s"), Index, *Owner, *Wanted, *Got);
+		}
+	}
+	return FString();
+}

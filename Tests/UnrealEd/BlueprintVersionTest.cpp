@@ -74,7 +74,8 @@ private:
 		for (const FBPVariableDescription& Variable : Blueprint.NewVariables)
 		{
 			++NumVariables;
-			Lines.push_back("variable " + ToText(Variable.VarName) + " " + ToText(Variable.VarType.PinCategory) + " = " + ToText(Variable.DefaultValue));
+			Lines.push_back("variable " + ToText(Variable.VarName) + " " + ToText(Variable.VarType.PinCategory) + " = " +
+				ToText(Variable.DefaultValue));
 		}
 		if (Blueprint.SimpleConstructionScript)
 		{
@@ -170,7 +171,8 @@ TEST_F(FBlueprintVersionTest, TheSameBlueprintsOfEveryEngineVersionHaveTheSameGr
 		for (const auto& [Version, Lines] : Versions)
 		{
 			const bool bLacksKey = Blueprint == "SimpleRefs/SimpleRefsRoot.uasset" && Version < "UE50";
-			EXPECT_EQ(FindDifferences(Lines, Versions.at("UE56")), bLacksKey ? KeyOfPrintString : std::vector<std::string>()) << Blueprint << " of " << Version;
+			EXPECT_EQ(FindDifferences(Lines, Versions.at("UE56")), bLacksKey ? KeyOfPrintString : std::vector<std::string>())
+				<< Blueprint << " of " << Version;
 		}
 	}
 }
@@ -193,7 +195,8 @@ TEST_F(FBlueprintVersionTest, AChangedNodeIsSavedForTheEngineThatItCameFromAndNo
 			{
 				continue;
 			}
-			const bool bHasOldPins = Loaded.GetLinker()->UEVer().FileVersionUE5 == 0 && Loaded.GetLinker()->NameMap.Contains(FName(TEXT("DeprecatedPins")));
+			const bool bHasOldPins = Loaded.GetLinker()->UEVer().FileVersionUE5 == 0 &&
+				Loaded.GetLinker()->NameMap.Contains(FName(TEXT("DeprecatedPins")));
 			Node->NodePosX += 16;
 			Changed = Node->NodeGuid;
 			Expected = FDescription(Loaded.GetPackage()).Lines;

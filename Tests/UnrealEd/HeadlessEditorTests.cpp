@@ -142,11 +142,15 @@ TEST(HeadlessEditorStart, SaysInOneLineWhyItDidNotStart)
 	GTEST_FLAG_SET(death_test_style, "threadsafe");
 	const std::string Engine = VEXEL_SOURCE_DIR "/Engine";
 	EXPECT_EXIT(StartAndExit({}, "", Engine), testing::ExitedWithCode(0), "\\[The folder '.*' has no .uproject file\\] not running");
-	EXPECT_EXIT(StartAndExit({"A.uproject", "B.uproject"}, "", Engine), testing::ExitedWithCode(0), "\\[The folder '.*' has more than one .uproject file; name one of them\\] not running");
+	EXPECT_EXIT(StartAndExit({"A.uproject", "B.uproject"}, "", Engine), testing::ExitedWithCode(0),
+		"\\[The folder '.*' has more than one .uproject file; name one of them\\] not running");
 	EXPECT_EXIT(StartAndExit({}, "Missing", Engine), testing::ExitedWithCode(0), "\\[There is no project '.*Missing'\\] not running");
-	EXPECT_EXIT(StartAndExit({}, "Missing.uproject", Engine), testing::ExitedWithCode(0), "\\[There is no project '.*Missing.uproject'\\] not running");
-	EXPECT_EXIT(StartAndExit({"A.txt"}, "A.txt", Engine), testing::ExitedWithCode(0), "\\[.*its name does not end in .uproject\\] not running");
-	EXPECT_EXIT(StartAndExit({"A.uproject"}, "", "/no/such/engine"), testing::ExitedWithCode(0), "\\[There is no engine folder '/no/such/engine'\\] not running");
+	EXPECT_EXIT(StartAndExit({}, "Missing.uproject", Engine), testing::ExitedWithCode(0),
+		"\\[There is no project '.*Missing.uproject'\\] not running");
+	EXPECT_EXIT(
+		StartAndExit({"A.txt"}, "A.txt", Engine), testing::ExitedWithCode(0), "\\[.*its name does not end in .uproject\\] not running");
+	EXPECT_EXIT(StartAndExit({"A.uproject"}, "", "/no/such/engine"), testing::ExitedWithCode(0),
+		"\\[There is no engine folder '/no/such/engine'\\] not running");
 }
 
 TEST(HeadlessEditorStart, SaysWhatIsWrongWithABrokenProjectFile)
@@ -170,7 +174,8 @@ TEST(HeadlessEditorStart, SaysWhatIsWrongWithABrokenProjectFile)
 	};
 	for (const auto& [Content, Reason] : Cases)
 	{
-		EXPECT_EXIT(StartAndExit({"A.uproject"}, "", Engine, Content), testing::ExitedWithCode(0), "\\['.*A.uproject' .*" + Reason + ".*\\] not running");
+		EXPECT_EXIT(StartAndExit({"A.uproject"}, "", Engine, Content), testing::ExitedWithCode(0),
+			"\\['.*A.uproject' .*" + Reason + ".*\\] not running");
 	}
 }
 

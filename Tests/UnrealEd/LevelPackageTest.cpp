@@ -70,8 +70,10 @@ struct FMapCase
 };
 
 const FMapCase Maps[] = {
-	{"CesiumUnreal/Tests/Maps/SingleCube.umap", TEXT("/Temp/SingleCubeMap"), TEXT("SingleCube:PersistentLevel"), 3, TEXT("/Game/CesiumSamples/Maps/01/01_CesiumWorld"), 223},
-	{"AirSim/AirSimAssets.umap", TEXT("/Temp/AirSimAssetsMap"), TEXT("AirSimAssets:PersistentLevel"), 11, TEXT("/Game/FlyingCPP/Maps/FlyingExampleMap"), 218},
+	{"CesiumUnreal/Tests/Maps/SingleCube.umap", TEXT("/Temp/SingleCubeMap"), TEXT("SingleCube:PersistentLevel"), 3,
+		TEXT("/Game/CesiumSamples/Maps/01/01_CesiumWorld"), 223},
+	{"AirSim/AirSimAssets.umap", TEXT("/Temp/AirSimAssetsMap"), TEXT("AirSimAssets:PersistentLevel"), 11,
+		TEXT("/Game/FlyingCPP/Maps/FlyingExampleMap"), 218},
 };
 
 class FLevelPackageTest : public FEditorTest
@@ -109,7 +111,9 @@ TEST_F(FLevelPackageTest, LevelsOfOtherEnginesAreReadToTheirLastByteAndWrittenAl
 		Level->Serialize(Writer);
 		const TArray<uint8> Read = Linker->GetExportBytes(Linker->FindExportOf(Level));
 		ASSERT_GE(Written.Num(), Map.NumNativeBytes);
-		EXPECT_EQ(FMemory::Memcmp(Written.GetData() + Written.Num() - Map.NumNativeBytes, Read.GetData() + Read.Num() - Map.NumNativeBytes, Map.NumNativeBytes), 0);
+		EXPECT_EQ(FMemory::Memcmp(Written.GetData() + Written.Num() - Map.NumNativeBytes, Read.GetData() + Read.Num() - Map.NumNativeBytes,
+					  Map.NumNativeBytes),
+			0);
 	}
 }
 
@@ -118,12 +122,14 @@ void Unload(const TCHAR* Name)
 {
 	UPackage* const Package = FindPackage(nullptr, Name);
 	ASSERT_NE(Package, nullptr);
-	Package->Rename(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), TEXT("/Temp/Unloaded")).ToString(), nullptr, REN_DontCreateRedirectors);
+	Package->Rename(
+		*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), TEXT("/Temp/Unloaded")).ToString(), nullptr, REN_DontCreateRedirectors);
 }
 
 TEST_F(FLevelPackageTest, NewLevelIsSavedAsAMapWithItsActorsAndItsScript)
 {
-	UBlueprint* const Lamp = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Lamp")), TEXT("BP_Lamp"), BPTYPE_Normal);
+	UBlueprint* const Lamp = FKismetEditorUtilities::CreateBlueprint(
+		AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Lamp")), TEXT("BP_Lamp"), BPTYPE_Normal);
 	USimpleConstructionScript* const Script = Lamp->SimpleConstructionScript;
 	USCS_Node* const Pole = Script->CreateNode(USceneComponent::StaticClass(), TEXT("Pole"));
 	Script->AddNode(Pole);
@@ -172,7 +178,8 @@ TEST_F(FLevelPackageTest, NewLevelIsSavedAsAMapWithItsActorsAndItsScript)
 
 TEST_F(FLevelPackageTest, PlacedActorKeepsItsPlaceAndItsComponentsWhenItsBlueprintIsCompiled)
 {
-	UBlueprint* const Bell = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Bell")), TEXT("BP_Bell"), BPTYPE_Normal);
+	UBlueprint* const Bell = FKismetEditorUtilities::CreateBlueprint(
+		AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Bell")), TEXT("BP_Bell"), BPTYPE_Normal);
 	UWorld* const World = UWorld::CreateWorld(EWorldType::Editor, false);
 	World->SpawnActor<AActor>(Bell->GeneratedClass, FVector(7.0, 8.0, 9.0), FRotator::ZeroRotator);
 	USimpleConstructionScript* const Script = Bell->SimpleConstructionScript;

@@ -23,7 +23,8 @@ protected:
 		FEditorTest::SetUp();
 		static int32 Number = 0;
 		UPackage* const Package = CreatePackage(*FString::Printf(TEXT("/Game/Hostile%d"), Number++));
-		UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), Package, TEXT("BP_Hostile"), BPTYPE_Normal);
+		UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(
+			AActor::StaticClass(), Package, TEXT("BP_Hostile"), BPTYPE_Normal);
 		Graph = FBlueprintEditorUtils::FindEventGraph(Blueprint);
 		for (UEdGraphNode* const Node : TArray<UEdGraphNode*>(Graph->Nodes))
 		{
@@ -79,12 +80,14 @@ protected:
 
 	static FString MakeNode(const FString& Name, const FString& Pins)
 	{
-		return FString::Printf(TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_IfThenElse Name=\"%s\"\n%sEnd Object\n"), *Name, *Pins);
+		return FString::Printf(
+			TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_IfThenElse Name=\"%s\"\n%sEnd Object\n"), *Name, *Pins);
 	}
 
 	static FString MakePin(int32 Id, const TCHAR* Name, const TCHAR* Direction, const FString& Links)
 	{
-		return FString::Printf(TEXT("CustomProperties Pin (PinId=%032X,PinName=\"%s\",%sPinType.PinCategory=\"exec\",LinkedTo=(%s),)\n"), Id, Name, Direction, *Links);
+		return FString::Printf(TEXT("CustomProperties Pin (PinId=%032X,PinName=\"%s\",%sPinType.PinCategory=\"exec\",LinkedTo=(%s),)\n"),
+			Id, Name, Direction, *Links);
 	}
 
 	UEdGraph* Graph = nullptr;
@@ -95,10 +98,11 @@ protected:
 
 TEST_F(FNodeTextHostileTest, TextsThatAreNoneSayWhyAndLeaveTheGraph)
 {
-	for (const FString& Text : {FString(), FString(TEXT("\u0001\u0002\uFFFF")), FString(TEXT("Begin Object")), FString(TEXT("End Object\nEnd Object")),
-			 FString(TEXT("{\"nodes\": []}")), FString(TEXT("Begin Object Class=/Script/Engine.Actor Name=\"A\"\nEnd Object")),
-			 FString(TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node Name=\"A\"\nEnd Object")),
-			 FString::ChrN(100000, TEXT('(')), FString(TEXT("Begin Object Class=")) + FString::ChrN(100000, TEXT('x'))})
+	for (const FString& Text :
+		{FString(), FString(TEXT("\u0001\u0002\uFFFF")), FString(TEXT("Begin Object")), FString(TEXT("End Object\nEnd Object")),
+			FString(TEXT("{\"nodes\": []}")), FString(TEXT("Begin Object Class=/Script/Engine.Actor Name=\"A\"\nEnd Object")),
+			FString(TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node Name=\"A\"\nEnd Object")), FString::ChrN(100000, TEXT('(')),
+			FString(TEXT("Begin Object Class=")) + FString::ChrN(100000, TEXT('x'))})
 	{
 		const FNodeTextImportResult Result = FEdGraphUtilities::ImportNodesFromTextWithResult(Graph, Text);
 		EXPECT_EQ(Result.Nodes.Num(), 0);
@@ -127,8 +131,8 @@ TEST_F(FNodeTextHostileTest, LinksByNameToNodesOfTheGraphAreNotMade)
 	// The text names a node of the graph and a pin of it by its id: copied nodes are linked among themselves alone.
 	const FString Link = FString::Printf(TEXT("%s %s,"), *Second->GetName(), *Second->GetExecPin()->PinId.ToString());
 	const FString Missing = TEXT("K2Node_IfThenElse_99 00000000000000000000000000000099,Copied 00000000000000000000000000000098,");
-	const FNodeTextImportResult Result =
-		FEdGraphUtilities::ImportNodesFromTextWithResult(Graph, MakeNode(TEXT("Copied"), MakePin(1, TEXT("then"), TEXT("Direction=\"EGPD_Output\","), Link + Missing)));
+	const FNodeTextImportResult Result = FEdGraphUtilities::ImportNodesFromTextWithResult(
+		Graph, MakeNode(TEXT("Copied"), MakePin(1, TEXT("then"), TEXT("Direction=\"EGPD_Output\","), Link + Missing)));
 	ASSERT_EQ(Result.Nodes.Num(), 1);
 	EXPECT_EQ(Result.Nodes[0]->FindPinChecked(TEXT("then"))->LinkedTo.Num(), 0);
 	ExpectSound(Result);
@@ -160,7 +164,8 @@ TEST_F(FNodeTextHostileTest, PinThatThousandsOfNodesLinkToHasAllOfTheirLinksOnce
 	for (int32 Index = 0; Index < NumNodes; ++Index)
 	{
 		// Each says the same link twice; the hub says none.
-		Text += MakeNode(FString::Printf(TEXT("Spoke_%d"), Index), MakePin(Index + 2, TEXT("then"), TEXT("Direction=\"EGPD_Output\","), Hub + Hub));
+		Text += MakeNode(
+			FString::Printf(TEXT("Spoke_%d"), Index), MakePin(Index + 2, TEXT("then"), TEXT("Direction=\"EGPD_Output\","), Hub + Hub));
 	}
 	const FNodeTextImportResult Result = FEdGraphUtilities::ImportNodesFromTextWithResult(Graph, Text);
 	ASSERT_EQ(Result.Nodes.Num(), NumNodes + 1);

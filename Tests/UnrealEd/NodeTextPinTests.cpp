@@ -21,7 +21,8 @@ protected:
 	{
 		static int32 NumMade = 0;
 		UPackage* const Package = CreatePackage(*FString::Printf(TEXT("/Game/NodeTextPin_%d"), NumMade++));
-		UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), Package, FName(TEXT("BP_NodeTextPin")), BPTYPE_Normal);
+		UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(
+			AActor::StaticClass(), Package, FName(TEXT("BP_NodeTextPin")), BPTYPE_Normal);
 		UEdGraph* const Graph = FBlueprintEditorUtils::FindEventGraph(Blueprint);
 		const TArray<TObjectPtr<UEdGraphNode>> Nodes = Graph->Nodes;
 		for (UEdGraphNode* const Node : Nodes)
@@ -38,7 +39,10 @@ protected:
 
 	static FString MakePinText(const FString& Fields) { return TEXT("CustomProperties Pin (") + Fields + TEXT(")\n"); }
 
-	static FNodeTextImportResult Import(const FString& Text) { return FEdGraphUtilities::ImportNodesFromTextWithResult(MakeEventGraph(), Text); }
+	static FNodeTextImportResult Import(const FString& Text)
+	{
+		return FEdGraphUtilities::ImportNodesFromTextWithResult(MakeEventGraph(), Text);
+	}
 };
 
 const TCHAR* const IdA = TEXT("AAAAAAAA4A02AF6B67D2879EC909179A");
@@ -65,7 +69,8 @@ TEST_F(FNodeTextPinTest, EachWrongFieldIsNamedWithItsLineAndThePinStays)
 	for (const TCHAR* const Field : Fields)
 	{
 		SCOPED_TRACE(TCHAR_TO_UTF8(Field));
-		const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("K2Node_Knot_0"), TEXT("NodePosX=1\n") + MakePinText(FString(TEXT("PinName=\"Kept\",")) + Field + TEXT(",PinToolTip=\"after\""))));
+		const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("K2Node_Knot_0"),
+			TEXT("NodePosX=1\n") + MakePinText(FString(TEXT("PinName=\"Kept\",")) + Field + TEXT(",PinToolTip=\"after\""))));
 		ASSERT_EQ(Result.Nodes.Num(), 1);
 		ASSERT_EQ(Result.Nodes[0]->Pins.Num(), 1);
 		EXPECT_EQ(Result.Nodes[0]->Pins[0]->PinName, FName(TEXT("Kept")));
@@ -78,7 +83,8 @@ TEST_F(FNodeTextPinTest, EachWrongFieldIsNamedWithItsLineAndThePinStays)
 
 TEST_F(FNodeTextPinTest, FieldsOfOtherEngineVersionsAreIgnored)
 {
-	const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("K2Node_Knot_0"), MakePinText(TEXT("PinName=\"A\",bFromTheFuture=(X=\"a),(b\",Y=2),\"Quoted\"=1,PinType.NewMember=3,PinToolTip=\"after\""))));
+	const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("K2Node_Knot_0"),
+		MakePinText(TEXT("PinName=\"A\",bFromTheFuture=(X=\"a),(b\",Y=2),\"Quoted\"=1,PinType.NewMember=3,PinToolTip=\"after\""))));
 	ASSERT_EQ(Result.Nodes.Num(), 1);
 	ASSERT_EQ(Result.Nodes[0]->Pins.Num(), 1);
 	EXPECT_EQ(Result.Nodes[0]->Pins[0]->PinToolTip, TEXT("after"));
@@ -87,10 +93,13 @@ TEST_F(FNodeTextPinTest, FieldsOfOtherEngineVersionsAreIgnored)
 
 TEST_F(FNodeTextPinTest, BothSpellingsOfAReferenceNameTheSameClass)
 {
-	for (const TCHAR* const Spelling : {TEXT("Class'\"/Script/Engine.Actor\"'"), TEXT("\"/Script/CoreUObject.Class'/Script/Engine.Actor'\""), TEXT("Class'/Script/Engine.Actor'"), TEXT("\"/Script/Engine.Actor\"")})
+	for (const TCHAR* const Spelling :
+		{TEXT("Class'\"/Script/Engine.Actor\"'"), TEXT("\"/Script/CoreUObject.Class'/Script/Engine.Actor'\""),
+			TEXT("Class'/Script/Engine.Actor'"), TEXT("\"/Script/Engine.Actor\"")})
 	{
 		SCOPED_TRACE(TCHAR_TO_UTF8(Spelling));
-		const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("K2Node_Knot_0"), MakePinText(FString(TEXT("PinName=\"A\",PinType.PinCategory=\"object\",PinType.PinSubCategoryObject=")) + Spelling)));
+		const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("K2Node_Knot_0"),
+			MakePinText(FString(TEXT("PinName=\"A\",PinType.PinCategory=\"object\",PinType.PinSubCategoryObject=")) + Spelling)));
 		ASSERT_EQ(Result.Nodes.Num(), 1);
 		ASSERT_EQ(Result.Nodes[0]->Pins.Num(), 1);
 		EXPECT_EQ(Result.Nodes[0]->Pins[0]->PinType.PinSubCategoryObject.Get(), AActor::StaticClass());
@@ -101,15 +110,17 @@ TEST_F(FNodeTextPinTest, BothSpellingsOfAReferenceNameTheSameClass)
 TEST_F(FNodeTextPinTest, HugeValuesAreKeptWholeAndHugeNamesDoNoHarm)
 {
 	const FString Huge = FString::ChrN(1000000, TEXT('x'));
-	const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("K2Node_Knot_0"), MakePinText(TEXT("PinName=\"A\",DefaultValue=\"") + Huge + TEXT("\""))));
+	const FNodeTextImportResult Result = Import(
+		MakeNodeText(TEXT("K2Node_Knot_0"), MakePinText(TEXT("PinName=\"A\",DefaultValue=\"") + Huge + TEXT("\""))));
 	ASSERT_EQ(Result.Nodes.Num(), 1);
 	ASSERT_EQ(Result.Nodes[0]->Pins.Num(), 1);
 	EXPECT_EQ(Result.Nodes[0]->Pins[0]->DefaultValue.Len(), Huge.Len());
 	EXPECT_TRUE(CopyNodes(*Result.Nodes[0]->GetGraph()).Contains(Huge, ESearchCase::CaseSensitive));
 
 	const FString LongName = FString::ChrN(5000, TEXT('n'));
-	for (const FString& Field : {TEXT("PinName=\"") + LongName + TEXT("\""), TEXT("PinType.") + LongName + TEXT("=1"), TEXT("PinType.PinCategory=\"") + LongName + TEXT("\""),
-			 TEXT("LinkedTo=(") + LongName + TEXT(" ") + IdA + TEXT(",)"), TEXT("DefaultObject=\"/Game/") + LongName + TEXT(".") + LongName + TEXT("\"")})
+	for (const FString& Field : {TEXT("PinName=\"") + LongName + TEXT("\""), TEXT("PinType.") + LongName + TEXT("=1"),
+			 TEXT("PinType.PinCategory=\"") + LongName + TEXT("\""), TEXT("LinkedTo=(") + LongName + TEXT(" ") + IdA + TEXT(",)"),
+			 TEXT("DefaultObject=\"/Game/") + LongName + TEXT(".") + LongName + TEXT("\"")})
 	{
 		SCOPED_TRACE(TCHAR_TO_UTF8(*Field.Left(24)));
 		EXPECT_EQ(Import(MakeNodeText(TEXT("K2Node_Knot_0"), MakePinText(Field))).Nodes.Num(), 1);
@@ -118,8 +129,11 @@ TEST_F(FNodeTextPinTest, HugeValuesAreKeptWholeAndHugeNamesDoNoHarm)
 
 TEST_F(FNodeTextPinTest, LinksToPinsAndNodesThatAreNotThereAreDroppedAndTheOthersMade)
 {
-	const FString First = FString::Printf(TEXT("PinId=%s,PinName=\"Out\",Direction=\"EGPD_Output\",LinkedTo=(Other %s,Other CCCCCCCC4A02AF6B67D2879EC909179A,Absent %s,First %s,),"), IdA, IdB, IdB, IdA);
-	const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("First"), MakePinText(First)) + MakeNodeText(TEXT("Other"), MakePinText(FString::Printf(TEXT("PinId=%s,PinName=\"In\""), IdB))));
+	const FString First = FString::Printf(TEXT("PinId=%s,PinName=\"Out\",Direction=\"EGPD_Output\",LinkedTo=(Other %s,Other "
+											   "CCCCCCCC4A02AF6B67D2879EC909179A,Absent %s,First %s,),"),
+		IdA, IdB, IdB, IdA);
+	const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("First"), MakePinText(First)) +
+		MakeNodeText(TEXT("Other"), MakePinText(FString::Printf(TEXT("PinId=%s,PinName=\"In\""), IdB))));
 	ASSERT_EQ(Result.Nodes.Num(), 2);
 	UEdGraphPin* const Out = Result.Nodes[0]->Pins[0];
 	UEdGraphPin* const In = Result.Nodes[1]->Pins[0];
@@ -130,7 +144,10 @@ TEST_F(FNodeTextPinTest, LinksToPinsAndNodesThatAreNotThereAreDroppedAndTheOther
 TEST_F(FNodeTextPinTest, SubPinsThatAreTheirOwnParentsOrOfOtherNodesAreNoSubPins)
 {
 	const auto MakeFamily = [](const TCHAR* Id, const TCHAR* Name, const FString& SubPins, const FString& Parent)
-	{ return MakePinText(FString::Printf(TEXT("PinId=%s,PinName=\"%s\",SubPins=(%s),ParentPin=%s,ReferencePassThroughConnection=%s,"), Id, Name, *SubPins, *Parent, *Parent)); };
+	{
+		return MakePinText(FString::Printf(TEXT("PinId=%s,PinName=\"%s\",SubPins=(%s),ParentPin=%s,ReferencePassThroughConnection=%s,"), Id,
+			Name, *SubPins, *Parent, *Parent));
+	};
 	const FString A = FString(TEXT("First ")) + IdA;
 	const FString B = FString(TEXT("First ")) + IdB;
 	const FString Foreign = FString(TEXT("Other ")) + IdA;
@@ -143,7 +160,8 @@ TEST_F(FNodeTextPinTest, SubPinsThatAreTheirOwnParentsOrOfOtherNodesAreNoSubPins
 	for (const FString& Text : Texts)
 	{
 		SCOPED_TRACE(TCHAR_TO_UTF8(*Text));
-		const FNodeTextImportResult Result = Import(MakeNodeText(TEXT("First"), Text) + MakeNodeText(TEXT("Other"), MakeFamily(IdA, TEXT("Own"), A, A)));
+		const FNodeTextImportResult Result = Import(
+			MakeNodeText(TEXT("First"), Text) + MakeNodeText(TEXT("Other"), MakeFamily(IdA, TEXT("Own"), A, A)));
 		ASSERT_EQ(Result.Nodes.Num(), 2);
 		for (const UEdGraphNode* const Node : Result.Nodes)
 		{

@@ -25,7 +25,8 @@ protected:
 	{
 		static int32 NumMade = 0;
 		UPackage* const Package = CreatePackage(*FString::Printf(TEXT("/Game/NodeText_%d"), NumMade++));
-		UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), Package, FName(TEXT("BP_NodeText")), BPTYPE_Normal);
+		UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(
+			AActor::StaticClass(), Package, FName(TEXT("BP_NodeText")), BPTYPE_Normal);
 		UEdGraph* const Graph = FBlueprintEditorUtils::FindEventGraph(Blueprint);
 		const TArray<TObjectPtr<UEdGraphNode>> Nodes = Graph->Nodes;
 		for (UEdGraphNode* const Node : Nodes)
@@ -48,7 +49,8 @@ protected:
 
 bool IsBlueprintText(const FString& Text)
 {
-	return Text.Contains(TEXT("K2Node_"), ESearchCase::CaseSensitive) && !Text.Contains(TEXT("EdGraphPin Name="), ESearchCase::CaseSensitive);
+	return Text.Contains(TEXT("K2Node_"), ESearchCase::CaseSensitive) &&
+		!Text.Contains(TEXT("EdGraphPin Name="), ESearchCase::CaseSensitive);
 }
 
 TEST_F(FNodeTextTest, EverySamplePastesWithItsPinsDefaultsAndLinks)
@@ -114,7 +116,8 @@ TEST_F(FNodeTextTest, NodesOfOtherEditorsAreNamedAndSkipped)
 	ASSERT_EQ(Result.Nodes.Num(), 1);
 	EXPECT_EQ(Result.Nodes[0]->NodePosX, 16);
 	ASSERT_EQ(Result.SkippedNodes.Num(), 2);
-	EXPECT_EQ(Result.SkippedNodes[0].ToString(), TEXT("line 1: NiagaraNodeOp_1 (/Script/NiagaraEditor.NiagaraNodeOp): The class is not known here"));
+	EXPECT_EQ(Result.SkippedNodes[0].ToString(),
+		TEXT("line 1: NiagaraNodeOp_1 (/Script/NiagaraEditor.NiagaraNodeOp): The class is not known here"));
 	EXPECT_EQ(Result.SkippedNodes[1].ToString(), TEXT("line 7: Actor_0 (/Script/Engine.Actor): The class is no graph node"));
 }
 
@@ -124,14 +127,13 @@ TEST_F(FNodeTextTest, PinObjectsOfOldTextsBecomePins)
 	const FNodeTextImportResult Result = FEdGraphUtilities::ImportNodesFromTextWithResult(Graph,
 		TEXT("Begin Object Class=K2Node_Knot Name=\"K2Node_Knot_0\"\n")
 			TEXT("   Begin Object Class=EdGraphPin Name=\"EdGraphPin_1\"\n   End Object\n")
-				TEXT("   Begin Object Name=\"EdGraphPin_1\"\n      PinName=\"OutputPin\"\n      Direction=EGPD_Output\n      PinType=(PinCategory=\"exec\")\n")
-					TEXT("      LinkedTo(0)=EdGraphPin'K2Node_Knot_7.EdGraphPin_2'\n      LinkedTo(1)=EdGraphPin'K2Node_Missing.EdGraphPin_3'\n   End Object\n")
-						TEXT("   Pins(0)=EdGraphPin'EdGraphPin_1'\nEnd Object\n")
-							TEXT("Begin Object Class=K2Node_Knot Name=\"K2Node_Knot_7\"\n")
-								TEXT("   Begin Object Class=EdGraphPin Name=\"EdGraphPin_2\"\n   End Object\n")
-									TEXT("   Begin Object Name=\"EdGraphPin_2\"\n      PinName=\"InputPin\"\n      PinType=(PinCategory=\"exec\")\n")
-										TEXT("      LinkedTo(0)=EdGraphPin'K2Node_Knot_0.EdGraphPin_1'\n   End Object\n")
-											TEXT("   Pins(0)=EdGraphPin'EdGraphPin_2'\nEnd Object\n"));
+				TEXT("   Begin Object Name=\"EdGraphPin_1\"\n      PinName=\"OutputPin\"\n      Direction=EGPD_Output\n      "
+					 "PinType=(PinCategory=\"exec\")\n") TEXT("      LinkedTo(0)=EdGraphPin'K2Node_Knot_7.EdGraphPin_2'\n      "
+															  "LinkedTo(1)=EdGraphPin'K2Node_Missing.EdGraphPin_3'\n   End Object\n") TEXT("   Pins(0)=EdGraphPin'EdGraphPin_1'\nEnd Object\n") TEXT("Begin Object Class=K2Node_Knot Name=\"K2Node_Knot_7\"\n")
+					TEXT("   Begin Object Class=EdGraphPin Name=\"EdGraphPin_2\"\n   End Object\n")
+						TEXT("   Begin Object Name=\"EdGraphPin_2\"\n      PinName=\"InputPin\"\n      PinType=(PinCategory=\"exec\")\n")
+							TEXT("      LinkedTo(0)=EdGraphPin'K2Node_Knot_0.EdGraphPin_1'\n   End Object\n")
+								TEXT("   Pins(0)=EdGraphPin'EdGraphPin_2'\nEnd Object\n"));
 	EXPECT_EQ(Result.Warnings.Num(), 0);
 	ASSERT_EQ(Result.Nodes.Num(), 2);
 	ASSERT_EQ(Result.Nodes[0]->Pins.Num(), 1);
@@ -143,7 +145,8 @@ TEST_F(FNodeTextTest, PinObjectsOfOldTextsBecomePins)
 
 TEST_F(FNodeTextTest, IdsAreKeptUnlessTheGraphHasThemAndNamesBecomeFree)
 {
-	const FString Text = TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_Knot Name=\"K2Node_Knot_0\"\n   NodeGuid=968059974A02AF6B67D2879EC909179A\nEnd Object\n");
+	const FString Text = TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_Knot Name=\"K2Node_Knot_0\"\n   "
+							  "NodeGuid=968059974A02AF6B67D2879EC909179A\nEnd Object\n");
 	UEdGraph* const Graph = MakeEventGraph();
 	const UEdGraphNode* const First = FEdGraphUtilities::ImportNodesFromTextWithResult(Graph, Text).Nodes[0];
 	const UEdGraphNode* const Second = FEdGraphUtilities::ImportNodesFromTextWithResult(Graph, Text).Nodes[0];
@@ -164,7 +167,8 @@ TEST_F(FNodeTextTest, BadTextsAreExplained)
 	const FCase Cases[] = {
 		{TEXT("hello"), TEXT("The text has no nodes: it must start with 'Begin Object'")},
 		{TEXT(""), TEXT("The text has no nodes: it must start with 'Begin Object'")},
-		{TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_Knot Name=\"A\"\n NodePosX=1\n"), TEXT("line 1: A (/Script/BlueprintGraph.K2Node_Knot): The node's text is cut off")},
+		{TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_Knot Name=\"A\"\n NodePosX=1\n"),
+			TEXT("line 1: A (/Script/BlueprintGraph.K2Node_Knot): The node's text is cut off")},
 		{TEXT("Begin Object Name=\"A\"\nEnd Object\n"), TEXT("line 1: A: The object has no class")},
 		{TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_Knot Name=\"A\"\n NoSuchThing=1\nEnd Object\n"),
 			TEXT("line 2: A (/Script/BlueprintGraph.K2Node_Knot): There is no property 'NoSuchThing'")},
@@ -198,7 +202,8 @@ TEST_F(FNodeTextTest, DeepNestingAndOpenParenthesesEndInMessages)
 	EXPECT_EQ(DeepResult.Nodes.Num(), 0);
 	EXPECT_EQ(DeepResult.SkippedNodes.Num(), 1);
 
-	const FString Parentheses = TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_Knot Name=\"A\"\nCustomProperties Pin (PinName=") + FString::ChrN(1000000, TEXT('(')) + TEXT("\nEnd Object\n");
+	const FString Parentheses = TEXT("Begin Object Class=/Script/BlueprintGraph.K2Node_Knot Name=\"A\"\nCustomProperties Pin (PinName=") +
+		FString::ChrN(1000000, TEXT('(')) + TEXT("\nEnd Object\n");
 	const FNodeTextImportResult Result = FEdGraphUtilities::ImportNodesFromTextWithResult(MakeEventGraph(), Parentheses);
 	ASSERT_EQ(Result.Nodes.Num(), 1);
 	EXPECT_EQ(Result.Nodes[0]->Pins.Num(), 0);

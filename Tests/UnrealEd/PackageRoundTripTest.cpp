@@ -72,7 +72,8 @@ protected:
 		printf("%-14s %14s %18s\n", Title, "files equal", "exports equal");
 		for (const auto& [Group, Comparison] : Comparisons)
 		{
-			printf("%-14s %9d / %2d %12d / %3d", Group.c_str(), Comparison.SameFiles, Comparison.Files, Comparison.SameExports, Comparison.Exports);
+			printf("%-14s %9d / %2d %12d / %3d", Group.c_str(), Comparison.SameFiles, Comparison.Files, Comparison.SameExports,
+				Comparison.Exports);
 			for (const auto& [Class, Count] : Comparison.OthersByClass)
 			{
 				printf("  %s %d", Class.c_str(), Count);
@@ -132,7 +133,8 @@ std::set<std::string> ReadProperties(FLinkerLoad& Linker, int32 Index)
 		{
 			break;
 		}
-		Properties.insert(TCHAR_TO_UTF8(*FString::Printf(TEXT("%s[%d] %s"), *Tag.Name.ToString(), Tag.ArrayIndex, *Tag.GetType().ToString())));
+		Properties.insert(
+			TCHAR_TO_UTF8(*FString::Printf(TEXT("%s[%d] %s"), *Tag.Name.ToString(), Tag.ArrayIndex, *Tag.GetType().ToString())));
 		Linker.Seek(Linker.Tell() + Tag.Size);
 	}
 	const bool bIsRead = !Linker.IsError();

@@ -75,7 +75,8 @@ FLoaded::~FLoaded()
 		{
 			Object->ClearFlags(static_cast<EObjectFlags>(RF_Public | RF_Standalone));
 			return true; });
-	Package->Rename(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), FName(TEXT("/Temp/Unloaded"))).ToString(), nullptr, REN_DontCreateRedirectors | REN_NonTransactional | REN_DoNotDirty);
+	Package->Rename(*MakeUniqueObjectName(nullptr, UPackage::StaticClass(), FName(TEXT("/Temp/Unloaded"))).ToString(), nullptr,
+		REN_DontCreateRedirectors | REN_NonTransactional | REN_DoNotDirty);
 	CollectGarbage(GARBAGE_COLLECTION_KEEPFLAGS);
 }
 }

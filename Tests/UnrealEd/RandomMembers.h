@@ -34,6 +34,8 @@ public:
 			{TEXT("rename macro"), &FRandomMembers::RenameMacro},
 			{TEXT("remove macro"), &FRandomMembers::RemoveMacro},
 			{TEXT("use macro"), &FRandomMembers::UseMacro},
+			{TEXT("edit macro's pins"), &FRandomMembers::EditMacro},
+			{TEXT("edit macro's pins"), &FRandomMembers::EditMacro},
 			{TEXT("add dispatcher"), &FRandomMembers::AddDispatcher},
 			{TEXT("rename dispatcher"), &FRandomMembers::RenameDispatcher},
 			{TEXT("remove dispatcher"), &FRandomMembers::RemoveDispatcher},
@@ -84,7 +86,8 @@ private:
 	{
 		if (UEdGraph* const Graph = PickOf(Graphs))
 		{
-			FBlueprintEditorUtils::RenameGraph(Graph, FBlueprintEditorUtils::GenerateUniqueGraphName(&Blueprint, TEXT("Changed")).ToString());
+			FBlueprintEditorUtils::RenameGraph(
+				Graph, FBlueprintEditorUtils::GenerateUniqueGraphName(&Blueprint, TEXT("Changed")).ToString());
 		}
 	}
 
@@ -107,6 +110,16 @@ private:
 			FGraphNodeCreator<UK2Node_MacroInstance> Creator(*FBlueprintEditorUtils::FindEventGraph(&Blueprint));
 			Creator.CreateNode(false)->SetMacroGraph(Macro);
 			Creator.Finalize();
+		}
+	}
+
+	void EditMacro()
+	{
+		const UEdGraph* const Macro = PickOf(Blueprint.MacroGraphs);
+		UK2Node_Tunnel* const Entry = const_cast<UK2Node_Tunnel*>(UK2Node_MacroInstance::FindTunnel(Macro, true));
+		if (Entry)
+		{
+			EditPins(*Entry);
 		}
 	}
 
@@ -280,18 +293,22 @@ private:
 	void EditParameters()
 	{
 		UK2Node_FunctionEntry* const Entry = PickEntry(false);
-		if (!Entry || !Entry->bIsEditable)
+		if (Entry && Entry->bIsEditable)
 		{
-			return;
+			EditPins(*Entry);
 		}
-		Entry->Modify();
-		if (Entry->UserDefinedPins.Num() > 0 && Pick(3) == 0)
+	}
+
+	void EditPins(UK2Node_EditablePinBase& Entry)
+	{
+		Entry.Modify();
+		if (Entry.UserDefinedPins.Num() > 0 && Pick(3) == 0)
 		{
-			Entry->RemoveUserDefinedPin(Entry->UserDefinedPins[Pick(Entry->UserDefinedPins.Num())]);
+			Entry.RemoveUserDefinedPin(Entry.UserDefinedPins[Pick(Entry.UserDefinedPins.Num())]);
 		}
 		else
 		{
-			Entry->CreateUserDefinedPin(TEXT("Number"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
+			Entry.CreateUserDefinedPin(TEXT("Number"), MakeType(UEdGraphSchema_K2::PC_Int), EGPD_Output);
 		}
 		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(&Blueprint);
 	}

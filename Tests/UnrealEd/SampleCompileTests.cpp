@@ -97,6 +97,64 @@ protected:
 		return false;
 	}
 
+	/** Visits the Blueprints of all samples, each among the other packages of its project. */
+	static void ForEachBlueprint(TFunctionRef<void(const std::string& Sample, UBlueprint& Blueprint)> Visit)
+	{
+		std::unique_ptr<FProject> Project;
+		for (const std::string& Sample : PackageSamples::List())
+		{
+			SCOPED_TRACE(Sample);
+			if (!Project || Project->Name != PackageSamples::GetGroup(Sample))
+			{
+				Project.reset();
+				Project = std::make_unique<FProject>(PackageSamples::GetGroup(Sample));
+			}
+			for (UBlueprint* const Blueprint : FindBlueprints(Project->Packages.at(Sample)->GetPackage()))
+			{
+				Visit(Sample, *Blueprint);
+			}
+		}
+	}
+
+	/**
+	 * What the class itself declares: variables with their types and flags, functions with their flags and parameters. Without what only
+	 * bytecode needs, which this editor does not make, and with numbers as wide as they are since engine 5.
+	 */
+	static std::vector<std::string> DescribeMembers(const UClass& Class)
+	{
+		std::vector<std::string> Members;
+		const auto Describe = [](const FProperty& Property)
+		{
+			FString Inner;
+			const FString Type = Property.GetCPPType(&Inner, 0);
+			return FString::Printf(TEXT("%s%s %s %llx"), Type == TEXT("float") ? TEXT("double") : *Type, *Inner, *Property.GetName(),
+				static_cast<uint64>(Property.PropertyFlags));
+		};
+		const auto IsOfBytecode = [](const FString& Name)
+		{ return Name.StartsWith(TEXT("ExecuteUbergraph_")) || Name == TEXT("UberGraphFrame"); };
+		for (TFieldIterator<FProperty> Property(&Class, EFieldIterationFlags::None); Property; ++Property)
+		{
+			if (!IsOfBytecode(Property->GetName()))
+			{
+				Members.push_back(TCHAR_TO_UTF8(*Describe(**Property)));
+			}
+		}
+		for (TFieldIterator<UFunction> Function(&Class, EFieldIterationFlags::None); Function; ++Function)
+		{
+			FString Text = FString::Printf(TEXT("%s %x"), *Function->GetName(), static_cast<uint32>(Function->FunctionFlags));
+			for (TFieldIterator<FProperty> Parameter(*Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
+			{
+				Text += TEXT(" (") + Describe(**Parameter) + TEXT(")");
+			}
+			if (!IsOfBytecode(Function->GetName()))
+			{
+				Members.push_back(TCHAR_TO_UTF8(*Text));
+			}
+		}
+		std::sort(Members.begin(), Members.end());
+		return Members;
+	}
+
 	static std::vector<UBlueprint*> FindBlueprints(const UPackage* Package)
 	{
 		TArray<UObject*> Objects;
@@ -116,33 +174,22 @@ protected:
 TEST_F(FSampleCompileTest, EveryErrorOfARealBlueprintIsOfSomethingThatIsMissing)
 {
 	int32 NumCompiled = 0;
-	std::unique_ptr<FProject> Project;
-	for (const std::string& Sample : PackageSamples::List())
-	{
-		SCOPED_TRACE(Sample);
-		if (!Project || Project->Name != PackageSamples::GetGroup(Sample))
+	ForEachBlueprint([&NumCompiled](const std::string& Sample, UBlueprint& Blueprint)
 		{
-			Project.reset();
-			Project = std::make_unique<FProject>(PackageSamples::GetGroup(Sample));
-		}
-		const FExpectedErrors* const Row =
-			std::find_if(std::begin(ExpectedErrors), std::end(ExpectedErrors), [&Sample](const FExpectedErrors& Candidate)
-				{ return Sample == Candidate.Sample; });
-		const FExpectedErrors Expected = Row == std::end(ExpectedErrors) ? FExpectedErrors() : *Row;
-		for (UBlueprint* const Blueprint : FindBlueprints(Project->Packages.at(Sample)->GetPackage()))
-		{
+			const FExpectedErrors* const Row =
+				std::find_if(std::begin(ExpectedErrors), std::end(ExpectedErrors), [&Sample](const FExpectedErrors& Candidate)
+					{ return Sample == Candidate.Sample; });
+			const FExpectedErrors Expected = Row == std::end(ExpectedErrors) ? FExpectedErrors() : *Row;
 			std::map<std::string, int32> NumByMissing;
-			const std::vector<std::string> Errors = Compile(*Blueprint);
+			const std::vector<std::string> Errors = Compile(Blueprint);
 			for (const std::string& Error : Errors)
 			{
 				EXPECT_TRUE(CountMissing(Error, Expected, NumByMissing)) << Error;
 			}
 			EXPECT_EQ(NumByMissing, Expected.NumByMissing);
-			EXPECT_EQ(Blueprint->Status, Errors.empty() ? BS_UpToDate : BS_Error);
+			EXPECT_EQ(Blueprint.Status, Errors.empty() ? BS_UpToDate : BS_Error);
 			printf("%-48s %2zu errors\n", Sample.c_str(), Errors.size());
-			++NumCompiled;
-		}
-	}
+			++NumCompiled; });
 	EXPECT_EQ(NumCompiled, 59);
 }
 
@@ -164,6 +211,24 @@ TEST_F(FSampleCompileTest, ABlueprintOfAMissingParentKeepsItsClass)
 	EXPECT_EQ(Blueprint->GeneratedClass.Get(), Class);
 	EXPECT_EQ(Class->GetSuperClass(), Parent);
 	EXPECT_EQ(Class->GetDefaultObject(), Defaults);
+}
+
+TEST_F(FSampleCompileTest, AClassHasTheMembersThatTheRealCompilerGaveIt)
+{
+	int32 NumMembers = 0;
+	ForEachBlueprint([&NumMembers](const std::string& Sample, UBlueprint& Blueprint)
+		{
+			// Engines before 4.25 kept members as objects of their own, which the class does not list when it is loaded.
+			const bool bListsMembers = !Sample.starts_with("AirSim") && !Sample.starts_with("UE420");
+			const UClass* const Class = Blueprint.GeneratedClass.Get();
+			const std::vector<std::string> Real = bListsMembers ? DescribeMembers(*Class) : std::vector<std::string>();
+			Compile(Blueprint);
+			if (bListsMembers)
+			{
+				EXPECT_EQ(DescribeMembers(*Class), Real);
+			}
+			NumMembers += static_cast<int32>(Real.size()); });
+	EXPECT_GT(NumMembers, 20);
 }
 
 TEST_F(FSampleCompileTest, WidgetsOfAWidgetBlueprintAreVariables)

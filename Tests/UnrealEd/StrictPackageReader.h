@@ -80,7 +80,8 @@ private:
 	std::string Problem;
 
 	int32_t HeaderSize = 0;
-	FTable NameTable, SoftPathTable, TextTable, ExportTable, ImportTable, CellExportTable, CellImportTable, SoftReferenceTable, PreloadTable;
+	FTable NameTable, SoftPathTable, TextTable, ExportTable, ImportTable, CellExportTable, CellImportTable, SoftReferenceTable,
+		PreloadTable;
 	int32_t MetaDataOffset = 0;
 	int32_t DependsOffset = 0;
 	int32_t SearchableNamesOffset = 0;

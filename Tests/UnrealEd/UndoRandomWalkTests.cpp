@@ -19,6 +19,7 @@
 #include "K2Node_Timeline.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
+#include "RandomChild.h"
 #include "RandomMembers.h"
 #include "UObject/Interface.h"
 #include "UObject/NoExportTypes.h"
@@ -31,10 +32,11 @@ namespace
 class FRandomEditor
 {
 public:
-	FRandomEditor(UBlueprint& InBlueprint, UBlueprint& Interface, uint32 Seed)
+	FRandomEditor(UBlueprint& InBlueprint, UBlueprint& Interface, UBlueprint& InChild, uint32 Seed)
 		: Blueprint(InBlueprint)
 		, Random(Seed)
 		, Members(InBlueprint, Interface, Random)
+		, Child(InBlueprint, InChild, Random)
 	{
 	}
 
@@ -72,6 +74,10 @@ public:
 		if (Pick(4) == 0)
 		{
 			return Members.Edit();
+		}
+		if (Pick(6) == 0)
+		{
+			return Child.Edit();
 		}
 		int32 Total = 0;
 		for (const FKind& Kind : Kinds)
@@ -476,41 +482,20 @@ private:
 	UBlueprint& Blueprint;
 	std::mt19937 Random;
 	FRandomMembers Members;
+	FRandomChild Child;
 };
-
-/** The first line that differs, with those around it, so that a failure can be read. */
-FString DescribeDifference(const FString& Expected, const FString& Actual)
-{
-	TArray<FString> ExpectedLines;
-	TArray<FString> ActualLines;
-	Expected.ParseIntoArrayLines(ExpectedLines, false);
-	Actual.ParseIntoArrayLines(ActualLines, false);
-	for (int32 Index = 0; Index < FMath::Max(ExpectedLines.Num(), ActualLines.Num()); ++Index)
-	{
-		const FString Wanted = ExpectedLines.IsValidIndex(Index) ? ExpectedLines[Index] : FString(TEXT("(end)"));
-		const FString Got = ActualLines.IsValidIndex(Index) ? ActualLines[Index] : FString(TEXT("(end)"));
-		if (!Wanted.Equals(Got, ESearchCase::CaseSensitive))
-		{
-			FString Owner;
-			for (int32 Above = FMath::Min(Index, ExpectedLines.Num() - 1); Above >= 0 && Owner.IsEmpty(); --Above)
-			{
-				Owner = ExpectedLines[Above].StartsWith(TEXT("Begin Object Class")) ? ExpectedLines[Above] : FString();
-			}
-			return FString::Printf(TEXT("line %d below %s\n  expected: %s\n  actual:   %s"), Index, *Owner, *Wanted, *Got);
-		}
-	}
-	return FString();
-}
 
 class FUndoRandomWalkTest : public FBlueprintEditTest, public testing::WithParamInterface<uint32>
 {
 protected:
 	void Expect(const FString& Expected, const FString& Where)
 	{
-		const FString Actual = FBlueprintText::Take(*Blueprint);
+		const FString Actual = TakeText();
 		ASSERT_TRUE(Actual.Equals(Expected, ESearchCase::CaseSensitive))
 			<< TCHAR_TO_UTF8(*Where) << ": " << TCHAR_TO_UTF8(*DescribeDifference(Expected, Actual));
 	}
+
+	FString TakeText() const { return FBlueprintText::Take(*Blueprint) + TEXT("Child\n") + FBlueprintText::Take(*Child); }
 
 	/** Edits, and notes the text after each that left an entry. */
 	void Edit(FRandomEditor& Editor, int32 Count)
@@ -531,7 +516,7 @@ protected:
 			{
 				Snapshots.SetNum(Before + 1);
 				Names.SetNum(Before + 1);
-				Snapshots.Add(FBlueprintText::Take(*Blueprint));
+				Snapshots.Add(TakeText());
 				Names.Add(Name);
 				++NumByKind.FindOrAdd(Name);
 			}
@@ -571,6 +556,7 @@ protected:
 
 	static int32 GetPosition() { return GEditor->Trans->GetQueueLength() - GEditor->Trans->GetUndoCount(); }
 
+	UBlueprint* Child = nullptr;
 	TArray<FString> Snapshots;
 	TArray<FString> Names;
 	/** How often each kind of edit left an entry. */
@@ -586,9 +572,10 @@ TEST_P(FUndoRandomWalkTest, EveryStateComesBackExactly)
 		TEXT("bCan"), MakeType(UEdGraphSchema_K2::PC_Boolean), EGPD_Input);
 	AddFunction(Interface, TEXT("Opened"));
 	FKismetEditorUtilities::CompileBlueprint(Interface);
+	Child = MakeBlueprint(TEXT("BP_Child"), Blueprint->GeneratedClass.Get());
 	GEditor->ResetTransaction(Title(TEXT("Test")));
-	FRandomEditor Editor(*Blueprint, *Interface, GetParam());
-	Snapshots = {FBlueprintText::Take(*Blueprint)};
+	FRandomEditor Editor(*Blueprint, *Interface, *Child, GetParam());
+	Snapshots = {TakeText()};
 	Names = {TEXT("start")};
 	Edit(Editor, NumEdits);
 	EXPECT_GT(Snapshots.Num(), NumEdits / 2);

@@ -5,7 +5,8 @@
 #include "UObject/Package.h"
 #include "UObject/UObjectIterator.h"
 
-FBlueprintActionDatabaseRegistrar::FBlueprintActionDatabaseRegistrar(FBlueprintActionDatabase::FActionRegistry& InRegistry, UObject const* InKeyFilter)
+FBlueprintActionDatabaseRegistrar::FBlueprintActionDatabaseRegistrar(
+	FBlueprintActionDatabase::FActionRegistry& InRegistry, UObject const* InKeyFilter)
 	: Registry(InRegistry)
 	, KeyFilter(InKeyFilter)
 {
@@ -91,7 +92,8 @@ int32 FBlueprintActionDatabaseRegistrar::RegisterEnumActions(const FMakeEnumSpaw
 	return NumRegistered;
 }
 
-int32 FBlueprintActionDatabaseRegistrar::RegisterClassFactoryActions(const UClass* TargetType, const FMakeFuncSpawnerDelegate& MakeActionCallback)
+int32 FBlueprintActionDatabaseRegistrar::RegisterClassFactoryActions(
+	const UClass* TargetType, const FMakeFuncSpawnerDelegate& MakeActionCallback)
 {
 	int32 NumRegistered = 0;
 	const auto RegisterOf = [&](const UClass* Class)
@@ -103,7 +105,8 @@ int32 FBlueprintActionDatabaseRegistrar::RegisterClassFactoryActions(const UClas
 		for (TFieldIterator<UFunction> Function(Class, EFieldIterationFlags::None); Function; ++Function)
 		{
 			const FObjectProperty* const Result = CastField<FObjectProperty>(Function->GetReturnProperty());
-			const bool bIsFactory = Function->HasAllFunctionFlags(FUNC_Static | FUNC_BlueprintCallable) && Result && Result->PropertyClass->IsChildOf(TargetType);
+			const bool bIsFactory = Function->HasAllFunctionFlags(FUNC_Static | FUNC_BlueprintCallable) && Result &&
+				Result->PropertyClass->IsChildOf(TargetType);
 			NumRegistered += bIsFactory && AddBlueprintAction(Class, MakeActionCallback.Execute(*Function)) ? 1 : 0;
 		}
 	};

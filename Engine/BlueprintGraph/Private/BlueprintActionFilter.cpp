@@ -97,14 +97,7 @@ bool FBlueprintActionFilter::IsRefusedByBlueprint(const FBlueprintActionInfo& Ac
 	}
 	const UBlueprint* const Source = Cast<UBlueprint>(Action.GetActionOwner());
 	const bool bIsMacro = Action.GetNodeClass() && Action.GetNodeClass()->IsChildOf(UK2Node_MacroInstance::StaticClass());
-	if (bIsMacro && Source)
-	{
-		// Macros of a library are for everyone of its parent's kind; others are for their own Blueprint and its children.
-		const UClass* const Needed = Source->BlueprintType == BPTYPE_MacroLibrary ? Source->ParentClass.Get() : Source->GeneratedClass.Get();
-		const UClass* const Self = GetSelf(Blueprint);
-		return Source != &Blueprint && Needed && !(Self && Self->IsChildOf(Needed));
-	}
-	return false;
+	return bIsMacro && Source && !UK2Node_MacroInstance::CanUseMacroOf(*Source, Blueprint);
 }
 
 bool FBlueprintActionFilter::IsRefusedByGraph(const FBlueprintActionInfo& Action, const UEdGraph& Graph)

@@ -10,7 +10,8 @@
 namespace
 {
 /** The Blueprint's event of that component and dispatcher; null when there is none. */
-UK2Node_ComponentBoundEvent* FindBoundEvent(const UEdGraph& Graph, const FObjectProperty& Component, const FMulticastDelegateProperty& Delegate)
+UK2Node_ComponentBoundEvent* FindBoundEvent(
+	const UEdGraph& Graph, const FObjectProperty& Component, const FMulticastDelegateProperty& Delegate)
 {
 	const UBlueprint* const Blueprint = Graph.GetTypedOuter<UBlueprint>();
 	for (const UEdGraph* const Page : Blueprint ? Blueprint->UbergraphPages : TArray<TObjectPtr<UEdGraph>>())
@@ -35,7 +36,8 @@ UK2Node_ComponentBoundEvent* FindBoundEvent(const UEdGraph& Graph, const FObject
 UBlueprintBoundEventNodeSpawner* UBlueprintBoundEventNodeSpawner::Create(
 	TSubclassOf<UK2Node_Event> NodeClass, FMulticastDelegateProperty* EventDelegate, UObject* Outer)
 {
-	UBlueprintBoundEventNodeSpawner* const Spawner = NewObject<UBlueprintBoundEventNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
+	UBlueprintBoundEventNodeSpawner* const Spawner = NewObject<UBlueprintBoundEventNodeSpawner>(
+		Outer ? Outer : GetTransientPackageAsObject());
 	Spawner->NodeClass = NodeClass.Get();
 	Spawner->SetField(EventDelegate, nullptr);
 	return Spawner;

@@ -58,7 +58,8 @@ void AddDispatcher(FMulticastDelegateProperty& Property, const UClass& Class, FA
 {
 	if (Property.HasAnyPropertyFlags(CPF_BlueprintAssignable))
 	{
-		for (UClass* const NodeClass : {UK2Node_AddDelegate::StaticClass(), UK2Node_AssignDelegate::StaticClass(), UK2Node_RemoveDelegate::StaticClass(), UK2Node_ClearDelegate::StaticClass()})
+		for (UClass* const NodeClass : {UK2Node_AddDelegate::StaticClass(), UK2Node_AssignDelegate::StaticClass(),
+				 UK2Node_RemoveDelegate::StaticClass(), UK2Node_ClearDelegate::StaticClass()})
 		{
 			Out.Add(UBlueprintDelegateNodeSpawner::Create(NodeClass, &Property));
 		}
@@ -85,7 +86,8 @@ void AddProperty(FProperty& Property, UClass& Class, FActionList& Out)
 		return;
 	}
 	FEdGraphPinType Type;
-	const bool bIsVisible = Property.HasAnyPropertyFlags(CPF_BlueprintVisible) && GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(&Property, Type);
+	const bool bIsVisible = Property.HasAnyPropertyFlags(CPF_BlueprintVisible) &&
+		GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(&Property, Type);
 	if (!bIsVisible)
 	{
 		return;
@@ -172,7 +174,8 @@ void AddMembers(UClass& Class, FActionList& Out)
 
 bool BlueprintClassActions::IsUsable(const UClass& Class)
 {
-	const bool bIsOld = Class.HasAnyClassFlags(CLASS_NewerVersionExists | CLASS_Deprecated) || Class.GetOutermost() == GetTransientPackage();
+	const bool bIsOld = Class.HasAnyClassFlags(CLASS_NewerVersionExists | CLASS_Deprecated) ||
+		Class.GetOutermost() == GetTransientPackage();
 	return !bIsOld && !Class.IsChildOf(UEdGraphNode::StaticClass());
 }
 

@@ -9,7 +9,8 @@
 
 UBlueprintComponentNodeSpawner* UBlueprintComponentNodeSpawner::Create(TSubclassOf<UActorComponent> InComponentClass, UObject* Outer)
 {
-	UBlueprintComponentNodeSpawner* const Spawner = NewObject<UBlueprintComponentNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
+	UBlueprintComponentNodeSpawner* const Spawner = NewObject<UBlueprintComponentNodeSpawner>(
+		Outer ? Outer : GetTransientPackageAsObject());
 	Spawner->NodeClass = UK2Node_AddComponent::StaticClass();
 	Spawner->ComponentClass = InComponentClass;
 	return Spawner;
@@ -26,7 +27,8 @@ UEdGraphNode* UBlueprintComponentNodeSpawner::Invoke(UEdGraph* ParentGraph, FBin
 {
 	const auto Customize = [this](UEdGraphNode* Node, bool bIsTemplate)
 	{ CastChecked<UK2Node_AddComponent>(Node)->TemplateType = ComponentClass.Get(); };
-	UK2Node_AddComponent* const Node = SpawnNode<UK2Node_AddComponent>(ParentGraph, Bindings, Location, FCustomizeNodeDelegate::CreateLambda(Customize));
+	UK2Node_AddComponent* const Node = SpawnNode<UK2Node_AddComponent>(
+		ParentGraph, Bindings, Location, FCustomizeNodeDelegate::CreateLambda(Customize));
 	UBlueprint* const Blueprint = Node ? Node->GetBlueprint() : nullptr;
 	UEdGraphPin* const NamePin = Node ? Node->GetTemplateNamePin() : nullptr;
 	if (IsTemplateGraph(ParentGraph) || !Blueprint || !Blueprint->GeneratedClass || !NamePin)
@@ -37,7 +39,8 @@ UEdGraphNode* UBlueprintComponentNodeSpawner::Invoke(UEdGraph* ParentGraph, FBin
 	Blueprint->Modify();
 	UObject* const Outer = Blueprint->GeneratedClass.Get();
 	const FName Name = MakeUniqueObjectName(Outer, ComponentClass.Get(), FName(*(TEXT("NODE_Add") + ComponentClass->GetName())));
-	UActorComponent* const Template = NewObject<UActorComponent>(Outer, ComponentClass.Get(), Name, RF_ArchetypeObject | RF_Public | RF_Transactional);
+	UActorComponent* const Template = NewObject<UActorComponent>(
+		Outer, ComponentClass.Get(), Name, RF_ArchetypeObject | RF_Public | RF_Transactional);
 	Blueprint->ComponentTemplates.Add(Template);
 	NamePin->DefaultValue = Template->GetName();
 	return Node;

@@ -5,7 +5,8 @@
 #include "K2Node.h"
 #include "UObject/UObjectGlobals.h"
 
-UBlueprintFieldNodeSpawner* UBlueprintFieldNodeSpawner::Create(TSubclassOf<UK2Node> NodeClass, FFieldVariant InField, UObject* Outer, UClass const* OwnerClass)
+UBlueprintFieldNodeSpawner* UBlueprintFieldNodeSpawner::Create(
+	TSubclassOf<UK2Node> NodeClass, FFieldVariant InField, UObject* Outer, UClass const* OwnerClass)
 {
 	UBlueprintFieldNodeSpawner* const Spawner = NewObject<UBlueprintFieldNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
 	Spawner->NodeClass = NodeClass.Get();
@@ -70,6 +71,6 @@ bool UBlueprintFieldNodeSpawner::IsMemberOfSelf(const UClass* MemberOwner, const
 		return false;
 	}
 	const UClass* const Self = Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass.Get() : Blueprint->ParentClass.Get();
-	return UBlueprint::GetBlueprintFromClass(MemberOwner) == Blueprint || (Self && Self->GetAuthoritativeClass()->IsChildOf(MemberOwner->GetAuthoritativeClass())) ||
-		(Self && Self->IsChildOf(MemberOwner));
+	return UBlueprint::GetBlueprintFromClass(MemberOwner) == Blueprint ||
+		(Self && Self->GetAuthoritativeClass()->IsChildOf(MemberOwner->GetAuthoritativeClass())) || (Self && Self->IsChildOf(MemberOwner));
 }

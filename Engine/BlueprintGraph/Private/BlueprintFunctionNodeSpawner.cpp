@@ -47,7 +47,8 @@ UBlueprintFunctionNodeSpawner* UBlueprintFunctionNodeSpawner::Create(UFunction c
 	return Create(ChooseNodeClass(*Function), Function, Outer);
 }
 
-UBlueprintFunctionNodeSpawner* UBlueprintFunctionNodeSpawner::Create(TSubclassOf<UK2Node_CallFunction> NodeClass, UFunction const* const Function, UObject* Outer)
+UBlueprintFunctionNodeSpawner* UBlueprintFunctionNodeSpawner::Create(
+	TSubclassOf<UK2Node_CallFunction> NodeClass, UFunction const* const Function, UObject* Outer)
 {
 	UBlueprintFunctionNodeSpawner* const Spawner = NewObject<UBlueprintFunctionNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
 	Spawner->NodeClass = NodeClass.Get();

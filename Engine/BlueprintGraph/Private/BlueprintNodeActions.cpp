@@ -140,7 +140,8 @@ bool HasAction(const UScriptStruct& Struct)
 {
 	const bool bMakes = NodeType::StaticClass() == UK2Node_MakeStruct::StaticClass();
 	const bool bBreaks = NodeType::StaticClass() == UK2Node_BreakStruct::StaticClass();
-	const bool bHasOwnFunction = (bMakes && Struct.HasMetaData(TEXT("HasNativeMake"))) || (bBreaks && Struct.HasMetaData(TEXT("HasNativeBreak")));
+	const bool bHasOwnFunction = (bMakes && Struct.HasMetaData(TEXT("HasNativeMake"))) ||
+		(bBreaks && Struct.HasMetaData(TEXT("HasNativeBreak")));
 	if (bHasOwnFunction || !UEdGraphSchema_K2::IsAllowableBlueprintVariableType(&Struct))
 	{
 		return false;
@@ -219,7 +220,10 @@ void AddOfKeys(UClass& NodeClass, FRegistrar& Registrar)
 	}
 }
 
-/** The names of a list of the project's input settings, each once: (ActionName="Jump",Key=SpaceBar), (AxisName="Turn",Scale=1.0,Key=MouseX). */
+/**
+ * The names of a list of the project's input settings, each once: (ActionName="Jump",Key=SpaceBar),
+ * (AxisName="Turn",Scale=1.0,Key=MouseX).
+ */
 TSet<FName> GetNamesOfMappings(const TCHAR* List, const TCHAR* NameField)
 {
 	TArray<FString> Lines;
@@ -279,7 +283,8 @@ void AddSubsystems(UClass& NodeClass, FRegistrar& Registrar, std::initializer_li
 		}
 		for (UClass* const Subsystem : Subsystems)
 		{
-			if (!Registrar.IsOpenForRegistration(Subsystem) || Subsystem->HasAnyClassFlags(CLASS_Abstract | CLASS_NewerVersionExists) || !UEdGraphSchema_K2::IsAllowableBlueprintVariableType(Subsystem, true))
+			if (!Registrar.IsOpenForRegistration(Subsystem) || Subsystem->HasAnyClassFlags(CLASS_Abstract | CLASS_NewerVersionExists) ||
+				!UEdGraphSchema_K2::IsAllowableBlueprintVariableType(Subsystem, true))
 			{
 				continue;
 			}
@@ -373,10 +378,11 @@ void AddTemporaryVariables(UClass& NodeClass, FRegistrar& Registrar)
 	};
 	const auto MakeType = [](const FName Category, const FName SubCategory = NAME_None, UObject* SubCategoryObject = nullptr)
 	{ return FEdGraphPinType(Category, SubCategory, SubCategoryObject, EPinContainerType::None, false, FEdGraphTerminalType()); };
-	const FEdGraphPinType Types[] = {MakeType(FSchema::PC_Int), MakeType(FSchema::PC_Real, FSchema::PC_Double), MakeType(FSchema::PC_Boolean),
-		MakeType(FSchema::PC_Struct, NAME_None, TBaseStructure<FVector>::Get()), MakeType(FSchema::PC_Struct, NAME_None, TBaseStructure<FRotator>::Get()),
-		MakeType(FSchema::PC_Struct, NAME_None, TBaseStructure<FTransform>::Get()), MakeType(FSchema::PC_String), MakeType(FSchema::PC_Text),
-		MakeType(FSchema::PC_Byte)};
+	const FEdGraphPinType Types[] = {MakeType(FSchema::PC_Int), MakeType(FSchema::PC_Real, FSchema::PC_Double),
+		MakeType(FSchema::PC_Boolean), MakeType(FSchema::PC_Struct, NAME_None, TBaseStructure<FVector>::Get()),
+		MakeType(FSchema::PC_Struct, NAME_None, TBaseStructure<FRotator>::Get()),
+		MakeType(FSchema::PC_Struct, NAME_None, TBaseStructure<FTransform>::Get()), MakeType(FSchema::PC_String),
+		MakeType(FSchema::PC_Text), MakeType(FSchema::PC_Byte)};
 	for (FEdGraphPinType Type : Types)
 	{
 		AddType(Type, false);

@@ -5,7 +5,8 @@
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 
-UBlueprintNodeSpawner* UBlueprintNodeSpawner::Create(TSubclassOf<UEdGraphNode> const NodeClass, UObject* Outer, FCustomizeNodeDelegate PostSpawnDelegate)
+UBlueprintNodeSpawner* UBlueprintNodeSpawner::Create(
+	TSubclassOf<UEdGraphNode> const NodeClass, UObject* Outer, FCustomizeNodeDelegate PostSpawnDelegate)
 {
 	UBlueprintNodeSpawner* const Spawner = NewObject<UBlueprintNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
 	Spawner->NodeClass = NodeClass.Get();
@@ -40,8 +41,8 @@ UEdGraphNode* UBlueprintNodeSpawner::Invoke(UEdGraph* ParentGraph, FBindingSet c
 	return SpawnEdGraphNode(NodeClass, ParentGraph, Bindings, Location, CustomizeNodeDelegate);
 }
 
-UEdGraphNode* UBlueprintNodeSpawner::SpawnEdGraphNode(
-	TSubclassOf<UEdGraphNode> const InNodeClass, UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D Location, FCustomizeNodeDelegate PostSpawnDelegate) const
+UEdGraphNode* UBlueprintNodeSpawner::SpawnEdGraphNode(TSubclassOf<UEdGraphNode> const InNodeClass, UEdGraph* ParentGraph,
+	FBindingSet const& Bindings, FVector2D Location, FCustomizeNodeDelegate PostSpawnDelegate) const
 {
 	if (!InNodeClass || !ParentGraph)
 	{

@@ -15,8 +15,8 @@ UBlueprintVariableNodeSpawner* UBlueprintVariableNodeSpawner::CreateFromMemberOr
 	return Spawner;
 }
 
-UBlueprintVariableNodeSpawner* UBlueprintVariableNodeSpawner::CreateFromLocal(
-	TSubclassOf<UK2Node_Variable> NodeClass, UEdGraph* VarContext, FBPVariableDescription const& VarDesc, FProperty* VarProperty, UObject* Outer)
+UBlueprintVariableNodeSpawner* UBlueprintVariableNodeSpawner::CreateFromLocal(TSubclassOf<UK2Node_Variable> NodeClass, UEdGraph* VarContext,
+	FBPVariableDescription const& VarDesc, FProperty* VarProperty, UObject* Outer)
 {
 	UBlueprintVariableNodeSpawner* const Spawner = NewObject<UBlueprintVariableNodeSpawner>(Outer ? Outer : GetTransientPackageAsObject());
 	Spawner->NodeClass = NodeClass.Get();

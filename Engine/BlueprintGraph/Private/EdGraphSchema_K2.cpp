@@ -2,6 +2,7 @@
 
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
+#include "K2Node_CustomEvent.h"
 #include "K2Node_EditablePinBase.h"
 #include "K2Node_FunctionEntry.h"
 #include "K2Node_FunctionResult.h"
@@ -122,7 +123,8 @@ private:
 		FString Named = TEXT("(");
 		for (int32 Index = 0; Index < FMath::Min(Numbers.Num(), Members.Num()); ++Index)
 		{
-			Named += FString::Printf(TEXT("%s%s=%s"), Index > 0 ? TEXT(",") : TEXT(""), *Members[Index]->GetName(), *Numbers[Index].TrimStartAndEnd());
+			Named += FString::Printf(
+				TEXT("%s%s=%s"), Index > 0 ? TEXT(",") : TEXT(""), *Members[Index]->GetName(), *Numbers[Index].TrimStartAndEnd());
 		}
 		return Named + TEXT(")");
 	}
@@ -147,7 +149,8 @@ struct FSplitMember
 /** The library function that makes the struct of its parts, or takes it apart; null for a struct that has none. */
 const UFunction* FindNativeFunction(const UScriptStruct& Struct, const EEdGraphPinDirection Direction)
 {
-	const FString* const Path = Struct.FindMetaData(Direction == EGPD_Input ? FBlueprintMetadata::MD_NativeMakeFunction : FBlueprintMetadata::MD_NativeBreakFunction);
+	const FString* const Path = Struct.FindMetaData(
+		Direction == EGPD_Input ? FBlueprintMetadata::MD_NativeMakeFunction : FBlueprintMetadata::MD_NativeBreakFunction);
 	FString ClassPath;
 	FString FunctionName;
 	const bool bHasPath = Path && Path->Split(TEXT("."), &ClassPath, &FunctionName, ESearchCase::CaseSensitive, ESearchDir::FromEnd);
@@ -175,7 +178,8 @@ TArray<FSplitMember> GetSplitMembers(const UScriptStruct& Struct, const EEdGraph
 	const UFunction* const Function = FindNativeFunction(Struct, Direction);
 	for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
 	{
-		const bool bIsOutput = Parameter->HasAnyPropertyFlags(CPF_OutParm) && !Parameter->HasAnyPropertyFlags(CPF_ReferenceParm | CPF_ReturnParm);
+		const bool bIsOutput = Parameter->HasAnyPropertyFlags(CPF_OutParm) &&
+			!Parameter->HasAnyPropertyFlags(CPF_ReferenceParm | CPF_ReturnParm);
 		const bool bIsInput = !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
 		if (Direction == EGPD_Input ? bIsInput : bIsOutput)
 		{
@@ -204,19 +208,22 @@ FName MakeSubPinName(const UEdGraphPin& Pin, const FSplitMember& Member)
 
 bool UEdGraphSchema_K2::CanUserKismetCallFunction(const UFunction* Function)
 {
-	return Function && Function->HasAllFunctionFlags(FUNC_BlueprintCallable) && !Function->HasAllFunctionFlags(FUNC_Delegate) && !Function->GetBoolMetaData(FBlueprintMetadata::MD_BlueprintInternalUseOnly);
+	return Function && Function->HasAllFunctionFlags(FUNC_BlueprintCallable) && !Function->HasAllFunctionFlags(FUNC_Delegate) &&
+		!Function->GetBoolMetaData(FBlueprintMetadata::MD_BlueprintInternalUseOnly);
 }
 
 bool UEdGraphSchema_K2::CanKismetOverrideFunction(const UFunction* Function)
 {
-	return Function && Function->HasAllFunctionFlags(FUNC_BlueprintEvent) && !Function->HasAllFunctionFlags(FUNC_Delegate) && !Function->GetBoolMetaData(FBlueprintMetadata::MD_BlueprintInternalUseOnly) && !Function->HasMetaData(TEXT("DeprecatedFunction"));
+	return Function && Function->HasAllFunctionFlags(FUNC_BlueprintEvent) && !Function->HasAllFunctionFlags(FUNC_Delegate) &&
+		!Function->GetBoolMetaData(FBlueprintMetadata::MD_BlueprintInternalUseOnly) && !Function->HasMetaData(TEXT("DeprecatedFunction"));
 }
 
 bool UEdGraphSchema_K2::HasFunctionAnyOutputParameter(const UFunction* Function)
 {
 	for (TFieldIterator<FProperty> Parameter(Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
 	{
-		const bool bIsInput = Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) || !Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
+		const bool bIsInput = Parameter->HasAnyPropertyFlags(CPF_ReferenceParm) ||
+			!Parameter->HasAnyPropertyFlags(CPF_OutParm | CPF_ReturnParm);
 		if (!bIsInput)
 		{
 			return true;
@@ -227,7 +234,8 @@ bool UEdGraphSchema_K2::HasFunctionAnyOutputParameter(const UFunction* Function)
 
 bool UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(const UFunction* InFunction)
 {
-	return CanKismetOverrideFunction(InFunction) && !InFunction->HasAnyFunctionFlags(FUNC_Static | FUNC_Const) && !HasFunctionAnyOutputParameter(InFunction) && !InFunction->HasMetaData(FBlueprintMetadata::MD_ForceAsFunction);
+	return CanKismetOverrideFunction(InFunction) && !InFunction->HasAnyFunctionFlags(FUNC_Static | FUNC_Const) &&
+		!HasFunctionAnyOutputParameter(InFunction) && !InFunction->HasMetaData(FBlueprintMetadata::MD_ForceAsFunction);
 }
 
 bool UEdGraphSchema_K2::IsAllowableBlueprintVariableType(const UEnum* InEnum)
@@ -237,13 +245,16 @@ bool UEdGraphSchema_K2::IsAllowableBlueprintVariableType(const UEnum* InEnum)
 
 bool UEdGraphSchema_K2::IsAllowableBlueprintVariableType(const UClass* InClass, bool bAssumeBlueprintType)
 {
-	return InClass && (InClass == UObject::StaticClass() || bAssumeBlueprintType || InClass->HasAnyClassFlags(CLASS_CompiledFromBlueprint) || IsAllowedType(InClass));
+	return InClass &&
+		(InClass == UObject::StaticClass() || bAssumeBlueprintType || InClass->HasAnyClassFlags(CLASS_CompiledFromBlueprint) ||
+			IsAllowedType(InClass));
 }
 
 bool UEdGraphSchema_K2::IsAllowableBlueprintVariableType(const UScriptStruct* InStruct, bool bForInternalUse)
 {
 	const bool bIsInternal = InStruct && InStruct->GetBoolMetaData(TEXT("BlueprintInternalUseOnly"));
-	return InStruct && (InStruct->GetClass() != UScriptStruct::StaticClass() || IsAllowedType(InStruct)) && (bForInternalUse || !bIsInternal);
+	return InStruct && (InStruct->GetClass() != UScriptStruct::StaticClass() || IsAllowedType(InStruct)) &&
+		(bForInternalUse || !bIsInternal);
 }
 
 FText UEdGraphSchema_K2::GetFriendlySignatureName(const UFunction* Function)
@@ -299,7 +310,8 @@ UEdGraph* UEdGraphSchema_K2::GetFunctionGraph(const UBlueprint* Blueprint, FName
 void UEdGraphSchema_K2::GetGraphDisplayInformation(const UEdGraph& Graph, FGraphDisplayInfo& DisplayInfo) const
 {
 	const bool bIsConstructionScript = IsConstructionScript(&Graph);
-	DisplayInfo.PlainName = bIsConstructionScript ? LOCTEXT("GraphDisplayName_ConstructionScript", "ConstructionScript") : FText::FromString(Graph.GetName());
+	DisplayInfo.PlainName = bIsConstructionScript ? LOCTEXT("GraphDisplayName_ConstructionScript", "ConstructionScript")
+												  : FText::FromString(Graph.GetName());
 	DisplayInfo.DisplayName = bIsConstructionScript ? LOCTEXT("GraphDisplayTitle_ConstructionScript", "Construction Script")
 													: FText::FromString(FName::NameToDisplayString(Graph.GetName(), false));
 	TArray<UK2Node_FunctionEntry*> Entries;
@@ -308,6 +320,51 @@ void UEdGraphSchema_K2::GetGraphDisplayInformation(const UEdGraph& Graph, FGraph
 	{
 		DisplayInfo.Tooltip = Entries[0]->MetaData.ToolTip;
 	}
+}
+
+UEdGraphNode* UEdGraphSchema_K2::CreateSubstituteNode(
+	UEdGraphNode* Node, const UEdGraph* Graph, FObjectInstancingGraph* InstanceGraph, TSet<FName>& InOutExtraNames) const
+{
+	const UK2Node_Event* const Event = Cast<UK2Node_Event>(Node);
+	const UBlueprint* const Blueprint = Graph->GetTypedOuter<UBlueprint>();
+	if (!Event || !Blueprint || GetGraphType(Graph) != GT_Ubergraph)
+	{
+		return nullptr;
+	}
+	const UClass* const Class = Blueprint->SkeletonGeneratedClass.Get();
+	const FString BaseName = Event->GetFunctionName().ToString();
+	FName Name(*BaseName);
+	for (int32 Number = 0;
+		 InOutExtraNames.Contains(Name) || (Class && (Class->FindFunctionByName(Name) || Class->FindPropertyByName(Name))); ++Number)
+	{
+		Name = FName(*FString::Printf(TEXT("%s_%d"), *BaseName, Number));
+	}
+	InOutExtraNames.Add(Name);
+	UK2Node_CustomEvent* const Substitute = CastChecked<UK2Node_CustomEvent>(
+		Node->GetGraph()->CreateNode(UK2Node_CustomEvent::StaticClass()));
+	Substitute->CustomFunctionName = Name;
+	Substitute->NodeGuid = Node->NodeGuid;
+	Substitute->NodePosX = Node->NodePosX;
+	Substitute->NodePosY = Node->NodePosY;
+	Substitute->NodeComment = Node->NodeComment;
+	Substitute->AllocateDefaultPins();
+	for (UEdGraphPin* const Old : TArray<UEdGraphPin*>(Node->Pins))
+	{
+		UEdGraphPin* Pin = Substitute->FindPin(Old->PinName, Old->Direction);
+		if (!Pin && !Old->ParentPin && !Old->bOrphanedPin)
+		{
+			Pin = Substitute->CreateUserDefinedPin(Old->PinName, Old->PinType, EGPD_Output, false);
+		}
+		if (Pin && Old->SubPins.Num() > 0)
+		{
+			SplitPin(Pin, false);
+		}
+		if (Pin)
+		{
+			Pin->MovePersistentDataFromOldPin(*Old);
+		}
+	}
+	return Substitute;
 }
 
 void UEdGraphSchema_K2::CreateDefaultNodesForGraph(UEdGraph& Graph) const
@@ -396,13 +453,17 @@ void UEdGraphSchema_K2::MarkFunctionEntryAsEditable(const UEdGraph* CurrentGraph
 
 bool UEdGraphSchema_K2::CanSplitStructPin(const UEdGraphPin& Pin) const
 {
-	const UScriptStruct* const Struct = Pin.PinType.PinCategory == PC_Struct && !Pin.PinType.IsContainer() ? Cast<UScriptStruct>(Pin.PinType.PinSubCategoryObject.Get()) : nullptr;
-	return Struct && Pin.SubPins.Num() == 0 && !Pin.bNotConnectable && Pin.LinkedTo.Num() == 0 && GetSplitMembers(*Struct, Pin.Direction).Num() > 0;
+	const UScriptStruct* const Struct = Pin.PinType.PinCategory == PC_Struct && !Pin.PinType.IsContainer()
+		? Cast<UScriptStruct>(Pin.PinType.PinSubCategoryObject.Get())
+		: nullptr;
+	return Struct && Pin.SubPins.Num() == 0 && !Pin.bNotConnectable && Pin.LinkedTo.Num() == 0 &&
+		GetSplitMembers(*Struct, Pin.Direction).Num() > 0;
 }
 
 void UEdGraphSchema_K2::SplitPin(UEdGraphPin* Pin, bool bNotify) const
 {
-	const UScriptStruct* const Struct = Pin->PinType.PinCategory == PC_Struct ? Cast<UScriptStruct>(Pin->PinType.PinSubCategoryObject.Get()) : nullptr;
+	const UScriptStruct* const Struct = Pin->PinType.PinCategory == PC_Struct ? Cast<UScriptStruct>(Pin->PinType.PinSubCategoryObject.Get())
+																			  : nullptr;
 	// A link of the whole value would go on out of sight, against the members' own.
 	if (!Struct || Pin->SubPins.Num() > 0 || Pin->LinkedTo.Num() > 0)
 	{
@@ -419,13 +480,15 @@ void UEdGraphSchema_K2::SplitPin(UEdGraphPin* Pin, bool bNotify) const
 		FEdGraphPinType Type = Member.Type;
 		Type.bIsConst = Pin->PinType.bIsConst;
 		UEdGraphPin* const SubPin = Node->CreatePin(Pin->Direction, Type, MakeSubPinName(*Pin, Member), ++Index);
-		SubPin->PinFriendlyName = FText::Format(LOCTEXT("SplitPinFriendlyNameFormat", "{0} {1}"), GetPinDisplayName(Pin), Member.DisplayName);
+		SubPin->PinFriendlyName = FText::Format(
+			LOCTEXT("SplitPinFriendlyNameFormat", "{0} {1}"), GetPinDisplayName(Pin), Member.DisplayName);
 		SubPin->bDefaultValueIsIgnored = Pin->bDefaultValueIsIgnored;
 		SubPin->ParentPin = Pin;
 		if (Pin->Direction == EGPD_Input && Member.Member)
 		{
 			SetPinAutogeneratedDefaultValue(SubPin, Autogenerated.GetMember(*Member.Member));
-			GetPinDefaultValuesFromString(Type, Node, Value.GetMember(*Member.Member), SubPin->DefaultValue, SubPin->DefaultObject, SubPin->DefaultTextValue);
+			GetPinDefaultValuesFromString(
+				Type, Node, Value.GetMember(*Member.Member), SubPin->DefaultValue, SubPin->DefaultObject, SubPin->DefaultTextValue);
 		}
 		else if (Pin->Direction == EGPD_Input)
 		{

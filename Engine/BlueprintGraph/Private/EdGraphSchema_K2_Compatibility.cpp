@@ -80,12 +80,15 @@ bool AreStructsCompatible(const FEdGraphPinType& Output, const FEdGraphPinType& 
 	{
 		return true;
 	}
-	return OutputStruct && InputStruct && ((OutputStruct->IsChildOf(InputStruct) && AddsNoMembers(*OutputStruct, *InputStruct)) || DifferInPrecision(*OutputStruct, *InputStruct));
+	return OutputStruct && InputStruct &&
+		((OutputStruct->IsChildOf(InputStruct) && AddsNoMembers(*OutputStruct, *InputStruct)) ||
+			DifferInPrecision(*OutputStruct, *InputStruct));
 }
 
 bool AreDelegatesCompatible(const FEdGraphPinType& Output, const FEdGraphPinType& Input)
 {
-	const UFunction* const OutputSignature = FMemberReference::ResolveSimpleMemberReference<UFunction>(Output.PinSubCategoryMemberReference);
+	const UFunction* const OutputSignature = FMemberReference::ResolveSimpleMemberReference<UFunction>(
+		Output.PinSubCategoryMemberReference);
 	const UFunction* const InputSignature = FMemberReference::ResolveSimpleMemberReference<UFunction>(Input.PinSubCategoryMemberReference);
 	return !OutputSignature || !InputSignature || OutputSignature->IsSignatureCompatibleWith(InputSignature);
 }
@@ -93,7 +96,8 @@ bool AreDelegatesCompatible(const FEdGraphPinType& Output, const FEdGraphPinType
 /** An index chooses one of several: by number, by enumeration, or one of two. */
 bool CanBeIndex(const FEdGraphPinType& Type)
 {
-	return !Type.IsContainer() && (IsWildcard(Type) || IsByte(Type.PinCategory) || Type.PinCategory == Schema::PC_Int || Type.PinCategory == Schema::PC_Boolean);
+	return !Type.IsContainer() &&
+		(IsWildcard(Type) || IsByte(Type.PinCategory) || Type.PinCategory == Schema::PC_Int || Type.PinCategory == Schema::PC_Boolean);
 }
 
 bool TakesAnyType(const FEdGraphPinType& Wildcard, const FEdGraphPinType& Other)
@@ -115,14 +119,16 @@ bool AreOtherCategoriesCompatible(const FEdGraphPinType& Output, const FEdGraphP
 	return IsByte(Output.PinCategory) && IsByte(Input.PinCategory) && Output.PinSubCategoryObject == Input.PinSubCategoryObject;
 }
 
-bool AreMapValuesCompatible(const UEdGraphSchema_K2& K2Schema, const FEdGraphPinType& Output, const FEdGraphPinType& Input, const UClass* CallingContext)
+bool AreMapValuesCompatible(
+	const UEdGraphSchema_K2& K2Schema, const FEdGraphPinType& Output, const FEdGraphPinType& Input, const UClass* CallingContext)
 {
-	return K2Schema.ArePinTypesCompatible(
-		FEdGraphPinType::GetPinTypeForTerminalType(Output.PinValueType), FEdGraphPinType::GetPinTypeForTerminalType(Input.PinValueType), CallingContext);
+	return K2Schema.ArePinTypesCompatible(FEdGraphPinType::GetPinTypeForTerminalType(Output.PinValueType),
+		FEdGraphPinType::GetPinTypeForTerminalType(Input.PinValueType), CallingContext);
 }
 }
 
-bool UEdGraphSchema_K2::ArePinsCompatible(const UEdGraphPin* PinA, const UEdGraphPin* PinB, const UClass* CallingContext, bool bIgnoreArray) const
+bool UEdGraphSchema_K2::ArePinsCompatible(
+	const UEdGraphPin* PinA, const UEdGraphPin* PinB, const UClass* CallingContext, bool bIgnoreArray) const
 {
 	if (PinA->Direction == PinB->Direction)
 	{
@@ -133,7 +139,8 @@ bool UEdGraphSchema_K2::ArePinsCompatible(const UEdGraphPin* PinA, const UEdGrap
 	return ArePinTypesCompatible(Output.PinType, Input.PinType, CallingContext, bIgnoreArray);
 }
 
-bool UEdGraphSchema_K2::ArePinTypesCompatible(const FEdGraphPinType& Output, const FEdGraphPinType& Input, const UClass* CallingContext, bool bIgnoreArray) const
+bool UEdGraphSchema_K2::ArePinTypesCompatible(
+	const FEdGraphPinType& Output, const FEdGraphPinType& Input, const UClass* CallingContext, bool bIgnoreArray) const
 {
 	// A wildcard that is no container yet may become one.
 	const bool bContainerIsOpen = (IsWildcard(Output) && !Output.IsContainer()) || (IsWildcard(Input) && !Input.IsContainer());

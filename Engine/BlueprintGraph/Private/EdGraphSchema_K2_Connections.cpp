@@ -108,23 +108,28 @@ const FPinConnectionResponse UEdGraphSchema_K2::CanCreateConnection(const UEdGra
 		{
 			return DetermineConnectionResponse(OutputPin, InputPin, bInputIsA);
 		}
-		return FPinConnectionResponse(CONNECT_RESPONSE_MAKE_WITH_PROMOTION, DescribeTypes(LOCTEXT("PromoteTypes", "Promote {1} to {0}."), OutputPin, InputPin));
+		return FPinConnectionResponse(
+			CONNECT_RESPONSE_MAKE_WITH_PROMOTION, DescribeTypes(LOCTEXT("PromoteTypes", "Promote {1} to {0}."), OutputPin, InputPin));
 	}
-	if (SearchForAutocastFunction(OutputPin.PinType, InputPin.PinType).IsSet() || FindSpecializedConversionNode(OutputPin.PinType, InputPin, false).IsSet())
+	if (SearchForAutocastFunction(OutputPin.PinType, InputPin.PinType).IsSet() ||
+		FindSpecializedConversionNode(OutputPin.PinType, InputPin, false).IsSet())
 	{
-		return FPinConnectionResponse(CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE, DescribeTypes(LOCTEXT("ConvertTypes", "Convert {0} to {1}."), OutputPin, InputPin));
+		return FPinConnectionResponse(
+			CONNECT_RESPONSE_MAKE_WITH_CONVERSION_NODE, DescribeTypes(LOCTEXT("ConvertTypes", "Convert {0} to {1}."), OutputPin, InputPin));
 	}
 	return ExplainMismatch(OutputPin, InputPin);
 }
 
-const FPinConnectionResponse UEdGraphSchema_K2::DetermineConnectionResponse(const UEdGraphPin& OutputPin, const UEdGraphPin& InputPin, bool bInputIsA) const
+const FPinConnectionResponse UEdGraphSchema_K2::DetermineConnectionResponse(
+	const UEdGraphPin& OutputPin, const UEdGraphPin& InputPin, bool bInputIsA) const
 {
 	const auto BreakInput = bInputIsA ? CONNECT_RESPONSE_BREAK_OTHERS_A : CONNECT_RESPONSE_BREAK_OTHERS_B;
 	const auto BreakOutput = bInputIsA ? CONNECT_RESPONSE_BREAK_OTHERS_B : CONNECT_RESPONSE_BREAK_OTHERS_A;
 	// Execution leaves by one way and may arrive by many; a value is the other way round.
 	const bool bIsExec = IsExecPin(OutputPin);
 	// An array of targets stands alone: the call goes over its elements.
-	const bool bJoinsTargets = TakesManyTargets(InputPin, false) && !IsContainer(&OutputPin) && !InputPin.LinkedTo.ContainsByPredicate(&IsContainer);
+	const bool bJoinsTargets = TakesManyTargets(InputPin, false) && !IsContainer(&OutputPin) &&
+		!InputPin.LinkedTo.ContainsByPredicate(&IsContainer);
 	const bool bReplacesOutput = bIsExec && OutputPin.LinkedTo.Num() > 0;
 	const bool bReplacesInput = !bIsExec && InputPin.LinkedTo.Num() > 0 && !bJoinsTargets;
 	if (bReplacesOutput)
@@ -142,9 +147,11 @@ const FPinConnectionResponse UEdGraphSchema_K2::ExplainMismatch(const UEdGraphPi
 {
 	const UScriptStruct* const OutputStruct = Cast<UScriptStruct>(OutputPin.PinType.PinSubCategoryObject.Get());
 	const UScriptStruct* const InputStruct = Cast<UScriptStruct>(InputPin.PinType.PinSubCategoryObject.Get());
-	if (OutputPin.PinType.PinCategory == PC_Struct && InputPin.PinType.PinCategory == PC_Struct && OutputStruct && InputStruct && OutputStruct->IsChildOf(InputStruct))
+	if (OutputPin.PinType.PinCategory == PC_Struct && InputPin.PinType.PinCategory == PC_Struct && OutputStruct && InputStruct &&
+		OutputStruct->IsChildOf(InputStruct))
 	{
-		return Refuse(LOCTEXT("StructsIncompatible", "Only exactly matching structures are considered compatible. Derived structures are disallowed."));
+		return Refuse(LOCTEXT(
+			"StructsIncompatible", "Only exactly matching structures are considered compatible. Derived structures are disallowed."));
 	}
 	return Refuse(DescribeTypes(LOCTEXT("DefaultPinIncompatibilityMessage", "{0} is not compatible with {1}."), OutputPin, InputPin));
 }
@@ -230,7 +237,8 @@ bool UEdGraphSchema_K2::AutowireConversionNode(UEdGraphPin& OutputPin, UEdGraphP
 			[this, &Pin, bMayReplace](const UEdGraphPin* Candidate)
 			{
 				const FPinConnectionResponse Response = CanCreateConnection(Candidate, &Pin);
-				return !Candidate->bHidden && !IsExecPin(*Candidate) && (Response.CanSafeConnect() || (bMayReplace && Response.Response == CONNECT_RESPONSE_BREAK_OTHERS_B));
+				return !Candidate->bHidden && !IsExecPin(*Candidate) &&
+					(Response.CanSafeConnect() || (bMayReplace && Response.Response == CONNECT_RESPONSE_BREAK_OTHERS_B));
 			});
 	};
 	UEdGraphPin* const Source = FindWithResponse(OutputPin, false);

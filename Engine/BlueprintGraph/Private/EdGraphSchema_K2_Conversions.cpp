@@ -31,7 +31,8 @@ struct FValueKind
 	bool operator==(const FValueKind& Other) const = default;
 	friend uint32 GetTypeHash(const FValueKind& Kind)
 	{
-		return HashCombine(HashCombine(GetTypeHash(Kind.Category), GetTypeHash(Kind.SubCategory)), HashCombine(GetTypeHash(Kind.Object), static_cast<uint32>(Kind.Container)));
+		return HashCombine(HashCombine(GetTypeHash(Kind.Category), GetTypeHash(Kind.SubCategory)),
+			HashCombine(GetTypeHash(Kind.Object), static_cast<uint32>(Kind.Container)));
 	}
 };
 
@@ -44,7 +45,8 @@ FValueKind GetKind(const FEdGraphPinType& Type)
 
 bool RefersToObject(const FName Category)
 {
-	return Category == Schema::PC_Object || Category == Schema::PC_Class || Category == Schema::PC_SoftObject || Category == Schema::PC_SoftClass;
+	return Category == Schema::PC_Object || Category == Schema::PC_Class || Category == Schema::PC_SoftObject ||
+		Category == Schema::PC_SoftClass;
 }
 
 bool IsNumber(const FName Category)
@@ -90,7 +92,8 @@ TMap<FConversionKey, TWeakObjectPtr<UFunction>> FindConversions()
 	{
 		UFunction* const Function = *Iterator;
 		const FProperty* const Result = Function->GetReturnProperty();
-		const bool bConverts = Result && Function->HasAllFunctionFlags(FUNC_Static | FUNC_BlueprintPure) && Function->HasMetaData(FBlueprintMetadata::MD_BlueprintAutocast);
+		const bool bConverts = Result && Function->HasAllFunctionFlags(FUNC_Static | FUNC_BlueprintPure) &&
+			Function->HasMetaData(FBlueprintMetadata::MD_BlueprintAutocast);
 		const FProperty* const Source = bConverts ? GetFirstInput(*Function) : nullptr;
 		FEdGraphPinType From;
 		FEdGraphPinType To;
@@ -209,7 +212,8 @@ struct FConversion
 	}
 	bool IsBetween(const FName From, const FName To) const
 	{
-		return OutputType.PinCategory == From && GetInputType().PinCategory == To && !OutputType.IsContainer() && !GetInputType().IsContainer();
+		return OutputType.PinCategory == From && GetInputType().PinCategory == To && !OutputType.IsContainer() &&
+			!GetInputType().IsContainer();
 	}
 	/** The pin wants a class below the one that is given. */
 	bool IsDownward() const
@@ -291,7 +295,8 @@ const FConversionNode ConversionNodes[] = {
 	{[](const FConversion& Conversion)
 		{
 			const FEdGraphPinType& Input = Conversion.GetInputType();
-			return !Conversion.OutputType.IsContainer() && Input.IsArray() && Input.PinCategory != Schema::PC_Wildcard && (!Input.bIsReference || Input.bIsConst) &&
+			return !Conversion.OutputType.IsContainer() && Input.IsArray() && Input.PinCategory != Schema::PC_Wildcard &&
+				(!Input.bIsReference || Input.bIsConst) &&
 				Conversion.K2Schema.ArePinTypesCompatible(Conversion.OutputType, Input, nullptr, true);
 		},
 		&MakePlain<UK2Node_MakeArray>},
@@ -314,10 +319,16 @@ const FConversionNode ConversionNodes[] = {
 		{ return Conversion.IsBetween(Schema::PC_Interface, Schema::PC_Object) && GetClassOfType(Conversion.GetInputType()); },
 		&MakeCast<UK2Node_DynamicCast>},
 	{[](const FConversion& Conversion)
-		{ return Conversion.IsBetween(Schema::PC_Object, Schema::PC_Object) && Conversion.IsDownward() && GetDefault<UBlueprintEditorSettings>()->bAutoCastObjectConnections; },
+		{
+			return Conversion.IsBetween(Schema::PC_Object, Schema::PC_Object) && Conversion.IsDownward() &&
+				GetDefault<UBlueprintEditorSettings>()->bAutoCastObjectConnections;
+		},
 		&MakeCast<UK2Node_DynamicCast>},
 	{[](const FConversion& Conversion)
-		{ return Conversion.IsBetween(Schema::PC_Class, Schema::PC_Class) && Conversion.IsDownward() && GetDefault<UBlueprintEditorSettings>()->bAutoCastObjectConnections; },
+		{
+			return Conversion.IsBetween(Schema::PC_Class, Schema::PC_Class) && Conversion.IsDownward() &&
+				GetDefault<UBlueprintEditorSettings>()->bAutoCastObjectConnections;
+		},
 		&MakeCast<UK2Node_ClassDynamicCast>},
 	{[](const FConversion& Conversion)
 		{

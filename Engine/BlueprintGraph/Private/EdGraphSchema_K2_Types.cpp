@@ -47,7 +47,8 @@ const TArray<FCategoryOfKind>& GetPlainKinds()
 bool IsObjectLike(const FName Category)
 {
 	using Schema = UEdGraphSchema_K2;
-	return Category == Schema::PC_Object || Category == Schema::PC_Interface || Category == Schema::PC_Class || Category == Schema::PC_SoftObject || Category == Schema::PC_SoftClass;
+	return Category == Schema::PC_Object || Category == Schema::PC_Interface || Category == Schema::PC_Class ||
+		Category == Schema::PC_SoftObject || Category == Schema::PC_SoftClass;
 }
 
 FText GetTypeName(const FEdGraphPinType& Type)
@@ -75,7 +76,8 @@ FText GetTypeName(const FEdGraphPinType& Type)
 		return CategoryName;
 	}
 	const UBlueprint* const Blueprint = UBlueprint::GetBlueprintFromClass(Class);
-	const FText ClassName = Blueprint ? FText::FromString(FName::NameToDisplayString(Blueprint->GetName(), false)) : Class->GetDisplayNameText();
+	const FText ClassName = Blueprint ? FText::FromString(FName::NameToDisplayString(Blueprint->GetName(), false))
+									  : Class->GetDisplayNameText();
 	return FText::Format(LOCTEXT("ObjectAsText", "{0} {1}"), ClassName, CategoryName);
 }
 
@@ -169,7 +171,8 @@ bool UEdGraphSchema_K2::ConvertPropertyToPinType(const FProperty* Property, FEdG
 		ValueProperty = Map->KeyProp;
 		UObject* Object = nullptr;
 		bool bIsWeak = false;
-		if (!GetPropertyCategoryInfo(Map->ValueProp, TypeOut.PinValueType.TerminalCategory, TypeOut.PinValueType.TerminalSubCategory, Object, bIsWeak))
+		if (!GetPropertyCategoryInfo(
+				Map->ValueProp, TypeOut.PinValueType.TerminalCategory, TypeOut.PinValueType.TerminalSubCategory, Object, bIsWeak))
 		{
 			return false;
 		}
@@ -254,7 +257,9 @@ FText UEdGraphSchema_K2::GetCategoryText(const FName Category, const FName SubCa
 FText UEdGraphSchema_K2::TypeToText(const FProperty* const Property)
 {
 	FEdGraphPinType Type;
-	return GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(Property, Type) ? TypeToText(Type) : FText::FromString(Property ? Property->GetCPPType() : FString());
+	return GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(Property, Type)
+		? TypeToText(Type)
+		: FText::FromString(Property ? Property->GetCPPType() : FString());
 }
 
 FText UEdGraphSchema_K2::TypeToText(const FEdGraphPinType& Type)

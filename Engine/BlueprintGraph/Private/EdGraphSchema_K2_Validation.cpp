@@ -81,7 +81,9 @@ FString CheckInt(const FPinDefault& Default)
 	{
 		return TEXT("Expected a valid number for an integer property");
 	}
-	return Number < MIN_int32 || Number > MAX_int32 ? FString(TEXT("Expected a value between -2147483648 and 2147483647 for an integer property")) : FString();
+	return Number < MIN_int32 || Number > MAX_int32
+		? FString(TEXT("Expected a value between -2147483648 and 2147483647 for an integer property"))
+		: FString();
 }
 
 FString CheckInt64(const FPinDefault& Default)
@@ -98,12 +100,15 @@ FString CheckReal(const FPinDefault& Default)
 	{
 		return FString();
 	}
-	return Default.Type.PinSubCategory == Schema::PC_Float ? TEXT("Expected a valid number for a float property") : TEXT("Expected a valid number for a double property");
+	return Default.Type.PinSubCategory == Schema::PC_Float ? TEXT("Expected a valid number for a float property")
+														   : TEXT("Expected a valid number for a double property");
 }
 
 FString CheckName(const FPinDefault& Default)
 {
-	return Default.Value.Len() < NAME_SIZE ? FString() : FString::Printf(TEXT("A name has fewer than %d characters (specified on pin %s)"), NAME_SIZE, *Default.PinName);
+	return Default.Value.Len() < NAME_SIZE
+		? FString()
+		: FString::Printf(TEXT("A name has fewer than %d characters (specified on pin %s)"), NAME_SIZE, *Default.PinName);
 }
 
 FString CheckClass(const FPinDefault& Default)
@@ -118,7 +123,8 @@ FString CheckClass(const FPinDefault& Default)
 	{
 		return FString();
 	}
-	return Given ? FString::Printf(TEXT("%s isn't a valid subclass of %s (specified on pin %s)"), *Given->GetPathName(), *Wanted->GetName(), *Default.PinName)
+	return Given ? FString::Printf(TEXT("%s isn't a valid subclass of %s (specified on pin %s)"), *Given->GetPathName(), *Wanted->GetName(),
+					   *Default.PinName)
 				 : FString::Printf(TEXT("Literal on pin %s is not a class."), *Default.PinName);
 }
 
@@ -130,7 +136,9 @@ FString CheckObject(const FPinDefault& Default)
 	}
 	const UClass* const Wanted = Default.GetClass();
 	const bool bFits = !Default.Object || !Wanted || Default.Object->IsA(Wanted) || Default.Object->GetClass()->ImplementsInterface(Wanted);
-	return bFits ? FString() : FString::Printf(TEXT("%s isn't a %s (specified on pin %s)"), *Default.Object->GetPathName(), *Wanted->GetName(), *Default.PinName);
+	return bFits ? FString()
+				 : FString::Printf(
+					   TEXT("%s isn't a %s (specified on pin %s)"), *Default.Object->GetPathName(), *Wanted->GetName(), *Default.PinName);
 }
 
 /** The asset need not be loaded; when it is, it must be of the pin's class. */
@@ -159,7 +167,8 @@ struct FNumberForm
 
 bool IsNumberForm(const UScriptStruct& Struct, const FString& Value)
 {
-	static const FNumberForm Forms[] = {{TEXT("Vector"), 3}, {TEXT("Vector3f"), 3}, {TEXT("Rotator"), 3}, {TEXT("Rotator3f"), 3}, {TEXT("Vector2D"), 2}};
+	static const FNumberForm Forms[] = {
+		{TEXT("Vector"), 3}, {TEXT("Vector3f"), 3}, {TEXT("Rotator"), 3}, {TEXT("Rotator3f"), 3}, {TEXT("Vector2D"), 2}};
 	for (const FNumberForm& Form : Forms)
 	{
 		if (Struct.GetFName() != FName(Form.Struct))
@@ -213,7 +222,9 @@ FString CheckStruct(const FPinDefault& Default)
 FString CheckTypeWithoutDefaults(const FPinDefault& Default)
 {
 	const bool bHasNone = Default.Value.IsEmpty() && !Default.Object;
-	return bHasNone ? FString() : FString::Printf(TEXT("Unsupported type %s on pin %s"), *Schema::TypeToText(Default.Type).ToString(), *Default.PinName);
+	return bHasNone
+		? FString()
+		: FString::Printf(TEXT("Unsupported type %s on pin %s"), *Schema::TypeToText(Default.Type).ToString(), *Default.PinName);
 }
 
 const TMap<FName, FDefaultCheck>& GetChecks()
@@ -248,7 +259,8 @@ FString CheckContainerOfCall(const UEdGraphPin& Pin)
 	}
 	const TCHAR* const Kind = Pin.PinType.IsArray() ? TEXT("Array") : Pin.PinType.IsSet() ? TEXT("Set")
 																						  : TEXT("Map");
-	return FString::Printf(TEXT("%s inputs (like '%s') must have an input wired into them (try connecting a Make%s node)."), Kind, *Pin.PinName.ToString(), Kind);
+	return FString::Printf(TEXT("%s inputs (like '%s') must have an input wired into them (try connecting a Make%s node)."), Kind,
+		*Pin.PinName.ToString(), Kind);
 }
 
 /** Metadata of a class parameter narrows what its type allows. */
@@ -263,10 +275,12 @@ FString CheckParameter(const UEdGraphPin& Pin, const UObject* Object)
 		return FString();
 	}
 	const FString* const MetaClassName = Parameter->FindMetaData(TEXT("MetaClass"));
-	const UClass* const MetaClass = MetaClassName ? FindFirstObject<UClass>(**MetaClassName, EFindFirstObjectOptions::NativeFirst) : nullptr;
+	const UClass* const MetaClass = MetaClassName ? FindFirstObject<UClass>(**MetaClassName, EFindFirstObjectOptions::NativeFirst)
+												  : nullptr;
 	if (MetaClass && !Class->IsChildOf(MetaClass))
 	{
-		return FString::Printf(TEXT("%s isn't a valid subclass of %s (specified on pin %s)"), *Class->GetPathName(), *MetaClass->GetName(), *Pin.PinName.ToString());
+		return FString::Printf(TEXT("%s isn't a valid subclass of %s (specified on pin %s)"), *Class->GetPathName(), *MetaClass->GetName(),
+			*Pin.PinName.ToString());
 	}
 	const bool bNeedsObjects = Parameter->HasMetaData(TEXT("AllowAbstract")) && !Parameter->GetBoolMetaData(TEXT("AllowAbstract"));
 	return bNeedsObjects && Class->HasAnyClassFlags(CLASS_Abstract)
@@ -288,22 +302,24 @@ FString UEdGraphSchema_K2::IsPinDefaultValid(
 		return FString();
 	}
 	FString Message = CheckContainerOfCall(*Pin);
-	if (Message.IsEmpty() && DefaultValueSimpleValidation(Pin->PinType, Pin->PinName, NewDefaultValue, NewDefaultObject, InNewDefaultText, &Message))
+	if (Message.IsEmpty() &&
+		DefaultValueSimpleValidation(Pin->PinType, Pin->PinName, NewDefaultValue, NewDefaultObject, InNewDefaultText, &Message))
 	{
 		Message = CheckParameter(*Pin, NewDefaultObject);
 	}
 	return Message;
 }
 
-bool UEdGraphSchema_K2::DefaultValueSimpleValidation(
-	const FEdGraphPinType& PinType, const FName PinName, const FString& NewDefaultValue, TObjectPtr<UObject> NewDefaultObject, const FText& InText, FString* OutMsg) const
+bool UEdGraphSchema_K2::DefaultValueSimpleValidation(const FEdGraphPinType& PinType, const FName PinName, const FString& NewDefaultValue,
+	TObjectPtr<UObject> NewDefaultObject, const FText& InText, FString* OutMsg) const
 {
 	const FPinDefault Default{PinType, PinName.ToString(), NewDefaultValue, NewDefaultObject};
 	FString Message;
 	if (PinType.IsContainer())
 	{
 		// Elements of an autogenerated default are checked where it is read.
-		const bool bIsLiteral = NewDefaultObject || !InText.IsEmpty() || (!NewDefaultValue.IsEmpty() && !NewDefaultValue.StartsWith(TEXT("(")));
+		const bool bIsLiteral = NewDefaultObject || !InText.IsEmpty() ||
+			(!NewDefaultValue.IsEmpty() && !NewDefaultValue.StartsWith(TEXT("(")));
 		Message = bIsLiteral ? FString::Printf(TEXT("Literal values are not allowed for container pin %s"), *Default.PinName) : FString();
 	}
 	else

@@ -19,8 +19,8 @@ void UK2Node_AssignDelegate::PostPlacedNewNode()
 	UEdGraph* const Graph = GetGraph();
 	if (Graph && GetDelegateSignature() && IsCompatibleWithGraph(Graph))
 	{
-		NewEvent = UK2Node_CustomEvent::CreateFromFunction(
-			FVector2D(NodePosX - EventDistance, NodePosY + EventDistance), Graph, FString::Printf(TEXT("%s_Event"), *GetPropertyName().ToString()), GetDelegateSignature(), false);
+		NewEvent = UK2Node_CustomEvent::CreateFromFunction(FVector2D(NodePosX - EventDistance, NodePosY + EventDistance), Graph,
+			FString::Printf(TEXT("%s_Event"), *GetPropertyName().ToString()), GetDelegateSignature(), false);
 	}
 }
 
@@ -36,7 +36,8 @@ void UK2Node_AssignDelegate::AllocateDefaultPins()
 
 FText UK2Node_AssignDelegate::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TitleType == ENodeTitleType::FullTitle ? Super::GetNodeTitle(TitleType) : FText::Format(LOCTEXT("AssignDelegate_Title", "Assign {0}"), GetPropertyDisplayName());
+	return TitleType == ENodeTitleType::FullTitle ? Super::GetNodeTitle(TitleType)
+												  : FText::Format(LOCTEXT("AssignDelegate_Title", "Assign {0}"), GetPropertyDisplayName());
 }
 
 #undef LOCTEXT_NAMESPACE

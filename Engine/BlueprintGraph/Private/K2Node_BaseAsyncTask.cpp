@@ -70,7 +70,8 @@ void UK2Node_BaseAsyncTask::AllocateDefaultPins()
 FText UK2Node_BaseAsyncTask::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	const UFunction* const Function = GetFactoryFunction();
-	return Function ? UK2Node_CallFunction::GetUserFacingFunctionName(Function) : FText::FromString(FName::NameToDisplayString(ProxyFactoryFunctionName.ToString(), false));
+	return Function ? UK2Node_CallFunction::GetUserFacingFunctionName(Function)
+					: FText::FromString(FName::NameToDisplayString(ProxyFactoryFunctionName.ToString(), false));
 }
 
 FText UK2Node_BaseAsyncTask::GetTooltipText() const

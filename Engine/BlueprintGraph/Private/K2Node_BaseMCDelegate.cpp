@@ -37,7 +37,9 @@ void UK2Node_BaseMCDelegate::AllocateDefaultPins()
 {
 	CreateExecPin();
 	CreateThenPin();
-	CreateTargetPin(DelegateReference.IsSelfContext() && GetBlueprint() ? GetBlueprint()->GeneratedClass.Get() : DelegateReference.GetMemberParentClass(GetBlueprintClassFromNode()));
+	CreateTargetPin(DelegateReference.IsSelfContext() && GetBlueprint()
+			? GetBlueprint()->GeneratedClass.Get()
+			: DelegateReference.GetMemberParentClass(GetBlueprintClassFromNode()));
 }
 
 void UK2Node_BaseMCDelegate::CreateDelegatePin()

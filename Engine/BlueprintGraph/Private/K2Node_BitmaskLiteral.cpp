@@ -19,8 +19,9 @@ void UK2Node_BitmaskLiteral::AllocateDefaultPins()
 FText UK2Node_BitmaskLiteral::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	const bool bNamesEnum = BitflagsEnum && TitleType != ENodeTitleType::MenuTitle;
-	return bNamesEnum ? FText::Format(LOCTEXT("BitmaskLiteral_EnumTitle", "Make Bitmask Literal {0}"), FText::FromString(BitflagsEnum->GetName()))
-					  : LOCTEXT("BitmaskLiteral_Title", "Make Bitmask Literal");
+	return bNamesEnum
+		? FText::Format(LOCTEXT("BitmaskLiteral_EnumTitle", "Make Bitmask Literal {0}"), FText::FromString(BitflagsEnum->GetName()))
+		: LOCTEXT("BitmaskLiteral_Title", "Make Bitmask Literal");
 }
 
 FText UK2Node_BitmaskLiteral::GetTooltipText() const

@@ -19,7 +19,8 @@ TArray<UEdGraphPin*> UK2Node_CallArrayFunction::GetPinsOfOneType() const
 		return Dependent;
 	}
 	TArray<FString> Names;
-	const FString List = Function->GetMetaData(FBlueprintMetadata::MD_ArrayParam) + TEXT(",") + Function->GetMetaData(FBlueprintMetadata::MD_ArrayDependentParam);
+	const FString List = Function->GetMetaData(FBlueprintMetadata::MD_ArrayParam) + TEXT(",") +
+		Function->GetMetaData(FBlueprintMetadata::MD_ArrayDependentParam);
 	List.Replace(TEXT("|"), TEXT(",")).ParseIntoArray(Names, TEXT(","), true);
 	for (const FString& Name : Names)
 	{

@@ -10,7 +10,9 @@ void UK2Node_CallDataTableFunction::RefreshRowType()
 	const FString* const Table = Function ? Function->FindMetaData(TEXT("DataTablePin")) : nullptr;
 	UEdGraphPin* const RowPin = Row ? FindPin(*Row) : nullptr;
 	const UEdGraphPin* const TablePin = Table ? FindPin(*Table, EGPD_Input) : nullptr;
-	UScriptStruct* const Struct = TablePin && TablePin->LinkedTo.Num() == 0 ? UK2Node_GetDataTableRow::FindRowStruct(TablePin->DefaultObject) : nullptr;
+	UScriptStruct* const Struct = TablePin && TablePin->LinkedTo.Num() == 0
+		? UK2Node_GetDataTableRow::FindRowStruct(TablePin->DefaultObject)
+		: nullptr;
 	const bool bIsUnknown = TablePin && TablePin->DefaultObject && !Struct;
 	if (RowPin && RowPin->LinkedTo.Num() == 0 && !bIsUnknown)
 	{

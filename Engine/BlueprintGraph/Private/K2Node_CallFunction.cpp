@@ -100,8 +100,9 @@ FText GetParameterDescription(const UFunction& Function, const FProperty& Parame
 TSet<FName> GetWildcardParameters(const UFunction& Function)
 {
 	TSet<FName> Names;
-	for (const FName Key : {FBlueprintMetadata::MD_ArrayParam, FBlueprintMetadata::MD_ArrayDependentParam, FBlueprintMetadata::MD_SetParam, FBlueprintMetadata::MD_MapParam,
-			 FBlueprintMetadata::MD_MapKeyParam, FBlueprintMetadata::MD_MapValueParam, FBlueprintMetadata::MD_CustomStructureParam})
+	for (const FName Key : {FBlueprintMetadata::MD_ArrayParam, FBlueprintMetadata::MD_ArrayDependentParam, FBlueprintMetadata::MD_SetParam,
+			 FBlueprintMetadata::MD_MapParam, FBlueprintMetadata::MD_MapKeyParam, FBlueprintMetadata::MD_MapValueParam,
+			 FBlueprintMetadata::MD_CustomStructureParam})
 	{
 		for (const FName Name : ParseNames(Function.GetMetaData(Key).Replace(TEXT("|"), TEXT(","))))
 		{
@@ -131,7 +132,8 @@ void UK2Node_CallFunction::SetFromFunction(const UFunction* Function)
 	}
 	bIsPureFunc = Function->HasAnyFunctionFlags(FUNC_BlueprintPure);
 	bIsConstFunc = Function->HasAnyFunctionFlags(FUNC_Const);
-	bWantsEnumToExecExpansion = Function->HasMetaData(FBlueprintMetadata::MD_ExpandEnumAsExecs) || Function->HasMetaData(FBlueprintMetadata::MD_ExpandBoolAsExecs);
+	bWantsEnumToExecExpansion = Function->HasMetaData(FBlueprintMetadata::MD_ExpandEnumAsExecs) ||
+		Function->HasMetaData(FBlueprintMetadata::MD_ExpandBoolAsExecs);
 	bIsFinalFunction = Function->HasAnyFunctionFlags(FUNC_Final);
 	FunctionReference.SetFromField<UFunction>(Function, GetBlueprintClassFromNode());
 }
@@ -144,8 +146,8 @@ bool UK2Node_CallFunction::HasKnownDefinition() const
 TSet<FName> UK2Node_CallFunction::GetHiddenParameters(const UFunction* Function, const UBlueprint* Blueprint)
 {
 	TSet<FName> Hidden;
-	for (const FName Key : {FBlueprintMetadata::MD_LatentInfo, FBlueprintMetadata::MD_HidePin, FBlueprintMetadata::MD_InternalUseParam, FBlueprintMetadata::MD_ExpandEnumAsExecs,
-			 FBlueprintMetadata::MD_ExpandBoolAsExecs})
+	for (const FName Key : {FBlueprintMetadata::MD_LatentInfo, FBlueprintMetadata::MD_HidePin, FBlueprintMetadata::MD_InternalUseParam,
+			 FBlueprintMetadata::MD_ExpandEnumAsExecs, FBlueprintMetadata::MD_ExpandBoolAsExecs})
 	{
 		for (const FName Name : GetNamesOfMetaData(*Function, Key))
 		{
@@ -287,7 +289,8 @@ bool UK2Node_CallFunction::CreatePinsForFunctionCall(const UFunction* Function)
 		}
 		const FName Name = Parameter->GetFName();
 		const bool bIsInput = IsFunctionInput(**Parameter);
-		if (Wildcards.Contains(Name) && Type.PinCategory != UEdGraphSchema_K2::PC_Struct && Type.PinCategory != UEdGraphSchema_K2::PC_Wildcard)
+		if (Wildcards.Contains(Name) && Type.PinCategory != UEdGraphSchema_K2::PC_Struct &&
+			Type.PinCategory != UEdGraphSchema_K2::PC_Wildcard)
 		{
 			Type.PinCategory = UEdGraphSchema_K2::PC_Wildcard;
 			Type.PinSubCategory = NAME_None;
@@ -386,7 +389,8 @@ void UK2Node_CallFunction::ConformWildcards(const UEdGraphPin* ChangedPin)
 	};
 	// "Set|Item,OtherSet|OtherItem": the pins of a group share one type. A struct of any kind is a group of its own.
 	TArray<FString> Groups;
-	const FString List = Function->GetMetaData(FBlueprintMetadata::MD_SetParam) + TEXT(",") + Function->GetMetaData(FBlueprintMetadata::MD_CustomStructureParam);
+	const FString List = Function->GetMetaData(FBlueprintMetadata::MD_SetParam) + TEXT(",") +
+		Function->GetMetaData(FBlueprintMetadata::MD_CustomStructureParam);
 	List.ParseIntoArray(Groups, TEXT(","), true);
 	for (const FString& Group : Groups)
 	{
@@ -421,7 +425,8 @@ void UK2Node_CallFunction::SetFixedParameter(FName ParameterName, const FString&
 bool UK2Node_CallFunction::AllowMultipleSelfs(bool bInputAsArray) const
 {
 	const UFunction* const Function = GetTargetFunction();
-	return Function && !HasAnyFlags(RF_ArchetypeObject) && !Function->HasAnyFunctionFlags(FUNC_Static) && !IsLatentFunction() && !UEdGraphSchema_K2::HasFunctionAnyOutputParameter(Function);
+	return Function && !HasAnyFlags(RF_ArchetypeObject) && !Function->HasAnyFunctionFlags(FUNC_Static) && !IsLatentFunction() &&
+		!UEdGraphSchema_K2::HasFunctionAnyOutputParameter(Function);
 }
 
 bool UK2Node_CallFunction::IsLatentFunction() const
@@ -440,7 +445,8 @@ FText UK2Node_CallFunction::GetUserFacingFunctionName(const UFunction* Function,
 FText UK2Node_CallFunction::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	const UFunction* const Function = GetTargetFunction();
-	const FText Name = Function ? GetUserFacingFunctionName(Function, TitleType) : FText::FromString(FName::NameToDisplayString(FunctionReference.GetMemberName().ToString(), false));
+	const FText Name = Function ? GetUserFacingFunctionName(Function, TitleType)
+								: FText::FromString(FName::NameToDisplayString(FunctionReference.GetMemberName().ToString(), false));
 	if (TitleType != ENodeTitleType::FullTitle || !Function || Function->HasAnyFunctionFlags(FUNC_Static))
 	{
 		return Name;
@@ -451,7 +457,8 @@ FText UK2Node_CallFunction::GetNodeTitle(ENodeTitleType::Type TitleType) const
 	{
 		return Name;
 	}
-	const FText Target = Blueprint ? FText::FromString(FName::NameToDisplayString(Blueprint->GetName(), false)) : Class->GetDisplayNameText();
+	const FText Target = Blueprint ? FText::FromString(FName::NameToDisplayString(Blueprint->GetName(), false))
+								   : Class->GetDisplayNameText();
 	return FText::Format(LOCTEXT("CallFunctionOnDifferentContext", "{0}\nTarget is {1}"), Name, Target);
 }
 
@@ -465,12 +472,14 @@ FText UK2Node_CallFunction::GetTooltipText() const
 	const UFunction* const Function = GetTargetFunction();
 	if (!Function)
 	{
-		return FText::Format(LOCTEXT("CallUnknownFunction", "Call unknown function {0}"), FText::FromName(FunctionReference.GetMemberName()));
+		return FText::Format(
+			LOCTEXT("CallUnknownFunction", "Call unknown function {0}"), FText::FromName(FunctionReference.GetMemberName()));
 	}
 	const FString Text = GetDefaultTooltipForFunction(Function);
 	const UClass* const Class = Function->GetOwnerClass();
 	return Class && !Function->HasAnyFunctionFlags(FUNC_Static)
-		? FText::Format(LOCTEXT("CallFunction_SubtitledTooltip", "{0}\n\nTarget is {1}"), FText::FromString(Text), Class->GetDisplayNameText())
+		? FText::Format(
+			  LOCTEXT("CallFunction_SubtitledTooltip", "{0}\n\nTarget is {1}"), FText::FromString(Text), Class->GetDisplayNameText())
 		: FText::FromString(Text);
 }
 

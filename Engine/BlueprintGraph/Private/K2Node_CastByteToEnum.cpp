@@ -12,7 +12,8 @@ void UK2Node_CastByteToEnum::AllocateDefaultPins()
 
 FText UK2Node_CastByteToEnum::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return FText::Format(LOCTEXT("CastByteToEnum_Title", "Byte to Enum {0}"), FText::FromString(Enum ? Enum->GetName() : TEXT("(bad enum)")));
+	return FText::Format(
+		LOCTEXT("CastByteToEnum_Title", "Byte to Enum {0}"), FText::FromString(Enum ? Enum->GetName() : TEXT("(bad enum)")));
 }
 
 FText UK2Node_CastByteToEnum::GetMenuCategory() const

@@ -17,7 +17,8 @@ bool UK2Node_ClassDynamicCast::CanCast(const FEdGraphPinType& Type) const
 
 FText UK2Node_ClassDynamicCast::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TargetType ? FText::Format(LOCTEXT("ClassCastTo", "Cast To {0} Class"), FText::FromString(GetTargetDisplayName())) : LOCTEXT("BadClassCastNode", "Bad cast node");
+	return TargetType ? FText::Format(LOCTEXT("ClassCastTo", "Cast To {0} Class"), FText::FromString(GetTargetDisplayName()))
+					  : LOCTEXT("BadClassCastNode", "Bad cast node");
 }
 
 #undef LOCTEXT_NAMESPACE

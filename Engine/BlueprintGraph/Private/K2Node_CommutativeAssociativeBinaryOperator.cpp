@@ -45,7 +45,8 @@ bool UK2Node_CommutativeAssociativeBinaryOperator::CanAddPin() const
 
 bool UK2Node_CommutativeAssociativeBinaryOperator::CanRemovePin(const UEdGraphPin* Pin) const
 {
-	return Pin && NumAdditionalInputs > 0 && Pin->Direction == EGPD_Input && !Pin->ParentPin && Pin->PinName != UEdGraphSchema_K2::PN_Self && Pins.Contains(const_cast<UEdGraphPin*>(Pin));
+	return Pin && NumAdditionalInputs > 0 && Pin->Direction == EGPD_Input && !Pin->ParentPin &&
+		Pin->PinName != UEdGraphSchema_K2::PN_Self && Pins.Contains(const_cast<UEdGraphPin*>(Pin));
 }
 
 void UK2Node_CommutativeAssociativeBinaryOperator::AddInputPin()
@@ -68,8 +69,12 @@ void UK2Node_CommutativeAssociativeBinaryOperator::RemoveInputPin(UEdGraphPin* P
 	RemovePin(Pin);
 	--NumAdditionalInputs;
 	// The letters stay without gaps.
-	const TArray<UEdGraphPin*> Operands = Pins.FilterByPredicate([](const UEdGraphPin* Item)
-		{ return Item->Direction == EGPD_Input && Item->PinName != UEdGraphSchema_K2::PN_Self && !Item->ParentPin && !Item->bOrphanedPin && !UEdGraphSchema_K2::IsExecPin(*Item); });
+	const TArray<UEdGraphPin*> Operands = Pins.FilterByPredicate(
+		[](const UEdGraphPin* Item)
+		{
+			return Item->Direction == EGPD_Input && Item->PinName != UEdGraphSchema_K2::PN_Self && !Item->ParentPin &&
+				!Item->bOrphanedPin && !UEdGraphSchema_K2::IsExecPin(*Item);
+		});
 	RenamePins(Operands, GetNameForAdditionalPin);
 	ReconstructNode();
 }

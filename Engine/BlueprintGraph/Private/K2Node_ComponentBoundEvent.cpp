@@ -5,7 +5,8 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-void UK2Node_ComponentBoundEvent::InitializeComponentBoundEventParams(const FObjectProperty* InComponentProperty, const FMulticastDelegateProperty* InDelegateProperty)
+void UK2Node_ComponentBoundEvent::InitializeComponentBoundEventParams(
+	const FObjectProperty* InComponentProperty, const FMulticastDelegateProperty* InDelegateProperty)
 {
 	if (!InComponentProperty || !InDelegateProperty)
 	{
@@ -25,7 +26,8 @@ UFunction* UK2Node_ComponentBoundEvent::FindEventSignatureFunction() const
 
 FText UK2Node_ComponentBoundEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return FText::Format(LOCTEXT("ComponentBoundEvent_Title", "{0} ({1})"), GetTargetDelegateDisplayName(), FText::FromName(ComponentPropertyName));
+	return FText::Format(
+		LOCTEXT("ComponentBoundEvent_Title", "{0} ({1})"), GetTargetDelegateDisplayName(), FText::FromName(ComponentPropertyName));
 }
 
 FText UK2Node_ComponentBoundEvent::GetTooltipText() const

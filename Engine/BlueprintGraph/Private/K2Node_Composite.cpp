@@ -132,7 +132,7 @@ void UK2Node_Composite::OnRenameNode(const FString& NewName)
 
 void UK2Node_Composite::AllocateDefaultPins()
 {
-	CreatePinsOfTunnels(GetEntryNode(), GetExitNode());
+	CreatePinsOfExpansion();
 }
 
 FText UK2Node_Composite::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -15,8 +15,10 @@ void UK2Node_ConstructObjectFromClass::AllocateDefaultPins()
 	{
 		CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, UObject::StaticClass(), TEXT("WorldContextObject"));
 	}
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Class, GetClassPinBaseClass(), TEXT("Class"))->PinToolTip = LOCTEXT("ClassPinDescription", "The object class you want to construct").ToString();
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, GetClassPinBaseClass(), UEdGraphSchema_K2::PN_ReturnValue)->PinToolTip = LOCTEXT("ResultPinDescription", "The constructed object").ToString();
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Class, GetClassPinBaseClass(), TEXT("Class"))->PinToolTip =
+		LOCTEXT("ClassPinDescription", "The object class you want to construct").ToString();
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, GetClassPinBaseClass(), UEdGraphSchema_K2::PN_ReturnValue)->PinToolTip =
+		LOCTEXT("ResultPinDescription", "The constructed object").ToString();
 	if (UseOuter())
 	{
 		CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, UObject::StaticClass(), TEXT("Outer"));
@@ -48,8 +50,10 @@ void UK2Node_ConstructObjectFromClass::CreatePinsForClass(const UClass* InClass)
 	const UObject* const Defaults = InClass->GetDefaultObject();
 	for (TFieldIterator<FProperty> Property(InClass); Property; ++Property)
 	{
-		const bool bIsExposed = Property->GetBoolMetaData(FBlueprintMetadata::MD_ExposeOnSpawn) || Property->HasAllPropertyFlags(CPF_ExposeOnSpawn);
-		const bool bCanBeSet = Property->HasAllPropertyFlags(CPF_BlueprintVisible) && !Property->HasAnyPropertyFlags(CPF_Parm) && !Property->IsA<FMulticastDelegateProperty>();
+		const bool bIsExposed = Property->GetBoolMetaData(FBlueprintMetadata::MD_ExposeOnSpawn) ||
+			Property->HasAllPropertyFlags(CPF_ExposeOnSpawn);
+		const bool bCanBeSet = Property->HasAllPropertyFlags(CPF_BlueprintVisible) && !Property->HasAnyPropertyFlags(CPF_Parm) &&
+			!Property->IsA<FMulticastDelegateProperty>();
 		FEdGraphPinType Type;
 		if (!bIsExposed || !bCanBeSet || FindPin(Property->GetFName()) || !GetK2Schema()->ConvertPropertyToPinType(*Property, Type))
 		{

@@ -27,7 +27,8 @@ UClass* UK2Node_ConvertAsset::GetTargetClass() const
 bool UK2Node_ConvertAsset::IsAssetClassType() const
 {
 	const UEdGraphPin* const Linked = GetLinkedPin();
-	return Linked && (Linked->PinType.PinCategory == UEdGraphSchema_K2::PC_SoftClass || Linked->PinType.PinCategory == UEdGraphSchema_K2::PC_Class);
+	return Linked &&
+		(Linked->PinType.PinCategory == UEdGraphSchema_K2::PC_SoftClass || Linked->PinType.PinCategory == UEdGraphSchema_K2::PC_Class);
 }
 
 void UK2Node_ConvertAsset::AllocateDefaultPins()
@@ -92,7 +93,8 @@ FText UK2Node_ConvertAsset::GetCompactNodeTitle() const
 
 FText UK2Node_ConvertAsset::GetTooltipText() const
 {
-	return LOCTEXT("ConvertAsset_Tooltip", "Resolves a Soft Reference and gets the object it is pointing to. If the object is not in memory this will return none.");
+	return LOCTEXT("ConvertAsset_Tooltip",
+		"Resolves a Soft Reference and gets the object it is pointing to. If the object is not in memory this will return none.");
 }
 
 FText UK2Node_ConvertAsset::GetMenuCategory() const

@@ -6,8 +6,10 @@
 
 void UK2Node_CreateDelegate::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, UObject::StaticClass(), UEdGraphSchema_K2::PN_Self)->PinFriendlyName = LOCTEXT("CreateDelegate_ObjectInputName", "Object");
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Delegate, TEXT("OutputDelegate"))->PinFriendlyName = LOCTEXT("CreateDelegate_DelegateOutName", "Event");
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, UObject::StaticClass(), UEdGraphSchema_K2::PN_Self)->PinFriendlyName = LOCTEXT(
+		"CreateDelegate_ObjectInputName", "Object");
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Delegate, TEXT("OutputDelegate"))->PinFriendlyName = LOCTEXT(
+		"CreateDelegate_DelegateOutName", "Event");
 }
 
 void UK2Node_CreateDelegate::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
@@ -25,7 +27,8 @@ void UK2Node_CreateDelegate::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 	// The signature is the one of what the event is bound to.
 	if (Pin == GetDelegateOutPin())
 	{
-		Pin->PinType.PinSubCategoryMemberReference = Pin->LinkedTo.Num() > 0 ? Pin->LinkedTo[0]->PinType.PinSubCategoryMemberReference : FSimpleMemberReference();
+		Pin->PinType.PinSubCategoryMemberReference = Pin->LinkedTo.Num() > 0 ? Pin->LinkedTo[0]->PinType.PinSubCategoryMemberReference
+																			 : FSimpleMemberReference();
 	}
 }
 
@@ -33,7 +36,9 @@ UClass* UK2Node_CreateDelegate::GetScopeClass() const
 {
 	const UEdGraphPin* const Object = GetObjectInPin();
 	const UEdGraphPin* const Linked = Object && Object->LinkedTo.Num() > 0 ? Object->LinkedTo[0] : nullptr;
-	return Linked && Linked->PinType.PinSubCategory != UEdGraphSchema_K2::PSC_Self ? Cast<UClass>(Linked->PinType.PinSubCategoryObject.Get()) : GetBlueprintClassFromNode();
+	return Linked && Linked->PinType.PinSubCategory != UEdGraphSchema_K2::PSC_Self
+		? Cast<UClass>(Linked->PinType.PinSubCategoryObject.Get())
+		: GetBlueprintClassFromNode();
 }
 
 FText UK2Node_CreateDelegate::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -10,30 +10,48 @@
 
 namespace
 {
-bool IsNameTaken(const UK2Node_CustomEvent& Node, const FName Name)
+/** Names that no custom event of the node's Blueprint may have. */
+class FTakenNames
 {
-	const UBlueprint* const Blueprint = Node.GetBlueprint();
-	TArray<UEdGraph*> Graphs;
-	if (Blueprint)
+public:
+	explicit FTakenNames(const UK2Node_CustomEvent& Node)
 	{
-		Blueprint->GetAllGraphs(Graphs);
-	}
-	for (const UEdGraph* const Graph : Graphs)
-	{
-		TArray<UK2Node_Event*> Events;
-		Graph->GetNodesOfClass(Events);
-		const bool bIsGraphName = Graph->GetFName() == Name;
-		if (bIsGraphName || Events.ContainsByPredicate([&Node, Name](const UK2Node_Event* Event)
-								{ return Event != &Node && Event->GetFunctionName() == Name; }))
+		const UBlueprint* const Blueprint = Node.GetBlueprint();
+		if (!Blueprint)
 		{
-			return true;
+			return;
+		}
+		Parent = Blueprint->ParentClass.Get();
+		TArray<UEdGraph*> Graphs;
+		Blueprint->GetAllGraphs(Graphs);
+		for (const UEdGraph* const Graph : Graphs)
+		{
+			Names.Add(Graph->GetFName());
+			TArray<UK2Node_Event*> Events;
+			Graph->GetNodesOfClass(Events);
+			for (const UK2Node_Event* const Event : Events)
+			{
+				if (Event != &Node)
+				{
+					Names.Add(Event->GetFunctionName());
+				}
+			}
+		}
+		for (const FBPVariableDescription& Variable : Blueprint->NewVariables)
+		{
+			Names.Add(Variable.VarName);
 		}
 	}
-	const UClass* const Parent = Blueprint ? Blueprint->ParentClass.Get() : nullptr;
-	const bool bIsVariable = Blueprint && Blueprint->NewVariables.ContainsByPredicate([Name](const FBPVariableDescription& Variable)
-											  { return Variable.VarName == Name; });
-	return bIsVariable || (Parent && (Parent->FindFunctionByName(Name) || Parent->FindPropertyByName(Name)));
-}
+
+	bool Contains(FName Name) const
+	{
+		return Names.Contains(Name) || (Parent && (Parent->FindFunctionByName(Name) || Parent->FindPropertyByName(Name)));
+	}
+
+private:
+	TSet<FName> Names;
+	const UClass* Parent = nullptr;
+};
 
 /** Calls of the event in all loaded Blueprints know it by its name. */
 void RenameCalls(const UK2Node_CustomEvent& Event, FName NewName)
@@ -97,7 +115,8 @@ bool UK2Node_CustomEvent::IsEditable() const
 	return Super::IsEditable() && !bOverrideFunction;
 }
 
-bool UK2Node_CustomEvent::CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
+bool UK2Node_CustomEvent::CanCreateUserDefinedPin(
+	const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
 {
 	if (InDesiredDirection == EGPD_Input)
 	{
@@ -110,8 +129,9 @@ bool UK2Node_CustomEvent::CanCreateUserDefinedPin(const FEdGraphPinType& InPinTy
 void UK2Node_CustomEvent::RenameCustomEventCloseToName(int32 StartIndex)
 {
 	const FString BaseName = CustomFunctionName.IsNone() ? TEXT("CustomEvent") : CustomFunctionName.ToString();
+	const FTakenNames Taken(*this);
 	FName Name(*BaseName);
-	for (int32 Index = StartIndex; IsNameTaken(*this, Name); ++Index)
+	for (int32 Index = StartIndex; Taken.Contains(Name); ++Index)
 	{
 		Name = FName(*FString::Printf(TEXT("%s_%d"), *BaseName, Index));
 	}
@@ -121,7 +141,7 @@ void UK2Node_CustomEvent::RenameCustomEventCloseToName(int32 StartIndex)
 void UK2Node_CustomEvent::OnRenameNode(const FString& NewName)
 {
 	const FName Name(*NewName);
-	if (!NewName.IsEmpty() && !IsNameTaken(*this, Name))
+	if (!NewName.IsEmpty() && !FTakenNames(*this).Contains(Name))
 	{
 		RenameCalls(*this, Name);
 		Modify();
@@ -141,10 +161,7 @@ void UK2Node_CustomEvent::PostPlacedNewNode()
 void UK2Node_CustomEvent::PostPasteNode()
 {
 	Super::PostPasteNode();
-	if (IsNameTaken(*this, CustomFunctionName))
-	{
-		RenameCustomEventCloseToName();
-	}
+	RenameCustomEventCloseToName();
 }
 
 FText UK2Node_CustomEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
@@ -154,8 +171,9 @@ FText UK2Node_CustomEvent::GetNodeTitle(ENodeTitleType::Type TitleType) const
 		return CustomFunctionName.IsNone() ? LOCTEXT("AddCustomEvent", "Add Custom Event...") : FText::FromName(CustomFunctionName);
 	}
 	const FText Net = GetLocalizedNetString(FunctionFlags, false);
-	return Net.IsEmpty() ? FText::Format(LOCTEXT("CustomEvent_Title", "{0}\nCustom Event"), FText::FromName(CustomFunctionName))
-						 : FText::Format(LOCTEXT("CustomEvent_NetTitle", "{0}\n{1}\nCustom Event"), FText::FromName(CustomFunctionName), Net);
+	return Net.IsEmpty()
+		? FText::Format(LOCTEXT("CustomEvent_Title", "{0}\nCustom Event"), FText::FromName(CustomFunctionName))
+		: FText::Format(LOCTEXT("CustomEvent_NetTitle", "{0}\n{1}\nCustom Event"), FText::FromName(CustomFunctionName), Net);
 }
 
 FText UK2Node_CustomEvent::GetTooltipText() const

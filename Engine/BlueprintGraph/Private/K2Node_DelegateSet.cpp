@@ -20,7 +20,8 @@ bool UK2Node_DelegateSet::HasKnownDefinition() const
 void UK2Node_DelegateSet::AllocateDefaultPins()
 {
 	CreateExecPin();
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, DelegatePropertyClass ? DelegatePropertyClass->GetAuthoritativeClass() : nullptr, DelegatePropertyName);
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, DelegatePropertyClass ? DelegatePropertyClass->GetAuthoritativeClass() : nullptr,
+		DelegatePropertyName);
 	CreateThenPin();
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_DelegateEntry);
 	ForEachParameter(GetDelegateSignature(), [this](FProperty& Parameter, const FEdGraphPinType& Type)

@@ -78,7 +78,8 @@ FText UK2Node_DoOnceMultiInput::GetNodeTitle(ENodeTitleType::Type TitleType) con
 
 FText UK2Node_DoOnceMultiInput::GetTooltipText() const
 {
-	return LOCTEXT("DoOnceMultiInput_Tooltip", "Goes on the first time that any of its inputs is reached, by the output beside that input, until it is reset.");
+	return LOCTEXT("DoOnceMultiInput_Tooltip",
+		"Goes on the first time that any of its inputs is reached, by the output beside that input, until it is reset.");
 }
 
 FText UK2Node_DoOnceMultiInput::GetMenuCategory() const

@@ -25,7 +25,8 @@ void UK2Node_DynamicCast::AllocateDefaultPins()
 		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_CastSucceeded);
 		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_CastFailed);
 	}
-	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, GetSourcePinName())->PinToolTip = LOCTEXT("DynamicCastSourceTooltip", "The object to cast").ToString();
+	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, GetSourcePinName())->PinToolTip =
+		LOCTEXT("DynamicCastSourceTooltip", "The object to cast").ToString();
 	if (TargetType)
 	{
 		CreateResultPin();
@@ -39,19 +40,26 @@ void UK2Node_DynamicCast::CreateResultPin()
 {
 	const bool bIsInterface = TargetType->HasAnyClassFlags(CLASS_Interface);
 	const UBlueprint* const Blueprint = UBlueprint::GetBlueprintFromClass(TargetType);
-	const FString DisplayName = Blueprint ? FName::NameToDisplayString(Blueprint->GetName(), false) : TargetType->GetDisplayNameText().ToString();
-	CreatePin(EGPD_Output, bIsInterface ? UEdGraphSchema_K2::PC_Interface : UEdGraphSchema_K2::PC_Object, TargetType.Get(), FName(*(UEdGraphSchema_K2::PN_CastedValuePrefix + DisplayName)));
+	const FString DisplayName = Blueprint ? FName::NameToDisplayString(Blueprint->GetName(), false)
+										  : TargetType->GetDisplayNameText().ToString();
+	CreatePin(EGPD_Output, bIsInterface ? UEdGraphSchema_K2::PC_Interface : UEdGraphSchema_K2::PC_Object, TargetType.Get(),
+		FName(*(UEdGraphSchema_K2::PN_CastedValuePrefix + DisplayName)));
 }
 
 UEdGraphPin* UK2Node_DynamicCast::GetCastResultPin() const
 {
-	return FindPinByPredicate([](const UEdGraphPin* Pin)
-		{ return Pin->Direction == EGPD_Output && !UEdGraphSchema_K2::IsExecPin(*Pin) && Pin->PinName.ToString().StartsWith(UEdGraphSchema_K2::PN_CastedValuePrefix); });
+	return FindPinByPredicate(
+		[](const UEdGraphPin* Pin)
+		{
+			return Pin->Direction == EGPD_Output && !UEdGraphSchema_K2::IsExecPin(*Pin) &&
+				Pin->PinName.ToString().StartsWith(UEdGraphSchema_K2::PN_CastedValuePrefix);
+		});
 }
 
 bool UK2Node_DynamicCast::CanCast(const FEdGraphPinType& Type) const
 {
-	return Type.PinCategory == UEdGraphSchema_K2::PC_Object || Type.PinCategory == UEdGraphSchema_K2::PC_Interface || Type.PinCategory == UEdGraphSchema_K2::PC_Wildcard;
+	return Type.PinCategory == UEdGraphSchema_K2::PC_Object || Type.PinCategory == UEdGraphSchema_K2::PC_Interface ||
+		Type.PinCategory == UEdGraphSchema_K2::PC_Wildcard;
 }
 
 bool UK2Node_DynamicCast::IsConnectionDisallowed(const UEdGraphPin* MyPin, const UEdGraphPin* OtherPin, FString& OutReason) const
@@ -104,12 +112,14 @@ void UK2Node_DynamicCast::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 
 FText UK2Node_DynamicCast::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TargetType ? FText::Format(LOCTEXT("CastTo", "Cast To {0}"), FText::FromString(GetTargetDisplayName())) : LOCTEXT("BadCastNode", "Bad cast node");
+	return TargetType ? FText::Format(LOCTEXT("CastTo", "Cast To {0}"), FText::FromString(GetTargetDisplayName()))
+					  : LOCTEXT("BadCastNode", "Bad cast node");
 }
 
 FText UK2Node_DynamicCast::GetTooltipText() const
 {
-	return FText::Format(LOCTEXT("CastToTooltip", "Tries to access object as a {0} it may be an instance of."), FText::FromString(GetTargetDisplayName()));
+	return FText::Format(
+		LOCTEXT("CastToTooltip", "Tries to access object as a {0} it may be an instance of."), FText::FromString(GetTargetDisplayName()));
 }
 
 FText UK2Node_DynamicCast::GetMenuCategory() const

@@ -16,7 +16,8 @@ const FName StepsPinName(TEXT("Steps"));
 
 void UK2Node_EaseFunction::AllocateDefaultPins()
 {
-	CreatePinWithDefault(EGPD_Input, UEdGraphSchema_K2::PC_Byte, FunctionPinName, NAME_None, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.EEasingFunc")));
+	CreatePinWithDefault(
+		EGPD_Input, UEdGraphSchema_K2::PC_Byte, FunctionPinName, NAME_None, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.EEasingFunc")));
 	CreatePinWithDefault(EGPD_Input, UEdGraphSchema_K2::PC_Real, TEXT("Alpha"), UEdGraphSchema_K2::PC_Double);
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, TEXT("A"));
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Wildcard, TEXT("B"));

@@ -60,7 +60,8 @@ UEdGraphPin* UK2Node_EditablePinBase::CreatePinFromUserDefinition(const TSharedP
 	return Pin;
 }
 
-bool UK2Node_EditablePinBase::CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
+bool UK2Node_EditablePinBase::CanCreateUserDefinedPin(
+	const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
 {
 	if (!IsEditable())
 	{
@@ -75,7 +76,8 @@ bool UK2Node_EditablePinBase::CanCreateUserDefinedPin(const FEdGraphPinType& InP
 	return true;
 }
 
-UEdGraphPin* UK2Node_EditablePinBase::CreateUserDefinedPin(const FName InPinName, const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, bool bUseUniqueName)
+UEdGraphPin* UK2Node_EditablePinBase::CreateUserDefinedPin(
+	const FName InPinName, const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, bool bUseUniqueName)
 {
 	FName Name = InPinName;
 	for (int32 Number = 1; bUseUniqueName && FindPin(Name); ++Number)
@@ -152,12 +154,14 @@ bool UK2Node_EditablePinBase::ModifyUserDefinedPinDefaultValue(TSharedPtr<FUserP
 bool UK2Node_EditablePinBase::CreateUserDefinedPinsForFunctionEntryExit(const UFunction* Function, bool bForFunctionEntry)
 {
 	bool bAllMade = true;
-	const bool bAllKnown = ForEachParameter(Function, [this, bForFunctionEntry, &bAllMade](FProperty& Parameter, const FEdGraphPinType& Type)
+	const bool bAllKnown = ForEachParameter(Function,
+		[this, bForFunctionEntry, &bAllMade](FProperty& Parameter, const FEdGraphPinType& Type)
 		{
 			if (IsFunctionInput(Parameter) == bForFunctionEntry)
 			{
 				bAllMade = CreateUserDefinedPin(Parameter.GetFName(), Type, bForFunctionEntry ? EGPD_Output : EGPD_Input) && bAllMade;
-			} });
+			}
+		});
 	return bAllKnown && bAllMade;
 }
 

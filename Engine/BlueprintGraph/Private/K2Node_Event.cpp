@@ -3,6 +3,7 @@
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
 #include "UObject/Class.h"
+#include "UObject/PlaceholderObject.h"
 #include "UObject/UnrealType.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
@@ -41,6 +42,59 @@ bool UK2Node_Event::IsCompatibleWithGraph(const UEdGraph* TargetGraph) const
 {
 	const UEdGraphSchema* const Schema = TargetGraph->GetSchema();
 	return Super::IsCompatibleWithGraph(TargetGraph) && Schema && Schema->GetGraphType(TargetGraph) == GT_Ubergraph;
+}
+
+namespace
+{
+/** The Blueprint's event that overrides the same function, or null. */
+UK2Node_Event* FindSameOverride(const UK2Node_Event& Event, const UBlueprint& Blueprint)
+{
+	for (const UEdGraph* const Page : Blueprint.UbergraphPages)
+	{
+		TArray<UK2Node_Event*> Events;
+		Page->GetNodesOfClass(Events);
+		UK2Node_Event* const* const Found = Events.FindByPredicate([&Event](const UK2Node_Event* Other)
+			{ return Other != &Event && Other->bOverrideFunction && Other->GetFunctionName() == Event.GetFunctionName(); });
+		if (Found)
+		{
+			return *Found;
+		}
+	}
+	return nullptr;
+}
+}
+
+bool UK2Node_Event::CanPasteHere(const UEdGraph* TargetGraph) const
+{
+	const UBlueprint* const Blueprint = TargetGraph->GetTypedOuter<UBlueprint>();
+	if (!Super::CanPasteHere(TargetGraph) || !IsCompatibleWithGraph(TargetGraph))
+	{
+		return false;
+	}
+	if (!bOverrideFunction || !Blueprint)
+	{
+		return true;
+	}
+	const UClass* const Self = Blueprint->SkeletonGeneratedClass.Get();
+	const UClass* const Owner = EventReference.GetMemberParentClass(Blueprint->SkeletonGeneratedClass.Get());
+	const bool bIsKnown = Owner && !UE::CoreUObject::IsPlaceholder(Owner);
+	const bool bInherits = Self && bIsKnown &&
+		(Self->GetAuthoritativeClass()->IsChildOf(const_cast<UClass*>(Owner)->GetAuthoritativeClass()) || Self->ImplementsInterface(Owner));
+	const UK2Node_Event* const Existing = FindSameOverride(*this, *Blueprint);
+	return (bInherits || !bIsKnown) && (!Existing || Existing->IsAutomaticallyPlacedGhostNode());
+}
+
+void UK2Node_Event::PostPasteNode()
+{
+	Super::PostPasteNode();
+	const UBlueprint* const Blueprint = bOverrideFunction ? GetBlueprint() : nullptr;
+	UK2Node_Event* const Ghost = Blueprint ? FindSameOverride(*this, *Blueprint) : nullptr;
+	if (Ghost && Ghost->IsAutomaticallyPlacedGhostNode())
+	{
+		Ghost->GetGraph()->Modify();
+		Ghost->Modify();
+		Ghost->DestroyNode();
+	}
 }
 
 void UK2Node_Event::AllocateDefaultPins()
@@ -85,8 +139,8 @@ void UK2Node_Event::BindToDispatcher(const FMulticastDelegateProperty& Dispatche
 {
 	const UBlueprint* const Blueprint = GetBlueprint();
 	EventReference.SetFromField<UFunction>(Dispatcher.SignatureFunction, false);
-	CustomFunctionName = FName(*FString::Printf(TEXT("BndEvt__%s_%s_%s_%s"), Blueprint ? *Blueprint->GetName() : TEXT(""), *OwnerName.ToString(), *GetName(),
-		*Dispatcher.SignatureFunction->GetName()));
+	CustomFunctionName = FName(*FString::Printf(TEXT("BndEvt__%s_%s_%s_%s"), Blueprint ? *Blueprint->GetName() : TEXT(""),
+		*OwnerName.ToString(), *GetName(), *Dispatcher.SignatureFunction->GetName()));
 	bOverrideFunction = false;
 	bInternalEvent = true;
 }
@@ -152,7 +206,8 @@ FText UK2Node_Event::GetNodeTitle(ENodeTitleType::Type TitleType) const
 	const FText Title = FText::Format(LOCTEXT("EventName", "Event {0}"), Name);
 	if (TitleType == ENodeTitleType::FullTitle && IsInterfaceEventNode())
 	{
-		return FText::Format(LOCTEXT("EventFromInterface", "{0}\nFrom {1}"), Title, FText::FromString(EventReference.GetMemberParentClass()->GetName()));
+		return FText::Format(
+			LOCTEXT("EventFromInterface", "{0}\nFrom {1}"), Title, FText::FromString(EventReference.GetMemberParentClass()->GetName()));
 	}
 	return Title;
 }
@@ -173,7 +228,8 @@ FText UK2Node_Event::GetMenuCategory() const
 {
 	const UFunction* const Function = FindEventSignatureFunction();
 	const FText Category = Function ? Function->GetMetaDataText(FBlueprintMetadata::MD_FunctionCategory) : FText::GetEmpty();
-	return Category.IsEmpty() ? LOCTEXT("AddEventCategory", "Add Event") : FText::Format(LOCTEXT("AddEventSubCategory", "Add Event|{0}"), Category);
+	return Category.IsEmpty() ? LOCTEXT("AddEventCategory", "Add Event")
+							  : FText::Format(LOCTEXT("AddEventSubCategory", "Add Event|{0}"), Category);
 }
 
 FName UK2Node_Event::GetCornerIcon() const

@@ -15,7 +15,8 @@ TArray<FName> GetArgumentNames(const FString& Format)
 			++Index;
 			continue;
 		}
-		const int32 End = Format[Index] == TEXT('{') ? Format.Find(TEXT("}"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Index) : INDEX_NONE;
+		const int32 End = Format[Index] == TEXT('{') ? Format.Find(TEXT("}"), ESearchCase::CaseSensitive, ESearchDir::FromStart, Index)
+													 : INDEX_NONE;
 		if (End != INDEX_NONE && End > Index + 1)
 		{
 			Names.AddUnique(FName(*Format.Mid(Index + 1, End - Index - 1)));

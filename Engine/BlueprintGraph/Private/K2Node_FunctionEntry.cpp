@@ -11,7 +11,8 @@ int32 UK2Node_FunctionEntry::GetFunctionFlags() const
 	return (Function ? static_cast<int32>(Function->FunctionFlags) & ~FUNC_Native : 0) | ExtraFlags;
 }
 
-bool UK2Node_FunctionEntry::CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
+bool UK2Node_FunctionEntry::CanCreateUserDefinedPin(
+	const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
 {
 	if (InDesiredDirection == EGPD_Input)
 	{
@@ -39,7 +40,8 @@ FText UK2Node_FunctionEntry::GetNodeTitle(ENodeTitleType::Type TitleType) const
 		return Function->GetDisplayNameText();
 	}
 	const UEdGraph* const Graph = GetGraph();
-	const FString Name = CustomGeneratedFunctionName.IsNone() ? Graph ? Graph->GetName() : FString() : CustomGeneratedFunctionName.ToString();
+	const FString Name = CustomGeneratedFunctionName.IsNone() ? Graph ? Graph->GetName() : FString()
+															  : CustomGeneratedFunctionName.ToString();
 	return FText::FromString(FName::NameToDisplayString(Name, false));
 }
 

@@ -6,7 +6,8 @@
 
 #define LOCTEXT_NAMESPACE "K2Node"
 
-bool UK2Node_FunctionResult::CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
+bool UK2Node_FunctionResult::CanCreateUserDefinedPin(
+	const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage)
 {
 	if (InDesiredDirection == EGPD_Output)
 	{
@@ -53,7 +54,8 @@ void UK2Node_FunctionResult::AllocateDefaultPins()
 
 FText UK2Node_FunctionResult::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("ReturnNodeMenuTitle", "Add Return Node...") : LOCTEXT("ReturnNode", "Return Node");
+	return TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("ReturnNodeMenuTitle", "Add Return Node...")
+												  : LOCTEXT("ReturnNode", "Return Node");
 }
 
 FText UK2Node_FunctionResult::GetTooltipText() const

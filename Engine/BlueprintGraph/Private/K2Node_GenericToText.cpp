@@ -19,7 +19,9 @@ bool UK2Node_GenericToText::IsConnectionDisallowed(const UEdGraphPin* MyPin, con
 	FEdGraphPinType TextType;
 	TextType.PinCategory = Schema::PC_Text;
 	const FEdGraphPinType& Type = OtherPin->PinType;
-	const bool bHasText = !Type.IsContainer() && (Type.PinCategory == Schema::PC_Wildcard || Type.PinCategory == Schema::PC_Text || GetK2Schema()->SearchForAutocastFunction(Type, TextType).IsSet());
+	const bool bHasText = !Type.IsContainer() &&
+		(Type.PinCategory == Schema::PC_Wildcard || Type.PinCategory == Schema::PC_Text ||
+			GetK2Schema()->SearchForAutocastFunction(Type, TextType).IsSet());
 	if (MyPin->PinName != TEXT("Value") || bHasText)
 	{
 		return false;

@@ -11,7 +11,8 @@ struct FClassDefaultsPins : public FOptionalPinManager
 {
 	bool CanTreatPropertyAsOptional(FProperty* TestProperty) const override
 	{
-		return TestProperty->HasAllPropertyFlags(CPF_BlueprintVisible) && !TestProperty->HasAnyPropertyFlags(CPF_InstancedReference) && !TestProperty->IsA<FMulticastDelegateProperty>();
+		return TestProperty->HasAllPropertyFlags(CPF_BlueprintVisible) && !TestProperty->HasAnyPropertyFlags(CPF_InstancedReference) &&
+			!TestProperty->IsA<FMulticastDelegateProperty>();
 	}
 };
 }

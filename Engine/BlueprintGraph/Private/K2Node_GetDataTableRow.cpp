@@ -16,8 +16,10 @@ void UK2Node_GetDataTableRow::AllocateDefaultPins()
 {
 	CreateExecPin();
 	CreateThenPin()->PinFriendlyName = LOCTEXT("GetDataTableRow_Row_Found", "Row Found");
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("RowNotFound"))->PinFriendlyName = LOCTEXT("GetDataTableRow_Row_Not_Found", "Row Not Found");
-	UEdGraphPin* const Table = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, FindObject<UClass>(nullptr, TEXT("/Script/Engine.DataTable")), TEXT("DataTable"));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("RowNotFound"))->PinFriendlyName = LOCTEXT(
+		"GetDataTableRow_Row_Not_Found", "Row Not Found");
+	UEdGraphPin* const Table = CreatePin(
+		EGPD_Input, UEdGraphSchema_K2::PC_Object, FindObject<UClass>(nullptr, TEXT("/Script/Engine.DataTable")), TEXT("DataTable"));
 	GeneratePinTooltip(*Table, LOCTEXT("GetDataTableRow_TableTip", "The table you want to retrieve a row from"));
 	UEdGraphPin* const Row = CreatePinWithDefault(EGPD_Input, UEdGraphSchema_K2::PC_Name, TEXT("RowName"));
 	GeneratePinTooltip(*Row, LOCTEXT("GetDataTableRow_RowTip", "The name of the row to retrieve from the table"));
@@ -80,7 +82,8 @@ FText UK2Node_GetDataTableRow::GetNodeTitle(ENodeTitleType::Type TitleType) cons
 	{
 		return LOCTEXT("GetDataTableRow_Title_Unknown", "Get Data Table Row");
 	}
-	return FText::Format(LOCTEXT("GetDataTableRow_Title", "Get Data Table Row {0}"), FText::FromString(Table->DefaultObject ? Table->DefaultObject->GetName() : TEXT("NONE")));
+	return FText::Format(LOCTEXT("GetDataTableRow_Title", "Get Data Table Row {0}"),
+		FText::FromString(Table->DefaultObject ? Table->DefaultObject->GetName() : TEXT("NONE")));
 }
 
 FText UK2Node_GetDataTableRow::GetTooltipText() const

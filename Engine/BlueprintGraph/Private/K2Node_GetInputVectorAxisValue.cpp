@@ -13,7 +13,9 @@ void UK2Node_GetInputVectorAxisValue::Initialize(const FKey AxisKey)
 
 FText UK2Node_GetInputVectorAxisValue::GetTooltipText() const
 {
-	return FText::Format(LOCTEXT("GetInputVectorAxis_Tooltip", "Returns the current value of input axis key {0}. If input is disabled for the actor the value will be (0, 0, 0)."),
+	return FText::Format(
+		LOCTEXT("GetInputVectorAxis_Tooltip",
+			"Returns the current value of input axis key {0}. If input is disabled for the actor the value will be (0, 0, 0)."),
 		InputAxisKey.GetDisplayName());
 }
 

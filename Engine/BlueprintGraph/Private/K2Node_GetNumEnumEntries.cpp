@@ -11,12 +11,14 @@ void UK2Node_GetNumEnumEntries::AllocateDefaultPins()
 
 FText UK2Node_GetNumEnumEntries::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return FText::Format(LOCTEXT("GetNumEnumEntries_Title", "Get number of entries in {0}"), FText::FromString(Enum ? Enum->GetName() : TEXT("(bad enum)")));
+	return FText::Format(
+		LOCTEXT("GetNumEnumEntries_Title", "Get number of entries in {0}"), FText::FromString(Enum ? Enum->GetName() : TEXT("(bad enum)")));
 }
 
 FText UK2Node_GetNumEnumEntries::GetTooltipText() const
 {
-	return FText::Format(LOCTEXT("GetNumEnumEntries_Tooltip", "Returns the number of entries in the enum {0}"), FText::FromString(Enum ? Enum->GetName() : TEXT("(bad enum)")));
+	return FText::Format(LOCTEXT("GetNumEnumEntries_Tooltip", "Returns the number of entries in the enum {0}"),
+		FText::FromString(Enum ? Enum->GetName() : TEXT("(bad enum)")));
 }
 
 FText UK2Node_GetNumEnumEntries::GetMenuCategory() const

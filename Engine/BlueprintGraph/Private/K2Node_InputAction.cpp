@@ -12,12 +12,15 @@ void UK2Node_InputAction::AllocateDefaultPins()
 
 FText UK2Node_InputAction::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TitleType == ENodeTitleType::MenuTitle ? FText::FromName(InputActionName) : FText::Format(LOCTEXT("InputAction_Name", "InputAction {0}"), FText::FromName(InputActionName));
+	return TitleType == ENodeTitleType::MenuTitle
+		? FText::FromName(InputActionName)
+		: FText::Format(LOCTEXT("InputAction_Name", "InputAction {0}"), FText::FromName(InputActionName));
 }
 
 FText UK2Node_InputAction::GetTooltipText() const
 {
-	return FText::Format(LOCTEXT("InputAction_Tooltip", "Event for when the keys bound to input action {0} are pressed or released."), FText::FromName(InputActionName));
+	return FText::Format(LOCTEXT("InputAction_Tooltip", "Event for when the keys bound to input action {0} are pressed or released."),
+		FText::FromName(InputActionName));
 }
 
 FText UK2Node_InputAction::GetMenuCategory() const

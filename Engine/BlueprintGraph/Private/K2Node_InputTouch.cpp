@@ -13,7 +13,8 @@ void UK2Node_InputTouch::AllocateDefaultPins()
 		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, Name);
 	}
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Struct, TBaseStructure<FVector>::Get(), TEXT("Location"));
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/InputCore.ETouchIndex")), TEXT("FingerIndex"));
+	CreatePin(
+		EGPD_Output, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/InputCore.ETouchIndex")), TEXT("FingerIndex"));
 }
 
 FText UK2Node_InputTouch::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -93,7 +93,8 @@ void UK2Node_Knot::PropagatePinType()
 
 UEdGraphPin* UK2Node_Knot::GetPassThroughPin(const UEdGraphPin* FromPin) const
 {
-	return FromPin && Pins.Contains(const_cast<UEdGraphPin*>(FromPin)) ? (FromPin == GetInputPin() ? GetOutputPin() : GetInputPin()) : nullptr;
+	return FromPin && Pins.Contains(const_cast<UEdGraphPin*>(FromPin)) ? (FromPin == GetInputPin() ? GetOutputPin() : GetInputPin())
+																	   : nullptr;
 }
 
 FText UK2Node_Knot::GetNodeTitle(ENodeTitleType::Type TitleType) const

@@ -6,7 +6,8 @@
 
 void UK2Node_Literal::AllocateDefaultPins()
 {
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, ObjectRef ? ObjectRef->GetClass() : UObject::StaticClass(), ObjectRef ? ObjectRef->GetFName() : FName(TEXT("Value")));
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Object, ObjectRef ? ObjectRef->GetClass() : UObject::StaticClass(),
+		ObjectRef ? ObjectRef->GetFName() : FName(TEXT("Value")));
 }
 
 FText UK2Node_Literal::GetNodeTitle(ENodeTitleType::Type TitleType) const

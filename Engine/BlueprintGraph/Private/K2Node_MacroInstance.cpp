@@ -1,8 +1,17 @@
 #include "K2Node_MacroInstance.h"
 
+#include "Engine/Blueprint.h"
 #include "UObject/Class.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
+
+namespace
+{
+bool IsWildcard(const UEdGraphPin& Pin)
+{
+	return Pin.PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard;
+}
+}
 
 UK2Node_MacroInstance::UK2Node_MacroInstance(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
@@ -28,6 +37,29 @@ const UK2Node_Tunnel* UK2Node_MacroInstance::FindTunnel(const UEdGraph* Graph, b
 	return nullptr;
 }
 
+bool UK2Node_MacroInstance::CanUseMacroOf(const UBlueprint& Source, const UBlueprint& User)
+{
+	const UClass* const Needed = Source.BlueprintType == BPTYPE_MacroLibrary ? Source.ParentClass.Get() : Source.GeneratedClass.Get();
+	const UClass* const Self = User.ParentClass.Get();
+	return &Source == &User || !Needed || (Self && Self->IsChildOf(Needed));
+}
+
+bool UK2Node_MacroInstance::CanPasteHere(const UEdGraph* TargetGraph) const
+{
+	return Super::CanPasteHere(TargetGraph) && GetMacroGraph() != TargetGraph;
+}
+
+void UK2Node_MacroInstance::PostPasteNode()
+{
+	Super::PostPasteNode();
+	const UBlueprint* const Source = GetSourceBlueprint();
+	const UBlueprint* const User = GetBlueprint();
+	if (Source && User && !CanUseMacroOf(*Source, *User))
+	{
+		SetMacroGraph(nullptr);
+	}
+}
+
 bool UK2Node_MacroInstance::HasKnownDefinition() const
 {
 	return GetMacroGraph() != nullptr;
@@ -35,59 +67,42 @@ bool UK2Node_MacroInstance::HasKnownDefinition() const
 
 void UK2Node_MacroInstance::AllocateDefaultPins()
 {
-	const UEdGraph* const Graph = GetMacroGraph();
-	CreatePinsOfTunnels(FindTunnel(Graph, true), FindTunnel(Graph, false));
+	CreatePinsOfExpansion();
 }
 
 void UK2Node_MacroInstance::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
 {
-	AllocateDefaultPins();
 	if (ResolvedWildcardType.PinCategory.IsNone())
 	{
 		// Pasted text names no resolved type; the old pins show it.
-		for (const UEdGraphPin* const Pin : Pins)
-		{
-			const UEdGraphPin* const Old = FindOldPin(OldPins, Pin->PinName, Pin->Direction);
-			if (Pin->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard && Old && Old->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard)
+		ForEachPinOfExpansion([this, &OldPins](const UEdGraphPin& Inner, EEdGraphPinDirection Direction)
 			{
-				ResolvedWildcardType = Old->PinType;
-				break;
-			}
-		}
+				const UEdGraphPin* const Old = FindOldPin(OldPins, Inner.PinName, Direction);
+				const bool bWasResolved = IsWildcard(Inner) && Old && !IsWildcard(*Old);
+				if (bWasResolved && ResolvedWildcardType.PinCategory.IsNone())
+				{
+					ResolvedWildcardType = Old->PinType;
+				} });
 	}
-	ApplyWildcardType();
+	AllocateDefaultPins();
 }
 
-void UK2Node_MacroInstance::ApplyWildcardType()
+FEdGraphPinType UK2Node_MacroInstance::GetOuterType(const UEdGraphPin& Inner) const
 {
-	if (ResolvedWildcardType.PinCategory.IsNone())
-	{
-		return;
-	}
-	for (UEdGraphPin* const Pin : Pins)
-	{
-		if (Pin->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard)
-		{
-			SetValueType(*Pin, ResolvedWildcardType);
-		}
-	}
+	const bool bIsResolved = IsWildcard(Inner) && !ResolvedWildcardType.PinCategory.IsNone();
+	return bIsResolved ? WithValueType(Inner.PinType, ResolvedWildcardType) : Inner.PinType;
 }
 
 TArray<UEdGraphPin*> UK2Node_MacroInstance::GetWildcardPins() const
 {
 	TArray<UEdGraphPin*> Wildcards;
-	for (const bool bEntry : {true, false})
-	{
-		const UK2Node_Tunnel* const Tunnel = FindTunnel(GetMacroGraph(), bEntry);
-		for (const UEdGraphPin* const Inner : Tunnel ? Tunnel->Pins : TArray<UEdGraphPin*>())
+	ForEachPinOfExpansion([this, &Wildcards](const UEdGraphPin& Inner, EEdGraphPinDirection Direction)
 		{
-			UEdGraphPin* const Pin = Inner->PinType.PinCategory == UEdGraphSchema_K2::PC_Wildcard ? FindPin(Inner->PinName, bEntry ? EGPD_Input : EGPD_Output) : nullptr;
+			UEdGraphPin* const Pin = IsWildcard(Inner) ? FindPin(Inner.PinName, Direction) : nullptr;
 			if (Pin)
 			{
 				Wildcards.Add(Pin);
-			}
-		}
-	}
+			} });
 	return Wildcards;
 }
 
@@ -99,7 +114,7 @@ void UK2Node_MacroInstance::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 		return;
 	}
 	const auto GivesType = [](const UEdGraphPin* Item)
-	{ return Item->LinkedTo.Num() > 0 && Item->LinkedTo[0]->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard; };
+	{ return Item->LinkedTo.Num() > 0 && !IsWildcard(*Item->LinkedTo[0]); };
 	UEdGraphPin* const* const Giver = Wildcards.FindByPredicate(GivesType);
 	const bool bIsResolved = !ResolvedWildcardType.PinCategory.IsNone();
 	// The first link decides; what is linked later must fit, and with the last link the macro is open again.

@@ -98,8 +98,9 @@ void UK2Node_MakeContainer::RemoveInputPin(UEdGraphPin* Pin)
 
 FText UK2Node_MakeContainer::GetMenuCategory() const
 {
-	return ContainerType == EPinContainerType::Array ? LOCTEXT("ArrayCategory", "Utilities|Array") : ContainerType == EPinContainerType::Set ? LOCTEXT("SetCategory", "Utilities|Set")
-																																			 : LOCTEXT("MapCategory", "Utilities|Map");
+	return ContainerType == EPinContainerType::Array ? LOCTEXT("ArrayCategory", "Utilities|Array")
+		: ContainerType == EPinContainerType::Set    ? LOCTEXT("SetCategory", "Utilities|Set")
+													 : LOCTEXT("MapCategory", "Utilities|Map");
 }
 
 #undef LOCTEXT_NAMESPACE

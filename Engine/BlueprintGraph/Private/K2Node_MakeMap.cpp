@@ -16,7 +16,8 @@ FName UK2Node_MakeMap::GetPinName(int32 PinIndex) const
 FEdGraphPinType UK2Node_MakeMap::GetInputType(int32 PinIndex) const
 {
 	const UEdGraphPin* const Output = GetOutputPin();
-	return PinIndex % 2 == 0 || !Output ? Super::GetInputType(PinIndex) : FEdGraphPinType::GetPinTypeForTerminalType(Output->PinType.PinValueType);
+	return PinIndex % 2 == 0 || !Output ? Super::GetInputType(PinIndex)
+										: FEdGraphPinType::GetPinTypeForTerminalType(Output->PinType.PinValueType);
 }
 
 void UK2Node_MakeMap::FollowLinks()

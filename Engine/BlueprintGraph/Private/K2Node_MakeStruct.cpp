@@ -11,7 +11,8 @@ struct FMakeStructPins : public FOptionalPinManager
 {
 	bool CanTreatPropertyAsOptional(FProperty* TestProperty) const override
 	{
-		return TestProperty->HasAnyPropertyFlags(CPF_Edit | CPF_BlueprintVisible) && !TestProperty->HasAnyPropertyFlags(CPF_BlueprintReadOnly);
+		return TestProperty->HasAnyPropertyFlags(CPF_Edit | CPF_BlueprintVisible) &&
+			!TestProperty->HasAnyPropertyFlags(CPF_BlueprintReadOnly);
 	}
 };
 }

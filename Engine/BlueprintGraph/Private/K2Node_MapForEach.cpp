@@ -15,7 +15,8 @@ void UK2Node_MapForEach::AllocateDefaultPins()
 	CreateThenPin()->PinFriendlyName = LOCTEXT("MapForEach_Body", "Loop Body");
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, TEXT("KeyPin"))->PinFriendlyName = FText::FromString(KeyName);
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, TEXT("ValuePin"))->PinFriendlyName = FText::FromString(ValueName);
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("CompletedPin"))->PinFriendlyName = LOCTEXT("MapForEach_Completed", "Completed");
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("CompletedPin"))->PinFriendlyName = LOCTEXT(
+		"MapForEach_Completed", "Completed");
 	HideAdvancedPins();
 }
 

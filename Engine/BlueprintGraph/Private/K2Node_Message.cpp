@@ -14,13 +14,15 @@ UEdGraphPin* UK2Node_Message::CreateSelfPin(const UFunction* Function)
 
 FText UK2Node_Message::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	const FText Name = GetTargetFunction() ? GetUserFacingFunctionName(GetTargetFunction()) : FText::FromName(FunctionReference.GetMemberName());
+	const FText Name = GetTargetFunction() ? GetUserFacingFunctionName(GetTargetFunction())
+										   : FText::FromName(FunctionReference.GetMemberName());
 	if (TitleType != ENodeTitleType::FullTitle)
 	{
 		return FText::Format(LOCTEXT("MessageName", "{0} (Message)"), Name);
 	}
 	const UClass* const Class = FunctionReference.GetMemberParentClass();
-	return FText::Format(LOCTEXT("CallInterface_Title", "{0}\nUsing Interface {1}"), Name, FText::FromString(Class ? Class->GetName() : FString()));
+	return FText::Format(
+		LOCTEXT("CallInterface_Title", "{0}\nUsing Interface {1}"), Name, FText::FromString(Class ? Class->GetName() : FString()));
 }
 
 #undef LOCTEXT_NAMESPACE

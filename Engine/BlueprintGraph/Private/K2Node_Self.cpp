@@ -9,7 +9,8 @@ void UK2Node_Self::AllocateDefaultPins()
 
 FText UK2Node_Self::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("GetSelfReference", "Get a reference to self") : LOCTEXT("SelfReferenceName", "Self-Reference");
+	return TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("GetSelfReference", "Get a reference to self")
+												  : LOCTEXT("SelfReferenceName", "Self-Reference");
 }
 
 FText UK2Node_Self::GetMenuCategory() const

@@ -13,7 +13,8 @@ void UK2Node_SetForEach::AllocateDefaultPins()
 	Break->bAdvancedView = true;
 	CreateThenPin()->PinFriendlyName = LOCTEXT("SetForEach_Body", "Loop Body");
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Wildcard, TEXT("ValuePin"))->PinFriendlyName = FText::FromString(ValueName);
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("CompletedPin"))->PinFriendlyName = LOCTEXT("SetForEach_Completed", "Completed");
+	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("CompletedPin"))->PinFriendlyName = LOCTEXT(
+		"SetForEach_Completed", "Completed");
 	HideAdvancedPins();
 }
 

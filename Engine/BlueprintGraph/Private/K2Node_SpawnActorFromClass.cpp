@@ -15,10 +15,11 @@ UClass* UK2Node_SpawnActorFromClass::GetClassPinBaseClass() const
 void UK2Node_SpawnActorFromClass::CreateOwnPins()
 {
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Struct, TBaseStructure<FTransform>::Get(), TEXT("SpawnTransform"));
-	UEdGraphPin* const Collision = CreatePin(
-		EGPD_Input, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ESpawnActorCollisionHandlingMethod")), TEXT("CollisionHandlingOverride"));
+	UEdGraphPin* const Collision = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Byte,
+		FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ESpawnActorCollisionHandlingMethod")), TEXT("CollisionHandlingOverride"));
 	Collision->DefaultValue = TEXT("Undefined");
-	UEdGraphPin* const Scale = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ESpawnActorScaleMethod")), TEXT("TransformScaleMethod"));
+	UEdGraphPin* const Scale = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Byte,
+		FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ESpawnActorScaleMethod")), TEXT("TransformScaleMethod"));
 	Scale->DefaultValue = TEXT("MultiplyWithRoot");
 	Scale->bAdvancedView = true;
 	UEdGraphPin* const Owner = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, AActor::StaticClass(), TEXT("Owner"));

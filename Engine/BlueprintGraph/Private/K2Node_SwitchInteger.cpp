@@ -20,7 +20,8 @@ void UK2Node_SwitchInteger::ReallocatePinsDuringReconstruction(TArray<UEdGraphPi
 	int32 Value = StartIndex;
 	for (const UEdGraphPin* const OldPin : OldPins)
 	{
-		const bool bIsCase = OldPin->Direction == EGPD_Output && UEdGraphSchema_K2::IsExecPin(*OldPin) && OldPin->PinName != TEXT("Default") && !OldPin->bOrphanedPin;
+		const bool bIsCase = OldPin->Direction == EGPD_Output && UEdGraphSchema_K2::IsExecPin(*OldPin) &&
+			OldPin->PinName != TEXT("Default") && !OldPin->bOrphanedPin;
 		if (bIsCase)
 		{
 			CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, FName(*FString::FromInt(Value++)));

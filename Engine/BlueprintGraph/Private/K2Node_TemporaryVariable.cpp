@@ -12,7 +12,8 @@ void UK2Node_TemporaryVariable::AllocateDefaultPins()
 FText UK2Node_TemporaryVariable::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
 	const FText Type = UEdGraphSchema_K2::TypeToText(VariableType);
-	return bIsPersistent ? FText::Format(LOCTEXT("PersistentLocalVariable", "Persistent Local {0}"), Type) : FText::Format(LOCTEXT("LocalTemporaryVariable", "Local {0}"), Type);
+	return bIsPersistent ? FText::Format(LOCTEXT("PersistentLocalVariable", "Persistent Local {0}"), Type)
+						 : FText::Format(LOCTEXT("LocalTemporaryVariable", "Local {0}"), Type);
 }
 
 FText UK2Node_TemporaryVariable::GetMenuCategory() const

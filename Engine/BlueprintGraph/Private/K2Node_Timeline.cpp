@@ -54,7 +54,8 @@ UTimelineTemplate* UK2Node_Timeline::AddTemplate(UBlueprint& Blueprint, const UT
 	UObject* const Outer = Blueprint.GeneratedClass ? static_cast<UObject*>(Blueprint.GeneratedClass.Get()) : &Blueprint;
 	const FName Name(*UTimelineTemplate::TimelineVariableNameToTemplateName(TimelineName));
 	Blueprint.Modify();
-	UTimelineTemplate* const Template = Source ? DuplicateObject<UTimelineTemplate>(Source, Outer, Name) : NewObject<UTimelineTemplate>(Outer, Name);
+	UTimelineTemplate* const Template = Source ? DuplicateObject<UTimelineTemplate>(Source, Outer, Name)
+											   : NewObject<UTimelineTemplate>(Outer, Name);
 	Template->SetFlags(RF_Transactional);
 	Template->TimelineGuid = FGuid::NewGuid();
 	Template->UpdateCachedNames();
@@ -142,7 +143,8 @@ void UK2Node_Timeline::AllocateDefaultPins()
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, TEXT("Finished"));
 	CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Exec, TEXT("SetNewTime"));
 	CreatePinWithDefault(EGPD_Input, UEdGraphSchema_K2::PC_Real, TEXT("NewTime"), UEdGraphSchema_K2::PC_Float);
-	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ETimelineDirection")), DirectionName);
+	CreatePin(
+		EGPD_Output, UEdGraphSchema_K2::PC_Byte, FindObject<UEnum>(nullptr, TEXT("/Script/Engine.ETimelineDirection")), DirectionName);
 	const UTimelineTemplate* const Template = GetTemplate();
 	if (!Template)
 	{
@@ -168,7 +170,8 @@ void UK2Node_Timeline::AllocateDefaultPins()
 
 FText UK2Node_Timeline::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TimelineName.IsNone() || TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("AddTimeline", "Add Timeline...") : FText::FromName(TimelineName);
+	return TimelineName.IsNone() || TitleType == ENodeTitleType::MenuTitle ? LOCTEXT("AddTimeline", "Add Timeline...")
+																		   : FText::FromName(TimelineName);
 }
 
 FText UK2Node_Timeline::GetTooltipText() const

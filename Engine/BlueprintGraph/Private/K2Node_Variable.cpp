@@ -31,7 +31,9 @@ bool UK2Node_Variable::GetVariableType(FEdGraphPinType& OutType) const
 	if (VariableReference.IsLocalScope())
 	{
 		TArray<UK2Node_FunctionEntry*> Entries;
-		const UEdGraph* const Graph = Blueprint ? UEdGraphSchema_K2::GetFunctionGraph(Blueprint, FName(*VariableReference.GetMemberScopeName())) : nullptr;
+		const UEdGraph* const Graph = Blueprint
+			? UEdGraphSchema_K2::GetFunctionGraph(Blueprint, FName(*VariableReference.GetMemberScopeName()))
+			: nullptr;
 		if (Graph)
 		{
 			Graph->GetNodesOfClass(Entries);
@@ -48,7 +50,9 @@ bool UK2Node_Variable::GetVariableType(FEdGraphPinType& OutType) const
 		return GetK2Schema()->ConvertPropertyToPinType(Property, OutType);
 	}
 	// A variable that was declared after the last compile stands in the Blueprint alone.
-	const FBPVariableDescription* const Declared = Blueprint && VariableReference.IsSelfContext() ? Blueprint->NewVariables.FindByPredicate(IsThis) : nullptr;
+	const FBPVariableDescription* const Declared = Blueprint && VariableReference.IsSelfContext()
+		? Blueprint->NewVariables.FindByPredicate(IsThis)
+		: nullptr;
 	if (Declared)
 	{
 		OutType = Declared->VarType;
@@ -96,7 +100,8 @@ void UK2Node_Variable::CreatePinForSelf()
 	const UBlueprint* const Blueprint = GetBlueprint();
 	const bool bIsSelf = VariableReference.IsSelfContext();
 	UClass* const Class = bIsSelf && Blueprint ? Blueprint->GeneratedClass.Get() : GetVariableSourceClass();
-	UEdGraphPin* const Pin = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Object, Class ? Class->GetAuthoritativeClass() : nullptr, UEdGraphSchema_K2::PN_Self);
+	UEdGraphPin* const Pin = CreatePin(
+		EGPD_Input, UEdGraphSchema_K2::PC_Object, Class ? Class->GetAuthoritativeClass() : nullptr, UEdGraphSchema_K2::PN_Self);
 	Pin->PinFriendlyName = LOCTEXT("Target", "Target");
 	Pin->bHidden = bIsSelf;
 }
@@ -106,7 +111,8 @@ FText UK2Node_Variable::FormatTitle(const FText& Format) const
 	const FProperty* const Property = GetPropertyForVariable();
 	FEdGraphPinType Type;
 	const bool bIsBoolean = GetVariableType(Type) && Type.PinCategory == UEdGraphSchema_K2::PC_Boolean;
-	const FText Name = Property ? Property->GetDisplayNameText() : FText::FromString(FName::NameToDisplayString(GetVarNameString(), bIsBoolean));
+	const FText Name = Property ? Property->GetDisplayNameText()
+								: FText::FromString(FName::NameToDisplayString(GetVarNameString(), bIsBoolean));
 	return FText::Format(Format, Name);
 }
 

@@ -19,7 +19,9 @@ void UK2Node_VariableGet::AllocateDefaultPins()
 		const bool bIsBranch = CurrentVariation == EGetNodeVariation::Branch;
 		CreateExecPin();
 		CreateThenPin()->PinFriendlyName = bIsBranch ? LOCTEXT("True", "True") : LOCTEXT("IsValid", "Is Valid");
-		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_Else)->PinFriendlyName = bIsBranch ? LOCTEXT("False", "False") : LOCTEXT("IsNotValid", "Is Not Valid");
+		CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_Else)->PinFriendlyName = bIsBranch
+			? LOCTEXT("False", "False")
+			: LOCTEXT("IsNotValid", "Is Not Valid");
 	}
 	if (UEdGraphPin* const Value = CreatePinForVariable(EGPD_Output))
 	{

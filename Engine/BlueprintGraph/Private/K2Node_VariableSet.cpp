@@ -9,7 +9,8 @@ void UK2Node_VariableSet::AllocateDefaultPins()
 	if (CreatePinForVariable(EGPD_Input))
 	{
 		UEdGraphPin* const Output = CreatePinForVariable(EGPD_Output, GetVariableOutputPinName());
-		Output->PinToolTip = LOCTEXT("SetPinOutputTooltip", "Retrieves the value of the variable, can use instead of a separate Get node").ToString();
+		Output->PinToolTip =
+			LOCTEXT("SetPinOutputTooltip", "Retrieves the value of the variable, can use instead of a separate Get node").ToString();
 		CreatePinForSelf();
 	}
 }

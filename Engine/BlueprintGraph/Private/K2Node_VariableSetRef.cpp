@@ -23,7 +23,8 @@ FText UK2Node_VariableSetRef::GetNodeTitle(ENodeTitleType::Type TitleType) const
 	const bool bIsTyped = Target && Target->PinType.PinCategory != UEdGraphSchema_K2::PC_Wildcard;
 	FEdGraphPinType Type = bIsTyped ? Target->PinType : FEdGraphPinType();
 	Type.bIsReference = false;
-	return bIsTyped ? FText::Format(LOCTEXT("SetRefVarNodeTitle_Typed", "Set {0}"), UEdGraphSchema_K2::TypeToText(Type)) : LOCTEXT("SetRefVarNodeTitle", "Set By-Ref Var");
+	return bIsTyped ? FText::Format(LOCTEXT("SetRefVarNodeTitle_Typed", "Set {0}"), UEdGraphSchema_K2::TypeToText(Type))
+					: LOCTEXT("SetRefVarNodeTitle", "Set By-Ref Var");
 }
 
 FText UK2Node_VariableSetRef::GetTooltipText() const

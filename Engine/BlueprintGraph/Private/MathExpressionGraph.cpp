@@ -59,8 +59,9 @@ const TArray<FName>& GetOperations(const FMathExpressionPart& Part)
 		{TEXT("vector"), {TEXT("MakeVector")}},
 		{TEXT("vector2d"), {TEXT("MakeVector2D")}},
 	};
-	const TMap<FString, TArray<FName>>& Table = Part.Kind == FMathExpressionPart::EKind::Binary ? OfOperator : Part.Kind == FMathExpressionPart::EKind::Unary ? OfSign
-																																							  : OfWord;
+	const TMap<FString, TArray<FName>>& Table = Part.Kind == FMathExpressionPart::EKind::Binary ? OfOperator
+		: Part.Kind == FMathExpressionPart::EKind::Unary                                        ? OfSign
+																								: OfWord;
 	static const TArray<FName> None;
 	const TArray<FName>* const Known = Table.Find(Part.Text);
 	return Known ? *Known : None;
@@ -238,11 +239,13 @@ bool FMathExpressionGraph::MakeCall(const FMathExpressionPart& Part, const int32
 	const auto Prepare = [Function](UK2Node_CallFunction& Node)
 	{ Node.SetFromFunction(Function); };
 	const bool bTakesMore = Function->HasMetaData(FBlueprintMetadata::MD_CommutativeAssociativeBinaryOperator);
-	UK2Node_CallFunction* const Call = bTakesMore ? AddNode<UK2Node_CommutativeAssociativeBinaryOperator>(Rank, Prepare) : AddNode<UK2Node_CallFunction>(Rank, Prepare);
+	UK2Node_CallFunction* const Call = bTakesMore ? AddNode<UK2Node_CommutativeAssociativeBinaryOperator>(Rank, Prepare)
+												  : AddNode<UK2Node_CallFunction>(Rank, Prepare);
 	int32 Index = 0;
 	for (TFieldIterator<FProperty> Parameter(Function); Parameter && Index < Values.Num(); ++Parameter)
 	{
-		const bool bIsOperand = !Parameter->HasAnyPropertyFlags(CPF_ReturnParm) && Parameter->GetFName() != FOperatorFunctions::GetToleranceName();
+		const bool bIsOperand = !Parameter->HasAnyPropertyFlags(CPF_ReturnParm) &&
+			Parameter->GetFName() != FOperatorFunctions::GetToleranceName();
 		if (bIsOperand && !Feed(Values[Index++], Call->FindPin(Parameter->GetFName(), EGPD_Input)))
 		{
 			Error = FString::Printf(TEXT("'%s' does not take what is given as %s"), *Part.Text, *Parameter->GetName());

@@ -37,8 +37,8 @@ FString NameOwner(const FMemberReference& Reference, UClass* SelfClass)
 void SayMissingMember(FCompilerResultsLog& MessageLog, const TCHAR* Kind, const FMemberReference& Reference, const UK2Node& Node)
 {
 	const FString Owner = NameOwner(Reference, Node.GetBlueprintClassFromNode());
-	MessageLog.Error(
-		TEXT("Could not find a @@ named \"@@\" in '@@'.\nMake sure '@@' has been compiled for @@"), Kind, Reference.GetMemberName(), Owner, Owner, &Node);
+	MessageLog.Error(TEXT("Could not find a @@ named \"@@\" in '@@'.\nMake sure '@@' has been compiled for @@"), Kind,
+		Reference.GetMemberName(), Owner, Owner, &Node);
 }
 
 /** The class of what a pin is given: of its link, or of the Blueprint itself where "self" is meant. Null while it is open. */
@@ -49,7 +49,8 @@ const UClass* GetGivenClass(const UEdGraphPin* Pin, const UK2Node& Node)
 	{
 		return nullptr;
 	}
-	return Linked->PinType.PinSubCategory == UEdGraphSchema_K2::PSC_Self ? Node.GetBlueprintClassFromNode() : Cast<UClass>(Linked->PinType.PinSubCategoryObject.Get());
+	return Linked->PinType.PinSubCategory == UEdGraphSchema_K2::PSC_Self ? Node.GetBlueprintClassFromNode()
+																		 : Cast<UClass>(Linked->PinType.PinSubCategoryObject.Get());
 }
 }
 
@@ -68,11 +69,13 @@ void UK2Node_CallFunction::ValidateNodeDuringCompilation(FCompilerResultsLog& Me
 	const UBlueprint* const OwnerBlueprint = Owner ? UBlueprint::GetBlueprintFromClass(Owner) : nullptr;
 	if (Function->HasAnyFunctionFlags(FUNC_Private) && OwnerBlueprint && OwnerBlueprint != GetBlueprint())
 	{
-		MessageLog.Error(TEXT("Function @@ is private and cannot be called outside of @@ by @@"), Function->GetDisplayNameText(), Owner, this);
+		MessageLog.Error(
+			TEXT("Function @@ is private and cannot be called outside of @@ by @@"), Function->GetDisplayNameText(), Owner, this);
 	}
 	else if (Function->HasAnyFunctionFlags(FUNC_Protected) && OwnerBlueprint && !bIsOwn)
 	{
-		MessageLog.Error(TEXT("Function @@ is protected and can only be called by @@ and its children, not by @@"), Function->GetDisplayNameText(), Owner, this);
+		MessageLog.Error(TEXT("Function @@ is protected and can only be called by @@ and its children, not by @@"),
+			Function->GetDisplayNameText(), Owner, this);
 	}
 	if (Function->HasMetaData(TEXT("DeprecatedFunction")))
 	{
@@ -157,15 +160,18 @@ void UK2Node_CreateDelegate::ValidateNodeDuringCompilation(FCompilerResultsLog& 
 	}
 	const UClass* const Scope = GetScopeClass();
 	const UFunction* const Function = Scope ? Scope->FindFunctionByName(SelectedFunctionName) : nullptr;
-	const UFunction* const Signature = FMemberReference::ResolveSimpleMemberReference<UFunction>(Out->PinType.PinSubCategoryMemberReference, GetBlueprintClassFromNode());
+	const UFunction* const Signature = FMemberReference::ResolveSimpleMemberReference<UFunction>(
+		Out->PinType.PinSubCategoryMemberReference, GetBlueprintClassFromNode());
 	if (!Function)
 	{
-		MessageLog.Error(TEXT("The function/event '@@' is not found in @@ - has it been renamed or removed? @@"), SelectedFunctionName, Scope, this);
+		MessageLog.Error(
+			TEXT("The function/event '@@' is not found in @@ - has it been renamed or removed? @@"), SelectedFunctionName, Scope, this);
 	}
 	else if (Signature && !Signature->IsSignatureCompatibleWith(Function))
 	{
 		MessageLog.Error(
-			TEXT("The function/event '@@' does not match the necessary signature - has the delegate or function/event changed? @@"), SelectedFunctionName, this);
+			TEXT("The function/event '@@' does not match the necessary signature - has the delegate or function/event changed? @@"),
+			SelectedFunctionName, this);
 	}
 }
 

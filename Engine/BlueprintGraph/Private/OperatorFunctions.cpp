@@ -8,8 +8,8 @@
 namespace
 {
 /** Libraries that hold the functions behind the operators. */
-const TCHAR* const OperatorLibraries[] = {TEXT("/Script/Engine.KismetMathLibrary"), TEXT("/Script/Engine.KismetStringLibrary"), TEXT("/Script/Engine.KismetTextLibrary"),
-	TEXT("/Script/Engine.KismetInputLibrary")};
+const TCHAR* const OperatorLibraries[] = {TEXT("/Script/Engine.KismetMathLibrary"), TEXT("/Script/Engine.KismetStringLibrary"),
+	TEXT("/Script/Engine.KismetTextLibrary"), TEXT("/Script/Engine.KismetInputLibrary")};
 }
 
 FName FOperatorFunctions::GetToleranceName()
@@ -93,7 +93,8 @@ TArray<FEdGraphPinType> FOperatorFunctions::GetTypes(const UFunction& Function, 
 		{
 			Result = Type;
 		}
-		else if (Parameter->GetFName() != GetToleranceName() && (!Parameter->HasAnyPropertyFlags(CPF_OutParm) || Parameter->HasAnyPropertyFlags(CPF_ReferenceParm)))
+		else if (Parameter->GetFName() != GetToleranceName() &&
+			(!Parameter->HasAnyPropertyFlags(CPF_OutParm) || Parameter->HasAnyPropertyFlags(CPF_ReferenceParm)))
 		{
 			Types.Add(Type);
 		}

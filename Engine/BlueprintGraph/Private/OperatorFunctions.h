@@ -14,7 +14,9 @@ struct FOperatorFunctions
 	static bool IsPromotable(const UFunction& Function);
 	/** The parameter of comparisons that is no operand. */
 	static FName GetToleranceName();
-	/** How far a value has to go to be of the parameter's type: 0 where it is, more for each step of promotion, negative where it cannot. */
+	/**
+	 * How far a value has to go to be of the parameter's type: 0 where it is, more for each step of promotion, negative where it cannot.
+	 */
 	static int32 CountPromotions(const FEdGraphPinType& Value, const FEdGraphPinType& Parameter);
 	/** The types of a function's operands, and of its result at the end. */
 	static TArray<FEdGraphPinType> GetTypes(const UFunction& Function, int32& OutOperands);

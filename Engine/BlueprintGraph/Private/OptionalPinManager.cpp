@@ -17,8 +17,8 @@ bool FOptionalPinManager::CanTreatPropertyAsOptional(FProperty* TestProperty) co
 	return TestProperty->HasAnyPropertyFlags(CPF_Edit | CPF_BlueprintVisible);
 }
 
-void FOptionalPinManager::PostInitNewPin(
-	UEdGraphPin* Pin, FOptionalPinFromProperty& Record, int32 ArrayIndex, FProperty* Property, uint8* PropertyAddress, uint8* DefaultPropertyAddress) const
+void FOptionalPinManager::PostInitNewPin(UEdGraphPin* Pin, FOptionalPinFromProperty& Record, int32 ArrayIndex, FProperty* Property,
+	uint8* PropertyAddress, uint8* DefaultPropertyAddress) const
 {
 	const UEdGraphSchema_K2* const Schema = GetDefault<UEdGraphSchema_K2>();
 	if (!DefaultPropertyAddress || Pin->PinType.IsContainer())
@@ -47,8 +47,12 @@ void FOptionalPinManager::RebuildPropertyList(TArray<FOptionalPinFromProperty>& 
 		Record.CategoryName = FName(*Property->GetMetaData(TEXT("Category")));
 		Record.bIsMarkedForAdvancedDisplay = Property->HasAnyPropertyFlags(CPF_AdvancedDisplay);
 		GetRecordDefaults(*Property, Record);
-		if (const FOptionalPinFromProperty* const Known = Old.FindByPredicate([&Record](const FOptionalPinFromProperty& Item)
-				{ return Item.PropertyName == Record.PropertyName || UUserDefinedStruct::IsSameMember(Item.PropertyName, Record.PropertyName); }))
+		if (const FOptionalPinFromProperty* const Known = Old.FindByPredicate(
+				[&Record](const FOptionalPinFromProperty& Item)
+				{
+					return Item.PropertyName == Record.PropertyName ||
+						UUserDefinedStruct::IsSameMember(Item.PropertyName, Record.PropertyName);
+				}))
 		{
 			Record.bShowPin = Known->bShowPin;
 			Record.bIsOverrideEnabled = Known->bIsOverrideEnabled;
@@ -59,8 +63,8 @@ void FOptionalPinManager::RebuildPropertyList(TArray<FOptionalPinFromProperty>& 
 	}
 }
 
-void FOptionalPinManager::CreateVisiblePins(
-	TArray<FOptionalPinFromProperty>& Properties, UStruct* SourceStruct, EEdGraphPinDirection Direction, UK2Node* TargetNode, uint8* StructBasePtr, uint8* DefaultsPtr)
+void FOptionalPinManager::CreateVisiblePins(TArray<FOptionalPinFromProperty>& Properties, UStruct* SourceStruct,
+	EEdGraphPinDirection Direction, UK2Node* TargetNode, uint8* StructBasePtr, uint8* DefaultsPtr)
 {
 	const UEdGraphSchema_K2* const Schema = GetDefault<UEdGraphSchema_K2>();
 	for (FOptionalPinFromProperty& Record : Properties)
@@ -73,7 +77,8 @@ void FOptionalPinManager::CreateVisiblePins(
 		}
 		UEdGraphPin* const Pin = TargetNode->CreatePin(Direction, Type, Record.PropertyName);
 		Pin->PersistentGuid = UUserDefinedStruct::GetMemberGuid(Record.PropertyName);
-		Pin->PinFriendlyName = FText::FromString(Record.PropertyFriendlyName.IsEmpty() ? Record.PropertyName.ToString() : Record.PropertyFriendlyName);
+		Pin->PinFriendlyName = FText::FromString(
+			Record.PropertyFriendlyName.IsEmpty() ? Record.PropertyName.ToString() : Record.PropertyFriendlyName);
 		Pin->bAdvancedView = Record.bIsMarkedForAdvancedDisplay;
 		UK2Node::GeneratePinTooltip(*Pin, Property->GetToolTipText());
 		CustomizePinData(Pin, Record.PropertyName, INDEX_NONE, Property);

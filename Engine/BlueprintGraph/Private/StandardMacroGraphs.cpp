@@ -35,7 +35,10 @@ public:
 	bool HasFailed() const { return bFailed; }
 
 	/** A pin of a call; null for a function that is not declared. */
-	static UEdGraphPin* Parameter(const UK2Node_CallFunction* Call, const TCHAR* Name) { return Call ? Call->FindPin(FName(Name)) : nullptr; }
+	static UEdGraphPin* Parameter(const UK2Node_CallFunction* Call, const TCHAR* Name)
+	{
+		return Call ? Call->FindPin(FName(Name)) : nullptr;
+	}
 	static UEdGraphPin* Result(const UK2Node_CallFunction* Call) { return Call ? Call->GetReturnValuePin() : nullptr; }
 
 	void Link(UEdGraphPin* From, UEdGraphPin* To)
@@ -43,7 +46,8 @@ public:
 		if (!From || !To || !GetDefault<UEdGraphSchema_K2>()->TryCreateConnection(From, To))
 		{
 			bFailed = true;
-			UE_LOG(LogStandardMacros, Error, TEXT("%s: %s does not go into %s"), *Graph.GetName(), From ? *From->GetName() : TEXT("nothing"), To ? *To->GetName() : TEXT("nothing"));
+			UE_LOG(LogStandardMacros, Error, TEXT("%s: %s does not go into %s"), *Graph.GetName(),
+				From ? *From->GetName() : TEXT("nothing"), To ? *To->GetName() : TEXT("nothing"));
 		}
 	}
 
@@ -110,7 +114,10 @@ public:
 	}
 
 	/** The number and one more, or one less: the second operand of these functions is 1 unless it is linked. */
-	UEdGraphPin* Next(UEdGraphPin* Number, const bool bDown = false) { return Math(bDown ? TEXT("Subtract_IntInt") : TEXT("Add_IntInt"), Number); }
+	UEdGraphPin* Next(UEdGraphPin* Number, const bool bDown = false)
+	{
+		return Math(bDown ? TEXT("Subtract_IntInt") : TEXT("Add_IntInt"), Number);
+	}
 
 	void Finish()
 	{
@@ -184,7 +191,8 @@ void WireArrayLoop(FMacroWiring& Macro, const bool bReverse, const bool bHasBrea
 	Macro.Link(Macro.In(TEXT("Array")), Macro.Parameter(Length, TEXT("TargetArray")));
 	UEdGraphPin* const Count = Macro.Result(Length);
 	UK2Node_AssignmentStatement* const Start = bReverse ? Macro.Assign(Counter, Macro.Next(Count, true)) : Macro.Assign(Counter, TEXT("0"));
-	UK2Node_IfThenElse* const Test = Macro.Branch(bReverse ? Macro.Math(TEXT("GreaterEqual_IntInt"), Counter) : Macro.Math(TEXT("Less_IntInt"), Counter, Count));
+	UK2Node_IfThenElse* const Test = Macro.Branch(
+		bReverse ? Macro.Math(TEXT("GreaterEqual_IntInt"), Counter) : Macro.Math(TEXT("Less_IntInt"), Counter, Count));
 	UK2Node_AssignmentStatement* const Show = Macro.Assign(Index, Counter);
 	Macro.Link(Macro.In(TEXT("Exec")), Start->GetExecPin());
 	Macro.Link(Start->GetThenPin(), Test->GetExecPin());
@@ -202,7 +210,8 @@ void WireArrayLoop(FMacroWiring& Macro, const bool bReverse, const bool bHasBrea
 }
 
 /** A barrier that takes its first state from an input when it is first met. Where execution gets through. */
-UEdGraphPin* WireBarrier(FMacroWiring& Macro, UEdGraphPin* Execute, UEdGraphPin* StartClosed, UEdGraphPin* IsClosed, UEdGraphPin* IsInitialized)
+UEdGraphPin* WireBarrier(
+	FMacroWiring& Macro, UEdGraphPin* Execute, UEdGraphPin* StartClosed, UEdGraphPin* IsClosed, UEdGraphPin* IsInitialized)
 {
 	UK2Node_IfThenElse* const First = Macro.Branch(IsInitialized);
 	UK2Node_AssignmentStatement* const Initialize = Macro.Assign(IsInitialized, TEXT("true"));
@@ -316,10 +325,15 @@ bool WireStandardMacro(UEdGraph& Graph)
 		{TEXT("FlipFlop"), WireFlipFlop},
 		{TEXT("Gate"), WireGate},
 		{TEXT("IsValid"), WireIsValid},
-		{TEXT("Switch Has Authority"), [](FMacroWiring& Macro)
+		{TEXT("Switch Has Authority"),
+			[](FMacroWiring& Macro)
 			{ WireCheck(Macro, Macro.Call(TEXT("/Script/Engine.Actor"), TEXT("HasAuthority")), TEXT("Authority"), TEXT("Remote")); }},
-		{TEXT("Can Execute Cosmetic Events"), [](FMacroWiring& Macro)
-			{ WireCheck(Macro, Macro.Call(TEXT("/Script/Engine.KismetSystemLibrary"), TEXT("IsDedicatedServer")), TEXT("False"), TEXT("True")); }},
+		{TEXT("Can Execute Cosmetic Events"),
+			[](FMacroWiring& Macro)
+			{
+				WireCheck(
+					Macro, Macro.Call(TEXT("/Script/Engine.KismetSystemLibrary"), TEXT("IsDedicatedServer")), TEXT("False"), TEXT("True"));
+			}},
 	};
 	const FWire* const Wire = WireOfMacro.Find(Graph.GetFName());
 	if (!Wire)

@@ -61,16 +61,21 @@ const TArray<FMacro>& GetMacros()
 		{TEXT("LoopBody")}, {TEXT("Array Element"), EType::Wildcard}, {TEXT("Array Index"), EType::Integer}, {TEXT("Completed")}};
 	static const TArray<FMacroPin> IndexLoopOutputs = {{TEXT("LoopBody")}, {TEXT("Index"), EType::Integer}, {TEXT("Completed")}};
 	static const TArray<FMacro> Macros = {
-		{TEXT("ForEachLoop"), TEXT("99DBFD5540A796041F72A5A9DA655026"), ArrayCategory, TEXT("Executes the loop body once for each element of the array"), TEXT("for each array loop"),
+		{TEXT("ForEachLoop"), TEXT("99DBFD5540A796041F72A5A9DA655026"), ArrayCategory,
+			TEXT("Executes the loop body once for each element of the array"), TEXT("for each array loop"),
 			{{TEXT("Exec")}, {TEXT("Array"), EType::WildcardArray}}, ArrayLoopOutputs},
-		{TEXT("ForEachLoopWithBreak"), nullptr, ArrayCategory, TEXT("Executes the loop body for each element of the array, until it is broken off"), TEXT("for each array loop break"),
+		{TEXT("ForEachLoopWithBreak"), nullptr, ArrayCategory,
+			TEXT("Executes the loop body for each element of the array, until it is broken off"), TEXT("for each array loop break"),
 			{{TEXT("Exec")}, {TEXT("Array"), EType::WildcardArray}, {TEXT("Break")}}, ArrayLoopOutputs},
-		{TEXT("ReverseForEachLoop"), nullptr, ArrayCategory, TEXT("Executes the loop body once for each element of the array, the last one first"), TEXT("for each array loop reverse"),
+		{TEXT("ReverseForEachLoop"), nullptr, ArrayCategory,
+			TEXT("Executes the loop body once for each element of the array, the last one first"), TEXT("for each array loop reverse"),
 			{{TEXT("Exec")}, {TEXT("Array"), EType::WildcardArray}}, ArrayLoopOutputs},
 		{TEXT("ForLoop"), nullptr, FlowControl, TEXT("Executes the loop body for each index from the first to the last"), TEXT("for loop"),
 			{{TEXT("execute")}, {TEXT("FirstIndex"), EType::Integer}, {TEXT("LastIndex"), EType::Integer}}, IndexLoopOutputs},
-		{TEXT("ForLoopWithBreak"), nullptr, FlowControl, TEXT("Executes the loop body for each index from the first to the last, until it is broken off"), TEXT("for loop break"),
-			{{TEXT("execute")}, {TEXT("FirstIndex"), EType::Integer}, {TEXT("LastIndex"), EType::Integer}, {TEXT("Break")}}, IndexLoopOutputs},
+		{TEXT("ForLoopWithBreak"), nullptr, FlowControl,
+			TEXT("Executes the loop body for each index from the first to the last, until it is broken off"), TEXT("for loop break"),
+			{{TEXT("execute")}, {TEXT("FirstIndex"), EType::Integer}, {TEXT("LastIndex"), EType::Integer}, {TEXT("Break")}},
+			IndexLoopOutputs},
 		{TEXT("WhileLoop"), nullptr, FlowControl, TEXT("Executes the loop body as long as the condition holds"), TEXT("while loop"),
 			{{TEXT("execute")}, {TEXT("Condition"), EType::Boolean}}, {{TEXT("LoopBody")}, {TEXT("Completed")}}},
 		{TEXT("DoOnce"), nullptr, FlowControl, TEXT("Goes on the first time alone, until it is reset"), TEXT("once"),
@@ -81,12 +86,13 @@ const TArray<FMacro>& GetMacros()
 			{{nullptr}}, {{TEXT("A")}, {TEXT("B")}, {TEXT("IsA"), EType::Boolean}}},
 		{TEXT("Gate"), nullptr, FlowControl, TEXT("Goes on while it is open"), TEXT("gate open close"),
 			{{TEXT("Enter")}, {TEXT("Open")}, {TEXT("Close")}, {TEXT("Toggle")}, {TEXT("bStartClosed"), EType::Boolean}}, {{TEXT("Exit")}}},
-		{TEXT("IsValid"), TEXT("64422BCD430703FF5CAEA8B79A32AA65"), TEXT("Utilities"), TEXT("Goes on by whether the object exists and is not about to be destroyed"), TEXT("valid null none"),
+		{TEXT("IsValid"), TEXT("64422BCD430703FF5CAEA8B79A32AA65"), TEXT("Utilities"),
+			TEXT("Goes on by whether the object exists and is not about to be destroyed"), TEXT("valid null none"),
 			{{TEXT("exec")}, {TEXT("InputObject"), EType::Object}}, {{TEXT("Is Valid")}, {TEXT("Is Not Valid")}}},
-		{TEXT("Switch Has Authority"), nullptr, TEXT("Networking"), TEXT("Goes on by whether this instance has authority over the actor"), TEXT("server client authority"),
-			{{TEXT("execute")}}, {{TEXT("Authority")}, {TEXT("Remote")}}, ActorLibrary},
-		{TEXT("Can Execute Cosmetic Events"), nullptr, TEXT("Networking"), TEXT("Goes on by whether there is anybody to see and hear"), TEXT("cosmetic dedicated server"),
-			{{TEXT("execute")}}, {{TEXT("True")}, {TEXT("False")}}, ActorLibrary},
+		{TEXT("Switch Has Authority"), nullptr, TEXT("Networking"), TEXT("Goes on by whether this instance has authority over the actor"),
+			TEXT("server client authority"), {{TEXT("execute")}}, {{TEXT("Authority")}, {TEXT("Remote")}}, ActorLibrary},
+		{TEXT("Can Execute Cosmetic Events"), nullptr, TEXT("Networking"), TEXT("Goes on by whether there is anybody to see and hear"),
+			TEXT("cosmetic dedicated server"), {{TEXT("execute")}}, {{TEXT("True")}, {TEXT("False")}}, ActorLibrary},
 	};
 	return Macros;
 }
@@ -94,7 +100,8 @@ const TArray<FMacro>& GetMacros()
 FEdGraphPinType MakePinType(const EMacroPinType Type)
 {
 	using Schema = UEdGraphSchema_K2;
-	static const FName Categories[] = {Schema::PC_Exec, Schema::PC_Boolean, Schema::PC_Int, Schema::PC_Object, Schema::PC_Wildcard, Schema::PC_Wildcard};
+	static const FName Categories[] = {
+		Schema::PC_Exec, Schema::PC_Boolean, Schema::PC_Int, Schema::PC_Object, Schema::PC_Wildcard, Schema::PC_Wildcard};
 	FEdGraphPinType PinType;
 	PinType.PinCategory = Categories[static_cast<uint8>(Type)];
 	PinType.PinSubCategoryObject = Type == EMacroPinType::Object ? UObject::StaticClass() : nullptr;
@@ -181,9 +188,11 @@ UEdGraph* FStandardMacros::Find(FName MacroName)
 	for (const TCHAR* const Name : {AnyLibrary, ActorLibrary})
 	{
 		const UBlueprint* const Library = FindLibrary(Name);
-		const TObjectPtr<UEdGraph>* const Graph = Library ? Library->MacroGraphs.FindByPredicate([MacroName](const TObjectPtr<UEdGraph>& Item)
-																{ return Item && Item->GetFName() == MacroName; })
-														  : nullptr;
+		const TObjectPtr<UEdGraph>* const Graph = Library
+			? Library->MacroGraphs.FindByPredicate(
+				  [MacroName](const TObjectPtr<UEdGraph>& Item)
+				  { return Item && Item->GetFName() == MacroName; })
+			: nullptr;
 		if (Graph)
 		{
 			return Graph->Get();

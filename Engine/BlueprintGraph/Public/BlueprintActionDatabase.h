@@ -9,7 +9,8 @@ class UBlueprintNodeSpawner;
 class UClass;
 
 /**
- * Every action that a Blueprint graph's menu could offer, by the class or asset that it is about. Built from reflection when it is first asked
+ * Every action that a Blueprint graph's menu could offer, by the class or asset that it is about. Built from reflection when it is first
+ * asked
  * for; a Blueprint that changed is looked at again at the next question. Game thread.
  */
 class BLUEPRINTGRAPH_API FBlueprintActionDatabase : public FGCObject

@@ -13,7 +13,8 @@ class BLUEPRINTGRAPH_API UBlueprintBoundEventNodeSpawner : public UBlueprintEven
 	GENERATED_BODY()
 
 public:
-	static UBlueprintBoundEventNodeSpawner* Create(TSubclassOf<UK2Node_Event> NodeClass, FMulticastDelegateProperty* EventDelegate, UObject* Outer = nullptr);
+	static UBlueprintBoundEventNodeSpawner* Create(
+		TSubclassOf<UK2Node_Event> NodeClass, FMulticastDelegateProperty* EventDelegate, UObject* Outer = nullptr);
 
 	virtual FBlueprintNodeSignature GetSpawnerSignature() const override;
 	virtual UEdGraphNode* Invoke(UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D const Location) const override;

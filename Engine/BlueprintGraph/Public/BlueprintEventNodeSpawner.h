@@ -6,7 +6,10 @@
 
 class UK2Node_Event;
 
-/** Places an event: one that overrides a function, or one of the Blueprint's own. An override that stands in the Blueprint already is answered as it is. */
+/**
+ * Places an event: one that overrides a function, or one of the Blueprint's own. An override that stands in the Blueprint already is
+ * answered as it is.
+ */
 UCLASS(Transient)
 class BLUEPRINTGRAPH_API UBlueprintEventNodeSpawner : public UBlueprintFieldNodeSpawner
 {

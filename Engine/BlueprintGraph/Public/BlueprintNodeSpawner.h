@@ -23,7 +23,8 @@ struct FBlueprintActionUiSpec
 };
 
 /**
- * One action: it makes a node of one class that is about one thing. An action is cheap until its template is asked for: a node outside every
+ * One action: it makes a node of one class that is about one thing. An action is cheap until its template is asked for: a node outside
+ * every
  * Blueprint, from which all that a menu or a search says of the action is taken. Game thread.
  */
 UCLASS(Transient)
@@ -40,8 +41,8 @@ public:
 
 	FCustomizeNodeDelegate CustomizeNodeDelegate;
 
-	static UBlueprintNodeSpawner* Create(
-		TSubclassOf<UEdGraphNode> const NodeClass, UObject* Outer = nullptr, FCustomizeNodeDelegate PostSpawnDelegate = FCustomizeNodeDelegate());
+	static UBlueprintNodeSpawner* Create(TSubclassOf<UEdGraphNode> const NodeClass, UObject* Outer = nullptr,
+		FCustomizeNodeDelegate PostSpawnDelegate = FCustomizeNodeDelegate());
 	template <class NodeType>
 	static UBlueprintNodeSpawner* Create(UObject* Outer = nullptr, FCustomizeNodeDelegate PostSpawnDelegate = FCustomizeNodeDelegate())
 	{
@@ -52,7 +53,8 @@ public:
 	/** Taken from the template, which it makes. */
 	const FBlueprintActionUiSpec& PrimeDefaultUiSpec(UEdGraph* TargetGraph = nullptr) const;
 	/**
-	 * Makes the node in the graph, bound to what the bindings name. Null when it cannot be there. Some actions answer a node that stands in the
+	 * Makes the node in the graph, bound to what the bindings name. Null when it cannot be there. Some actions answer a node that stands
+	 * in the
 	 * Blueprint already: an event is there once.
 	 */
 	virtual UEdGraphNode* Invoke(UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D const Location) const;
@@ -66,12 +68,13 @@ public:
 
 protected:
 	template <class NodeType>
-	NodeType* SpawnNode(UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D const Location, FCustomizeNodeDelegate PostSpawnDelegate) const
+	NodeType* SpawnNode(
+		UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D const Location, FCustomizeNodeDelegate PostSpawnDelegate) const
 	{
 		return Cast<NodeType>(SpawnEdGraphNode(NodeClass, ParentGraph, Bindings, Location, PostSpawnDelegate));
 	}
-	UEdGraphNode* SpawnEdGraphNode(
-		TSubclassOf<UEdGraphNode> const InNodeClass, UEdGraph* ParentGraph, FBindingSet const& Bindings, FVector2D Location, FCustomizeNodeDelegate PostSpawnDelegate) const;
+	UEdGraphNode* SpawnEdGraphNode(TSubclassOf<UEdGraphNode> const InNodeClass, UEdGraph* ParentGraph, FBindingSet const& Bindings,
+		FVector2D Location, FCustomizeNodeDelegate PostSpawnDelegate) const;
 	/** True when the graph holds templates. */
 	static bool IsTemplateGraph(const UEdGraph* Graph);
 

@@ -15,8 +15,8 @@ class BLUEPRINTGRAPH_API UBlueprintVariableNodeSpawner : public UBlueprintFieldN
 
 public:
 	/** VarContext is the function's graph when the property is a parameter or a local variable of it. */
-	static UBlueprintVariableNodeSpawner* CreateFromMemberOrParam(
-		TSubclassOf<UK2Node_Variable> NodeClass, FProperty const* VarProperty, UEdGraph* VarContext = nullptr, UClass* OwnerClass = nullptr);
+	static UBlueprintVariableNodeSpawner* CreateFromMemberOrParam(TSubclassOf<UK2Node_Variable> NodeClass, FProperty const* VarProperty,
+		UEdGraph* VarContext = nullptr, UClass* OwnerClass = nullptr);
 	static UBlueprintVariableNodeSpawner* CreateFromLocal(TSubclassOf<UK2Node_Variable> NodeClass, UEdGraph* VarContext,
 		FBPVariableDescription const& VarDesc, FProperty* VarProperty, UObject* Outer = nullptr);
 

@@ -74,13 +74,14 @@ struct BLUEPRINTGRAPH_API FOptionalPinManager
 	virtual void GetRecordDefaults(FProperty* TestProperty, FOptionalPinFromProperty& Record) const;
 	virtual bool CanTreatPropertyAsOptional(FProperty* TestProperty) const;
 	virtual void CustomizePinData(UEdGraphPin* Pin, FName SourcePropertyName, int32 ArrayIndex, FProperty* Property) const {}
-	virtual void PostInitNewPin(UEdGraphPin* Pin, FOptionalPinFromProperty& Record, int32 ArrayIndex, FProperty* Property, uint8* PropertyAddress, uint8* DefaultPropertyAddress) const;
+	virtual void PostInitNewPin(UEdGraphPin* Pin, FOptionalPinFromProperty& Record, int32 ArrayIndex, FProperty* Property,
+		uint8* PropertyAddress, uint8* DefaultPropertyAddress) const;
 
 	/** Lists the struct's members, keeping what the user chose of those that it listed before. */
 	void RebuildPropertyList(TArray<FOptionalPinFromProperty>& Properties, UStruct* SourceStruct);
 	/** StructBasePtr and DefaultsPtr are values of the struct whose members become the pins' values and defaults; each may be null. */
-	void CreateVisiblePins(
-		TArray<FOptionalPinFromProperty>& Properties, UStruct* SourceStruct, EEdGraphPinDirection Direction, class UK2Node* TargetNode, uint8* StructBasePtr = nullptr, uint8* DefaultsPtr = nullptr);
+	void CreateVisiblePins(TArray<FOptionalPinFromProperty>& Properties, UStruct* SourceStruct, EEdGraphPinDirection Direction,
+		class UK2Node* TargetNode, uint8* StructBasePtr = nullptr, uint8* DefaultsPtr = nullptr);
 };
 
 /** A node of a Blueprint graph. */
@@ -128,7 +129,8 @@ public:
 	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin);
 	/** Former names under which a pin's links are still found. */
 	virtual void GetRedirectPinNames(const UEdGraphPin& Pin, TArray<FString>& RedirectPinNames) const {}
-	virtual ERedirectType DoPinsMatchForReconstruction(const UEdGraphPin* NewPin, int32 NewPinIndex, const UEdGraphPin* OldPin, int32 OldPinIndex) const;
+	virtual ERedirectType DoPinsMatchForReconstruction(
+		const UEdGraphPin* NewPin, int32 NewPinIndex, const UEdGraphPin* OldPin, int32 OldPinIndex) const;
 	/** A node may refuse a link that the schema would allow, with its reason. */
 	virtual bool IsConnectionDisallowed(const UEdGraphPin* MyPin, const UEdGraphPin* OtherPin, FString& OutReason) const { return false; }
 	/**
@@ -166,7 +168,8 @@ protected:
 	UEdGraphPin* CreateThenPin() { return CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Exec, UEdGraphSchema_K2::PN_Then); }
 	/** A pin that starts with the default of its type. */
 	UEdGraphPin* CreatePinWithDefault(EEdGraphPinDirection PinDirection, const FEdGraphPinType& Type, FName Name);
-	UEdGraphPin* CreatePinWithDefault(EEdGraphPinDirection PinDirection, FName Category, FName Name, FName SubCategory = NAME_None, UObject* SubCategoryObject = nullptr);
+	UEdGraphPin* CreatePinWithDefault(
+		EEdGraphPinDirection PinDirection, FName Category, FName Name, FName SubCategory = NAME_None, UObject* SubCategoryObject = nullptr);
 	/** The "Target" pin of a member of Class: "self" when the class is the Blueprint's own. */
 	UEdGraphPin* CreateTargetPin(UClass* Class);
 
@@ -192,10 +195,12 @@ protected:
 
 	/** The pin of before a reconstruction that has the name and the side; null when there was none. */
 	static UEdGraphPin* FindOldPin(const TArray<UEdGraphPin*>& OldPins, FName Name, EEdGraphPinDirection Direction);
-	/** Gives wildcard pins the types, and the defaults of those types, that they had before a reconstruction. A declared container stays. */
+	/**
+	 * Gives wildcard pins the types, and the defaults of those types, that they had before a reconstruction. A declared container stays.
+	 */
 	void KeepResolvedWildcards(const TArray<UEdGraphPin*>& OldPins);
-	/** Gives the pin values of another type; whether it is a container, a reference or constant stays its own. */
-	static void SetValueType(UEdGraphPin& Pin, const FEdGraphPinType& Type);
+	/** The type with values of another one; whether it is a container, a reference or constant stays its own. */
+	static FEdGraphPinType WithValueType(const FEdGraphPinType& Own, const FEdGraphPinType& Type);
 	/** Gives pins that share one type the type of the first link among them, or makes them wildcards when none is linked. */
 	void FollowLinkedType(const TArray<UEdGraphPin*>& SharedPins, bool bFollowContainer = false);
 	/** As FollowLinkedType, for a map, its keys and its values; pins that are null are passed over. */

@@ -39,7 +39,11 @@ public:
 	/** Refers to the function and takes its purity. */
 	virtual void SetFromFunction(const UFunction* Function);
 	/** Null when the function is not known. */
-	UFunction* GetTargetFunction() const { return FunctionReference.GetMemberName().IsNone() ? nullptr : FunctionReference.ResolveMember<UFunction>(GetBlueprintClassFromNode()); }
+	UFunction* GetTargetFunction() const
+	{
+		return FunctionReference.GetMemberName().IsNone() ? nullptr
+														  : FunctionReference.ResolveMember<UFunction>(GetBlueprintClassFromNode());
+	}
 	FName GetFunctionName() const { return FunctionReference.GetMemberName(); }
 	UEdGraphPin* GetReturnValuePin() const { return FindPin(UEdGraphSchema_K2::PN_ReturnValue, EGPD_Output); }
 	/** An array of targets may be linked to "self": the call is made on each. */

@@ -23,7 +23,8 @@ public:
 	UPROPERTY()
 	FName ComponentPropertyName;
 
-	void InitializeComponentBoundEventParams(const FObjectProperty* InComponentProperty, const FMulticastDelegateProperty* InDelegateProperty);
+	void InitializeComponentBoundEventParams(
+		const FObjectProperty* InComponentProperty, const FMulticastDelegateProperty* InDelegateProperty);
 	FMulticastDelegateProperty* GetTargetDelegateProperty() const { return FindDispatcher(DelegateOwnerClass, DelegatePropertyName); }
 	FText GetTargetDelegateDisplayName() const { return GetDispatcherName(DelegateOwnerClass, DelegatePropertyName); }
 	FName GetComponentPropertyName() const { return ComponentPropertyName; }

@@ -23,7 +23,10 @@ public:
 	virtual bool DrawNodeAsExit() const override { return false; }
 	virtual bool CanUserDeleteNode() const override { return true; }
 	virtual bool CanDuplicateNode() const override { return true; }
-	virtual TArray<UEdGraph*> GetSubGraphs() const override { return BoundGraph ? TArray<UEdGraph*>({BoundGraph.Get()}) : TArray<UEdGraph*>(); }
+	virtual TArray<UEdGraph*> GetSubGraphs() const override
+	{
+		return BoundGraph ? TArray<UEdGraph*>({BoundGraph.Get()}) : TArray<UEdGraph*>();
+	}
 	virtual UObject* GetJumpTargetForDoubleClick() const override { return BoundGraph; }
 	virtual void AllocateDefaultPins() override;
 	virtual bool HasKnownDefinition() const override;
@@ -34,6 +37,7 @@ public:
 	virtual void OnRenameNode(const FString& NewName) override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetTooltipText() const override;
+	virtual UEdGraph* GetExpansion() const override { return BoundGraph; }
 
 private:
 	void NameBoundGraph(const FString& WantedName);

@@ -23,11 +23,13 @@ public:
 	UK2Node_CustomEvent(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
 	/** Makes an event of the name, or one close to it, with the function's parameters, and puts it into the graph. */
-	static UK2Node_CustomEvent* CreateFromFunction(FVector2D GraphPosition, UEdGraph* ParentGraph, const FString& Name, const UFunction* Function, bool bSelectNewNode = true);
+	static UK2Node_CustomEvent* CreateFromFunction(
+		FVector2D GraphPosition, UEdGraph* ParentGraph, const FString& Name, const UFunction* Function, bool bSelectNewNode = true);
 	virtual bool IsEditable() const override;
 	/** True for an event that overrides one that a parent Blueprint declares. */
 	bool IsOverride() const { return bOverrideFunction; }
-	virtual bool CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage) override;
+	virtual bool CanCreateUserDefinedPin(
+		const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage) override;
 	void RenameCustomEventCloseToName(int32 StartIndex = 1);
 	virtual void OnRenameNode(const FString& NewName) override;
 	virtual void PostPasteNode() override;

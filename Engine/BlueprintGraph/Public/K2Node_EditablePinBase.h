@@ -44,7 +44,8 @@ public:
 	/** False, with the reason, when the node cannot have a pin of the type. */
 	virtual bool CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage);
 	/** Adds the pin to the definition and to the node; the name gets a number when it is in use. Null when the node has no such pins. */
-	UEdGraphPin* CreateUserDefinedPin(const FName InPinName, const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, bool bUseUniqueName = true);
+	UEdGraphPin* CreateUserDefinedPin(
+		const FName InPinName, const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, bool bUseUniqueName = true);
 	void RemoveUserDefinedPin(TSharedPtr<FUserPinInfo> PinToRemove);
 	void RemoveUserDefinedPinByName(const FName PinName);
 	/** Renames the definition with the pin; the callers of a function have pins of their own to rename. */

@@ -46,6 +46,9 @@ public:
 	virtual bool IsNodeRootSet() const override { return true; }
 	virtual bool NodeCausesStructuralBlueprintChange() const override { return true; }
 	virtual bool IsCompatibleWithGraph(const UEdGraph* TargetGraph) const override;
+	/** Each event of a parent or an interface once in a Blueprint; one that the editor placed as a suggestion gives way. */
+	virtual bool CanPasteHere(const UEdGraph* TargetGraph) const override;
+	virtual void PostPasteNode() override;
 	virtual FName GetCornerIcon() const override;
 	virtual void AllocateDefaultPins() override;
 	virtual bool HasKnownDefinition() const override;

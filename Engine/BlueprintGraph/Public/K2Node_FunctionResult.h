@@ -12,7 +12,8 @@ class BLUEPRINTGRAPH_API UK2Node_FunctionResult : public UK2Node_FunctionTermina
 
 public:
 	virtual bool DrawNodeAsExit() const override { return true; }
-	virtual bool CanCreateUserDefinedPin(const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage) override;
+	virtual bool CanCreateUserDefinedPin(
+		const FEdGraphPinType& InPinType, EEdGraphPinDirection InDesiredDirection, FText& OutErrorMessage) override;
 	/** A further return node takes the pins of the graph's first one. */
 	virtual void PostPlacedNewNode() override;
 	virtual void AllocateDefaultPins() override;

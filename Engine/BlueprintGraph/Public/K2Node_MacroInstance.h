@@ -27,6 +27,12 @@ public:
 	virtual bool DrawNodeAsExit() const override { return false; }
 	virtual bool CanUserDeleteNode() const override { return true; }
 	virtual bool CanDuplicateNode() const override { return true; }
+	/** Not in the macro itself. */
+	virtual bool CanPasteHere(const UEdGraph* TargetGraph) const override;
+	/** A macro of another Blueprint that is no library cannot be used: the copy has none, whatever bears its name here. */
+	virtual void PostPasteNode() override;
+	/** A macro is for its own Blueprint and the children of it; a library's is for everyone of the library's parent class. */
+	static bool CanUseMacroOf(const UBlueprint& Source, const UBlueprint& User);
 	virtual bool IsNodePure() const override;
 	virtual FText GetCompactNodeTitle() const override;
 	virtual bool ShouldDrawCompact() const override;
@@ -39,12 +45,15 @@ public:
 	virtual FText GetTooltipText() const override;
 	virtual FText GetKeywords() const override;
 	virtual FText GetMenuCategory() const override;
+	virtual UEdGraph* GetExpansion() const override { return GetMacroGraph(); }
+
+protected:
+	virtual FEdGraphPinType GetOuterType(const UEdGraphPin& Inner) const override;
 
 private:
 	UPROPERTY()
 	FGraphReference MacroGraphReference;
 
-	void ApplyWildcardType();
 	/** The pins that the macro leaves open. */
 	TArray<UEdGraphPin*> GetWildcardPins() const;
 };

@@ -4,7 +4,8 @@
 
 FText UEdGraphNode_Documentation::GetNodeTitle(ENodeTitleType::Type TitleType) const
 {
-	return TitleType == ENodeTitleType::MenuTitle || Excerpt.IsEmpty() ? LOCTEXT("Documentation_Block_Title", "UDN Documentation Excerpt") : FText::FromString(Excerpt);
+	return TitleType == ENodeTitleType::MenuTitle || Excerpt.IsEmpty() ? LOCTEXT("Documentation_Block_Title", "UDN Documentation Excerpt")
+																	   : FText::FromString(Excerpt);
 }
 
 FText UEdGraphNode_Documentation::GetTooltipText() const

@@ -98,7 +98,8 @@ void FEdGraphUtilities::PostProcessPastedNodes(TSet<UEdGraphNode*>& SpawnedNodes
 UEdGraph* FEdGraphUtilities::CloneGraph(UEdGraph* InSource, UObject* NewOuter)
 {
 	UObject* const Outer = NewOuter ? NewOuter : GetTransientPackageAsObject();
-	UEdGraph* const Clone = DuplicateObject<UEdGraph>(InSource, Outer, MakeUniqueObjectName(Outer, InSource->GetClass(), InSource->GetFName()));
+	UEdGraph* const Clone = DuplicateObject<UEdGraph>(
+		InSource, Outer, MakeUniqueObjectName(Outer, InSource->GetClass(), InSource->GetFName()));
 	UEdGraphPin::ResolveAllPinReferences();
 	return Clone;
 }

@@ -112,7 +112,8 @@ UObject* UEditorAssetLibrary::LoadAsset(const FString& AssetPath)
 	UObject* const Asset = ObjectPath.IsEmpty() ? nullptr : LoadObject<UObject>(nullptr, *ObjectPath, nullptr, LOAD_NoWarn | LOAD_Quiet);
 	if (!Asset)
 	{
-		UE_LOG(LogEditorAssetLibrary, Error, TEXT("LoadAsset failed: The AssetData '%s' could not be found in the Asset Registry."), *AssetPath);
+		UE_LOG(LogEditorAssetLibrary, Error, TEXT("LoadAsset failed: The AssetData '%s' could not be found in the Asset Registry."),
+			*AssetPath);
 	}
 	return Asset;
 }
@@ -120,7 +121,8 @@ UObject* UEditorAssetLibrary::LoadAsset(const FString& AssetPath)
 bool UEditorAssetLibrary::DoesAssetExist(const FString& AssetPath)
 {
 	const FString ObjectPath = GetObjectPath(AssetPath);
-	return !ObjectPath.IsEmpty() && (FindObject<UObject>(nullptr, *ObjectPath) || FPackageName::DoesPackageExist(FPackageName::ObjectPathToPackageName(ObjectPath)));
+	return !ObjectPath.IsEmpty() &&
+		(FindObject<UObject>(nullptr, *ObjectPath) || FPackageName::DoesPackageExist(FPackageName::ObjectPathToPackageName(ObjectPath)));
 }
 
 UClass* UEditorAssetLibrary::LoadBlueprintClass(const FString& AssetPath)

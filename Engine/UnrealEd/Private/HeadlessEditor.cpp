@@ -62,8 +62,8 @@ void LoadScriptApi()
 	{
 		UE_LOG(LogHeadlessEditor, Error, TEXT("%s"), *Error);
 	}
-	UE_LOG(LogHeadlessEditor, Verbose, TEXT("%d script headers: %d classes, %d structs, %d enums, %d functions"), Report.NumHeaders, Report.NumClasses, Report.NumStructs,
-		Report.NumEnums, Report.NumFunctions);
+	UE_LOG(LogHeadlessEditor, Verbose, TEXT("%d script headers: %d classes, %d structs, %d enums, %d functions"), Report.NumHeaders,
+		Report.NumClasses, Report.NumStructs, Report.NumEnums, Report.NumFunctions);
 }
 
 void CreateEditor()

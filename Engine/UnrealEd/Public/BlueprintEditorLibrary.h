@@ -22,6 +22,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static void ReparentBlueprint(UBlueprint* Blueprint, UClass* NewParentClass);
 
+	/** Compiles the Blueprint. */
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static void CompileBlueprint(UBlueprint* Blueprint);
 
@@ -29,12 +30,15 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static UEdGraph* AddFunctionGraph(UBlueprint* Blueprint, const FString& FuncName = FString(TEXT("NewFunction")));
 
+	/** Removes the Blueprint's function of that name. */
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static void RemoveFunctionGraph(UBlueprint* Blueprint, FName FuncName);
 
+	/** Gives the graph another name. */
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static void RenameGraph(UEdGraph* Graph, const FString& NewNameStr = FString(TEXT("NewGraph")));
 
+	/** The Blueprint's event graph, or none. */
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static UEdGraph* FindEventGraph(UBlueprint* Blueprint);
 
@@ -46,6 +50,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static int32 RemoveUnusedVariables(UBlueprint* Blueprint);
 
+	/** The class that the Blueprint makes. */
 	UFUNCTION(BlueprintCallable, Category = "Blueprint Editor")
 	static UClass* GeneratedClass(UBlueprint* BlueprintObj);
 };

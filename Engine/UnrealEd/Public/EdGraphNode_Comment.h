@@ -25,6 +25,7 @@ class UEdGraphNode_Comment : public UEdGraphNode
 public:
 	UNREALED_API UEdGraphNode_Comment(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get());
 
+	/** The colour of the comment. */
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = Comment)
 	FLinearColor CommentColor = FLinearColor::White;
 

@@ -17,6 +17,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static UObject* LoadAsset(const FString& AssetPath);
 
+	/** True if there is an asset of that path. */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool DoesAssetExist(const FString& AssetPath);
 
@@ -35,9 +36,11 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static TArray<FString> ListAssets(const FString& DirectoryPath, bool bRecursive = true, bool bIncludeFolder = false);
 
+	/** True if there is a folder of that path. */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool DoesDirectoryExist(const FString& DirectoryPath);
 
+	/** Makes the folder, and those above it that are missing. */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool MakeDirectory(const FString& DirectoryPath);
 
@@ -45,6 +48,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool DeleteAsset(const FString& AssetPathToDelete);
 
+	/** Deletes a loaded asset and its file. */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool DeleteLoadedAsset(UObject* AssetToDelete);
 
@@ -55,6 +59,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool RenameAsset(const FString& SourceAssetPath, const FString& DestinationAssetPath);
 
+	/** Moves a loaded asset to another path. */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool RenameLoadedAsset(UObject* SourceAsset, const FString& DestinationAssetPath);
 
@@ -62,6 +67,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static UObject* DuplicateAsset(const FString& SourceAssetPath, const FString& DestinationAssetPath);
 
+	/** Makes a copy of a loaded asset at another path. */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static UObject* DuplicateLoadedAsset(UObject* SourceAsset, const FString& DestinationAssetPath);
 
@@ -69,6 +75,7 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool SaveAsset(const FString& AssetToSave, bool bOnlyIfIsDirty = true);
 
+	/** Saves a loaded asset. */
 	UFUNCTION(BlueprintCallable, Category = "Editor Scripting | Asset", meta = (DevelopmentOnly))
 	static bool SaveLoadedAsset(UObject* AssetToSave, bool bOnlyIfIsDirty = true);
 };

@@ -61,14 +61,17 @@ void FCompilerResultsLog::LogSummary(double Seconds)
 	const FString Time = FString::Printf(TEXT("[in %d ms]"), static_cast<int32>(Seconds * 1000.0));
 	if (NumErrors > 0)
 	{
-		Note(*FString::Printf(TEXT("Compile of %s failed. %d Fatal Issue(s) %d Warning(s) %s"), *SourcePath, NumErrors, NumWarnings, *Time));
+		Note(
+			*FString::Printf(TEXT("Compile of %s failed. %d Fatal Issue(s) %d Warning(s) %s"), *SourcePath, NumErrors, NumWarnings, *Time));
 		return;
 	}
-	const FString Outcome = NumWarnings > 0 ? FString::Printf(TEXT("successful, but with %d Warning(s)"), NumWarnings) : FString(TEXT("successful!"));
+	const FString Outcome = NumWarnings > 0 ? FString::Printf(TEXT("successful, but with %d Warning(s)"), NumWarnings)
+											: FString(TEXT("successful!"));
 	Note(*FString::Printf(TEXT("Compile of %s %s %s"), *SourcePath, *Outcome, *Time));
 }
 
-TSharedRef<FTokenizedMessage> FCompilerResultsLog::Say(EMessageSeverity::Type Severity, const TCHAR* Format, std::initializer_list<FArgument> Arguments)
+TSharedRef<FTokenizedMessage> FCompilerResultsLog::Say(
+	EMessageSeverity::Type Severity, const TCHAR* Format, std::initializer_list<FArgument> Arguments)
 {
 	const TSharedRef<FTokenizedMessage> Message = FTokenizedMessage::Create(Severity);
 	FString Rest = Format;

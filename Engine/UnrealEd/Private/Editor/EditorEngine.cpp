@@ -64,7 +64,8 @@ void UEditorEngine::OpenStartupMap()
 	{
 		return;
 	}
-	UWorld* const World = LoadObject<UWorld>(nullptr, *(Map + TEXT(".") + FPackageName::GetShortName(Map)), nullptr, LOAD_NoWarn | LOAD_Quiet);
+	UWorld* const World = LoadObject<UWorld>(
+		nullptr, *(Map + TEXT(".") + FPackageName::GetShortName(Map)), nullptr, LOAD_NoWarn | LOAD_Quiet);
 	if (!World || !World->PersistentLevel)
 	{
 		UE_LOG(LogEditor, Warning, TEXT("The map %s cannot be opened"), *Map);

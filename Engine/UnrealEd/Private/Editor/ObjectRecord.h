@@ -7,7 +7,10 @@
 
 class FReferenceCollector;
 
-/** The objects that the states of one transaction refer to, each once. A state names them by index, so that one replaced is replaced in all. */
+/**
+ * The objects that the states of one transaction refer to, each once. A state names them by index, so that one replaced is replaced in
+ * all.
+ */
 class FTransactionObjectTable
 {
 public:

@@ -22,7 +22,9 @@ struct FTransaction::FImplementation
 	SIZE_T DataSize = 0;
 	bool bIsUndone = false;
 
-	/** Visits the records in the order in which their states are put back: the oldest state of an object that has two comes last on undo. */
+	/**
+	 * Visits the records in the order in which their states are put back: the oldest state of an object that has two comes last on undo.
+	 */
 	template <typename Visitor>
 	void VisitInOrder(Visitor Visit)
 	{

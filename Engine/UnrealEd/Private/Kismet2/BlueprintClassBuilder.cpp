@@ -27,6 +27,12 @@ const TCHAR* const SignatureSuffix = TEXT("__DelegateSignature");
 const TCHAR* const WidgetPath = TEXT("/Script/UMG.Widget");
 const TCHAR* const TimelineComponentPath = TEXT("/Script/Engine.TimelineComponent");
 
+/** What an event has of the function that it overrides. */
+constexpr uint32 FlagsOfOverrides = FUNC_FuncInherit | FUNC_AccessSpecifiers | FUNC_BlueprintPure;
+
+constexpr uint64 ComponentFlags = CPF_BlueprintVisible | CPF_NonTransactional | CPF_InstancedReference;
+constexpr uint64 WidgetFlags = CPF_BlueprintVisible | CPF_ExportObject | CPF_InstancedReference | CPF_RepSkip | CPF_PersistentInstance;
+
 /** Pins of a terminator that are parameters: no execution, no split members, no target. */
 TArray<UEdGraphPin*> GetParameterPins(const UEdGraphNode& Node, EEdGraphPinDirection Direction)
 {
@@ -141,21 +147,23 @@ FProperty* FBlueprintClassBuilder::AddProperty(FName Name, const FEdGraphPinType
 	return Property;
 }
 
-void FBlueprintClassBuilder::AddObjectProperty(FName Name, UClass* ObjectClass)
+FProperty* FBlueprintClassBuilder::AddObjectProperty(FName Name, UClass* ObjectClass, uint64 Flags)
 {
 	if (!ObjectClass || Name.IsNone())
 	{
-		return;
+		return nullptr;
 	}
 	FPropertyDescription Description;
 	Description.Name = Name;
 	Description.Kind = EKind::Object;
 	Description.Type = ObjectClass;
-	Description.PropertyFlags = CPF_BlueprintVisible | CPF_NonTransactional | CPF_InstancedReference;
-	if (FProperty* const Property = ConstructPropertyFromDescription(&Class, Description))
+	Description.PropertyFlags = static_cast<EPropertyFlags>(Flags);
+	FProperty* const Property = ConstructPropertyFromDescription(&Class, Description);
+	if (Property)
 	{
 		Class.AddCppProperty(Property);
 	}
+	return Property;
 }
 
 void FBlueprintClassBuilder::AddVariables()
@@ -198,7 +206,7 @@ void FBlueprintClassBuilder::AddComponentsAndTimelines()
 					   : nullptr;
 			if (ComponentClass)
 			{
-				AddObjectProperty(Node->GetVariableName(), ComponentClass);
+				AddObjectProperty(Node->GetVariableName(), ComponentClass, ComponentFlags);
 			}
 		}
 	}
@@ -206,7 +214,7 @@ void FBlueprintClassBuilder::AddComponentsAndTimelines()
 	{
 		if (Timeline)
 		{
-			AddObjectProperty(Timeline->GetVariableName(), FindObject<UClass>(nullptr, TimelineComponentPath));
+			AddObjectProperty(Timeline->GetVariableName(), FindObject<UClass>(nullptr, TimelineComponentPath), ComponentFlags);
 		}
 	}
 }
@@ -222,11 +230,17 @@ void FBlueprintClassBuilder::AddWidgets()
 	{
 		GetObjectsWithOuter(Tree, Widgets, false, RF_Transient, EInternalObjectFlags::Garbage);
 	}
+	const FBoolProperty* const IsVariable = WidgetClass ? FindFProperty<FBoolProperty>(WidgetClass, TEXT("bIsVariable")) : nullptr;
+	Widgets.RemoveAll([WidgetClass, IsVariable](const UObject* Widget)
+		{ return !Widget->IsA(WidgetClass) || !IsVariable || !IsVariable->GetPropertyValue_InContainer(Widget); });
+	Widgets.Sort([](const UObject& A, const UObject& B)
+		{ return A.GetFName().LexicalLess(B.GetFName()); });
 	for (const UObject* const Widget : Widgets)
 	{
-		if (Widget->IsA(WidgetClass))
+		if (FProperty* const Property = AddObjectProperty(Widget->GetFName(), Widget->GetClass(), WidgetFlags))
 		{
-			AddObjectProperty(Widget->GetFName(), Widget->GetClass());
+			Property->SetMetaData(TEXT("DisplayName"), *Widget->GetName());
+			Property->SetMetaData(TEXT("Category"), *Blueprint.GetName());
 		}
 	}
 }
@@ -242,7 +256,8 @@ void FBlueprintClassBuilder::AddInterfaces()
 	}
 }
 
-UFunction* FBlueprintClassBuilder::AddFunction(FName Name, uint32 Flags, const TArray<UEdGraphPin*>& Parameters, const TArray<UEdGraphPin*>& Results)
+UFunction* FBlueprintClassBuilder::AddFunction(
+	FName Name, uint32 Flags, const TArray<UEdGraphPin*>& Parameters, const TArray<UEdGraphPin*>& Results)
 {
 	if (StaticFindObjectFast(nullptr, &Class, Name))
 	{
@@ -296,7 +311,8 @@ void FBlueprintClassBuilder::AddDispatcherSignatures()
 		const UK2Node_FunctionEntry* const Entry = Graph ? FindNode<UK2Node_FunctionEntry>(*Graph) : nullptr;
 		if (Entry)
 		{
-			AddFunction(FName(*(Graph->GetName() + SignatureSuffix)), FUNC_Public | FUNC_MulticastDelegate | FUNC_Delegate | FUNC_BlueprintEvent | FUNC_BlueprintCallable,
+			AddFunction(FName(*(Graph->GetName() + SignatureSuffix)),
+				FUNC_Public | FUNC_MulticastDelegate | FUNC_Delegate | FUNC_BlueprintEvent | FUNC_BlueprintCallable,
 				GetParameterPins(*Entry, EGPD_Output), {});
 		}
 	}
@@ -311,7 +327,8 @@ void FBlueprintClassBuilder::AddFunctionOfGraph(const UEdGraph& Graph)
 		return;
 	}
 	const UK2Node_FunctionResult* const Exit = FindNode<UK2Node_FunctionResult>(Graph);
-	UFunction* const Function = AddFunction(Graph.GetFName(), static_cast<uint32>(Entry->GetFunctionFlags()) | FUNC_BlueprintCallable | FUNC_BlueprintEvent,
+	UFunction* const Function = AddFunction(Graph.GetFName(),
+		static_cast<uint32>(Entry->GetFunctionFlags()) | FUNC_BlueprintCallable | FUNC_BlueprintEvent,
 		GetParameterPins(*Entry, EGPD_Output), Exit ? GetParameterPins(*Exit, EGPD_Input) : TArray<UEdGraphPin*>());
 	if (!Function)
 	{
@@ -371,7 +388,10 @@ void FBlueprintClassBuilder::AddEvents()
 		// A disabled event is the editor's suggestion, not the Blueprint's.
 		if (Event->IsNodeEnabled() && !Name.IsNone())
 		{
-			const uint32 Flags = FUNC_Event | FUNC_Public | FUNC_BlueprintEvent | Event->FunctionFlags |
+			const UClass* const SuperClass = Class.GetSuperClass();
+			const UFunction* const Overridden = SuperClass ? SuperClass->FindFunctionByName(Name) : nullptr;
+			const uint32 InheritedFlags = Overridden ? static_cast<uint32>(Overridden->FunctionFlags) & FlagsOfOverrides : FUNC_None;
+			const uint32 Flags = FUNC_BlueprintEvent | InheritedFlags | (Event->FunctionFlags & FUNC_NetFuncFlags) |
 				(Event->IsA<UK2Node_CustomEvent>() ? FUNC_BlueprintCallable : FUNC_None);
 			const TArray<UEdGraphPin*> Parameters = GetParameterPins(*Event, EGPD_Output);
 			UFunction* const Function = AddFunction(Name, Flags, Parameters, {});

@@ -10,7 +10,10 @@ class UEdGraphPin;
 class UFunction;
 struct FEdGraphPinType;
 
-/** Gives a Blueprint's class the members that the Blueprint declares: variables, components, widgets, timelines, dispatchers, functions, events. */
+/**
+ * Gives a Blueprint's class the members that the Blueprint declares: variables, components, widgets, timelines, dispatchers, functions,
+ * events.
+ */
 class FBlueprintClassBuilder
 {
 public:
@@ -34,7 +37,7 @@ private:
 	void AddEvents();
 	UFunction* AddFunction(FName Name, uint32 Flags, const TArray<UEdGraphPin*>& Parameters, const TArray<UEdGraphPin*>& Results);
 	FProperty* AddProperty(FName Name, const FEdGraphPinType& Type, uint64 Flags);
-	void AddObjectProperty(FName Name, UClass* ObjectClass);
+	FProperty* AddObjectProperty(FName Name, UClass* ObjectClass, uint64 Flags);
 
 	UBlueprint& Blueprint;
 	UBlueprintGeneratedClass& Class;

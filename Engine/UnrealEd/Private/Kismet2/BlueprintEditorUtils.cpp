@@ -1,6 +1,7 @@
 #include "Kismet2/BlueprintEditorUtils.h"
 
 #include "BlueprintDependencies.h"
+#include "ClassMembers.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraphSchema_K2.h"
@@ -23,50 +24,109 @@
 
 namespace
 {
-using FSignatures = TMap<FName, FString>;
-
-/** The parameters of each function that the class itself has, as text. */
-FSignatures DescribeFunctions(const UClass* Class)
+void MarkAsModified(const TSet<UBlueprint*>& Blueprints)
 {
-	FSignatures Signatures;
-	for (TFieldIterator<UFunction> Function(Class, EFieldIterationFlags::None); Class && Function; ++Function)
+	for (UBlueprint* const Blueprint : Blueprints)
 	{
-		FString& Text = Signatures.Add(Function->GetFName());
-		Text = FString::Printf(TEXT("%x"), static_cast<uint32>(Function->FunctionFlags));
-		for (TFieldIterator<FProperty> Parameter(*Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
-		{
-			FString Inner;
-			const FString Type = Parameter->GetCPPType(&Inner, 0);
-			Text += FString::Printf(TEXT(";%s %s%s %llx"), *Parameter->GetName(), *Type, *Inner, static_cast<uint64>(Parameter->PropertyFlags));
-		}
+		FBlueprintEditorUtils::MarkBlueprintAsModified(Blueprint);
 	}
-	return Signatures;
 }
 
-/** Calls follow their function within the edit that changed it, so that both are undone together. */
-void ReconstructCallsOfChanged(UBlueprint& Blueprint, const FSignatures& Before)
+/** Uses of a member that was added or changed. */
+TArray<FMemberUse> FindUsesOfChanged(const UBlueprint& Blueprint, const FClassMembers& Before, const FClassMembers& Now)
 {
-	for (const TPair<FName, FString>& Now : DescribeFunctions(Blueprint.SkeletonGeneratedClass.Get()))
+	const auto ForEachChanged = [](const TMap<FName, FString>& Then, const TMap<FName, FString>& Members, TFunctionRef<void(FName)> Visit)
 	{
-		const FString* const Then = Before.Find(Now.Key);
-		if (!Then || *Then == Now.Value)
+		for (const TPair<FName, FString>& Member : Members)
+		{
+			const FString* const Text = Then.Find(Member.Key);
+			if (!Text || !Text->Equals(Member.Value, ESearchCase::CaseSensitive))
+			{
+				Visit(Member.Key);
+			}
+		}
+	};
+	TArray<FMemberUse> Uses;
+	ForEachChanged(Before.Functions, Now.Functions, [&Blueprint, &Uses](FName Name)
+		{
+			Uses.Append(FMemberUses::FindOfFunction(Blueprint, Name));
+			FString Dispatcher = Name.ToString();
+			if (Dispatcher.RemoveFromEnd(TEXT("__DelegateSignature"), ESearchCase::CaseSensitive))
+			{
+				// Its calls and bindings name the variable, events that are bound to it the signature.
+				Uses.Append(FMemberUses::FindOfVariable(Blueprint, FName(*Dispatcher)));
+			} });
+	ForEachChanged(Before.Properties, Now.Properties, [&Blueprint, &Uses](FName Name)
+		{ Uses.Append(FMemberUses::FindOfVariable(Blueprint, Name)); });
+	return Uses;
+}
+
+/**
+ * Nodes in all loaded Blueprints follow what they use within the edit that changed it, so that all are undone together, and a compile,
+ * which is no edit, finds nothing left to change. In the Blueprint itself only calls are left to follow: its other edits see to the rest.
+ */
+void ReconstructUsesOfChanged(UBlueprint& Blueprint, const FClassMembers& Before)
+{
+	const FClassMembers Now = FClassMembers::Of(Blueprint.SkeletonGeneratedClass.Get());
+	TSet<UBlueprint*> OtherUsers;
+	/** Their overrides have other parameters now, which their own calls have to follow. */
+	TSet<UBlueprint*> Overriders;
+	TSet<UK2Node*> Done;
+	for (const FMemberUse& Use : FindUsesOfChanged(Blueprint, Before, Now))
+	{
+		UBlueprint* const User = Use.Node->GetBlueprint();
+		const bool bIsCall = Use.Node->IsA<UK2Node_CallFunction>() || Use.Node->IsA<UK2Node_BaseMCDelegate>();
+		const bool bFollows = User == &Blueprint ? bIsCall : !User->HasAnyFlags(RF_Transient);
+		bool bIsDone = false;
+		if (!bFollows)
 		{
 			continue;
 		}
-		FString Dispatcher = Now.Key.ToString();
-		const bool bIsDispatcher = Dispatcher.RemoveFromEnd(TEXT("__DelegateSignature"), ESearchCase::CaseSensitive);
-		const TArray<FMemberUse> Uses = bIsDispatcher ? FMemberUses::FindOfVariable(Blueprint, FName(*Dispatcher))
-													  : FMemberUses::FindOfFunction(Blueprint, Now.Key);
-		for (const FMemberUse& Use : Uses)
+		Done.Add(Use.Node, &bIsDone);
+		if (!bIsDone)
 		{
-			const bool bIsCall = Use.Node->IsA<UK2Node_CallFunction>() || Use.Node->IsA<UK2Node_BaseMCDelegate>();
-			if (bIsCall && Use.Node->GetBlueprint() == &Blueprint)
-			{
-				Use.Node->Modify();
-				Use.Node->ReconstructNode();
-			}
+			Use.Node->ReconstructNode();
+		}
+		if (User != &Blueprint)
+		{
+			(Use.Node->IsA<UK2Node_EditablePinBase>() ? Overriders : OtherUsers).Add(User);
 		}
 	}
+	MarkAsModified(OtherUsers);
+	for (UBlueprint* const Overrider : Overriders)
+	{
+		FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(Overrider);
+	}
+}
+
+/**
+ * Macro instances in all loaded Blueprints, and collapsed graphs' nodes, follow the ends of their graphs within the edit that changed
+ * them.
+ */
+void ReconstructUsesOfChangedGraphs(const UBlueprint& Blueprint)
+{
+	TArray<UObject*> Tunnels;
+	GetObjectsOfClass(UK2Node_Tunnel::StaticClass(), Tunnels, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
+	FStandingNodes Standing;
+	TSet<UBlueprint*> OtherUsers;
+	for (UObject* const Object : Tunnels)
+	{
+		UK2Node_Tunnel* const Tunnel = CastChecked<UK2Node_Tunnel>(Object);
+		const UEdGraph* const Expansion = Tunnel->GetExpansion();
+		const bool bIsOfBlueprint = Expansion && Expansion->GetTypedOuter<UBlueprint>() == &Blueprint;
+		UBlueprint* const User = bIsOfBlueprint && !Tunnel->HasPinsOfExpansion() ? Tunnel->GetBlueprint() : nullptr;
+		// What a menu shows is made anew when it is asked for.
+		if (!User || User->HasAnyFlags(RF_Transient) || !Standing.Contains(*Tunnel))
+		{
+			continue;
+		}
+		Tunnel->ReconstructNode();
+		if (User != &Blueprint)
+		{
+			OtherUsers.Add(User);
+		}
+	}
+	MarkAsModified(OtherUsers);
 }
 }
 
@@ -191,7 +251,8 @@ UK2Node_EditablePinBase* FBlueprintEditorUtils::GetEntryNode(const UEdGraph* InG
 	return Entry.Get();
 }
 
-void FBlueprintEditorUtils::GetEntryAndResultNodes(const UEdGraph* InGraph, TWeakObjectPtr<UK2Node_EditablePinBase>& OutEntryNode, TWeakObjectPtr<UK2Node_EditablePinBase>& OutResultNode)
+void FBlueprintEditorUtils::GetEntryAndResultNodes(
+	const UEdGraph* InGraph, TWeakObjectPtr<UK2Node_EditablePinBase>& OutEntryNode, TWeakObjectPtr<UK2Node_EditablePinBase>& OutResultNode)
 {
 	OutEntryNode = nullptr;
 	OutResultNode = nullptr;
@@ -249,7 +310,8 @@ UK2Node_FunctionResult* FBlueprintEditorUtils::FindOrCreateFunctionResultNode(UK
 	return Result;
 }
 
-UK2Node_Event* FBlueprintEditorUtils::FindOverrideForFunction(const UBlueprint* Blueprint, const UClass* SignatureClass, FName SignatureName)
+UK2Node_Event* FBlueprintEditorUtils::FindOverrideForFunction(
+	const UBlueprint* Blueprint, const UClass* SignatureClass, FName SignatureName)
 {
 	TArray<UK2Node_Event*> Events;
 	GetAllNodesOfClass(Blueprint, Events);
@@ -258,7 +320,8 @@ UK2Node_Event* FBlueprintEditorUtils::FindOverrideForFunction(const UBlueprint* 
 		[Blueprint, Authoritative, SignatureName](const UK2Node_Event* Event)
 		{
 			const UClass* const Class = Event->EventReference.GetMemberParentClass(Blueprint->GeneratedClass.Get());
-			return Event->bOverrideFunction && Event->EventReference.GetMemberName() == SignatureName && Authoritative && Class && Authoritative->IsChildOf(Class);
+			return Event->bOverrideFunction && Event->EventReference.GetMemberName() == SignatureName && Authoritative && Class &&
+				Authoritative->IsChildOf(Class);
 		});
 	return Found ? *Found : nullptr;
 }
@@ -300,9 +363,10 @@ void FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(UBlueprint* Blue
 	{
 		return;
 	}
-	const FSignatures Before = DescribeFunctions(Blueprint->SkeletonGeneratedClass.Get());
+	const FClassMembers Before = FClassMembers::Of(Blueprint->SkeletonGeneratedClass.Get());
 	FKismetEditorUtilities::GenerateBlueprintSkeleton(Blueprint, true);
-	ReconstructCallsOfChanged(*Blueprint, Before);
+	ReconstructUsesOfChanged(*Blueprint, Before);
+	ReconstructUsesOfChangedGraphs(*Blueprint);
 	MarkBlueprintAsModified(Blueprint);
 }
 

@@ -48,7 +48,8 @@ void RemoveTimelinesOf(UBlueprint* Blueprint, const UEdGraph& Graph)
 }
 }
 
-UEdGraph* FBlueprintEditorUtils::CreateNewGraph(UObject* ParentScope, const FName& GraphName, TSubclassOf<UEdGraph> GraphClass, TSubclassOf<UEdGraphSchema> SchemaClass)
+UEdGraph* FBlueprintEditorUtils::CreateNewGraph(
+	UObject* ParentScope, const FName& GraphName, TSubclassOf<UEdGraph> GraphClass, TSubclassOf<UEdGraphSchema> SchemaClass)
 {
 	const bool bNameIsTaken = GraphName.IsNone() || StaticFindObjectFast(nullptr, ParentScope, GraphName);
 	const FName Name = bNameIsTaken ? MakeUniqueObjectName(ParentScope, GraphClass.Get(), GraphName) : GraphName;
@@ -87,7 +88,8 @@ UFunction* FBlueprintEditorUtils::FindSignature(const UEdGraph* Graph, UClass* C
 	return Class ? Class->FindFunctionByName(Graph->GetFName()) : nullptr;
 }
 
-void FBlueprintEditorUtils::AddFunctionGraphFromSignature(UBlueprint* Blueprint, UEdGraph* Graph, bool bIsUserCreated, UFunction* Signature, bool bIsOverride)
+void FBlueprintEditorUtils::AddFunctionGraphFromSignature(
+	UBlueprint* Blueprint, UEdGraph* Graph, bool bIsUserCreated, UFunction* Signature, bool bIsOverride)
 {
 	Blueprint->Modify();
 	Graph->bAllowDeletion = bIsUserCreated || bIsOverride;
@@ -250,11 +252,25 @@ void RenameTerminators(const UEdGraph& Graph, FName OldName, FName NewName)
 	Graph.GetNodesOfClass(Terminators);
 	for (UK2Node_FunctionTerminator* const Terminator : Terminators)
 	{
-		const bool bIsOwn = !Terminator->FunctionReference.GetMemberParentClass() && Terminator->FunctionReference.GetMemberName() == OldName;
+		const bool bIsOwn = !Terminator->FunctionReference.GetMemberParentClass() &&
+			Terminator->FunctionReference.GetMemberName() == OldName;
 		if (bIsOwn)
 		{
 			Terminator->Modify();
 			Terminator->FunctionReference.SetSelfMember(NewName);
+		}
+	}
+}
+
+/** Variables that call the function when they are replicated know it by its name. */
+void RenameNotifications(UBlueprint& Blueprint, FName OldName, FName NewName)
+{
+	for (FBPVariableDescription& Variable : Blueprint.NewVariables)
+	{
+		if (Variable.RepNotifyFunc == OldName)
+		{
+			Blueprint.Modify();
+			Variable.RepNotifyFunc = NewName;
 		}
 	}
 }
@@ -302,7 +318,8 @@ bool FBlueprintEditorUtils::RenameGraph(UEdGraph* Graph, const FString& NewNameS
 	const bool bIsFunction = Blueprint->FunctionGraphs.Contains(Graph);
 	const TArray<FMemberUse> Uses = bIsFunction ? FMemberUses::FindOfFunction(*Blueprint, OldName) : TArray<FMemberUse>();
 	const TArray<FMemberUse> LocalUses = bIsFunction ? FindLocalUses(*Graph) : TArray<FMemberUse>();
-	const TArray<UK2Node_CreateDelegate*> Delegates = bIsFunction ? FMemberUses::FindDelegatesOfFunction(*Blueprint, OldName) : TArray<UK2Node_CreateDelegate*>();
+	const TArray<UK2Node_CreateDelegate*> Delegates = bIsFunction ? FMemberUses::FindDelegatesOfFunction(*Blueprint, OldName)
+																  : TArray<UK2Node_CreateDelegate*>();
 	Graph->Modify();
 	Graph->Rename(*NewNameStr, Graph->GetOuter(), REN_DontCreateRedirectors);
 	RenameTerminators(*Graph, OldName, NewName);
@@ -320,6 +337,7 @@ bool FBlueprintEditorUtils::RenameGraph(UEdGraph* Graph, const FString& NewNameS
 	if (bIsFunction)
 	{
 		RenameOverridingGraphs(*Blueprint, OldName, NewNameStr);
+		RenameNotifications(*Blueprint, OldName, NewName);
 	}
 	MarkBlueprintAsStructurallyModified(Blueprint);
 	return true;

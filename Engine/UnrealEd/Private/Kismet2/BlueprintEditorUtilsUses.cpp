@@ -44,6 +44,8 @@ bool FBlueprintEditorUtils::IsVariableUsed(const UBlueprint* Blueprint, const FN
 void FBlueprintEditorUtils::GetUsedAndUnusedVariables(
 	UBlueprint* Blueprint, TArray<FProperty*>& OutUsedVariables, TArray<FProperty*>& OutUnusedVariables)
 {
+	// One walk over the nodes for all variables.
+	const TSet<FName> Used = FMemberUses::FindVariablesUsedIn(*Blueprint);
 	for (const FBPVariableDescription& Variable : Blueprint->NewVariables)
 	{
 		FProperty* const Property = Blueprint->SkeletonGeneratedClass
@@ -51,7 +53,7 @@ void FBlueprintEditorUtils::GetUsedAndUnusedVariables(
 			: nullptr;
 		if (Property)
 		{
-			(IsVariableUsed(Blueprint, Variable.VarName) ? OutUsedVariables : OutUnusedVariables).Add(Property);
+			(Used.Contains(Variable.VarName) ? OutUsedVariables : OutUnusedVariables).Add(Property);
 		}
 	}
 }

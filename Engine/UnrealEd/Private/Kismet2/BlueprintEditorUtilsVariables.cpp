@@ -56,7 +56,8 @@ int32 FBlueprintEditorUtils::FindNewVariableIndex(const UBlueprint* Blueprint, c
 											  { return Variable.VarName == InName; });
 }
 
-bool FBlueprintEditorUtils::AddMemberVariable(UBlueprint* Blueprint, const FName& NewVarName, const FEdGraphPinType& NewVarType, const FString& DefaultValue)
+bool FBlueprintEditorUtils::AddMemberVariable(
+	UBlueprint* Blueprint, const FName& NewVarName, const FEdGraphPinType& NewVarType, const FString& DefaultValue)
 {
 	if (NewVarName.IsNone() || IsMemberNameTaken(Blueprint, NewVarName))
 	{
@@ -98,7 +99,8 @@ void FBlueprintEditorUtils::BulkRemoveMemberVariables(UBlueprint* Blueprint, con
 		bRemovedAny = true;
 		Blueprint->Modify();
 		ModifyDefaults(*Blueprint);
-		UEdGraph* const Signature = IsDispatcher(Blueprint->NewVariables[Index]) ? Blueprint->GetDelegateSignatureGraphByName(VarName) : nullptr;
+		UEdGraph* const Signature = IsDispatcher(Blueprint->NewVariables[Index]) ? Blueprint->GetDelegateSignatureGraphByName(VarName)
+																				 : nullptr;
 		Blueprint->NewVariables.RemoveAt(Index);
 		RemoveVariableNodes(Blueprint, VarName);
 		if (Signature)
@@ -171,7 +173,8 @@ FName FBlueprintEditorUtils::DuplicateVariable(UBlueprint* InBlueprint, const US
 	return Copy.VarName;
 }
 
-bool FBlueprintEditorUtils::MoveVariableBeforeVariable(UBlueprint* Blueprint, UStruct* VariableScope, FName VarNameToMove, FName TargetVarName, bool bDontRecompile)
+bool FBlueprintEditorUtils::MoveVariableBeforeVariable(
+	UBlueprint* Blueprint, UStruct* VariableScope, FName VarNameToMove, FName TargetVarName, bool bDontRecompile)
 {
 	UK2Node_FunctionEntry* Entry = nullptr;
 	const bool bIsLocal = VariableScope && FindLocalVariable(Blueprint, VariableScope, VarNameToMove, &Entry);
@@ -226,7 +229,8 @@ FGuid FBlueprintEditorUtils::FindMemberVariableGuidByName(UBlueprint* InBlueprin
 
 FName FBlueprintEditorUtils::FindMemberVariableNameByGuid(UBlueprint* InBlueprint, const FGuid& InVariableGuid)
 {
-	const FBPVariableDescription* const Variable = InBlueprint->NewVariables.FindByPredicate([&InVariableGuid](const FBPVariableDescription& Candidate)
+	const FBPVariableDescription* const Variable = InBlueprint->NewVariables.FindByPredicate(
+		[&InVariableGuid](const FBPVariableDescription& Candidate)
 		{ return Candidate.VarGuid == InVariableGuid; });
 	return Variable ? Variable->VarName : NAME_None;
 }

@@ -44,7 +44,8 @@ UClass* FindSuperClass(const UBlueprint& Blueprint, const UBlueprintGeneratedCla
 {
 	UClass* const Parent = Blueprint.ParentClass.Get();
 	const UBlueprint* const ParentBlueprint = UBlueprint::GetBlueprintFromClass(Parent);
-	const bool bTakeSkeleton = Blueprint.SkeletonGeneratedClass.Get() == &Class && ParentBlueprint && ParentBlueprint->SkeletonGeneratedClass;
+	const bool bTakeSkeleton = Blueprint.SkeletonGeneratedClass.Get() == &Class && ParentBlueprint &&
+		ParentBlueprint->SkeletonGeneratedClass;
 	return bTakeSkeleton ? ParentBlueprint->SkeletonGeneratedClass.Get() : Parent;
 }
 
@@ -197,7 +198,8 @@ void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FSt
 	Class.SetSuperStruct(SuperClass);
 	Class.ClassGeneratedBy = &Blueprint;
 	Class.ClassFlags = CLASS_CompiledFromBlueprint | (Blueprint.bGenerateAbstractClass ? CLASS_Abstract : CLASS_None) |
-		(Blueprint.bDeprecate ? CLASS_Deprecated : CLASS_None) | (Blueprint.BlueprintType == BPTYPE_Interface ? CLASS_Interface | CLASS_Abstract : CLASS_None);
+		(Blueprint.bDeprecate ? CLASS_Deprecated : CLASS_None) |
+		(Blueprint.BlueprintType == BPTYPE_Interface ? CLASS_Interface | CLASS_Abstract : CLASS_None);
 	Class.Bind();
 	FBlueprintClassBuilder(Blueprint, Class).Build(OutErrors);
 	Class.StaticLink(true);
@@ -251,7 +253,9 @@ void ReturnLostDefaults(UObject& New, const UBlueprintGeneratedClass& NewClass)
 	for (const TPair<FName, FGuid>& Pair : NewClass.PropertyGuids)
 	{
 		FString Text;
-		const FProperty* const Property = Lost.Num() > 0 && Lost.RemoveAndCopyValue(Pair.Value, Text) ? NewClass.FindPropertyByName(Pair.Key) : nullptr;
+		const FProperty* const Property = Lost.Num() > 0 && Lost.RemoveAndCopyValue(Pair.Value, Text)
+			? NewClass.FindPropertyByName(Pair.Key)
+			: nullptr;
 		if (Property)
 		{
 			Property->ImportText_InContainer(*Text, &New, &New, PPF_None);
@@ -296,11 +300,13 @@ void FBlueprintCompileReinstancer::ApplyVariableDefaults(const FRebuiltClass& Re
 	UObject* const Defaults = Rebuilt.Class->GetDefaultObject();
 	for (const FBPVariableDescription& Variable : Rebuilt.Blueprint->NewVariables)
 	{
-		const FProperty* const Property = Variable.DefaultValue.IsEmpty() ? nullptr : FindFProperty<FProperty>(Rebuilt.Class, Variable.VarName);
+		const FProperty* const Property = Variable.DefaultValue.IsEmpty() ? nullptr
+																		  : FindFProperty<FProperty>(Rebuilt.Class, Variable.VarName);
 		if (Property &&
 			!Property->ImportText_Direct(*Variable.DefaultValue, Property->ContainerPtrToValuePtr<void>(Defaults), Defaults, PPF_None))
 		{
-			OutErrors.Add(FString::Printf(TEXT("The default value of %s could not be read: %s"), *Variable.VarName.ToString(), *Variable.DefaultValue.Left(128)));
+			OutErrors.Add(FString::Printf(
+				TEXT("The default value of %s could not be read: %s"), *Variable.VarName.ToString(), *Variable.DefaultValue.Left(128)));
 		}
 	}
 }
@@ -324,7 +330,8 @@ void FBlueprintCompileReinstancer::ReplaceObjects()
 		{
 			UObject* const Outer = Old->GetOuter();
 			const FName Name = Old->GetFName();
-			const EObjectFlags Flags = Old->GetMaskedFlags(RF_Public | RF_Standalone | RF_Transactional | RF_Transient | RF_ArchetypeObject);
+			const EObjectFlags Flags = Old->GetMaskedFlags(
+				RF_Public | RF_Standalone | RF_Transactional | RF_Transient | RF_ArchetypeObject);
 			Old->Rename(*MakeUniqueObjectName(Transient, Rebuilt.OldClass).ToString(), Transient, MoveFlags);
 			UObject* const New = NewObject<UObject>(Outer, Rebuilt.Class, Name, Flags);
 			if (AActor* const OldActor = Cast<AActor>(Old); OldActor && OldActor->GetRootComponent())

@@ -133,6 +133,7 @@ void ReconstructNodesOf(const UEnum& Enum)
 {
 	TArray<UObject*> Nodes;
 	GetObjectsOfClass(UK2Node::StaticClass(), Nodes, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
+	FStandingNodes Standing;
 	TSet<UBlueprint*> Blueprints;
 	for (UObject* const Object : Nodes)
 	{
@@ -145,7 +146,7 @@ void ReconstructNodesOf(const UEnum& Enum)
 		{
 			FReferenceFinder(References).FindReferences(Node);
 		}
-		if ((bHasPin || References.Contains(&Enum)) && FMemberUses::StandsInGraph(*Node))
+		if ((bHasPin || References.Contains(&Enum)) && Standing.Contains(*Node))
 		{
 			Node->ReconstructNode();
 			Blueprints.Add(Node->GetBlueprint());

@@ -36,7 +36,8 @@ void CreateClasses(UBlueprint& Blueprint, UClass* ClassType)
 	}
 	if (!Blueprint.SkeletonGeneratedClass)
 	{
-		Blueprint.SkeletonGeneratedClass = CreateClassOf(Blueprint, ClassType, FString::Printf(TEXT("SKEL_%s_C"), *Blueprint.GetName()), RF_Public | RF_Transient);
+		Blueprint.SkeletonGeneratedClass = CreateClassOf(
+			Blueprint, ClassType, FString::Printf(TEXT("SKEL_%s_C"), *Blueprint.GetName()), RF_Public | RF_Transient);
 	}
 }
 
@@ -94,7 +95,8 @@ void CreateDefaultGraphs(UBlueprint& Blueprint)
 	const UEdGraphSchema_K2* const Schema = GetDefault<UEdGraphSchema_K2>();
 	if (Blueprint.SupportsEventGraphs())
 	{
-		UEdGraph* const EventGraph = FBlueprintEditorUtils::CreateNewGraph(&Blueprint, UEdGraphSchema_K2::GN_EventGraph, UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+		UEdGraph* const EventGraph = FBlueprintEditorUtils::CreateNewGraph(
+			&Blueprint, UEdGraphSchema_K2::GN_EventGraph, UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 		EventGraph->bAllowDeletion = false;
 		Blueprint.UbergraphPages.Add(EventGraph);
 		Schema->CreateDefaultNodesForGraph(*EventGraph);
@@ -103,7 +105,8 @@ void CreateDefaultGraphs(UBlueprint& Blueprint)
 	const bool bHasConstructionScript = FBlueprintEditorUtils::IsActorBased(&Blueprint) && Blueprint.BlueprintType == BPTYPE_Normal;
 	if (bHasConstructionScript)
 	{
-		UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(&Blueprint, UEdGraphSchema_K2::FN_UserConstructionScript, UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+		UEdGraph* const Graph = FBlueprintEditorUtils::CreateNewGraph(
+			&Blueprint, UEdGraphSchema_K2::FN_UserConstructionScript, UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 		FBlueprintEditorUtils::AddFunctionGraph(&Blueprint, Graph, false, AActor::StaticClass());
 		Graph->bAllowDeletion = false;
 	}
@@ -122,12 +125,14 @@ void CreateConstructionScript(UBlueprint& Blueprint)
 }
 }
 
-UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject* Outer, const FName NewBPName, EBlueprintType BlueprintType, TSubclassOf<UBlueprint> BlueprintClassType,
+UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject* Outer, const FName NewBPName,
+	EBlueprintType BlueprintType, TSubclassOf<UBlueprint> BlueprintClassType,
 	TSubclassOf<UBlueprintGeneratedClass> BlueprintGeneratedClassType, FName CallingContext)
 {
 	check(ParentClass && Outer);
 	check(!FindObject<UBlueprint>(Outer, *NewBPName.ToString()));
-	UBlueprint* const Blueprint = NewObject<UBlueprint>(Outer, BlueprintClassType.Get(), NewBPName, RF_Public | RF_Standalone | RF_Transactional);
+	UBlueprint* const Blueprint = NewObject<UBlueprint>(
+		Outer, BlueprintClassType.Get(), NewBPName, RF_Public | RF_Standalone | RF_Transactional);
 	Blueprint->Status = BS_BeingCreated;
 	Blueprint->BlueprintType = BlueprintType;
 	Blueprint->ParentClass = ParentClass;
@@ -144,9 +149,11 @@ UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject
 	return Blueprint;
 }
 
-UBlueprint* FKismetEditorUtilities::CreateBlueprint(UClass* ParentClass, UObject* Outer, const FName NewBPName, EBlueprintType BlueprintType, FName CallingContext)
+UBlueprint* FKismetEditorUtilities::CreateBlueprint(
+	UClass* ParentClass, UObject* Outer, const FName NewBPName, EBlueprintType BlueprintType, FName CallingContext)
 {
-	return CreateBlueprint(ParentClass, Outer, NewBPName, BlueprintType, UBlueprint::StaticClass(), UBlueprintGeneratedClass::StaticClass(), CallingContext);
+	return CreateBlueprint(
+		ParentClass, Outer, NewBPName, BlueprintType, UBlueprint::StaticClass(), UBlueprintGeneratedClass::StaticClass(), CallingContext);
 }
 
 bool FKismetEditorUtilities::GenerateBlueprintSkeleton(UBlueprint* BlueprintObj, bool bForceRegeneration)
@@ -159,12 +166,14 @@ bool FKismetEditorUtilities::GenerateBlueprintSkeleton(UBlueprint* BlueprintObj,
 	BlueprintObj->bBeingCompiled = true;
 	CreateClasses(*BlueprintObj, BlueprintObj->GetBlueprintClass());
 	TArray<FString> Errors;
-	FBlueprintCompileReinstancer(*BlueprintObj, *CastChecked<UBlueprintGeneratedClass>(BlueprintObj->SkeletonGeneratedClass.Get())).Rebuild(Errors);
+	FBlueprintCompileReinstancer(*BlueprintObj, *CastChecked<UBlueprintGeneratedClass>(BlueprintObj->SkeletonGeneratedClass.Get()))
+		.Rebuild(Errors);
 	BlueprintObj->bBeingCompiled = false;
 	return true;
 }
 
-void FKismetEditorUtilities::CompileBlueprint(UBlueprint* BlueprintObj, EBlueprintCompileOptions CompileFlags, FCompilerResultsLog* pResults)
+void FKismetEditorUtilities::CompileBlueprint(
+	UBlueprint* BlueprintObj, EBlueprintCompileOptions CompileFlags, FCompilerResultsLog* pResults)
 {
 	check(BlueprintObj && !BlueprintObj->bBeingCompiled);
 	if (BlueprintObj->ParentClass && !FBlueprintCompileReinstancer::FindRingOfParents(*BlueprintObj))
@@ -175,11 +184,13 @@ void FKismetEditorUtilities::CompileBlueprint(UBlueprint* BlueprintObj, EBluepri
 	FBlueprintCompiler(*BlueprintObj, pResults ? *pResults : OwnLog).Compile();
 }
 
-UK2Node_Event* FKismetEditorUtilities::AddDefaultEventNode(UBlueprint* InBlueprint, UEdGraph* InGraph, FName InEventName, UClass* InEventClass, int32& InOutNodePosY)
+UK2Node_Event* FKismetEditorUtilities::AddDefaultEventNode(
+	UBlueprint* InBlueprint, UEdGraph* InGraph, FName InEventName, UClass* InEventClass, int32& InOutNodePosY)
 {
 	constexpr int32 DistanceToNext = 208;
 	const UFunction* const Function = InEventClass ? InEventClass->FindFunctionByName(InEventName) : nullptr;
-	if (!Function || !UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(Function) || FBlueprintEditorUtils::FindOverrideForFunction(InBlueprint, InEventClass, InEventName))
+	if (!Function || !UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(Function) ||
+		FBlueprintEditorUtils::FindOverrideForFunction(InBlueprint, InEventClass, InEventName))
 	{
 		return nullptr;
 	}
@@ -205,16 +216,19 @@ void FKismetEditorUtilities::UnregisterAutoBlueprintNodeCreation(void* InOwner)
 		{ return Event.Owner == InOwner; });
 }
 
-const UK2Node_ComponentBoundEvent* FKismetEditorUtilities::FindBoundEventForComponent(const UBlueprint* Blueprint, FName EventName, FName PropertyName)
+const UK2Node_ComponentBoundEvent* FKismetEditorUtilities::FindBoundEventForComponent(
+	const UBlueprint* Blueprint, FName EventName, FName PropertyName)
 {
 	TArray<UK2Node_ComponentBoundEvent*> Events;
 	FBlueprintEditorUtils::GetAllNodesOfClass(Blueprint, Events);
-	UK2Node_ComponentBoundEvent* const* const Found = Events.FindByPredicate([EventName, PropertyName](const UK2Node_ComponentBoundEvent* Event)
+	UK2Node_ComponentBoundEvent* const* const Found = Events.FindByPredicate(
+		[EventName, PropertyName](const UK2Node_ComponentBoundEvent* Event)
 		{ return Event->DelegatePropertyName == EventName && Event->ComponentPropertyName == PropertyName; });
 	return Found ? *Found : nullptr;
 }
 
-const UK2Node_ComponentBoundEvent* FKismetEditorUtilities::CreateNewBoundEventForClass(UClass* Class, FName EventName, UBlueprint* Blueprint, FObjectProperty* ComponentProperty)
+const UK2Node_ComponentBoundEvent* FKismetEditorUtilities::CreateNewBoundEventForClass(
+	UClass* Class, FName EventName, UBlueprint* Blueprint, FObjectProperty* ComponentProperty)
 {
 	UEdGraph* const Graph = FBlueprintEditorUtils::FindEventGraph(Blueprint);
 	const FMulticastDelegateProperty* const Delegate = Class ? FindFProperty<FMulticastDelegateProperty>(Class, EventName) : nullptr;
@@ -254,7 +268,8 @@ bool FKismetEditorUtilities::IsClassABlueprintImplementableInterface(const UClas
 		return true;
 	}
 	const FString* const IsBase = Class->FindMetaDataHierarchical(TEXT("IsBlueprintBase"));
-	const bool bIsRefused = Class->HasMetaData(TEXT("CannotImplementInterfaceInBlueprint")) || (IsBase && IsBase->Equals(TEXT("false"), ESearchCase::IgnoreCase));
+	const bool bIsRefused = Class->HasMetaData(TEXT("CannotImplementInterfaceInBlueprint")) ||
+		(IsBase && IsBase->Equals(TEXT("false"), ESearchCase::IgnoreCase));
 	return !bIsRefused && Class != UInterface::StaticClass();
 }
 
@@ -264,7 +279,8 @@ bool FKismetEditorUtilities::CanBlueprintImplementInterface(UBlueprint const* Bl
 	{
 		return false;
 	}
-	const bool bHoldsFunctionsAlone = Blueprint->BlueprintType == BPTYPE_Interface || Blueprint->BlueprintType == BPTYPE_FunctionLibrary || Blueprint->BlueprintType == BPTYPE_MacroLibrary;
+	const bool bHoldsFunctionsAlone = Blueprint->BlueprintType == BPTYPE_Interface || Blueprint->BlueprintType == BPTYPE_FunctionLibrary ||
+		Blueprint->BlueprintType == BPTYPE_MacroLibrary;
 	TArray<UClass*> Implemented;
 	FBlueprintEditorUtils::FindImplementedInterfaces(Blueprint, true, Implemented);
 	return !bHoldsFunctionsAlone && !Implemented.Contains(Class);
@@ -272,7 +288,8 @@ bool FKismetEditorUtilities::CanBlueprintImplementInterface(UBlueprint const* Bl
 
 bool FKismetEditorUtilities::CanCreateBlueprintOfClass(const UClass* Class)
 {
-	if (!Class || Class->HasAnyClassFlags(CLASS_Deprecated | CLASS_NewerVersionExists | CLASS_Interface) || IsClassABlueprintSkeleton(Class))
+	if (!Class || Class->HasAnyClassFlags(CLASS_Deprecated | CLASS_NewerVersionExists | CLASS_Interface) ||
+		IsClassABlueprintSkeleton(Class))
 	{
 		return false;
 	}

@@ -18,12 +18,13 @@ template <class NodeType>
 void Collect(
 	FMemberReference NodeType::*Member, TFunctionRef<bool(const UK2Node&, const FMemberReference&)> IsUse, TArray<FMemberUse>& OutUses)
 {
+	FStandingNodes Standing;
 	TArray<UObject*> Nodes;
 	GetObjectsOfClass(NodeType::StaticClass(), Nodes, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
 	for (UObject* const Object : Nodes)
 	{
 		NodeType* const Node = CastChecked<NodeType>(Object);
-		if (IsUse(*Node, Node->*Member) && FMemberUses::StandsInGraph(*Node))
+		if (IsUse(*Node, Node->*Member) && Standing.Contains(*Node))
 		{
 			OutUses.Add({Node, &(Node->*Member)});
 		}
@@ -50,10 +51,23 @@ bool FMemberUses::IsClassOf(const UClass* Class, const UBlueprint& Blueprint)
 	return false;
 }
 
-bool FMemberUses::StandsInGraph(const UK2Node& Node)
+bool FStandingNodes::Contains(const UK2Node& Node)
 {
 	const UEdGraph* const Graph = Node.GetGraph();
-	return Graph && Node.GetBlueprint() && Graph->Nodes.Contains(const_cast<UK2Node*>(&Node));
+	if (!Graph || !Node.GetBlueprint())
+	{
+		return false;
+	}
+	TSet<const UEdGraphNode*>* Nodes = ByGraph.Find(Graph);
+	if (!Nodes)
+	{
+		Nodes = &ByGraph.Add(Graph);
+		for (const UEdGraphNode* const Standing : Graph->Nodes)
+		{
+			Nodes->Add(Standing);
+		}
+	}
+	return Nodes->Contains(&Node);
 }
 
 TArray<FMemberUse> FMemberUses::FindOfVariable(const UBlueprint& Owner, FName Name)
@@ -64,6 +78,35 @@ TArray<FMemberUse> FMemberUses::FindOfVariable(const UBlueprint& Owner, FName Na
 	Collect<UK2Node_Variable>(&UK2Node_Variable::VariableReference, IsUse, Uses);
 	Collect<UK2Node_BaseMCDelegate>(&UK2Node_BaseMCDelegate::DelegateReference, IsUse, Uses);
 	return Uses;
+}
+
+TSet<FName> FMemberUses::FindVariablesUsedIn(const UBlueprint& Blueprint)
+{
+	TSet<FName> Names;
+	const auto Note = [&Blueprint, &Names](const UK2Node& Node, const FMemberReference& Reference)
+	{
+		if (RefersTo(Blueprint, Reference.GetMemberName(), Node, Reference))
+		{
+			Names.Add(Reference.GetMemberName());
+		}
+	};
+	TArray<UEdGraph*> Graphs;
+	Blueprint.GetAllGraphs(Graphs);
+	for (const UEdGraph* const Graph : Graphs)
+	{
+		for (const UEdGraphNode* const Node : Graph->Nodes)
+		{
+			if (const UK2Node_Variable* const Variable = Cast<UK2Node_Variable>(Node))
+			{
+				Note(*Variable, Variable->VariableReference);
+			}
+			else if (const UK2Node_BaseMCDelegate* const Delegate = Cast<UK2Node_BaseMCDelegate>(Node))
+			{
+				Note(*Delegate, Delegate->DelegateReference);
+			}
+		}
+	}
+	return Names;
 }
 
 TArray<FMemberUse> FMemberUses::FindOfFunction(const UBlueprint& Owner, FName Name)
@@ -89,12 +132,13 @@ TArray<FMemberUse> FMemberUses::FindOfLocalVariable(const UBlueprint& Owner, con
 TArray<UK2Node_CreateDelegate*> FMemberUses::FindDelegatesOfFunction(const UBlueprint& Owner, FName Name)
 {
 	TArray<UK2Node_CreateDelegate*> Found;
+	FStandingNodes Standing;
 	TArray<UObject*> Nodes;
 	GetObjectsOfClass(UK2Node_CreateDelegate::StaticClass(), Nodes, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
 	for (UObject* const Object : Nodes)
 	{
 		UK2Node_CreateDelegate* const Node = CastChecked<UK2Node_CreateDelegate>(Object);
-		if (Node->SelectedFunctionName == Name && StandsInGraph(*Node) && IsClassOf(Node->GetScopeClass(), Owner))
+		if (Node->SelectedFunctionName == Name && Standing.Contains(*Node) && IsClassOf(Node->GetScopeClass(), Owner))
 		{
 			Found.Add(Node);
 		}

@@ -4,6 +4,8 @@
 
 class UBlueprint;
 class UClass;
+class UEdGraph;
+class UEdGraphNode;
 class UK2Node;
 class UK2Node_CreateDelegate;
 struct FMemberReference;
@@ -16,6 +18,19 @@ struct FMemberUse
 };
 
 /**
+ * Which nodes stand in their graph, and not merely in what an undo could bring back. Reads each graph once: for a question about many
+ * nodes between which no graph changes.
+ */
+class FStandingNodes
+{
+public:
+	bool Contains(const UK2Node& Node);
+
+private:
+	TMap<const UEdGraph*, TSet<const UEdGraphNode*>> ByGraph;
+};
+
+/**
  * Nodes of all loaded Blueprints that use a member of a Blueprint. Looked for among the nodes of the kinds that can, by the
  * index of objects by class; a node that stands in no graph, such as one that only an undo could bring back, is no use.
  */
@@ -24,6 +39,8 @@ class FMemberUses
 public:
 	/** Of a variable, a component, a timeline or a dispatcher. */
 	static TArray<FMemberUse> FindOfVariable(const UBlueprint& Owner, FName Name);
+	/** Names of the Blueprint's variables that a node of the Blueprint itself uses. */
+	static TSet<FName> FindVariablesUsedIn(const UBlueprint& Blueprint);
 	/** Of a function or an event: calls, overrides and the ends of overriding graphs. */
 	static TArray<FMemberUse> FindOfFunction(const UBlueprint& Owner, FName Name);
 	static TArray<FMemberUse> FindOfLocalVariable(const UBlueprint& Owner, const FString& Scope, FName Name);
@@ -37,5 +54,4 @@ public:
 
 	/** Whether the class is the Blueprint's or derives from it. */
 	static bool IsClassOf(const UClass* Class, const UBlueprint& Blueprint);
-	static bool StandsInGraph(const UK2Node& Node);
 };

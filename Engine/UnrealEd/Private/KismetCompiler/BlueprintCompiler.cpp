@@ -8,38 +8,11 @@
 #include "Kismet2/BlueprintDependencies.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/BlueprintReinstancer.h"
+#include "Kismet2/ClassMembers.h"
 #include "Kismet2/CompilerResultsLog.h"
 #include "Kismet2/KismetEditorUtilities.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
-
-namespace
-{
-void DescribeProperty(const FProperty& Property, FString& Out)
-{
-	Out += FString::Printf(TEXT("%s:%s:%llx;"), *Property.GetName(), *Property.GetCPPType(), static_cast<uint64>(Property.GetPropertyFlags()));
-}
-
-/** The members that others may use, as text: two classes with the same text need no refresh of their users. */
-FString DescribeMembers(const UClass& Class)
-{
-	FString Text = Class.GetSuperClass() ? Class.GetSuperClass()->GetPathName() : FString();
-	for (TFieldIterator<FProperty> Property(&Class, EFieldIterationFlags::None); Property; ++Property)
-	{
-		DescribeProperty(**Property, Text);
-	}
-	for (TFieldIterator<UFunction> Function(&Class, EFieldIterationFlags::None); Function; ++Function)
-	{
-		Text += FString::Printf(TEXT("%s(%x:"), *Function->GetName(), static_cast<uint32>(Function->FunctionFlags));
-		for (TFieldIterator<FProperty> Parameter(*Function); Parameter && Parameter->HasAnyPropertyFlags(CPF_Parm); ++Parameter)
-		{
-			DescribeProperty(**Parameter, Text);
-		}
-		Text += TEXT(")");
-	}
-	return Text;
-}
-}
 
 void FBlueprintCompiler::Compile()
 {
@@ -47,7 +20,8 @@ void FBlueprintCompiler::Compile()
 	ClearMarks();
 	Log.SetSourcePath(Blueprint.GetName());
 	Log.BeginEvent(TEXT("Compile"));
-	const FString MembersBefore = Blueprint.GeneratedClass ? DescribeMembers(*Blueprint.GeneratedClass.Get()) : FString();
+	const FClassMembers MembersBefore = FClassMembers::Of(Blueprint.GeneratedClass.Get());
+	const UClass* const ParentBefore = Blueprint.GeneratedClass ? Blueprint.GeneratedClass->GetSuperClass() : nullptr;
 	Blueprint.bBeingCompiled = true;
 	CheckAndBuild();
 	Blueprint.bBeingCompiled = false;
@@ -57,7 +31,9 @@ void FBlueprintCompiler::Compile()
 	Log.EndEvent();
 	Blueprint.BroadcastCompiled();
 	Blueprint.BroadcastChanged();
-	if (!Blueprint.bIsNewlyCreated && Blueprint.GeneratedClass && DescribeMembers(*Blueprint.GeneratedClass.Get()) != MembersBefore)
+	const UClass* const Class = Blueprint.GeneratedClass.Get();
+	const bool bChanged = Class && (Class->GetSuperClass() != ParentBefore || !FClassMembers::Of(Class).IsSameAs(MembersBefore));
+	if (bChanged && !Blueprint.bIsNewlyCreated)
 	{
 		CompileDependents();
 	}
@@ -101,7 +77,8 @@ void FBlueprintCompiler::CheckAndBuild()
 	FBlueprintEditorUtils::ConformImplementedInterfaces(&Blueprint);
 	// The graphs are checked against the members that the Blueprint has now, and those are the skeleton's.
 	TArray<FString> SkeletonErrors;
-	FBlueprintCompileReinstancer(Blueprint, *CastChecked<UBlueprintGeneratedClass>(Blueprint.SkeletonGeneratedClass.Get())).Rebuild(SkeletonErrors);
+	FBlueprintCompileReinstancer(Blueprint, *CastChecked<UBlueprintGeneratedClass>(Blueprint.SkeletonGeneratedClass.Get()))
+		.Rebuild(SkeletonErrors);
 	Validator.Validate();
 	TArray<FString> Errors;
 	FBlueprintCompileReinstancer(Blueprint, *CastChecked<UBlueprintGeneratedClass>(Blueprint.GeneratedClass.Get())).Rebuild(Errors);

@@ -99,7 +99,8 @@ void FBlueprintValidator::ValidateVariables() const
 		{
 			Log.Error(TEXT("Found more than one member variable with the same name @@"), Variable.VarName);
 		}
-		const FProperty* const Inherited = Blueprint.ParentClass ? FindFProperty<FProperty>(Blueprint.ParentClass.Get(), Variable.VarName) : nullptr;
+		const FProperty* const Inherited = Blueprint.ParentClass ? FindFProperty<FProperty>(Blueprint.ParentClass.Get(), Variable.VarName)
+																 : nullptr;
 		if (Inherited)
 		{
 			Log.Error(TEXT("The variable @@ has the name of a variable of its parent @@"), Variable.VarName, Inherited->GetOwnerClass());
@@ -109,7 +110,8 @@ void FBlueprintValidator::ValidateVariables() const
 			const UClass* const Skeleton = GetSkeleton(Blueprint);
 			if (!Skeleton || !Skeleton->FindFunctionByName(Variable.RepNotifyFunc))
 			{
-				Log.Warning(TEXT("The variable @@ is to call @@ when it is replicated, and there is no such function"), Variable.VarName, Variable.RepNotifyFunc);
+				Log.Warning(TEXT("The variable @@ is to call @@ when it is replicated, and there is no such function"), Variable.VarName,
+					Variable.RepNotifyFunc);
 			}
 		}
 	}
@@ -161,13 +163,16 @@ void FBlueprintValidator::ValidateInterfaces() const
 		for (TFieldIterator<UFunction> Function(Interface, EFieldIterationFlags::None); Function; ++Function)
 		{
 			// What can be an event need not be answered.
-			const bool bMustBeThere = UEdGraphSchema_K2::CanKismetOverrideFunction(*Function) && !UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(*Function);
-			const UFunction* const Own = Skeleton ? Skeleton->FindFunctionByName(Function->GetFName(), EIncludeSuperFlag::ExcludeSuper) : nullptr;
+			const bool bMustBeThere = UEdGraphSchema_K2::CanKismetOverrideFunction(*Function) &&
+				!UEdGraphSchema_K2::FunctionCanBePlacedAsEvent(*Function);
+			const UFunction* const Own = Skeleton ? Skeleton->FindFunctionByName(Function->GetFName(), EIncludeSuperFlag::ExcludeSuper)
+												  : nullptr;
 			const UClass* const Parent = Blueprint.ParentClass.Get();
 			const bool bInherited = Parent && Parent->ImplementsInterface(Interface);
 			if (bMustBeThere && !Own && !bInherited)
 			{
-				Log.Error(TEXT("The interface @@ asks for the function @@, and @@ has no graph for it"), Interface, Function->GetFName(), &Blueprint);
+				Log.Error(TEXT("The interface @@ asks for the function @@, and @@ has no graph for it"), Interface, Function->GetFName(),
+					&Blueprint);
 			}
 			else if (bMustBeThere && Own && !Function->IsSignatureCompatibleWith(Own))
 			{
@@ -191,11 +196,13 @@ void FBlueprintValidator::ValidateOverrides() const
 		const UFunction* const Own = Skeleton ? Skeleton->FindFunctionByName(Graph->GetFName(), EIncludeSuperFlag::ExcludeSuper) : nullptr;
 		if (!Overridden->HasAnyFunctionFlags(FUNC_BlueprintEvent))
 		{
-			Log.Error(TEXT("The function @@ has the name of a function of @@ that cannot be overridden"), Graph, Overridden->GetOwnerClass());
+			Log.Error(
+				TEXT("The function @@ has the name of a function of @@ that cannot be overridden"), Graph, Overridden->GetOwnerClass());
 		}
 		else if (Own && !Overridden->IsSignatureCompatibleWith(Own))
 		{
-			Log.Error(TEXT("The function @@ does not have the parameters of the function of @@ that it overrides"), Graph, Overridden->GetOwnerClass());
+			Log.Error(TEXT("The function @@ does not have the parameters of the function of @@ that it overrides"), Graph,
+				Overridden->GetOwnerClass());
 		}
 	}
 }

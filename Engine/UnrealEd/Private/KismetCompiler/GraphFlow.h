@@ -21,7 +21,9 @@ public:
 	const TArray<const UK2Node*>& GetNodes() const { return Nodes; }
 	/** The node is executed, or gives a value to a node that is. */
 	bool IsReached(const UK2Node& Node) const { return Reached.Contains(&Node); }
-	/** Nodes of which each needs a value of the next, and the last one of the first. Each such ring is reported once, by one of its nodes. */
+	/**
+	 * Nodes of which each needs a value of the next, and the last one of the first. Each such ring is reported once, by one of its nodes.
+	 */
 	TArray<const UK2Node*> FindCyclesOfPureNodes() const;
 
 	/** Where the link leads at last: past disabled nodes and the ends of collapsed graphs. Empty where it leads nowhere. */

@@ -23,7 +23,8 @@ const UEdGraphSchema_K2& GetSchema()
 bool TakesManyLinks(const UEdGraphPin& Pin)
 {
 	const UK2Node_CallFunction* const Call = Cast<UK2Node_CallFunction>(Pin.GetOwningNodeUnchecked());
-	return GetSchema().IsDelegateCategory(Pin.PinType.PinCategory) || (Call && GetSchema().IsSelfPin(Pin) && Call->AllowMultipleSelfs(false));
+	return GetSchema().IsDelegateCategory(Pin.PinType.PinCategory) ||
+		(Call && GetSchema().IsSelfPin(Pin) && Call->AllowMultipleSelfs(false));
 }
 
 /** The type of the pin when it is of a module or project that is not here: nothing is known of what fits it. */
@@ -164,10 +165,13 @@ void FGraphValidator::ValidateUnlinkedInput(const UK2Node& Node, const UEdGraphP
 		ValidateTarget(Node, Pin);
 		return;
 	}
-	const bool bMustBeLinked = Pin.PinType.bIsReference && Pin.bDefaultValueIsIgnored && !Pin.bHidden && !GetSchema().IsDelegateCategory(Pin.PinType.PinCategory);
+	const bool bMustBeLinked = Pin.PinType.bIsReference && Pin.bDefaultValueIsIgnored && !Pin.bHidden &&
+		!GetSchema().IsDelegateCategory(Pin.PinType.PinCategory);
 	if (bMustBeLinked)
 	{
-		Log.Error(TEXT("The value of '@@' in action '@@' must have an input wired into it (\"by ref\" params expect a valid input to operate on)."), &Pin, &Node);
+		Log.Error(TEXT("The value of '@@' in action '@@' must have an input wired into it (\"by ref\" params expect a valid input to "
+					   "operate on)."),
+			&Pin, &Node);
 		return;
 	}
 	if (UE::CoreUObject::IsPlaceholder(Pin.DefaultObject.Get()))
@@ -178,7 +182,8 @@ void FGraphValidator::ValidateUnlinkedInput(const UK2Node& Node, const UEdGraphP
 	const FString Mistake = Pin.bHidden ? FString() : GetSchema().IsCurrentPinDefaultValid(&Pin);
 	if (!Mistake.IsEmpty())
 	{
-		Log.Error(TEXT("The current value (@@) of the '@@' pin of @@ is invalid: @@"), Pin.GetDefaultAsString().Left(128), &Pin, &Node, Mistake);
+		Log.Error(
+			TEXT("The current value (@@) of the '@@' pin of @@ is invalid: @@"), Pin.GetDefaultAsString().Left(128), &Pin, &Node, Mistake);
 	}
 }
 
@@ -214,7 +219,9 @@ void FGraphValidator::ReportUnreached(const FGraphFlow& Flow)
 							return TakerNode && Flow.IsReached(*TakerNode); }); });
 		if (bIsUsed)
 		{
-			Log.Warning(TEXT("@@ was pruned because its Exec pin is not connected, the connected value is not available and will instead be read as default"), Node);
+			Log.Warning(TEXT("@@ was pruned because its Exec pin is not connected, the connected value is not available and will instead "
+							 "be read as default"),
+				Node);
 		}
 		else
 		{

@@ -3,7 +3,6 @@
 #include "EdGraph/EdGraph.h"
 #include "K2Node_BaseAsyncTask.h"
 #include "K2Node_CallFunction.h"
-#include "K2Node_Composite.h"
 #include "K2Node_MacroInstance.h"
 #include "K2Node_Timeline.h"
 
@@ -12,12 +11,8 @@ namespace
 /** The graph that stands for the node in a compile: of a macro, or collapsed in it. */
 const UEdGraph* GetExpansion(const UEdGraphNode& Node)
 {
-	if (const UK2Node_MacroInstance* const Instance = Cast<UK2Node_MacroInstance>(&Node))
-	{
-		return Instance->GetMacroGraph();
-	}
-	const UK2Node_Composite* const Composite = Cast<UK2Node_Composite>(&Node);
-	return Composite ? Composite->BoundGraph.Get() : nullptr;
+	const UK2Node_Tunnel* const Tunnel = Cast<UK2Node_Tunnel>(&Node);
+	return Tunnel ? Tunnel->GetExpansion() : nullptr;
 }
 
 bool IsLatentItself(const UEdGraphNode& Node)

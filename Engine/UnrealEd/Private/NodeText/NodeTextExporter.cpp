@@ -53,7 +53,8 @@ void FNodeTextExporter::BeginObject(const UObject& Object, int32 Indent, bool bW
 		Out += TEXT(" Class=");
 		Out += Object.GetClass()->GetPathName();
 	}
-	Out += FString::Printf(TEXT(" Name=\"%s\" ExportPath=\"%s'%s'\""), *Object.GetName(), *Object.GetClass()->GetPathName(), *Object.GetPathName());
+	Out += FString::Printf(
+		TEXT(" Name=\"%s\" ExportPath=\"%s'%s'\""), *Object.GetName(), *Object.GetClass()->GetPathName(), *Object.GetPathName());
 	Out += LineEnd;
 }
 
@@ -122,7 +123,8 @@ void FNodeTextExporter::ExportProperty(const FProperty& Property, const UObject&
 	UObject* const Parent = const_cast<UObject*>(&Object);
 	for (int32 Index = 0; Index < Property.ArrayDim; ++Index)
 	{
-		const void* const Default = Property.ContainerPtrToValuePtrForDefaults<void>(Archetype ? Archetype->GetClass() : nullptr, Archetype, Index);
+		const void* const Default = Property.ContainerPtrToValuePtrForDefaults<void>(
+			Archetype ? Archetype->GetClass() : nullptr, Archetype, Index);
 		const void* const Value = Property.ContainerPtrToValuePtr<void>(&Object, Index);
 		if (Default && Property.Identical(Value, Default, CopyPortFlags))
 		{
@@ -138,7 +140,8 @@ void FNodeTextExporter::ExportArray(const FArrayProperty& Property, const UObjec
 {
 	UObject* const Parent = const_cast<UObject*>(&Object);
 	FScriptArrayHelper Elements(&Property, Property.ContainerPtrToValuePtr<void>(&Object));
-	const void* const DefaultArray = Property.ContainerPtrToValuePtrForDefaults<void>(Archetype ? Archetype->GetClass() : nullptr, Archetype);
+	const void* const DefaultArray = Property.ContainerPtrToValuePtrForDefaults<void>(
+		Archetype ? Archetype->GetClass() : nullptr, Archetype);
 	FScriptArrayHelper Defaults(&Property, DefaultArray ? DefaultArray : Property.ContainerPtrToValuePtr<void>(&Object));
 	const int32 NumDefaults = DefaultArray ? Defaults.Num() : 0;
 	for (int32 Index = 0; Index < Elements.Num(); ++Index)

@@ -76,7 +76,8 @@ UClass* FindClassByText(const FString& ClassName)
 		return UEdGraphPin_Deprecated::StaticClass();
 	}
 	int32 Dot = INDEX_NONE;
-	UClass* const Class = ClassName.FindChar(TEXT('.'), Dot) ? FindObject<UClass>(nullptr, *ClassName) : FindFirstObject<UClass>(*ClassName, EFindFirstObjectOptions::NativeFirst);
+	UClass* const Class = ClassName.FindChar(TEXT('.'), Dot) ? FindObject<UClass>(nullptr, *ClassName)
+															 : FindFirstObject<UClass>(*ClassName, EFindFirstObjectOptions::NativeFirst);
 	return Class && !UE::CoreUObject::IsPlaceholder(Class) ? Class : nullptr;
 }
 
@@ -248,10 +249,12 @@ void FNodeTextImporter::ImportProperty(UObject& Object, const FObjectText& Text,
 	FLineFeedback Feedback(Warnings, Text, Line.Line);
 	TArray<FDefinedProperty> Defined;
 	const FString Assignment = Key + TEXT("=") + Value;
-	const TCHAR* const End = FProperty::ImportSingleProperty(*Assignment, &Object, Object.GetClass(), &Object, PPF_Copy | PPF_Delimited | PPF_AttemptNonQualifiedSearch, &Feedback, Defined);
+	const TCHAR* const End = FProperty::ImportSingleProperty(
+		*Assignment, &Object, Object.GetClass(), &Object, PPF_Copy | PPF_Delimited | PPF_AttemptNonQualifiedSearch, &Feedback, Defined);
 	if (!End && !Feedback.HasSpoken())
 	{
-		Warnings.Add(Line.Line, Text.Name, Text.ClassName, FString::Printf(TEXT("'%s' is no value of property '%s'"), *Value.Left(128), *PropertyName));
+		Warnings.Add(Line.Line, Text.Name, Text.ClassName,
+			FString::Printf(TEXT("'%s' is no value of property '%s'"), *Value.Left(128), *PropertyName));
 	}
 }
 
@@ -260,7 +263,8 @@ bool FNodeTextImporter::ImportLegacyPinReference(UObject& Object, const FString&
 	if (UEdGraphNode* const Node = Cast<UEdGraphNode>(&Object))
 	{
 		// The node's list of pin objects: the objects themselves are all that it says.
-		UEdGraphPin_Deprecated* const Pin = Key == TEXT("Pins") ? FindObject<UEdGraphPin_Deprecated>(Node, *GetReferencedPath(Value)) : nullptr;
+		UEdGraphPin_Deprecated* const Pin = Key == TEXT("Pins") ? FindObject<UEdGraphPin_Deprecated>(Node, *GetReferencedPath(Value))
+																: nullptr;
 		if (Pin)
 		{
 			Node->AddDeprecatedPin(Pin);
@@ -306,7 +310,7 @@ void FNodeTextImporter::FinishNodes()
 		Entry.Node->PostEditImport();
 	}
 	MakeLinksMutual();
-	DropRefusedNodes();
+	ReplaceRefusedNodes();
 	MakeNodeGuidsUnique();
 	Result.Nodes.Reserve(Staging->Nodes.Num());
 	for (UEdGraphNode* const Node : Staging->Nodes)
@@ -346,16 +350,30 @@ void FNodeTextImporter::MakeLinksMutual()
 	}
 }
 
-void FNodeTextImporter::DropRefusedNodes()
+void FNodeTextImporter::ReplaceRefusedNodes()
 {
+	TSet<FName> NamesGiven;
 	for (const FPendingNode& Entry : Pending)
 	{
-		if (!Entry.Node->CanPasteHere(&Destination))
+		if (Entry.Node->CanPasteHere(&Destination))
+		{
+			continue;
+		}
+		const UEdGraphSchema* const Schema = Destination.GetSchema();
+		const UEdGraphNode* const Substitute = Schema ? Schema->CreateSubstituteNode(Entry.Node, &Destination, nullptr, NamesGiven)
+													  : nullptr;
+		if (Substitute)
+		{
+			const FString Title = Substitute->GetNodeTitle(ENodeTitleType::ListView).ToString();
+			Warnings.Add(Entry.Text->Line, Entry.Text->Name, Entry.Text->ClassName,
+				FString::Printf(TEXT("The Blueprint cannot have this event, or has it already: it became the custom event '%s'"), *Title));
+		}
+		else
 		{
 			Skipped.Add(Entry.Text->Line, Entry.Text->Name, Entry.Text->ClassName, TEXT("This graph cannot hold the node"));
-			Staging->RemoveNode(Entry.Node);
-			Entry.Node->MarkAsGarbage();
 		}
+		Staging->RemoveNode(Entry.Node);
+		Entry.Node->MarkAsGarbage();
 	}
 }
 

@@ -35,7 +35,7 @@ private:
 	bool ImportLegacyPinReference(UObject& Object, const FString& Key, const FString& Value);
 	void FinishNodes();
 	void MakeLinksMutual();
-	void DropRefusedNodes();
+	void ReplaceRefusedNodes();
 	void MakeNodeGuidsUnique();
 
 	UEdGraph& Destination;

@@ -158,7 +158,8 @@ private:
 		{
 			if (NumTooDeep++ == 0)
 			{
-				Issues.Add(LineNumber, Open.Last()->Name, Open.Last()->ClassName, FString::Printf(TEXT("Objects are nested more than %d deep"), FNodeTextLimits::MaxDepth));
+				Issues.Add(LineNumber, Open.Last()->Name, Open.Last()->ClassName,
+					FString::Printf(TEXT("Objects are nested more than %d deep"), FNodeTextLimits::MaxDepth));
 			}
 			return;
 		}

@@ -45,7 +45,10 @@ public:
 
 	/** Whether a transaction may begin: not while an undo is going on. */
 	bool CanTransact();
-	/** Pair it with EndTransaction. The answer, for CancelTransaction, is INDEX_NONE when no transaction may begin. FScopedTransaction does both. */
+	/**
+	 * Pair it with EndTransaction. The answer, for CancelTransaction, is INDEX_NONE when no transaction may begin. FScopedTransaction
+	 * does both.
+	 */
 	int32 BeginTransaction(const TCHAR* TransactionContext, const FText& Description, UObject* PrimaryObject);
 	int32 BeginTransaction(const FText& Description);
 	int32 EndTransaction();

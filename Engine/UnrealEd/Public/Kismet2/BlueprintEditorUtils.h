@@ -69,7 +69,8 @@ public:
 	static UEdGraphNode* GetNodeByGUID(const UBlueprint* Blueprint, const FGuid& NodeGuid);
 	/** The node where the graph starts: a function's entry or a macro's tunnel. Null without one. */
 	static UK2Node_EditablePinBase* GetEntryNode(const UEdGraph* InGraph);
-	static void GetEntryAndResultNodes(const UEdGraph* InGraph, TWeakObjectPtr<UK2Node_EditablePinBase>& OutEntryNode, TWeakObjectPtr<UK2Node_EditablePinBase>& OutResultNode);
+	static void GetEntryAndResultNodes(const UEdGraph* InGraph, TWeakObjectPtr<UK2Node_EditablePinBase>& OutEntryNode,
+		TWeakObjectPtr<UK2Node_EditablePinBase>& OutResultNode);
 	/** The result node of the entry's function, made and linked to the entry when there is none; null in a graph that is no function. */
 	static UK2Node_FunctionResult* FindOrCreateFunctionResultNode(UK2Node_EditablePinBase* InFunctionEntryNode);
 	/** The event that overrides the function of the class. */
@@ -81,14 +82,16 @@ public:
 	// Graphs
 
 	/** Makes a graph of the classes; it stands in none of the Blueprint's lists yet. A name in use is replaced by a new one. */
-	static UEdGraph* CreateNewGraph(UObject* ParentScope, const FName& GraphName, TSubclassOf<UEdGraph> GraphClass, TSubclassOf<UEdGraphSchema> SchemaClass);
+	static UEdGraph* CreateNewGraph(
+		UObject* ParentScope, const FName& GraphName, TSubclassOf<UEdGraph> GraphClass, TSubclassOf<UEdGraphSchema> SchemaClass);
 	static void AddUbergraphPage(UBlueprint* Blueprint, UEdGraph* Graph);
 	static void AddMacroGraph(UBlueprint* Blueprint, UEdGraph* Graph, bool bIsUserCreated, UClass* SignatureFromClass);
 	/** SignatureFromObject is a UClass (whose function of the graph's name gives the signature), a UFunction, or null. */
 	template <typename SignatureType>
 	static void AddFunctionGraph(UBlueprint* Blueprint, UEdGraph* Graph, bool bIsUserCreated, SignatureType* SignatureFromObject)
 	{
-		AddFunctionGraphFromSignature(Blueprint, Graph, bIsUserCreated, FindSignature(Graph, SignatureFromObject), IsClass(SignatureFromObject));
+		AddFunctionGraphFromSignature(
+			Blueprint, Graph, bIsUserCreated, FindSignature(Graph, SignatureFromObject), IsClass(SignatureFromObject));
 	}
 	static void RemoveGraph(UBlueprint* Blueprint, UEdGraph* GraphToRemove, EGraphRemoveFlags::Type Flags = EGraphRemoveFlags::Default);
 	static void RemoveGraphs(UBlueprint* Blueprint, const TArray<UEdGraph*>& GraphsToRemove);
@@ -105,23 +108,30 @@ public:
 	// Variables
 
 	/** False when the name is taken by a member of the Blueprint or of a parent. */
-	static bool AddMemberVariable(UBlueprint* Blueprint, const FName& NewVarName, const FEdGraphPinType& NewVarType, const FString& DefaultValue = FString());
+	static bool AddMemberVariable(
+		UBlueprint* Blueprint, const FName& NewVarName, const FEdGraphPinType& NewVarType, const FString& DefaultValue = FString());
 	/** Removes the variable, the nodes of the Blueprint that use it and, of a dispatcher, its signature. */
 	static void RemoveMemberVariable(UBlueprint* Blueprint, const FName VarName);
 	static void BulkRemoveMemberVariables(UBlueprint* Blueprint, const TArray<FName>& VarNames);
-	/** Renames the variable with its uses in all loaded Blueprints and, of a dispatcher, its signature. Nothing happens when the name is taken. */
+	/**
+	 * Renames the variable with its uses in all loaded Blueprints and, of a dispatcher, its signature. Nothing happens when the name is
+	 * taken.
+	 */
 	static void RenameMemberVariable(UBlueprint* Blueprint, const FName OldName, const FName NewName);
 	/** A copy of the variable with an id and a unique name of its own; its name, or None. InScope is null or a function. */
 	static FName DuplicateVariable(UBlueprint* InBlueprint, const UStruct* InScope, FName InVariableToDuplicate);
 	/** Puts the one before the other in the user's order. False when either is not there. */
-	static bool MoveVariableBeforeVariable(UBlueprint* Blueprint, UStruct* VariableScope, FName VarNameToMove, FName TargetVarName, bool bDontRecompile);
+	static bool MoveVariableBeforeVariable(
+		UBlueprint* Blueprint, UStruct* VariableScope, FName VarNameToMove, FName TargetVarName, bool bDontRecompile);
 	/** Removes the Blueprint's nodes that use the variable: those of LocalGraphScope's local variable when that is given. */
-	static void RemoveVariableNodes(UBlueprint* Blueprint, const FName& VarName, bool const bForSelfOnly = true, UEdGraph* LocalGraphScope = nullptr);
+	static void RemoveVariableNodes(
+		UBlueprint* Blueprint, const FName& VarName, bool const bForSelfOnly = true, UEdGraph* LocalGraphScope = nullptr);
 	static void ReplaceVariableReferences(UBlueprint* Blueprint, const FName OldName, const FName NewName);
 	static void ReplaceFunctionReferences(UBlueprint* Blueprint, const FName OldName, const FName NewName);
 	/** Whether a node of the Blueprint, or of LocalGraphScope alone, uses the variable. */
 	static bool IsVariableUsed(const UBlueprint* Blueprint, const FName& VariableName, const UEdGraph* LocalGraphScope = nullptr);
-	static void GetUsedAndUnusedVariables(UBlueprint* Blueprint, TArray<FProperty*>& OutUsedVariables, TArray<FProperty*>& OutUnusedVariables);
+	static void GetUsedAndUnusedVariables(
+		UBlueprint* Blueprint, TArray<FProperty*>& OutUsedVariables, TArray<FProperty*>& OutUnusedVariables);
 	/** The new type's nodes follow in all loaded Blueprints. */
 	static void ChangeMemberVariableType(UBlueprint* Blueprint, const FName VariableName, const FEdGraphPinType& NewPinType);
 	static int32 FindNewVariableIndex(const UBlueprint* Blueprint, const FName& InName);
@@ -129,9 +139,12 @@ public:
 	static FName FindMemberVariableNameByGuid(UBlueprint* InBlueprint, const FGuid& InVariableGuid);
 	/** A pointer into the Blueprint's variable; null when there is none. */
 	static uint64* GetBlueprintVariablePropertyFlags(UBlueprint* Blueprint, const FName& VarName);
-	static void SetBlueprintVariableMetaData(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, const FString& MetaDataValue);
-	static bool GetBlueprintVariableMetaData(const UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey, FString& OutMetaDataValue);
-	static void RemoveBlueprintVariableMetaData(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey);
+	static void SetBlueprintVariableMetaData(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope,
+		const FName& MetaDataKey, const FString& MetaDataValue);
+	static bool GetBlueprintVariableMetaData(const UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope,
+		const FName& MetaDataKey, FString& OutMetaDataValue);
+	static void RemoveBlueprintVariableMetaData(
+		UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FName& MetaDataKey);
 	static FText GetBlueprintVariableCategory(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope);
 	/** Makes the variable replicated with notification; None takes the notification off and leaves the replication. */
 	static void SetBlueprintVariableRepNotifyFunc(UBlueprint* Blueprint, const FName& VarName, const FName& RepNotifyFunc);
@@ -143,13 +156,17 @@ public:
 	static void SetVariableSaveGameFlag(UBlueprint* InBlueprint, const FName& InVarName, const bool bInIsSaveGame);
 	static void SetVariableAdvancedDisplayFlag(UBlueprint* InBlueprint, const FName& InVarName, const bool bInIsAdvancedDisplay);
 	static void SetVariableDeprecatedFlag(UBlueprint* InBlueprint, const FName& InVarName, const bool bInIsDeprecated);
-	static void SetBlueprintVariableCategory(UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FText& NewCategory, bool bDontRecompile = false);
+	static void SetBlueprintVariableCategory(
+		UBlueprint* Blueprint, const FName& VarName, const UStruct* InLocalVarScope, const FText& NewCategory, bool bDontRecompile = false);
 	/** Every name of a property of the Blueprint's class, parents included, and of its timelines and components. */
 	static void GetClassVariableList(const UBlueprint* Blueprint, TSet<FName>& VisibleVariables, bool bIncludePrivateVars = false);
 	static TArray<FName> GetBlueprintVariablesNamesList(const UBlueprint* Blueprint);
 	static FName FindUniqueKismetName(const UBlueprint* InBlueprint, const FString& InBaseName, UStruct* InScope = nullptr);
 
-	static FName FindUniqueVariableName(const UBlueprint* InBlueprint, const FString& InBaseName) { return FindUniqueKismetName(InBlueprint, InBaseName); }
+	static FName FindUniqueVariableName(const UBlueprint* InBlueprint, const FString& InBaseName)
+	{
+		return FindUniqueKismetName(InBlueprint, InBaseName);
+	}
 	static FName FindUniqueTimelineName(const UBlueprint* Blueprint);
 	static FName FindUniqueCustomEventName(const UBlueprint* Blueprint);
 
@@ -158,14 +175,18 @@ public:
 	/** Functions and the graphs that are collapsed into them. */
 	static bool DoesSupportLocalVariables(const UEdGraph* InGraph);
 	/** False when the name is taken in the function. */
-	static bool AddLocalVariable(UBlueprint* Blueprint, UEdGraph* InTargetGraph, const FName InNewVarName, const FEdGraphPinType& InNewVarType, const FString& DefaultValue = FString());
+	static bool AddLocalVariable(UBlueprint* Blueprint, UEdGraph* InTargetGraph, const FName InNewVarName,
+		const FEdGraphPinType& InNewVarType, const FString& DefaultValue = FString());
 	/** InScope is the function, as the Blueprint's skeleton or generated class has it. */
 	static void RemoveLocalVariable(UBlueprint* InBlueprint, const UStruct* InScope, const FName InVarName);
 	static void RenameLocalVariable(UBlueprint* InBlueprint, const UStruct* InScope, const FName InOldName, const FName InNewName);
-	static void ChangeLocalVariableType(UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, const FEdGraphPinType& InNewPinType);
+	static void ChangeLocalVariableType(
+		UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, const FEdGraphPinType& InNewPinType);
 	/** Null when there is none. The entry node that holds it comes out with it. */
-	static FBPVariableDescription* FindLocalVariable(UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry = nullptr);
-	static FBPVariableDescription* FindLocalVariable(const UBlueprint* InBlueprint, const UEdGraph* InScopeGraph, const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry = nullptr);
+	static FBPVariableDescription* FindLocalVariable(
+		UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry = nullptr);
+	static FBPVariableDescription* FindLocalVariable(const UBlueprint* InBlueprint, const UEdGraph* InScopeGraph,
+		const FName InVariableName, UK2Node_FunctionEntry** OutFunctionEntry = nullptr);
 	static FName FindLocalVariableNameByGuid(UBlueprint* InBlueprint, const FGuid& InVariableGuid);
 	static FGuid FindLocalVariableGuidByName(UBlueprint* InBlueprint, const UStruct* InScope, const FName InVariableName);
 	static UEdGraph* FindScopeGraph(const UBlueprint* InBlueprint, const UStruct* InScope);
@@ -189,7 +210,10 @@ public:
 	static void MarkBlueprintAsStructurallyModified(UBlueprint* Blueprint);
 	static void RefreshAllNodes(UBlueprint* Blueprint);
 	static void ReconstructAllNodes(UBlueprint* Blueprint);
-	/** Gives a copy of a Blueprint, which names the classes of the original, classes, components and timelines of its own, and compiles it. */
+	/**
+	 * Gives a copy of a Blueprint, which names the classes of the original, classes, components and timelines of its own, and compiles
+	 * it.
+	 */
 	static void PostDuplicateBlueprint(UBlueprint* Blueprint, bool bDuplicateForPIE);
 	static void PreloadMembers(UObject* InObject);
 	static void PreloadBlueprintSpecificData(UBlueprint* Blueprint);
@@ -206,7 +230,8 @@ public:
 
 private:
 	static void AddInterfaceGraphs(UBlueprint& Blueprint, FBPInterfaceDescription& Description);
-	static void AddFunctionGraphFromSignature(UBlueprint* Blueprint, UEdGraph* Graph, bool bIsUserCreated, UFunction* Signature, bool bIsOverride);
+	static void AddFunctionGraphFromSignature(
+		UBlueprint* Blueprint, UEdGraph* Graph, bool bIsUserCreated, UFunction* Signature, bool bIsOverride);
 	static UFunction* FindSignature(const UEdGraph* Graph, UClass* Class);
 	static UFunction* FindSignature(const UEdGraph* Graph, UFunction* Function) { return Function; }
 	static constexpr bool IsClass(const UClass* Class) { return Class != nullptr; }
