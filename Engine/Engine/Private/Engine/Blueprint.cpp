@@ -38,6 +38,15 @@ bool VisitBlueprints(const UClass* InClass, TFunctionRef<bool(const UBlueprint&)
 }
 }
 
+void FEditedDocumentInfo::PostSerialize(const FArchive& Ar)
+{
+	if (Ar.IsLoading() && EditedObject_DEPRECATED)
+	{
+		EditedObjectPath = FSoftObjectPath(EditedObject_DEPRECATED);
+		EditedObject_DEPRECATED = nullptr;
+	}
+}
+
 UBlueprintCore::UBlueprintCore(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
 	, bLegacyNeedToPurgeSkelRefs(true)

@@ -173,10 +173,22 @@ public:
 	{
 	}
 
+	/** Takes over what an older package kept. */
+	void PostSerialize(const FArchive& Ar);
+
 	friend bool operator==(const FEditedDocumentInfo& A, const FEditedDocumentInfo& B)
 	{
 		return A.EditedObjectPath == B.EditedObjectPath && A.SavedZoomAmount == B.SavedZoomAmount;
 	}
+};
+
+template <>
+struct TStructOpsTypeTraits<FEditedDocumentInfo> : public TStructOpsTypeTraitsBase2<FEditedDocumentInfo>
+{
+	enum
+	{
+		WithPostSerialize = true
+	};
 };
 
 /** The class that a component's template had when it was saved, so that a template of a lost class can be told apart. */
