@@ -132,6 +132,44 @@ TEST_F(FHttpLimitTest, CancelWhileTheTokenIsRefreshedEndsTheRequestAtOnce)
 	EXPECT_EQ(Server.GetRequests().size(), 1u);
 }
 
+TEST_F(FHttpLimitTest, ARequestWaitsForATokenThatIsBeingRefreshed)
+{
+	/** A provider in the middle of a refresh, until its result is complete. */
+	struct FRefreshingAuth final : FVexelHttp::IAuthProvider
+	{
+		virtual EAuthResult GetAuthState(FString& OutToken) override
+		{
+			OutToken = TEXT("token-1");
+			return Refresh.IsComplete() && Refresh.Value().HasValue() ? EAuthResult::Authenticated : EAuthResult::Pending;
+		}
+		virtual TVexelTaskResult<void> RefreshToken(const FString& RefusedToken) override
+		{
+			EXPECT_EQ(ToUtf8(RefusedToken), "") << "nothing was refused";
+			return Refresh;
+		}
+
+		TVexelTaskResult<void> Refresh = TVexelTaskResult<void>::MakePending();
+	};
+	FRefreshingAuth Auth;
+	FVexelHttpManager::SetAuthProvider(&Auth);
+	const auto Send = [this]
+	{ return Client->Request(EVexelHttpVerb::Get, TEXT("/guarded")).WithAuth().Send(); };
+	const TSharedRef<FVexelHttpRequest> Waiting = Send();
+	const TSharedRef<FVexelHttpRequest> Cancelled = Send();
+	Cancelled->Cancel();
+	EXPECT_TRUE(Cancelled->Await().Value().GetError().IsA<FVexelError_HttpCancelled>());
+	EXPECT_FALSE(Waiting->Await().IsComplete());
+	Auth.Refresh.Complete(TVexelExpected<void>());
+	EXPECT_TRUE(Await(Waiting->Await()).HasValue());
+	EXPECT_EQ(Server.GetRequests().size(), 1u);
+
+	Auth.Refresh = TVexelTaskResult<void>::MakePending();
+	const TSharedRef<FVexelHttpRequest> Failing = Send();
+	Auth.Refresh.Complete(VEXEL_ERROR_TITLED(FVexelError_Http, "No", "no refresh"));
+	EXPECT_TRUE(Await(Failing->Await()).GetError().IsA<FVexelError_HttpUnauthorized>());
+	FVexelHttpManager::SetAuthProvider(nullptr);
+}
+
 TEST_F(FHttpLimitTest, HeadersThatCouldBeginAnotherOneAreRefusedUnsent)
 {
 	Server.Answer("/a", FScriptedAnswer());

@@ -46,6 +46,10 @@ public:
 	UPROPERTY(Config, EditAnywhere, Category = "Service", AdvancedDisplay)
 	FString AuthTimeoutSeconds;
 
+	/** Port of this machine to which the browser brings a login's answer. */
+	UPROPERTY(Config, EditAnywhere, Category = "Service", AdvancedDisplay)
+	FString AuthCallbackPort;
+
 	/** Seconds that the service may be silent in the middle of an answer. */
 	UPROPERTY(Config, EditAnywhere, Category = "Service", AdvancedDisplay)
 	FString ChatStallTimeoutSeconds;

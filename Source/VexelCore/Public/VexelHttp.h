@@ -56,7 +56,8 @@ public:
 		virtual EAuthResult GetAuthState(FString& OutToken) = 0;
 		/**
 		 * Gets a token in place of one that the service has refused, and completes when GetAuthState() answers it. Called at once
-		 * for several requests that the same token failed; must not wait. A provider that can get none answers an error.
+		 * for several requests that the same token failed; must not wait. A provider that can get none answers an error. An empty
+		 * text asks for the token that is being got already, while GetAuthState() answers Pending.
 		 */
 		virtual TVexelTaskResult<void> RefreshToken(const FString& RefusedToken);
 	};
@@ -107,8 +108,8 @@ public:
 	 */
 	FVexelHttpPendingRequest& WithSecrecy();
 	/**
-	 * Attaches the provider's access token; without one the request fails as FVexelError_HttpUnauthorized, unsent. When the
-	 * service refuses the token with status 401, the provider is asked for another one and the request is sent once more.
+	 * Attaches the provider's access token; without one the request fails as FVexelError_HttpUnauthorized, unsent. It waits for
+	 * one that is being refreshed. When the service refuses the token with status 401, the provider is asked for another one and the request is sent once more.
 	 */
 	FVexelHttpPendingRequest& WithAuth(bool bAuthenticated = true);
 	/** Leaves at once also while the client holds requests: for those that the others are held for. */
@@ -194,6 +195,8 @@ private:
 	void Leave(const FVexelHttpDefaults& Defaults);
 	/** Sends once, with the provider's token of the moment where the request is authenticated. */
 	void SendTransfer();
+	/** Takes the provider's token; false when the request waits for one or has failed. */
+	bool TakeToken();
 	void OnTransferComplete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value);
 	void OnTokenRefreshed(const TVexelExpected<void>& Refreshed, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& FirstAnswer);
 	void Complete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value);
@@ -219,6 +222,7 @@ private:
 	FString UsedToken;
 	bool bAuthenticated = false;
 	bool bSentAgain = false;
+	bool bWaitedForToken = false;
 };
 
 /** A finished answer. Immutable. */

@@ -29,5 +29,9 @@ FVexelHttp::IAuthProvider::EAuthResult FVexelAuthProvider::GetAuthState(FString&
 
 TVexelTaskResult<void> FVexelAuthProvider::RefreshToken(const FString& RefusedToken)
 {
+	if (RefusedToken.IsEmpty() && FVexelAuth::GetState() == FVexelAuth::EState::LoggingIn)
+	{
+		return VEXEL_ERROR(FVexelError_Auth, "The login may take the user minutes, and is not waited for");
+	}
 	return FVexelAuth::RefreshRefusedToken(RefusedToken);
 }

@@ -318,17 +318,40 @@ void FVexelHttpRequest::CompleteFailed(const TCHAR* Reason)
 	Complete(VEXEL_ERROR_TITLED(FVexelError_Http, "Request failed", "%s: %s", *Address, Reason));
 }
 
+bool FVexelHttpRequest::TakeToken()
+{
+	using EAuthResult = FVexelHttp::IAuthProvider::EAuthResult;
+	const EAuthResult State = FVexelHttpManager::GetAuthState(UsedToken);
+	if (State == EAuthResult::Pending && !bWaitedForToken)
+	{
+		bWaitedForToken = true;
+		BeginWaiting();
+		FVexelHttpManager::RefreshToken(FString()).OnComplete([This = AsShared()](const TVexelExpected<void>&)
+			{
+				if (This->EndWaiting())
+				{
+					This->SendTransfer();
+				} });
+		return false;
+	}
+	if (State != EAuthResult::Authenticated)
+	{
+		Complete(VEXEL_ERROR_TITLED(FVexelError_HttpUnauthorized, "Not logged in", "%s needs a login", *Address));
+		return false;
+	}
+	FVexelSecrets::Add(UsedToken);
+	return true;
+}
+
 void FVexelHttpRequest::SendTransfer()
 {
+	if (bAuthenticated && !TakeToken())
+	{
+		return;
+	}
 	FVexelHttpTransferSetup Now = *Setup;
 	if (bAuthenticated)
 	{
-		if (FVexelHttpManager::GetAuthState(UsedToken) != FVexelHttp::IAuthProvider::EAuthResult::Authenticated)
-		{
-			Complete(VEXEL_ERROR_TITLED(FVexelError_HttpUnauthorized, "Not logged in", "%s needs a login", *Address));
-			return;
-		}
-		FVexelSecrets::Add(UsedToken);
 		SetHeader(Now.Headers, TEXT("Authorization"), TEXT("Bearer ") + UsedToken);
 	}
 	const TSharedRef<FVexelHttpTransfer> Sent = MakeShared<FVexelHttpTransfer>(MoveTemp(Now));
