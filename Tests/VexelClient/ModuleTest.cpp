@@ -56,7 +56,8 @@ protected:
 		FVexelSecureStorage::SetDirectory(GetProjectDir() / TEXT("ModuleSecrets"));
 		fs::remove_all(GetCacheDirectory());
 		Server.Answer("/api/auth/plugin-client-id", FScriptedAnswer::Json(R"({"clientId":"plugin"})"));
-		Server.Answer("/api/v2/status.json", FScriptedAnswer::Json(R"({"status":{"indicator":"minor","description":"Slow"}})"));
+		Server.AnswerWith("/api/v2/status.json", [](const FScriptedRequest&)
+			{ return FScriptedAnswer::Json(R"({"status":{"indicator":"minor","description":"Slow"}})"); });
 		Server.Answer("/oauth/token",
 			FScriptedAnswer::Json("{\"access_token\":\"" + std::string(AccessToken) + R"(","refresh_token":"next","expires_in":3600})"));
 		SetFeatures({});
