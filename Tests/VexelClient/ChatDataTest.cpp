@@ -1,14 +1,8 @@
-#include "Blueprint/VexelBlueprintMapping.h"
-#include "Chat/VexelChatHistoryManager.h"
 #include "Containers/StringConv.h"
 #include "Data/VexelChatConversation.h"
-#include "HAL/FileManager.h"
 #include "LogCapture.h"
-#include "Misc/FileHelper.h"
-#include "Misc/Paths.h"
 #include "VexelJson.h"
 
-#include <filesystem>
 #include <gtest/gtest.h>
 
 namespace
@@ -47,22 +41,6 @@ FVexelChatMessage MakeAnswer()
 	Message.AddBlock(FVexelChatMessageBlock::MakeText(TEXT("after")));
 	return Message;
 }
-
-/** A directory of its own for each test, gone at its end. */
-class ChatHistory : public testing::Test
-{
-protected:
-	ChatHistory()
-	{
-		std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-history-XXXXXX").string();
-		Path = mkdtemp(Pattern.data());
-		Directory = FString(UTF8_TO_TCHAR(Path.c_str()));
-	}
-	~ChatHistory() override { std::filesystem::remove_all(Path); }
-
-	std::filesystem::path Path;
-	FString Directory;
-};
 }
 
 TEST(ChatMessage, EveryBlockSurvivesItsStoredForm)
@@ -91,23 +69,31 @@ TEST(ChatMessage, BadStoredFormsAreRefusedAndSaid)
 	EXPECT_TRUE(Log.Contains("Unknown role 'tool' in FromJson"));
 	EXPECT_FALSE(Message.FromJson(Parse(TEXT(R"({"message_blocks":[]})"))));
 	EXPECT_TRUE(Log.Contains("Missing role field in FromJson"));
-	EXPECT_TRUE(Message.FromJson(
-		Parse(TEXT(R"({"role":"user","message_blocks":[3,{"type":"text"},{"type":"poem"},{"type":"text","content":"x"}]})"))));
-	EXPECT_EQ(Message.NumBlocks(), 1);
+	EXPECT_FALSE(Message.FromJson(Parse(TEXT(R"({"role":"user","message_blocks":{}})"))));
+	const TCHAR* const Stored =
+		TEXT(R"({"role":"user","failed":false,"message_blocks":[3,{"type":"text"},{"type":"poem","lines":[1]},{"type":"text","content":"x"},null]})");
+	EXPECT_TRUE(Message.FromJson(Parse(Stored)));
+	ASSERT_EQ(Message.NumBlocks(), 5);
+	EXPECT_EQ(Message.GetBlocks()[2].GetType(), EVexelChatMessageBlockType::Unknown);
+	EXPECT_EQ(Message.GetText(), FString(TEXT("x")));
+	EXPECT_EQ(ToText(Message.ToJson()), TCHAR_TO_UTF8(Stored)) << "what cannot be read goes back as it came";
 	EXPECT_TRUE(Log.Contains("Invalid or missing message block in FromJson"));
 	EXPECT_TRUE(Log.Contains("Missing content field in FromJson for Text block"));
-	EXPECT_EQ(Message.GetMessageBlock(1), nullptr);
-	EXPECT_TRUE(Log.Contains("GetMessageBlock: Index 1 out of bounds (0-0)"));
+	EXPECT_EQ(Message.GetMessageBlock(5), nullptr);
+	EXPECT_TRUE(Log.Contains("GetMessageBlock: Index 5 out of bounds (0-4)"));
 }
 
 TEST(ChatMessage, ServiceFormIsAStringUntilThereAreImages)
 {
 	FVexelChatMessage Message(EVexelChatRole::User);
 	Message.AddBlock(FVexelChatMessageBlock::MakeText(TEXT("Look")));
-	EXPECT_EQ(Message.ToServiceJson()->GetStringField(TEXT("content")), FString(TEXT("Look")));
+	const auto Images = [](const FString& AssetId)
+	{ return AssetId.Equals(TEXT("img")) ? TArray<uint8>{1, 2, 3} : TArray<uint8>(); };
+	EXPECT_EQ(Message.ToServiceJson(Images)->GetStringField(TEXT("content")), FString(TEXT("Look")));
 
-	Message.AddBlock(FVexelChatMessageBlock::MakeImage(TEXT("img"), {1, 2, 3}));
-	const TSharedRef<FJsonObject> ServiceForm = Message.ToServiceJson();
+	Message.AddBlock(FVexelChatMessageBlock::MakeImage(TEXT("img")));
+	Message.AddBlock(FVexelChatMessageBlock::MakeImage(TEXT("gone")));
+	const TSharedRef<FJsonObject> ServiceForm = Message.ToServiceJson(Images);
 	const TArray<TSharedPtr<FJsonValue>>& Parts = ServiceForm->GetArrayField(TEXT("content"));
 	ASSERT_EQ(Parts.Num(), 2);
 	EXPECT_EQ(ToText(Parts[0]->AsObject().ToSharedRef()), R"({"type":"text","text":"Look"})");
@@ -156,48 +142,4 @@ TEST(ChatConversation, RevertsToACheckpoint)
 	EXPECT_EQ(Conversation.GetMessages()[1].NumBlocks(), 2);
 	EXPECT_EQ(Conversation.FindLastCheckpointId(), FString(TEXT("first")));
 	EXPECT_TRUE(Log.Contains("[Conversation] Revert finished. Messages remaining: 2, Removed: 1"));
-}
-
-TEST_F(ChatHistory, ConversationsComeBackNewestFirst)
-{
-	FVexelChatHistoryManager Written(Directory);
-	for (const TCHAR* const Stored :
-		{TEXT(R"({"UserId":"u","ChatId":"newer","Title":"t","ChatMode":"vexel_agent","UpdateTime":"2026-03-01T10:00:00.500Z"})"),
-			TEXT(R"({"UserId":"u","ChatId":"older","Title":"t","ChatMode":"vexel_agent","UpdateTime":"2026-03-01T10:00:00.499Z"})")})
-	{
-		const TSharedRef<FVexelChatConversation> Conversation = MakeShared<FVexelChatConversation>();
-		ASSERT_TRUE(Conversation->FromJson(Parse(Stored)));
-		Written.Add(Conversation);
-		ASSERT_TRUE(Written.Save(*Conversation).HasValue());
-	}
-	FVexelChatHistoryManager Read(Directory);
-	Read.Load();
-	const TArray<TSharedRef<FVexelChatConversation>> Conversations = Read.GetConversations();
-	ASSERT_EQ(Conversations.Num(), 2);
-	EXPECT_EQ(Conversations[0]->GetChatId(), FString(TEXT("newer")));
-	EXPECT_EQ(ToText(Conversations[0]->ToJson()), ToText(Written.Find(TEXT("newer"))->ToJson()));
-	EXPECT_TRUE(Read.Delete(TEXT("older")));
-	EXPECT_FALSE(Read.Delete(TEXT("older")));
-	EXPECT_EQ(std::distance(std::filesystem::directory_iterator(Path), {}), 1);
-}
-
-TEST_F(ChatHistory, ADamagedFileIsSetAsideAndKept)
-{
-	const FString File = Directory / TEXT("broken.json");
-	ASSERT_TRUE(FFileHelper::SaveStringToFile(TEXT("{\"ChatId\":\"broken\",\"Messa"), *File));
-	FLogCapture Log;
-	FVexelChatHistoryManager History(Directory);
-	History.Load();
-	EXPECT_TRUE(History.GetConversations().IsEmpty());
-	EXPECT_FALSE(FPaths::FileExists(File));
-	EXPECT_TRUE(FPaths::FileExists(File + TEXT(".damaged")));
-	EXPECT_TRUE(Log.Contains("is damaged; it is kept as"));
-}
-
-TEST_F(ChatHistory, AnIdThatIsAPathIsNotWritten)
-{
-	FVexelChatHistoryManager History(Directory);
-	const FVexelChatConversation Conversation(TEXT("u"), TEXT("../escape"), FVexelChatModeInfo(TEXT("vexel_agent"), TEXT("Agent"), true));
-	EXPECT_TRUE(History.Save(Conversation).HasError());
-	EXPECT_FALSE(std::filesystem::exists(Path.parent_path() / "escape.json"));
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "CoreTypes.h"
+#include "Internationalization/Text.h"
 
 /** Something that is drawn. */
 class SWidget
@@ -12,4 +12,10 @@ public:
 /** A window of the desktop. */
 class SWindow : public SWidget
 {
+public:
+	FText GetTitle() const { return Title; }
+	void SetTitle(const FText& InTitle) { Title = InTitle; }
+
+private:
+	FText Title;
 };

@@ -26,8 +26,6 @@
 
 namespace
 {
-const TCHAR* const NodeNamesKey = TEXT("node_agent_names");
-
 /** What a node's ids begin with: its menu title, in the language of the source, without spaces. */
 FString MakeBaseName(const UEdGraphNode& Node)
 {
@@ -95,22 +93,6 @@ UBlueprint* GetLevelScript(UObject* Asset)
 	const UWorld* const World = Cast<UWorld>(Asset);
 	return World && World->PersistentLevel ? World->PersistentLevel->GetLevelScriptBlueprint() : nullptr;
 }
-}
-
-TSharedRef<FJsonObject> FVexelBlueprintMapping::ToJson() const
-{
-	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	Object->SetObjectField(NodeNamesKey, NodeNames.ToJson());
-	return Object;
-}
-
-void FVexelBlueprintMapping::FromJson(const TSharedRef<FJsonObject>& Object)
-{
-	const TSharedPtr<FJsonObject>* Names = nullptr;
-	if (Object->TryGetObjectField(NodeNamesKey, Names) && Names->IsValid())
-	{
-		NodeNames.FromJson(Names->ToSharedRef());
-	}
 }
 
 TVexelBlueprintId FVexelBlueprintMapping::MakeBlueprintReference(const UBlueprint& Blueprint)

@@ -1,118 +1,161 @@
 #include "Chat/VexelChatHistoryManager.h"
 
 #include "Data/VexelChatConversation.h"
-#include "HAL/FileManager.h"
-#include "Misc/FileHelper.h"
 #include "Misc/Guid.h"
-#include "Misc/Paths.h"
-#include "VexelFile.h"
 #include "VexelLog.h"
 
-namespace
+FVexelChatHistoryManager::FVexelChatHistoryManager(FString Directory)
+	: Files(MoveTemp(Directory))
+	, Index(Files)
 {
-/** An id that is a file name and nothing more. Ids of stored files are outside text. */
-bool IsSafeChatId(const FString& ChatId)
-{
-	for (const TCHAR Character : ChatId)
+	if (Files.HasDirectory())
 	{
-		if (!FChar::IsAlnum(Character) && Character != TEXT('-') && Character != TEXT('_'))
+		const TVexelExpected<FVexelFileLock> Lock = Files.Lock();
+		if (Lock.HasValue())
 		{
-			return false;
+			Files.RemoveTemporaryFiles();
 		}
 	}
-	return !ChatId.IsEmpty() && ChatId.Len() <= 128;
 }
 
-FDateTime GetOrderTime(const FVexelChatConversation& Conversation)
+TArray<FVexelChatHeader> FVexelChatHistoryManager::GetHeaders()
 {
-	return Conversation.GetUpdateTime().Get(Conversation.GetCreationTime().Get(FDateTime::MinValue()));
-}
-}
-
-FVexelChatHistoryManager::FVexelChatHistoryManager(FString InDirectory)
-	: Directory(MoveTemp(InDirectory))
-{
-}
-
-void FVexelChatHistoryManager::Load()
-{
-	TArray<FString> FileNames;
-	IFileManager::Get().FindFiles(FileNames, *(Directory / TEXT("*.json")), true, false);
-	for (const FString& FileName : FileNames)
+	const TVexelChatIdMap<FVexelChatHeader>& Stored = Index.Refresh();
+	TArray<FVexelChatHeader> Headers;
+	Headers.Reserve(Stored.Num() + OpenChats.Num());
+	for (const auto& [ChatId, Header] : Stored)
 	{
-		LoadFile(Directory / FileName);
+		const FOpenChat* const Open = OpenChats.Find(ChatId);
+		const bool bChangedHere = Open && Open->Conversation->GetRevision() != Open->SyncPoint.Revision;
+		Headers.Add(bChangedHere ? Open->Conversation->MakeHeader() : Header);
 	}
+	for (const auto& [ChatId, Open] : OpenChats)
+	{
+		if (!Stored.Contains(ChatId))
+		{
+			Headers.Add(Open.Conversation->MakeHeader());
+		}
+	}
+	Headers.StableSort([](const FVexelChatHeader& A, const FVexelChatHeader& B)
+		{ return A.GetOrderTime() > B.GetOrderTime(); });
+	return Headers;
 }
 
 void FVexelChatHistoryManager::Add(const TSharedRef<FVexelChatConversation>& Conversation)
 {
-	Conversations.Add(Conversation->GetChatId(), Conversation);
+	OpenChats.Add(Conversation->GetChatId(), {Conversation, FVexelChatSyncPoint(), FVexelChatFileStamp()});
 }
 
-TVexelExpected<void> FVexelChatHistoryManager::Save(const FVexelChatConversation& Conversation)
+TSharedPtr<FVexelChatConversation> FVexelChatHistoryManager::Find(const FString& ChatId)
 {
-	FString Text;
-	if (!IsSafeChatId(Conversation.GetChatId()) || !FVexelJsonConversions::JsonToPrettyString(Conversation.ToJson(), Text))
+	if (const FOpenChat* const Open = OpenChats.Find(ChatId))
 	{
-		return VEXEL_ERROR_TITLED(
-			FVexelError, "Conversation not saved", "The conversation '%s' cannot be written as JSON", *Conversation.GetChatId());
+		return Open->Conversation;
 	}
-	VEXEL_TRY_VOID(
-		FVexelFile::SaveWhole(GetFilePath(Conversation.GetChatId()), Text), "while saving conversation '%s'", *Conversation.GetChatId());
+	if (!FVexelChatHistoryFiles::IsSafeChatId(ChatId) || !Files.HasFile(ChatId))
+	{
+		return nullptr;
+	}
+	const TVexelExpected<FVexelFileLock> Lock = Files.Lock();
+	const FVexelStoredChat Stored = Files.Read(ChatId, Lock.HasValue());
+	if (!Stored.Conversation)
+	{
+		return nullptr;
+	}
+	OpenChats.Add(ChatId,
+		{Stored.Conversation.ToSharedRef(), FVexelChatSyncPoint(*Stored.Conversation, *Stored.Hash), Files.GetStamp(ChatId)});
+	return Stored.Conversation;
+}
+
+bool FVexelChatHistoryManager::Refresh(const FString& ChatId)
+{
+	FOpenChat* const Open = OpenChats.Find(ChatId);
+	if (!Open || !Files.HasFile(ChatId) || Open->Stamp.StillHolds(Files.GetStamp(ChatId)))
+	{
+		return false;
+	}
+	const TVexelExpected<FVexelFileLock> Lock = Files.Lock();
+	const FVexelStoredChat Stored = Files.Read(ChatId, Lock.HasValue(), Open->SyncPoint.FileHash);
+	Open->Stamp = Stored.Hash ? Files.GetStamp(ChatId) : FVexelChatFileStamp();
+	if (!Stored.Conversation)
+	{
+		return false;
+	}
+	FVexelChatConversation& Conversation = *Open->Conversation;
+	const bool bChangedHere = Conversation.GetRevision() != Open->SyncPoint.Revision;
+	const EVexelChatMerge Merge = MergeStoredChat(Conversation, Open->SyncPoint, *Stored.Conversation, *Stored.Hash);
+	if (bChangedHere)
+	{
+		return Merge != EVexelChatMerge::Diverged;
+	}
+	if (Merge != EVexelChatMerge::TakenIn)
+	{
+		Conversation.FromJson(Stored.Conversation->ToJson());
+	}
+	Open->SyncPoint = FVexelChatSyncPoint(Conversation, *Stored.Hash);
+	return true;
+}
+
+TVexelExpected<void> FVexelChatHistoryManager::Save(const FString& ChatId)
+{
+	FOpenChat* const Open = OpenChats.Find(ChatId);
+	if (!Open || !FVexelChatHistoryFiles::IsSafeChatId(ChatId))
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Conversation not saved", "There is no open conversation '%s' that can be stored", *ChatId);
+	}
+	VEXEL_TRY(const FVexelFileLock Lock, Files.Lock(), "while saving conversation '%s'", *ChatId);
+	VEXEL_TRY_VOID(TakeInStored(*Open), "while saving conversation '%s'", *ChatId);
+	VEXEL_TRY(const uint64 Hash, Files.Write(*Open->Conversation));
+	Open->SyncPoint = FVexelChatSyncPoint(*Open->Conversation, Hash);
+	Open->Stamp = Files.GetStamp(ChatId);
 	return TVexelExpected<void>();
 }
 
 bool FVexelChatHistoryManager::Delete(const FString& ChatId)
 {
-	if (Conversations.Remove(ChatId) == 0)
+	const bool bOpen = OpenChats.Remove(ChatId) > 0;
+	if (!FVexelChatHistoryFiles::IsSafeChatId(ChatId) || !Files.HasFile(ChatId))
 	{
+		return bOpen;
+	}
+	const TVexelExpected<FVexelFileLock> Lock = Files.Lock();
+	if (Lock.HasError())
+	{
+		VEXEL_LOG(Warning, "The conversation '%s' is not deleted: %s", *ChatId, *Lock.GetError().ToShortString());
 		return false;
 	}
-	IFileManager::Get().Delete(*GetFilePath(ChatId), false, true, true);
+	Files.Delete(ChatId);
 	return true;
 }
 
-TSharedPtr<FVexelChatConversation> FVexelChatHistoryManager::Find(const FString& ChatId) const
+TVexelExpected<void> FVexelChatHistoryManager::TakeInStored(FOpenChat& Open)
 {
-	const TSharedRef<FVexelChatConversation>* const Found = Conversations.Find(ChatId);
-	return Found ? Found->ToSharedPtr() : nullptr;
+	const FString& ChatId = Open.Conversation->GetChatId();
+	const FVexelStoredChat Stored = Files.Read(ChatId, true, Open.SyncPoint.FileHash);
+	if (!Stored.Conversation)
+	{
+		if (!Stored.Hash && Files.HasFile(ChatId))
+		{
+			return VEXEL_ERROR_TITLED(FVexelError, "Conversation not saved", "'%s' cannot be read, and may hold what is not here",
+				*Files.GetPath(ChatId));
+		}
+		return TVexelExpected<void>();
+	}
+	if (MergeStoredChat(*Open.Conversation, Open.SyncPoint, *Stored.Conversation, *Stored.Hash) == EVexelChatMerge::Diverged)
+	{
+		VEXEL_TRY_VOID(KeepAsCopy(Stored.Conversation.ToSharedRef()), "while keeping what another editor has stored");
+		Open.SyncPoint.FileHash = Stored.Hash;
+	}
+	return TVexelExpected<void>();
 }
 
-TArray<TSharedRef<FVexelChatConversation>> FVexelChatHistoryManager::GetConversations() const
+TVexelExpected<void> FVexelChatHistoryManager::KeepAsCopy(const TSharedRef<FVexelChatConversation>& Stored)
 {
-	TArray<TSharedRef<FVexelChatConversation>> Result;
-	Conversations.GenerateValueArray(Result);
-	Result.StableSort([](const TSharedRef<FVexelChatConversation>& A, const TSharedRef<FVexelChatConversation>& B)
-		{ return GetOrderTime(*A) > GetOrderTime(*B); });
-	return Result;
-}
-
-FString FVexelChatHistoryManager::GetFilePath(const FString& ChatId) const
-{
-	return Directory / ChatId + TEXT(".json");
-}
-
-void FVexelChatHistoryManager::LoadFile(const FString& Path)
-{
-	FString Text;
-	const TSharedRef<FVexelChatConversation> Conversation = MakeShared<FVexelChatConversation>();
-	const bool bRead = FFileHelper::LoadFileToString(Text, *Path);
-	if (bRead && Conversation->FromJsonString(Text) && IsSafeChatId(Conversation->GetChatId()))
-	{
-		Add(Conversation);
-		return;
-	}
-	if (!bRead)
-	{
-		VEXEL_LOG(Warning, "The conversation file '%s' cannot be opened", *Path);
-		return;
-	}
-	FString Aside = Path + TEXT(".damaged");
-	if (IFileManager::Get().FileExists(*Aside))
-	{
-		// An earlier damaged file may be all that is left of another conversation.
-		Aside = Path + TEXT(".") + FGuid::NewGuid().ToString() + TEXT(".damaged");
-	}
-	IFileManager::Get().Move(*Aside, *Path, false, true);
-	VEXEL_LOG(Warning, "The conversation file '%s' is damaged; it is kept as '%s'", *Path, *Aside);
+	const FString CopyId = FGuid::NewGuid().ToString(EGuidFormats::DigitsWithHyphensLower);
+	VEXEL_LOG(Warning, "The conversation '%s' was changed by another editor at the same time; that state is kept as '%s'",
+		*Stored->GetChatId(), *CopyId);
+	Stored->SetChatId(CopyId);
+	Stored->SetTitle(Stored->GetTitle() + TEXT(" (copy)"));
+	VEXEL_TRY_VOID(Files.Write(*Stored));
+	return TVexelExpected<void>();
 }

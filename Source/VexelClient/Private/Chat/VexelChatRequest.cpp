@@ -1,5 +1,6 @@
 #include "Chat/VexelChatRequest.h"
 
+#include "Chat/VexelChatImageStore.h"
 #include "Chat/VexelEditorContext.h"
 #include "Misc/EngineVersion.h"
 #include "VexelErrorContext.h"
@@ -14,18 +15,26 @@ constexpr double MaxStallTimeoutSeconds = 24.0 * 60.0 * 60.0;
 
 /** No answer that a person reads comes near it. */
 constexpr int32 MaxAnswerBytes = 64 << 20;
+
+/** Images of a long conversation that go along with a turn. */
+constexpr int32 MaxImageBytesInRequest = 40 << 20;
+
+/** What of an answer that tells of an error is shown to the user. */
+constexpr int32 MaxDetailLength = 2000;
 }
 
-FVexelChatRequest::FVexelChatRequest(
-	const TSharedRef<FVexelChatConversation>& InConversation, FVexelChatMessage InPrompt, FString InCheckpointId, FString InUserId)
+FVexelChatRequest::FVexelChatRequest(const TSharedRef<FVexelChatConversation>& InConversation, FVexelChatMessage InPrompt,
+	FString InCheckpointId, FString InUserId, TSharedPtr<const FVexelChatImageStore> InImages)
 	: Conversation(InConversation)
 	, Prompt(MoveTemp(InPrompt))
-	, Response(EVexelChatRole::Assistant, EVexelChatMessageState::InProgress)
 	, CheckpointId(MoveTemp(InCheckpointId))
 	, UserId(MoveTemp(InUserId))
-	, Sink(*this)
-	, Parser(Sink)
+	, Images(MoveTemp(InImages))
 {
+	Reader.OnBlock = [this](int32 BlockIndex)
+	{ OnBlock.ExecuteIfBound(AsShared(), BlockIndex); };
+	Reader.OnTextAdded = [this](int32 BlockIndex, FStringView Text)
+	{ OnText.ExecuteIfBound(AsShared(), BlockIndex, Text); };
 }
 
 FVexelChatRequest::~FVexelChatRequest()
@@ -83,49 +92,43 @@ void FVexelChatRequest::Cancel()
 		VEXEL_LOG(Warning, "Attempted to cancel a chat request that is not valid.");
 		return;
 	}
+	bCancelled = true;
+	Reader.Stop();
 	HttpRequest->Cancel();
 }
 
 void FVexelChatRequest::OnBodyReceived(TConstArrayView<uint8> WholeBody)
 {
-	if (WholeBody.Num() < NumProcessedBytes)
-	{
-		VEXEL_LOG(Warning, "Received response bytes are less than already processed bytes. Ignoring.");
-		return;
-	}
-	const TConstArrayView<uint8> NewBytes = WholeBody.RightChop(int32(NumProcessedBytes));
-	if (NewBytes.IsEmpty())
-	{
-		return;
-	}
 	const TSharedRef<FJsonObject> ScopeData = MakeShared<FJsonObject>();
-	ScopeData->SetNumberField(TEXT("new_bytes"), NewBytes.Num());
+	ScopeData->SetNumberField(TEXT("new_bytes"), WholeBody.Num() - Reader.GetNumProcessedBytes());
 	ScopeData->SetNumberField(TEXT("response_bytes"), WholeBody.Num());
 	FVexelErrorContextScope Scope(TEXT("chunk_processing"), ScopeData);
 
-	VEXEL_LOG(VeryVerbose, "[Vexel] Before UTF-8 convert, payload size = %d", NewBytes.Num());
-	FString Text = Utf8Stream.Convert(NewBytes);
-	NumProcessedBytes = WholeBody.Num();
-	ParseOnGameThread(MoveTemp(Text));
-}
-
-void FVexelChatRequest::ParseOnGameThread(FString Text)
-{
+	FString Text = Reader.TakeNewText(WholeBody);
 	if (IsInGameThread())
 	{
-		Parser.Parse(Text);
+		Reader.Read(Text);
 		return;
 	}
 	FVexelTaskManager::ScheduleFunc(EVexelTaskThread::GameThread,
 		[WeakThis = AsWeak(), Context = FVexelErrorContext::Capture(), Text = MoveTemp(Text)]
 		{
 			FVexelErrorContextRestore Restore(Context);
-			const TSharedPtr<FVexelChatRequest> This = WeakThis.Pin();
-			if (This && This->State == EVexelChatRequestState::InProgress)
+			if (const TSharedPtr<FVexelChatRequest> This = WeakThis.Pin())
 			{
-				This->Parser.Parse(Text);
+				This->Reader.Read(Text);
 			}
 		});
+}
+
+void FVexelChatRequest::AddPromptToConversation()
+{
+	PromptKey = Conversation->GetMessageKey(Conversation->AddMessage(Prompt));
+}
+
+int32 FVexelChatRequest::FindPromptInConversation() const
+{
+	return Conversation->FindMessageByKey(PromptKey);
 }
 
 void FVexelChatRequest::PushSubAgentChatId(const FString& SubChatId)
@@ -149,28 +152,6 @@ FString FVexelChatRequest::GetChatIdForToolReply() const
 	return SubAgentChatIds.IsEmpty() ? GetChatId() : SubAgentChatIds.Last();
 }
 
-void FVexelChatRequest::FSink::OnText(FStringView Text)
-{
-	bool bNewBlock = false;
-	const int32 BlockIndex = Request.Response.AppendText(Text, bNewBlock);
-	if (bNewBlock)
-	{
-		Request.OnBlock.ExecuteIfBound(Request.AsShared(), BlockIndex);
-	}
-	Request.OnText.ExecuteIfBound(Request.AsShared(), BlockIndex, Text);
-}
-
-void FVexelChatRequest::FSink::OnTag(EVexelChatMessageBlockType Type, const TSharedRef<FJsonObject>& Info)
-{
-	if (Type == EVexelChatMessageBlockType::Text)
-	{
-		VEXEL_LOG(Warning, "Unexpected block type %d in content processing, reverting to text", int32(Type));
-		return;
-	}
-	const int32 BlockIndex = Request.Response.AddBlock(FVexelChatMessageBlock::MakeFromTag(Type, Info));
-	Request.OnBlock.ExecuteIfBound(Request.AsShared(), BlockIndex);
-}
-
 TSharedPtr<FJsonObject> FVexelChatRequest::PreparePayload() const
 {
 	if (!Conversation->IsValid())
@@ -183,7 +164,6 @@ TSharedPtr<FJsonObject> FVexelChatRequest::PreparePayload() const
 		VEXEL_LOG(Error, "Attempted to prepare JSON payload for a conversation with an invalid chat mode.");
 		return nullptr;
 	}
-	TArray<TSharedPtr<FJsonValue>> Messages;
 	for (const FVexelChatMessage& Message : Conversation->GetMessages())
 	{
 		if (!Message.IsValid())
@@ -191,9 +171,7 @@ TSharedPtr<FJsonObject> FVexelChatRequest::PreparePayload() const
 			VEXEL_LOG(Error, "Encountered an invalid chat message in conversation history.");
 			return nullptr;
 		}
-		Messages.Add(MakeShared<FJsonValueObject>(Message.ToServiceJson()));
 	}
-	Messages.Add(MakeShared<FJsonValueObject>(Prompt.ToServiceJson()));
 
 	const FEngineVersion& EngineVersion = FEngineVersion::Current();
 	const TSharedRef<FJsonObject> Payload = MakeShared<FJsonObject>();
@@ -204,9 +182,42 @@ TSharedPtr<FJsonObject> FVexelChatRequest::PreparePayload() const
 	Payload->SetStringField(TEXT("chat_mode"), Conversation->GetChatMode().ChatMode);
 	Payload->SetStringField(
 		TEXT("engine_version"), FString::Printf(TEXT("%d.%d"), int32(EngineVersion.GetMajor()), int32(EngineVersion.GetMinor())));
-	Payload->SetArrayField(TEXT("messages"), Messages);
+	Payload->SetArrayField(TEXT("messages"), PrepareMessages());
 	Payload->SetObjectField(TEXT("context"), FVexelEditorContext::Capture().ToJson());
 	return Payload;
+}
+
+TArray<TSharedPtr<FJsonValue>> FVexelChatRequest::PrepareMessages() const
+{
+	TArray<const FVexelChatMessage*> Messages;
+	Messages.Reserve(Conversation->GetMessages().Num() + 1);
+	for (const FVexelChatMessage& Message : Conversation->GetMessages())
+	{
+		Messages.Add(&Message);
+	}
+	Messages.Add(&Prompt);
+
+	int32 NumImageBytes = 0;
+	const auto LoadImage = [&](const FString& AssetId)
+	{
+		TArray<uint8> Bytes = Images ? Images->Load(GetChatId(), AssetId) : TArray<uint8>();
+		NumImageBytes += Bytes.Num();
+		if (Bytes.IsEmpty() || NumImageBytes > MaxImageBytesInRequest)
+		{
+			VEXEL_LOG(Warning, "The image '%s' is %s and is not sent", *AssetId,
+				Bytes.IsEmpty() ? TEXT("not at hand") : TEXT("one too many in this conversation"));
+			return TArray<uint8>();
+		}
+		return Bytes;
+	};
+	// From the last one, because the newest images are those that the turn is about.
+	TArray<TSharedPtr<FJsonValue>> Values;
+	Values.SetNum(Messages.Num());
+	for (int32 Index = Messages.Num() - 1; Index >= 0; --Index)
+	{
+		Values[Index] = MakeShared<FJsonValueObject>(Messages[Index]->ToServiceJson(LoadImage));
+	}
+	return Values;
 }
 
 bool FVexelChatRequest::SetInProgress()
@@ -231,27 +242,29 @@ void FVexelChatRequest::Complete(EVexelChatRequestState FinalState)
 	State = FinalState;
 	if (FinalState != EVexelChatRequestState::Failed)
 	{
-		Response.SetState(EVexelChatMessageState::Completed);
+		GetResponse().SetState(EVexelChatMessageState::Completed);
 	}
 	OnStateChanged.ExecuteIfBound(AsShared());
 }
 
 void FVexelChatRequest::OnHttpComplete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result)
 {
-	// The network thread is done with this request, so what it kept may be read here.
-	Parser.Parse(Utf8Stream.Finish());
-	Parser.Finish();
-
+	const bool bConnectionCancelled = Result.HasError() && Result.GetError().IsA<FVexelError_HttpCancelled>();
+	if (!bCancelled && !bConnectionCancelled)
+	{
+		// The network thread is done with this request. Whoever is told of a last block may cancel it still.
+		Reader.Finish();
+	}
+	if (bCancelled || bConnectionCancelled)
+	{
+		VEXEL_LOG(Log, "Chat request `%s` cancelled", *GetChatId());
+		Complete(EVexelChatRequestState::Cancelled);
+		return;
+	}
 	if (Result.HasValue())
 	{
 		VEXEL_LOG(Log, "Chat request `%s` succeeded", *GetChatId());
 		Complete(EVexelChatRequestState::Succeeded);
-		return;
-	}
-	if (Result.GetError().IsA<FVexelError_HttpCancelled>())
-	{
-		VEXEL_LOG(Log, "Chat request `%s` cancelled", *GetChatId());
-		Complete(EVexelChatRequestState::Cancelled);
 		return;
 	}
 	Error = MakeFailure(Result.GetError());
@@ -261,6 +274,10 @@ void FVexelChatRequest::OnHttpComplete(const TVexelExpected<TSharedRef<FVexelHtt
 FVexelError FVexelChatRequest::MakeFailure(const FVexelError& Cause) const
 {
 	const TSharedPtr<FVexelHttpResponse> HttpResponse = HttpRequest->GetResponse();
+	if (!Cause.IsA<FVexelError_Http>())
+	{
+		return VEXEL_ERROR_CAUSED(FVexelError_ChatRequestFailed, Cause, "Unknown error when processing chat request");
+	}
 	if (!Cause.IsA<FVexelError_HttpStatus>() || !HttpResponse)
 	{
 		return VEXEL_ERROR_CAUSED(FVexelError_ChatRequestFailed, Cause, "Chat request %s failed", *GetChatId());
@@ -269,7 +286,7 @@ FVexelError FVexelChatRequest::MakeFailure(const FVexelError& Cause) const
 	const TSharedPtr<FJsonObject> Body = HttpResponse->GetContentJson();
 	if (Body && Body->TryGetStringField(TEXT("detail"), Detail) && !Detail.IsEmpty())
 	{
-		return VEXEL_ERROR_CAUSED(FVexelError_ChatRequestFailed, Cause, "%s", *Detail);
+		return VEXEL_ERROR_CAUSED(FVexelError_ChatRequestFailed, Cause, "%s", *Detail.Left(MaxDetailLength));
 	}
 	return VEXEL_ERROR_CAUSED(FVexelError_ChatRequestFailed, Cause, "Chat request %s failed with HTTP status %d after receiving %d bytes",
 		*GetChatId(), HttpResponse->GetStatus(), HttpResponse->GetContent().Num());

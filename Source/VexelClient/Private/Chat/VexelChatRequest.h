@@ -1,12 +1,13 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Chat/Utils/VexelChunkParser.h"
-#include "Chat/Utils/VexelUtf8Stream.h"
+#include "Chat/Utils/VexelAnswerReader.h"
 #include "Data/VexelChatConversation.h"
 #include "Data/VexelChatRequestState.h"
 #include "Delegates/Delegate.h"
 #include "VexelHttp.h"
+
+class FVexelChatImageStore;
 
 /**
  * One user turn: sends a conversation with a new prompt to the service and cuts the streamed answer into the blocks of the
@@ -22,13 +23,21 @@ public:
 	/** Text added to a block of the response message. */
 	DECLARE_DELEGATE_ThreeParams(FOnText, const TSharedRef<FVexelChatRequest>&, int32 /*BlockIndex*/, FStringView);
 
-	FVexelChatRequest(const TSharedRef<FVexelChatConversation>& Conversation, FVexelChatMessage Prompt, FString CheckpointId, FString UserId);
+	/** @param Images Where the bytes of the messages' images are; null for a conversation without. */
+	FVexelChatRequest(const TSharedRef<FVexelChatConversation>& Conversation, FVexelChatMessage Prompt, FString CheckpointId, FString UserId,
+		TSharedPtr<const FVexelChatImageStore> Images);
 	~FVexelChatRequest();
+
+	/** The body that Send() posts; null, with a log line, for a conversation that cannot be sent. */
+	TSharedPtr<FJsonObject> PreparePayload() const;
 
 	/** Sends the turn. Refused with a log line when not Preparing, or when the conversation cannot be sent. */
 	bool Send(FVexelHttp& ApiClient);
 
-	/** Ends the turn at any moment; the state changes to Cancelled when the connection is gone. */
+	/**
+	 * Ends the turn at any moment: nothing that arrives later is read, and no tool is called any more. The state changes to
+	 * Cancelled when the connection is gone.
+	 */
 	void Cancel();
 
 	/** Reads a report of the whole body received so far. Called by the request itself; in the order of arrival. */
@@ -36,14 +45,19 @@ public:
 
 	EVexelChatRequestState GetState() const { return State; }
 	bool IsFinal() const { return State > EVexelChatRequestState::InProgress; }
+	/** Whether the answer, and the replies to its tool calls, are still of use: until the request is cancelled or fails. */
+	bool IsWanted() const { return !bCancelled && State <= EVexelChatRequestState::Succeeded; }
 	const FString& GetChatId() const { return Conversation->GetChatId(); }
 	/** Who was logged in when the request was made. */
 	const FString& GetUserId() const { return UserId; }
 	const FString& GetCheckpointId() const { return CheckpointId; }
 	const TSharedRef<FVexelChatConversation>& GetConversation() const { return Conversation; }
-	const FVexelChatMessage& GetPrompt() const { return Prompt; }
-	FVexelChatMessage& GetResponse() { return Response; }
-	const FVexelChatMessage& GetResponse() const { return Response; }
+	/** Puts the prompt at the conversation's end. */
+	void AddPromptToConversation();
+	/** Where the prompt stands in the conversation; INDEX_NONE before it was put there and when it is there no more. */
+	int32 FindPromptInConversation() const;
+	FVexelChatMessage& GetResponse() { return Reader.GetResponse(); }
+	const FVexelChatMessage& GetResponse() const { return Reader.GetResponse(); }
 	/** Why a failed request failed. */
 	const TOptional<FVexelError>& GetError() const { return Error; }
 
@@ -58,41 +72,25 @@ public:
 	FOnText OnText;
 
 private:
-	/** Puts what the parser finds into the response. */
-	class FSink : public IVexelChunkSink
-	{
-	public:
-		explicit FSink(FVexelChatRequest& InRequest)
-			: Request(InRequest)
-		{
-		}
-		virtual void OnText(FStringView Text) override;
-		virtual void OnTag(EVexelChatMessageBlockType Type, const TSharedRef<FJsonObject>& Info) override;
-
-	private:
-		FVexelChatRequest& Request;
-	};
-
-	TSharedPtr<FJsonObject> PreparePayload() const;
+	TArray<TSharedPtr<FJsonValue>> PrepareMessages() const;
 	bool SetInProgress();
 	void Complete(EVexelChatRequestState FinalState);
 	void OnHttpComplete(const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result);
 	FVexelError MakeFailure(const FVexelError& Cause) const;
-	void ParseOnGameThread(FString Text);
 
 	TSharedRef<FVexelChatConversation> Conversation;
 	FVexelChatMessage Prompt;
-	FVexelChatMessage Response;
+	/** The prompt's key in the conversation; 0 before it is there. */
+	int32 PromptKey = 0;
 	FString CheckpointId;
 	FString UserId;
+	TSharedPtr<const FVexelChatImageStore> Images;
 	EVexelChatRequestState State = EVexelChatRequestState::Preparing;
+	/** From the user's word to the end of the connection the state is still InProgress. */
+	bool bCancelled = false;
 	TOptional<FVexelError> Error;
 	TArray<FString> SubAgentChatIds;
-	FSink Sink;
-	FVexelChunkParser Parser;
+	/** Takes bytes on the network thread and reads text on the game thread. */
+	FVexelAnswerReader Reader;
 	TSharedPtr<FVexelHttpRequest> HttpRequest;
-
-	/** Of the network thread while the request runs. */
-	int64 NumProcessedBytes = 0;
-	FVexelUtf8Stream Utf8Stream;
 };

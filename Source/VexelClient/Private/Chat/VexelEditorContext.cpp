@@ -3,13 +3,34 @@
 #include "Dom/JsonObject.h"
 #include "Editor.h"
 #include "Engine/World.h"
+#include "Framework/Application/SlateApplication.h"
 #include "Misc/App.h"
 #include "Subsystems/AssetEditorSubsystem.h"
+#include "Widgets/SWindow.h"
+
+namespace
+{
+/** A service reads no more of them. Who has as many open works on none of the last ones. */
+constexpr int32 MaxOpenAssets = 1000;
+
+FString FindWindowTitle()
+{
+	if (FSlateApplication::IsInitialized())
+	{
+		if (const TSharedPtr<SWindow> Window = FSlateApplication::Get().GetActiveTopLevelWindow())
+		{
+			return Window->GetTitle().ToString();
+		}
+	}
+	// A host without windows.
+	return FApp::GetProjectName();
+}
+}
 
 FVexelEditorContext FVexelEditorContext::Capture()
 {
 	FVexelEditorContext Context;
-	Context.EditorWindowName = FApp::GetProjectName();
+	Context.EditorWindowName = FindWindowTitle();
 	if (!GEditor)
 	{
 		return Context;
@@ -22,7 +43,10 @@ FVexelEditorContext FVexelEditorContext::Capture()
 	{
 		for (const UObject* const Asset : AssetEditors->GetAllEditedAssets())
 		{
-			Context.OpenAssets.Add(Asset->GetPathName());
+			if (Context.OpenAssets.Num() < MaxOpenAssets)
+			{
+				Context.OpenAssets.Add(Asset->GetPathName());
+			}
 		}
 	}
 	return Context;

@@ -1,10 +1,15 @@
 #include "Data/VexelChatMessage.h"
 
+#include "Data/VexelStoredFields.h"
 #include "VexelLog.h"
 
 namespace
 {
 const TCHAR* const RoleNames[] = {TEXT("user"), TEXT("assistant"), TEXT("system")};
+
+const FString BlocksField = TEXT("message_blocks");
+const FString FailedField = TEXT("failed");
+const FString RoleField = TEXT("role");
 }
 
 FVexelChatMessage::FVexelChatMessage(EVexelChatRole InRole, EVexelChatMessageState InState)
@@ -13,24 +18,44 @@ FVexelChatMessage::FVexelChatMessage(EVexelChatRole InRole, EVexelChatMessageSta
 {
 }
 
+FVexelChatMessage FVexelChatMessage::MakeUnreadable(const TSharedPtr<FJsonValue>& Stored)
+{
+	FVexelChatMessage Message(EVexelChatRole::System);
+	Message.Unreadable = Stored;
+	return Message;
+}
+
 TSharedRef<FJsonObject> FVexelChatMessage::ToJson() const
 {
+	const TSharedPtr<FJsonObject>* Stored = nullptr;
+	if (Unreadable && Unreadable->TryGetObject(Stored))
+	{
+		return Stored->ToSharedRef();
+	}
 	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	Object->SetStringField(TEXT("role"), RoleNames[int32(Role)]);
-	Object->SetBoolField(TEXT("failed"), State == EVexelChatMessageState::Failed);
+	Object->SetStringField(RoleField, RoleNames[int32(Role)]);
+	Object->SetBoolField(FailedField, State == EVexelChatMessageState::Failed);
 	TArray<TSharedPtr<FJsonValue>> BlockValues;
+	BlockValues.Reserve(Blocks.Num());
 	for (const FVexelChatMessageBlock& Block : Blocks)
 	{
-		BlockValues.Add(MakeShared<FJsonValueObject>(Block.ToJson()));
+		BlockValues.Add(Block.ToStoredValue());
 	}
-	Object->SetArrayField(TEXT("message_blocks"), BlockValues);
+	Object->SetArrayField(BlocksField, MoveTemp(BlockValues));
+	FVexelStoredFields::WriteRest(Rest, Object);
 	return Object;
+}
+
+TSharedRef<FJsonValue> FVexelChatMessage::ToStoredValue() const
+{
+	return Unreadable ? Unreadable.ToSharedRef() : TSharedRef<FJsonValue>(MakeShared<FJsonValueObject>(ToJson()));
 }
 
 bool FVexelChatMessage::FromJson(const TSharedRef<FJsonObject>& Object)
 {
+	FVexelStoredFields Fields(Object);
 	FString RoleName;
-	if (!Object->TryGetStringField(TEXT("role"), RoleName))
+	if (!Fields.TryGetString(*RoleField, RoleName))
 	{
 		VEXEL_LOG(Warning, "Missing role field in FromJson");
 		return false;
@@ -44,54 +69,60 @@ bool FVexelChatMessage::FromJson(const TSharedRef<FJsonObject>& Object)
 	}
 	Role = EVexelChatRole(RoleIndex);
 
-	Blocks.Reset();
 	const TArray<TSharedPtr<FJsonValue>>* BlockValues = nullptr;
-	Object->TryGetArrayField(TEXT("message_blocks"), BlockValues);
-	for (int32 Index = 0; BlockValues && Index < BlockValues->Num(); ++Index)
+	if (!Fields.TryGetArray(*BlocksField, BlockValues))
+	{
+		VEXEL_LOG(Warning, "Invalid or missing message block in FromJson");
+		return false;
+	}
+	Blocks.Reset(BlockValues->Num());
+	for (const TSharedPtr<FJsonValue>& Value : *BlockValues)
 	{
 		const TSharedPtr<FJsonObject>* BlockObject = nullptr;
 		FVexelChatMessageBlock Block;
-		if (!(*BlockValues)[Index]->TryGetObject(BlockObject) || !Block.FromJson(BlockObject->ToSharedRef()))
+		if (!Value->TryGetObject(BlockObject) || !Block.FromJson(BlockObject->ToSharedRef()))
 		{
 			VEXEL_LOG(Warning, "Invalid or missing message block in FromJson");
-			continue;
+			Block = FVexelChatMessageBlock::MakeUnknown(Value);
 		}
 		Blocks.Add(MoveTemp(Block));
 	}
 
 	bool bFailed = false;
-	Object->TryGetBoolField(TEXT("failed"), bFailed);
+	Fields.TryGetBool(*FailedField, bFailed);
 	State = EVexelChatMessageState::Completed;
 	if (bFailed)
 	{
-		MarkFailedAfter(FindLastCheckpoint());
+		SetFailedAfter(FindLastCheckpoint());
 	}
+	Rest = Fields.GetRest();
 	return true;
 }
 
-TSharedRef<FJsonObject> FVexelChatMessage::ToServiceJson() const
+TSharedRef<FJsonObject> FVexelChatMessage::ToServiceJson(FVexelChatImageSource ImageSource) const
 {
 	const TSharedRef<FJsonObject> Object = ToJson();
-	TArray<TSharedPtr<FJsonValue>> Parts;
-	FString Text;
-	bool bOnlyText = true;
-	for (const FVexelChatMessageBlock& Block : Blocks)
+	const bool bHasImages = Blocks.ContainsByPredicate([](const FVexelChatMessageBlock& Block)
+		{ return Block.GetType() == EVexelChatMessageBlockType::Image; });
+	if (!bHasImages)
 	{
-		if (const TSharedPtr<FJsonObject> Part = Block.ToServiceJson())
+		FString Text;
+		for (const FVexelChatMessageBlock& Block : Blocks)
 		{
-			Parts.Add(MakeShared<FJsonValueObject>(Part));
-			bOnlyText &= Block.GetType() == EVexelChatMessageBlockType::Text;
 			Text += Block.GetType() == EVexelChatMessageBlockType::Text ? Block.GetText() : FString();
 		}
+		Object->SetStringField(TEXT("content"), MoveTemp(Text));
+		return Object;
 	}
-	if (bOnlyText)
+	TArray<TSharedPtr<FJsonValue>> Parts;
+	for (const FVexelChatMessageBlock& Block : Blocks)
 	{
-		Object->SetStringField(TEXT("content"), Text);
+		if (const TSharedPtr<FJsonObject> Part = Block.ToServicePart(ImageSource))
+		{
+			Parts.Add(MakeShared<FJsonValueObject>(Part));
+		}
 	}
-	else
-	{
-		Object->SetArrayField(TEXT("content"), Parts);
-	}
+	Object->SetArrayField(TEXT("content"), MoveTemp(Parts));
 	return Object;
 }
 
@@ -103,6 +134,16 @@ const FVexelChatMessageBlock* FVexelChatMessage::GetMessageBlock(int32 Index) co
 		return nullptr;
 	}
 	return &Blocks[Index];
+}
+
+FString FVexelChatMessage::GetText() const
+{
+	FString Text;
+	for (const FVexelChatMessageBlock& Block : Blocks)
+	{
+		Text += Block.GetText();
+	}
+	return Text;
 }
 
 int32 FVexelChatMessage::AddBlock(FVexelChatMessageBlock Block)
@@ -134,13 +175,17 @@ int32 FVexelChatMessage::FindLastCheckpoint() const
 
 int32 FVexelChatMessage::MarkFailedAfter(int32 CheckpointIndex)
 {
+	const int32 NumMarked = SetFailedAfter(CheckpointIndex);
+	VEXEL_LOG(Log, "Marked %d message block(s) as failed after checkpoint index %d", NumMarked, CheckpointIndex);
+	return NumMarked;
+}
+
+int32 FVexelChatMessage::SetFailedAfter(int32 CheckpointIndex)
+{
 	State = EVexelChatMessageState::Failed;
-	int32 NumMarked = 0;
 	for (int32 Index = CheckpointIndex + 1; Index < Blocks.Num(); ++Index)
 	{
 		Blocks[Index].MarkFailed();
-		++NumMarked;
 	}
-	VEXEL_LOG(Log, "Marked %d message block(s) as failed after checkpoint index %d", NumMarked, CheckpointIndex);
-	return NumMarked;
+	return Blocks.Num() - (CheckpointIndex + 1);
 }

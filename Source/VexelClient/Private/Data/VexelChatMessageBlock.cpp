@@ -1,5 +1,6 @@
 #include "Data/VexelChatMessageBlock.h"
 
+#include "Data/VexelStoredFields.h"
 #include "Misc/Base64.h"
 #include "VexelLog.h"
 
@@ -32,6 +33,19 @@ const FString SubChatIdField = TEXT("sub_chat_id");
 const FString ToolInfoField = TEXT("tool_info");
 const FString ToolNameField = TEXT("tool_name");
 const FString TypeField = TEXT("type");
+const FString UrlField = TEXT("url");
+
+const FTypeName* FindTypeName(TFunctionRef<bool(const FTypeName&)> Predicate)
+{
+	for (const FTypeName& Entry : TypeNames)
+	{
+		if (Predicate(Entry))
+		{
+			return &Entry;
+		}
+	}
+	return nullptr;
+}
 
 bool IsTool(EVexelChatMessageBlockType Type)
 {
@@ -56,6 +70,21 @@ const FString* GetIdField(EVexelChatMessageBlockType Type)
 			return nullptr;
 	}
 }
+
+/** Reads a string of the stored form into the information object, where the object has none of that name of its own. */
+bool ReadInfoString(FVexelStoredFields& Fields, const FString& Name, FJsonObject& Info)
+{
+	FString Value;
+	if (!Fields.TryGetString(*Name, Value))
+	{
+		return false;
+	}
+	if (!Info.HasField(Name))
+	{
+		Info.SetStringField(Name, Value);
+	}
+	return true;
+}
 }
 
 FVexelChatMessageBlock FVexelChatMessageBlock::MakeText(FString Text)
@@ -77,25 +106,33 @@ FVexelChatMessageBlock FVexelChatMessageBlock::MakeFromTag(EVexelChatMessageBloc
 	return Block;
 }
 
-FVexelChatMessageBlock FVexelChatMessageBlock::MakeImage(FString AssetId, TArray<uint8> Bytes)
+FVexelChatMessageBlock FVexelChatMessageBlock::MakeImage(const FString& AssetId)
+{
+	const TSharedRef<FJsonObject> Info = MakeShared<FJsonObject>();
+	Info->SetStringField(AssetIdField, AssetId);
+	return MakeFromTag(EVexelChatMessageBlockType::Image, Info);
+}
+
+FVexelChatMessageBlock FVexelChatMessageBlock::MakeUnknown(const TSharedPtr<FJsonValue>& Stored)
 {
 	FVexelChatMessageBlock Block;
-	Block.Type = EVexelChatMessageBlockType::Image;
-	Block.Info = MakeShared<FJsonObject>();
-	Block.Info->SetStringField(AssetIdField, AssetId);
-	Block.ImageBytes = MoveTemp(Bytes);
+	Block.Type = EVexelChatMessageBlockType::Unknown;
+	Block.Stored = Stored;
 	return Block;
 }
 
 TSharedRef<FJsonObject> FVexelChatMessageBlock::ToJson() const
 {
-	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	for (const FTypeName& Entry : TypeNames)
+	const TSharedPtr<FJsonObject>* StoredObject = nullptr;
+	if (Stored && Stored->TryGetObject(StoredObject))
 	{
-		if (Entry.Type == Type)
-		{
-			Object->SetStringField(TypeField, Entry.Name);
-		}
+		return StoredObject->ToSharedRef();
+	}
+	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	if (const FTypeName* const Name = FindTypeName([this](const FTypeName& Entry)
+			{ return Entry.Type == Type; }))
+	{
+		Object->SetStringField(TypeField, Name->Name);
 	}
 	if (Type == EVexelChatMessageBlockType::Text)
 	{
@@ -103,38 +140,36 @@ TSharedRef<FJsonObject> FVexelChatMessageBlock::ToJson() const
 	}
 	else if (IsTool(Type))
 	{
-		const TSharedRef<FJsonObject> ToolInfo = MakeShared<FJsonObject>();
-		ToolInfo->SetStringField(ToolNameField, GetInfoString(*ToolNameField));
-		if (Type == EVexelChatMessageBlockType::ToolCall)
-		{
-			ToolInfo->SetStringField(ReplyIdField, GetInfoString(*ReplyIdField));
-		}
-		if (Info)
-		{
-			ToolInfo->SetObjectField(InfoField, Info);
-		}
-		Object->SetObjectField(ToolInfoField, ToolInfo);
+		WriteTool(*Object);
 	}
 	else if (const FString* const IdField = GetIdField(Type))
 	{
 		Object->SetStringField(*IdField, GetInfoString(**IdField));
+		if (Info && Info->Values.Num() > (Info->HasField(*IdField) ? 1 : 0))
+		{
+			Object->SetObjectField(InfoField, Info);
+		}
 	}
+	FVexelStoredFields::WriteRest(Rest, Object);
 	return Object;
+}
+
+TSharedRef<FJsonValue> FVexelChatMessageBlock::ToStoredValue() const
+{
+	return Stored ? Stored.ToSharedRef() : TSharedRef<FJsonValue>(MakeShared<FJsonValueObject>(ToJson()));
 }
 
 bool FVexelChatMessageBlock::FromJson(const TSharedRef<FJsonObject>& Object)
 {
+	FVexelStoredFields Fields(Object);
 	FString Name;
-	if (!Object->TryGetStringField(TypeField, Name))
+	if (!Fields.TryGetString(*TypeField, Name))
 	{
 		VEXEL_LOG(Warning, "Missing type field in FromJson");
 		return false;
 	}
-	const FTypeName* Found = nullptr;
-	for (const FTypeName& Entry : TypeNames)
-	{
-		Found = Name.Equals(Entry.Name) ? &Entry : Found;
-	}
+	const FTypeName* const Found = FindTypeName([&](const FTypeName& Entry)
+		{ return Name.Equals(Entry.Name); });
 	if (!Found)
 	{
 		VEXEL_LOG(Warning, "Unknown block type '%s' in FromJson", *Name);
@@ -144,46 +179,67 @@ bool FVexelChatMessageBlock::FromJson(const TSharedRef<FJsonObject>& Object)
 
 	if (Type == EVexelChatMessageBlockType::Text)
 	{
-		if (!Object->TryGetStringField(ContentField, Text))
+		if (!Fields.TryGetString(*ContentField, Text))
 		{
 			VEXEL_LOG(Warning, "Missing content field in FromJson for Text block");
 			return false;
 		}
-		return true;
 	}
-
-	Info = MakeShared<FJsonObject>();
-	if (IsTool(Type))
+	else if (IsTool(Type))
 	{
-		const TSharedPtr<FJsonObject>* ToolInfo = nullptr;
-		FString ToolName;
-		if (!Object->TryGetObjectField(ToolInfoField, ToolInfo) || !(*ToolInfo)->TryGetStringField(ToolNameField, ToolName))
+		if (!ReadTool(Fields))
 		{
 			VEXEL_LOG(Warning, "Missing tool_name field in FromJson for tool block");
 			return false;
 		}
-		const TSharedPtr<FJsonObject>* Stored = nullptr;
-		if ((*ToolInfo)->TryGetObjectField(InfoField, Stored))
-		{
-			Info = *Stored;
-		}
-		Info->SetStringField(ToolNameField, ToolName);
-		FString ReplyId;
-		if ((*ToolInfo)->TryGetStringField(ReplyIdField, ReplyId))
-		{
-			Info->SetStringField(ReplyIdField, ReplyId);
-		}
-		return true;
 	}
-
-	const FString& IdField = *GetIdField(Type);
-	FString Id;
-	Object->TryGetStringField(IdField, Id);
-	Info->SetStringField(IdField, Id);
+	else
+	{
+		const FString& IdField = *GetIdField(Type);
+		const TSharedPtr<FJsonObject>* StoredInfo = nullptr;
+		Info = Fields.TryGetObject(*InfoField, StoredInfo) ? *StoredInfo : MakeShared<FJsonObject>();
+		ReadInfoString(Fields, IdField, *Info);
+	}
+	Rest = Fields.GetRest();
 	return true;
 }
 
-TSharedPtr<FJsonObject> FVexelChatMessageBlock::ToServiceJson() const
+void FVexelChatMessageBlock::WriteTool(FJsonObject& Object) const
+{
+	const TSharedRef<FJsonObject> ToolInfo = MakeShared<FJsonObject>();
+	ToolInfo->SetStringField(ToolNameField, GetInfoString(*ToolNameField));
+	if (Type == EVexelChatMessageBlockType::ToolCall)
+	{
+		ToolInfo->SetStringField(ReplyIdField, GetInfoString(*ReplyIdField));
+	}
+	if (Info)
+	{
+		ToolInfo->SetObjectField(InfoField, Info);
+	}
+	FVexelStoredFields::WriteRest(ToolInfoRest, ToolInfo);
+	Object.SetObjectField(ToolInfoField, ToolInfo);
+}
+
+bool FVexelChatMessageBlock::ReadTool(FVexelStoredFields& Fields)
+{
+	const TSharedPtr<FJsonObject>* ToolInfo = nullptr;
+	if (!Fields.TryGetObject(*ToolInfoField, ToolInfo))
+	{
+		return false;
+	}
+	FVexelStoredFields ToolFields(ToolInfo->ToSharedRef());
+	const TSharedPtr<FJsonObject>* StoredInfo = nullptr;
+	Info = ToolFields.TryGetObject(*InfoField, StoredInfo) ? *StoredInfo : MakeShared<FJsonObject>();
+	if (!ReadInfoString(ToolFields, ToolNameField, *Info))
+	{
+		return false;
+	}
+	ReadInfoString(ToolFields, ReplyIdField, *Info);
+	ToolInfoRest = ToolFields.GetRest();
+	return true;
+}
+
+TSharedPtr<FJsonObject> FVexelChatMessageBlock::ToServicePart(FVexelChatImageSource ImageSource) const
 {
 	if (Type == EVexelChatMessageBlockType::Text)
 	{
@@ -192,17 +248,22 @@ TSharedPtr<FJsonObject> FVexelChatMessageBlock::ToServiceJson() const
 		Part->SetStringField(TEXT("text"), Text);
 		return Part;
 	}
-	if (Type == EVexelChatMessageBlockType::Image && !ImageBytes.IsEmpty())
+	if (Type != EVexelChatMessageBlockType::Image)
 	{
-		const TSharedPtr<FJsonObject> Source = MakeShared<FJsonObject>();
-		Source->SetStringField(TypeField, TEXT("base64"));
-		Source->SetStringField(TEXT("data"), FBase64::Encode(ImageBytes));
-		const TSharedPtr<FJsonObject> Part = MakeShared<FJsonObject>();
-		Part->SetStringField(TypeField, TEXT("image"));
-		Part->SetObjectField(TEXT("source"), Source);
-		return Part;
+		return nullptr;
 	}
-	return nullptr;
+	const TArray<uint8> Bytes = ImageSource(Image_GetAssetId());
+	if (Bytes.IsEmpty())
+	{
+		return nullptr;
+	}
+	const TSharedPtr<FJsonObject> Source = MakeShared<FJsonObject>();
+	Source->SetStringField(TypeField, TEXT("base64"));
+	Source->SetStringField(TEXT("data"), FBase64::Encode(Bytes));
+	const TSharedPtr<FJsonObject> Part = MakeShared<FJsonObject>();
+	Part->SetStringField(TypeField, TEXT("image"));
+	Part->SetObjectField(TEXT("source"), Source);
+	return Part;
 }
 
 FString FVexelChatMessageBlock::GetText() const
@@ -254,6 +315,17 @@ FString FVexelChatMessageBlock::Checkpoint_GetCheckpointId() const
 		VEXEL_LOG(Warning, "Checkpoint_GetCheckpointId called on a non-checkpoint block or missing id");
 	}
 	return CheckpointId;
+}
+
+FString FVexelChatMessageBlock::Image_GetAssetId() const
+{
+	const FString AssetId = Type == EVexelChatMessageBlockType::Image ? GetInfoString(*AssetIdField) : FString();
+	return AssetId.IsEmpty() ? Image_GetUrl() : AssetId;
+}
+
+FString FVexelChatMessageBlock::Image_GetUrl() const
+{
+	return Type == EVexelChatMessageBlockType::Image ? GetInfoString(*UrlField) : FString();
 }
 
 FString FVexelChatMessageBlock::GetInfoString(const TCHAR* Field) const

@@ -7,6 +7,38 @@ FVexelChatModeInfo::FVexelChatModeInfo(FString InChatMode, FString InDisplayText
 {
 }
 
+TArray<FVexelChatModeInfo> FVexelChatModeInfo::GetOfferedModes()
+{
+	return {
+		FVexelChatModeInfo(TEXT("vexel_agent"), TEXT("Agent"), true),
+		FVexelChatModeInfo(TEXT("vexel_agent_lite"), TEXT("Agent Lite"), true),
+	};
+}
+
+FVexelChatModeInfo FVexelChatModeInfo::FromId(const FString& Id)
+{
+	for (const FVexelChatModeInfo& Mode : {MakeUserMode(), MakeLiteMode()})
+	{
+		if (Mode.ChatMode.Equals(Id))
+		{
+			return Mode;
+		}
+	}
+	for (const FVexelChatModeInfo& Mode : GetOfferedModes())
+	{
+		if (Mode.ChatMode.Equals(Id))
+		{
+			return Mode;
+		}
+	}
+	return FVexelChatModeInfo(Id, Id, false);
+}
+
+FVexelChatModeInfo FVexelChatModeInfo::MakeLiteMode()
+{
+	return FVexelChatModeInfo(TEXT("vexel_lite"), TEXT("Vexel Lite"), false);
+}
+
 FVexelChatModeInfo FVexelChatModeInfo::MakeUserMode()
 {
 	return FVexelChatModeInfo(TEXT("user"), TEXT("User"), false);

@@ -2,6 +2,7 @@
 
 #include "Auth/VexelAuth.h"
 #include "Chat/VexelChatHistoryManager.h"
+#include "Chat/VexelChatImageStore.h"
 #include "Chat/VexelChatRequest.h"
 #include "Editor.h"
 #include "Misc/Guid.h"
@@ -10,17 +11,11 @@
 #include "VexelClient.h"
 #include "VexelLog.h"
 #include "VexelSentry.h"
+#include "VexelUrlUtils.h"
 
 namespace
 {
-/** Modes that the client offers by itself. */
-TArray<FVexelChatModeInfo> MakeChatModes()
-{
-	return {
-		FVexelChatModeInfo(TEXT("vexel_agent"), TEXT("Agent"), true),
-		FVexelChatModeInfo(TEXT("vexel_agent_lite"), TEXT("Agent Lite"), true),
-	};
-}
+constexpr float ImageTimeoutSeconds = 60.0f;
 
 /** Id of the logged-in user; empty without one. */
 FString GetUserId()
@@ -47,8 +42,9 @@ UVexelChatSubsystem* UVexelChatSubsystem::Get()
 
 void UVexelChatSubsystem::Initialize(FSubsystemCollectionBase& Collection)
 {
-	HistoryManager = MakeShared<FVexelChatHistoryManager>(FPaths::ProjectSavedDir() / TEXT("ChatHistories"));
-	HistoryManager->Load();
+	const FString Directory = FPaths::ProjectSavedDir() / TEXT("ChatHistories");
+	HistoryManager = MakeShared<FVexelChatHistoryManager>(Directory);
+	ImageStore = MakeShared<FVexelChatImageStore>(Directory / TEXT("Images"));
 	AuthHandle = FVexelAuth::AddAuthStateChangedCallback(
 		FVexelAuth::FOnAuthStateChanged::FDelegate::CreateLambda([WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this)](FVexelAuth::EState)
 			{ FVexelTaskManager::ScheduleFunc(EVexelTaskThread::GameThread, [WeakThis]
@@ -115,38 +111,132 @@ void UVexelChatSubsystem::DeleteConversation(const TSharedPtr<FVexelChatConversa
 	if (!HistoryManager->Delete(ChatId))
 	{
 		VEXEL_LOG(Warning, "Conversation with ID %s not found", *ChatId);
+		return;
 	}
+	AttachedImages.Remove(ChatId);
+	ImageStore->DeleteAll(ChatId);
+	Events.OnConversationChanged.Broadcast(ChatId);
 }
 
-TSharedPtr<FVexelChatConversation> UVexelChatSubsystem::FindActiveConversation(const FString& ChatId) const
+TSharedPtr<FVexelChatConversation> UVexelChatSubsystem::FindActiveConversation(const FString& ChatId)
 {
 	if (!HistoryManager)
 	{
 		VEXEL_LOG(Warning, "ChatHistoryManager is not valid");
 		return nullptr;
 	}
+	if (!HasActiveRequest(ChatId) && HistoryManager->Refresh(ChatId))
+	{
+		Events.OnConversationChanged.Broadcast(ChatId);
+	}
 	return HistoryManager->Find(ChatId);
 }
 
-TSharedPtr<FVexelChatConversation> UVexelChatSubsystem::GetNewestConversation() const
+TSharedPtr<FVexelChatConversation> UVexelChatSubsystem::GetNewestConversation()
 {
-	const TArray<TSharedRef<FVexelChatConversation>> History = GetHistory();
-	return History.IsEmpty() ? nullptr : History[0].ToSharedPtr();
+	for (const FVexelChatHeader& Header : GetHistory())
+	{
+		if (const TSharedPtr<FVexelChatConversation> Conversation = FindActiveConversation(Header.ChatId))
+		{
+			return Conversation;
+		}
+	}
+	return nullptr;
 }
 
-TArray<TSharedRef<FVexelChatConversation>> UVexelChatSubsystem::GetHistory() const
+TArray<FVexelChatHeader> UVexelChatSubsystem::GetHistory() const
 {
 	if (!HistoryManager)
 	{
 		VEXEL_LOG(Warning, "ChatHistoryManager is not valid");
 		return {};
 	}
-	return HistoryManager->GetConversations();
+	TArray<FVexelChatHeader> Headers = HistoryManager->GetHeaders();
+	const FString UserId = GetUserId();
+	if (!UserId.IsEmpty())
+	{
+		Headers.RemoveAll([&](const FVexelChatHeader& Header)
+			{ return !Header.UserId.Equals(UserId); });
+	}
+	return Headers;
+}
+
+TArray<FString> UVexelChatSubsystem::GetSetAsideFiles() const
+{
+	return HistoryManager ? HistoryManager->FindSetAside() : TArray<FString>();
+}
+
+TVexelExpected<void> UVexelChatSubsystem::RevertToCheckpoint(const FString& ChatId, const FString& CheckpointId)
+{
+	VEXEL_TRY(const TSharedRef<FVexelChatConversation> Conversation, FindIdleConversation(ChatId));
+	// An id that stands there twice means its last place.
+	TOptional<FVexelCheckpoint> Found;
+	for (const FVexelCheckpoint& Checkpoint : Conversation->GetCheckpoints())
+	{
+		if (Checkpoint.Id.Equals(CheckpointId))
+		{
+			Found = Checkpoint;
+		}
+	}
+	if (!Found || !Conversation->RevertToBlockIndex(Found->MessageIndex, Found->BlockIndex))
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Conversation not reverted", "There is no checkpoint '%s'", *CheckpointId);
+	}
+	return StoreChange(ChatId);
+}
+
+TVexelExpected<void> UVexelChatSubsystem::SetTitle(const FString& ChatId, const FString& Title)
+{
+	VEXEL_TRY(const TSharedRef<FVexelChatConversation> Conversation, FindIdleConversation(ChatId));
+	if (Title.TrimStartAndEnd().IsEmpty())
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Conversation not renamed", "The title is empty");
+	}
+	Conversation->SetTitle(Title);
+	return StoreChange(ChatId);
+}
+
+TVexelExpected<void> UVexelChatSubsystem::SetChatMode(const FString& ChatId, const FVexelChatModeInfo& Mode)
+{
+	VEXEL_TRY(const TSharedRef<FVexelChatConversation> Conversation, FindIdleConversation(ChatId));
+	if (!Mode.IsValid())
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Chat mode not set", "The chat mode is not valid");
+	}
+	Conversation->SetChatMode(Mode);
+	return StoreChange(ChatId);
+}
+
+TVexelExpected<FString> UVexelChatSubsystem::AttachImage(const FString& ChatId, TConstArrayView<uint8> Bytes)
+{
+	if (!FindActiveConversation(ChatId))
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Image not taken", "There is no conversation '%s'", *ChatId);
+	}
+	TArray<FString>& Attached = AttachedImages.FindOrAdd(ChatId);
+	if (Attached.Num() >= MaxAttachedImages)
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Image not taken", "A message has at most %d images", MaxAttachedImages);
+	}
+	VEXEL_TRY(const FString AssetId, ImageStore->Attach(ChatId, Bytes));
+	Attached.AddUnique(AssetId);
+	return AssetId;
+}
+
+bool UVexelChatSubsystem::DetachImage(const FString& ChatId, const FString& AssetId)
+{
+	TArray<FString>* const Attached = AttachedImages.Find(ChatId);
+	return Attached && Attached->Remove(AssetId) > 0;
+}
+
+FString UVexelChatSubsystem::FindImage(const FString& ChatId, const FString& AssetId) const
+{
+	return ImageStore ? ImageStore->FindPath(ChatId, AssetId) : FString();
 }
 
 TArray<FVexelChatModeInfo> UVexelChatSubsystem::GetAllChatModes()
 {
-	return MakeChatModes();
+	return FVexelChatModeInfo::GetOfferedModes();
 }
 
 FVexelChatModeInfo UVexelChatSubsystem::GetDefaultAgentChatMode()
@@ -170,7 +260,7 @@ FVexelChatModeInfo UVexelChatSubsystem::GetDefaultChatMode()
 		return Modes[0];
 	}
 	VEXEL_LOG(Warning, "No chat modes defined, returning fallback mode");
-	return FVexelChatModeInfo(TEXT("vexel_lite"), TEXT("Vexel Lite"), false);
+	return FVexelChatModeInfo::MakeLiteMode();
 }
 
 TSharedPtr<FVexelChatRequest> UVexelChatSubsystem::PrepareChatRequest(
@@ -186,9 +276,13 @@ TSharedPtr<FVexelChatRequest> UVexelChatSubsystem::PrepareChatRequest(
 	}
 	FVexelChatMessage Prompt(EVexelChatRole::User);
 	Prompt.AddBlock(FVexelChatMessageBlock::MakeText(Message));
+	for (const FString& AssetId : AttachedImages.FindRef(ChatId))
+	{
+		Prompt.AddBlock(FVexelChatMessageBlock::MakeImage(AssetId));
+	}
 	const FString Checkpoint = CheckpointId ? *CheckpointId : Conversation->FindLastCheckpointId();
 	const TSharedRef<FVexelChatRequest> Request =
-		MakeShared<FVexelChatRequest>(Conversation.ToSharedRef(), MoveTemp(Prompt), Checkpoint, GetUserId());
+		MakeShared<FVexelChatRequest>(Conversation.ToSharedRef(), MoveTemp(Prompt), Checkpoint, GetUserId(), ImageStore);
 	Request->OnStateChanged.BindUObject(this, &UVexelChatSubsystem::OnMessageRequestStateChanged);
 	Request->OnBlock.BindUObject(this, &UVexelChatSubsystem::OnMessageRequestUpdated);
 	Request->OnText.BindWeakLambda(this, [this](const TSharedRef<FVexelChatRequest>& Source, int32, FStringView Text)
@@ -265,43 +359,43 @@ void UVexelChatSubsystem::OnRequestInProgress(const TSharedRef<FVexelChatRequest
 		VEXEL_LOG(Error, "Received InProgress request without a valid conversation, cannot save to history!");
 		return;
 	}
-	Request->GetConversation()->AddMessage(Request->GetPrompt());
-	SaveConversation(*Request->GetConversation());
+	Request->AddPromptToConversation();
+	AttachedImages.Remove(Request->GetChatId());
+	static_cast<void>(SaveConversation(Request->GetChatId()));
 }
 
 void UVexelChatSubsystem::OnRequestSucceeded(const TSharedRef<FVexelChatRequest>& Request)
 {
-	FVexelChatConversation& Conversation = *Request->GetConversation();
-	const int32 UserMessageIndex = Conversation.GetMessages().Num() - 1;
-	if (UserMessageIndex < 0 || Conversation.GetMessages()[UserMessageIndex].GetRole() != EVexelChatRole::User)
+	const int32 UserMessageIndex = Request->FindPromptInConversation();
+	if (UserMessageIndex == INDEX_NONE)
 	{
 		VEXEL_LOG(Error, "Received success request, but user message index %d is invalid in conversation %s",
-			UserMessageIndex, *Conversation.GetChatId());
+			UserMessageIndex, *Request->GetChatId());
 		return;
 	}
 	const FVexelChatMessage& Response = Request->GetResponse();
 	VEXEL_LOG(Log, "Has message blocks: %d", Response.NumBlocks());
 	VEXEL_LOG(Log, "Last checkpoint block: %d", Response.FindLastCheckpoint());
-	if (Response.IsValid())
-	{
-		Conversation.AddMessage(Response);
-	}
-	SaveConversation(Conversation);
+	AddResponseToConversation(*Request);
 }
 
 void UVexelChatSubsystem::OnRequestFailed(const TSharedRef<FVexelChatRequest>& Request)
 {
-	FVexelChatConversation& Conversation = *Request->GetConversation();
 	FVexelChatMessage& Response = Request->GetResponse();
 	const int32 LastCheckpoint = Response.FindLastCheckpoint();
 	VEXEL_LOG(Warning, "Request failed, marking blocks after last checkpoint (index %d) as failed for conversation %s",
-		LastCheckpoint, *Conversation.GetChatId());
+		LastCheckpoint, *Request->GetChatId());
 	Response.MarkFailedAfter(LastCheckpoint);
-	if (Response.IsValid())
+	AddResponseToConversation(*Request);
+}
+
+void UVexelChatSubsystem::AddResponseToConversation(const FVexelChatRequest& Request)
+{
+	if (Request.GetResponse().NumBlocks() > 0)
 	{
-		Conversation.AddMessage(Response);
-		SaveConversation(Conversation);
+		Request.GetConversation()->AddMessage(Request.GetResponse());
 	}
+	static_cast<void>(SaveConversation(Request.GetChatId()));
 }
 
 void UVexelChatSubsystem::OnMessageRequestUpdated(const TSharedRef<FVexelChatRequest>& Request, int32 BlockIndex)
@@ -328,6 +422,9 @@ void UVexelChatSubsystem::OnMessageRequestUpdated(const TSharedRef<FVexelChatReq
 			break;
 		case EVexelChatMessageBlockType::ToolCall:
 			HandleToolCall(Request, Block);
+			break;
+		case EVexelChatMessageBlockType::Image:
+			FetchImage(Request->GetChatId(), Block);
 			break;
 		default:
 			break;
@@ -358,6 +455,52 @@ void UVexelChatSubsystem::HandleSubChain(const TSharedRef<FVexelChatRequest>& Re
 	}
 }
 
+void UVexelChatSubsystem::FetchImage(const FString& ChatId, const FVexelChatMessageBlock& Block)
+{
+	const FString Url = Block.Image_GetUrl();
+	if (Url.IsEmpty())
+	{
+		return;
+	}
+	// The answer's text must not make this machine ask others in the clear.
+	if (!Url.StartsWith(TEXT("https://")) && !FVexelUrlUtils::IsLoopback(Url))
+	{
+		VEXEL_LOG(Warning, "The image '%s' has no address of https and is not fetched", *Block.Image_GetAssetId());
+		return;
+	}
+	FVexelClient::Get()
+		.GetAuxiliaryHttpClient()
+		->Request(EVexelHttpVerb::Get, Url)
+		.WithTimeout(ImageTimeoutSeconds)
+		.WithAnswerLimit(FVexelChatImageStore::MaxImageBytes)
+		.SendAndAwait()
+		.OnComplete([WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, AssetId = Block.Image_GetAssetId()](
+						const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result)
+			{ FVexelTaskManager::ScheduleFunc(EVexelTaskThread::GameThread, [WeakThis, ChatId, AssetId, Result]
+				  {
+						if (UVexelChatSubsystem* const This = WeakThis.Get())
+						{
+							This->OnImageFetched(ChatId, AssetId, Result);
+						} }); });
+}
+
+void UVexelChatSubsystem::OnImageFetched(
+	const FString& ChatId, const FString& AssetId, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result)
+{
+	if (!HistoryManager || !HistoryManager->Find(ChatId))
+	{
+		return;
+	}
+	const TVexelExpected<FString> Path = Result.HasValue() ? ImageStore->Store(ChatId, AssetId, Result.GetValue()->GetContent())
+														  : TVexelExpected<FString>(Result.GetError());
+	if (Path.HasError())
+	{
+		VEXEL_LOG(Warning, "The image '%s' is not at hand: %s", *AssetId, *Path.GetError().ToChainString());
+		return;
+	}
+	Events.OnImageStored.Broadcast(ChatId, AssetId, Path.GetValue());
+}
+
 void UVexelChatSubsystem::HandleToolCall(const TSharedRef<FVexelChatRequest>& Request, const FVexelChatMessageBlock& Block)
 {
 	if (Block.GetType() != EVexelChatMessageBlockType::ToolCall)
@@ -376,6 +519,8 @@ void UVexelChatSubsystem::HandleToolCall(const TSharedRef<FVexelChatRequest>& Re
 	Call.ToolName = Block.Tool_GetToolName();
 	Call.Arguments = Block.GetInfo();
 	Call.Context = {Request->GetChatIdForToolReply(), Block.Tool_GetToolReplyId(), Request->GetConversation()};
+	Call.IsWanted = [Request]
+	{ return Request->IsWanted(); };
 	Call.OnStarted = [this, ChatId, ReplyId = Call.Context.ReplyId](const FString& ProgressText)
 	{ Events.OnToolStarted.Broadcast(ChatId, ReplyId, ProgressText); };
 	Call.OnFinished = [WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, ReplyId = Call.Context.ReplyId](
@@ -386,22 +531,44 @@ void UVexelChatSubsystem::HandleToolCall(const TSharedRef<FVexelChatRequest>& Re
 			This->Events.OnToolFinished.Broadcast(ChatId, ReplyId, DoneText, Error);
 		}
 	};
-	Call.Run(FVexelClient::Get().GetApiClient());
+	Call.Run(FVexelClient::Get().GetApiClient().ToSharedRef());
 }
 
-void UVexelChatSubsystem::SaveConversation(const FVexelChatConversation& Conversation)
+TVexelExpected<TSharedRef<FVexelChatConversation>> UVexelChatSubsystem::FindIdleConversation(const FString& ChatId)
+{
+	if (HasActiveRequest(ChatId))
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Conversation in use", "The conversation is still waiting for an answer");
+	}
+	const TSharedPtr<FVexelChatConversation> Conversation = FindActiveConversation(ChatId);
+	if (!Conversation)
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Conversation not found", "There is no conversation '%s'", *ChatId);
+	}
+	return Conversation.ToSharedRef();
+}
+
+TVexelExpected<void> UVexelChatSubsystem::SaveConversation(const FString& ChatId)
 {
 	if (!HistoryManager)
 	{
 		VEXEL_LOG(Warning, "ChatHistoryManager is not valid");
-		return;
+		return TVexelExpected<void>();
 	}
-	TVexelExpected<void> Saved = HistoryManager->Save(Conversation);
+	TVexelExpected<void> Saved = HistoryManager->Save(ChatId);
 	if (Saved.HasError())
 	{
-		Events.OnSaveFailed.Broadcast(Conversation.GetChatId(), Saved.GetError());
-		FVexelSentry::CaptureError(MoveTemp(Saved).GetError(), VEXEL_HERE);
+		Events.OnSaveFailed.Broadcast(ChatId, Saved.GetError());
+		FVexelSentry::CaptureError(FVexelError(Saved.GetError()), VEXEL_HERE);
 	}
+	return Saved;
+}
+
+TVexelExpected<void> UVexelChatSubsystem::StoreChange(const FString& ChatId)
+{
+	const TVexelExpected<void> Saved = SaveConversation(ChatId);
+	Events.OnConversationChanged.Broadcast(ChatId);
+	return Saved;
 }
 
 void UVexelChatSubsystem::OnAuthDataChanged()

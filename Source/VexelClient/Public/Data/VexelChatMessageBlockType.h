@@ -2,7 +2,7 @@
 
 #include "CoreMinimal.h"
 
-/** What a piece of a message is. The order is that of the wire names in VexelChatMessageBlock.cpp. */
+/** What a piece of a message is. */
 enum class EVexelChatMessageBlockType : uint8
 {
 	Text,
@@ -12,5 +12,7 @@ enum class EVexelChatMessageBlockType : uint8
 	SubChainStart,
 	SubChainEnd,
 	Checkpoint,
-	Error
+	Error,
+	/** Of a later version, or damaged: kept and written back as it was read. */
+	Unknown
 };

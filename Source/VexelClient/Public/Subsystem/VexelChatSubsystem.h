@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "Data/VexelChatConversation.h"
+#include "Data/VexelChatHeader.h"
 #include "Data/VexelChatRequestState.h"
 #include "EditorSubsystem.h"
 #include "VexelExpected.h"
@@ -9,7 +10,9 @@
 #include "VexelChatSubsystem.generated.h"
 
 class FVexelChatHistoryManager;
+class FVexelChatImageStore;
 class FVexelChatRequest;
+class FVexelHttpResponse;
 
 /** What the user interface is told of a turn while it runs. Broadcast on the game thread. */
 struct FVexelChatEvents
@@ -24,6 +27,12 @@ struct FVexelChatEvents
 	DECLARE_MULTICAST_DELEGATE_FourParams(
 		FOnToolFinished, const FString& /*ChatId*/, const FString& /*ReplyId*/, const FString& /*DoneText*/, const FVexelError*);
 
+	/** An image that the service has shown is at hand now, in a file. */
+	DECLARE_MULTICAST_DELEGATE_ThreeParams(FOnImageStored, const FString& /*ChatId*/, const FString& /*AssetId*/, const FString& /*Path*/);
+
+	/** The conversation is another than it was, by more than the running turn: cut back, renamed, set to another mode, taken in, deleted. */
+	DECLARE_MULTICAST_DELEGATE_OneParam(FOnConversationChanged, const FString& /*ChatId*/);
+
 	/** What was said stays in memory, and what was stored before as it was. */
 	DECLARE_MULTICAST_DELEGATE_TwoParams(FOnSaveFailed, const FString& /*ChatId*/, const FVexelError&);
 
@@ -32,6 +41,8 @@ struct FVexelChatEvents
 	FOnRequestStateChanged OnRequestStateChanged;
 	FOnToolStarted OnToolStarted;
 	FOnToolFinished OnToolFinished;
+	FOnImageStored OnImageStored;
+	FOnConversationChanged OnConversationChanged;
 	FOnSaveFailed OnSaveFailed;
 };
 
@@ -58,10 +69,39 @@ public:
 	TSharedPtr<FVexelChatConversation> CreateConversation(const FVexelChatModeInfo& Mode);
 	/** Cancels the conversation's request and removes it with its file. */
 	void DeleteConversation(const TSharedPtr<FVexelChatConversation>& Conversation);
-	TSharedPtr<FVexelChatConversation> FindActiveConversation(const FString& ChatId) const;
-	TSharedPtr<FVexelChatConversation> GetNewestConversation() const;
-	/** All conversations, the newest first. */
-	TArray<TSharedRef<FVexelChatConversation>> GetHistory() const;
+	/**
+	 * The conversation of an id, opened from its file when it is not open yet. It stays open, and answers of a running request come
+	 * into this object. Null where there is none.
+	 */
+	TSharedPtr<FVexelChatConversation> FindActiveConversation(const FString& ChatId);
+	/** The user's conversation that was changed last; null without any. */
+	TSharedPtr<FVexelChatConversation> GetNewestConversation();
+	/** The user's conversations, the one changed last first, without opening any. While nobody is logged in, those of all users. */
+	TArray<FVexelChatHeader> GetHistory() const;
+	/** Paths of stored conversations that were damaged and set aside. */
+	TArray<FString> GetSetAsideFiles() const;
+
+	/** The changes below are stored at once. They fail for an unknown conversation and for one whose request still runs. */
+
+	/** Cuts a conversation back to the checkpoint of an id; what came after it goes. */
+	TVexelExpected<void> RevertToCheckpoint(const FString& ChatId, const FString& CheckpointId);
+	/** Fails for a title without letters. */
+	TVexelExpected<void> SetTitle(const FString& ChatId, const FString& Title);
+	/** The mode of later turns. Fails for an invalid mode. */
+	TVexelExpected<void> SetChatMode(const FString& ChatId, const FVexelChatModeInfo& Mode);
+
+	/** Images that one message may have. */
+	static constexpr int32 MaxAttachedImages = 4;
+
+	/**
+	 * Attaches an image to the next message of a conversation and answers its id. Fails for more than MaxAttachedImages, for one of
+	 * more than 5 MiB and for what is no PNG, JPEG, GIF or WebP.
+	 */
+	TVexelExpected<FString> AttachImage(const FString& ChatId, TConstArrayView<uint8> Bytes);
+	/** Takes an attached image back; false where it is not attached. */
+	bool DetachImage(const FString& ChatId, const FString& AssetId);
+	/** Path of an image of a conversation's messages; empty while it is not at hand. */
+	FString FindImage(const FString& ChatId, const FString& AssetId) const;
 
 	static TArray<FVexelChatModeInfo> GetAllChatModes();
 	static FVexelChatModeInfo GetDefaultAgentChatMode();
@@ -86,13 +126,25 @@ private:
 	void OnRequestInProgress(const TSharedRef<FVexelChatRequest>& Request);
 	void OnRequestSucceeded(const TSharedRef<FVexelChatRequest>& Request);
 	void OnRequestFailed(const TSharedRef<FVexelChatRequest>& Request);
+	void AddResponseToConversation(const FVexelChatRequest& Request);
 
 	void HandleSubChain(const TSharedRef<FVexelChatRequest>& Request, const FVexelChatMessageBlock& Block);
+	/** Has an image of the answer fetched and stored. One that cannot be had stays a reference. */
+	void FetchImage(const FString& ChatId, const FVexelChatMessageBlock& Block);
+	void OnImageFetched(const FString& ChatId, const FString& AssetId, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result);
 	void HandleToolCall(const TSharedRef<FVexelChatRequest>& Request, const FVexelChatMessageBlock& Block);
-	void SaveConversation(const FVexelChatConversation& Conversation);
+	/** The conversation of an id, where it may be changed now. */
+	TVexelExpected<TSharedRef<FVexelChatConversation>> FindIdleConversation(const FString& ChatId);
+	/** Stores a conversation and tells of a failure; the answer is for callers who tell their own. */
+	TVexelExpected<void> SaveConversation(const FString& ChatId);
+	/** Stores a conversation that the user has changed, and tells of the change. */
+	TVexelExpected<void> StoreChange(const FString& ChatId);
 
 	FVexelChatEvents Events;
 	TSharedPtr<FVexelChatHistoryManager> HistoryManager;
+	TSharedPtr<FVexelChatImageStore> ImageStore;
 	TMap<FString, TSharedRef<FVexelChatRequest>> ActiveRequests;
+	/** Ids of the images of each conversation's next message. */
+	TMap<FString, TArray<FString>> AttachedImages;
 	FDelegateHandle AuthHandle;
 };

@@ -13,7 +13,7 @@ FFileSecretStore::FFileSecretStore(const FString& InDirectory)
 TVexelExpected<void> FFileSecretStore::Store(const FString& Key, const FString& Value)
 {
 	VEXEL_TRY_VOID(PrivateFile::MakeDirectory(Directory));
-	VEXEL_TRY(const FFileLock Lock, FFileLock::Take(GetLockPath()));
+	VEXEL_TRY(const FVexelFileLock Lock, TakeLock());
 	VEXEL_TRY(FSecretVault Vault, FSecretVault::Open(Directory));
 	Vault.Set(FSecretBytes(Key), FSecretBytes(Value));
 	return Vault.Save(Directory);
@@ -25,7 +25,7 @@ TVexelExpected<TOptional<FString>> FFileSecretStore::Load(const FString& Key)
 	{
 		return TOptional<FString>();
 	}
-	VEXEL_TRY(const FFileLock Lock, FFileLock::Take(GetLockPath()));
+	VEXEL_TRY(const FVexelFileLock Lock, TakeLock());
 	VEXEL_TRY(const FSecretVault Vault, FSecretVault::Open(Directory));
 	const FSecretBytes* const Value = Vault.Find(FSecretBytes(Key));
 	return Value ? TOptional<FString>(Value->ToText()) : TOptional<FString>();
@@ -37,7 +37,17 @@ TVexelExpected<void> FFileSecretStore::Delete(const FString& Key)
 	{
 		return TVexelExpected<void>();
 	}
-	VEXEL_TRY(const FFileLock Lock, FFileLock::Take(GetLockPath()));
+	VEXEL_TRY(const FVexelFileLock Lock, TakeLock());
 	VEXEL_TRY(FSecretVault Vault, FSecretVault::Open(Directory));
 	return Vault.Remove(FSecretBytes(Key)) ? Vault.Save(Directory) : TVexelExpected<void>();
+}
+
+TVexelExpected<FVexelFileLock> FFileSecretStore::TakeLock() const
+{
+	TVexelExpected<FVexelFileLock> Lock = FVexelFileLock::Take(UTF8_TO_TCHAR((Directory + "/secrets.lock").c_str()));
+	if (Lock.HasError())
+	{
+		return VEXEL_ERROR_CAUSED(FVexelError_SecureStorage, Lock.GetError(), "The secrets are in use");
+	}
+	return Lock;
 }

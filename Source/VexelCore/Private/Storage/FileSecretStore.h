@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Storage/SecretStore.h"
+#include "VexelFileLock.h"
 
 #include <string>
 
@@ -16,7 +17,7 @@ public:
 	virtual TVexelExpected<void> Delete(const FString& Key) override;
 
 private:
-	std::string GetLockPath() const { return Directory + "/secrets.lock"; }
+	TVexelExpected<FVexelFileLock> TakeLock() const;
 
 	std::string Directory;
 };

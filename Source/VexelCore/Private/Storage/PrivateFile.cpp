@@ -7,7 +7,6 @@
 
 #include <cerrno>
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -154,37 +153,4 @@ TVexelExpected<void> PrivateFile::Write(const std::string& Path, TConstArrayView
 	}
 	FlushDirectoryOf(Path);
 	return TVexelExpected<void>();
-}
-
-TVexelExpected<FFileLock> FFileLock::Take(const std::string& Path)
-{
-	// Each holder opens the file anew, so that the lock also keeps two threads of one process apart.
-	const int File = open(Path.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnerOnlyFile);
-	if (File < 0)
-	{
-		return MakeSystemError(TEXT("Cannot open"), Path, errno);
-	}
-	FFileLock Lock(File);
-	while (flock(File, LOCK_EX) != 0)
-	{
-		if (errno != EINTR)
-		{
-			return MakeSystemError(TEXT("Cannot lock"), Path, errno);
-		}
-	}
-	return Lock;
-}
-
-FFileLock::FFileLock(FFileLock&& Other)
-	: File(Other.File)
-{
-	Other.File = -1;
-}
-
-FFileLock::~FFileLock()
-{
-	if (File >= 0)
-	{
-		close(File);
-	}
 }

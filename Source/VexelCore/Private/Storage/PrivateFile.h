@@ -22,22 +22,3 @@ TVexelExpected<FSecretBytes> Read(const std::string& Path, int32 MaxBytes);
 /** Whole or not at all, and on the disk when this returns. */
 TVexelExpected<void> Write(const std::string& Path, TConstArrayView<uint8> Bytes);
 }
-
-/** Holds a lock file among processes, and among the threads of one, until it is destroyed. */
-class FFileLock
-{
-public:
-	static TVexelExpected<FFileLock> Take(const std::string& Path);
-	~FFileLock();
-
-	FFileLock(FFileLock&& Other);
-	FFileLock& operator=(FFileLock&&) = delete;
-
-private:
-	explicit FFileLock(int InFile)
-		: File(InFile)
-	{
-	}
-
-	int File;
-};
