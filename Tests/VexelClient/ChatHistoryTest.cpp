@@ -1,3 +1,4 @@
+#include "Blueprint/VexelBlueprintMapping.h"
 #include "Chat/VexelChatHistoryManager.h"
 #include "Containers/StringConv.h"
 #include "Data/VexelChatConversation.h"
@@ -117,6 +118,29 @@ protected:
 	std::filesystem::path Path;
 	FString Directory;
 };
+
+/** Two editors that have the same conversation open, whose answer ends with the checkpoint "c1". */
+class ChatHistoryOfTwo : public ChatHistory
+{
+protected:
+	ChatHistoryOfTwo()
+		: First(Directory)
+		, Ours(Begin(First, TEXT("shared"), TEXT("start")))
+		, Second(Directory)
+	{
+		AddAndSave(First, *Ours, Confirm(TEXT("one"), TEXT("c1")));
+		AddAndSave(First, *Ours, Ask(TEXT("more")));
+		Theirs = Second.Find(TEXT("shared"));
+	}
+
+	/** What a third editor reads. */
+	std::vector<std::string> ReadTexts() const { return TextsOf(*FVexelChatHistoryManager(Directory).Find(TEXT("shared"))); }
+
+	FVexelChatHistoryManager First;
+	TSharedRef<FVexelChatConversation> Ours;
+	FVexelChatHistoryManager Second;
+	TSharedPtr<FVexelChatConversation> Theirs;
+};
 }
 
 TEST_F(ChatHistory, ListsConversationsNewestFirstAndOpensEach)
@@ -229,11 +253,11 @@ TEST_F(ChatHistory, WhatALaterVersionWroteGoesBackAsItCame)
 {
 	const TCHAR* const Stored =
 		TEXT(R"({"UserId":"u","ChatId":"later","Title":"t","ChatMode":"oracle","CreationTime":"the day after","UpdateTime":"2026-03-01T10:00:00.000Z",)")
-		TEXT(R"("Messages":[{"role":"assistant","failed":false,"message_blocks":[{"type":"text","content":"a","language":"en"},)")
-		TEXT(R"({"type":"poem","lines":["x",{"y":1.50}]},{"type":"tool_call","tool_info":{"tool_name":"n","reply_id":"1","info":{"a":1,"tool_name":"n","reply_id":"1"},"cost":3}},)")
-		TEXT(R"({"type":"image","asset_id":"i","info":{"asset_id":"i","url":"https://h/i.png"}},)")
-		TEXT(R"({"type":"error","message":"m","code":12345678901234567890}],"rating":5},{"role":"tool","said":"x"},17],)")
-		TEXT(R"("Mapping":{"node_agent_names":{},"variables":{"v":"1"}},"Pinned":true})");
+			TEXT(R"("Messages":[{"role":"assistant","failed":false,"message_blocks":[{"type":"text","content":"a","language":"en"},)")
+				TEXT(R"({"type":"poem","lines":["x",{"y":1.50}]},{"type":"tool_call","tool_info":{"tool_name":"n","reply_id":"1","info":{"a":1,"tool_name":"n","reply_id":"1"},"cost":3}},)")
+					TEXT(R"({"type":"image","asset_id":"i","info":{"asset_id":"i","url":"https://h/i.png"}},)")
+						TEXT(R"({"type":"error","message":"m","code":12345678901234567890}],"rating":5},{"role":"tool","said":"x"},17],)")
+							TEXT(R"("Mapping":{"node_agent_names":{},"variables":{"v":"1"}},"Pinned":true})");
 	WriteFile(TEXT("later.json"), Stored);
 	FVexelChatHistoryManager Editor(Directory);
 	const TSharedPtr<FVexelChatConversation> Conversation = Editor.Find(TEXT("later"));
@@ -259,47 +283,34 @@ TEST_F(ChatHistory, WhatALaterVersionWroteGoesBackAsItCame)
 	EXPECT_THAT(ReadFile(TEXT("later.json")), testing::HasSubstr("12345678901234567890"));
 }
 
-TEST_F(ChatHistory, TwoEditorsOnOneConversationLoseNoTurn)
+TEST_F(ChatHistoryOfTwo, NeitherLosesATurn)
 {
-	FVexelChatHistoryManager First(Directory);
-	const TSharedRef<FVexelChatConversation> Ours = Begin(First, TEXT("shared"), TEXT("start"));
-	FVexelChatHistoryManager Second(Directory);
-	const TSharedPtr<FVexelChatConversation> Theirs = Second.Find(TEXT("shared"));
-
 	AddAndSave(First, *Ours, Ask(TEXT("ours 1")));
-	const int32 Key = Ours->GetMessageKey(1);
+	const int32 Key = Ours->GetMessageKey(3);
 	AddAndSave(Second, *Theirs, Ask(TEXT("theirs 1")));
 	AddAndSave(Second, *Theirs, Ask(TEXT("theirs 2")));
 	AddAndSave(First, *Ours, Ask(TEXT("ours 2")));
-	EXPECT_THAT(TextsOf(*Ours), ElementsAre("start", "ours 1", "theirs 1", "theirs 2", "ours 2"));
-	EXPECT_EQ(Ours->FindMessageByKey(Key), 1);
+	EXPECT_THAT(TextsOf(*Ours), ElementsAre("start", "one", "more", "ours 1", "theirs 1", "theirs 2", "ours 2"));
+	EXPECT_EQ(Ours->FindMessageByKey(Key), 3);
 
 	EXPECT_TRUE(Second.Refresh(TEXT("shared")));
 	EXPECT_FALSE(Second.Refresh(TEXT("shared")));
-	EXPECT_THAT(TextsOf(*Theirs), ElementsAre("start", "ours 1", "theirs 1", "theirs 2", "ours 2"));
-	EXPECT_THAT(TextsOf(*FVexelChatHistoryManager(Directory).Find(TEXT("shared"))), testing::ElementsAreArray(TextsOf(*Ours)));
+	EXPECT_EQ(TextsOf(*Theirs), TextsOf(*Ours));
+	EXPECT_EQ(ReadTexts(), TextsOf(*Ours));
 }
 
-TEST_F(ChatHistory, ARefreshKeepsWhatIsNotSavedYet)
+TEST_F(ChatHistoryOfTwo, ARefreshKeepsWhatIsNotSavedYet)
 {
-	FVexelChatHistoryManager First(Directory);
-	const TSharedRef<FVexelChatConversation> Ours = Begin(First, TEXT("shared"), TEXT("start"));
-	FVexelChatHistoryManager Second(Directory);
-	const TSharedPtr<FVexelChatConversation> Theirs = Second.Find(TEXT("shared"));
 	AddAndSave(First, *Ours, Ask(TEXT("ours")));
 	Theirs->AddMessage(Ask(TEXT("theirs")));
 	EXPECT_TRUE(Second.Refresh(TEXT("shared")));
 	EXPECT_FALSE(Second.Refresh(TEXT("shared")));
 	EXPECT_TRUE(Second.Save(TEXT("shared")).HasValue());
-	EXPECT_THAT(TextsOf(*FVexelChatHistoryManager(Directory).Find(TEXT("shared"))), ElementsAre("start", "ours", "theirs"));
+	EXPECT_THAT(ReadTexts(), ElementsAre("start", "one", "more", "ours", "theirs"));
 }
 
-TEST_F(ChatHistory, TitleAndModeAreThoseOfWhoChangedThemLast)
+TEST_F(ChatHistoryOfTwo, TitleAndModeAreThoseOfWhoChangedThemLast)
 {
-	FVexelChatHistoryManager First(Directory);
-	const TSharedRef<FVexelChatConversation> Ours = Begin(First, TEXT("shared"), TEXT("start"));
-	FVexelChatHistoryManager Second(Directory);
-	const TSharedPtr<FVexelChatConversation> Theirs = Second.Find(TEXT("shared"));
 	Ours->SetTitle(TEXT("  Doors\nand keys "));
 	ASSERT_TRUE(First.Save(TEXT("shared")).HasValue());
 	Theirs->SetChatMode(FVexelChatModeInfo::FromId(TEXT("vexel_agent_lite")));
@@ -309,39 +320,46 @@ TEST_F(ChatHistory, TitleAndModeAreThoseOfWhoChangedThemLast)
 	EXPECT_EQ(Ours->GetChatMode().DisplayText, FString(TEXT("Agent Lite")));
 }
 
-TEST_F(ChatHistory, ARevertElsewhereIsTakenOverByWhoHasNothingNew)
+TEST_F(ChatHistoryOfTwo, NamesThatBothHaveGivenToNodesStay)
 {
-	FVexelChatHistoryManager First(Directory);
-	const TSharedRef<FVexelChatConversation> Ours = Begin(First, TEXT("shared"), TEXT("start"));
-	AddAndSave(First, *Ours, Confirm(TEXT("one"), TEXT("c1")));
-	AddAndSave(First, *Ours, Ask(TEXT("more")));
-	FVexelChatHistoryManager Second(Directory);
-	const TSharedPtr<FVexelChatConversation> Theirs = Second.Find(TEXT("shared"));
+	const TCHAR* const Guids[] = {TEXT("00000000000000000000000000000001"), TEXT("00000000000000000000000000000002")};
+	const auto Name = [&](FVexelChatConversation& Conversation, const TCHAR* Guid, const TCHAR* NodeName)
+	{
+		const TSharedRef<FJsonObject> Mapping = MakeShared<FJsonObject>();
+		const TSharedRef<FJsonObject> Names = MakeShared<FJsonObject>();
+		Names->SetStringField(Guid, NodeName);
+		Mapping->SetObjectField(TEXT("node_agent_names"), Names);
+		Conversation.GetMapping()->FromJson(Mapping);
+	};
+	Name(*Ours, Guids[0], TEXT("Branch_0"));
+	Name(*Theirs, Guids[1], TEXT("Branch_1"));
+	ASSERT_TRUE(First.Save(TEXT("shared")).HasValue());
+	ASSERT_TRUE(Second.Save(TEXT("shared")).HasValue());
+	const TSharedRef<FJsonObject> Merged = FVexelChatHistoryManager(Directory).Find(TEXT("shared"))->GetMapping()->ToJson();
+	EXPECT_EQ(Merged->GetObjectField(TEXT("node_agent_names"))->GetStringField(Guids[0]), FString(TEXT("Branch_0")));
+	EXPECT_EQ(Merged->GetObjectField(TEXT("node_agent_names"))->GetStringField(Guids[1]), FString(TEXT("Branch_1")));
+}
+
+TEST_F(ChatHistoryOfTwo, ARevertElsewhereIsTakenOverByWhoHasNothingNew)
+{
 	ASSERT_TRUE(Ours->RevertToBlockIndex(1, 1));
 	ASSERT_TRUE(First.Save(TEXT("shared")).HasValue());
 	EXPECT_TRUE(Second.Refresh(TEXT("shared")));
 	EXPECT_THAT(TextsOf(*Theirs), ElementsAre("start", "one"));
 }
 
-TEST_F(ChatHistory, ConversationsThatGoApartAreBothKept)
+TEST_F(ChatHistoryOfTwo, StatesThatGoApartAreBothKept)
 {
-	FVexelChatHistoryManager First(Directory);
-	const TSharedRef<FVexelChatConversation> Ours = Begin(First, TEXT("shared"), TEXT("start"));
-	AddAndSave(First, *Ours, Confirm(TEXT("one"), TEXT("c1")));
-	AddAndSave(First, *Ours, Ask(TEXT("more")));
-	FVexelChatHistoryManager Second(Directory);
-	const TSharedPtr<FVexelChatConversation> Theirs = Second.Find(TEXT("shared"));
-
 	ASSERT_TRUE(Ours->RevertToBlockIndex(1, 1));
 	AddAndSave(First, *Ours, Ask(TEXT("another way")));
 	FLogCapture Log;
 	AddAndSave(Second, *Theirs, Ask(TEXT("straight on")));
 	EXPECT_TRUE(Log.Contains("was changed by another editor at the same time"));
 
+	EXPECT_THAT(ReadTexts(), ElementsAre("start", "one", "more", "straight on"));
 	FVexelChatHistoryManager Later(Directory);
 	const TArray<FVexelChatHeader> Headers = Later.GetHeaders();
 	ASSERT_EQ(Headers.Num(), 2);
-	EXPECT_THAT(TextsOf(*Later.Find(TEXT("shared"))), ElementsAre("start", "one", "more", "straight on"));
 	const FVexelChatHeader& Copy = Headers[Headers[0].ChatId == TEXT("shared") ? 1 : 0];
 	EXPECT_THAT(TextsOf(*Later.Find(Copy.ChatId)), ElementsAre("start", "one", "another way"));
 	EXPECT_TRUE(Copy.Title.EndsWith(TEXT(" (copy)")));

@@ -97,7 +97,9 @@ TEST_F(ChatImage, WhatTheServiceShowsIsFetchedStoredAndTold)
 	const std::string Url = TCHAR_TO_UTF8(*Server.GetUrl());
 	Server.Answer("/api/chat",
 		FScriptedAnswer().Chunk("See <Image asset_id=\"img 1\" url=\"" + Url + "/image.png\"/><Image asset_id=\"bad\" url=\"" + Url +
-			"/page.html\"/><Image asset_id=\"plain\" url=\"http://example.com/x.png\"/><Image asset_id=\"only\"/>"));
+			"/page.html\"/><Image asset_id=\"plain\" url=\"http://example.com/x.png\"/>"
+			"<Image asset_id=\"file\" url=\"file:///etc/hostname\"/><Image asset_id=\"local\" url=\"https://127.0.0.1:1/x.png\"/>"
+			"<Image asset_id=\"only\"/>"));
 	FString StoredId;
 	FString StoredPath;
 	Subsystem->GetEvents().OnImageStored.AddLambda([&](const FString&, const FString& AssetId, const FString& Path)
@@ -112,7 +114,10 @@ TEST_F(ChatImage, WhatTheServiceShowsIsFetchedStoredAndTold)
 	ASSERT_TRUE(FFileHelper::LoadFileToArray(Stored, *StoredPath));
 	EXPECT_EQ(Stored, Image);
 	EXPECT_EQ(Subsystem->FindImage(Conversation->GetChatId(), TEXT("img 1")), StoredPath);
-	EXPECT_TRUE(Log.Contains("The image 'plain' has no address of https and is not fetched"));
+	for (const char* const Id : {"plain", "file", "local"})
+	{
+		EXPECT_TRUE(Log.Contains("The image '" + std::string(Id) + "' is not at hand: Image not taken: It has no address of https"));
+	}
 	EXPECT_TRUE(Subsystem->FindImage(Conversation->GetChatId(), TEXT("only")).IsEmpty());
 	EXPECT_THAT(ReadStoredConversation(), HasSubstr("/image.png"));
 

@@ -46,7 +46,8 @@ protected:
 			}
 			// What the network does takes real time, of which a request on loopback needs little.
 			PumpUntil([&]
-				{ return FindBodies(GetErrorPath()).Num() >= Num; }, 0.01);
+				{ return FindBodies(GetErrorPath()).Num() >= Num; },
+				0.01);
 			AdvanceTime(0.1f);
 		}
 		return false;
@@ -168,6 +169,19 @@ TEST_F(ChatToolCall, NoToolIsCalledAndNoReplySentAfterCancelling)
 	AdvanceTime(60.0f);
 	EXPECT_EQ(NumStarted, 1);
 	EXPECT_EQ(FindBodies(GetErrorPath()).Num(), 1);
+}
+
+TEST_F(ChatToolCall, ACallThatIsCancelledWhenItIsShownIsNotMade)
+{
+	Server.Answer("/api/chat", FScriptedAnswer().Chunk("a" + Call("none", "r1")).Stall());
+	Subsystem->GetEvents().OnBlockAdded.AddLambda([&](const FString& ChatId, const FVexelChatMessageBlock& Block)
+		{
+			if (Block.GetType() == EVexelChatMessageBlockType::ToolCall)
+			{
+				Subsystem->CancelRequest(ChatId);
+			} });
+	RunTurn(TEXT("Go"));
+	EXPECT_FALSE(Log.Contains("Processing tool call"));
 }
 
 TEST_F(ChatToolCall, CancellingFromABlockStopsTheRestOfItsPiece)

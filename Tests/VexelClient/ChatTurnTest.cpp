@@ -2,6 +2,7 @@
 
 #include "Chat/VexelChatRequest.h"
 #include "Containers/StringConv.h"
+#include "VexelHttp.h"
 #include "VexelInternalConfig.h"
 #include "VexelJson.h"
 
@@ -142,4 +143,59 @@ TEST_F(ChatTurn, AReportThatRepeatsAShorterBodyChangesNothing)
 	ASSERT_EQ(Request->GetResponse().NumBlocks(), 1);
 	EXPECT_EQ(Request->GetResponse().GetBlocks()[0].GetText(), FString(TEXT("one two three")));
 	EXPECT_EQ(Log.Count("Received response bytes are less than already processed bytes. Ignoring."), 1);
+}
+
+TEST_F(ChatTurn, ATurnThatIsCancelledAsItBeginsIsNotSent)
+{
+	Subsystem->GetEvents().OnRequestStateChanged.AddLambda([this](const FString& ChatId, EVexelChatRequestState State, const FVexelError*)
+		{
+			if (State == EVexelChatRequestState::InProgress)
+			{
+				Subsystem->CancelRequest(ChatId);
+			} });
+	RunTurn(TEXT("Well?"));
+	EXPECT_EQ(LastState, EVexelChatRequestState::Cancelled);
+	EXPECT_EQ(FindBody("/api/chat"), nullptr);
+	EXPECT_EQ(Conversation->GetMessages().Num(), 1);
+}
+
+TEST_F(ChatTurn, ARequestGoesThroughItsStatesOnce)
+{
+	Server.Answer("/api/chat", FScriptedAnswer().Chunk("answer"));
+	const TSharedPtr<FVexelChatRequest> Request = Subsystem->PrepareChatRequest(Conversation->GetChatId(), TEXT("Hi"), NullOpt);
+	ASSERT_TRUE(Request.IsValid());
+	EXPECT_TRUE(Log.Contains("[Subsystem] PrepareChatRequest called. ChatId=" + GetChatId() + ", MessageLen=2, CheckpointIdParam='<null>'"));
+	Request->Cancel();
+	EXPECT_TRUE(Log.Contains("Attempted to cancel a chat request that is not valid."));
+	EXPECT_EQ(Request->GetState(), EVexelChatRequestState::Preparing);
+
+	FVexelHttp Client{FVexelHttpClientConfig(Server.GetUrl())};
+	EXPECT_TRUE(Request->Send(Client));
+	EXPECT_FALSE(Request->Send(Client));
+	EXPECT_TRUE(Log.Contains("Attempted to send a chat request that is not in the preparing state."));
+	ASSERT_TRUE(PumpUntil([&]
+		{ return Request->IsFinal(); }));
+	EXPECT_EQ(Request->GetState(), EVexelChatRequestState::Succeeded);
+	Request->Cancel();
+	EXPECT_EQ(Request->GetState(), EVexelChatRequestState::Succeeded);
+	EXPECT_EQ(Log.Count("Attempted to cancel a chat request that is not valid."), 2);
+	EXPECT_EQ(Subsystem->PrepareChatRequest(TEXT("none"), TEXT("Hi"), FString(TEXT("c"))), nullptr);
+	EXPECT_TRUE(Log.Contains("CheckpointIdParam='c'"));
+	EXPECT_TRUE(Log.Contains("Cannot prepare chat request: Conversation is not valid"));
+}
+
+TEST_F(ChatTurn, AConversationThatCannotBeSentSaysWhy)
+{
+	const auto Prepare = [](const TSharedRef<FVexelChatConversation>& Sent)
+	{
+		return MakeShared<FVexelChatRequest>(Sent, FVexelChatMessage(EVexelChatRole::User), FString(), FString(), nullptr)->PreparePayload();
+	};
+	EXPECT_EQ(Prepare(MakeShared<FVexelChatConversation>()), nullptr);
+	EXPECT_TRUE(Log.Contains("Attempted to prepare JSON payload for an invalid conversation."));
+	EXPECT_EQ(Prepare(MakeShared<FVexelChatConversation>(TEXT("u"), TEXT("c"), FVexelChatModeInfo())), nullptr);
+	EXPECT_TRUE(Log.Contains("Attempted to prepare JSON payload for a conversation with an invalid chat mode."));
+	EXPECT_EQ(Subsystem->CreateConversation(FVexelChatModeInfo()), nullptr);
+	EXPECT_TRUE(Log.Contains("Cannot create new conversation: ChatModeInfo is not valid"));
+	Subsystem->DeleteConversation(nullptr);
+	EXPECT_TRUE(Log.Contains("Cannot delete conversation: Conversation is not valid"));
 }

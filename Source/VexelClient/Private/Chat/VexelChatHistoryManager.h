@@ -18,6 +18,7 @@ class FVexelChatHistoryManager
 {
 public:
 	explicit FVexelChatHistoryManager(FString Directory);
+	UE_NONCOPYABLE(FVexelChatHistoryManager)
 
 	/** All conversations, those that are open but not yet stored too, the one updated last first. */
 	TArray<FVexelChatHeader> GetHeaders();

@@ -7,9 +7,12 @@
 #include "Misc/Paths.h"
 #include "VexelCrypto.h"
 #include "VexelFile.h"
+#include "VexelUrlUtils.h"
 
 namespace
 {
+constexpr float FetchTimeoutSeconds = 60.0f;
+
 struct FImageKind
 {
 	const TCHAR* Extension;
@@ -87,6 +90,26 @@ TVexelExpected<FString> FVexelChatImageStore::Store(const FString& ChatId, const
 	const FString Path = GetPath(ChatId, AssetId) + Kind->Extension;
 	VEXEL_TRY_VOID(FVexelFile::SaveWhole(Path, Bytes), "while storing an image of conversation '%s'", *ChatId);
 	return Path;
+}
+
+TVexelTaskResult<FString> FVexelChatImageStore::Fetch(
+	FVexelHttp& Client, const FString& ServiceUrl, const FString& ChatId, const FString& AssetId, const FString& Url) const
+{
+	// The answer's words must not make this machine ask others in the clear, nor its own services.
+	const TVexelExpected<FString> Origin = FVexelUrlUtils::GetOrigin(Url);
+	const TVexelExpected<FString> ServiceOrigin = FVexelUrlUtils::GetOrigin(ServiceUrl);
+	const bool bOfService = Origin && ServiceOrigin && Origin.GetValue().Equals(ServiceOrigin.GetValue());
+	const bool bHttps = Origin && Origin.GetValue().StartsWith(TEXT("https://")) && !FVexelUrlUtils::IsLoopback(Url);
+	if (!bOfService && !bHttps)
+	{
+		return VEXEL_ERROR_TITLED(FVexelError, "Image not taken", "It has no address of https");
+	}
+	return Client.Request(EVexelHttpVerb::Get, Url)
+		.WithTimeout(FetchTimeoutSeconds)
+		.WithAnswerLimit(MaxImageBytes)
+		.SendAndAwait()
+		.ThenOn(EVexelTaskThread::GameThread, [This = AsShared(), ChatId, AssetId](const TSharedRef<FVexelHttpResponse>& Response)
+			{ return This->Store(ChatId, AssetId, Response->GetContent()); });
 }
 
 FString FVexelChatImageStore::FindPath(const FString& ChatId, const FString& AssetId) const

@@ -64,6 +64,12 @@ bool FVexelChatRequest::Send(FVexelHttp& ApiClient)
 	{
 		return false;
 	}
+	if (bCancelled)
+	{
+		// By somebody who was told that it begins.
+		Complete(EVexelChatRequestState::Cancelled);
+		return true;
+	}
 
 	const TWeakPtr<FVexelChatRequest> WeakThis = AsWeak();
 	HttpRequest = ApiClient.Request(EVexelHttpVerb::Post, TEXT("/api/chat"))
@@ -87,14 +93,17 @@ bool FVexelChatRequest::Send(FVexelHttp& ApiClient)
 
 void FVexelChatRequest::Cancel()
 {
-	if (IsFinal() || !HttpRequest)
+	if (State != EVexelChatRequestState::InProgress)
 	{
 		VEXEL_LOG(Warning, "Attempted to cancel a chat request that is not valid.");
 		return;
 	}
 	bCancelled = true;
 	Reader.Stop();
-	HttpRequest->Cancel();
+	if (HttpRequest)
+	{
+		HttpRequest->Cancel();
+	}
 }
 
 void FVexelChatRequest::OnBodyReceived(TConstArrayView<uint8> WholeBody)

@@ -11,12 +11,9 @@
 #include "VexelClient.h"
 #include "VexelLog.h"
 #include "VexelSentry.h"
-#include "VexelUrlUtils.h"
 
 namespace
 {
-constexpr float ImageTimeoutSeconds = 60.0f;
-
 /** Id of the logged-in user; empty without one. */
 FString GetUserId()
 {
@@ -414,6 +411,11 @@ void UVexelChatSubsystem::OnMessageRequestUpdated(const TSharedRef<FVexelChatReq
 	// A copy, because a handler may add blocks.
 	const FVexelChatMessageBlock Block = Response.GetBlocks()[BlockIndex];
 	Events.OnBlockAdded.Broadcast(Request->GetChatId(), Block);
+	if (!Request->IsWanted())
+	{
+		// Whoever was told has cancelled it.
+		return;
+	}
 	switch (Block.GetType())
 	{
 		case EVexelChatMessageBlockType::SubChainStart:
@@ -457,48 +459,34 @@ void UVexelChatSubsystem::HandleSubChain(const TSharedRef<FVexelChatRequest>& Re
 
 void UVexelChatSubsystem::FetchImage(const FString& ChatId, const FVexelChatMessageBlock& Block)
 {
-	const FString Url = Block.Image_GetUrl();
-	if (Url.IsEmpty())
+	if (Block.Image_GetUrl().IsEmpty())
 	{
 		return;
 	}
-	// The answer's text must not make this machine ask others in the clear.
-	if (!Url.StartsWith(TEXT("https://")) && !FVexelUrlUtils::IsLoopback(Url))
-	{
-		VEXEL_LOG(Warning, "The image '%s' has no address of https and is not fetched", *Block.Image_GetAssetId());
-		return;
-	}
-	FVexelClient::Get()
-		.GetAuxiliaryHttpClient()
-		->Request(EVexelHttpVerb::Get, Url)
-		.WithTimeout(ImageTimeoutSeconds)
-		.WithAnswerLimit(FVexelChatImageStore::MaxImageBytes)
-		.SendAndAwait()
-		.OnComplete([WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, AssetId = Block.Image_GetAssetId()](
-						const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result)
-			{ FVexelTaskManager::ScheduleFunc(EVexelTaskThread::GameThread, [WeakThis, ChatId, AssetId, Result]
-				  {
-						if (UVexelChatSubsystem* const This = WeakThis.Get())
-						{
-							This->OnImageFetched(ChatId, AssetId, Result);
-						} }); });
+	FVexelClient& Client = FVexelClient::Get();
+	const FString AssetId = Block.Image_GetAssetId();
+	ImageStore->Fetch(*Client.GetAuxiliaryHttpClient(), Client.GetApiClient()->GetBaseUrl(), ChatId, AssetId, Block.Image_GetUrl())
+		.OnComplete([WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, AssetId](const TVexelExpected<FString>& Path)
+			{
+				if (Path.HasError())
+				{
+					VEXEL_LOG(Warning, "The image '%s' is not at hand: %s", *AssetId, *Path.GetError().ToChainString());
+				}
+				else if (UVexelChatSubsystem* const This = WeakThis.Get())
+				{
+					This->OnImageStored(ChatId, AssetId, Path.GetValue());
+				} });
 }
 
-void UVexelChatSubsystem::OnImageFetched(
-	const FString& ChatId, const FString& AssetId, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result)
+void UVexelChatSubsystem::OnImageStored(const FString& ChatId, const FString& AssetId, const FString& Path)
 {
 	if (!HistoryManager || !HistoryManager->Find(ChatId))
 	{
+		// The conversation was deleted in the meantime.
+		ImageStore->DeleteAll(ChatId);
 		return;
 	}
-	const TVexelExpected<FString> Path = Result.HasValue() ? ImageStore->Store(ChatId, AssetId, Result.GetValue()->GetContent())
-														  : TVexelExpected<FString>(Result.GetError());
-	if (Path.HasError())
-	{
-		VEXEL_LOG(Warning, "The image '%s' is not at hand: %s", *AssetId, *Path.GetError().ToChainString());
-		return;
-	}
-	Events.OnImageStored.Broadcast(ChatId, AssetId, Path.GetValue());
+	Events.OnImageStored.Broadcast(ChatId, AssetId, Path);
 }
 
 void UVexelChatSubsystem::HandleToolCall(const TSharedRef<FVexelChatRequest>& Request, const FVexelChatMessageBlock& Block)

@@ -12,7 +12,6 @@
 class FVexelChatHistoryManager;
 class FVexelChatImageStore;
 class FVexelChatRequest;
-class FVexelHttpResponse;
 
 /** What the user interface is told of a turn while it runs. Broadcast on the game thread. */
 struct FVexelChatEvents
@@ -131,7 +130,7 @@ private:
 	void HandleSubChain(const TSharedRef<FVexelChatRequest>& Request, const FVexelChatMessageBlock& Block);
 	/** Has an image of the answer fetched and stored. One that cannot be had stays a reference. */
 	void FetchImage(const FString& ChatId, const FVexelChatMessageBlock& Block);
-	void OnImageFetched(const FString& ChatId, const FString& AssetId, const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Result);
+	void OnImageStored(const FString& ChatId, const FString& AssetId, const FString& Path);
 	void HandleToolCall(const TSharedRef<FVexelChatRequest>& Request, const FVexelChatMessageBlock& Block);
 	/** The conversation of an id, where it may be changed now. */
 	TVexelExpected<TSharedRef<FVexelChatConversation>> FindIdleConversation(const FString& ChatId);

@@ -73,6 +73,13 @@ int32 FindTagStart(FStringView Text)
 	return Index;
 }
 
+/** As much of the service's own text as a line of the log has room for. */
+FString ToExcerpt(FStringView Text)
+{
+	constexpr int32 MaxLength = 500;
+	return Text.Len() <= MaxLength ? FString(Text) : FString(Text.Left(MaxLength)) + TEXT("...");
+}
+
 /** Reads any JSON value. The reader takes only an object or an array as a document, so the value is made an array's element. */
 TSharedPtr<FJsonValue> ParseJsonValue(FStringView Text, FString& OutError)
 {
@@ -343,7 +350,7 @@ void FVexelChunkParser::EndValue()
 	const TSharedPtr<FJsonValue> Value = ParseJsonValue(Text, Error);
 	if (!Value)
 	{
-		VEXEL_LOG(Warning, "Failed to parse tool call value as JSON: %s: `%s`", *Error, *FString(Text));
+		VEXEL_LOG(Warning, "Failed to parse tool call value as JSON: %s: `%s`", *Error, *ToExcerpt(Text));
 		return;
 	}
 
@@ -352,7 +359,7 @@ void FVexelChunkParser::EndValue()
 		const TSharedPtr<FJsonObject>* Object = nullptr;
 		if (!Value->TryGetObject(Object))
 		{
-			VEXEL_LOG(Warning, "Failed to parse tool call value as JSON: %s: `%s`", TEXT("an object is expected"), *FString(Text));
+			VEXEL_LOG(Warning, "Failed to parse tool call value as JSON: %s: `%s`", TEXT("an object is expected"), *ToExcerpt(Text));
 			return;
 		}
 		for (const auto& Field : (*Object)->Values)
@@ -370,7 +377,7 @@ void FVexelChunkParser::EndValue()
 			return;
 		}
 	}
-	VEXEL_LOG(Warning, "Tool call value with key `%s` is not supported, ignoring", *Key);
+	VEXEL_LOG(Warning, "Tool call value with key `%s` is not supported, ignoring", *ToExcerpt(Key));
 }
 
 void FVexelChunkParser::EndTag()
