@@ -106,7 +106,7 @@ public:
 	}
 };
 
-/** One service for all of this program, which answers each turn with the same 10 MiB, piece by piece. */
+/** One service for all of this program, which answers each turn with the same 10 MiB, piece by piece, and does not pack them. */
 class FService
 {
 public:
@@ -123,7 +123,7 @@ public:
 		}
 		Server.set_tcp_nodelay(true);
 		Server.Post("/api/chat", [this](const httplib::Request&, httplib::Response& Response)
-			{ Response.set_chunked_content_provider("text/plain", [this](size_t Offset, httplib::DataSink& Sink)
+			{ Response.set_chunked_content_provider("application/octet-stream", [this](size_t Offset, httplib::DataSink& Sink)
 				  {
 						if (Offset >= Answer.size())
 						{

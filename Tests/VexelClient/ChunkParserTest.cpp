@@ -162,3 +162,18 @@ TEST(ChunkParser, ATagThatNeverEndsIsGivenBackAndTheParserGoesOn)
 	EXPECT_TRUE(Result.ends_with("x|Checkpoint{}"));
 	EXPECT_TRUE(Result.starts_with("<ToolCall info="));
 }
+
+TEST(ChunkParser, AValueThatIsTooDeepToBeStoredIsText)
+{
+	const auto Nest = [](int32 Depth)
+	{
+		std::string Value = "1";
+		for (int32 Level = 0; Level < Depth - 1; ++Level)
+		{
+			Value = "[" + Value + "]";
+		}
+		return "<Error info={\"a\":" + Value + "}/>";
+	};
+	EXPECT_TRUE(ParseInChunks(Nest(FVexelChunkParser::MaxValueDepth), 0).starts_with("Error{"));
+	EXPECT_EQ(ParseInChunks(Nest(FVexelChunkParser::MaxValueDepth + 1), 0), Nest(FVexelChunkParser::MaxValueDepth + 1));
+}

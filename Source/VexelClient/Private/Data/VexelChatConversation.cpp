@@ -188,7 +188,8 @@ void FVexelChatConversation::TakeOver(const FVexelChatConversation& Stored, int3
 	}
 
 	const TSharedRef<FJsonObject> Names = Mapping->ToJson();
-	for (const auto& [Field, Value] : Stored.Mapping->ToJson()->Values)
+	const TSharedRef<FJsonObject> StoredNames = Stored.Mapping->ToJson();
+	for (const auto& [Field, Value] : StoredNames->Values)
 	{
 		const TSharedPtr<FJsonObject>* Ours = nullptr;
 		const TSharedPtr<FJsonObject>* Theirs = nullptr;

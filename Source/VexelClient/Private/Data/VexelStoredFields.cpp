@@ -33,13 +33,13 @@ TSharedPtr<FJsonObject> FVexelStoredFields::GetRest() const
 		return nullptr;
 	}
 	const TSharedRef<FJsonObject> Rest = MakeShared<FJsonObject>();
-	for (const auto& [Name, Value] : Object->Values)
+	for (const auto& Field : Object->Values)
 	{
-		const bool bRead = NamesRead.ContainsByPredicate([&](FStringView Read)
-			{ return Read.Equals(Name, ESearchCase::IgnoreCase); });
+		const bool bRead = NamesRead.ContainsByPredicate([&](FStringView Name)
+			{ return Name.Equals(Field.Key, ESearchCase::IgnoreCase); });
 		if (!bRead)
 		{
-			Rest->SetField(FString(Name), Value);
+			Rest->SetField(FString(Field.Key), Field.Value);
 		}
 	}
 	return Rest;

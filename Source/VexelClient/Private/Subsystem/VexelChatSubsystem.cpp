@@ -463,9 +463,9 @@ void UVexelChatSubsystem::FetchImage(const FString& ChatId, const FVexelChatMess
 	{
 		return;
 	}
-	FVexelClient& Client = FVexelClient::Get();
+	FVexelClient& Module = FVexelClient::Get();
 	const FString AssetId = Block.Image_GetAssetId();
-	ImageStore->Fetch(*Client.GetAuxiliaryHttpClient(), Client.GetApiClient()->GetBaseUrl(), ChatId, AssetId, Block.Image_GetUrl())
+	ImageStore->Fetch(*Module.GetAuxiliaryHttpClient(), Module.GetApiClient()->GetBaseUrl(), ChatId, AssetId, Block.Image_GetUrl())
 		.OnComplete([WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, AssetId](const TVexelExpected<FString>& Path)
 			{
 				if (Path.HasError())

@@ -296,7 +296,10 @@ void FVexelChunkParser::ReadValue(TCHAR Character)
 	}
 	else if (Character == TEXT('{') || Character == TEXT('['))
 	{
-		++Depth;
+		if (++Depth > MaxValueDepth)
+		{
+			RevertToText();
+		}
 	}
 	else if ((Character == TEXT('}') || Character == TEXT(']')) && --Depth == 0)
 	{

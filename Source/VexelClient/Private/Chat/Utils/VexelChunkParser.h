@@ -25,13 +25,16 @@ public:
  *
  * Chunks may end anywhere, inside an opening, a value or an escape too. A tag holds attributes "key=value" whose value is JSON;
  * a value without a key is the key "info". What looks like a tag but breaks the grammar is text again, as it came; so is a tag
- * that is still open when the answer ends or that grows past MaxTagLength. Single-threaded: chunks come in order.
+ * that is still open when the answer ends, grows past MaxTagLength or nests past MaxValueDepth. Single-threaded: chunks come in order.
  */
 class FVexelChunkParser
 {
 public:
 	/** Longest tag, in characters. An image's bytes are not in its tag, so a real one is far shorter. */
 	static constexpr int32 MaxTagLength = 8 * 1024 * 1024;
+
+	/** Deepest value. One that JSON itself still takes could not be stored any more, being part of a conversation. */
+	static constexpr int32 MaxValueDepth = 64;
 
 	explicit FVexelChunkParser(IVexelChunkSink& Sink);
 
