@@ -363,9 +363,14 @@ void FBlueprintEditorUtils::MarkBlueprintAsStructurallyModified(UBlueprint* Blue
 	{
 		return;
 	}
+	const bool bHadSkeleton = Blueprint->SkeletonGeneratedClass != nullptr;
 	const FClassMembers Before = FClassMembers::Of(Blueprint->SkeletonGeneratedClass.Get());
 	FKismetEditorUtilities::GenerateBlueprintSkeleton(Blueprint, true);
-	ReconstructUsesOfChanged(*Blueprint, Before);
+	// With its first skeleton nothing has changed: the nodes know what the Blueprint was saved with.
+	if (bHadSkeleton)
+	{
+		ReconstructUsesOfChanged(*Blueprint, Before);
+	}
 	ReconstructUsesOfChangedGraphs(*Blueprint);
 	MarkBlueprintAsModified(Blueprint);
 }
