@@ -330,3 +330,16 @@ TEST(CommandLine, ArgumentsWithBlanksAreQuoted)
 	EXPECT_EQ(Tokens.Num(), 2);
 	EXPECT_EQ(Switches.Num(), 2);
 }
+
+TEST_F(FFilesTest, ALinkIsToldFromWhatItLeadsTo)
+{
+	IPlatformFile& Files = IPlatformFile::GetPlatformPhysical();
+	const FString File = Write(TEXT("File"), TEXT("x"));
+	ASSERT_EQ(symlink(Utf8(File).c_str(), Utf8(In(TEXT("Link"))).c_str()), 0);
+	ASSERT_EQ(symlink("nowhere", Utf8(In(TEXT("Dangling"))).c_str()), 0);
+	EXPECT_EQ(Files.IsSymlink(*In(TEXT("Link"))), ESymlinkResult::Symlink);
+	EXPECT_EQ(Files.IsSymlink(*In(TEXT("Dangling"))), ESymlinkResult::Symlink);
+	EXPECT_EQ(Files.IsSymlink(*File), ESymlinkResult::NonSymlink);
+	EXPECT_EQ(Files.IsSymlink(*Folder), ESymlinkResult::NonSymlink);
+	EXPECT_EQ(Files.IsSymlink(*In(TEXT("Nothing"))), ESymlinkResult::NonSymlink);
+}

@@ -133,6 +133,15 @@ public:
 		utimensat(AT_FDCWD, ToUtf8(Filename).c_str(), Times, 0);
 	}
 
+	ESymlinkResult IsSymlink(const TCHAR* Filename) override
+	{
+		struct stat Info
+		{
+		};
+		const bool bLink = lstat(ToUtf8(Filename).c_str(), &Info) == 0 && S_ISLNK(Info.st_mode);
+		return bLink ? ESymlinkResult::Symlink : ESymlinkResult::NonSymlink;
+	}
+
 	FFileStatData GetStatData(const TCHAR* FilenameOrDirectory) override
 	{
 		const std::string Path = ToUtf8(FilenameOrDirectory);

@@ -20,6 +20,15 @@ struct FFileStatData
 	bool bIsValid = false;
 };
 
+/** Whether a path is a symbolic link itself. */
+enum class ESymlinkResult : int8
+{
+	NonSymlink = 0,
+	Symlink = 1,
+	/** The platform cannot tell. */
+	Unimplemented = 2
+};
+
 /** An open file. Deleting it closes the file. */
 class IFileHandle
 {
@@ -64,6 +73,8 @@ public:
 	virtual FDateTime GetTimeStamp(const TCHAR* Filename) = 0;
 	virtual void SetTimeStamp(const TCHAR* Filename, FDateTime DateTime) = 0;
 	virtual FFileStatData GetStatData(const TCHAR* FilenameOrDirectory) = 0;
+	/** Of the path's last part; a path that does not exist is none. */
+	virtual ESymlinkResult IsSymlink(const TCHAR* Filename) = 0;
 
 	/** Null on failure; the caller owns the handle. */
 	virtual IFileHandle* OpenRead(const TCHAR* Filename, bool bAllowWrite = false) = 0;
