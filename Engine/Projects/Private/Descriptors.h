@@ -46,4 +46,14 @@ bool ReadArray(const FJsonObject& Object, const TCHAR* Name, TArray<DescriptorTy
 	}
 	return true;
 }
+
+/** Answers false. */
+bool Fail(FText& OutFailReason, const FString& Reason);
+
+/** Reads a descriptor from its file, which is JSON; Kind, "project" or "plug-in", is for the reason. */
+bool LoadFile(
+	const FString& FileName, const TCHAR* Kind, FText& OutFailReason, TFunctionRef<bool(const FJsonObject&, FText&)> Read);
+
+/** The "FileVersion", which must be from 1 to Latest. */
+bool ReadVersion(const FJsonObject& Object, int32 Latest, int32& OutVersion, FText& OutFailReason);
 }

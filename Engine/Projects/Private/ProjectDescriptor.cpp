@@ -1,32 +1,16 @@
 #include "ProjectDescriptor.h"
 
 #include "Descriptors.h"
-#include "HAL/FileManager.h"
-#include "Misc/FileHelper.h"
-#include "Serialization/JsonReader.h"
-#include "Serialization/JsonSerializer.h"
-
-namespace
-{
-/** A descriptor is written by people and tools; a larger file is something else. */
-constexpr int64 MaxDescriptorBytes = 4 << 20;
-
-bool Fail(FText& OutFailReason, const FString& Reason)
-{
-	OutFailReason = FText::FromString(Reason);
-	return false;
-}
-}
 
 bool FPluginReferenceDescriptor::Read(const FJsonObject& Object, FText& OutFailReason)
 {
 	if (!Object.TryGetStringField(TEXT("Name"), Name) || Name.IsEmpty())
 	{
-		return Fail(OutFailReason, TEXT("it has no 'Name'"));
+		return Descriptors::Fail(OutFailReason, TEXT("it has no 'Name'"));
 	}
 	if (!Object.TryGetBoolField(TEXT("Enabled"), bEnabled))
 	{
-		return Fail(OutFailReason, FString::Printf(TEXT("plug-in '%s' has no 'Enabled'"), *Name));
+		return Descriptors::Fail(OutFailReason, FString::Printf(TEXT("plug-in '%s' has no 'Enabled'"), *Name));
 	}
 	Object.TryGetBoolField(TEXT("Optional"), bOptional);
 	Object.TryGetStringField(TEXT("Description"), Description);
@@ -42,40 +26,16 @@ bool FPluginReferenceDescriptor::ReadArray(
 
 bool FProjectDescriptor::Load(const FString& FileName, FText& OutFailReason)
 {
-	FString Text;
-	if (IFileManager::Get().FileSize(*FileName) > MaxDescriptorBytes)
-	{
-		return Fail(OutFailReason, FString::Printf(TEXT("'%s' is too large for a project file"), *FileName));
-	}
-	if (!FFileHelper::LoadFileToString(Text, *FileName))
-	{
-		return Fail(OutFailReason, FString::Printf(TEXT("'%s' cannot be read"), *FileName));
-	}
-	TSharedPtr<FJsonObject> Object;
-	const TSharedRef<TJsonReader<>> Reader = TJsonReaderFactory<>::Create(MoveTemp(Text));
-	if (!FJsonSerializer::Deserialize(Reader, Object) || !Object)
-	{
-		return Fail(OutFailReason, FString::Printf(TEXT("'%s' is not a project file: %s"), *FileName, *Reader->GetErrorMessage()));
-	}
-	FText Reason;
-	if (!Read(*Object, Reason))
-	{
-		return Fail(OutFailReason, FString::Printf(TEXT("'%s' is not a project file that can be opened: %s"), *FileName, *Reason.ToString()));
-	}
-	return true;
+	return Descriptors::LoadFile(FileName, TEXT("project"), OutFailReason, [this](const FJsonObject& Object, FText& Reason)
+		{ return Read(Object, Reason); });
 }
 
 bool FProjectDescriptor::Read(const FJsonObject& Object, FText& OutFailReason)
 {
 	int32 Version = EProjectDescriptorVersion::Invalid;
-	if (!Object.TryGetNumberField(TEXT("FileVersion"), Version) || Version <= EProjectDescriptorVersion::Invalid)
+	if (!Descriptors::ReadVersion(Object, EProjectDescriptorVersion::Latest, Version, OutFailReason))
 	{
-		return Fail(OutFailReason, TEXT("it has no valid 'FileVersion'"));
-	}
-	if (Version > EProjectDescriptorVersion::Latest)
-	{
-		return Fail(OutFailReason,
-			FString::Printf(TEXT("its 'FileVersion' is %d, and only versions up to %d are known"), Version, int32(EProjectDescriptorVersion::Latest)));
+		return false;
 	}
 	FileVersion = EProjectDescriptorVersion::Type(Version);
 	Object.TryGetStringField(TEXT("EngineAssociation"), EngineAssociation);
