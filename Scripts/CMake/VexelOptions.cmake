@@ -26,6 +26,9 @@ else()
 	set(VEXEL_NO_UNDEFINED -Wl,-z,defs)
 endif()
 
+# A module registers itself when its library is loaded: one that a target depends on is loaded though no symbol of it is used.
+add_link_options(LINKER:--no-as-needed)
+
 find_program(VEXEL_MOLD mold)
 if(VEXEL_MOLD)
 	add_link_options(-fuse-ld=mold)
