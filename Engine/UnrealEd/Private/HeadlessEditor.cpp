@@ -4,6 +4,7 @@
 #include "Containers/Ticker.h"
 #include "Editor/EditorEngine.h"
 #include "EditorLog.h"
+#include "EditorWindow/EditorWindow.h"
 #include "HAL/FileManager.h"
 #include "HAL/PlatformTime.h"
 #include "Interfaces/IProjectManager.h"
@@ -123,6 +124,7 @@ FString FHeadlessEditor::Start(const FHeadlessEditorOptions& Options)
 	}
 	ProcessNewlyLoadedUObjects();
 	GEditor->InitializeEditor();
+	EditorWindow::Open();
 	bIsRunning = true;
 	return FString();
 }
@@ -154,6 +156,7 @@ void FHeadlessEditor::Stop()
 		return;
 	}
 	bIsRunning = false;
+	EditorWindow::Close();
 	GEditor->ShutdownEditor();
 	FModuleManager::Get().UnloadModulesAtShutdown();
 	GEditor->RemoveFromRoot();

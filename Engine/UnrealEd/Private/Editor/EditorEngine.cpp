@@ -6,6 +6,7 @@
 #include "Engine/LevelScriptBlueprint.h"
 #include "Engine/World.h"
 #include "Kismet2/KismetEditorUtilities.h"
+#include "LevelEditor/LevelViewport.h"
 #include "Misc/ConfigCacheIni.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
@@ -97,6 +98,11 @@ FWorldContext& UEditorEngine::GetEditorWorldContext(bool bEnsureIsGWorld)
 		OpenStartupMap();
 	}
 	return *EditorContext;
+}
+
+FViewport* UEditorEngine::GetActiveViewport()
+{
+	return &FLevelViewport::Get();
 }
 
 void UEditorEngine::Tick(float DeltaSeconds, bool bIdleMode)

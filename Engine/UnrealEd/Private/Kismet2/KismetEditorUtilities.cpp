@@ -3,6 +3,8 @@
 #include "BlueprintReinstancer.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
+#include "Editor.h"
+#include "EditorWindow/EditorWindow.h"
 #include "Engine/BlueprintGeneratedClass.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "GameFramework/Actor.h"
@@ -11,6 +13,7 @@
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/CompilerResultsLog.h"
 #include "KismetCompiler/BlueprintCompiler.h"
+#include "Subsystems/AssetEditorSubsystem.h"
 #include "UObject/Interface.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
@@ -170,6 +173,20 @@ bool FKismetEditorUtilities::GenerateBlueprintSkeleton(UBlueprint* BlueprintObj,
 		.Rebuild(Errors);
 	BlueprintObj->bBeingCompiled = false;
 	return true;
+}
+
+void FKismetEditorUtilities::BringKismetToFocusAttentionOnObject(const UObject* ObjectToFocusOn, bool bRequestRename)
+{
+	if (!ObjectToFocusOn)
+	{
+		return;
+	}
+	const UObject* const Owner = ObjectToFocusOn->IsA<UBlueprint>() ? ObjectToFocusOn : ObjectToFocusOn->GetTypedOuter<UBlueprint>();
+	if (Owner)
+	{
+		GEditor->GetEditorSubsystem<UAssetEditorSubsystem>()->OpenEditorForAsset(const_cast<UObject*>(Owner));
+		EditorWindow::Show(ObjectToFocusOn);
+	}
 }
 
 void FKismetEditorUtilities::CompileBlueprint(

@@ -10,6 +10,7 @@
 
 class FBlueprintUndo;
 class FEditorUndoClient;
+class FViewport;
 class UTransactor;
 class UWorld;
 struct FTransactionContext;
@@ -64,6 +65,9 @@ public:
 	/** The client is told of each undo and redo until it is unregistered. */
 	void RegisterForUndo(FEditorUndoClient* UndoClient);
 	void UnregisterForUndo(FEditorUndoClient* UndoClient);
+
+	/** The level editor's view; in this host there is always one. */
+	FViewport* GetActiveViewport();
 
 	TSharedRef<FTimerManager> GetTimerManager() { return TimerManager; }
 	virtual void Tick(float DeltaSeconds, bool bIdleMode) override;

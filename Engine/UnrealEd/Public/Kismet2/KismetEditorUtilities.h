@@ -37,6 +37,9 @@ public:
 	static UBlueprint* CreateBlueprint(
 		UClass* ParentClass, UObject* Outer, const FName NewBPName, enum EBlueprintType BlueprintType, FName CallingContext = NAME_None);
 
+	/** Opens the Blueprint that the object is, or is in, and shows it: a graph, or a node from near. */
+	static void BringKismetToFocusAttentionOnObject(const UObject* ObjectToFocusOn, bool bRequestRename = false);
+
 	/**
 	 * Checks the Blueprint, brings its classes up to date with its variables and graphs, and sets its Status; refreshes and compiles the
 	 * loaded Blueprints that use members which changed. What is wrong goes to pResults, to the output log and to marks on the nodes.
