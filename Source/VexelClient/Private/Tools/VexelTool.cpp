@@ -1,13 +1,12 @@
 #include "Tools/VexelTool.h"
 
-TVexelExpected<FString> FVexelToolInput::GetString(const TCHAR* Name) const
+FVexelError MakeToolError(FVexelError&& Cause, const TCHAR* While)
 {
-	FString Value;
-	if (!Values->TryGetStringField(FString(Name), Value))
+	if (Cause.IsA<FVexelError_ToolInvalidInput>())
 	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Missing `%s`", Name);
+		return MoveTemp(Cause);
 	}
-	return Value;
+	return VEXEL_ERROR_CAUSED(FVexelError_ToolCallFailed, Cause, "%s", While);
 }
 
 FName FVexelTool::GetName() const
@@ -39,3 +38,6 @@ TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolUnavailable::Call(const FVex
 {
 	return VEXEL_ERROR(FVexelError_ToolCallFailed, "The tool '%s' is not available in this version of the plug-in", *GetName().ToString());
 }
+
+VEXEL_DEFINE_TOOL(FVexelToolNoResponse)
+VEXEL_DEFINE_TOOL(FVexelToolUnavailable)

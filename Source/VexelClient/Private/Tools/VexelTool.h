@@ -5,6 +5,7 @@
 #include "VexelTaskResult.h"
 
 class FVexelChatConversation;
+class FVexelToolSchema;
 
 /** The call that a tool performs. */
 struct FVexelToolContext
@@ -24,9 +25,6 @@ public:
 		: Values(InValues)
 	{
 	}
-
-	/** A string argument, or "Invalid input" with "Missing `name`". */
-	TVexelExpected<FString> GetString(const TCHAR* Name) const;
 
 	const TSharedRef<FJsonObject>& GetValues() const { return Values; }
 
@@ -66,9 +64,49 @@ public:
 	/** Performs the tool. Called on the game thread; completes on any thread with the object that goes back to the service. */
 	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FVexelToolContext& Context, const FVexelToolInput& Input) const = 0;
 
+	/** What the tool takes; null for one that is not performed here. */
+	virtual const FVexelToolSchema* GetSchema() const { return nullptr; }
+
 private:
 	FVexelToolRow Row;
 };
+
+/**
+ * A tool with its arguments as a record, which has a TVexelToolSchema. A tool is one source file: the record, a class derived from
+ * this with a Run, and VEXEL_DEFINE_TOOL. Its row of the tool table names the class.
+ */
+template <typename RecordType>
+class TVexelTool : public FVexelTool
+{
+public:
+	using FVexelTool::FVexelTool;
+
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FVexelToolContext& Context, const FVexelToolInput& Input) const override final
+	{
+		VEXEL_TRY(const RecordType Record, RecordType::GetSchema().Read(*Input.GetValues()));
+		return Run(Context, Record);
+	}
+	virtual const FVexelToolSchema* GetSchema() const override final { return &RecordType::GetSchema(); }
+
+protected:
+	/** Performs the tool with arguments that fit the schema. As Call. */
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const RecordType& Input) const = 0;
+};
+
+/** An error of a tool's work: "Tool call failed", caused by what went wrong while something was done. A complaint of the input stays one. */
+FVexelError MakeToolError(FVexelError&& Cause, const TCHAR* While);
+
+/** Makes a tool of a class for its row of the table. */
+template <typename ToolType>
+TSharedRef<FVexelTool> MakeVexelTool(const FVexelToolRow& Row);
+
+/** Lets the tool table make a tool whose class nobody else sees. Stands once in the tool's source file. */
+#define VEXEL_DEFINE_TOOL(ToolType) \
+	template <> \
+	TSharedRef<FVexelTool> MakeVexelTool<ToolType>(const FVexelToolRow& Row) \
+	{ \
+		return MakeShared<ToolType>(Row); \
+	}
 
 /** A tool that the service performs itself. */
 class FVexelToolNoResponse : public FVexelTool

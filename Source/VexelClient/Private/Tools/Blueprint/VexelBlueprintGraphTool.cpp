@@ -1,18 +1,27 @@
 #include "Tools/Blueprint/VexelBlueprintGraphTool.h"
 
-TVexelExpected<FParsedAddRemoveGraphInput> FParsedAddRemoveGraphInput::Parse(const FVexelToolInput& Input)
+const TVexelToolSchema<FParsedAddRemoveGraphInput>& FParsedAddRemoveGraphInput::GetSchema()
 {
-	VEXEL_TRY(FString BlueprintId, Input.GetString(TEXT("blueprint")));
-	VEXEL_TRY(FString GraphId, Input.GetString(TEXT("graph")));
-	return FParsedAddRemoveGraphInput{MoveTemp(BlueprintId), MoveTemp(GraphId)};
+	static const TVexelToolSchema<FParsedAddRemoveGraphInput> Schema =
+		TVexelToolSchema<FParsedAddRemoveGraphInput>()
+			.Required(TEXT("blueprint"), &FParsedAddRemoveGraphInput::Blueprint, {.Complaint = TEXT("Missing `blueprint`")})
+			.Required(TEXT("graph"), &FParsedAddRemoveGraphInput::Graph, {.Complaint = TEXT("Missing `graph`")});
+	return Schema;
 }
 
-TVexelExpected<TSharedRef<FJsonObject>> FParsedAddRemoveGraphInput::Run(const FVexelToolContext& Context, FApply Apply) const
+TVexelTaskResult<TSharedRef<FJsonObject>> FVexelBlueprintGraphTool::Run(
+	const FVexelToolContext& Context, const FParsedAddRemoveGraphInput& Input) const
+{
+	return EditAndExport(Context, Input);
+}
+
+TVexelExpected<TSharedRef<FJsonObject>> FVexelBlueprintGraphTool::EditAndExport(
+	const FVexelToolContext& Context, const FParsedAddRemoveGraphInput& Input) const
 {
 	VEXEL_TRY(const TSharedRef<FVexelBlueprintMapping> Mapping,
 		FVexelBlueprintToolTarget::FindMapping(Context, TEXT("Conversation not found.")));
-	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Mapping, Blueprint));
-	VEXEL_TRY_VOID(Apply(Target));
+	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Mapping, Input.Blueprint));
+	VEXEL_TRY_VOID(EditGraph(Target, Input.Graph));
 	VEXEL_TRY(const TSharedRef<FJsonObject> Exported, Target.Export());
 	const TSharedRef<FJsonObject> Answer = MakeShared<FJsonObject>();
 	Answer->SetObjectField(TEXT("blueprint"), Exported);

@@ -1,8 +1,9 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Templates/Function.h"
 #include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/VexelTool.h"
+#include "Tools/VexelToolSchema.h"
 
 /** What the tools that add and remove a function graph are told. */
 struct FParsedAddRemoveGraphInput
@@ -10,10 +11,21 @@ struct FParsedAddRemoveGraphInput
 	FString Blueprint;
 	FString Graph;
 
-	using FApply = TFunctionRef<TVexelExpected<void>(const FVexelBlueprintToolTarget& Target)>;
+	static const TVexelToolSchema<FParsedAddRemoveGraphInput>& GetSchema();
+};
 
-	static TVexelExpected<FParsedAddRemoveGraphInput> Parse(const FVexelToolInput& Input);
+/** Finds the Blueprint in the conversation's ids, has one of its graphs edited, and answers the Blueprint as it is then. */
+class FVexelBlueprintGraphTool : public TVexelTool<FParsedAddRemoveGraphInput>
+{
+public:
+	using TVexelTool::TVexelTool;
 
-	/** Finds the Blueprint in the conversation's ids, has the edit made and answers the Blueprint as it is then. */
-	TVexelExpected<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, FApply Apply) const;
+protected:
+	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintToolTarget& Target, const FString& GraphId) const = 0;
+
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(
+		const FVexelToolContext& Context, const FParsedAddRemoveGraphInput& Input) const override final;
+
+private:
+	TVexelExpected<TSharedRef<FJsonObject>> EditAndExport(const FVexelToolContext& Context, const FParsedAddRemoveGraphInput& Input) const;
 };

@@ -3,22 +3,15 @@
 #include "Blueprint/VexelBlueprintManipulator.h"
 #include "Tools/Blueprint/VexelBlueprintToolTarget.h"
 
-TVexelExpected<FVexelNodeToolInput> FVexelNodeToolInput::Parse(const FVexelToolInput& Input)
-{
-	VEXEL_TRY(FString BlueprintId, Input.GetString(TEXT("blueprint")));
-	VEXEL_TRY(FString GraphId, Input.GetString(TEXT("graph")));
-	return FVexelNodeToolInput{TVexelBlueprintId(MoveTemp(BlueprintId)), TVexelGraphId(MoveTemp(GraphId))};
-}
-
-TVexelExpected<TSharedRef<FJsonObject>> FVexelNodeToolInput::Run(
-	const FVexelToolContext& Context, const TCHAR* GraphMissing, FApply Apply) const
+TVexelExpected<TSharedRef<FJsonObject>> VexelBlueprintNodeTool::Run(const FVexelToolContext& Context, const FString& BlueprintId,
+	const FString& GraphId, const TCHAR* GraphMissing, FApply Apply)
 {
 	VEXEL_TRY(const TSharedRef<FVexelBlueprintMapping> Mapping,
 		FVexelBlueprintToolTarget::FindMapping(Context, TEXT("Failed to find the conversation.")));
-	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Mapping, Blueprint.ToString()));
-	if (!Target.FindGraph(Graph.ToString()))
+	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Mapping, BlueprintId));
+	if (!Target.FindGraph(GraphId))
 	{
-		return FVexelError_ToolInvalidInput(VEXEL_HERE, FString(GraphMissing).Replace(TEXT("%s"), *Graph, ESearchCase::CaseSensitive));
+		return FVexelError_ToolInvalidInput(VEXEL_HERE, FString(GraphMissing).Replace(TEXT("%s"), *GraphId, ESearchCase::CaseSensitive));
 	}
 	FErrors Errors;
 	{

@@ -48,7 +48,7 @@ TVexelExpected<TSharedRef<FJsonObject>> FVexelBlueprintToolTarget::Export() cons
 	TVexelExpected<TSharedRef<FJsonObject>> Exported = MakeShared<FLumBlueprintCompound>(*Blueprint)->JsonExportObject(Context);
 	if (Exported.HasError())
 	{
-		return VEXEL_ERROR_CAUSED(FVexelError_ToolCallFailed, Exported.GetError(), "while exporting blueprint to JSON");
+		return MakeToolError(MoveTemp(Exported).GetError(), TEXT("while exporting blueprint to JSON"));
 	}
 	return Exported;
 }

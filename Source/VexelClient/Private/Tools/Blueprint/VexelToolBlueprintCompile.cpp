@@ -1,7 +1,7 @@
-#include "Tools/Blueprint/VexelToolBlueprintCompile.h"
-
 #include "Blueprint/VexelBlueprintManipulator.h"
 #include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/VexelTool.h"
+#include "Tools/VexelToolSchema.h"
 
 #include "Internationalization/Text.h"
 #include "Kismet2/CompilerResultsLog.h"
@@ -62,36 +62,52 @@ TSharedRef<FJsonObject> MakeAnswer(const FCompilerResultsLog& Log)
 	return Answer;
 }
 
-/** Named apart from the other tools: here a Blueprint that is not there is a failure of the work. */
-TVexelExpected<FVexelBlueprintToolTarget> FindTarget(const FVexelToolContext& Context, const FVexelToolInput& Input)
+struct FCompileInput
 {
-	const TVexelExpected<FString> BlueprintId = Input.GetString(TEXT("blueprint"));
-	if (BlueprintId.HasError())
+	FString Blueprint;
+
+	static const TVexelToolSchema<FCompileInput>& GetSchema()
 	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Blueprint path not provided in tool input!");
+		static const TVexelToolSchema<FCompileInput> Schema = TVexelToolSchema<FCompileInput>().Required(
+			TEXT("blueprint"), &FCompileInput::Blueprint, {.Complaint = TEXT("Blueprint path not provided in tool input!")});
+		return Schema;
 	}
+};
+
+/** Unlike for the other tools, a Blueprint that is not there is a failure of the work. */
+TVexelExpected<FVexelBlueprintToolTarget> FindTarget(const FVexelToolContext& Context, const FString& BlueprintId)
+{
 	VEXEL_TRY(const TSharedRef<FVexelBlueprintMapping> Mapping,
 		FVexelBlueprintToolTarget::FindMapping(Context, TEXT("Failed to find the conversation.")));
-	TVexelExpected<FVexelBlueprintToolTarget> Target = FVexelBlueprintToolTarget::Find(Mapping, BlueprintId.GetValue());
+	TVexelExpected<FVexelBlueprintToolTarget> Target = FVexelBlueprintToolTarget::Find(Mapping, BlueprintId);
 	if (Target.HasError())
 	{
-		return VEXEL_ERROR(FVexelError_ToolCallFailed, "Blueprint not found: %s", *BlueprintId.GetValue());
+		return VEXEL_ERROR(FVexelError_ToolCallFailed, "Blueprint not found: %s", *BlueprintId);
 	}
 	return Target;
 }
 }
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintCompile::Call(
-	const FVexelToolContext& Context, const FVexelToolInput& Input) const
+/** "compile": compiles a Blueprint and answers what the compiler says of it. */
+class FVexelToolBlueprintCompile : public TVexelTool<FCompileInput>
 {
-	const TVexelExpected<FVexelBlueprintToolTarget> Target = FindTarget(Context, Input);
-	if (Target.HasError())
+public:
+	using TVexelTool::TVexelTool;
+
+protected:
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FCompileInput& Input) const override
 	{
-		return Target.GetError();
+		const TVexelExpected<FVexelBlueprintToolTarget> Target = FindTarget(Context, Input.Blueprint);
+		if (Target.HasError())
+		{
+			return Target.GetError();
+		}
+		// The target keeps the Blueprint until the compile is through.
+		return FVexelBlueprintManipulator(Target.GetValue().GetBlueprint(), Target.GetValue().GetMapping())
+			.CompileBlueprint()
+			.Then([Kept = Target.GetValue()](const TSharedRef<FCompilerResultsLog>& Log)
+				{ return MakeAnswer(*Log); });
 	}
-	// The target keeps the Blueprint until the compile is through.
-	return FVexelBlueprintManipulator(Target.GetValue().GetBlueprint(), Target.GetValue().GetMapping())
-		.CompileBlueprint()
-		.Then([Kept = Target.GetValue()](const TSharedRef<FCompilerResultsLog>& Log)
-			{ return MakeAnswer(*Log); });
-}
+};
+
+VEXEL_DEFINE_TOOL(FVexelToolBlueprintCompile)

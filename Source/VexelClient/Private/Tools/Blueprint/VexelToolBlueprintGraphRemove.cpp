@@ -1,31 +1,27 @@
-#include "Tools/Blueprint/VexelToolBlueprintGraphRemove.h"
-
 #include "Lum/LumHelper.h"
 #include "Tools/Blueprint/VexelBlueprintGraphTool.h"
 
-namespace
+/** "graph_remove": removes a function from a Blueprint. */
+class FVexelToolBlueprintGraphRemove : public FVexelBlueprintGraphTool
 {
-TVexelExpected<TSharedRef<FJsonObject>> RemoveGraph(const FVexelToolContext& Context, const FVexelToolInput& Input)
-{
-	VEXEL_TRY(const FParsedAddRemoveGraphInput Parsed, FParsedAddRemoveGraphInput::Parse(Input));
-	return Parsed.Run(Context, [&Parsed](const FVexelBlueprintToolTarget& Target) -> TVexelExpected<void>
-		{
-			UEdGraph* const Graph = Target.FindGraph(Parsed.Graph);
-			if (!Graph)
-			{
-				return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Graph not found: %s", *Parsed.Graph);
-			}
-			const TVexelExpected<void> Removed = FLumHelper::RemoveGraphFromBlueprint(*Graph);
-			if (Removed.HasError())
-			{
-				return VEXEL_ERROR_CAUSED(FVexelError_ToolCallFailed, Removed.GetError(), "while removing graph from blueprint");
-			}
-			return {}; });
-}
-}
+public:
+	using FVexelBlueprintGraphTool::FVexelBlueprintGraphTool;
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintGraphRemove::Call(
-	const FVexelToolContext& Context, const FVexelToolInput& Input) const
-{
-	return RemoveGraph(Context, Input);
-}
+protected:
+	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintToolTarget& Target, const FString& GraphId) const override
+	{
+		UEdGraph* const Graph = Target.FindGraph(GraphId);
+		if (!Graph)
+		{
+			return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Graph not found: %s", *GraphId);
+		}
+		TVexelExpected<void> Removed = FLumHelper::RemoveGraphFromBlueprint(*Graph);
+		if (Removed.HasError())
+		{
+			return MakeToolError(MoveTemp(Removed).GetError(), TEXT("while removing graph from blueprint"));
+		}
+		return {};
+	}
+};
+
+VEXEL_DEFINE_TOOL(FVexelToolBlueprintGraphRemove)

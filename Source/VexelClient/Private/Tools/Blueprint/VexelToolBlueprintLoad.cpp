@@ -1,36 +1,44 @@
-#include "Tools/Blueprint/VexelToolBlueprintLoad.h"
-
 #include "Blueprint/VexelBlueprintMapping.h"
 #include "Data/VexelChatConversation.h"
 #include "Engine/Blueprint.h"
-#include "Lum/Compound/LumBlueprintCompound.h"
-#include "Lum/LumContext.h"
+#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/VexelTool.h"
+#include "Tools/VexelToolSchema.h"
 
 namespace
 {
-TVexelExpected<TSharedRef<FJsonObject>> ReadBlueprint(const TSharedRef<FVexelBlueprintMapping>& Mapping, const FVexelToolInput& Input)
+struct FBlueprintLoadInput
 {
-	VEXEL_TRY(const FString Path, Input.GetString(TEXT("blueprint")));
-	UBlueprint* Blueprint = nullptr;
-	if (!Mapping->ResolveBlueprint(TVexelBlueprintId(Path), Blueprint))
+	FString Blueprint;
+
+	static const TVexelToolSchema<FBlueprintLoadInput>& GetSchema()
 	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Blueprint not found: `%s`", *Path);
+		static const TVexelToolSchema<FBlueprintLoadInput> Schema =
+			TVexelToolSchema<FBlueprintLoadInput>().Required(TEXT("blueprint"), &FBlueprintLoadInput::Blueprint);
+		return Schema;
 	}
-	const FLumContext LumContext(Mapping);
-	return MakeShared<FLumBlueprintCompound>(*Blueprint)->JsonExportObject(LumContext);
-}
+};
 }
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintLoad::Call(
-	const FVexelToolContext& Context, const FVexelToolInput& Input) const
+/** "read_blueprint": answers a Blueprint's export by the property model. */
+class FVexelToolBlueprintLoad : public TVexelTool<FBlueprintLoadInput>
 {
-	// Outside a conversation nothing remembers node names, so a mapping for this call alone serves.
-	const TSharedRef<FVexelBlueprintMapping> Mapping =
-		Context.Conversation ? Context.Conversation->GetMapping() : MakeShared<FVexelBlueprintMapping>();
-	TVexelExpected<TSharedRef<FJsonObject>> Export = ReadBlueprint(Mapping, Input);
-	if (Export.HasError() && !Export.GetError().IsA<FVexelError_ToolInvalidInput>())
+public:
+	using TVexelTool::TVexelTool;
+
+protected:
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FBlueprintLoadInput& Input) const override
 	{
-		return VEXEL_ERROR_CAUSED(FVexelError_ToolCallFailed, Export.GetError(), "while exporting blueprint to JSON");
+		// Outside a conversation nothing remembers node names, so a mapping for this call alone serves.
+		const TSharedRef<FVexelBlueprintMapping> Mapping =
+			Context.Conversation ? Context.Conversation->GetMapping() : MakeShared<FVexelBlueprintMapping>();
+		UBlueprint* Blueprint = nullptr;
+		if (!Mapping->ResolveBlueprint(TVexelBlueprintId(Input.Blueprint), Blueprint))
+		{
+			return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Blueprint not found: `%s`", *Input.Blueprint);
+		}
+		return FVexelBlueprintToolTarget(*Blueprint, Mapping).Export();
 	}
-	return Export;
-}
+};
+
+VEXEL_DEFINE_TOOL(FVexelToolBlueprintLoad)

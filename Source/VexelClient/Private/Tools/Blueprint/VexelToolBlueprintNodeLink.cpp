@@ -1,82 +1,65 @@
-#include "Tools/Blueprint/VexelToolBlueprintNodeLink.h"
-
 #include "Blueprint/VexelBlueprintManipulator.h"
 #include "Tools/Blueprint/VexelBlueprintNodeTool.h"
+#include "Tools/VexelTool.h"
+#include "Tools/VexelToolSchema.h"
 
 namespace
 {
 struct FLink
 {
-	TVexelNodeId FromNode;
-	TVexelPinId FromPin;
-	TVexelNodeId ToNode;
-	TVexelPinId ToPin;
+	FString FromNode;
+	FString FromPin;
+	FString ToNode;
+	FString ToPin;
+	/** The link is broken instead of made. */
 	bool bRemove = false;
+
+	static const TVexelToolSchema<FLink>& GetSchema()
+	{
+		static const TVexelToolSchema<FLink> Schema =
+			TVexelToolSchema<FLink>()
+				.Required(TEXT("from_node"), &FLink::FromNode, {.Complaint = TEXT("Missing or invalid 'from_node' field in link descriptor")})
+				.Required(TEXT("from_pin"), &FLink::FromPin, {.Complaint = TEXT("Missing or invalid 'from_pin' field in link descriptor")})
+				.Required(TEXT("to_node"), &FLink::ToNode, {.Complaint = TEXT("Missing or invalid 'to_node' field in link descriptor")})
+				.Required(TEXT("to_pin"), &FLink::ToPin, {.Complaint = TEXT("Missing or invalid 'to_pin' field in link descriptor")})
+				.Optional(TEXT("remove"), &FLink::bRemove);
+		return Schema;
+	}
 };
 
 struct FParsedLinkInput
 {
-	FVexelNodeToolInput Target;
+	FString Blueprint;
+	FString Graph;
 	TArray<FLink> Links;
+
+	static const TVexelToolSchema<FParsedLinkInput>& GetSchema()
+	{
+		static const TVexelToolSchema<FParsedLinkInput> Schema =
+			TVexelToolSchema<FParsedLinkInput>()
+				.Required(TEXT("blueprint"), &FParsedLinkInput::Blueprint, {.Complaint = TEXT("Missing `blueprint`")})
+				.Required(TEXT("graph"), &FParsedLinkInput::Graph, {.Complaint = TEXT("Missing `graph`")})
+				.Required(TEXT("links"), &FParsedLinkInput::Links,
+					{.bNotEmpty = true,
+						.Complaint = TEXT("Missing or empty required parameter 'links' (must be an array of node descriptor objects)"),
+						.ElementComplaint = TEXT("Invalid item in 'links' array: each must be an object")});
+		return Schema;
+	}
 };
-
-TVexelExpected<FString> ParseField(const FJsonObject& Descriptor, const TCHAR* Name)
-{
-	FString Text;
-	if (!Descriptor.HasTypedField<EJson::String>(Name) || !Descriptor.TryGetStringField(Name, Text))
-	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Missing or invalid '%s' field in link descriptor", Name);
-	}
-	return Text;
-}
-
-TVexelExpected<FLink> ParseLink(const TSharedPtr<FJsonValue>& Item)
-{
-	const TSharedPtr<FJsonObject>* Descriptor = nullptr;
-	if (!Item || !Item->TryGetObject(Descriptor))
-	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Invalid item in 'links' array: each must be an object");
-	}
-	VEXEL_TRY(FString FromNode, ParseField(**Descriptor, TEXT("from_node")));
-	VEXEL_TRY(FString FromPin, ParseField(**Descriptor, TEXT("from_pin")));
-	VEXEL_TRY(FString ToNode, ParseField(**Descriptor, TEXT("to_node")));
-	VEXEL_TRY(FString ToPin, ParseField(**Descriptor, TEXT("to_pin")));
-	FLink Link{TVexelNodeId(MoveTemp(FromNode)), TVexelPinId(MoveTemp(FromPin)), TVexelNodeId(MoveTemp(ToNode)), TVexelPinId(MoveTemp(ToPin))};
-	(*Descriptor)->TryGetBoolField(TEXT("remove"), Link.bRemove);
-	return Link;
-}
-
-TVexelExpected<FParsedLinkInput> Parse(const FVexelToolInput& Input)
-{
-	VEXEL_TRY(const FVexelNodeToolInput Target, FVexelNodeToolInput::Parse(Input));
-	const TArray<TSharedPtr<FJsonValue>>* Items = nullptr;
-	if (!Input.GetValues()->TryGetArrayField(TEXT("links"), Items) || Items->IsEmpty())
-	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput,
-			"Missing or empty required parameter 'links' (must be an array of node descriptor objects)");
-	}
-	FParsedLinkInput Parsed{Target, {}};
-	for (const TSharedPtr<FJsonValue>& Item : *Items)
-	{
-		VEXEL_TRY(FLink Link, ParseLink(Item));
-		Parsed.Links.Add(MoveTemp(Link));
-	}
-	return Parsed;
-}
 
 /** Makes and breaks the links; answers the nodes that those which succeeded touch, each once. */
 TArray<TVexelNodeId> EditLinks(
-	const FParsedLinkInput& Parsed, const FVexelBlueprintManipulator& Manipulator, FVexelNodeToolInput::FErrors& OutErrors)
+	const FParsedLinkInput& Input, const FVexelBlueprintManipulator& Manipulator, VexelBlueprintNodeTool::FErrors& OutErrors)
 {
 	TSet<TVexelNodeId> Touched;
-	for (const FLink& Link : Parsed.Links)
+	for (const FLink& Link : Input.Links)
 	{
-		const auto Edited =
-			Manipulator.EditConnection(Parsed.Target.Graph, Link.FromNode, Link.FromPin, Link.ToNode, Link.ToPin, !Link.bRemove);
+		const auto Edited = Manipulator.EditConnection(TVexelGraphId(Input.Graph), TVexelNodeId(Link.FromNode), TVexelPinId(Link.FromPin),
+			TVexelNodeId(Link.ToNode), TVexelPinId(Link.ToPin), !Link.bRemove);
 		if (Edited.HasError())
 		{
-			OutErrors.Add(FString::Printf(TEXT("Failed to connect nodes '%s' and '%s': %s"), *Link.FromNode, *Link.ToNode,
-				*Edited.GetError().ToChainString()));
+			OutErrors.Add(FString::Printf(
+				TEXT("Failed to connect nodes '%s' and '%s': %s"), *Link.FromNode, *Link.ToNode, *Edited.GetError().ToChainString()));
 			continue;
 		}
 		Touched.Add(Edited.GetValue().Get<0>());
@@ -85,28 +68,35 @@ TArray<TVexelNodeId> EditLinks(
 	return Touched.Array();
 }
 
-TVexelExpected<TSharedRef<FJsonObject>> LinkNodes(const FVexelToolContext& Context, const FVexelToolInput& Input)
+void LinkAndFormat(
+	const FParsedLinkInput& Input, const FVexelBlueprintManipulator& Manipulator, VexelBlueprintNodeTool::FErrors& OutErrors)
 {
-	VEXEL_TRY(const FParsedLinkInput Parsed, Parse(Input));
-	return Parsed.Target.Run(Context, TEXT("Graph not found: %s"),
-		[&Parsed](const FVexelBlueprintManipulator& Manipulator, FVexelNodeToolInput::FErrors& OutErrors)
-		{
-			const TArray<TVexelNodeId> Touched = EditLinks(Parsed, Manipulator, OutErrors);
-			if (Touched.IsEmpty())
-			{
-				return;
-			}
-			const TVexelExpected<void> Formatted = Manipulator.FormatSelectedNodes(Parsed.Target.Graph, Touched);
-			if (Formatted.HasError())
-			{
-				OutErrors.Add(Formatted.GetError().ToChainString());
-			}
-		});
+	const TArray<TVexelNodeId> Touched = EditLinks(Input, Manipulator, OutErrors);
+	if (Touched.IsEmpty())
+	{
+		return;
+	}
+	const TVexelExpected<void> Formatted = Manipulator.FormatSelectedNodes(TVexelGraphId(Input.Graph), Touched);
+	if (Formatted.HasError())
+	{
+		OutErrors.Add(Formatted.GetError().ToChainString());
+	}
 }
 }
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintNodeLink::Call(
-	const FVexelToolContext& Context, const FVexelToolInput& Input) const
+/** "node_link": makes links between pins, or breaks them, and lays out the nodes that they touch. */
+class FVexelToolBlueprintNodeLink : public TVexelTool<FParsedLinkInput>
 {
-	return LinkNodes(Context, Input);
-}
+public:
+	using TVexelTool::TVexelTool;
+
+protected:
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FParsedLinkInput& Input) const override
+	{
+		return VexelBlueprintNodeTool::Run(Context, Input.Blueprint, Input.Graph, TEXT("Graph not found: %s"),
+			[&Input](const FVexelBlueprintManipulator& Manipulator, VexelBlueprintNodeTool::FErrors& OutErrors)
+			{ LinkAndFormat(Input, Manipulator, OutErrors); });
+	}
+};
+
+VEXEL_DEFINE_TOOL(FVexelToolBlueprintNodeLink)

@@ -1,56 +1,58 @@
-#include "Tools/Blueprint/VexelToolBlueprintNodeRemove.h"
-
 #include "Blueprint/VexelBlueprintManipulator.h"
 #include "Tools/Blueprint/VexelBlueprintNodeTool.h"
+#include "Tools/VexelTool.h"
+#include "Tools/VexelToolSchema.h"
 
 namespace
 {
 struct FParsedRemoveInput
 {
-	FVexelNodeToolInput Target;
-	TArray<TVexelNodeId> Nodes;
+	FString Blueprint;
+	FString Graph;
+	TArray<FString> Nodes;
+
+	static const TVexelToolSchema<FParsedRemoveInput>& GetSchema()
+	{
+		static const TVexelToolSchema<FParsedRemoveInput> Schema =
+			TVexelToolSchema<FParsedRemoveInput>()
+				.Required(TEXT("blueprint"), &FParsedRemoveInput::Blueprint, {.Complaint = TEXT("Missing `blueprint`")})
+				.Required(TEXT("graph"), &FParsedRemoveInput::Graph, {.Complaint = TEXT("Missing `graph`")})
+				.Required(TEXT("nodes"), &FParsedRemoveInput::Nodes,
+					{.bNotEmpty = true,
+						.Complaint = TEXT("Missing or empty required parameter 'nodes' (must be an array of node ids)"),
+						.ElementComplaint = TEXT("Invalid node descriptor in the input array (expected a string)")});
+		return Schema;
+	}
 };
 
-TVexelExpected<FParsedRemoveInput> Parse(const FVexelToolInput& Input)
+void RemoveNodes(
+	const FParsedRemoveInput& Input, const FVexelBlueprintManipulator& Manipulator, VexelBlueprintNodeTool::FErrors& OutErrors)
 {
-	VEXEL_TRY(const FVexelNodeToolInput Target, FVexelNodeToolInput::Parse(Input));
-	const TArray<TSharedPtr<FJsonValue>>* Items = nullptr;
-	if (!Input.GetValues()->TryGetArrayField(TEXT("nodes"), Items) || Items->IsEmpty())
+	for (const FString& Node : Input.Nodes)
 	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Missing or empty required parameter 'nodes' (must be an array of node ids)");
-	}
-	FParsedRemoveInput Parsed{Target, {}};
-	for (const TSharedPtr<FJsonValue>& Item : *Items)
-	{
-		if (!Item || Item->Type != EJson::String)
+		const TVexelExpected<TVexelNodeId> Removed = Manipulator.RemoveNode(TVexelGraphId(Input.Graph), TVexelNodeId(Node));
+		if (Removed.HasError())
 		{
-			return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Invalid node descriptor in the input array (expected a string)");
+			OutErrors.Add(FString::Printf(TEXT("Failed to remove node '%s': %s"), *Node, *Removed.GetError().ToChainString()));
 		}
-		Parsed.Nodes.Emplace(Item->AsString());
 	}
-	return Parsed;
-}
-
-TVexelExpected<TSharedRef<FJsonObject>> Remove(const FVexelToolContext& Context, const FVexelToolInput& Input)
-{
-	VEXEL_TRY(const FParsedRemoveInput Parsed, Parse(Input));
-	return Parsed.Target.Run(Context, TEXT("Graph reference `%s` is invalid or does not exist in the blueprint."),
-		[&Parsed](const FVexelBlueprintManipulator& Manipulator, FVexelNodeToolInput::FErrors& OutErrors)
-		{
-			for (const TVexelNodeId& Node : Parsed.Nodes)
-			{
-				const TVexelExpected<TVexelNodeId> Removed = Manipulator.RemoveNode(Parsed.Target.Graph, Node);
-				if (Removed.HasError())
-				{
-					OutErrors.Add(FString::Printf(TEXT("Failed to remove node '%s': %s"), *Node, *Removed.GetError().ToChainString()));
-				}
-			}
-		});
 }
 }
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintNodeRemove::Call(
-	const FVexelToolContext& Context, const FVexelToolInput& Input) const
+/** "node_remove": removes nodes from a graph. */
+class FVexelToolBlueprintNodeRemove : public TVexelTool<FParsedRemoveInput>
 {
-	return Remove(Context, Input);
-}
+public:
+	using TVexelTool::TVexelTool;
+
+protected:
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FParsedRemoveInput& Input) const override
+	{
+		return VexelBlueprintNodeTool::Run(Context, Input.Blueprint, Input.Graph,
+			TEXT("Graph reference `%s` is invalid or does not exist in the blueprint."),
+			[&Input](const FVexelBlueprintManipulator& Manipulator, VexelBlueprintNodeTool::FErrors& OutErrors)
+			{ RemoveNodes(Input, Manipulator, OutErrors); });
+	}
+};
+
+VEXEL_DEFINE_TOOL(FVexelToolBlueprintNodeRemove)

@@ -1,105 +1,106 @@
-#include "Tools/Blueprint/VexelToolBlueprintNodeSpawn.h"
-
 #include "Blueprint/VexelBlueprintManipulator.h"
 #include "Tools/Blueprint/VexelBlueprintNodeTool.h"
+#include "Tools/VexelTool.h"
+#include "Tools/VexelToolSchema.h"
 
 namespace
 {
 struct FNodeToSpawn
 {
-	TVexelNodeTypeId Type;
-	/** In the order of the input. */
-	TArray<TTuple<FName, FString>> PinValues;
+	FString Type;
+	TSharedPtr<FJsonObject> PinValues;
+
+	static const TVexelToolSchema<FNodeToSpawn>& GetSchema()
+	{
+		static const TVexelToolSchema<FNodeToSpawn> Schema =
+			TVexelToolSchema<FNodeToSpawn>()
+				.Required(TEXT("node_type"), &FNodeToSpawn::Type,
+					{.Complaint = TEXT("Missing or invalid 'node_type' field in node descriptor")})
+				.Optional(TEXT("pin_values"), &FNodeToSpawn::PinValues);
+		return Schema;
+	}
 };
 
 struct FParsedSpawnInput
 {
-	FVexelNodeToolInput Target;
+	FString Blueprint;
+	FString Graph;
 	TArray<FNodeToSpawn> Nodes;
+
+	static const TVexelToolSchema<FParsedSpawnInput>& GetSchema()
+	{
+		static const TVexelToolSchema<FParsedSpawnInput> Schema =
+			TVexelToolSchema<FParsedSpawnInput>()
+				.Required(TEXT("blueprint"), &FParsedSpawnInput::Blueprint, {.Complaint = TEXT("Missing `blueprint`")})
+				.Required(TEXT("graph"), &FParsedSpawnInput::Graph, {.Complaint = TEXT("Missing `graph`")})
+				.Required(TEXT("nodes"), &FParsedSpawnInput::Nodes,
+					{.bNotEmpty = true,
+						.Complaint = TEXT("Missing or empty required parameter 'nodes' (must be an array of node descriptor objects)"),
+						.ElementComplaint = TEXT("Invalid item in 'nodes' array: each must be an object")});
+		return Schema;
+	}
 };
 
-TVexelExpected<void> ParsePinValues(const FJsonObject& Values, FNodeToSpawn& OutNode)
+/** The values by pin, in the order of the input. */
+using FPinValues = TArray<TTuple<FName, FString>>;
+
+TVexelExpected<FPinValues> ReadPinValues(const FNodeToSpawn& Node)
 {
-	for (const auto& [Name, Value] : Values.Values)
+	FPinValues PinValues;
+	if (!Node.PinValues)
 	{
-		FString Text;
-		if (!Value || Value->Type != EJson::String || !Value->TryGetString(Text))
+		return PinValues;
+	}
+	for (const auto& [Name, Value] : Node.PinValues->Values)
+	{
+		if (!Value || Value->Type != EJson::String)
 		{
 			return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Invalid pin value for '%s': must be a string", *Name);
 		}
 		// A longer text is no engine name, so no pin has it.
 		if (Name.Len() < NAME_SIZE)
 		{
-			OutNode.PinValues.Emplace(FName(*Name), MoveTemp(Text));
+			PinValues.Emplace(FName(*Name), Value->AsString());
 		}
 	}
-	return {};
+	return PinValues;
 }
 
-TVexelExpected<FNodeToSpawn> ParseNode(const TSharedPtr<FJsonValue>& Item)
+TVexelExpected<TSharedRef<FJsonObject>> Spawn(const FVexelToolContext& Context, const FParsedSpawnInput& Input)
 {
-	const TSharedPtr<FJsonObject>* Descriptor = nullptr;
-	if (!Item || !Item->TryGetObject(Descriptor))
+	TArray<FPinValues> PinValues;
+	for (const FNodeToSpawn& Node : Input.Nodes)
 	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Invalid item in 'nodes' array: each must be an object");
+		VEXEL_TRY(FPinValues Values, ReadPinValues(Node));
+		PinValues.Add(MoveTemp(Values));
 	}
-	FString Type;
-	if (!(*Descriptor)->HasTypedField<EJson::String>(TEXT("node_type")) || !(*Descriptor)->TryGetStringField(TEXT("node_type"), Type))
-	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Missing or invalid 'node_type' field in node descriptor");
-	}
-	FNodeToSpawn Node{TVexelNodeTypeId(MoveTemp(Type)), {}};
-	const TSharedPtr<FJsonObject>* PinValues = nullptr;
-	if ((*Descriptor)->TryGetObjectField(TEXT("pin_values"), PinValues))
-	{
-		VEXEL_TRY_VOID(ParsePinValues(**PinValues, Node));
-	}
-	else if ((*Descriptor)->HasField(TEXT("pin_values")) && !(*Descriptor)->HasTypedField<EJson::Null>(TEXT("pin_values")))
-	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Invalid 'pin_values' field in node descriptor: must be an object");
-	}
-	return Node;
-}
-
-TVexelExpected<FParsedSpawnInput> Parse(const FVexelToolInput& Input)
-{
-	VEXEL_TRY(const FVexelNodeToolInput Target, FVexelNodeToolInput::Parse(Input));
-	const TArray<TSharedPtr<FJsonValue>>* Items = nullptr;
-	if (!Input.GetValues()->TryGetArrayField(TEXT("nodes"), Items) || Items->IsEmpty())
-	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput,
-			"Missing or empty required parameter 'nodes' (must be an array of node descriptor objects)");
-	}
-	FParsedSpawnInput Parsed{Target, {}};
-	for (const TSharedPtr<FJsonValue>& Item : *Items)
-	{
-		VEXEL_TRY(FNodeToSpawn Node, ParseNode(Item));
-		Parsed.Nodes.Add(MoveTemp(Node));
-	}
-	return Parsed;
-}
-
-TVexelExpected<TSharedRef<FJsonObject>> Spawn(const FVexelToolContext& Context, const FVexelToolInput& Input)
-{
-	VEXEL_TRY(const FParsedSpawnInput Parsed, Parse(Input));
-	return Parsed.Target.Run(Context, TEXT("Graph not found: %s"),
-		[&Parsed](const FVexelBlueprintManipulator& Manipulator, FVexelNodeToolInput::FErrors& OutErrors)
+	return VexelBlueprintNodeTool::Run(Context, Input.Blueprint, Input.Graph, TEXT("Graph not found: %s"),
+		[&](const FVexelBlueprintManipulator& Manipulator, VexelBlueprintNodeTool::FErrors& OutErrors)
 		{
-			for (const FNodeToSpawn& Node : Parsed.Nodes)
+			for (int32 Index = 0; Index < Input.Nodes.Num(); ++Index)
 			{
-				const TVexelExpected<TVexelNodeId> Spawned = Manipulator.SpawnNode(Parsed.Target.Graph, Node.Type, Node.PinValues);
+				const TVexelNodeTypeId Type(Input.Nodes[Index].Type);
+				const TVexelExpected<TVexelNodeId> Spawned = Manipulator.SpawnNode(TVexelGraphId(Input.Graph), Type, PinValues[Index]);
 				if (Spawned.HasError())
 				{
-					OutErrors.Add(FString::Printf(
-						TEXT("Failed to spawn node of type '%s': %s"), *Node.Type, *Spawned.GetError().ToChainString()));
+					OutErrors.Add(FString::Printf(TEXT("Failed to spawn node of type '%s': %s"), *Type, *Spawned.GetError().ToChainString()));
 				}
 			}
 		});
 }
 }
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolBlueprintNodeSpawn::Call(
-	const FVexelToolContext& Context, const FVexelToolInput& Input) const
+/** "node_spawn": places nodes in a graph, each with values for its pins. */
+class FVexelToolBlueprintNodeSpawn : public TVexelTool<FParsedSpawnInput>
 {
-	return Spawn(Context, Input);
-}
+public:
+	using TVexelTool::TVexelTool;
+
+protected:
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FParsedSpawnInput& Input) const override
+	{
+		return Spawn(Context, Input);
+	}
+};
+
+VEXEL_DEFINE_TOOL(FVexelToolBlueprintNodeSpawn)
