@@ -83,18 +83,19 @@ void RateEveryName(benchmark::State& State)
 		{
 			TArray<FString> Words;
 			FString(Query).Replace(TEXT("_"), TEXT(" ")).ParseIntoArray(Words, TEXT(" "));
-			std::vector<FVexelFuzzySearch::FScorer> Scorers;
+			std::vector<std::pair<FVexelFuzzySearch::FScorer, double>> Scorers;
+			const double NumLetters = FString(Query).Len() - Words.Num() + 1;
 			for (const FString& Word : Words)
 			{
-				Scorers.push_back(FVexelFuzzySearch::ScorerPartialRatio(Word));
+				Scorers.emplace_back(FVexelFuzzySearch::ScorerPartialRatio(Word), Word.Len() / NumLetters);
 			}
 			std::vector<std::pair<double, const FString*>> Found;
 			for (const FString& Name : Names)
 			{
 				double Score = 0.0;
-				for (const FVexelFuzzySearch::FScorer& Scorer : Scorers)
+				for (const auto& [Scorer, Weight] : Scorers)
 				{
-					Score += Scorer(Name) / double(Scorers.size());
+					Score += Scorer(Name) * Weight;
 				}
 				if (Score >= MinScore)
 				{

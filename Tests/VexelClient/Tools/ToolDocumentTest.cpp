@@ -41,7 +41,8 @@ std::vector<FDocumentedTool> ReadDocument()
 	{
 		if (Line.starts_with("## "))
 		{
-			Tool = {.Name = Line.substr(3)};
+			Tool = FDocumentedTool();
+			Tool.Name = Line.substr(3);
 		}
 		if (Line.starts_with("```"))
 		{

@@ -81,17 +81,17 @@ double GetRowWidth(const FPinLayout& Pin)
 
 FGraphLayout::FGraphLayout(const UEdGraph& Graph)
 {
-	for (const bool bComments : {true, false})
+	for (const UEdGraphNode* const Node : Graph.Nodes)
 	{
-		for (const UEdGraphNode* const Node : Graph.Nodes)
+		if (Node)
 		{
-			if (Node && (NodeLook::GetForm(*Node) == ENodeForm::Comment) == bComments)
-			{
-				Nodes.Add(LayOut(*Node));
-				Bounds += Nodes.Last().Box;
-			}
+			Nodes.Add(LayOut(*Node));
+			Bounds += Nodes.Last().Box;
 		}
 	}
+	// A comment within another one is drawn over it.
+	Nodes.StableSort([](const FNodeLayout& A, const FNodeLayout& B)
+		{ return A.Form == ENodeForm::Comment && (B.Form != ENodeForm::Comment || A.Box.GetArea() > B.Box.GetArea()); });
 	for (int32 Index = 0; Index < Nodes.Num(); ++Index)
 	{
 		for (int32 Pin = 0; Pin < Nodes[Index].Pins.Num(); ++Pin)
@@ -122,13 +122,12 @@ double FGraphLayout::Measure(const FString& Text, double Size, bool bBold)
 	return Width * Size;
 }
 
-FPinLayout FGraphLayout::MakePin(const UEdGraphPin& Pin, ENodeForm Form)
+FPinLayout FGraphLayout::MakePin(const UEdGraphPin& Pin)
 {
 	FPinLayout Layout;
 	Layout.Pin = &Pin;
 	Layout.Color = NodeLook::GetPinColor(Pin.PinType);
-	const bool bEntry = Form == ENodeForm::Compact || Form == ENodeForm::Knot;
-	Layout.Label = bEntry ? FString() : CutLine(Pin.GetDisplayName().ToString(), MaxLabelLength);
+	Layout.Label = NodeLook::ShowsPinName(Pin) ? CutLine(Pin.GetDisplayName().ToString(), MaxLabelLength) : FString();
 	Layout.LabelWidth = Layout.Label.IsEmpty() ? 0.0 : Measure(Layout.Label, GraphSizes::PinText);
 	Layout.Value = GetShownValue(Pin);
 	const bool bBoolean = Pin.PinType.PinCategory == UEdGraphSchema_K2::PC_Boolean;
@@ -168,7 +167,7 @@ FNodeLayout FGraphLayout::LayOut(const UEdGraphNode& Node)
 	{
 		if (Pin && IsDrawn(*Pin))
 		{
-			Layout.Pins.Add(MakePin(*Pin, Layout.Form));
+			Layout.Pins.Add(MakePin(*Pin));
 		}
 	}
 	if (Layout.Form == ENodeForm::Knot)

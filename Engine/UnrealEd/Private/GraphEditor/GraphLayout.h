@@ -62,7 +62,7 @@ class FGraphLayout
 public:
 	explicit FGraphLayout(const UEdGraph& Graph);
 
-	/** Comments first, then the others, in the graph's order. */
+	/** Comments first, the largest before those within it; then the others in the graph's order. */
 	const TArray<FNodeLayout>& GetNodes() const { return Nodes; }
 	const FBox2D& GetBounds() const { return Bounds; }
 	/** Null for a pin that is not drawn. */
@@ -73,7 +73,7 @@ private:
 	FNodeLayout LayOut(const UEdGraphNode& Node);
 	void LayOutPins(FNodeLayout& Layout);
 	void LayOutKnot(FNodeLayout& Layout);
-	FPinLayout MakePin(const UEdGraphPin& Pin, ENodeForm Form);
+	FPinLayout MakePin(const UEdGraphPin& Pin);
 	double Measure(const FString& Text, double Size, bool bBold = false);
 
 	TArray<FNodeLayout> Nodes;

@@ -122,6 +122,14 @@ ENodeForm NodeLook::GetForm(const UEdGraphNode& Node)
 	return Node.ShouldDrawCompact() ? ENodeForm::Compact : ENodeForm::Full;
 }
 
+bool NodeLook::ShowsPinName(const UEdGraphPin& Pin)
+{
+	// What a node sets stands on its left side already.
+	const bool bSetValue = Pin.Direction == EGPD_Output && Pin.GetOwningNode()->IsA<UK2Node_VariableSet>();
+	const ENodeForm Form = GetForm(*Pin.GetOwningNode());
+	return !bSetValue && Form != ENodeForm::Compact && Form != ENodeForm::Knot;
+}
+
 FColor NodeLook::GetTitleColor(const UEdGraphNode& Node)
 {
 	if (const UK2Node_Variable* const Variable = Cast<UK2Node_Variable>(&Node))
@@ -129,6 +137,10 @@ FColor NodeLook::GetTitleColor(const UEdGraphNode& Node)
 		const UEdGraphPin* const Value = Variable->FindPin(Variable->GetVarName());
 		const FLinearColor Bright = FLinearColor(Value ? GetPinColor(Value->PinType) : FlowColor);
 		return (Node.IsNodePure() ? Bright : Bright * TitleDarkness).ToFColor(true);
+	}
+	if (Node.IsA<UK2Node_Self>() && !Node.Pins.IsEmpty())
+	{
+		return GetPinColor(Node.Pins[0]->PinType);
 	}
 	if (Node.IsA<UK2Node_CallFunction>() && Node.IsNodePure())
 	{

@@ -4,6 +4,7 @@
 #include "Math/Color.h"
 
 class UEdGraphNode;
+class UEdGraphPin;
 struct FEdGraphPinType;
 
 /** The form in which a node is drawn. */
@@ -25,6 +26,7 @@ enum class ENodeForm : uint8
 namespace NodeLook
 {
 ENodeForm GetForm(const UEdGraphNode& Node);
+bool ShowsPinName(const UEdGraphPin& Pin);
 FColor GetTitleColor(const UEdGraphNode& Node);
 FColor GetPinColor(const FEdGraphPinType& Type);
 }

@@ -1,5 +1,6 @@
 #include "LevelEditor/LevelPainter.h"
 
+#include "AssetRegistry/IAssetRegistry.h"
 #include "Components/SceneComponent.h"
 #include "Engine/Level.h"
 #include "Engine/World.h"
@@ -94,10 +95,38 @@ double ReadRadius(const UObject& Component)
 	return 0.0;
 }
 
+/** "100x100x20" */
+FVector ParseSize(const FString& Text)
+{
+	TArray<FString> Sides;
+	Text.ParseIntoArray(Sides, TEXT("x"));
+	return Sides.Num() == 3 ? FVector(FCString::Atod(*Sides[0]), FCString::Atod(*Sides[1]), FCString::Atod(*Sides[2])) : FVector::ZeroVector;
+}
+
+/** What the mesh told the registry when it was saved; this host does not read meshes themselves. */
+FVector ReadMeshSize(const UObject& Component)
+{
+	constexpr double BasicShapeSide = 100.0;
+	const FObjectProperty* const Property = FindProperty<FObjectProperty>(Component, TEXT("StaticMesh"));
+	const UObject* const Mesh = Property ? Property->GetObjectPropertyValue_InContainer(&Component) : nullptr;
+	if (!Mesh)
+	{
+		return FVector::ZeroVector;
+	}
+	if (Mesh->GetPathName().StartsWith(TEXT("/Engine/BasicShapes/")))
+	{
+		return FVector(BasicShapeSide);
+	}
+	FString Size;
+	IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(Mesh), true).GetTagValue(TEXT("ApproxSize"), Size);
+	return ParseSize(Size);
+}
+
 FVector ReadHalfSize(const UObject& Component)
 {
 	const FStructProperty* const Extent = FindProperty<FStructProperty>(Component, TEXT("BoxExtent"));
-	return Extent && Extent->Struct->GetName() == TEXT("Vector") ? *Extent->ContainerPtrToValuePtr<FVector>(&Component) : FVector::ZeroVector;
+	const bool bBox = Extent && Extent->Struct->GetName() == TEXT("Vector");
+	return bBox ? *Extent->ContainerPtrToValuePtr<FVector>(&Component) : ReadMeshSize(Component) * 0.5;
 }
 
 FString CutLabel(const FString& Text)

@@ -142,9 +142,11 @@ TArray<FVexelAssetNameIndex::FMatch> FVexelAssetNameIndex::Find(const FString& Q
 		return {};
 	}
 	TArray<FRatedWord> RatedWords;
+	int32 NumLetters = 0;
 	for (const FString& Word : Words)
 	{
 		RatedWords.Emplace(Word);
+		NumLetters += Word.Len();
 	}
 	struct FRated
 	{
@@ -157,7 +159,7 @@ TArray<FVexelAssetNameIndex::FMatch> FVexelAssetNameIndex::Find(const FString& Q
 		double Score = 0.0;
 		for (const FRatedWord& Word : RatedWords)
 		{
-			Score += Word.Rate(Entries[Id].Name) / RatedWords.Num();
+			Score += Word.Rate(Entries[Id].Name) * Word.Word.Len() / NumLetters;
 		}
 		if (Score >= MinScore)
 		{

@@ -13,7 +13,7 @@ public:
 	struct FMatch
 	{
 		FTopLevelAssetPath Path;
-		/** From MinScore to 100, which is a name that has every word of the query. */
+		/** From MinScore to 100, which is a name that has every word of the query. A word counts as much as it has letters. */
 		double Score = 0.0;
 	};
 	static constexpr double MinScore = 70.0;

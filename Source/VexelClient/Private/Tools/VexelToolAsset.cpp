@@ -9,13 +9,15 @@ TVexelExpected<FAssetData> VexelToolAsset::Find(const FString& Path)
 {
 	const FString ObjectPath = FPackageName::ExportTextPathToObjectPath(Path);
 	const FString PackageName = FPackageName::ObjectPathToPackageName(ObjectPath);
-	if (ObjectPath.Len() >= NAME_SIZE || !FPackageName::IsValidLongPackageName(PackageName, true))
+	const FString ObjectName = ObjectPath == PackageName ? FPackageName::GetShortName(PackageName) : ObjectPath.Mid(PackageName.Len() + 1);
+	int32 Place = INDEX_NONE;
+	const bool bInner = ObjectName.FindChar(TEXT('.'), Place) || ObjectName.FindChar(TEXT(':'), Place);
+	if (bInner || ObjectPath.Len() >= NAME_SIZE || !FPackageName::IsValidLongPackageName(PackageName, true))
 	{
 		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "'%s' is not the path of an asset: it must be like '/Game/Doors/BP_Door'", *Path.Left(NAME_SIZE));
 	}
-	const FString ObjectName = FPackageName::ObjectPathToObjectName(ObjectPath);
-	const FAssetData Asset = IAssetRegistry::GetChecked().GetAssetByObjectPath(
-		FSoftObjectPath(FName(*PackageName), FName(PackageName == ObjectPath ? *FPackageName::GetShortName(PackageName) : *ObjectName)));
+	const FAssetData Asset =
+		IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(FName(*PackageName), FName(*ObjectName)));
 	if (Asset.IsValid())
 	{
 		return Asset;

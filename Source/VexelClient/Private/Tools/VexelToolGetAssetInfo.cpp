@@ -1,6 +1,7 @@
 #include "AssetRegistry/IAssetRegistry.h"
 #include "HAL/FileManager.h"
 #include "IImageWrapperModule.h"
+#include "Misc/Char.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
 #include "Modules/ModuleManager.h"
@@ -44,12 +45,29 @@ void SetFile(FJsonObject& Object, const FString& File)
 	Object.SetStringField(TEXT("modified"), Stat.ModificationTime.ToIso8601());
 }
 
+/** Some tags hold data of the editor's own, as characters. */
+bool IsText(const FString& Value)
+{
+	for (const TCHAR Character : Value)
+	{
+		if (Character < TEXT(' ') && !FChar::IsWhitespace(Character))
+		{
+			return false;
+		}
+	}
+	return true;
+}
+
 void SetTags(FJsonObject& Object, const FAssetData& Asset)
 {
 	const TSharedRef<FJsonObject> Tags = MakeShared<FJsonObject>();
 	const FAssetDataTagMap Values = Asset.TagsAndValues.CopyMap();
 	for (const TPair<FName, FString>& Tag : Values)
 	{
+		if (!IsText(Tag.Value))
+		{
+			continue;
+		}
 		const bool bCut = Tag.Value.Len() > MaxTagLength;
 		Tags->SetStringField(Tag.Key.ToString(), bCut ? Tag.Value.Left(MaxTagLength) + TEXT("...") : Tag.Value);
 	}

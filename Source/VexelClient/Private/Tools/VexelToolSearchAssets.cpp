@@ -83,7 +83,10 @@ TVexelExpected<void> AddClass(const FString& Name, FARFilter& Filter)
 	TArray<FString> Known;
 	for (const TPair<FTopLevelAssetPath, int32>& Pair : Index.GetNumOfClass())
 	{
-		Known.Add(Pair.Key.GetAssetName().ToString());
+		if (Pair.Value > 0)
+		{
+			Known.Add(Pair.Key.GetAssetName().ToString());
+		}
 	}
 	Known.Sort();
 	Known.SetNum(FMath::Min(Known.Num(), MaxClassesNamed));
@@ -97,7 +100,7 @@ TVexelExpected<void> AddPath(FString Path, FARFilter& Filter)
 	{
 	}
 	const bool bIsPath = Path.StartsWith(TEXT("/")) && Path.Len() < NAME_SIZE;
-	if (!bIsPath || (!FPackageName::MountPointExists(Path + TEXT("/")) && !IAssetRegistry::GetChecked().PathExists(Path)))
+	if (!bIsPath || (!FPackageName::MountPointExists(Path + TEXT("/")) && !IAssetRegistry::GetChecked().HasAssets(FName(*Path), true)))
 	{
 		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "There is no folder '%s' with assets; a folder is like '/Game/Doors'", *Path.Left(NAME_SIZE));
 	}
