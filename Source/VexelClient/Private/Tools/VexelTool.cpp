@@ -1,5 +1,13 @@
 #include "Tools/VexelTool.h"
 
+#include "Blueprint/VexelBlueprintMapping.h"
+#include "Data/VexelChatConversation.h"
+
+TSharedRef<FVexelBlueprintMapping> FVexelToolContext::GetMapping() const
+{
+	return Conversation ? Conversation->GetMapping() : MakeShared<FVexelBlueprintMapping>();
+}
+
 FVexelError MakeToolError(FVexelError&& Cause, const TCHAR* While)
 {
 	if (Cause.IsA<FVexelError_ToolInvalidInput>())

@@ -4,6 +4,7 @@
 #include "Dom/JsonObject.h"
 #include "VexelTaskResult.h"
 
+class FVexelBlueprintMapping;
 class FVexelChatConversation;
 class FVexelToolSchema;
 
@@ -15,6 +16,9 @@ struct FVexelToolContext
 	FString ReplyId;
 	/** Conversation whose ids the tool speaks in; null when the tool is called outside one. */
 	TSharedPtr<FVexelChatConversation> Conversation;
+
+	/** The conversation's; outside one, where nothing remembers node names, a new one for this call alone. */
+	TSharedRef<FVexelBlueprintMapping> GetMapping() const;
 };
 
 /** A tool's arguments as the service sent them, by name. */

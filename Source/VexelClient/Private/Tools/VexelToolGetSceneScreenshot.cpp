@@ -1,5 +1,4 @@
 #include "Blueprint/VexelBlueprintMapping.h"
-#include "Data/VexelChatConversation.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphNode.h"
 #include "Engine/Blueprint.h"
@@ -53,21 +52,32 @@ TVexelExpected<EVexelScreenshotMode> ReadMode(const FString& Name)
 	return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Invalid mode '%s'; must be 'editor' or 'viewport'", *Name);
 }
 
-/** What the input names in a Blueprint: its node, its graph or the Blueprint itself. Null when it names nothing. */
-TVexelExpected<const UObject*> FindWanted(FVexelBlueprintMapping& Mapping, const FGetSceneScreenshotInput& Input, EVexelScreenshotMode Mode)
+/** A node of the graph, or of any graph when that is null. */
+TVexelExpected<const UObject*> FindNode(FVexelBlueprintMapping& Mapping, const UBlueprint& Blueprint, UEdGraph* Graph, const FString& Id)
 {
-	if (!Input.Blueprint)
+	TArray<UEdGraph*> Graphs;
+	if (Graph)
 	{
-		if (Input.Graph || Input.Node)
+		Graphs.Add(Graph);
+	}
+	else
+	{
+		Blueprint.GetAllGraphs(Graphs);
+	}
+	for (const UEdGraph* const Each : Graphs)
+	{
+		UEdGraphNode* Node = nullptr;
+		if (Mapping.ResolveNodeInGraph(TVexelNodeId(Id), *Each, Node))
 		{
-			return VEXEL_ERROR(FVexelError_ToolInvalidInput, "`%s` needs a `blueprint`", Input.Graph ? TEXT("graph") : TEXT("node"));
+			return Node;
 		}
-		return nullptr;
 	}
-	if (Mode == EVexelScreenshotMode::Viewport)
-	{
-		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "`blueprint` goes with the mode 'editor'; the viewport shows the level");
-	}
+	return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Node not found: %s", *Id);
+}
+
+/** What the input names in a Blueprint: a node, a graph or the Blueprint itself. */
+TVexelExpected<const UObject*> FindInBlueprint(FVexelBlueprintMapping& Mapping, const FGetSceneScreenshotInput& Input)
+{
 	UBlueprint* Blueprint = nullptr;
 	if (!Mapping.ResolveBlueprint(TVexelBlueprintId(*Input.Blueprint), Blueprint))
 	{
@@ -78,25 +88,25 @@ TVexelExpected<const UObject*> FindWanted(FVexelBlueprintMapping& Mapping, const
 	{
 		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Graph not found: %s", **Input.Graph);
 	}
-	if (!Input.Node)
+	if (Input.Node)
 	{
-		return Graph ? static_cast<const UObject*>(Graph) : Blueprint;
+		return FindNode(Mapping, *Blueprint, Graph, *Input.Node);
 	}
-	TArray<UEdGraph*> Graphs = {Graph};
-	if (!Graph)
+	return Graph ? static_cast<const UObject*>(Graph) : Blueprint;
+}
+
+/** What is to be shown before the picture is taken; null for what is shown already. */
+TVexelExpected<const UObject*> FindWanted(FVexelBlueprintMapping& Mapping, const FGetSceneScreenshotInput& Input, EVexelScreenshotMode Mode)
+{
+	if (!Input.Blueprint && (Input.Graph || Input.Node))
 	{
-		Graphs.Reset();
-		Blueprint->GetAllGraphs(Graphs);
+		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "`%s` needs a `blueprint`", Input.Graph ? TEXT("graph") : TEXT("node"));
 	}
-	for (const UEdGraph* const Each : Graphs)
+	if (Input.Blueprint && Mode == EVexelScreenshotMode::Viewport)
 	{
-		UEdGraphNode* Node = nullptr;
-		if (Mapping.ResolveNodeInGraph(TVexelNodeId(*Input.Node), *Each, Node))
-		{
-			return Node;
-		}
+		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "`blueprint` goes with the mode 'editor'; the viewport shows the level");
 	}
-	return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Node not found: %s", **Input.Node);
+	return Input.Blueprint ? FindInBlueprint(Mapping, Input) : TVexelExpected<const UObject*>(nullptr);
 }
 
 TSharedRef<FJsonObject> Describe(const FString& Mode, const FVexelScreenshot& Screenshot)
@@ -122,9 +132,7 @@ protected:
 	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FGetSceneScreenshotInput& Input) const override
 	{
 		VEXEL_TRY(const EVexelScreenshotMode Mode, ReadMode(Input.Mode));
-		const TSharedRef<FVexelBlueprintMapping> Mapping =
-			Context.Conversation ? Context.Conversation->GetMapping() : MakeShared<FVexelBlueprintMapping>();
-		VEXEL_TRY(const UObject* const Wanted, FindWanted(*Mapping, Input, Mode));
+		VEXEL_TRY(const UObject* const Wanted, FindWanted(*Context.GetMapping(), Input, Mode));
 		if (Wanted)
 		{
 			FKismetEditorUtilities::BringKismetToFocusAttentionOnObject(Wanted);

@@ -1,5 +1,4 @@
 #include "Blueprint/VexelBlueprintMapping.h"
-#include "Data/VexelChatConversation.h"
 #include "Engine/Blueprint.h"
 #include "Tools/Blueprint/VexelBlueprintToolTarget.h"
 #include "Tools/VexelTool.h"
@@ -29,9 +28,7 @@ public:
 protected:
 	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FBlueprintLoadInput& Input) const override
 	{
-		// Outside a conversation nothing remembers node names, so a mapping for this call alone serves.
-		const TSharedRef<FVexelBlueprintMapping> Mapping =
-			Context.Conversation ? Context.Conversation->GetMapping() : MakeShared<FVexelBlueprintMapping>();
+		const TSharedRef<FVexelBlueprintMapping> Mapping = Context.GetMapping();
 		UBlueprint* Blueprint = nullptr;
 		if (!Mapping->ResolveBlueprint(TVexelBlueprintId(Input.Blueprint), Blueprint))
 		{
