@@ -136,7 +136,7 @@ FColor NodeLook::GetTitleColor(const UEdGraphNode& Node)
 	{
 		const UEdGraphPin* const Value = Variable->FindPin(Variable->GetVarName());
 		const FLinearColor Bright = FLinearColor(Value ? GetPinColor(Value->PinType) : FlowColor);
-		return (Node.IsNodePure() ? Bright : Bright * TitleDarkness).ToFColor(true);
+		return (Node.IsNodePure() ? Bright : Bright * TitleDarkness).CopyWithNewOpacity(1.0f).ToFColor(true);
 	}
 	if (Node.IsA<UK2Node_Self>() && !Node.Pins.IsEmpty())
 	{
