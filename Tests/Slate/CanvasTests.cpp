@@ -95,7 +95,9 @@ TEST(HeadlessCanvas, TextsAndPlacesOfAllKindsDoNoHarm)
 {
 	FHeadlessCanvas Canvas(FIntPoint(60, 60), Ground);
 	const TCHAR Broken[] = {0xD800, TEXT('a'), 0xDC00, 1, 0x202E, 0xFFFF, 0};
-	for (const FString& Text : {FString(), FString(Broken), FString::ChrN(100'000, TEXT('w')), FString(TEXT("a\nb\r\n\tc")), FString(TEXT("<b>&amp;")), FString(TEXT("\u30C9\u30A2 \u05D3\u05DC\u05EA"))})
+	const FString Texts[] = {FString(), FString(Broken), FString::ChrN(100'000, TEXT('w')), TEXT("a\nb\r\n\tc"), TEXT("<b>&amp;"),
+		TEXT("\u30C9\u30A2 \u05D3\u05DC\u05EA")};
+	for (const FString& Text : Texts)
 	{
 		EXPECT_GE(FHeadlessCanvas::MeasureText(Text, {}).X, 0.0);
 		Canvas.DrawText(Text, FVector2D(5, 5), {}, 50.0);

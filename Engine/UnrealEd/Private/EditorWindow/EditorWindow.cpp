@@ -124,9 +124,9 @@ public:
 			Shown = FShown();
 			Shown.Asset = GetLastOpened();
 		}
-		if (!Shown.Asset)
+		if (!Shown.Asset || Shown.Asset->IsA<UWorld>())
 		{
-			Shown.World = GEditor->GetEditorWorldContext().World();
+			Shown.World = Shown.Asset ? Cast<UWorld>(Shown.Asset) : GEditor->GetEditorWorldContext().World();
 		}
 		else if (const UBlueprint* const Blueprint = Cast<UBlueprint>(Shown.Asset); Blueprint && !Shown.Graph)
 		{

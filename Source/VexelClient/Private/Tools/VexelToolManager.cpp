@@ -14,12 +14,11 @@ struct FToolTableRow
 	FVexelToolRow Row;
 	TSharedRef<FVexelTool> (*Make)(const FVexelToolRow&);
 };
-
 }
 
 /**
- * The vocabulary shared with the service: name, icon, text while running, text when done, and the class that performs the tool. The
- * class is declared by its row, in this namespace, and needs no header.
+ * The vocabulary shared with the service: name, icon, text while running, text when done, and the class that performs the tool. A row
+ * declares its class by naming it, so a tool needs no header; the table stands outside the anonymous namespace for that.
  */
 static const FToolTableRow ToolTable[] = {
 	{{TEXT("compile"), IconCompile, TEXT("Compiling blueprint"), TEXT("Interpreting compilation results...")}, MakeVexelTool<class FVexelToolBlueprintCompile>},

@@ -49,7 +49,7 @@ protected:
 	TArray<FField> Fields;
 };
 
-/** How a C++ type reads itself from JSON: its name in plural and singular, whether a value fits, and the value. */
+/** How a C++ type is read from JSON: what the type is called, whether a value fits it and the rule, and the value. */
 template <typename T>
 struct TVexelToolValue;
 
@@ -64,7 +64,7 @@ concept CVexelToolRecord = requires
 	T::GetSchema();
 };
 
-/** An integral number that fits the rule. */
+/** Whether the value is a whole number in the rule's range. */
 bool IsToolInteger(const FJsonValue& Value, const FVexelToolRule& Rule);
 }
 
