@@ -16,6 +16,9 @@ constexpr double MaxPlace = 1e7;
 constexpr double MaxCommentSide = 1e5;
 constexpr double MinCommentSide = 40.0;
 constexpr double MeasuredSize = 64.0;
+constexpr double CheckBoxSide = 14.0;
+constexpr double MinValueWidth = 24.0;
+constexpr double ValuePadding = 5.0;
 
 FString CutLine(const FString& Text, int32 MaxLength)
 {
@@ -59,16 +62,6 @@ FString GetShownValue(const UEdGraphPin& Pin)
 		Value = Value.FindLastChar(TEXT('.'), Place) ? Value.Mid(Place + 1) : Value;
 	}
 	return CutLine(Value.Replace(TEXT("\n"), TEXT(" ")), MaxValueLength);
-}
-
-/** Wide enough for a bool's box. */
-double GetValueBoxWidth(const FPinLayout& Pin)
-{
-	if (Pin.Pin->PinType.PinCategory == UEdGraphSchema_K2::PC_Boolean)
-	{
-		return 14.0;
-	}
-	return FMath::Max(24.0, Pin.ValueWidth + 10.0);
 }
 
 double GetRowWidth(const FPinLayout& Pin)
@@ -130,11 +123,10 @@ FPinLayout FGraphLayout::MakePin(const UEdGraphPin& Pin)
 	Layout.Label = NodeLook::ShowsPinName(Pin) ? CutLine(Pin.GetDisplayName().ToString(), MaxLabelLength) : FString();
 	Layout.LabelWidth = Layout.Label.IsEmpty() ? 0.0 : Measure(Layout.Label, GraphSizes::PinText);
 	Layout.Value = GetShownValue(Pin);
-	const bool bBoolean = Pin.PinType.PinCategory == UEdGraphSchema_K2::PC_Boolean;
 	if (!Layout.Value.IsEmpty())
 	{
-		Layout.ValueWidth = bBoolean ? 0.0 : Measure(Layout.Value, GraphSizes::PinText);
-		Layout.ValueWidth = GetValueBoxWidth(Layout);
+		const bool bBoolean = Pin.PinType.PinCategory == UEdGraphSchema_K2::PC_Boolean;
+		Layout.ValueWidth = bBoolean ? CheckBoxSide : FMath::Max(MinValueWidth, Measure(Layout.Value, GraphSizes::PinText) + 2.0 * ValuePadding);
 	}
 	return Layout;
 }
