@@ -31,7 +31,20 @@ bool IsDrawn(const UEdGraphPin& Pin)
 	return !Pin.bHidden && (!bFolded || Pin.HasAnyConnections());
 }
 
-/** "Actor" of "/Script/Engine.Actor", "True" and "1.5" as they are. */
+bool IsReference(FName Category)
+{
+	for (const FName& Each :
+		{UEdGraphSchema_K2::PC_Object, UEdGraphSchema_K2::PC_Class, UEdGraphSchema_K2::PC_SoftObject, UEdGraphSchema_K2::PC_SoftClass})
+	{
+		if (Category == Each)
+		{
+			return true;
+		}
+	}
+	return false;
+}
+
+/** "Actor" of a reference to "/Script/Engine.Actor"; "True" and "1.5" as they are. */
 FString GetShownValue(const UEdGraphPin& Pin)
 {
 	if (Pin.Direction != EGPD_Input || Pin.HasAnyConnections() || Pin.bOrphanedPin)
@@ -56,7 +69,7 @@ FString GetShownValue(const UEdGraphPin& Pin)
 	{
 		return FString::SanitizeFloat(FCString::Atod(*Value));
 	}
-	if (Value.StartsWith(TEXT("/")))
+	if (IsReference(Pin.PinType.PinCategory))
 	{
 		int32 Place = INDEX_NONE;
 		Value = Value.FindLastChar(TEXT('.'), Place) ? Value.Mid(Place + 1) : Value;
