@@ -24,5 +24,10 @@ public class VexelClient : ModuleRules
 			"UnrealEd",
 			"VexelCore"
 		});
+		PrivateDependencyModuleNames.AddRange(new string[]
+		{
+			"ImageWrapper",
+			"VexelEditor"
+		});
 	}
 }
