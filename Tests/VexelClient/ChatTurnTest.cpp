@@ -1,5 +1,6 @@
 #include "ChatTurnFixture.h"
 
+#include "Auth/VexelAuth.h"
 #include "Chat/VexelChatRequest.h"
 #include "Containers/StringConv.h"
 #include "VexelHttp.h"
@@ -65,6 +66,22 @@ TEST_F(ChatTurn, CancellingKeepsThePromptAlone)
 	EXPECT_FALSE(Subsystem->CancelRequest(Conversation->GetChatId()));
 	ASSERT_EQ(Conversation->GetMessages().Num(), 1);
 	EXPECT_EQ(Conversation->GetMessages()[0].GetRole(), EVexelChatRole::User);
+}
+
+TEST_F(ChatTurn, LosingTheLoginCancelsTheAnswerAndKeepsThePrompt)
+{
+	Server.Answer("/api/chat", FScriptedAnswer().Chunk("one ").Stall());
+	RunUntilText(TEXT("Tell me"));
+	Server.Answer("/oauth/token", FScriptedAnswer::Json(R"({"error":"invalid_grant"})", 400));
+	const TVexelTaskResult<void> Refreshed = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(GetToken().c_str()));
+	ASSERT_TRUE(PumpUntil([this]
+		{ return LastState == EVexelChatRequestState::Cancelled; }))
+		<< Log.ToText();
+	EXPECT_FALSE(FVexelAuth::IsOnline());
+	EXPECT_EQ(Conversation->GetMessages().Num(), 1);
+	EXPECT_THAT(ReadStoredConversation(), HasSubstr("Tell me"));
+	EXPECT_EQ(Subsystem->CreateConversation(UVexelChatSubsystem::GetDefaultChatMode()), nullptr);
+	EXPECT_TRUE(Log.Contains("Cannot create new conversation: No user ID."));
 }
 
 TEST_F(ChatTurn, EachBadServiceGivesAClearReason)

@@ -202,7 +202,10 @@ void FVexelChatConversation::TakeOver(const FVexelChatConversation& Stored, int3
 
 	Title = bTitle ? Stored.Title : Title;
 	ChatMode = bChatMode ? Stored.ChatMode : ChatMode;
-	UpdateTime = FMath::Max(MakeHeader().GetOrderTime(), Stored.MakeHeader().GetOrderTime());
+	if (!UpdateTime || (Stored.UpdateTime && *Stored.UpdateTime > *UpdateTime))
+	{
+		UpdateTime = Stored.UpdateTime;
+	}
 	Rest = Stored.Rest;
 	MappingRest = Stored.MappingRest;
 	++Revision;

@@ -71,7 +71,10 @@ const FString* GetIdField(EVexelChatMessageBlockType Type)
 	}
 }
 
-/** Reads a string of the stored form into the information object, where the object has none of that name of its own. */
+/**
+ * Reads a string of the stored form into the information object, where that has none of the name of its own. An empty one stands
+ * for none.
+ */
 bool ReadInfoString(FVexelStoredFields& Fields, const FString& Name, FJsonObject& Info)
 {
 	FString Value;
@@ -79,7 +82,7 @@ bool ReadInfoString(FVexelStoredFields& Fields, const FString& Name, FJsonObject
 	{
 		return false;
 	}
-	if (!Info.HasField(Name))
+	if (!Value.IsEmpty() && !Info.HasField(Name))
 	{
 		Info.SetStringField(Name, Value);
 	}
