@@ -155,6 +155,7 @@ TEST_F(ChatSubsystem, WhatAnotherEditorStoresMeanwhileIsKeptAndTold)
 	ASSERT_EQ(Conversation->GetMessages().Num(), 5);
 	EXPECT_EQ(Conversation->GetMessages()[3].GetText(), FString(TEXT("from elsewhere")));
 	EXPECT_EQ(Conversation->GetMessages()[4].GetText(), FString(TEXT("answer")));
+	EXPECT_EQ(NumChanges, 1);
 
 	EXPECT_TRUE(AnotherEditor.Refresh(Conversation->GetChatId()));
 	Theirs->SetTitle(TEXT("Renamed elsewhere"));

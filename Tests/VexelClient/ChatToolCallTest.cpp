@@ -184,6 +184,19 @@ TEST_F(ChatToolCall, ACallThatIsCancelledWhenItIsShownIsNotMade)
 	EXPECT_FALSE(Log.Contains("Processing tool call"));
 }
 
+TEST_F(ChatToolCall, ACallThatIsCancelledAsItStartsIsNotMade)
+{
+	Server.Answer("/api/chat", FScriptedAnswer().Chunk("a" + Call("none", "r1")).Stall());
+	bool bFinished = false;
+	Subsystem->GetEvents().OnToolStarted.AddLambda([this](const FString& ChatId, const FString&, const FString&)
+		{ Subsystem->CancelRequest(ChatId); });
+	Subsystem->GetEvents().OnToolFinished.AddLambda([&](const FString&, const FString&, const FString&, const FVexelError*)
+		{ bFinished = true; });
+	RunTurn(TEXT("Go"));
+	EXPECT_FALSE(bFinished);
+	EXPECT_EQ(FindBody(GetErrorPath()), nullptr);
+}
+
 TEST_F(ChatToolCall, CancellingFromABlockStopsTheRestOfItsPiece)
 {
 	Server.Answer("/api/chat", FScriptedAnswer().Chunk("a<Checkpoint info={\"checkpoint_id\":\"1\"}/>b" + Call("none", "r1")).Stall());

@@ -480,7 +480,7 @@ void UVexelChatSubsystem::FetchImage(const FString& ChatId, const FVexelChatMess
 
 void UVexelChatSubsystem::OnImageStored(const FString& ChatId, const FString& AssetId, const FString& Path)
 {
-	if (!HistoryManager || !HistoryManager->Find(ChatId))
+	if (HistoryManager && !HistoryManager->Find(ChatId))
 	{
 		// The conversation was deleted in the meantime.
 		ImageStore->DeleteAll(ChatId);
@@ -543,7 +543,14 @@ TVexelExpected<void> UVexelChatSubsystem::SaveConversation(const FString& ChatId
 		VEXEL_LOG(Warning, "ChatHistoryManager is not valid");
 		return TVexelExpected<void>();
 	}
+	const TSharedPtr<FVexelChatConversation> Conversation = HistoryManager->Find(ChatId);
+	const int32 Revision = Conversation ? Conversation->GetRevision() : 0;
 	TVexelExpected<void> Saved = HistoryManager->Save(ChatId);
+	if (Conversation && Conversation->GetRevision() != Revision)
+	{
+		// What another editor has stored came into it.
+		Events.OnConversationChanged.Broadcast(ChatId);
+	}
 	if (Saved.HasError())
 	{
 		Events.OnSaveFailed.Broadcast(ChatId, Saved.GetError());

@@ -15,6 +15,11 @@ void FVexelToolCall::Run(const TSharedRef<FVexelHttp>& ApiClient) const
 
 	const TVexelExpected<TSharedRef<FVexelTool>> Tool = FVexelToolManager::Get().FindTool(FName(*ToolName.Left(NAME_SIZE - 1)));
 	OnStarted(Tool ? Tool.GetValue()->GetProgressText() : FString::Printf(TEXT("Using %s"), *ToolName));
+	if (!IsWanted())
+	{
+		// Whoever was told has cancelled the request.
+		return;
+	}
 	const FString DoneText = Tool ? Tool.GetValue()->GetDoneText() : ToolName;
 	CallTool(Tool).OnComplete([ApiClient, Call = *this, DoneText](const TVexelExpected<TSharedRef<FJsonObject>>& Value)
 		{
