@@ -117,12 +117,23 @@ TOrRefusal<FTokenSet> FTokenService::Refresh(std::string_view RefreshToken, std:
 	const std::string Family = Record->Family;
 	if (Record->bSpent)
 	{
-		DropFamily(Family);
-		return SaveOrRestore(std::move(Earlier)) ? BadGrant() : StateNotSaved();
+		const TOrRefusal<bool> Revoked = EndFamily(Family);
+		return Revoked ? BadGrant() : Revoked.Error();
 	}
 
 	Record->bSpent = true;
-	std::string Successor = AddRecord(Family);
+	return Issue(Family, std::move(Earlier));
+}
+
+TOrRefusal<FTokenSet> FTokenService::StartSession()
+{
+	const std::lock_guard Lock(Mutex);
+	return Issue(RandomId(), Records);
+}
+
+TOrRefusal<FTokenSet> FTokenService::Issue(const std::string& Family, std::vector<FRefreshRecord> Earlier)
+{
+	std::string RefreshToken = AddRecord(Family);
 	// The client must never hold a token that a restarted service would not know.
 	if (!SaveOrRestore(std::move(Earlier)))
 	{
@@ -130,7 +141,7 @@ TOrRefusal<FTokenSet> FTokenService::Refresh(std::string_view RefreshToken, std:
 	}
 	const std::int64_t Now = Clock();
 	const FAccessClaims Claims{.Subject = UserId, .Audience = ClientId, .Family = Family, .IssuedAt = Now, .ExpiresAt = Now + AccessLifetime};
-	return FTokenSet{SignAccessToken(Claims, SigningKey), std::move(Successor), AccessLifetime};
+	return FTokenSet{SignAccessToken(Claims, SigningKey), std::move(RefreshToken), AccessLifetime, Family};
 }
 
 TOrRefusal<bool> FTokenService::Revoke(std::string_view Token, std::string_view ForClient)
@@ -153,6 +164,17 @@ TOrRefusal<bool> FTokenService::Revoke(std::string_view Token, std::string_view 
 	{
 		return true;
 	}
+	return EndFamily(Family);
+}
+
+TOrRefusal<bool> FTokenService::RevokeFamily(const std::string& Family)
+{
+	const std::lock_guard Lock(Mutex);
+	return EndFamily(Family);
+}
+
+TOrRefusal<bool> FTokenService::EndFamily(const std::string& Family)
+{
 	std::vector<FRefreshRecord> Earlier = Records;
 	DropFamily(Family);
 	if (!SaveOrRestore(std::move(Earlier)))

@@ -5,6 +5,8 @@
 #include "Chat/ChatTurn.h"
 #include "Chat/StreamWriter.h"
 #include "Server/ConnectionThreads.h"
+#include "Server/HttpAnswers.h"
+#include "Server/LoginRoutes.h"
 #include "Server/ReportStore.h"
 #include "Server/TurnChannel.h"
 #include "Support/JsonText.h"
@@ -29,7 +31,6 @@ namespace
 {
 
 constexpr const char* LoopbackAddress = "127.0.0.1";
-constexpr const char* JsonType = "application/json";
 // Media types do not mind case, but the HTTP library's compressor does: it leaves this spelling alone. Compressed, a stream
 // would reach the user in one burst at its end.
 constexpr const char* StreamType = "Text/plain; charset=utf-8";
@@ -38,34 +39,11 @@ constexpr int MaxConnections = 512;
 constexpr std::size_t MaxTurns = 256;
 constexpr std::size_t MaxErrorMessageBytes = 64u << 10;
 
-using FParameters = std::map<std::string, std::string>;
-
 // The library's own choice would let another program listen on the same port and take half of the connections.
 void UsePortAlone(socket_t Socket)
 {
 	const int Yes = 1;
 	setsockopt(Socket, SOL_SOCKET, SO_REUSEADDR, &Yes, sizeof(Yes));
-}
-
-void SendJson(httplib::Response& Response, int Status, const FOrderedJson& Body)
-{
-	Response.status = Status;
-	Response.set_content(JsonLine(Body), JsonType);
-}
-
-void SendRefusal(httplib::Response& Response, const FRefusal& Refusal)
-{
-	FOrderedJson Body = {{"detail", Refusal.Detail}};
-	if (!Refusal.Code.empty())
-	{
-		Body["error"] = Refusal.Code;
-		Body["error_description"] = Refusal.Detail;
-	}
-	if (Refusal.Status == 401)
-	{
-		Response.set_header("WWW-Authenticate", "Bearer");
-	}
-	SendJson(Response, Refusal.Status, Body);
 }
 
 const char* DescribeStatus(int Status)
@@ -86,33 +64,6 @@ const char* DescribeStatus(int Status)
 bool IsApiPath(const std::string& Path)
 {
 	return Path.rfind("/api/", 0) == 0;
-}
-
-// The members of one form body; a repeated member is ambiguous and refused.
-TOrRefusal<FParameters> ReadForm(const httplib::Request& Request)
-{
-	if (Request.target.find('?') != std::string::npos)
-	{
-		return FRefusal{400, "Tokens are not read from the address.", "invalid_request"};
-	}
-	if (Request.get_header_value("Content-Type").rfind("application/x-www-form-urlencoded", 0) != 0)
-	{
-		return FRefusal{400, "The body must be form-encoded.", "invalid_request"};
-	}
-	FParameters Parameters;
-	for (const auto& [Key, Value] : Request.params)
-	{
-		if (!Parameters.emplace(Key, Value).second)
-		{
-			return FRefusal{400, "\"" + Key + "\" is given twice.", "invalid_request"};
-		}
-	}
-	return Parameters;
-}
-
-FRefusal MissingParameter(const char* Key)
-{
-	return {400, std::string("\"") + Key + "\" is missing.", "invalid_request"};
 }
 
 struct FToolAnswer
@@ -164,6 +115,7 @@ public:
 	FImplementation(const FServerOptions& Options, std::unique_ptr<FTokenService> InTokens)
 		: Config(Options.Config)
 		, Tokens(std::move(InTokens))
+		, Login(Config, *Tokens, Options.Clock)
 	{
 		Http.set_payload_max_length(MaxBodyBytes);
 		Http.set_tcp_nodelay(true);
@@ -174,6 +126,14 @@ public:
 		Http.set_keep_alive_timeout(1);
 		Http.new_task_queue = []
 		{ return new FConnectionThreads(MaxConnections); };
+		Http.set_pre_routing_handler([](const httplib::Request& Request, httplib::Response& Response)
+			{
+				if (IsAddressedToLoopback(Request))
+				{
+					return httplib::Server::HandlerResponse::Unhandled;
+				}
+				SendRefusal(Response, {421, "This service answers to the names of the loopback interface alone."});
+				return httplib::Server::HandlerResponse::Handled; });
 		Http.set_error_handler([this](const httplib::Request& Request, httplib::Response& Response)
 			{ AnswerError(Request, Response); });
 		if (Options.bVerbose)
@@ -181,7 +141,7 @@ public:
 			Http.set_logger([](const httplib::Request& Request, const httplib::Response& Response)
 				{ std::fprintf(stderr, "%s %s %d\n", Request.method.c_str(), Request.path.c_str(), Response.status); });
 		}
-		AddTokenRoutes();
+		Login.AddTo(Http);
 		AddApiRoutes();
 		AddReportRoutes();
 	}
@@ -189,6 +149,7 @@ public:
 	~FImplementation()
 	{
 		Turns.EndAll();
+		Login.Stop();
 		Http.stop();
 		if (Listener.joinable())
 		{
@@ -242,16 +203,6 @@ private:
 			}
 			Handler(Request, Response, *UserId);
 		};
-	}
-
-	void AddTokenRoutes()
-	{
-		Http.Get("/api/auth/plugin-client-id", [this](const httplib::Request&, httplib::Response& Response)
-			{ SendJson(Response, 200, {{"clientId", Tokens->GetClientId()}}); });
-		Http.Post("/oauth/token", [this](const httplib::Request& Request, httplib::Response& Response)
-			{ AnswerTokenRequest(Request, Response); });
-		Http.Post("/oauth/revoke", [this](const httplib::Request& Request, httplib::Response& Response)
-			{ AnswerRevocation(Request, Response); });
 	}
 
 	void AddApiRoutes()
@@ -314,70 +265,6 @@ private:
 			}
 		}
 		SendRefusal(Response, {Response.status, DescribeStatus(Response.status)});
-	}
-
-	void AnswerTokenRequest(const httplib::Request& Request, httplib::Response& Response)
-	{
-		Response.set_header("Cache-Control", "no-store");
-		const TOrRefusal<FTokenSet> TokenSet = ExchangeTokens(Request);
-		if (!TokenSet)
-		{
-			SendRefusal(Response, TokenSet.Error());
-			return;
-		}
-		const FOrderedJson Body = {
-			{"access_token", TokenSet->AccessToken},
-			{"token_type", "Bearer"},
-			{"refresh_token", TokenSet->RefreshToken},
-			{"expires_in", TokenSet->ExpiresInSeconds},
-		};
-		SendJson(Response, 200, Body);
-	}
-
-	TOrRefusal<FTokenSet> ExchangeTokens(const httplib::Request& Request)
-	{
-		TOrRefusal<FParameters> Form = ReadForm(Request);
-		if (!Form)
-		{
-			return Form.Error();
-		}
-		for (const char* const Key : {"grant_type", "refresh_token", "client_id"})
-		{
-			if ((*Form)[Key].empty())
-			{
-				return MissingParameter(Key);
-			}
-		}
-		if ((*Form)["grant_type"] != "refresh_token")
-		{
-			return FRefusal{400, "This grant type is not supported.", "unsupported_grant_type"};
-		}
-		return Tokens->Refresh((*Form)["refresh_token"], (*Form)["client_id"]);
-	}
-
-	void AnswerRevocation(const httplib::Request& Request, httplib::Response& Response)
-	{
-		TOrRefusal<FParameters> Form = ReadForm(Request);
-		if (!Form)
-		{
-			SendRefusal(Response, Form.Error());
-			return;
-		}
-		for (const char* const Key : {"token", "client_id"})
-		{
-			if ((*Form)[Key].empty())
-			{
-				SendRefusal(Response, MissingParameter(Key));
-				return;
-			}
-		}
-		const TOrRefusal<bool> Revoked = Tokens->Revoke((*Form)["token"], (*Form)["client_id"]);
-		if (!Revoked)
-		{
-			SendRefusal(Response, Revoked.Error());
-			return;
-		}
-		SendJson(Response, 200, FOrderedJson::object());
 	}
 
 	void AnswerUser(httplib::Response& Response)
@@ -484,6 +371,7 @@ private:
 
 	const FServiceConfig Config;
 	const std::unique_ptr<FTokenService> Tokens;
+	FLoginRoutes Login;
 	FChatTurns Turns;
 	FReportStore Reports;
 	httplib::Server Http;

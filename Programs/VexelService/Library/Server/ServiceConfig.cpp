@@ -79,6 +79,13 @@ std::string ReadMembers(const FJson& Object, const FReaders& Readers)
 	return {};
 }
 
+template <typename TDuration>
+std::function<void(double)> StoreTime(TDuration& Target, double UnitsInOne)
+{
+	return [&Target, UnitsInOne](double Amount)
+	{ Target = TDuration(static_cast<std::int64_t>(std::llround(Amount * UnitsInOne))); };
+}
+
 FReadMember User(FUserProfile& Profile)
 {
 	return [&Profile](const FJson& Value)
@@ -96,11 +103,34 @@ FReadMember User(FUserProfile& Profile)
 	};
 }
 
-template <typename TDuration>
-std::function<void(double)> StoreTime(TDuration& Target, double UnitsInOne)
+FReadMember Decision(ELoginDecision& Target)
 {
-	return [&Target, UnitsInOne](double Amount)
-	{ Target = TDuration(static_cast<std::int64_t>(std::llround(Amount * UnitsInOne))); };
+	return [&Target](const FJson& Value)
+	{
+		static const std::map<std::string, ELoginDecision> Words = {
+			{"ask", ELoginDecision::Ask}, {"approve", ELoginDecision::Approve}, {"deny", ELoginDecision::Deny}};
+		const auto Found = Value.is_string() ? Words.find(Value.get<std::string>()) : Words.end();
+		if (Found != Words.end())
+		{
+			Target = Found->second;
+		}
+		return Found != Words.end();
+	};
+}
+
+FReadMember Login(FLoginConfig& Config)
+{
+	return [&Config](const FJson& Value)
+	{
+		const FReaders Readers = {
+			{"request_seconds", Number(1, 3600, StoreTime(Config.RequestLifetime, 1))},
+			{"code_seconds", Number(0, 3600, StoreTime(Config.CodeLifetime, 1))},
+			{"delay_milliseconds", Number(0, 60'000, StoreTime(Config.Delay, 1))},
+			{"decision", Decision(Config.Decision)},
+			{"failing_paths", TextList(Config.FailingPaths)},
+		};
+		return Value.is_object() && ReadMembers(Value, Readers).empty();
+	};
 }
 
 }
@@ -126,6 +156,7 @@ TOrRefusal<FServiceConfig> LoadServiceConfig(const std::filesystem::path& File)
 		{"tool_timeout_seconds", Number(0.001, 3600, StoreTime(Config.ToolTimeout, 1000))},
 		{"piece_delay_milliseconds", Number(0, 1000, StoreTime(Config.PieceDelay, 1))},
 		{"user", User(Config.User)},
+		{"login", Login(Config.Login)},
 	};
 	const std::string BadKey = ReadMembers(*Object, Readers);
 	if (!BadKey.empty())

@@ -21,6 +21,8 @@ struct FTokenSet
 	std::string AccessToken;
 	std::string RefreshToken;
 	std::int64_t ExpiresInSeconds = 0;
+	/** Names the session that the tokens belong to, for RevokeFamily; not for clients. */
+	std::string Family;
 };
 
 /** Seconds since 1970, UTC. */
@@ -45,11 +47,17 @@ public:
 	/** Starts a new family for the local user and returns its first refresh token. */
 	TOrRefusal<std::string> MintRefreshToken();
 
+	/** Starts a new family for the local user, who has just agreed to it. */
+	TOrRefusal<FTokenSet> StartSession();
+
 	/** Spends a refresh token. */
 	TOrRefusal<FTokenSet> Refresh(std::string_view RefreshToken, std::string_view ForClient);
 
 	/** Revokes the family of a refresh or access token of this client. A token that is not known is no error. */
 	TOrRefusal<bool> Revoke(std::string_view Token, std::string_view ForClient);
+
+	/** Ends a session. One that is not known, or no longer, is no error. */
+	TOrRefusal<bool> RevokeFamily(const std::string& Family);
 
 	/** The id of the user whom an Authorization header names; refused with status 401. */
 	TOrRefusal<std::string> Authorize(std::string_view AuthorizationHeader) const;
@@ -68,6 +76,10 @@ private:
 	bool TakeUp(const FJson& Document);
 	FJson Describe() const;
 	bool SaveOrRestore(std::vector<FRefreshRecord> Earlier);
+	/** Adds the family's next refresh token and saves; Earlier is what stands again when that fails. The mutex is held. */
+	TOrRefusal<FTokenSet> Issue(const std::string& Family, std::vector<FRefreshRecord> Earlier);
+	/** Drops and saves. The mutex is held. */
+	TOrRefusal<bool> EndFamily(const std::string& Family);
 	FRefreshRecord* FindRecord(std::string_view RefreshToken);
 	std::string AddRecord(const std::string& Family);
 	void DropFamily(const std::string& Family);
