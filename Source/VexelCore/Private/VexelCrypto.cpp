@@ -1,5 +1,6 @@
 #include "VexelCrypto.h"
 
+#include <openssl/crypto.h>
 #include <openssl/evp.h>
 #include <openssl/rand.h>
 
@@ -135,4 +136,22 @@ TArray<uint8> FVexelCrypto::Sha256(TConstArrayView<uint8> Bytes)
 	const int Done = EVP_Digest(Bytes.GetData(), size_t(Bytes.Num()), Digest.GetData(), nullptr, EVP_sha256(), nullptr);
 	checkf(Done == 1, TEXT("OpenSSL has no SHA-256"));
 	return Digest;
+}
+
+bool FVexelCrypto::SecretsEqual(const FString& A, const FString& B)
+{
+	return A.Len() == B.Len() && CRYPTO_memcmp(*A, *B, sizeof(TCHAR) * size_t(A.Len())) == 0;
+}
+
+void FVexelCrypto::Wipe(FString& Text)
+{
+	TArray<TCHAR>& Characters = Text.GetCharArray();
+	OPENSSL_cleanse(Characters.GetData(), sizeof(TCHAR) * size_t(Characters.Num()));
+	Text.Empty();
+}
+
+void FVexelCrypto::Wipe(TArray<uint8>& Bytes)
+{
+	OPENSSL_cleanse(Bytes.GetData(), size_t(Bytes.Num()));
+	Bytes.Empty();
 }

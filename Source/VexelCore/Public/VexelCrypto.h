@@ -18,4 +18,10 @@ public:
 
 	/** The 32 bytes of the SHA-256 digest. */
 	static TArray<uint8> Sha256(TConstArrayView<uint8> Bytes);
+
+	/** Compares in a time that depends on the lengths alone. */
+	static bool SecretsEqual(const FString& A, const FString& B);
+	/** Overwrites a text in place, then empties it, so that the memory that is freed does not tell it. */
+	static void Wipe(FString& Text);
+	static void Wipe(TArray<uint8>& Bytes);
 };

@@ -103,8 +103,9 @@ public:
 	/** Limits the answer's body; 1 GiB without it. A larger answer fails the request. */
 	FVexelHttpPendingRequest& WithAnswerLimit(int32 Bytes);
 	/**
-	 * For requests that carry secrets: errors quote nothing of the answer, and no redirect is followed. Neither such a request nor
-	 * an authenticated one leaves this machine unprotected; to another machine it takes https.
+	 * For requests that carry secrets: errors quote nothing of the answer, no redirect is followed, and the bodies are overwritten
+	 * before their memory is freed. Neither such a request nor an authenticated one leaves this machine unprotected; to another
+	 * machine it takes https.
 	 */
 	FVexelHttpPendingRequest& WithSecrecy();
 	/**
@@ -229,7 +230,10 @@ private:
 class VEXELCORE_API FVexelHttpResponse
 {
 public:
-	FVexelHttpResponse(int32 Status, TArray<uint8> Content, TArray<TTuple<FString, FString>> Headers);
+	/** @param bSecret Whether the body is overwritten when it goes. */
+	FVexelHttpResponse(int32 Status, TArray<uint8> Content, TArray<TTuple<FString, FString>> Headers, bool bSecret = false);
+	~FVexelHttpResponse();
+	UE_NONCOPYABLE(FVexelHttpResponse)
 
 	int32 GetStatus() const { return Status; }
 	const TArray<uint8>& GetContent() const { return Content; }
@@ -244,6 +248,7 @@ private:
 	int32 Status;
 	TArray<uint8> Content;
 	TArray<TTuple<FString, FString>> Headers;
+	bool bSecret;
 };
 
 /** What all clients share. */

@@ -8,6 +8,14 @@ class FJsonObject;
 class VEXELCORE_API FVexelHttpUrlParams
 {
 public:
+	FVexelHttpUrlParams() = default;
+	FVexelHttpUrlParams(const FVexelHttpUrlParams&) = default;
+	FVexelHttpUrlParams(FVexelHttpUrlParams&&) = default;
+	FVexelHttpUrlParams& operator=(const FVexelHttpUrlParams&) = default;
+	FVexelHttpUrlParams& operator=(FVexelHttpUrlParams&&) = default;
+	/** Overwrites the values: a form may carry a token. */
+	~FVexelHttpUrlParams();
+
 	FVexelHttpUrlParams& Add(const FString& Key, const FString& Value);
 
 	/** "a=1&b=two%20words", in insertion order; everything but letters, digits and "-._~" of the UTF-8 text is escaped. */
@@ -49,10 +57,19 @@ struct VEXELCORE_API FRequestBody final : public IRequest
 {
 	virtual void SetContent(const FString& ContentType, TArray<FBodyPiece> Pieces) override;
 
+	FRequestBody() = default;
+	FRequestBody(const FRequestBody&) = default;
+	FRequestBody(FRequestBody&&) = default;
+	FRequestBody& operator=(const FRequestBody&) = default;
+	FRequestBody& operator=(FRequestBody&&) = default;
+	virtual ~FRequestBody() override;
+
 	int64 GetNum() const;
 
 	FString ContentType;
 	TArray<FBodyPiece> Pieces;
+	/** Whether the bytes are overwritten when they go. */
+	bool bSecret = false;
 };
 }
 

@@ -5,6 +5,7 @@
 #include "Http/VexelHttpTransfer.h"
 #include "Misc/ScopeLock.h"
 #include "Misc/ScopeRWLock.h"
+#include "VexelCrypto.h"
 #include "VexelErrorKinds.h"
 #include "VexelJson.h"
 #include "VexelSecrets.h"
@@ -185,6 +186,7 @@ FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithAnswerLimit(int32 Bytes)
 FVexelHttpPendingRequest& FVexelHttpPendingRequest::WithSecrecy()
 {
 	bSecret = true;
+	Body.bSecret = true;
 	return *this;
 }
 
@@ -250,7 +252,10 @@ FVexelHttpRequest::FVexelHttpRequest(FVexelHttpPendingRequest&& Pending)
 	Setup->bSecret = Pending.bSecret;
 }
 
-FVexelHttpRequest::~FVexelHttpRequest() = default;
+FVexelHttpRequest::~FVexelHttpRequest()
+{
+	FVexelCrypto::Wipe(UsedToken);
+}
 
 void FVexelHttpRequest::Start(const FVexelHttpPendingRequest& Pending)
 {
@@ -321,6 +326,7 @@ void FVexelHttpRequest::CompleteFailed(const TCHAR* Reason)
 bool FVexelHttpRequest::TakeToken()
 {
 	using EAuthResult = FVexelHttp::IAuthProvider::EAuthResult;
+	FVexelCrypto::Wipe(UsedToken);
 	const EAuthResult State = FVexelHttpManager::GetAuthState(UsedToken);
 	if (State == EAuthResult::Pending && !bWaitedForToken)
 	{
@@ -352,7 +358,9 @@ void FVexelHttpRequest::SendTransfer()
 	FVexelHttpTransferSetup Now = *Setup;
 	if (bAuthenticated)
 	{
-		SetHeader(Now.Headers, TEXT("Authorization"), TEXT("Bearer ") + UsedToken);
+		FString Bearer = TEXT("Bearer ") + UsedToken;
+		SetHeader(Now.Headers, FVexelHttpTransferSetup::AuthorizationHeader, Bearer);
+		FVexelCrypto::Wipe(Bearer);
 	}
 	const TSharedRef<FVexelHttpTransfer> Sent = MakeShared<FVexelHttpTransfer>(MoveTemp(Now));
 	Sent->GetResult().OnComplete([This = AsShared()](const TVexelExpected<TSharedRef<FVexelHttpResponse>>& Value)
@@ -453,11 +461,20 @@ TSharedPtr<FVexelHttpResponse> FVexelHttpRequest::GetResponse() const
 	return Transfer && Result.IsComplete() ? Transfer->GetResponse() : nullptr;
 }
 
-FVexelHttpResponse::FVexelHttpResponse(int32 InStatus, TArray<uint8> InContent, TArray<TTuple<FString, FString>> InHeaders)
+FVexelHttpResponse::FVexelHttpResponse(int32 InStatus, TArray<uint8> InContent, TArray<TTuple<FString, FString>> InHeaders, bool bInSecret)
 	: Status(InStatus)
 	, Content(MoveTemp(InContent))
 	, Headers(MoveTemp(InHeaders))
+	, bSecret(bInSecret)
 {
+}
+
+FVexelHttpResponse::~FVexelHttpResponse()
+{
+	if (bSecret)
+	{
+		FVexelCrypto::Wipe(Content);
+	}
 }
 
 FString FVexelHttpResponse::GetContentString() const
@@ -469,7 +486,12 @@ FString FVexelHttpResponse::GetContentString() const
 TSharedPtr<FJsonObject> FVexelHttpResponse::GetContentJson() const
 {
 	TSharedPtr<FJsonObject> Object;
-	FVexelJsonConversions::StringToJson(GetContentString(), Object);
+	FString Text = GetContentString();
+	FVexelJsonConversions::StringToJson(Text, Object);
+	if (bSecret)
+	{
+		FVexelCrypto::Wipe(Text);
+	}
 	return Object;
 }
 

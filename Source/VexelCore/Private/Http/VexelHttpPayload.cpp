@@ -4,6 +4,7 @@
 #include "Dom/JsonObject.h"
 #include "HAL/FileManager.h"
 #include "Misc/Guid.h"
+#include "VexelCrypto.h"
 #include "VexelJson.h"
 
 namespace
@@ -43,6 +44,14 @@ FString ToQuotedName(const FString& Name)
 {
 	return Name.Replace(TEXT("\""), TEXT("%22")).Replace(TEXT("\r"), TEXT("%0D")).Replace(TEXT("\n"), TEXT("%0A"));
 }
+}
+
+FVexelHttpUrlParams::~FVexelHttpUrlParams()
+{
+	for (TTuple<FString, FString>& Pair : Pairs)
+	{
+		FVexelCrypto::Wipe(Pair.Get<1>());
+	}
 }
 
 FVexelHttpUrlParams& FVexelHttpUrlParams::Add(const FString& Key, const FString& Value)
@@ -136,6 +145,17 @@ void IRequest::SetContentBytes(const FString& ContentType, TArray<uint8> Bytes)
 	SetContent(ContentType, MoveTemp(Pieces));
 }
 
+FRequestBody::~FRequestBody()
+{
+	for (FBodyPiece& Piece : Pieces)
+	{
+		if (bSecret)
+		{
+			FVexelCrypto::Wipe(Piece.Bytes);
+		}
+	}
+}
+
 void FRequestBody::SetContent(const FString& InContentType, TArray<FBodyPiece> InPieces)
 {
 	ContentType = InContentType;
@@ -173,7 +193,9 @@ bool TPayloadHelper<TSharedRef<FJsonObject>>::SetRequestData(const TSharedRef<FJ
 bool TPayloadHelper<FVexelHttpUrlParams>::SetRequestData(const FVexelHttpUrlParams& Payload, IRequest& Request)
 {
 	TArray<uint8> Bytes;
-	AppendUtf8(Bytes, Payload.ToUrlEncodedString());
+	FString Text = Payload.ToUrlEncodedString();
+	AppendUtf8(Bytes, Text);
+	FVexelCrypto::Wipe(Text);
 	Request.SetContentBytes(TEXT("application/x-www-form-urlencoded"), MoveTemp(Bytes));
 	return true;
 }

@@ -3,6 +3,7 @@
 #include "Containers/StringConv.h"
 #include "HAL/PlatformTime.h"
 #include "Misc/ScopeLock.h"
+#include "VexelCrypto.h"
 #include "VexelErrorKinds.h"
 #include "VexelInternalConfig.h"
 #include "VexelSecrets.h"
@@ -62,6 +63,19 @@ FString ToText(TConstArrayView<uint8> Bytes)
 	const FUTF8ToTCHAR Converted(reinterpret_cast<const ANSICHAR*>(Bytes.GetData()), Bytes.Num());
 	return FString::ConstructFromPtrSize(Converted.Get(), Converted.Length());
 }
+}
+
+const TCHAR* const FVexelHttpTransferSetup::AuthorizationHeader = TEXT("Authorization");
+
+FVexelHttpTransferSetup::~FVexelHttpTransferSetup()
+{
+	for (TTuple<FString, FString>& Header : Headers)
+	{
+		if (Header.Get<0>() == AuthorizationHeader)
+		{
+			FVexelCrypto::Wipe(Header.Get<1>());
+		}
+	}
 }
 
 FVexelHttpTransfer::FVexelHttpTransfer(FVexelHttpTransferSetup&& InSetup)
@@ -207,7 +221,7 @@ void FVexelHttpTransfer::Finish(CURLcode Code)
 		CompleteOnWorker(MakeTransportError(Code == CURLE_OK ? CURLE_PARTIAL_FILE : Code));
 		return;
 	}
-	const TSharedRef<FVexelHttpResponse> Answer = MakeShared<FVexelHttpResponse>(int32(Status), MoveTemp(Body), MoveTemp(ResponseHeaders));
+	const TSharedRef<FVexelHttpResponse> Answer = MakeShared<FVexelHttpResponse>(int32(Status), MoveTemp(Body), MoveTemp(ResponseHeaders), Setup.bSecret);
 	{
 		FScopeLock Guard(&ResponseLock);
 		Response = Answer;

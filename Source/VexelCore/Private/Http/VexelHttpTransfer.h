@@ -21,6 +21,14 @@ struct FVexelHttpTransferSetup
 	float StallTimeoutSeconds = 0.0f;
 	int32 MaxAnswerBytes = 0;
 	bool bSecret = false;
+
+	static const TCHAR* const AuthorizationHeader;
+
+	FVexelHttpTransferSetup() = default;
+	FVexelHttpTransferSetup(const FVexelHttpTransferSetup&) = default;
+	FVexelHttpTransferSetup(FVexelHttpTransferSetup&&) = default;
+	/** Overwrites the access token. */
+	~FVexelHttpTransferSetup();
 };
 
 /**
