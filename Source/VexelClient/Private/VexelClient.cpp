@@ -169,8 +169,9 @@ void FVexelClient::ShutdownModule()
 	// Nobody's features come any more. Who waits for them finds the login gone.
 	FeaturesKnown.Complete(TVexelExpected<void>());
 	FVexelSentry::Stop();
-	FVexelHttpManager::Shutdown();
+	// Before the requests are cut off, which would look like failures of the login.
 	FVexelAuth::Shutdown();
+	FVexelHttpManager::Shutdown();
 	FVexelAuthUserInfo::Clear();
 	AuthProvider.Reset();
 	ForgetClients();

@@ -1,62 +1,20 @@
 #include "Auth/VexelAuth.h"
 
-#include "Dom/JsonObject.h"
+#include "Auth/VexelAuthData.h"
+#include "Auth/VexelAuthLoginState.h"
+#include "Auth/VexelAuthRequests.h"
 #include "Misc/ScopeLock.h"
 #include "VexelClient.h"
-#include "VexelCrypto.h"
-#include "VexelHttp.h"
-#include "VexelInternalConfig.h"
-#include "VexelJson.h"
+#include "VexelErrorKinds.h"
 #include "VexelLog.h"
 #include "VexelSecureStorage.h"
-#include "VexelSentry.h"
 #include "VexelTry.h"
 
 namespace
 {
 const FString RefreshTokenKey = TEXT("rt");
-constexpr double MaxTimeoutSeconds = 600.0;
-FConfigValueBase TimeoutSetting(TEXT("AuthTimeoutSeconds"), TEXT("10"));
-
-/** Behind Lock, all of it. */
-struct FAuthData
-{
-	FCriticalSection Lock;
-	FVexelAuth::EState State = FVexelAuth::EState::Offline;
-	FString AccessToken;
-	FString RefreshToken;
-	FDateTime Expiry;
-	FString UserId;
-	FString ClientId;
-	TOptional<FVexelError> LoginFailure;
-	/** The service that the client id, or the fetch of it that is under way, is of. */
-	FString ClientIdUrl;
-	/** Refers to no task when none is under way. */
-	TVexelTaskResult<FString> RunningPreload;
-	/** The refresh that is under way for refused tokens; refers to no task when none is. */
-	TVexelTaskResult<void> RunningRefresh;
-	/** Counts the ends of the module, so that an answer that comes late finds that it is nobody's. */
-	int32 Session = 0;
-	FVexelAuth::FOnAuthStateChanged OnStateChanged;
-};
-
-FAuthData& GetData()
-{
-	static FAuthData Data;
-	return Data;
-}
-
-float GetTimeoutSeconds()
-{
-	return float(TimeoutSetting.GetNumber(0.1, MaxTimeoutSeconds));
-}
-
-int32 GetSession()
-{
-	FAuthData& Data = GetData();
-	FScopeLock Guard(&Data.Lock);
-	return Data.Session;
-}
+constexpr double FirstRetrySeconds = 5.0;
+constexpr double LongestRetrySeconds = 300.0;
 
 /**
  * Whether the service has looked at the refresh token and refused it. A service that is down, busy or broken says nothing about
@@ -67,88 +25,33 @@ bool WasTokenRefused(const FVexelError& Error)
 	return Error.IsA<FVexelError_HttpStatusClientError>();
 }
 
-TSharedRef<FJsonObject> MakeScopeData(const TCHAR* Request, const TCHAR* Initiator)
+/** The token to refresh with: another process of the user may have used the one that this process holds, and stored the next. */
+FVexelAuthSecret ChooseRefreshToken(const FVexelAuthSecret& Held, bool bHeldIsStored)
 {
-	const TSharedRef<FJsonObject> Data = MakeShared<FJsonObject>();
-	Data->SetStringField(TEXT("request"), Request);
-	Data->SetStringField(TEXT("initiator"), Initiator);
-	return Data;
+	const TVexelExpected<FString> Stored = bHeldIsStored ? FVexelSecureStorage::LoadValueString(RefreshTokenKey) : TVexelExpected<FString>(FString());
+	return Stored.HasValue() && !Stored.GetValue().IsEmpty() ? FVexelAuthSecret(Stored.GetValue()) : Held;
 }
 
-/** The subject claim of a JSON web token. The signature is the service's business: the id addresses and displays, it grants nothing. */
-FString ReadUserId(const FString& AccessToken)
+FVexelError MakeLateError()
 {
-	TArray<FString> Parts;
-	TArray<uint8> PayloadBytes;
-	TSharedPtr<FJsonObject> Payload;
-	FString UserId;
-	AccessToken.ParseIntoArray(Parts, TEXT("."), false);
-	if (Parts.Num() != 3 || !FVexelCrypto::Base64UrlDecode(Parts[1], PayloadBytes))
-	{
-		return UserId;
-	}
-	const FUTF8ToTCHAR Text(reinterpret_cast<const ANSICHAR*>(PayloadBytes.GetData()), PayloadBytes.Num());
-	if (FVexelJsonConversions::StringToJson(FString::ConstructFromPtrSize(Text.Get(), Text.Length()), Payload))
-	{
-		Payload->TryGetStringField(TEXT("sub"), UserId);
-	}
-	return UserId;
+	return VEXEL_ERROR(FVexelError_Auth_TokenProcessing, "The tokens arrived after the end of the login");
 }
 
-TVexelExpected<FString> ReadClientId(const TSharedRef<FVexelHttpResponse>& Response)
+TVexelTaskResult<void> SendRevocation(const FVexelAuthSecret& RefreshToken)
 {
-	const TSharedPtr<FJsonObject> Body = Response->GetContentJson();
-	if (!Body)
-	{
-		return VEXEL_ERROR(FVexelError_Auth_ClientId, "Failed to parse plugin client ID response");
-	}
-	FString ClientId;
-	if (!Body->TryGetStringField(TEXT("clientId"), ClientId) || ClientId.IsEmpty())
-	{
-		return VEXEL_ERROR(FVexelError_Auth_ClientId, "Response does not contain client_id field or it is empty");
-	}
-	return ClientId;
+	const TSharedPtr<FVexelHttp> Api = FVexelClient::Get().GetApiClient();
+	return Try(FVexelAuth::PreloadClientId()).Then([Api, RefreshToken](const FString& ClientId)
+		{ return VexelAuthRequests::Revoke({Api, ClientId, FString()}, RefreshToken); });
 }
-
-TVexelTaskResult<FString> FetchClientId()
-{
-	return Try(FVexelClient::Get()
-				   .GetApiClient()
-				   ->Request(EVexelHttpVerb::Get, TEXT("/api/auth/plugin-client-id"))
-				   .WithTimeout(GetTimeoutSeconds())
-				   .SendAndAwait())
-		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
-			{ return ReadClientId(Response); })
-		.Catch<FVexelError_Http>([](const FVexelError_Http& Error) -> TVexelExpected<FString>
-			{ return VEXEL_ERROR_CAUSED(FVexelError_Auth_ClientId, Error, "while fetching plugin client ID from server"); });
-}
-
-void ReportAuthError(const FVexelError& Cause, const TCHAR* While)
-{
-	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_Auth, Cause, "%s", *Cause.ToShortString());
-	Error.AppendContext(While);
-	FVexelSentry::CaptureError(MoveTemp(Error), VEXEL_HERE);
-}
-}
-
-FTokenResponse FTokenResponse::Parse(const FJsonObject& Object)
-{
-	FTokenResponse Response;
-	double ExpiresIn = 0.0;
-	Object.TryGetStringField(TEXT("access_token"), Response.AccessToken);
-	Object.TryGetStringField(TEXT("refresh_token"), Response.RefreshToken);
-	if (Object.TryGetNumberField(TEXT("expires_in"), ExpiresIn))
-	{
-		Response.ExpiresInSeconds = ExpiresIn;
-	}
-	return Response;
 }
 
 TVexelTaskResult<FString> FVexelAuth::PreloadClientId()
 {
-	FAuthData& Data = GetData();
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	const TSharedPtr<FVexelHttp> Api = FVexelClient::Get().GetApiClient();
 	const FString Url = FVexelClient::GetApiUrl();
 	TVexelTaskResult<FString> Preload;
+	int32 PreloadNumber = 0;
 	{
 		FScopeLock Guard(&Data.Lock);
 		const bool bSameService = Data.ClientIdUrl.Equals(Url);
@@ -162,16 +65,17 @@ TVexelTaskResult<FString> FVexelAuth::PreloadClientId()
 		}
 		Preload = TVexelTaskResult<FString>::MakePending();
 		Data.RunningPreload = Preload;
+		PreloadNumber = ++Data.PreloadNumber;
 		Data.ClientIdUrl = Url;
 		Data.ClientId.Empty();
 	}
 	// Outside the lock: a result that is complete at once goes on in this call.
-	FetchClientId().OnComplete([Preload, Url, Session = GetSession()](const TVexelExpected<FString>& Result)
+	VexelAuthRequests::FetchClientId(*Api).OnComplete([Preload, PreloadNumber](const TVexelExpected<FString>& Result)
 		{
-			FAuthData& Data = GetData();
+			FVexelAuthData& Data = FVexelAuthData::Get();
 			{
 				FScopeLock Guard(&Data.Lock);
-				if (Data.Session == Session && Data.ClientIdUrl.Equals(Url))
+				if (Data.PreloadNumber == PreloadNumber)
 				{
 					Data.RunningPreload = TVexelTaskResult<FString>();
 					Data.ClientId = Result.HasValue() ? Result.GetValue() : FString();
@@ -183,124 +87,271 @@ TVexelTaskResult<FString> FVexelAuth::PreloadClientId()
 
 void FVexelAuth::StartAutoLogin()
 {
-	FVexelErrorContextScope Scope(TEXT("auth"), MakeScopeData(TEXT("login"), TEXT("auto")));
-	FAuthData& Data = GetData();
+	VexelAuthReport::FScope Scope(TEXT("login"), TEXT("auto"));
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
+	const bool bUsable = Stored.HasValue() && !Stored.GetValue().IsEmpty();
+	FVexelAuthNews News;
+	TVexelTaskResult<void> Refresh;
+	FLoginNumber Number = 0;
 	{
+		FScopeLock StoreGuard(&Data.StoreLock);
 		FScopeLock Guard(&Data.Lock);
 		if (Data.State != EState::Offline)
 		{
 			VEXEL_LOG(Warning, "Attempted to start auto-login while not offline.");
 			return;
 		}
-	}
-	{
-		FScopeLock Guard(&Data.Lock);
 		Data.LoginFailure.Reset();
+		if (bUsable)
+		{
+			Data.BeginNumber();
+			Number = Data.Number;
+			// Requests that are made meanwhile wait for it.
+			Refresh = TVexelTaskResult<void>::MakePending();
+			Data.RunningRefresh = Refresh;
+			News = Data.ChangeState(EState::LoggingIn);
+		}
 	}
-	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
-	if (Stored.HasError() || Stored.GetValue().IsEmpty())
+	if (!bUsable)
 	{
 		VEXEL_LOG(Log, "No valid stored refresh token found for auto-login.");
 		return;
 	}
-	SetState(EState::LoggingIn);
-	InternalRefreshAccessToken(Stored.GetValue()).OnComplete([Session = GetSession()](const TVexelExpected<void>& Result)
+	News.Tell();
+	InternalRefreshAccessToken(FVexelAuthSecret(Stored.GetValue()), Number).OnComplete([Refresh, Number](const TVexelExpected<void>& Result)
 		{
 			if (Result.HasError())
 			{
-				EndLogin(Result.GetError(), Session, TEXT("while performing auto-login"));
-			} });
+				EndLogin(Result.GetError(), Number, true, TEXT("while performing auto-login"));
+			}
+			else
+			{
+				OnRefreshed(Result, Number, nullptr);
+			}
+			Refresh.Complete(Result); });
 }
 
-void FVexelAuth::EndLogin(const FVexelError& Failure, int32 Session, const TCHAR* While)
+void FVexelAuth::Logout()
 {
-	FAuthData& Data = GetData();
+	VexelAuthReport::FScope Scope(TEXT("logout"), TEXT("manual"));
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FVexelAuthSecret RefreshToken;
+	const TVexelTaskResult<void> Revocation = TVexelTaskResult<void>::MakePending();
+	FVexelAuthNews News;
+	TVexelExpected<void> Deleted;
 	{
-		FScopeLock Guard(&Data.Lock);
-		if (Data.Session != Session)
+		FScopeLock StoreGuard(&Data.StoreLock);
 		{
-			return;
+			FScopeLock Guard(&Data.Lock);
+			if (Data.State != EState::Online && Data.State != EState::Refreshing)
+			{
+				VEXEL_LOG(Warning, "Attempted to logout while not logged in.");
+				return;
+			}
+			RefreshToken = Data.RefreshToken;
+			Data.BeginNumber();
+			Data.Revocation = Revocation;
+			News = Data.ChangeState(EState::Offline);
 		}
-		Data.LoginFailure = Failure;
-		Data.AccessToken.Empty();
-		Data.RefreshToken.Empty();
-		Data.UserId.Empty();
+		Deleted = FVexelSecureStorage::DeleteValue(RefreshTokenKey);
 	}
-	if (WasTokenRefused(Failure))
+	SendRevocation(RefreshToken).OnComplete([Revocation](const TVexelExpected<void>& Result)
+		{
+			if (Result.HasError())
+			{
+				VexelAuthReport::Error(Result.GetError(), TEXT("while revoking tokens during logout"));
+			}
+			Revocation.Complete(Result); });
+	if (Deleted.HasError())
 	{
-		const TVexelExpected<void> Deleted = FVexelSecureStorage::DeleteValue(RefreshTokenKey);
-		if (Deleted.HasError())
+		VexelAuthReport::Error(Deleted.GetError(), TEXT("while clearing stored refresh token during logout"));
+	}
+	News.Tell();
+}
+
+TVexelTaskResult<void> FVexelAuth::GetRevocation()
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FScopeLock Guard(&Data.Lock);
+	return Data.Revocation;
+}
+
+void FVexelAuth::EndLogin(const FVexelError& Failure, FLoginNumber Number, bool bForgetRefused, const TCHAR* While)
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FVexelAuthNews News;
+	TVexelExpected<void> Deleted;
+	{
+		FScopeLock StoreGuard(&Data.StoreLock);
 		{
-			ReportAuthError(Deleted.GetError(), TEXT("while clearing stored refresh token after failed auto-login"));
+			FScopeLock Guard(&Data.Lock);
+			if (Data.Number != Number)
+			{
+				return;
+			}
+			Data.BeginNumber();
+			Data.LoginFailure = Failure;
+			News = Data.ChangeState(EState::Offline);
+		}
+		if (bForgetRefused && WasTokenRefused(Failure))
+		{
+			Deleted = FVexelSecureStorage::DeleteValue(RefreshTokenKey);
 		}
 	}
-	ReportAuthError(Failure, While);
-	SetState(EState::Offline);
+	if (Deleted.HasError())
+	{
+		VexelAuthReport::Error(Deleted.GetError(), TEXT("while clearing stored refresh token after failed auto-login"));
+	}
+	if (Failure.IsA<FVexelError_Auth_PollCancel>())
+	{
+		VEXEL_LOG(Log, "OAuth login cancelled by user.");
+	}
+	else
+	{
+		VexelAuthReport::Error(Failure, While);
+	}
+	News.Tell();
 }
 
 TOptional<FVexelError> FVexelAuth::GetLoginFailure()
 {
-	FAuthData& Data = GetData();
+	FVexelAuthData& Data = FVexelAuthData::Get();
 	FScopeLock Guard(&Data.Lock);
 	return Data.LoginFailure;
 }
 
 TVexelTaskResult<void> FVexelAuth::RefreshRefusedToken(const FString& RefusedToken)
 {
-	FAuthData& Data = GetData();
+	return StartRefresh(&RefusedToken);
+}
+
+void FVexelAuth::RefreshDueToken()
+{
+	StartRefresh(nullptr).OnComplete([](const TVexelExpected<void>&) {});
+}
+
+TVexelTaskResult<void> FVexelAuth::StartRefresh(const FString* RefusedToken)
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
 	TVexelTaskResult<void> Refresh;
-	FString RefreshToken;
-	int32 Session = 0;
+	FVexelAuthSecret Held;
+	bool bStored = false;
+	FLoginNumber Number = 0;
+	FVexelAuthNews News;
 	{
 		FScopeLock Guard(&Data.Lock);
-		if (!Data.AccessToken.Equals(RefusedToken))
-		{
-			return TVexelExpected<void>();
-		}
 		if (Data.RunningRefresh.IsValid())
 		{
 			return Data.RunningRefresh;
 		}
+		const FDateTime Now = FDateTime::UtcNow();
+		const bool bNeeded = RefusedToken ? Data.AccessToken.Equals(*RefusedToken) : Data.State == EState::Online && Now >= Data.RefreshTime;
+		if (!bNeeded)
+		{
+			return TVexelExpected<void>();
+		}
+		if (Data.RefreshToken.IsEmpty())
+		{
+			return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Nobody is logged in");
+		}
 		Refresh = TVexelTaskResult<void>::MakePending();
 		Data.RunningRefresh = Refresh;
-		RefreshToken = Data.RefreshToken;
-		Session = Data.Session;
-	}
-	// Outside the lock: a result that is complete at once goes on in this call.
-	InternalRefreshAccessToken(RefreshToken).OnComplete([Refresh, Session](const TVexelExpected<void>& Result)
+		Held = Data.RefreshToken;
+		bStored = Data.bTokenStored;
+		Number = Data.Number;
+		if (RefusedToken || Now >= Data.Expiry)
 		{
-			FAuthData& Data = GetData();
-			{
-				FScopeLock Guard(&Data.Lock);
-				Data.RunningRefresh = TVexelTaskResult<void>();
-			}
-			if (Result.HasError() && WasTokenRefused(Result.GetError()))
-			{
-				EndLogin(Result.GetError(), Session, TEXT("while refreshing access token"));
-			}
+			News = Data.ChangeState(EState::Refreshing);
+		}
+	}
+	News.Tell();
+	const TCHAR* const While = RefusedToken ? TEXT("while refreshing access token") : TEXT("while refreshing access token in monitoring thread");
+	// Outside the lock: a result that is complete at once goes on in this call.
+	InternalRefreshAccessToken(ChooseRefreshToken(Held, bStored), Number).OnComplete([Refresh, Number, While](const TVexelExpected<void>& Result)
+		{
+			OnRefreshed(Result, Number, While);
 			Refresh.Complete(Result); });
 	return Refresh;
 }
 
+void FVexelAuth::OnRefreshed(const TVexelExpected<void>& Result, FLoginNumber Number, const TCHAR* While)
+{
+	if (Result.HasError() && WasTokenRefused(Result.GetError()))
+	{
+		EndLogin(Result.GetError(), Number, true, While);
+		return;
+	}
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FVexelAuthNews News;
+	{
+		FScopeLock Guard(&Data.Lock);
+		if (Data.Number != Number)
+		{
+			return;
+		}
+		Data.RunningRefresh = TVexelTaskResult<void>();
+		if (Result.HasError())
+		{
+			// The login stands: the token may still be good, and the service is asked again later.
+			Data.RetrySeconds = FMath::Clamp(Data.RetrySeconds * 2.0, FirstRetrySeconds, LongestRetrySeconds);
+			Data.RefreshTime = FDateTime::UtcNow() + FTimespan::FromSeconds(Data.RetrySeconds);
+			News = Data.ChangeState(EState::Online);
+		}
+		Data.Monitor->Wake();
+	}
+	if (Result.HasError())
+	{
+		VexelAuthReport::Error(Result.GetError(), While);
+	}
+	News.Tell();
+}
+
+TOptional<FDateTime> FVexelAuth::GetRefreshTime()
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FScopeLock Guard(&Data.Lock);
+	return Data.State == EState::Online && !Data.RunningRefresh.IsValid() ? TOptional<FDateTime>(Data.RefreshTime) : NullOpt;
+}
+
 FVexelAuth::EState FVexelAuth::GetState()
 {
-	FAuthData& Data = GetData();
+	FVexelAuthData& Data = FVexelAuthData::Get();
 	FScopeLock Guard(&Data.Lock);
 	return Data.State;
 }
 
 FDelegateHandle FVexelAuth::AddAuthStateChangedCallback(const FOnAuthStateChanged::FDelegate& Callback)
 {
-	FAuthData& Data = GetData();
+	FVexelAuthData& Data = FVexelAuthData::Get();
 	FScopeLock Guard(&Data.Lock);
 	return Data.OnStateChanged.Add(Callback);
 }
 
 void FVexelAuth::RemoveAuthStateChangedCallback(FDelegateHandle Handle)
 {
-	FAuthData& Data = GetData();
+	FVexelAuthData& Data = FVexelAuthData::Get();
 	FScopeLock Guard(&Data.Lock);
 	Data.OnStateChanged.Remove(Handle);
+}
+
+TSharedPtr<FVexelAuthLoginState> FVexelAuth::GetCurrentLogin()
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FScopeLock Guard(&Data.Lock);
+	return Data.CurrentLogin;
+}
+
+const FString& FVexelAuth::GetRefreshTokenKey()
+{
+	return RefreshTokenKey;
+}
+
+void FVexelAuth::SetOpenAddress(FOpenAddress Open)
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FScopeLock Guard(&Data.Lock);
+	Data.OpenAddress = MoveTemp(Open);
 }
 
 void FVexelAuth::WithAccessToken(TFunctionRef<void(const FString& Token)> Callback)
@@ -311,108 +362,117 @@ void FVexelAuth::WithAccessToken(TFunctionRef<void(const FString& Token)> Callba
 
 void FVexelAuth::WithAccessTokenAndUser(TFunctionRef<void(const FString& Token, const FString& UserId)> Callback)
 {
-	FAuthData& Data = GetData();
-	FString Token;
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FVexelAuthSecret Token;
 	FString UserId;
 	{
 		FScopeLock Guard(&Data.Lock);
 		Token = Data.AccessToken;
 		UserId = Data.UserId;
 	}
-	Callback(Token, UserId);
+	Callback(Token.Get(), UserId);
 }
 
 void FVexelAuth::Shutdown()
 {
-	FAuthData& Data = GetData();
-	FScopeLock Guard(&Data.Lock);
-	Data.State = EState::Offline;
-	Data.AccessToken.Empty();
-	Data.RefreshToken.Empty();
-	Data.UserId.Empty();
-	Data.ClientId.Empty();
-	Data.LoginFailure.Reset();
-	Data.ClientIdUrl.Empty();
-	Data.RunningPreload = TVexelTaskResult<FString>();
-	Data.RunningRefresh = TVexelTaskResult<void>();
-	++Data.Session;
-	Data.OnStateChanged.Clear();
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	TSharedPtr<FVexelAuthLoginState> Login;
+	TUniquePtr<FVexelAuthMonitor> Monitor;
+	{
+		FScopeLock StoreGuard(&Data.StoreLock);
+		FScopeLock Guard(&Data.Lock);
+		Login = Data.CurrentLogin;
+		Monitor = MoveTemp(Data.Monitor);
+		Data.BeginNumber();
+		Data.bEnded = true;
+		Data.State = EState::Offline;
+		Data.LoginFailure.Reset();
+		Data.Revocation = TVexelTaskResult<void>();
+		Data.RunningPreload = TVexelTaskResult<FString>();
+		++Data.PreloadNumber;
+		Data.ClientId.Empty();
+		Data.ClientIdUrl.Empty();
+		Data.OnStateChanged.Clear();
+	}
+	if (Login)
+	{
+		Login->Cancel();
+	}
 }
 
-TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FString& RefreshToken)
+TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FVexelAuthSecret& RefreshToken, FLoginNumber Number)
 {
 	// Taken here, because a step may run when the module is gone already.
-	const TSharedPtr<FVexelHttp> ApiClient = FVexelClient::Get().GetApiClient();
-	return Try(PreloadClientId())
-		.Then([RefreshToken, ApiClient](const FString& ClientId)
-			{
-				FVexelHttpUrlParams Form;
-				Form.Add(TEXT("grant_type"), TEXT("refresh_token")).Add(TEXT("refresh_token"), RefreshToken).Add(TEXT("client_id"), ClientId);
-				return ApiClient->Request(EVexelHttpVerb::Post, TEXT("/oauth/token"))
-					.WithTimeout(GetTimeoutSeconds())
-					.WithSecrecy()
-					.WithPayload(Form)
-					.SendAndAwait(); })
-		.Then([](const TSharedRef<FVexelHttpResponse>& Response) -> TVexelExpected<FTokenResponse>
-			{
-				const TSharedPtr<FJsonObject> Body = Response->GetContentJson();
-				if (!Body)
+	const TSharedPtr<FVexelHttp> Api = FVexelClient::Get().GetApiClient();
+	return Try(PreloadClientId()).Then([RefreshToken, Api, Number](const FString& ClientId) -> TVexelTaskResult<void>
+		{
+			const VexelAuthRequests::FClient OAuthClient{Api, ClientId, FString()};
+			return Try(VexelAuthRequests::Refresh(OAuthClient, RefreshToken)).Then([OAuthClient, Number](const FTokenResponse& Tokens)
 				{
-					return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Malformed token refresh response");
-				}
-				const FTokenResponse Tokens = FTokenResponse::Parse(*Body);
-				if (!Tokens.IsComplete())
-				{
-					return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Incomplete token data received");
-				}
-				VEXEL_LOG(Log, "OAuth token refresh successful");
-				return Tokens; })
-		.Then([Session = GetSession()](const FTokenResponse& Tokens)
-			{ return InternalProcessTokenResponse(Tokens, Session); });
+					VEXEL_LOG(Log, "OAuth token refresh successful");
+					return ProcessOrRevoke(OAuthClient, Tokens, Number); }); });
 }
 
-TVexelExpected<void> FVexelAuth::InternalProcessTokenResponse(const FTokenResponse& Response, int32 Session)
+TVexelExpected<void> FVexelAuth::ProcessOrRevoke(
+	const VexelAuthRequests::FClient& OAuthClient, const FTokenResponse& Response, FLoginNumber Number)
 {
-	const FString UserId = ReadUserId(Response.AccessToken);
+	const TVexelExpected<void> Processed = InternalProcessTokenResponse(Response, Number);
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	bool bRevoke = false;
+	{
+		FScopeLock Guard(&Data.Lock);
+		bRevoke = Processed.HasError() && !Data.bEnded;
+	}
+	if (bRevoke)
+	{
+		VexelAuthRequests::Revoke(OAuthClient, Response.RefreshToken).OnComplete([](const TVexelExpected<void>&) {});
+	}
+	return Processed;
+}
+
+TVexelExpected<void> FVexelAuth::InternalProcessTokenResponse(const FTokenResponse& Response, FLoginNumber Number)
+{
+	const FString UserId = VexelAuthTokens::ReadUserId(Response.AccessToken.Get());
 	if (UserId.IsEmpty())
 	{
 		return VEXEL_ERROR(FVexelError_Auth_TokenProcessing, "Failed to extract user ID from access token");
 	}
-	FAuthData& Data = GetData();
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FVexelAuthNews News;
+	TVexelExpected<void> Stored;
 	{
-		FScopeLock Guard(&Data.Lock);
-		if (Data.Session != Session)
+		FScopeLock StoreGuard(&Data.StoreLock);
 		{
-			return VEXEL_ERROR(FVexelError_Auth_TokenProcessing, "The tokens arrived after the end of the login");
+			FScopeLock Guard(&Data.Lock);
+			if (Data.Number != Number)
+			{
+				return MakeLateError();
+			}
 		}
+		// Stored before anybody hears of the login, who may end the process then.
+		Stored = FVexelSecureStorage::StoreValueString(RefreshTokenKey, Response.RefreshToken.Get());
+		const FDateTime Now = FDateTime::UtcNow();
+		FScopeLock Guard(&Data.Lock);
 		Data.LoginFailure.Reset();
+		Data.CurrentLogin.Reset();
 		Data.UserId = UserId;
 		Data.AccessToken = Response.AccessToken;
 		Data.RefreshToken = Response.RefreshToken;
-		Data.Expiry = FDateTime::UtcNow() + FTimespan::FromSeconds(*Response.ExpiresInSeconds);
+		Data.bTokenStored = Stored.HasValue();
+		Data.RefreshTime = Now + FTimespan::FromSeconds(VexelAuthTokens::GetRefreshDelay(*Response.ExpiresInSeconds));
+		Data.Expiry = Now + FTimespan::FromSeconds(VexelAuthTokens::ClampLife(*Response.ExpiresInSeconds));
+		Data.RetrySeconds = 0.0;
+		News = Data.ChangeState(EState::Online);
+		if (!Data.Monitor)
+		{
+			Data.Monitor = MakeUnique<FVexelAuthMonitor>();
+		}
+		Data.Monitor->Wake();
 	}
-	const TVexelExpected<void> Stored = FVexelSecureStorage::StoreValueString(RefreshTokenKey, Response.RefreshToken);
 	if (Stored.HasError())
 	{
-		ReportAuthError(Stored.GetError(), TEXT("while storing refresh token"));
+		VexelAuthReport::Error(Stored.GetError(), TEXT("while storing refresh token"));
 	}
-	SetState(EState::Online);
+	News.Tell();
 	return TVexelExpected<void>();
-}
-
-void FVexelAuth::SetState(EState NewState)
-{
-	FAuthData& Data = GetData();
-	FOnAuthStateChanged Listeners;
-	{
-		FScopeLock Guard(&Data.Lock);
-		if (Data.State == NewState)
-		{
-			return;
-		}
-		Data.State = NewState;
-		Listeners = Data.OnStateChanged;
-	}
-	// Outside the lock, because listeners ask for tokens.
-	Listeners.Broadcast(NewState);
 }

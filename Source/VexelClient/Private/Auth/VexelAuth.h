@@ -1,21 +1,17 @@
 #pragma once
 
+#include "Auth/VexelAuthSecret.h"
+#include "Auth/VexelAuthTokens.h"
 #include "CoreMinimal.h"
 #include "Delegates/Delegate.h"
 #include "Misc/DateTime.h"
 #include "VexelTaskResult.h"
 
-/** What a token endpoint answers. Complete only with both tokens and a life time. */
-struct FTokenResponse
+class FVexelAuthLoginState;
+namespace VexelAuthRequests
 {
-	static FTokenResponse Parse(const class FJsonObject& Object);
-
-	bool IsComplete() const { return !AccessToken.IsEmpty() && !RefreshToken.IsEmpty() && ExpiresInSeconds.IsSet(); }
-
-	FString AccessToken;
-	FString RefreshToken;
-	TOptional<double> ExpiresInSeconds;
-};
+struct FClient;
+}
 
 /** The user's login: one process-wide state behind one lock. Any thread; listeners are called on the thread that changed it. */
 class FVexelAuth
@@ -25,24 +21,68 @@ public:
 	{
 		/** A login may start. */
 		Offline,
+		/** A login is under way: one in the browser, or the silent one from the stored token. */
 		LoggingIn,
+		/** The access token is good for nothing any more, and another one is on its way. */
 		Refreshing,
 		Online
 	};
 
+	enum class ECodeRoute : uint8
+	{
+		Callback,
+		Polling
+	};
+
+	/** What a delivered authorization code carries. */
+	struct FAuthCodeInfo
+	{
+		FVexelAuthSecret Code;
+		/** Of the login that it was issued for. */
+		FVexelAuthSecret State;
+		ECodeRoute Route = ECodeRoute::Polling;
+	};
+
 	DECLARE_MULTICAST_DELEGATE_OneParam(FOnAuthStateChanged, EState);
+	/** Shows the user an address to open; answers why it cannot, or an empty text. */
+	using FOpenAddress = TFunction<FString(const FString& Url)>;
 
 	/** Fetches the plug-in's OAuth client id once and keeps it. */
 	static TVexelTaskResult<FString> PreloadClientId();
 
+	/**
+	 * Starts a login in the user's browser. It goes on by itself; the answered state tells its end and can cancel it. A login in the
+	 * browser that is under way gives way to this one; in any other state but offline there is none to be had
+	 * (FVexelError_Auth_AlreadyLoggedIn).
+	 * @param bListen Whether the browser may bring the code to this machine; without it the code comes by polling alone.
+	 */
+	static TVexelExpected<TSharedRef<FVexelAuthLoginState>> StartLogin(bool bListen = true);
+
+	/** The login in the browser that is under way; null for none. */
+	static TSharedPtr<FVexelAuthLoginState> GetCurrentLogin();
+
 	/** Logs in silently from the stored refresh token; without one nothing happens. */
 	static void StartAutoLogin();
+
+	/**
+	 * Forgets the tokens here, at once, and has the service revoke them: GetRevocation() tells when it has. Nothing while nobody is
+	 * logged in.
+	 */
+	static void Logout();
+	/** Of the last logout; refers to no task without one. A failure is reported already. */
+	static TVexelTaskResult<void> GetRevocation();
 
 	static EState GetState();
 	static bool IsOnline() { return GetState() == EState::Online; }
 
 	static FDelegateHandle AddAuthStateChangedCallback(const FOnAuthStateChanged::FDelegate& Callback);
 	static void RemoveAuthStateChangedCallback(FDelegateHandle Handle);
+
+	/** Where the secure store has the refresh token of the last login. */
+	static const FString& GetRefreshTokenKey();
+
+	/** Replaces the user's browser by another way to show an address; the browser again without a function. */
+	static void SetOpenAddress(FOpenAddress Open);
 
 	/** Why the last login failed; unset while one is under way and after one that succeeded. */
 	static TOptional<FVexelError> GetLoginFailure();
@@ -54,17 +94,43 @@ public:
 	 */
 	static TVexelTaskResult<void> RefreshRefusedToken(const FString& RefusedToken);
 
+	/** When the access token is to be replaced; unset while there is none and while a refresh is under way. */
+	static TOptional<FDateTime> GetRefreshTime();
+	/** Replaces the access token when it is time to; the monitoring thread's step. */
+	static void RefreshDueToken();
+
 	/** Calls back with a copy of the access token taken under the lock. */
 	static void WithAccessToken(TFunctionRef<void(const FString& Token)> Callback);
 	static void WithAccessTokenAndUser(TFunctionRef<void(const FString& Token, const FString& UserId)> Callback);
 
-	/** Forgets login, tokens and client id, as at the end of the process. Nothing stored is touched. */
+	/**
+	 * Ends what is under way and the monitoring thread, and forgets login, tokens and client id, as at the end of the process.
+	 * Nothing stored is touched.
+	 */
 	static void Shutdown();
 
 private:
-	static TVexelTaskResult<void> InternalRefreshAccessToken(const FString& RefreshToken);
-	/** Session is the one that the request was sent in; tokens that arrive after its end are nobody's. */
-	static TVexelExpected<void> InternalProcessTokenResponse(const FTokenResponse& Response, int32 Session);
-	static void EndLogin(const FVexelError& Failure, int32 Session, const TCHAR* While);
-	static void SetState(EState NewState);
+	/** A login's number. What a request of one login brings is nobody's once the number has changed. */
+	using FLoginNumber = int32;
+
+	static TVexelExpected<void> InternalStartBrowserWithClientId(
+		const TSharedRef<FVexelAuthLoginState>& Login, const FString& ClientId, const FString& DeviceId);
+	static void InternalStartPollingForAuthCode(const TSharedRef<FVexelAuthLoginState>& Login);
+	static TVexelTaskResult<void> InternalProcessAuthCode(
+		const TSharedRef<FVexelAuthLoginState>& Login, const FAuthCodeInfo& Info, FLoginNumber Number);
+	static TVexelExpected<void> InternalProcessTokenResponse(const FTokenResponse& Response, FLoginNumber Number);
+	/** The same; what nobody will use is revoked. */
+	static TVexelExpected<void> ProcessOrRevoke(
+		const VexelAuthRequests::FClient& Client, const FTokenResponse& Response, FLoginNumber Number);
+	static TVexelTaskResult<void> InternalRefreshAccessToken(const FVexelAuthSecret& RefreshToken, FLoginNumber Number);
+
+	static TVexelExpected<FLoginNumber> BeginLogin(
+		const TSharedRef<FVexelAuthLoginState>& Login, TSharedPtr<FVexelAuthLoginState>& OutEarlier);
+	static void OnLoginComplete(
+		const TSharedRef<FVexelAuthLoginState>& Login, const TVexelExpected<FAuthCodeInfo>& Result, FLoginNumber Number);
+	/** Back to offline, when that login is still the one; what is stored goes too when the service has refused it. */
+	static void EndLogin(const FVexelError& Failure, FLoginNumber Number, bool bForgetRefused, const TCHAR* While);
+	/** Joins a refresh that is under way. Without a refused token it is the monitoring thread that asks. */
+	static TVexelTaskResult<void> StartRefresh(const FString* RefusedToken);
+	static void OnRefreshed(const TVexelExpected<void>& Result, FLoginNumber Number, const TCHAR* While);
 };

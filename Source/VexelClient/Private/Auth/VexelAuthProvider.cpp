@@ -20,6 +20,11 @@ FVexelHttp::IAuthProvider::EAuthResult FVexelAuthProvider::GetAuthState(FString&
 		{ OutToken = Token; });
 	if (OutToken.IsEmpty())
 	{
+		if (!FVexelAuth::IsOnline())
+		{
+			// A logout came between the two questions.
+			return EAuthResult::NotAuthenticated;
+		}
 		FVexelSentry::CaptureError(
 			VEXEL_ERROR(FVexelError_Auth, "Auth provider reports online state but failed to retrieve access token"), VEXEL_HERE);
 		return EAuthResult::NotAuthenticated;

@@ -1,17 +1,20 @@
 #include "Auth/VexelAuthUserInfo.h"
 
+#include "Auth/VexelAuthIds.h"
 #include "Data/VexelChatModeInfo.h"
 #include "Misc/ScopeLock.h"
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
 #include "VexelHttp.h"
 #include "VexelLog.h"
+#include "VexelSentry.h"
 #include "VexelTry.h"
 
 namespace
 {
 constexpr float TimeoutSeconds = 30.0f;
 constexpr int32 MaxAnswerBytes = 1 << 20;
+const FString UserGuidHeader = TEXT("vexel-id");
 
 struct FUserInfoData
 {
@@ -72,16 +75,26 @@ FVexelAuthUserInfo FVexelAuthUserInfo::GetCurrent()
 	return Data.Current;
 }
 
+TVexelExpected<FString> FVexelAuthUserInfo::GetUserGuid()
+{
+	return VexelAuthIds::FindOrMake<FVexelError_UserInfoGuid>(TEXT("vid"), TEXT("while storing new Vexel ID"), []
+		{ VEXEL_LOG(Log, "No Vexel ID found in secure storage, generating a new one"); });
+}
+
 TVexelTaskResult<FVexelAuthUserInfo> FVexelAuthUserInfo::ForceRefresh()
 {
-	return Try(FVexelClient::Get()
-				   .GetApiClient()
-				   ->Request(EVexelHttpVerb::Get, TEXT("/api/user"))
-				   .WithTimeout(TimeoutSeconds)
-				   .WithAnswerLimit(MaxAnswerBytes)
-				   .WithAuth()
-				   .WithoutHold()
-				   .SendAndAwait())
+	FVexelHttpPendingRequest Request = FVexelClient::Get().GetApiClient()->Request(EVexelHttpVerb::Get, TEXT("/api/user"));
+	Request.WithTimeout(TimeoutSeconds).WithAnswerLimit(MaxAnswerBytes).WithAuth().WithoutHold();
+	const TVexelExpected<FString> UserGuid = GetUserGuid();
+	if (UserGuid.HasValue())
+	{
+		Request.WithHeader(UserGuidHeader, UserGuid.GetValue());
+	}
+	else
+	{
+		FVexelSentry::CaptureErrorSoft(FVexelError(UserGuid.GetError()), VEXEL_HERE);
+	}
+	return Try(Request.SendAndAwait())
 		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
 			{ return ReadUserInfo(Response); })
 		.Catch<FVexelError_HttpUnauthorized>([](const FVexelError& Error) -> TVexelExpected<FVexelAuthUserInfo>

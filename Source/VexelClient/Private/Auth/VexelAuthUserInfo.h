@@ -17,6 +17,8 @@ public:
 	static FVexelAuthUserInfo GetCurrent();
 	/** Fetches the profile; it is current, and OnUserInfoChanged broadcast, on the game thread before the result is complete. */
 	static TVexelTaskResult<FVexelAuthUserInfo> ForceRefresh();
+	/** The id of this machine's user, made at the first call and kept in the secure store. */
+	static TVexelExpected<FString> GetUserGuid();
 	/** Forgets the profile, as when the user logs out; an answer that is still on its way is dropped. Game thread. */
 	static void Clear();
 	/** Called on the game thread with each new profile, an empty one too. */

@@ -1,0 +1,65 @@
+#include "FreedMemoryWatch.h"
+
+#include <atomic>
+#include <cstring>
+#include <malloc.h>
+
+#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
+#define SEES_FREED_BLOCKS 0
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
+#define SEES_FREED_BLOCKS 0
+#endif
+#endif
+#ifndef SEES_FREED_BLOCKS
+#define SEES_FREED_BLOCKS 1
+#endif
+
+namespace
+{
+constexpr size_t MaxNeedleBytes = 256;
+
+/** Fixed memory: what is called when memory is freed must neither take nor free any. */
+char Needle[MaxNeedleBytes];
+std::atomic<size_t> NumNeedleBytes = 0;
+std::atomic<int32> NumFound = 0;
+}
+
+#if SEES_FREED_BLOCKS
+extern "C" void __libc_free(void* Block);
+
+/** Takes the place of the C library's in the whole process. */
+extern "C" void free(void* Block)
+{
+	const size_t Num = NumNeedleBytes.load(std::memory_order_acquire);
+	if (Block && Num > 0 && memmem(Block, malloc_usable_size(Block), Needle, Num))
+	{
+		++NumFound;
+	}
+	__libc_free(Block);
+}
+#endif
+
+FFreedMemoryWatch::FFreedMemoryWatch(const FString& InNeedle)
+{
+	const size_t Num = sizeof(TCHAR) * size_t(InNeedle.Len());
+	check(Num > 0 && Num <= MaxNeedleBytes);
+	std::memcpy(Needle, *InNeedle, Num);
+	NumFound = 0;
+	NumNeedleBytes.store(Num, std::memory_order_release);
+}
+
+FFreedMemoryWatch::~FFreedMemoryWatch()
+{
+	NumNeedleBytes = 0;
+}
+
+bool FFreedMemoryWatch::IsAble()
+{
+	return SEES_FREED_BLOCKS;
+}
+
+int32 FFreedMemoryWatch::GetNumFound() const
+{
+	return NumFound;
+}

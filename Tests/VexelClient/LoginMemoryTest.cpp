@@ -1,0 +1,84 @@
+#include "Auth/VexelAuthPkce.h"
+#include "FreedMemoryWatch.h"
+#include "LoginFixture.h"
+
+namespace
+{
+class LoginMemory : public FLoginTest
+{
+protected:
+	virtual void SetUp() override
+	{
+		if (!FFreedMemoryWatch::IsAble())
+		{
+			GTEST_SKIP() << "a sanitizer frees memory in its own way";
+		}
+		FLoginTest::SetUp();
+	}
+	virtual void TearDown() override
+	{
+		if (FFreedMemoryWatch::IsAble())
+		{
+			FLoginTest::TearDown();
+		}
+	}
+};
+}
+
+TEST_F(LoginMemory, TheWatchSeesATextThatIsFreed)
+{
+	const FString Needle = TEXT("a text that nobody else has");
+	const FFreedMemoryWatch Watch(Needle);
+	{
+		const FString Copy = Needle + TEXT("!");
+		EXPECT_FALSE(Copy.IsEmpty());
+	}
+	EXPECT_GE(Watch.GetNumFound(), 1);
+}
+
+TEST_F(LoginMemory, ASecretIsOverwrittenBeforeItsMemoryIsFreed)
+{
+	const FString Needle = TEXT("the secret of this test alone");
+	const FVexelAuthSecret Kept{FString(Needle)};
+	const FFreedMemoryWatch Watch(Needle);
+	{
+		FVexelAuthSecret Copy = Kept;
+		FVexelAuthSecret Assigned{FString(TEXT("another"))};
+		Assigned = Copy;
+		FVexelAuthSecret Moved = MoveTemp(Copy);
+		Assigned = MoveTemp(Moved);
+		Assigned = FVexelAuthSecret(FString(TEXT("a third")));
+		Moved = Kept;
+		Moved.Wipe();
+		TArray<FVexelAuthSecret> Many;
+		for (int32 Index = 0; Index < 100; ++Index)
+		{
+			Many.Add(Kept);
+		}
+		EXPECT_TRUE(Moved.IsEmpty());
+		EXPECT_TRUE(Many.Last().Equals(Needle));
+	}
+	EXPECT_EQ(Watch.GetNumFound(), 0);
+}
+
+TEST_F(LoginMemory, ALogoutLeavesNoTokenInFreedMemory)
+{
+	LogIn();
+	ASSERT_TRUE(PumpUntil([this]
+		{ return FindRequests("/api/user").size() == 1; }));
+	AdvanceTime(6.0f);
+	const FString Token = UTF8_TO_TCHAR(AccessToken);
+	const FFreedMemoryWatch Watch(Token);
+	FVexelAuth::Logout();
+	EXPECT_EQ(Watch.GetNumFound(), 0);
+}
+
+TEST_F(LoginMemory, TheVerifierOfALoginThatEndsIsOverwritten)
+{
+	const TSharedRef<FVexelAuthLoginState> Login = FVexelAuthLoginState::Make().GetValue();
+	const FVexelAuthSecret Verifier = Login->GetCodeVerifier();
+	const FFreedMemoryWatch Watch(Verifier.Get());
+	Login->Cancel();
+	EXPECT_TRUE(Login->GetCodeVerifier().IsEmpty());
+	EXPECT_EQ(Watch.GetNumFound(), 0);
+}
