@@ -115,7 +115,7 @@ TEST_F(ForeignService, NeverGetsTheTokenOfAnother)
 	const std::string Url = "http://127.0.0.1:" + std::to_string(Other.GetPort());
 	const FProgramResult Result =
 		RunVexel({"chat", "--project", Project.GetPath(), "--service", Url, "--message", "Hello?"}, MakeSurroundings(std::nullopt));
-	ExpectOneClearLine(Result, 1, "not logged in at " + Url + ": there is no stored login for it; give a token with --token-fd");
+	ExpectOneClearLine(Result, 1, "not logged in at " + Url + ": there is no stored login for it; log in with: vexel login --service");
 	for (const FScriptedRequest& Request : Other.GetRequests())
 	{
 		EXPECT_TRUE(Request.GetPath() == ClientPath || Request.GetPath() == "/api/v2/status.json") << Request.Target;

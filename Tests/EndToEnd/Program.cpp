@@ -1,6 +1,5 @@
 #include "Program.h"
 
-#include <chrono>
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
@@ -50,23 +49,34 @@ void Drain(FPipe& Pipe, std::string& Text)
 }
 }
 
-FProgramResult RunProgram(const std::vector<std::string>& Words, const FProgramSurroundings& Surroundings)
+struct FStartedProgram::FStreams
 {
-	signal(SIGPIPE, SIG_IGN);
-	FProgramResult Result;
-	const std::string& Input = Surroundings.Input;
 	FPipe Third;
 	FPipe In;
 	FPipe Out;
 	FPipe Errors;
+};
+
+FStartedProgram::FStartedProgram(const std::vector<std::string>& Words, const FProgramSurroundings& Surroundings)
+	: Streams(std::make_unique<FStreams>())
+	, Name(Words[0])
+	, TimeoutSeconds(Surroundings.TimeoutSeconds)
+	, Deadline(std::chrono::steady_clock::now() + std::chrono::seconds(TimeoutSeconds))
+{
+	signal(SIGPIPE, SIG_IGN);
+	const std::string& Input = Surroundings.Input;
 	posix_spawn_file_actions_t Actions;
 	posix_spawn_file_actions_init(&Actions);
-	posix_spawn_file_actions_adddup2(&Actions, In.Ends[0], STDIN_FILENO);
-	posix_spawn_file_actions_adddup2(&Actions, Out.Ends[1], STDOUT_FILENO);
-	posix_spawn_file_actions_adddup2(&Actions, Errors.Ends[1], STDERR_FILENO);
+	posix_spawn_file_actions_adddup2(&Actions, Streams->In.Ends[0], STDIN_FILENO);
+	posix_spawn_file_actions_adddup2(&Actions, Streams->Out.Ends[1], STDOUT_FILENO);
+	posix_spawn_file_actions_adddup2(&Actions, Streams->Errors.Ends[1], STDERR_FILENO);
 	if (Surroundings.ThirdDescriptor)
 	{
-		posix_spawn_file_actions_adddup2(&Actions, Third.Ends[0], 3);
+		posix_spawn_file_actions_adddup2(&Actions, Streams->Third.Ends[0], 3);
+	}
+	for (const auto& [Own, Passed] : Surroundings.PassedDescriptors)
+	{
+		posix_spawn_file_actions_adddup2(&Actions, Own, Passed);
 	}
 	std::vector<char*> RawEnvironment;
 	for (const std::string& Entry : Surroundings.Environment)
@@ -85,55 +95,108 @@ FProgramResult RunProgram(const std::vector<std::string>& Words, const FProgramS
 		RawWords.push_back(const_cast<char*>(Word.c_str()));
 	}
 	RawWords.push_back(nullptr);
-	pid_t Process = 0;
 	const int Failure = posix_spawn(&Process, RawWords[0], &Actions, nullptr, RawWords.data(), RawEnvironment.data());
 	posix_spawn_file_actions_destroy(&Actions);
 	if (Failure != 0)
 	{
-		Result.Errors = "the program could not be started: " + Words[0];
-		return Result;
+		Process = 0;
+		Result.Errors = "the program could not be started: " + Name;
+		Streams->Out.CloseEnd(0);
+		Streams->Errors.CloseEnd(0);
+		return;
 	}
-	Third.CloseEnd(0);
+	Streams->Third.CloseEnd(0);
 	const std::string& Token = Surroundings.ThirdDescriptor.value_or("");
-	if (write(Third.Ends[1], Token.data(), Token.size()) < 0)
+	if (write(Streams->Third.Ends[1], Token.data(), Token.size()) < 0)
 	{
 		Result.Errors = "the program took nothing from descriptor 3";
 	}
-	Third.CloseEnd(1);
-	In.CloseEnd(0);
-	Out.CloseEnd(1);
-	Errors.CloseEnd(1);
-	if (!Input.empty() && write(In.Ends[1], Input.data(), Input.size()) < 0)
+	Streams->Third.CloseEnd(1);
+	Streams->In.CloseEnd(0);
+	Streams->Out.CloseEnd(1);
+	Streams->Errors.CloseEnd(1);
+	if (!Input.empty() && write(Streams->In.Ends[1], Input.data(), Input.size()) < 0)
 	{
 		Result.Errors = "the program took no input";
 	}
-	In.CloseEnd(1);
+	Streams->In.CloseEnd(1);
+}
 
-	const auto Deadline = std::chrono::steady_clock::now() + std::chrono::seconds(Surroundings.TimeoutSeconds);
-	while (Out.Ends[0] >= 0 || Errors.Ends[0] >= 0)
+FStartedProgram::~FStartedProgram()
+{
+	if (Process > 0)
 	{
-		const auto Left = std::chrono::duration_cast<std::chrono::milliseconds>(Deadline - std::chrono::steady_clock::now()).count();
-		pollfd Polls[2] = {{Out.Ends[0], POLLIN, 0}, {Errors.Ends[0], POLLIN, 0}};
-		if (Left <= 0 || poll(Polls, 2, int(Left)) == 0)
-		{
-			kill(Process, SIGKILL);
-			waitpid(Process, nullptr, 0);
-			Result.Errors += "\nkilled: it took longer than " + std::to_string(Surroundings.TimeoutSeconds) + " s";
-			return Result;
-		}
-		if (Polls[0].revents)
-		{
-			Drain(Out, Result.Output);
-		}
-		if (Polls[1].revents)
-		{
-			Drain(Errors, Result.Errors);
-		}
+		kill(Process, SIGKILL);
+		waitpid(Process, nullptr, 0);
+	}
+}
+
+void FStartedProgram::Send(int Signal) const
+{
+	kill(Process, Signal);
+}
+
+bool FStartedProgram::ReadMore()
+{
+	FPipe& Out = Streams->Out;
+	FPipe& Errors = Streams->Errors;
+	if (Out.Ends[0] < 0 && Errors.Ends[0] < 0)
+	{
+		return false;
+	}
+	const auto Left = std::chrono::duration_cast<std::chrono::milliseconds>(Deadline - std::chrono::steady_clock::now()).count();
+	pollfd Polls[2] = {{Out.Ends[0], POLLIN, 0}, {Errors.Ends[0], POLLIN, 0}};
+	if (Left <= 0 || poll(Polls, 2, int(Left)) == 0)
+	{
+		bTimedOut = true;
+		return false;
+	}
+	if (Polls[0].revents)
+	{
+		Drain(Out, Result.Output);
+	}
+	if (Polls[1].revents)
+	{
+		Drain(Errors, Result.Errors);
+	}
+	return true;
+}
+
+const std::string& FStartedProgram::WaitForOutput(const std::string& Text)
+{
+	while (Result.Output.find(Text) == std::string::npos && ReadMore())
+	{
+	}
+	return Result.Output;
+}
+
+FProgramResult FStartedProgram::Finish()
+{
+	while (ReadMore())
+	{
+	}
+	if (Process <= 0)
+	{
+		return Result;
+	}
+	if (bTimedOut)
+	{
+		kill(Process, SIGKILL);
+		Result.Errors += "\nkilled: it took longer than " + std::to_string(TimeoutSeconds) + " s";
 	}
 	int Status = 0;
 	waitpid(Process, &Status, 0);
-	Result.Status = WIFEXITED(Status) ? WEXITSTATUS(Status) : 128 + WTERMSIG(Status);
+	Process = 0;
+	if (!bTimedOut)
+	{
+		Result.Status = WIFEXITED(Status) ? WEXITSTATUS(Status) : 128 + WTERMSIG(Status);
+	}
 	return Result;
+}
+
+FProgramResult RunProgram(const std::vector<std::string>& Words, const FProgramSurroundings& Surroundings)
+{
+	return FStartedProgram(Words, Surroundings).Finish();
 }
 
 FProgramResult RunVexel(std::vector<std::string> Arguments, const FProgramSurroundings& Surroundings)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include <chrono>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 /** What a program left behind. */
@@ -23,7 +26,41 @@ struct FProgramSurroundings
 	std::vector<std::string> Environment = {};
 	/** What it can read from file descriptor 3; nothing is open there without it. */
 	std::optional<std::string> ThirdDescriptor = {};
+	/** Descriptors of this process that it has, as the number beside each; nothing else is passed on. */
+	std::vector<std::pair<int, int>> PassedDescriptors = {};
 	int TimeoutSeconds = 60;
+};
+
+/** A program while it runs. One that still runs when this is destroyed is killed. */
+class FStartedProgram
+{
+public:
+	explicit FStartedProgram(const std::vector<std::string>& Words, const FProgramSurroundings& Surroundings = {});
+	~FStartedProgram();
+
+	FStartedProgram(const FStartedProgram&) = delete;
+	FStartedProgram& operator=(const FStartedProgram&) = delete;
+
+	/** Reads until standard output holds the text, and answers all that it holds by then; the time limit is the surroundings'. */
+	const std::string& WaitForOutput(const std::string& Text);
+	int GetProcessId() const { return Process; }
+	void Send(int Signal) const;
+	/** Waits for the end. */
+	FProgramResult Finish();
+
+private:
+	struct FStreams;
+
+	/** Reads what comes next; false at the end of both streams, or when the time is over. */
+	bool ReadMore();
+
+	std::unique_ptr<FStreams> Streams;
+	FProgramResult Result;
+	std::string Name;
+	int Process = 0;
+	int TimeoutSeconds;
+	std::chrono::steady_clock::time_point Deadline;
+	bool bTimedOut = false;
 };
 
 /** Runs a program to its end. A program that takes longer than the limit is killed: status -1. */

@@ -27,6 +27,14 @@ constexpr FOptionRow ChatOptions[] = {
 	JsonOption,
 	VerboseOption,
 };
+constexpr FOptionRow ServiceOption = {TEXT("--service"), TEXT("URL"), TEXT("the service")};
+constexpr FOptionRow LoginOptions[] = {
+	ServiceOption,
+	{TEXT("--no-browser"), nullptr, TEXT("only prints the address, for a browser on another machine; so it is over ssh and without a desktop")},
+	JsonOption,
+	VerboseOption,
+};
+constexpr FOptionRow AccountOptions[] = {ServiceOption, JsonOption, VerboseOption};
 constexpr FOptionRow ToolOptions[] = {
 	{TEXT("--input"), TEXT("JSON|FILE|-"), TEXT("the tool's arguments, an object")},
 	ProjectOption,
@@ -45,6 +53,9 @@ constexpr FOptionRow ServiceOptions[] = {
 
 const FCommandRow Commands[] = {
 	{TEXT("chat"), TEXT("[--message TEXT]"), TEXT("a chat with the assistant about the project"), ChatOptions, 0, RunChatCommand},
+	{TEXT("login"), TEXT("--service URL"), TEXT("a login at a service, in the browser"), LoginOptions, 0, RunLoginCommand},
+	{TEXT("logout"), TEXT("--service URL"), TEXT("ends the login at a service and forgets it"), AccountOptions, 0, RunLogoutCommand},
+	{TEXT("whoami"), TEXT("[--service URL]"), TEXT("who is logged in"), AccountOptions, 0, RunWhoamiCommand},
 	{TEXT("tool"), TEXT("NAME --input JSON|FILE|-"), TEXT("calls one tool as the assistant would"), ToolOptions, 1, RunToolCommand},
 	{TEXT("tools"), TEXT(""), TEXT("the tool table"), ToolsOptions, 0, RunToolsCommand},
 	{TEXT("graph"), TEXT("export|import --blueprint PATH [FILE|-]"), TEXT("node text out of a graph, or into one"), GraphOptions, 2,

@@ -21,9 +21,12 @@ TConstArrayView<FCommandRow> GetCommands();
 int32 RunChatCommand(const FArguments& Arguments);
 int32 RunGraphCommand(const FArguments& Arguments);
 int32 RunInspectCommand(const FArguments& Arguments);
+int32 RunLoginCommand(const FArguments& Arguments);
+int32 RunLogoutCommand(const FArguments& Arguments);
 int32 RunServiceCommand(const FArguments& Arguments);
 int32 RunToolCommand(const FArguments& Arguments);
 int32 RunToolsCommand(const FArguments& Arguments);
+int32 RunWhoamiCommand(const FArguments& Arguments);
 
 /** Reads an argument that names a file, or standard input as "-". Answers nothing, with the reason on standard error, on failure. */
 TOptional<FString> ReadFileOrInput(const FString& Path);

@@ -66,6 +66,12 @@ TOptional<FString> FSession::Start(const FArguments& Arguments)
 
 TOptional<FString> FSession::StartConnected(const FArguments& Arguments)
 {
+	const TOptional<FString> Failure = StartAtService(Arguments);
+	return Failure ? Failure : WaitForLogin();
+}
+
+TOptional<FString> FSession::StartAtService(const FArguments& Arguments)
+{
 	FString Url = Arguments.Get(TEXT("--service"));
 	if (const TOptional<FString> Failure =
 			Url.IsEmpty() ? StartLocalService() : ForeignService::Prepare(Url, Arguments.Get(TEXT("--token-fd"))))
@@ -86,11 +92,7 @@ TOptional<FString> FSession::StartConnected(const FArguments& Arguments)
 			Setting->SetOverride(Url);
 		}
 	}
-	if (const TOptional<FString> Failure = Boot(Arguments, {PluginModule}))
-	{
-		return Failure;
-	}
-	return WaitForLogin();
+	return Boot(Arguments, {PluginModule});
 }
 
 TOptional<FString> FSession::Boot(const FArguments& Arguments, const TArray<FName>& Modules)
@@ -141,8 +143,11 @@ TOptional<FString> FSession::WaitForLogin()
 		return NullOpt;
 	}
 	const TOptional<FVexelError> Failure = FVexelClient::GetLoginFailure();
-	const FString Reason = Failure ? Failure->ToChainString() : FString(TEXT("there is no stored login for it; give a token with --token-fd"));
-	return FString::Printf(TEXT("not logged in at %s: %s"), *FVexelClient::GetApiUrl(), *Reason);
+	const FString Url = FVexelClient::GetApiUrl();
+	const FString Reason = Failure
+		? Failure->ToChainString()
+		: FString::Printf(TEXT("there is no stored login for it; log in with: vexel login --service %s"), *Url);
+	return FString::Printf(TEXT("not logged in at %s: %s"), *Url, *Reason);
 }
 
 bool FSession::TickUntil(TFunctionRef<bool()> Condition)

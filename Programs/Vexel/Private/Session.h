@@ -23,6 +23,9 @@ public:
 	 */
 	TOptional<FString> StartConnected(const FArguments& Arguments);
 
+	/** The same without waiting for the login, which may be none. */
+	TOptional<FString> StartAtService(const FArguments& Arguments);
+
 	/** Runs the editor until a condition holds; false when the user pressed Ctrl-C first. */
 	static bool TickUntil(TFunctionRef<bool()> Condition);
 

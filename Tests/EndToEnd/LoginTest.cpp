@@ -1,0 +1,331 @@
+#include "Browser.h"
+#include "ClearLine.h"
+#include "Program.h"
+
+#include <arpa/inet.h>
+#include <csignal>
+#include <fstream>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <httplib.h>
+#include <netinet/in.h>
+#include <nlohmann/json.hpp>
+#include <regex>
+#include <sys/socket.h>
+#include <thread>
+#include <unistd.h>
+
+namespace
+{
+using testing::HasSubstr;
+using testing::MatchesRegex;
+using testing::Not;
+
+/** A user of a real local service that wants a login, with a store of their own. */
+class LoginCommand : public testing::Test
+{
+protected:
+	LoginCommand()
+		: Data(Project.GetPath() / "data")
+		, OpenedFile(Project.GetPath() / "opened")
+	{
+		std::filesystem::create_directories(Project.GetPath() / "bin");
+		WriteProgram(Project.GetPath() / "bin/xdg-open", "#!/bin/sh\nprintf '%s' \"$1\" > \"" + OpenedFile.string() + ".new\"\nmv \"" + OpenedFile.string() + ".new\" \"" + OpenedFile.string() + "\"\n");
+	}
+
+	void StartService(const nlohmann::json& Login = nlohmann::json::object())
+	{
+		const std::filesystem::path Config = Project.GetPath() / "service.json";
+		std::ofstream(Config) << nlohmann::json{{"user", {{"name", "Ada Lovelace"}, {"email", "ada@example.org"}}}, {"login", Login}};
+		Service = std::make_unique<FStartedProgram>(
+			std::vector<std::string>{VEXEL_SERVICE_PROGRAM, "--config", Config}, FProgramSurroundings{.TimeoutSeconds = 120});
+		const nlohmann::json Ready = nlohmann::json::parse(Service->WaitForOutput("\n"), nullptr, false);
+		Url = Ready.value("url", "");
+		ASSERT_NE(Url, "");
+	}
+
+	/** With a desktop, whose browser is the test; without one, it is as over ssh. */
+	FProgramSurroundings MakeSurroundings(bool bDesktop) const
+	{
+		return {.Environment = {"XDG_DATA_HOME=" + Data.string(), "VEXEL_SECRET_STORE=file", "VEXEL_AUTH_CALLBACK_PORT=" + std::to_string(CallbackPort),
+					bDesktop ? "DISPLAY=:99" : "DISPLAY=", "WAYLAND_DISPLAY=", "SSH_CONNECTION=",
+					"PATH=" + (Project.GetPath() / "bin").string() + ":/usr/bin:/bin"}};
+	}
+
+	std::unique_ptr<FStartedProgram> Start(const std::string& Command, bool bDesktop, std::vector<std::string> More = {}) const
+	{
+		std::vector<std::string> Words = {VEXEL_PROGRAM, Command, "--service", Url};
+		Words.insert(Words.end(), More.begin(), More.end());
+		return std::make_unique<FStartedProgram>(Words, MakeSurroundings(bDesktop));
+	}
+	FProgramResult Run(const std::string& Command, std::vector<std::string> More = {}) const { return Start(Command, false, std::move(More))->Finish(); }
+
+	/** The address that the program opened in the desktop's browser. */
+	std::string WaitForOpened() const
+	{
+		const auto Deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
+		while (!std::filesystem::exists(OpenedFile) && std::chrono::steady_clock::now() < Deadline)
+		{
+			std::this_thread::sleep_for(std::chrono::milliseconds(10));
+		}
+		std::ifstream Stream(OpenedFile);
+		return std::string(std::istreambuf_iterator<char>(Stream), {});
+	}
+
+	/** The address that the program prints. */
+	static std::string ReadAddress(FStartedProgram& Program)
+	{
+		const std::string Output = Program.WaitForOutput("Ctrl-C cancels.");
+		std::smatch Found;
+		return std::regex_search(Output, Found, std::regex("\n  (http\\S+)\n")) ? Found[1].str() : std::string();
+	}
+
+	/** Opens the page and presses the button, as the simplest browser would; answers where that leads. */
+	std::string DecideAt(const std::string& Address, const std::string& Decision) const
+	{
+		httplib::Client Client(Url);
+		const httplib::Result Page = Client.Get(Address.substr(Url.size()));
+		const auto Find = [&](const std::string& Name)
+		{
+			std::smatch Found;
+			return std::regex_search(Page->body, Found, std::regex("name=\"" + Name + "\" value=\"([^\"]*)\"")) ? Found[1].str() : std::string();
+		};
+		if (!Page)
+		{
+			return "no page";
+		}
+		const std::string Cookie = Page->get_header_value("Set-Cookie");
+		const httplib::Result Answer = Client.Post("/oauth/decision", {{"Cookie", Cookie.substr(0, Cookie.find(';'))}},
+			httplib::Params{{"auth_request_id", Find("auth_request_id")}, {"form_token", Find("form_token")}, {"decision", Decision}});
+		return Answer ? Answer->get_header_value("Location") : "no answer";
+	}
+
+	static void WriteProgram(const std::filesystem::path& Path, const std::string& Text)
+	{
+		std::ofstream(Path) << Text;
+		std::filesystem::permissions(Path, std::filesystem::perms::owner_all);
+	}
+
+	FSampleProjectCopy Project;
+	const std::filesystem::path Data;
+	const std::filesystem::path OpenedFile;
+	std::unique_ptr<FStartedProgram> Service;
+	std::string Url;
+	int CallbackPort = 0;
+};
+
+/** The same with a real browser on the desktop, and a login that waits for it. */
+class LoginBrowser : public LoginCommand
+{
+protected:
+	virtual void SetUp() override
+	{
+		if (FBrowser::FindProgram().empty())
+		{
+			GTEST_SKIP() << "there is no chromium on this machine";
+		}
+		ASSERT_NO_FATAL_FAILURE(StartService());
+		Login = Start("login", true);
+		Browser = std::make_unique<FBrowser>();
+	}
+
+	std::unique_ptr<FStartedProgram> Login;
+	std::unique_ptr<FBrowser> Browser;
+};
+}
+
+TEST_F(LoginBrowser, ABrowserLogsInAndEveryLaterCommandIsLoggedIn)
+{
+	Browser->Open(WaitForOpened());
+	ASSERT_TRUE(Browser->WaitForTitle("Allow access - Vexel")) << Browser->GetText();
+	EXPECT_THAT(Browser->GetText(), HasSubstr("ada@example.org"));
+	EXPECT_EQ(Browser->Evaluate("document.styleSheets[0].cssRules.length > 10"), "true") << "the page's policy lets its style through";
+	EXPECT_EQ(Browser->Evaluate("(() => { const S = document.createElement('script'); S.text = 'window.Ran = 1'; document.head.append(S); return window.Ran; })()"),
+		"undefined")
+		<< "and no script";
+	Browser->TakePicture("login-consent.png");
+	ASSERT_TRUE(Browser->Click("button.primary"));
+	ASSERT_TRUE(Browser->WaitForTitle("Logged in - Vexel")) << Browser->GetAddress() << Browser->GetText();
+	EXPECT_THAT(Browser->GetAddress(), MatchesRegex(Url + "/auth/local\\?auth_request_id=[A-Za-z0-9_-]+")) << "neither code nor state stay in the address";
+	Browser->TakePicture("login-done.png");
+
+	const FProgramResult LoggedIn = Login->Finish();
+	EXPECT_EQ(LoggedIn.Status, 0) << LoggedIn.Errors;
+	EXPECT_THAT(LoggedIn.Output, HasSubstr("Ada Lovelace <ada@example.org>"));
+	EXPECT_THAT(Run("whoami").Output, HasSubstr("Ada Lovelace"));
+	EXPECT_THAT(Run("login").Output, HasSubstr("Ada Lovelace")) << "who is logged in needs no browser";
+	const FProgramResult Chat = Run("chat", {"--project", Project.GetPath(), "--message", "What does function CanOpen of BP_Door do?"});
+	EXPECT_EQ(Chat.Status, 0) << Chat.Errors;
+	EXPECT_THAT(Chat.Output, HasSubstr("CanOpen"));
+
+	const FProgramResult Logout = Run("logout");
+	EXPECT_EQ(Logout.Status, 0) << Logout.Errors;
+	EXPECT_EQ(Logout.Output, "Logged out at " + Url + ".\n");
+	EXPECT_EQ(Run("logout").Output, "Nobody is logged in at " + Url + ".\n");
+	const FProgramResult Nobody = Run("chat", {"--project", Project.GetPath(), "--message", "Hello?"});
+	ExpectOneClearLine(Nobody, 1, "there is no stored login for it; log in with: vexel login --service " + Url);
+}
+
+TEST_F(LoginBrowser, ARefusalInTheBrowserEndsTheLogin)
+{
+	Browser->Open(WaitForOpened());
+	ASSERT_TRUE(Browser->WaitForTitle("Allow access - Vexel")) << Browser->GetText();
+	ASSERT_TRUE(Browser->Click("button:not(.primary)"));
+	ASSERT_TRUE(Browser->WaitForTitle("Access denied - Vexel")) << Browser->GetAddress() << Browser->GetText();
+	Browser->TakePicture("login-denied.png");
+	const FProgramResult Refused = Login->Finish();
+	EXPECT_EQ(Refused.Status, 1);
+	EXPECT_THAT(Refused.Errors, HasSubstr("Polling error"));
+}
+
+TEST_F(LoginBrowser, AHostilePageNeitherDecidesNorAnswers)
+{
+	const std::string Address = WaitForOpened();
+	std::smatch Port;
+	ASSERT_TRUE(std::regex_search(Address, Port, std::regex("localhost%3A([0-9]+)")));
+	httplib::Server Hostile;
+	const std::string Page = "<title>hostile</title><iframe src=\"" + Address + "\"></iframe><form id=f method=post action=\"" + Url +
+		"/oauth/decision\"><input name=auth_request_id value=guess><input name=form_token value=guess><input name=decision value=approve></form>"
+		"<script>const Tries = []; for (const Where of ['code=c', 'error=access_denied']) Tries.push(fetch('http://localhost:" +
+		Port[1].str() + "/auth-callback?auth_request_id=r&state=AAAAAAAAAAAAAAAAAAAAAA&' + Where, {mode: 'no-cors'}).catch(() => 0)); "
+						"Promise.all(Tries).then(() => { document.title = 'tried'; });</script>";
+	Hostile.Get("/", [&](const httplib::Request&, httplib::Response& Response)
+		{ Response.set_content(Page, "text/html"); });
+	const int HostilePort = Hostile.bind_to_any_port("127.0.0.1");
+	std::thread Serving([&]
+		{ Hostile.listen_after_bind(); });
+	Browser->Open("http://127.0.0.1:" + std::to_string(HostilePort) + "/");
+	EXPECT_TRUE(Browser->WaitForTitle("tried"));
+	EXPECT_EQ(Browser->Evaluate("(() => { try { return frames[0].document.title; } catch (E) { return E.name; } })()"), "SecurityError");
+	Browser->Evaluate("document.getElementById('f').submit()");
+	EXPECT_TRUE(Browser->WaitForTitle("Login refused - Vexel")) << Browser->GetText();
+
+	// The login is as open as before.
+	Browser->Open(Address);
+	ASSERT_TRUE(Browser->WaitForTitle("Allow access - Vexel")) << Browser->GetText();
+	ASSERT_TRUE(Browser->Click("button.primary"));
+	EXPECT_TRUE(Browser->WaitForTitle("Logged in - Vexel"));
+	EXPECT_EQ(Login->Finish().Status, 0);
+	Hostile.stop();
+	Serving.join();
+}
+
+TEST_F(LoginCommand, WithoutADesktopTheAddressIsPrintedAndPollingAloneBringsTheCode)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService());
+	const std::unique_ptr<FStartedProgram> Login = Start("login", false);
+	const std::string Address = ReadAddress(*Login);
+	ASSERT_THAT(Address, HasSubstr("redirect_uri=urn%3Avexel%3Aoauth%3Anoredirect"));
+	EXPECT_THAT(DecideAt(Address, "approve"), HasSubstr("/auth/local?auth_request_id="));
+	const FProgramResult LoggedIn = Login->Finish();
+	EXPECT_EQ(LoggedIn.Status, 0) << LoggedIn.Errors;
+	EXPECT_THAT(LoggedIn.Output, HasSubstr("To log in, open this address in a browser, on any machine:"));
+	EXPECT_THAT(LoggedIn.Output, HasSubstr("Logged in at " + Url + " as\nAda Lovelace"));
+	EXPECT_FALSE(std::filesystem::exists(OpenedFile)) << "there is no browser to open";
+	const nlohmann::json User = nlohmann::json::parse(Run("whoami", {"--json"}).Output, nullptr, false);
+	EXPECT_EQ(User.value("email", ""), "ada@example.org");
+}
+
+TEST_F(LoginCommand, ATakenPortLeavesPolling)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService());
+	httplib::Server Other;
+	Other.set_socket_options([](socket_t) {});
+	CallbackPort = Other.bind_to_any_port("127.0.0.1");
+	std::thread Serving([&]
+		{ Other.listen_after_bind(); });
+	const std::unique_ptr<FStartedProgram> Login = Start("login", true);
+	const std::string Address = WaitForOpened();
+	EXPECT_THAT(Address, HasSubstr("redirect_uri=urn%3Avexel%3Aoauth%3Anoredirect"));
+	DecideAt(Address, "approve");
+	EXPECT_EQ(Login->Finish().Status, 0);
+	Other.stop();
+	Serving.join();
+}
+
+TEST_F(LoginCommand, CtrlCCancelsTheLogin)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService());
+	const std::unique_ptr<FStartedProgram> Login = Start("login", false);
+	const std::string Address = ReadAddress(*Login);
+	Login->Send(SIGINT);
+	ExpectOneClearLine(Login->Finish(), 1, "the login was cancelled");
+	DecideAt(Address, "approve");
+	EXPECT_EQ(Run("whoami").Status, 1);
+}
+
+TEST_F(LoginCommand, AServiceThatRefusesOrIsGoneIsSaidInOneLine)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService({{"decision", "deny"}}));
+	{
+		const std::unique_ptr<FStartedProgram> Login = Start("login", false);
+		httplib::Client(Url).Get(ReadAddress(*Login).substr(Url.size()));
+		ExpectOneClearLine(Login->Finish(), 1, "not logged in at " + Url + ": Polling error");
+	}
+	Service.reset();
+	ExpectOneClearLine(Run("login"), 1, "Cannot start login without valid client ID");
+	ExpectOneClearLine(Run("whoami"), 1, "there is no stored login for it");
+}
+
+TEST_F(LoginCommand, AnUnreachableServiceDoesNotKeepTheLoginHere)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService({{"decision", "approve"}}));
+	const std::unique_ptr<FStartedProgram> Login = Start("login", false);
+	httplib::Client(Url).Get(ReadAddress(*Login).substr(Url.size()));
+	ASSERT_EQ(Login->Finish().Status, 0);
+	Service.reset();
+	ExpectOneClearLine(Run("logout"), 1, "is forgotten here, but the service did not revoke it");
+	EXPECT_EQ(Run("logout").Output, "Nobody is logged in at " + Url + ".\n");
+}
+
+TEST_F(LoginCommand, NoSecretIsInTheLogTheProjectOrTheProcessList)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService());
+	const std::unique_ptr<FStartedProgram> Login = Start("login", false, {"--verbose"});
+	const std::string Address = ReadAddress(*Login);
+	std::smatch State;
+	ASSERT_TRUE(std::regex_search(Address, State, std::regex("[?&]state=([^&]+)")));
+	std::smatch Device;
+	ASSERT_TRUE(std::regex_search(Address, Device, std::regex("[?&]device_id=([^&]+)")));
+	for (const char* const File : {"cmdline", "environ"})
+	{
+		std::ifstream Stream("/proc/" + std::to_string(Login->GetProcessId()) + "/" + File);
+		const std::string Text(std::istreambuf_iterator<char>(Stream), {});
+		EXPECT_NE(Text, "");
+		EXPECT_THAT(Text, Not(HasSubstr(State[1].str())));
+	}
+	DecideAt(Address, "approve");
+	const FProgramResult Done = Login->Finish();
+	ASSERT_EQ(Done.Status, 0);
+	EXPECT_THAT(Done.Errors, HasSubstr("OAuth token exchange successful"));
+	for (const std::string& Secret : {State[1].str(), Device[1].str(), std::string("eyJ")})
+	{
+		EXPECT_THAT(Done.Errors, Not(HasSubstr(Secret)));
+		EXPECT_THAT(Done.Output.substr(Done.Output.find("Ctrl-C cancels.")), Not(HasSubstr(Secret)));
+	}
+	size_t NumFiles = 0;
+	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Data))
+	{
+		if (Entry.is_regular_file())
+		{
+			std::ifstream Stream(Entry.path(), std::ios::binary);
+			EXPECT_THAT(std::string(std::istreambuf_iterator<char>(Stream), {}), Not(HasSubstr(Device[1].str()))) << Entry.path();
+			EXPECT_EQ(Entry.status().permissions() & (std::filesystem::perms::group_all | std::filesystem::perms::others_all), std::filesystem::perms::none)
+				<< Entry.path();
+			++NumFiles;
+		}
+	}
+	EXPECT_GT(NumFiles, 0u);
+}
+
+TEST(AccountCommand, TheLocalServiceNeedsNoLogin)
+{
+	const FProgramResult Whoami = RunVexel({"whoami"});
+	EXPECT_EQ(Whoami.Status, 0) << Whoami.Errors;
+	EXPECT_THAT(Whoami.Output, HasSubstr("Local User"));
+	for (const char* const Command : {"login", "logout"})
+	{
+		ExpectOneClearLine(RunVexel({Command}), 2, "at which service?");
+		ExpectOneClearLine(RunVexel({Command, "--service", "http://assistant.example"}), 2, "must be one of https");
+	}
+}
