@@ -21,6 +21,7 @@
 #include "UObject/Package.h"
 
 #include <gmock/gmock.h>
+#include <limits>
 
 namespace
 {
@@ -189,6 +190,9 @@ TEST_F(Screenshot, ALevelShowsItsActorsWhereTheyStand)
 	World->SpawnActor<AActor>(Door->GeneratedClass.Get(), FTransform(FVector(500, 800, 0)));
 	const FPicture Two = Take(Input);
 	EXPECT_GT(One.Count(DoorColor), 80);
+	const double NotANumber = std::numeric_limits<double>::quiet_NaN();
+	World->SpawnActor<AActor>(Door->GeneratedClass.Get(), FTransform(FVector(NotANumber, 0, 0)));
+	EXPECT_EQ(Take(Input).Count(DoorColor), Two.Count(DoorColor)) << "an actor that stands nowhere spoils nothing";
 	EXPECT_GT(Two.Count(DoorColor), One.Count(DoorColor) * 3 / 2);
 	// The second stands further north, which is up, and further east, which is right.
 	int64 LeftBottom = 0;

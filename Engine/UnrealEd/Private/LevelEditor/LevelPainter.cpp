@@ -76,6 +76,12 @@ FVector2D ToPlane(const FVector& Point)
 	return FVector2D(FMath::Clamp(Point.Y, -MaxPlace, MaxPlace), FMath::Clamp(-Point.X, -MaxPlace, MaxPlace));
 }
 
+/** A file may put an actor where there is no place. */
+bool IsDrawn(const AActor& Actor)
+{
+	return Actor.GetRootComponent() && !Actor.IsA<AInfo>() && Actor.IsListedInSceneOutliner() && !Actor.GetActorLocation().ContainsNaN();
+}
+
 /** A property of a component's class, which may be known by its declaration alone; null when it has none of that name and type. */
 template <typename PropertyType>
 const PropertyType* FindProperty(const UObject& Object, const TCHAR* Name)
@@ -163,7 +169,7 @@ FLevelPainter::FLevelPainter(const UWorld& InWorld)
 	{
 		for (const AActor* const Actor : Level->Actors)
 		{
-			if (Actor && Actor->GetRootComponent() && !Actor->IsA<AInfo>() && Actor->IsListedInSceneOutliner())
+			if (Actor && IsDrawn(*Actor))
 			{
 				Places.Add(MakePlace(*Actor));
 			}
@@ -219,6 +225,10 @@ void FLevelPainter::AddExtent(const AActor& Actor, FPlace& Place)
 			continue;
 		}
 		const FTransform& Transform = Scene->GetComponentTransform();
+		if (Transform.ContainsNaN())
+		{
+			continue;
+		}
 		const double Radius = ReadRadius(*Scene) * FMath::Max(Transform.GetScale3D().X, Transform.GetScale3D().Y);
 		if (Radius > Place.Radius && Radius < MaxExtent)
 		{

@@ -39,33 +39,32 @@ bool IsPlainName(const FString& Name)
 	return true;
 }
 
-bool IsReadable(const TArray<FString>& Names)
+/** "Plugins/Weather/Rain/Source/Rain/Drop.h", "Plugins/Weather/Rain/Rain.uplugin" */
+bool IsReadableInPlugin(const TArray<FString>& Names)
 {
-	if (IsOneOf(Names[0], ReadableFolders))
+	const int32 NumFolders = Names.Num() - 1;
+	for (int32 Index = 1; Index < NumFolders; ++Index)
 	{
-		return Names.Num() > 1;
-	}
-	if (Names.Num() == 1)
-	{
-		return Names[0].EndsWith(TEXT(".uproject"), ESearchCase::CaseSensitive);
-	}
-	if (!Names[0].Equals(TEXT("Plugins"), ESearchCase::CaseSensitive))
-	{
-		return false;
-	}
-	for (int32 Index = 1; Index < Names.Num() - 1 && !IsOneOf(Names[Index], ClosedFolders); ++Index)
-	{
+		if (IsOneOf(Names[Index], ClosedFolders))
+		{
+			return false;
+		}
 		// "Plugins/Source" is a plug-in of that name.
 		if (Index > 1 && IsOneOf(Names[Index], ReadableFolders))
 		{
 			return true;
 		}
-		if (Index == Names.Num() - 2)
-		{
-			return Names.Last().EndsWith(TEXT(".uplugin"), ESearchCase::CaseSensitive);
-		}
 	}
-	return false;
+	return NumFolders > 1 && Names.Last().EndsWith(TEXT(".uplugin"), ESearchCase::CaseSensitive);
+}
+
+bool IsReadable(const TArray<FString>& Names)
+{
+	if (Names.Num() == 1)
+	{
+		return Names[0].EndsWith(TEXT(".uproject"), ESearchCase::CaseSensitive);
+	}
+	return IsOneOf(Names[0], ReadableFolders) || (Names[0].Equals(TEXT("Plugins"), ESearchCase::CaseSensitive) && IsReadableInPlugin(Names));
 }
 
 bool IsLink(const FString& Path)
