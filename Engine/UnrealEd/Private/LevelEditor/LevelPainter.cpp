@@ -276,7 +276,7 @@ void FLevelPainter::DrawGrid(FHeadlessCanvas& Canvas, double Step) const
 	{
 		const double Pixel = ToPixels(FVector2D(0.0, Y)).Y;
 		Canvas.DrawLine(FVector2D(0.0, Pixel), FVector2D(Right, Pixel), FMath::Abs(Y) < Step / 2.0 ? GridMainColor : GridColor, 1.0);
-		Canvas.DrawText(FString::Printf(TEXT("X %.0f"), 0.0 - Y), FVector2D(3.0, Pixel + 2.0), Style);
+		Canvas.DrawText(FString::Printf(TEXT("X %.0f"), FMath::IsNearlyZero(Y) ? 0.0 : -Y), FVector2D(3.0, Pixel + 2.0), Style);
 	}
 }
 
