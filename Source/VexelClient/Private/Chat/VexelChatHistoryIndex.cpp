@@ -113,14 +113,17 @@ bool FVexelChatHistoryIndex::ReadFile(const FString& ChatId, const FVexelChatFil
 
 void FVexelChatHistoryIndex::LoadCache()
 {
-	const FString Path = Files.GetIndexPath();
-	FString Text;
-	if (bCacheLoaded || !FFileHelper::LoadFileToString(Text, *Path, FFileHelper::EHashOptions::None, FILEREAD_Silent))
+	if (bCacheLoaded)
 	{
-		bCacheLoaded = true;
 		return;
 	}
 	bCacheLoaded = true;
+	const FString Path = Files.GetIndexPath();
+	FString Text;
+	if (!FFileHelper::LoadFileToString(Text, *Path, FFileHelper::EHashOptions::None, FILEREAD_Silent))
+	{
+		return;
+	}
 	TSharedPtr<FJsonObject> Object;
 	int32 Version = 0;
 	const TArray<TSharedPtr<FJsonValue>>* Entries = nullptr;

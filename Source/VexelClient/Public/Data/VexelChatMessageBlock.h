@@ -4,6 +4,8 @@
 #include "Data/VexelChatMessageBlockType.h"
 #include "VexelJson.h"
 
+class FVexelStoredFields;
+
 /** Gives an image's bytes by its asset id; none where it is not at hand. */
 using FVexelChatImageSource = TFunctionRef<TArray<uint8>(const FString& AssetId)>;
 
@@ -60,7 +62,7 @@ public:
 private:
 	FString GetInfoString(const TCHAR* Field) const;
 	void WriteTool(FJsonObject& Object) const;
-	bool ReadTool(class FVexelStoredFields& Fields);
+	bool ReadTool(FVexelStoredFields& Fields);
 
 	EVexelChatMessageBlockType Type = EVexelChatMessageBlockType::Text;
 	FString Text;

@@ -80,7 +80,7 @@ public:
 	/** Paths of stored conversations that were damaged and set aside. */
 	TArray<FString> GetSetAsideFiles() const;
 
-	/** The changes below are stored at once. They fail for an unknown conversation and for one whose request still runs. */
+	// These three are stored at once. They fail for an unknown conversation and for one whose request still runs.
 
 	/** Cuts a conversation back to the checkpoint of an id; what came after it goes. */
 	TVexelExpected<void> RevertToCheckpoint(const FString& ChatId, const FString& CheckpointId);
