@@ -25,7 +25,10 @@ std::vector<nlohmann::json> ReadHistory(const std::filesystem::path& Project)
 	{
 		for (const auto& Entry : std::filesystem::directory_iterator(Directory))
 		{
-			Conversations.push_back(nlohmann::json::parse(ReadFile(Entry.path()), nullptr, false));
+			if (Entry.path().extension() == ".json")
+			{
+				Conversations.push_back(nlohmann::json::parse(ReadFile(Entry.path()), nullptr, false));
+			}
 		}
 	}
 	return Conversations;

@@ -83,8 +83,11 @@ protected:
 		std::vector<nlohmann::json> Conversations;
 		for (const auto& Entry : std::filesystem::directory_iterator(Project.GetPath() / "Saved/ChatHistories"))
 		{
-			std::ifstream Stream(Entry.path());
-			Conversations.push_back(nlohmann::json::parse(Stream, nullptr, false));
+			if (Entry.path().extension() == ".json")
+			{
+				std::ifstream Stream(Entry.path());
+				Conversations.push_back(nlohmann::json::parse(Stream, nullptr, false));
+			}
 		}
 		return Conversations;
 	}
