@@ -176,6 +176,7 @@ private:
 	void KillWritersOnce()
 	{
 		std::vector<FWriter> Writers;
+		Writers.reserve(NumWriters);
 		for (int32 Writer = 0; Writer < NumWriters; ++Writer)
 		{
 			Writers.push_back(StartWriter(Program, Directory, Writer, uint32(Random())));

@@ -503,22 +503,23 @@ void UVexelChatSubsystem::HandleToolCall(const TSharedRef<FVexelChatRequest>& Re
 	}
 
 	const FString ChatId = Request->GetChatId();
-	FVexelToolCall Call;
-	Call.ToolName = Block.Tool_GetToolName();
-	Call.Arguments = Block.GetInfo();
-	Call.Context = {Request->GetChatIdForToolReply(), Block.Tool_GetToolReplyId(), Request->GetConversation()};
-	Call.IsWanted = [Request]
-	{ return Request->IsWanted(); };
-	Call.OnStarted = [this, ChatId, ReplyId = Call.Context.ReplyId](const FString& ProgressText)
-	{ Events.OnToolStarted.Broadcast(ChatId, ReplyId, ProgressText); };
-	Call.OnFinished = [WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, ReplyId = Call.Context.ReplyId](
-						  const FString& DoneText, const FVexelError* Error)
-	{
-		if (UVexelChatSubsystem* const This = WeakThis.Get())
+	const FString ReplyId = Block.Tool_GetToolReplyId();
+	const FVexelToolCall Call{
+		.ToolName = Block.Tool_GetToolName(),
+		.Arguments = Block.GetInfo(),
+		.Context = {Request->GetChatIdForToolReply(), ReplyId, Request->GetConversation()},
+		.IsWanted = [Request]
+		{ return Request->IsWanted(); },
+		.OnStarted = [this, ChatId, ReplyId](const FString& ProgressText)
+		{ Events.OnToolStarted.Broadcast(ChatId, ReplyId, ProgressText); },
+		.OnFinished =
+			[WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, ReplyId](const FString& DoneText, const FVexelError* Error)
 		{
-			This->Events.OnToolFinished.Broadcast(ChatId, ReplyId, DoneText, Error);
-		}
-	};
+			if (UVexelChatSubsystem* const This = WeakThis.Get())
+			{
+				This->Events.OnToolFinished.Broadcast(ChatId, ReplyId, DoneText, Error);
+			}
+		}};
 	Call.Run(FVexelClient::Get().GetApiClient().ToSharedRef());
 }
 
