@@ -13,10 +13,12 @@ constexpr FOptionRow ProjectOption = {
 	TEXT("--project"), TEXT("DIR"), TEXT("the project's directory or .uproject; the sample project without it")};
 constexpr FOptionRow JsonOption = {TEXT("--json"), nullptr, TEXT("one JSON document on standard output")};
 constexpr FOptionRow VerboseOption = {TEXT("--verbose"), nullptr, TEXT("the log on standard error")};
-constexpr FOptionRow BlueprintOption = {TEXT("--blueprint"), TEXT("PATH"), TEXT("object path, such as /Game/BP_Door")};
+constexpr FOptionRow BlueprintOption = {TEXT("--blueprint"), TEXT("PATH"), TEXT("object path, such as /Game/BP_Door, or the name of a Blueprint")};
 constexpr FOptionRow GraphOption = {TEXT("--graph"), TEXT("NAME"), TEXT("the graph; the event graph without it")};
 constexpr FOptionRow SaveOption = {TEXT("--save"), nullptr, TEXT("saves what was changed")};
 
+constexpr FOptionRow ChatJsonOption = {
+	TEXT("--json"), nullptr, TEXT("one JSON document with --message; without it one event a line (Docs/Chat.md)")};
 constexpr FOptionRow ChatOptions[] = {
 	ProjectOption,
 	{TEXT("--message"), TEXT("TEXT"), TEXT("one message instead of an interactive chat")},
@@ -24,7 +26,7 @@ constexpr FOptionRow ChatOptions[] = {
 	{TEXT("--service"), TEXT("URL"), TEXT("the service; a local one is started without it")},
 	{TEXT("--token-fd"), TEXT("N"),
 		TEXT("an open file descriptor to read the service's refresh token from, once; it is kept in the secure store")},
-	JsonOption,
+	ChatJsonOption,
 	VerboseOption,
 };
 constexpr FOptionRow ServiceOption = {TEXT("--service"), TEXT("URL"), TEXT("the service")};
@@ -58,7 +60,8 @@ const FCommandRow Commands[] = {
 	{TEXT("whoami"), TEXT("[--service URL]"), TEXT("who is logged in"), AccountOptions, 0, RunWhoamiCommand},
 	{TEXT("tool"), TEXT("NAME --input JSON|FILE|-"), TEXT("calls one tool as the assistant would"), ToolOptions, 1, RunToolCommand},
 	{TEXT("tools"), TEXT(""), TEXT("the tool table"), ToolsOptions, 0, RunToolsCommand},
-	{TEXT("graph"), TEXT("export|import --blueprint PATH [FILE|-]"), TEXT("node text out of a graph, or into one"), GraphOptions, 2,
+	{TEXT("graph"), TEXT("show|export|import --blueprint PATH [FILE|-]"),
+		TEXT("a graph as a picture in text; its node text out of it, or into it"), GraphOptions, 2,
 		RunGraphCommand},
 	{TEXT("inspect"), TEXT("FILE.uasset"), TEXT("the tables of a package file as JSON"), InspectOptions, 1, RunInspectCommand},
 	{TEXT("service"), TEXT("[--port N] [--data DIR]"), TEXT("runs the local service"), ServiceOptions, 0, RunServiceCommand},
@@ -93,11 +96,11 @@ TOptional<FString> ReadFileOrInput(const FString& Path)
 	return Text;
 }
 
-void WriteJson(const TSharedRef<FJsonObject>& Object)
+namespace
 {
-	FString Text;
-	FVexelJsonConversions::JsonToPrettyString(Object, Text);
-	// JSON escapes the first range of control characters by itself. The others stand inside strings alone, where an escape says the same.
+/** JSON escapes the first range of control characters by itself. The others stand inside strings alone, where an escape says the same. */
+FString EscapeControls(const FString& Text)
+{
 	FString Escaped;
 	Escaped.Reserve(Text.Len() + 1);
 	for (const TCHAR Character : Text)
@@ -111,5 +114,20 @@ void WriteJson(const TSharedRef<FJsonObject>& Object)
 			Escaped.AppendChar(Character);
 		}
 	}
-	FConsole::WriteData(Escaped + TEXT("\n"));
+	return Escaped;
+}
+}
+
+void WriteJson(const TSharedRef<FJsonObject>& Object)
+{
+	FString Text;
+	FVexelJsonConversions::JsonToPrettyString(Object, Text);
+	FConsole::WriteData(EscapeControls(Text) + TEXT("\n"));
+}
+
+void WriteJsonLine(const TSharedRef<FJsonObject>& Object)
+{
+	FString Text;
+	FVexelJsonConversions::JsonToString(Object, Text);
+	FConsole::WriteData(EscapeControls(Text) + TEXT("\n"));
 }

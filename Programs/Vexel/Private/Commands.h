@@ -33,3 +33,9 @@ TOptional<FString> ReadFileOrInput(const FString& Path);
 
 /** Writes a JSON object to standard output over several lines. */
 void WriteJson(const TSharedRef<class FJsonObject>& Object);
+
+/** Writes a JSON object to standard output on one line. */
+void WriteJsonLine(const TSharedRef<FJsonObject>& Object);
+
+/** A picture of a graph, as DrawGraph made it, for another program. */
+TSharedRef<FJsonObject> MakeGraphDocument(const class UBlueprint& Blueprint, const class UEdGraph& Graph, const TArray<class FStyledLine>& Lines);

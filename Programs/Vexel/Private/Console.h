@@ -11,23 +11,29 @@ inline constexpr int32 WrongUsage = 2;
 }
 
 /**
- * Writes to the user. Whatever a text holds, it cannot send a command to the terminal: the only escape codes that go out are this
- * class's own, and those only where standard output is a terminal.
+ * Writes to the user. Whatever a text holds, it cannot send a command to the terminal: the only codes that go out are those of
+ * WriteTerminalCodes, and those only where standard output is a terminal.
  */
 class FConsole
 {
 public:
 	static void Write(FStringView Text);
 	static void WriteLine(FStringView Text);
-	/** Made faint, on a terminal. */
-	static void WriteDim(FStringView Text);
-	/** Takes the line back that stands on the terminal; nothing elsewhere. */
-	static void EraseLine();
+	/** Lines in their styles; as plain text where there are no styles. */
+	static void WriteLines(const TArray<class FStyledLine>& Lines);
+	/** Codes for the terminal, written as they are. Texts in them must have been through a styled line; nothing goes to anything but a terminal. */
+	static void WriteTerminalCodes(FStringView Codes);
 	/** A document for another program: to the letter, but on a terminal as Write(). */
 	static void WriteData(FStringView Text);
 	/** "vexel: TEXT" on standard error, on one line. */
 	static void WriteError(FStringView Text);
 
-	/** Whether standard output is a terminal. */
+	/** Whether standard output is a terminal that knows codes. */
 	static bool IsTerminal();
+	/** Whether texts have colours and weights there: not with NO_COLOR in the environment. */
+	static bool UsesStyles();
+	/** Columns and rows of the terminal; of a usual one where it does not say. */
+	static FIntPoint GetSize();
+	/** Whether the terminal's size has changed since the last call. The first call begins to watch. */
+	static bool TakeResize();
 };

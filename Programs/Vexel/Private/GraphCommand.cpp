@@ -1,3 +1,4 @@
+#include "BlueprintLookup.h"
 #include "Commands.h"
 #include "Console.h"
 #include "Dom/JsonObject.h"
@@ -9,6 +10,7 @@
 #include "Engine/Blueprint.h"
 #include "Engine/BlueprintGeneratedClass.h"
 #include "GameFramework/Actor.h"
+#include "GraphPicture.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/KismetEditorUtilities.h"
 #include "Misc/PackageName.h"
@@ -32,59 +34,24 @@ UBlueprint* CreateBlueprint(const FString& PackagePath)
 		UBlueprintGeneratedClass::StaticClass());
 }
 
-UEdGraph* FindGraph(UBlueprint& Blueprint, const FString& Name)
-{
-	if (Name.IsEmpty())
-	{
-		return FBlueprintEditorUtils::FindEventGraph(&Blueprint);
-	}
-	TArray<UEdGraph*> Graphs;
-	Blueprint.GetAllGraphs(Graphs);
-	for (UEdGraph* const Graph : Graphs)
-	{
-		if (Graph->GetFName() == FName(*Name))
-		{
-			return Graph;
-		}
-	}
-	return nullptr;
-}
-
-FString JoinGraphNames(const UBlueprint& Blueprint)
-{
-	TArray<UEdGraph*> Graphs;
-	Blueprint.GetAllGraphs(Graphs);
-	return FString::JoinBy(Graphs, TEXT(", "), [](const UEdGraph* Graph)
-		{ return Graph->GetName(); });
-}
-
 /** Opens the Blueprint and the graph that the options name. Answers the exit status of a failure, which it has told the user. */
 TOptional<int32> OpenGraph(const FArguments& Arguments, bool bCreate, UBlueprint*& OutBlueprint, UEdGraph*& OutGraph)
 {
 	const FString Path = Arguments.Get(TEXT("--blueprint"));
-	if (!FPackageName::IsValidLongPackageName(GetPackagePath(Path)))
+	const FString Package = GetPackagePath(Path);
+	FString Reason;
+	if (bCreate && FPackageName::IsValidLongPackageName(Package) && !UEditorAssetLibrary::DoesAssetExist(Package))
 	{
-		FConsole::WriteError(FString::Printf(TEXT("'%s' is not an asset path such as /Game/BP_Door"), *Path));
-		return ExitStatus::Failed;
+		OutBlueprint = CreateBlueprint(Package);
 	}
-	const bool bExists = UEditorAssetLibrary::DoesAssetExist(Path);
-	UObject* const Asset = bExists ? UEditorAssetLibrary::LoadAsset(Path) : nullptr;
-	OutBlueprint = Cast<UBlueprint>(Asset);
-	if (!bExists && bCreate)
+	else
 	{
-		OutBlueprint = CreateBlueprint(GetPackagePath(Path));
+		OutBlueprint = BlueprintLookup::Load(Path, Reason);
 	}
-	if (!OutBlueprint)
-	{
-		FConsole::WriteError(bExists ? FString::Printf(TEXT("'%s' is not a Blueprint that can be loaded"), *Path)
-									 : FString::Printf(TEXT("there is no Blueprint '%s'"), *Path));
-		return ExitStatus::Failed;
-	}
-	OutGraph = FindGraph(*OutBlueprint, Arguments.Get(TEXT("--graph")));
+	OutGraph = OutBlueprint ? BlueprintLookup::FindGraph(*OutBlueprint, Arguments.Get(TEXT("--graph")), Reason) : nullptr;
 	if (!OutGraph)
 	{
-		FConsole::WriteError(FString::Printf(TEXT("'%s' has no graph '%s'; it has: %s"), *OutBlueprint->GetName(),
-			*Arguments.Get(TEXT("--graph")), *JoinGraphNames(*OutBlueprint)));
+		FConsole::WriteError(Reason);
 		return ExitStatus::Failed;
 	}
 	return NullOpt;
@@ -115,6 +82,25 @@ int32 ExportGraph(const FArguments& Arguments)
 	Document->SetStringField(TEXT("graph"), Graph->GetName());
 	Document->SetStringField(TEXT("text"), Text);
 	WriteJson(Document);
+	return ExitStatus::Done;
+}
+
+int32 ShowGraph(const FArguments& Arguments)
+{
+	UBlueprint* Blueprint = nullptr;
+	UEdGraph* Graph = nullptr;
+	if (const TOptional<int32> Status = OpenGraph(Arguments, false, Blueprint, Graph))
+	{
+		return *Status;
+	}
+	// One column is left free, as a terminal breaks a line that fills it.
+	const TArray<FStyledLine> Lines = DrawGraph(*Graph, FConsole::GetSize().X - 1);
+	if (Arguments.Has(TEXT("--json")))
+	{
+		WriteJson(MakeGraphDocument(*Blueprint, *Graph, Lines));
+		return ExitStatus::Done;
+	}
+	FConsole::WriteLines(Lines);
 	return ExitStatus::Done;
 }
 
@@ -201,14 +187,37 @@ int32 ImportGraph(const FArguments& Arguments)
 	}
 	return ExitStatus::Done;
 }
+
+struct FGraphAction
+{
+	const TCHAR* Name;
+	int32 (*Run)(const FArguments& Arguments);
+};
+
+const FGraphAction* FindAction(const FString& Name)
+{
+	static constexpr FGraphAction Actions[] = {
+		{TEXT("show"), ShowGraph},
+		{TEXT("export"), ExportGraph},
+		{TEXT("import"), ImportGraph},
+	};
+	for (const FGraphAction& Action : Actions)
+	{
+		if (Name == Action.Name)
+		{
+			return &Action;
+		}
+	}
+	return nullptr;
+}
 }
 
 int32 RunGraphCommand(const FArguments& Arguments)
 {
-	const FString Action = Arguments.GetPositional().IsEmpty() ? FString() : Arguments.GetPositional()[0];
-	if ((Action != TEXT("export") && Action != TEXT("import")) || !Arguments.Has(TEXT("--blueprint")))
+	const FGraphAction* const Action = Arguments.GetPositional().IsEmpty() ? nullptr : FindAction(Arguments.GetPositional()[0]);
+	if (!Action || !Arguments.Has(TEXT("--blueprint")))
 	{
-		FConsole::WriteError(TEXT("graph: say 'export' or 'import', and --blueprint PATH"));
+		FConsole::WriteError(TEXT("graph: say 'show', 'export' or 'import', and --blueprint PATH"));
 		return ExitStatus::WrongUsage;
 	}
 	FSession Session;
@@ -217,5 +226,16 @@ int32 RunGraphCommand(const FArguments& Arguments)
 		FConsole::WriteError(*Failure);
 		return ExitStatus::Failed;
 	}
-	return Action == TEXT("export") ? ExportGraph(Arguments) : ImportGraph(Arguments);
+	return Action->Run(Arguments);
+}
+
+TSharedRef<FJsonObject> MakeGraphDocument(const UBlueprint& Blueprint, const UEdGraph& Graph, const TArray<FStyledLine>& Lines)
+{
+	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
+	Document->SetStringField(TEXT("blueprint"), Blueprint.GetPathName());
+	Document->SetStringField(TEXT("graph"), Graph.GetName());
+	Document->SetNumberField(TEXT("nodes"), Graph.Nodes.Num());
+	Document->SetStringField(TEXT("text"), FString::JoinBy(Lines, TEXT("\n"), [](const FStyledLine& Line)
+		{ return Line.ToPlainText().TrimEnd(); }));
+	return Document;
 }

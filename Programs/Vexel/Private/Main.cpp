@@ -4,8 +4,8 @@
 #include "Logging/LogMacros.h"
 #include "Misc/CommandLine.h"
 #include "Misc/OutputDeviceRedirector.h"
+#include "StyledText.h"
 
-#include <clocale>
 #include <csignal>
 
 namespace
@@ -53,7 +53,7 @@ int32 FailUsage(const FString& Reason)
 
 int main(int NumWords, char** RawWords)
 {
-	setlocale(LC_CTYPE, "");
+	UseUtf8Locale();
 	// A pipe that closes is an ordinary end of output, and a connection that closes is an error value.
 	signal(SIGPIPE, SIG_IGN);
 	// So is a file that may grow no further: the write fails and says so.

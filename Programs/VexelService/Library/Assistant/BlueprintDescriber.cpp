@@ -303,7 +303,7 @@ std::string FBlueprintDescriber::Overview() const
 {
 	FSections Sections;
 	FWalkers Walkers(Model);
-	Sections.Add(Introduction());
+	Sections.Add(Summary());
 	const std::vector<FBlueprintEntry> AllEvents = FindEvents(Model);
 	for (const FBlueprintEntry& Event : AllEvents)
 	{
@@ -498,7 +498,7 @@ std::string FBlueprintDescriber::Function(std::string_view Name) const
 	return Bold(Model.Name) + " has no function, macro or event called \"" + Shortened(std::string(Name), 100) + "\".\n\n" + Functions();
 }
 
-std::string FBlueprintDescriber::Introduction() const
+std::string FBlueprintDescriber::Summary() const
 {
 	const std::string Kind = LowerCase(Model.Kind);
 	const auto Row = std::find_if(std::begin(KindPhrases), std::end(KindPhrases), [&Kind](const FKindPhrase& Candidate)

@@ -1,6 +1,7 @@
 #include "Assistant/VariableUse.h"
 
 #include "Assistant/GraphWalker.h"
+#include "Assistant/NameMatch.h"
 #include "Assistant/Words.h"
 
 #include <set>
@@ -14,12 +15,12 @@ namespace
 bool TouchesVariable(const FBlueprintNode& Node, std::string_view Variable, const char* Verb)
 {
 	const bool bVerb = IsNodeType(Node, std::string("var.") + Verb) || IsNodeType(Node, std::string("var.local.") + Verb);
-	return bVerb && EqualIgnoringCase(LastSegment(Node.Type, '.'), Variable);
+	return bVerb && SameName(LastSegment(Node.Type, '.'), Variable);
 }
 
 bool CallsFunction(const FBlueprintNode& Node, std::string_view Function)
 {
-	return IsNodeType(Node, "call") && EqualIgnoringCase(LastSegment(Node.Type, '.'), Function);
+	return IsNodeType(Node, "call") && SameName(LastSegment(Node.Type, '.'), Function);
 }
 
 bool RunsByItself(const FBlueprintNode& Node)

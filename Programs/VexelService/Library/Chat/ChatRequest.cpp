@@ -135,6 +135,21 @@ bool ReadBlocks(const FJson& Blocks, std::string& Text)
 	return true;
 }
 
+// The calls of "read_blueprint" among a stored message's blocks. What is not as stored says nothing.
+void ReadToolCalls(const FJson& Blocks, std::vector<std::string>& Paths)
+{
+	for (const FJson& Block : Blocks)
+	{
+		const FJson* const Tool = TextMember(Block, "type") == "tool_call" ? FindMember(Block, "tool_info") : nullptr;
+		const FJson* const Info = Tool && TextMember(*Tool, "tool_name") == "read_blueprint" ? FindMember(*Tool, "info") : nullptr;
+		const std::string Path = Info ? TextMember(*Info, "blueprint") : std::string();
+		if (!Path.empty() && Path.size() <= MaxTitleBytes && std::find(Paths.begin(), Paths.end(), Path) == Paths.end())
+		{
+			Paths.push_back(Path);
+		}
+	}
+}
+
 TOrRefusal<FChatMessage> ReadMessage(const FJson& Object, std::size_t Index)
 {
 	const std::string Where = "\"messages\"[" + std::to_string(Index) + "]";
@@ -151,6 +166,7 @@ TOrRefusal<FChatMessage> ReadMessage(const FJson& Object, std::size_t Index)
 	{
 		return Invalid(Where + " must have a valid \"content\" or \"message_blocks\".");
 	}
+	ReadToolCalls(ArrayMember(Object, "message_blocks"), Message.ReadBlueprints);
 	return Message;
 }
 

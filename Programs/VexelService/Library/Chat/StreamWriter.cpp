@@ -93,17 +93,22 @@ bool FStreamWriter::ToolCall(std::string_view ToolName, std::string_view ReplyId
 	{
 		Info[Key] = Value;
 	}
-	return Tag("ToolCall", Info);
+	return InfoTag("ToolCall", Info);
+}
+
+bool FStreamWriter::Image(std::string_view AssetId, std::string_view Url)
+{
+	return Tag("Image", "asset_id=" + JsonLine(FJson(AssetId)) + " url=" + JsonLine(FJson(Url)));
 }
 
 bool FStreamWriter::Checkpoint(std::string_view CheckpointId)
 {
-	return Tag("Checkpoint", {{"checkpoint_id", CheckpointId}});
+	return InfoTag("Checkpoint", {{"checkpoint_id", CheckpointId}});
 }
 
 bool FStreamWriter::Error(std::string_view Message)
 {
-	return Tag("Error", {{"message", Message}});
+	return InfoTag("Error", {{"message", Message}});
 }
 
 bool FStreamWriter::SendBytes(std::string_view Bytes)
@@ -112,14 +117,19 @@ bool FStreamWriter::SendBytes(std::string_view Bytes)
 	return !bFailed;
 }
 
-bool FStreamWriter::Tag(std::string_view Name, const FOrderedJson& Info)
+bool FStreamWriter::Tag(std::string_view Name, std::string_view Attributes)
 {
 	std::string Bytes = "<";
 	Bytes += Name;
-	Bytes += " info=";
-	Bytes += JsonLine(Info);
+	Bytes += " ";
+	Bytes += Attributes;
 	Bytes += "/>";
 	return SendBytes(Bytes);
+}
+
+bool FStreamWriter::InfoTag(std::string_view Name, const FOrderedJson& Info)
+{
+	return Tag(Name, "info=" + JsonLine(Info));
 }
 
 }

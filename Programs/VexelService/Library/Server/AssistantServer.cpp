@@ -6,6 +6,7 @@
 #include "Chat/StreamWriter.h"
 #include "Server/ConnectionThreads.h"
 #include "Server/HttpAnswers.h"
+#include "Server/ImageStore.h"
 #include "Server/LoginRoutes.h"
 #include "Server/ReportStore.h"
 #include "Server/TurnChannel.h"
@@ -35,6 +36,8 @@ constexpr const char* LoopbackAddress = "127.0.0.1";
 // would reach the user in one burst at its end.
 constexpr const char* StreamType = "Text/plain; charset=utf-8";
 constexpr std::size_t MaxBodyBytes = 16u << 20;
+/** Where images are fetched, their id behind it: outside the paths that need a login, as the id itself is the secret. */
+constexpr const char* ImagePath = "/images/";
 constexpr int MaxConnections = 512;
 constexpr std::size_t MaxTurns = 256;
 constexpr std::size_t MaxErrorMessageBytes = 64u << 10;
@@ -214,6 +217,8 @@ private:
 		// As the status page of a service that is up: nobody needs a login for it.
 		Http.Get("/api/v2/status.json", [](const httplib::Request&, httplib::Response& Response)
 			{ SendJson(Response, 200, {{"status", {{"indicator", "none"}, {"description", "The local service is running"}}}}); });
+		Http.Get(std::string(ImagePath) + "([A-Za-z0-9_-]+)", [this](const httplib::Request& Request, httplib::Response& Response)
+			{ AnswerImage(Request, Response); });
 		Http.Post("/api/chat", ForUser([this](const httplib::Request& Request, httplib::Response& Response, const std::string& UserId)
 								   { AnswerChat(Request, Response, UserId); }));
 		for (const bool bError : {false, true})
@@ -340,8 +345,11 @@ private:
 		FStreamWriter Writer([&Sink](std::string_view Bytes)
 			{ return Sink.write(Bytes.data(), Bytes.size()); },
 			Config.PieceDelay);
-		FTurnChannel Channel(Turn, Writer, Config.ToolTimeout, [&Sink]
-			{ return Sink.is_writable(); });
+		FTurnChannel Channel(
+			Turn, Writer, Config.ToolTimeout, [&Sink]
+			{ return Sink.is_writable(); },
+			[this](std::string_view Base64)
+			{ return KeepImage(Base64); });
 		AnswerTurn(Request, Channel);
 		Channel.Finish();
 		// The client sees an ended turn as a broken stream, not as a complete answer.
@@ -351,6 +359,24 @@ private:
 		}
 		Sink.done();
 		return true;
+	}
+
+	std::optional<FKeptImage> KeepImage(std::string_view Base64)
+	{
+		const std::optional<std::string> Id = Images.Add(Base64);
+		return Id ? std::optional<FKeptImage>({*Id, std::string("http://") + LoopbackAddress + ":" + std::to_string(Port) + ImagePath + *Id})
+				  : std::nullopt;
+	}
+
+	void AnswerImage(const httplib::Request& Request, httplib::Response& Response)
+	{
+		const std::optional<std::string> Bytes = Images.Find(Request.matches[1].str());
+		if (!Bytes)
+		{
+			SendRefusal(Response, {404, "This image is not kept any more, or never was."});
+			return;
+		}
+		Response.set_content(*Bytes, "image/png");
 	}
 
 	void AnswerToolResult(const httplib::Request& Request, httplib::Response& Response, const std::string& UserId, bool bIsError)
@@ -374,6 +400,7 @@ private:
 	FLoginRoutes Login;
 	FChatTurns Turns;
 	FReportStore Reports;
+	FImageStore Images;
 	httplib::Server Http;
 	socket_t ListeningSocket = INVALID_SOCKET;
 	std::thread Listener;

@@ -22,17 +22,30 @@ std::string InSeconds(std::chrono::milliseconds Time)
 }
 
 FTurnChannel::FTurnChannel(
-	FChatTurn& InTurn, FStreamWriter& InWriter, std::chrono::milliseconds InToolTimeout, std::function<bool()> InIsListening)
+	FChatTurn& InTurn, FStreamWriter& InWriter, std::chrono::milliseconds InToolTimeout, std::function<bool()> InIsListening,
+	FKeepImage InKeepImage)
 	: Turn(InTurn)
 	, Writer(InWriter)
 	, ToolTimeout(InToolTimeout)
 	, IsListening(std::move(InIsListening))
+	, KeepImage(std::move(InKeepImage))
 {
 }
 
 bool FTurnChannel::Say(std::string_view Text)
 {
 	bBroken = bBroken || Turn.HasEnded() || !Writer.Text(Text);
+	return !bBroken;
+}
+
+bool FTurnChannel::ShowImage(std::string_view Base64)
+{
+	const std::optional<FKeptImage> Image = KeepImage(Base64);
+	if (!Image)
+	{
+		return false;
+	}
+	bBroken = bBroken || Turn.HasEnded() || !Writer.Image(Image->Id, Image->Url);
 	return !bBroken;
 }
 

@@ -36,6 +36,9 @@ public:
 	/** Streams Markdown text. Returns false when nobody listens any more. */
 	virtual bool Say(std::string_view Text) = 0;
 
+	/** Shows an image, a PNG in base64. Returns false when nobody listens any more, or it is no image that can be shown. */
+	virtual bool ShowImage(std::string_view Base64) = 0;
+
 	/** Asks the editor to run a tool and waits for the result. Arguments is an object. */
 	virtual FToolOutcome CallTool(std::string_view ToolName, const FJson& Arguments) = 0;
 };

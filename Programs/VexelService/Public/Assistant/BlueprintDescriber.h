@@ -15,6 +15,9 @@ public:
 	/** Model must outlive the describer. */
 	explicit FBlueprintDescriber(const FBlueprintModel& InModel);
 
+	/** What the Blueprint is and what it has, in a sentence or two. */
+	std::string Summary() const;
+
 	/** What the Blueprint is, what happens on each event, and what its functions and macros do. */
 	std::string Overview() const;
 
@@ -34,7 +37,6 @@ public:
 	std::string Function(std::string_view Name) const;
 
 private:
-	std::string Introduction() const;
 	std::string GraphSection(const FBlueprintGraph& Graph) const;
 	std::string ListOfGraphs(EGraphKind Kind, const char* Noun) const;
 	const FBlueprintGraph* FindGraph(std::string_view Name) const;

@@ -15,6 +15,8 @@ struct FChatMessage
 	std::string Role;
 	/** The text blocks in order, a line break between two; what is not text is left out. */
 	std::string Text;
+	/** Paths of the Blueprints that the assistant read in it, each once. */
+	std::vector<std::string> ReadBlueprints = {};
 };
 
 /** One turn as the plug-in asks for it. */

@@ -25,12 +25,16 @@ public:
 	bool Text(std::string_view Content);
 
 	bool ToolCall(std::string_view ToolName, std::string_view ReplyId, const FJson& Arguments);
+	/** An image that the client can fetch from Url. */
+	bool Image(std::string_view AssetId, std::string_view Url);
 	bool Checkpoint(std::string_view CheckpointId);
 	bool Error(std::string_view Message);
 
 private:
 	bool SendBytes(std::string_view Bytes);
-	bool Tag(std::string_view Name, const FOrderedJson& Info);
+	/** Attributes are keys with JSON values: "info={...}". */
+	bool Tag(std::string_view Name, std::string_view Attributes);
+	bool InfoTag(std::string_view Name, const FOrderedJson& Info);
 
 	const FSend Send;
 	const std::chrono::milliseconds PieceDelay;

@@ -1,0 +1,375 @@
+#include "Chat/ChatSession.h"
+
+#include "BlueprintLookup.h"
+#include "Chat/ConversationList.h"
+#include "Commands.h"
+#include "Console.h"
+#include "EdGraph/EdGraph.h"
+#include "Editor.h"
+#include "Editor/EditorEngine.h"
+#include "Editor/Transactor.h"
+#include "Engine/Blueprint.h"
+#include "GraphPicture.h"
+#include "HAL/PlatformMisc.h"
+#include "HeadlessEditor.h"
+#include "MarkdownLines.h"
+#include "Misc/App.h"
+#include "Misc/Paths.h"
+
+namespace
+{
+FString GetLineHistoryPath()
+{
+	FString State = FPlatformMisc::GetEnvironmentVariable(TEXT("XDG_STATE_HOME"));
+	if (State.IsEmpty())
+	{
+		State = FPlatformMisc::GetEnvironmentVariable(TEXT("HOME")) / TEXT(".local/state");
+	}
+	return State / TEXT("vexel/chat_history");
+}
+
+TArray<FString> SplitWords(const FString& Line)
+{
+	TArray<FString> Words;
+	Line.ParseIntoArrayWS(Words);
+	return Words;
+}
+
+/** A number from 1 to a limit; 0 for anything else. */
+int32 ReadNumber(const FString& Word, int32 Limit)
+{
+	const int32 Number = Word.IsNumeric() && Word.Len() < 9 ? FCString::Atoi(*Word) : 0;
+	return Number >= 1 && Number <= Limit ? Number : 0;
+}
+}
+
+FChatSession::FChatSession(UVexelChatSubsystem& InSubsystem, IChatDisplay& InDisplay, const TSharedRef<FVexelChatConversation>& InConversation)
+	: Subsystem(InSubsystem)
+	, Display(InDisplay)
+	, Turns(InSubsystem, InDisplay)
+	, Conversation(InConversation)
+{
+}
+
+TConstArrayView<FChatSession::FCommand> FChatSession::GetCommands()
+{
+	static constexpr FCommand Commands[] = {
+		{TEXT("/help"), TEXT(""), TEXT("these commands"), &FChatSession::ShowHelp},
+		{TEXT("/new"), TEXT(""), TEXT("begins a new conversation"), &FChatSession::BeginNew},
+		{TEXT("/list"), TEXT(""), TEXT("the stored conversations, the newest first"), &FChatSession::ListConversations},
+		{TEXT("/open"), TEXT("NUMBER"), TEXT("goes on with a conversation of the list"), &FChatSession::OpenConversation},
+		{TEXT("/mode"), TEXT("[MODE]"), TEXT("the chat modes, or another one for what follows"), &FChatSession::ChangeMode},
+		{TEXT("/revert"), TEXT("[NUMBER]"), TEXT("the answers so far, or back to how things stood after one of them"), &FChatSession::Revert},
+		{TEXT("/undo"), TEXT(""), TEXT("takes back the last edit of the project"), &FChatSession::Undo},
+		{TEXT("/redo"), TEXT(""), TEXT("makes the edit again that was taken back last"), &FChatSession::Redo},
+		{TEXT("/blueprint"), TEXT("PATH [GRAPH]"), TEXT("draws a graph of a Blueprint, the event graph without a name"),
+			&FChatSession::ShowBlueprint},
+		{TEXT("/quit"), TEXT(""), TEXT("ends the chat, as Ctrl-D does"), &FChatSession::Quit},
+	};
+	return Commands;
+}
+
+const FChatSession::FCommand* FChatSession::FindCommand(const FString& Name)
+{
+	return GetCommands().FindByPredicate([&](const FCommand& Row)
+		{ return Name.Equals(Row.Name, ESearchCase::IgnoreCase); });
+}
+
+int32 FChatSession::Run()
+{
+	FLineReader Reader(
+		GetLineHistoryPath(), [this](const FString& Line)
+		{ return Complete(Line); },
+		[]
+		{ FHeadlessEditor::WaitAndTick(0.0f); });
+	if (FConsole::IsTerminal())
+	{
+		FStyledLine Greeting(TEXT("Vexel"), TextStyle::Title);
+		Greeting.Add(TEXT(" in ") + FString(FApp::GetProjectName()), TextStyle::Strong);
+		Greeting.Add(TEXT("  Ask about a Blueprint. /help shows the commands, Ctrl-C stops an answer, Ctrl-D ends."), TextStyle::Faint);
+		FConsole::WriteLines(WrapText(Greeting, FConsole::GetSize().X - 1));
+		FConsole::WriteLines({FStyledLine()});
+	}
+	while (!bLeaving)
+	{
+		FString Line;
+		const EReadLine Result = Reader.ReadLine(MakePrompt(), Line);
+		if (Result == EReadLine::End)
+		{
+			break;
+		}
+		Line = Line.TrimStartAndEnd();
+		if (Result == EReadLine::Line && !Line.IsEmpty())
+		{
+			const FQuietInput Quiet;
+			RunLine(Line);
+		}
+	}
+	// In a pipe the exit status is all that a script sees.
+	return bLastSucceeded || FConsole::IsTerminal() ? ExitStatus::Done : ExitStatus::Failed;
+}
+
+void FChatSession::RunLine(const FString& Line)
+{
+	// A path of an asset begins with a slash too.
+	const TArray<FString> Words = SplitWords(Line);
+	const bool bCommand = Line.StartsWith(TEXT("/")) && !Words[0].RightChop(1).Contains(TEXT("/"));
+	if (!bCommand)
+	{
+		bLastSucceeded = !Turns.RunTurn(Conversation->GetChatId(), Line);
+		return;
+	}
+	const FCommand* const Command = FindCommand(Words[0]);
+	TOptional<FString> Failure;
+	if (Command)
+	{
+		RunningCommand = Command->Name;
+		Failure = (this->*Command->Run)(TArray<FString>(Words.GetData() + 1, Words.Num() - 1));
+	}
+	else
+	{
+		Failure = FString::Printf(TEXT("there is no command '%s'; /help shows those that there are"), *Words[0]);
+	}
+	bLastSucceeded = !Failure;
+	if (Failure)
+	{
+		Display.ShowFailure(*Failure);
+	}
+}
+
+FStyledLine FChatSession::MakePrompt() const
+{
+	return FStyledLine(TEXT("❯ "), TextStyle::Title);
+}
+
+FCompletions FChatSession::Complete(const FString& Line) const
+{
+	FCompletions Completions;
+	int32 LastBlank = INDEX_NONE;
+	Completions.WordBegin = Line.FindLastChar(TEXT(' '), LastBlank) ? LastBlank + 1 : 0;
+	const FString Word = Line.RightChop(Completions.WordBegin);
+	const auto AddAll = [&](const auto& Rows, const auto& GetText)
+	{
+		for (const auto& Row : Rows)
+		{
+			const FString Text = GetText(Row);
+			if (Text.StartsWith(Word, ESearchCase::IgnoreCase))
+			{
+				Completions.Texts.Add(Text);
+			}
+		}
+	};
+	const TArray<FString> Words = SplitWords(Line.Left(Completions.WordBegin));
+	if (Words.IsEmpty() && Word.StartsWith(TEXT("/")))
+	{
+		AddAll(GetCommands(), [](const FCommand& Row)
+			{ return FString(Row.Name); });
+		// Paths of assets begin with a slash too.
+		Completions.Texts.Append(Completions.Texts.IsEmpty() ? BlueprintLookup::Complete(Word) : TArray<FString>());
+	}
+	else if (Words.Num() == 1 && Words[0] == TEXT("/mode"))
+	{
+		AddAll(UVexelChatSubsystem::GetAllChatModes(), [](const FVexelChatModeInfo& Mode)
+			{ return Mode.ChatMode; });
+	}
+	else if (Words.Num() == 2 && Words[0] == TEXT("/blueprint"))
+	{
+		FString Reason;
+		const UBlueprint* const Blueprint = BlueprintLookup::Load(Words[1], Reason);
+		AddAll(Blueprint ? BlueprintLookup::GetGraphNames(*Blueprint) : TArray<FString>(), [](const FString& Name)
+			{ return Name; });
+	}
+	else if (!Word.IsEmpty() || (Words.Num() == 1 && Words[0] == TEXT("/blueprint")))
+	{
+		Completions.Texts = BlueprintLookup::Complete(Word);
+	}
+	return Completions;
+}
+
+TOptional<FString> FChatSession::ShowHelp(const TArray<FString>&)
+{
+	constexpr int32 NameWidth = 24;
+	TArray<FStyledLine> Lines;
+	TArray<TSharedPtr<FJsonValue>> Rows;
+	for (const FCommand& Command : GetCommands())
+	{
+		FStyledLine Name(TEXT("  "));
+		Name.Add(Command.Name, TextStyle::Code).Add(FString(TEXT(" ")) + Command.Arguments, TextStyle::Faint);
+		Lines.Append(WrapText(Command.Help, Display.GetWidth(), Name.PadTo(NameWidth), FStyledLine().PadTo(NameWidth)));
+		const TSharedRef<FJsonObject> Row = MakeShared<FJsonObject>();
+		Row->SetStringField(TEXT("name"), Command.Name);
+		Row->SetStringField(TEXT("arguments"), Command.Arguments);
+		Row->SetStringField(TEXT("help"), Command.Help);
+		Rows.Add(MakeShared<FJsonValueObject>(Row));
+	}
+	Lines.AddDefaulted();
+	Lines.Append(WrapText(FStyledLine(TEXT("Anything else is a question. Tab completes commands, paths and names of Blueprints; the arrow keys "
+										   "and Ctrl-R find earlier lines."),
+							  TextStyle::Faint),
+		Display.GetWidth(), TEXT("  "), TEXT("  ")));
+	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
+	Document->SetArrayField(TEXT("commands"), Rows);
+	Display.ShowResult(RunningCommand, Lines, Document);
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::BeginNew(const TArray<FString>&)
+{
+	const TSharedPtr<FVexelChatConversation> New = Subsystem.CreateConversation(Conversation->GetChatMode());
+	if (!New)
+	{
+		return FString(TEXT("no conversation can be opened"));
+	}
+	Conversation = New.ToSharedRef();
+	Tell(TEXT("a new conversation"));
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::ListConversations(const TArray<FString>&)
+{
+	const TArray<TSharedRef<FVexelChatConversation>> Conversations = Subsystem.GetHistory();
+	Display.ShowResult(RunningCommand, ConversationList::MakeLines(Conversations, Conversation->GetChatId(), Display.GetWidth()),
+		ConversationList::MakeDocument(Conversations, Conversation->GetChatId()));
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::OpenConversation(const TArray<FString>& Words)
+{
+	const TArray<TSharedRef<FVexelChatConversation>> Conversations = Subsystem.GetHistory();
+	const int32 Number = Words.Num() == 1 ? ReadNumber(Words[0], Conversations.Num()) : 0;
+	if (Number == 0)
+	{
+		return FString(TEXT("which conversation? Say '/open NUMBER' with a number of /list"));
+	}
+	Conversation = Conversations[Number - 1];
+	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
+	Document->SetStringField(TEXT("chat_id"), Conversation->GetChatId());
+	Document->SetNumberField(TEXT("messages"), Conversation->GetMessages().Num());
+	Display.ShowResult(RunningCommand, ConversationList::MakeLastExchange(*Conversation, Display.GetWidth()), Document);
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::ChangeMode(const TArray<FString>& Words)
+{
+	const TArray<FVexelChatModeInfo> Modes = UVexelChatSubsystem::GetAllChatModes();
+	if (Words.IsEmpty())
+	{
+		TArray<FStyledLine> Lines;
+		TArray<TSharedPtr<FJsonValue>> Ids;
+		for (const FVexelChatModeInfo& Mode : Modes)
+		{
+			const bool bCurrent = Mode.ChatMode == Conversation->GetChatMode().ChatMode;
+			Lines.Add(FStyledLine(bCurrent ? TEXT("● ") : TEXT("  "), TextStyle::Good)
+						  .Add(Mode.ChatMode, TextStyle::Code)
+						  .Add(TEXT("  ") + Mode.DisplayText));
+			Ids.Add(MakeShared<FJsonValueString>(Mode.ChatMode));
+		}
+		const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
+		Document->SetStringField(TEXT("mode"), Conversation->GetChatMode().ChatMode);
+		Document->SetArrayField(TEXT("modes"), Ids);
+		Display.ShowResult(RunningCommand, Lines, Document);
+		return NullOpt;
+	}
+	// Labels have blanks: "Agent Lite".
+	const FString Wanted = FString::Join(Words, TEXT(" "));
+	const FVexelChatModeInfo* const Mode = Modes.FindByPredicate([&](const FVexelChatModeInfo& Row)
+		{ return Row.ChatMode.Equals(Wanted, ESearchCase::IgnoreCase) || Row.DisplayText.Equals(Wanted, ESearchCase::IgnoreCase); });
+	if (!Mode)
+	{
+		return FString::Printf(TEXT("there is no mode '%s'; /mode shows those that there are"), *Wanted);
+	}
+	Conversation->SetChatMode(*Mode);
+	Tell(TEXT("the mode is ") + Mode->DisplayText);
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::Revert(const TArray<FString>& Words)
+{
+	const TArray<ConversationList::FPlace> Checkpoints = ConversationList::FindCheckpoints(*Conversation);
+	if (Words.IsEmpty())
+	{
+		Display.ShowResult(RunningCommand, ConversationList::MakeCheckpointLines(*Conversation, Display.GetWidth()),
+			ConversationList::MakeCheckpointDocument(*Conversation));
+		return NullOpt;
+	}
+	const int32 Number = Words.Num() == 1 ? ReadNumber(Words[0], Checkpoints.Num()) : 0;
+	if (Number == 0)
+	{
+		return FString(TEXT("back to which answer? Say '/revert NUMBER' with a number of /revert"));
+	}
+	const ConversationList::FPlace& Place = Checkpoints[Number - 1];
+	if (!Conversation->RevertToBlockIndex(Place.MessageIndex, Place.BlockIndex))
+	{
+		return FString(TEXT("the conversation cannot be cut back"));
+	}
+	Tell(FString::Printf(TEXT("back to how the conversation stood after answer %d; edits of the project stay, /undo takes them back"), Number));
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::Undo(const TArray<FString>&)
+{
+	return Travel(true);
+}
+
+TOptional<FString> FChatSession::Redo(const TArray<FString>&)
+{
+	return Travel(false);
+}
+
+TOptional<FString> FChatSession::Travel(bool bBack)
+{
+	FText Title;
+	const bool bCan = GEditor->Trans && (bBack ? GEditor->Trans->CanUndo() : GEditor->Trans->CanRedo());
+	if (!bCan)
+	{
+		return FString(bBack ? TEXT("there is nothing to undo") : TEXT("there is nothing to redo"));
+	}
+	const FString What = (bBack ? GEditor->Trans->GetUndoContext() : GEditor->Trans->GetRedoContext()).Title.ToString();
+	if (!(bBack ? GEditor->UndoTransaction() : GEditor->RedoTransaction()))
+	{
+		return FString::Printf(TEXT("'%s' cannot be %s"), *What, bBack ? TEXT("undone") : TEXT("redone"));
+	}
+	Tell((bBack ? TEXT("undone: ") : TEXT("redone: ")) + What);
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::ShowBlueprint(const TArray<FString>& Words)
+{
+	if (Words.IsEmpty())
+	{
+		return FString(TEXT("which Blueprint? Say '/blueprint PATH' or '/blueprint PATH GRAPH'"));
+	}
+	FString Reason;
+	UBlueprint* const Blueprint = BlueprintLookup::Load(Words[0], Reason);
+	// Names of graphs may have blanks.
+	const FString GraphName = FString::Join(TArray<FString>(Words.GetData() + 1, Words.Num() - 1), TEXT(" "));
+	const UEdGraph* const Graph = Blueprint ? BlueprintLookup::FindGraph(*Blueprint, GraphName, Reason) : nullptr;
+	if (!Graph)
+	{
+		return Reason;
+	}
+	TArray<FStyledLine> Lines = DrawGraph(*Graph, Display.GetWidth());
+	const TSharedRef<FJsonObject> Document = MakeGraphDocument(*Blueprint, *Graph, Lines);
+	if (GraphName.IsEmpty())
+	{
+		Lines.AddDefaulted();
+		Lines.Append(WrapText(FStyledLine(FString::Join(BlueprintLookup::GetGraphNames(*Blueprint), TEXT(", "))), Display.GetWidth(),
+			FStyledLine(TEXT("Graphs: "), TextStyle::Faint), TEXT("        ")));
+	}
+	Display.ShowResult(RunningCommand, Lines, Document);
+	return NullOpt;
+}
+
+TOptional<FString> FChatSession::Quit(const TArray<FString>&)
+{
+	bLeaving = true;
+	return NullOpt;
+}
+
+void FChatSession::Tell(const FString& Text)
+{
+	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
+	Document->SetStringField(TEXT("text"), Text);
+	Document->SetStringField(TEXT("chat_id"), Conversation->GetChatId());
+	Display.ShowResult(RunningCommand, {FStyledLine(Text, TextStyle::Faint)}, Document);
+}

@@ -1,0 +1,162 @@
+#include "Chat/ChatTurnView.h"
+
+#include "Chat/ToolSummary.h"
+#include "Session.h"
+#include "VexelError.h"
+#include "VexelTools.h"
+
+namespace
+{
+/** The tool table's icon of a tool; empty for one that it does not have. */
+FString FindIcon(const FString& ToolName)
+{
+	static const TArray<FVexelToolInfo> Tools = FVexelTools::List();
+	const FVexelToolInfo* const Tool = Tools.FindByPredicate([&](const FVexelToolInfo& Row)
+		{ return Row.Name.Equals(ToolName); });
+	return Tool ? Tool->Icon : FString();
+}
+}
+
+const TCHAR* ToWord(EVexelChatRequestState State)
+{
+	switch (State)
+	{
+		case EVexelChatRequestState::Succeeded:
+			return TEXT("succeeded");
+		case EVexelChatRequestState::Cancelled:
+			return TEXT("cancelled");
+		default:
+			return TEXT("failed");
+	}
+}
+
+FChatTurnView::FChatTurnView(UVexelChatSubsystem& InSubsystem, IChatDisplay& InDisplay)
+	: Subsystem(InSubsystem)
+	, Display(InDisplay)
+{
+	FVexelChatEvents& Events = Subsystem.GetEvents();
+	Events.OnTextAppended.AddRaw(this, &FChatTurnView::OnText);
+	Events.OnBlockAdded.AddRaw(this, &FChatTurnView::OnBlock);
+	Events.OnToolStarted.AddRaw(this, &FChatTurnView::OnToolStarted);
+	Events.OnToolFinished.AddRaw(this, &FChatTurnView::OnToolFinished);
+	Events.OnRequestStateChanged.AddRaw(this, &FChatTurnView::OnState);
+	Events.OnSaveFailed.AddRaw(this, &FChatTurnView::OnSaveFailed);
+}
+
+FChatTurnView::~FChatTurnView()
+{
+	FVexelChatEvents& Events = Subsystem.GetEvents();
+	Events.OnTextAppended.RemoveAll(this);
+	Events.OnBlockAdded.RemoveAll(this);
+	Events.OnToolStarted.RemoveAll(this);
+	Events.OnToolFinished.RemoveAll(this);
+	Events.OnRequestStateChanged.RemoveAll(this);
+	Events.OnSaveFailed.RemoveAll(this);
+}
+
+TOptional<FString> FChatTurnView::RunTurn(const FString& ChatId, const FString& Message)
+{
+	OpenCalls.Reset();
+	Answer.Reset();
+	Failure.Reset();
+	SaveFailure.Reset();
+	FinalState.Reset();
+	Display.BeginTurn(Message);
+	const TVexelExpected<void> Sent = Subsystem.SendMessage(ChatId, Message);
+	if (Sent.HasError())
+	{
+		Failure = Sent.GetError().ToChainString();
+	}
+	else if (!WaitForEnd())
+	{
+		FSession::TakeInterrupt();
+		Subsystem.CancelRequest(ChatId);
+		WaitForEnd();
+		Failure = TEXT("cancelled");
+		FinalState = EVexelChatRequestState::Cancelled;
+	}
+	else if (GetFinalState() == EVexelChatRequestState::Cancelled)
+	{
+		Failure = TEXT("cancelled");
+	}
+	else if (GetFinalState() == EVexelChatRequestState::Succeeded)
+	{
+		Failure = SaveFailure;
+	}
+	Display.EndTurn(GetFinalState(), Failure);
+	return Failure.IsEmpty() ? NullOpt : TOptional<FString>(Failure);
+}
+
+bool FChatTurnView::WaitForEnd()
+{
+	return FSession::TickUntil([this]
+		{
+			Display.Tick();
+			return FinalState.IsSet();
+		});
+}
+
+void FChatTurnView::OnText(const FString&, FStringView Text)
+{
+	Answer += Text;
+	Display.AddText(Text);
+}
+
+void FChatTurnView::OnBlock(const FString&, const FVexelChatMessageBlock& Block)
+{
+	if (Block.GetType() == EVexelChatMessageBlockType::Error)
+	{
+		Answer += Block.GetText();
+		Display.AddError(Block.GetText());
+	}
+	else if (Block.GetType() == EVexelChatMessageBlockType::ToolCall && Block.GetInfo())
+	{
+		FChatToolCall& Call = OpenCalls.AddDefaulted_GetRef();
+		Call.ReplyId = Block.Tool_GetToolReplyId();
+		Call.Name = Block.Tool_GetToolName();
+		Call.Icon = FindIcon(Call.Name);
+		Call.Input = Block.GetInfo();
+	}
+}
+
+void FChatTurnView::OnToolStarted(const FString&, const FString& ReplyId, const FString& ProgressText)
+{
+	FChatToolCall* Call = OpenCalls.FindByPredicate([&](const FChatToolCall& Open)
+		{ return Open.ReplyId.Equals(ReplyId); });
+	if (!Call)
+	{
+		Call = &OpenCalls.AddDefaulted_GetRef();
+		Call->ReplyId = ReplyId;
+	}
+	Call->ProgressText = ProgressText;
+	Display.BeginTool(*Call);
+}
+
+void FChatTurnView::OnToolFinished(const FString&, const FString& ReplyId, const FString& DoneText, const FVexelError* Error)
+{
+	const int32 Index = OpenCalls.IndexOfByPredicate([&](const FChatToolCall& Open)
+		{ return Open.ReplyId.Equals(ReplyId); });
+	if (Index == INDEX_NONE)
+	{
+		return;
+	}
+	const FChatToolCall Call = OpenCalls[Index];
+	OpenCalls.RemoveAt(Index);
+	Display.EndTool(Call, {.DoneText = DoneText, .Error = Error, .Edits = Error ? TArray<FString>() : SummarizeEdits(Call)});
+}
+
+void FChatTurnView::OnState(const FString&, EVexelChatRequestState State, const FVexelError* Error)
+{
+	if (State <= EVexelChatRequestState::InProgress)
+	{
+		return;
+	}
+	FinalState = State;
+	// The causes say what the network or the service did; the short form alone only that the request failed.
+	Failure = Error ? Error->ToChainString() : FString();
+}
+
+void FChatTurnView::OnSaveFailed(const FString&, const FVexelError& Error)
+{
+	SaveFailure = Error.ToChainString();
+}

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "Assistant/Question.h"
+#include "Chat/ChatRequest.h"
+
+#include <string>
+
+namespace VexelService
+{
+
+/** What a conversation is about when its last message comes: that which "it", "that" and "and ...?" refer to. */
+struct FTopic
+{
+	/** The Blueprint spoken of last, by its path or as the user named it; may be empty. */
+	std::string Blueprint;
+	/** The variable, function, event or other thing asked about last. */
+	std::string Subject;
+	/** The last question that was understood, without references to earlier ones. */
+	FQuestion Question;
+};
+
+/** The names of the assets that are open in editors. */
+std::vector<std::string> OpenAssetNames(const FChatRequest& Request);
+
+/** Follows the messages before the last one. */
+FTopic ReadTopic(const FChatRequest& Request);
+
+/** The question with everything in the place of its references that the topic knows. */
+FQuestion ResolveReferences(FQuestion Question, const FTopic& Topic);
+
+}

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Program.h"
+
+#include <sys/types.h>
+
+#include <string>
+#include <vector>
+
+/** A vexel that runs on a terminal of its own, as in front of a user. */
+class FTerminalProgram
+{
+public:
+	FTerminalProgram(std::vector<std::string> Arguments, const FProgramSurroundings& Surroundings, int Columns = 80, int Rows = 24);
+	~FTerminalProgram();
+	FTerminalProgram(const FTerminalProgram&) = delete;
+	FTerminalProgram& operator=(const FTerminalProgram&) = delete;
+
+	/** Types. "\x03" is Ctrl-C, "\x04" Ctrl-D, "\t" the tabulator. */
+	void Type(const std::string& Keys);
+	void Resize(int Columns, int Rows);
+
+	/** Waits until the program has written Text, codes left out, behind what earlier calls waited for; false when it never does. */
+	bool WaitFor(const std::string& Text);
+
+	/** Waits for the end of the program; its exit status, or 128 and the signal that ended it. -1 when it does not end. */
+	int Finish();
+
+	/** Everything that it wrote, codes and all. */
+	const std::string& GetRaw() const { return Raw; }
+	/** The same without codes. */
+	std::string GetText() const;
+
+private:
+	/** Reads what there is, waiting a little; false at the end. */
+	bool ReadMore();
+
+	int Terminal = -1;
+	pid_t Process = -1;
+	std::string Raw;
+	size_t SeenBytes = 0;
+	int TimeoutSeconds;
+};
