@@ -18,7 +18,7 @@ TEST(GraphShow, DrawsTheFlowWithItsBranchesAndValues)
 	EXPECT_EQ(Result.Status, 0) << Result.Errors;
 	EXPECT_THAT(Result.Output, testing::StartsWith("BP_Door · EventGraph"));
 	EXPECT_THAT(Result.Output, HasSubstr("● Event BeginPlay\n└ Print String  In String: \"A door waits in the dark\""));
-	EXPECT_THAT(Result.Output, HasSubstr("Branch  Condition: bLocked\n"));
+	EXPECT_THAT(Result.Output, HasSubstr("Branch  Condition: Locked\n"));
 	EXPECT_THAT(Result.Output, HasSubstr("├▸ true\n│  └ Print String  In String: \"The door is locked\""));
 	EXPECT_THAT(Result.Output, HasSubstr("└▸ false\n   └ Open Door"));
 	EXPECT_THAT(Result.Output, Not(HasSubstr("\x1b")));
@@ -32,6 +32,6 @@ TEST(GraphShow, GivesADocumentToOtherPrograms)
 	const nlohmann::json Document = nlohmann::json::parse(Result.Output, nullptr, false);
 	ASSERT_TRUE(Document.is_object()) << Result.Output;
 	EXPECT_EQ(Document["graph"], "OpenDoor");
-	EXPECT_THAT(Document["text"].get<std::string>(), HasSubstr("Set bIsOpen"));
+	EXPECT_THAT(Document["text"].get<std::string>(), HasSubstr("Set Is Open  Is Open: true"));
 	ExpectOneClearLine(RunVexel({"graph", "show", "--project", Project.GetPath(), "--blueprint", "BP_Cellar"}), 1, "there is no Blueprint 'BP_Cellar'");
 }

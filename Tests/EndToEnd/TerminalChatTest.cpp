@@ -119,7 +119,7 @@ TEST_F(TerminalChat, ANewWidthHoldsFromTheNextLineOn)
 	ASSERT_TRUE(Chat.WaitFor("First.")) << Chat.GetText();
 	Chat.Resize(30, 24);
 	Gate.Open();
-	ASSERT_TRUE(Chat.WaitFor("in all.")) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitFor("all.")) << Chat.GetText();
 	EXPECT_THAT(Chat.GetText(), Not(HasSubstr("more than thirty columns wide")));
 	Chat.Type(CtrlD);
 	Chat.Finish();
@@ -144,7 +144,8 @@ TEST_F(TerminalChat, NoColorLeavesTheStylesOut)
 
 TEST_F(TerminalChat, HostileTextSendsNoCodesOfItsOwn)
 {
-	SetChat(FScriptedAnswer().Chunk("a\x1b]0;title\x07 b\x1b[31m c\xC2\x9B" "2J &#27;[5m `\x1b[7m`\n\n```\n\x1b[8m\n```\n"
+	SetChat(FScriptedAnswer().Chunk("a\x1b]0;title\x07 b\x1b[31m c\xC2\x9B"
+									"2J &#27;[5m `\x1b[7m`\n\n```\n\x1b[8m\n```\n"
 									"<ToolCall info={\"tool_name\":\"x\\u001b[2J\",\"reply_id\":\"r\",\"blueprint\":\"\\u001b[9m\"}/>the end"));
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings());
 	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();

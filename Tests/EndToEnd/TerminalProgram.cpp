@@ -132,10 +132,10 @@ bool FTerminalProgram::WaitFor(const std::string& Text)
 	bool bOpen = true;
 	while (true)
 	{
-		const size_t Found = WithoutCodes(Raw.substr(SeenBytes)).find(Text);
+		const size_t Found = GetText().find(Text, NumSeen);
 		if (Found != std::string::npos)
 		{
-			SeenBytes = Raw.size();
+			NumSeen = Found + Text.size();
 			return true;
 		}
 		if (!bOpen || std::chrono::steady_clock::now() > Deadline)

@@ -38,6 +38,7 @@ private:
 	int Terminal = -1;
 	pid_t Process = -1;
 	std::string Raw;
-	size_t SeenBytes = 0;
+	/** Bytes of the text that WaitFor has passed. */
+	size_t NumSeen = 0;
 	int TimeoutSeconds;
 };

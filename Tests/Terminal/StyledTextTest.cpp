@@ -43,7 +43,10 @@ TEST_F(StyledText, WidthCountsColumns)
 
 TEST_F(StyledText, NothingInATextActsOnATerminal)
 {
-	const FStyledLine Line(TEXT("a\x1b[2Jb\x9b" "31mc\r\x07\x7f\x202e" "d"), TextStyle::Bad);
+	const FStyledLine Line(TEXT("a\x1b[2Jb\x9b"
+								"31mc\r\x07\x7f\x202e"
+								"d"),
+		TextStyle::Bad);
 	EXPECT_EQ(std::string(TCHAR_TO_UTF8(*Line.ToTerminalText())), "\x1b[0;31ma�[2Jb�31mc����d\x1b[0m");
 }
 

@@ -39,7 +39,7 @@ TEST_F(Assistant, MistypedAndPlainNamesMeanTheNearestAndAreNamed)
 	}
 	const std::string Answer = Editor.Ask("What does BP_Submarine do?");
 	EXPECT_THAT(Answer, HasSubstr("I find no asset called \"BP_Submarine\""));
-	EXPECT_THAT(Answer, HasSubstr("**BP_Door**, **BP_Enemy**"));
+	EXPECT_THAT(Answer, HasSubstr("**BP_Player**, **BP_Door** and **BP_Enemy**"));
 	EXPECT_THAT(Editor.Ask("What does the function Opne of BP_Door do?"), AllOf(HasSubstr("to mean **Open**"), HasSubstr("Sets bOpen to true")));
 }
 
@@ -47,7 +47,7 @@ TEST_F(Assistant, LaterQuestionsReferToEarlierOnes)
 {
 	Editor.Ask("What does BP_Door do?");
 	EXPECT_THAT(Editor.Ask("and what does its Open function do?"), AllOf(HasSubstr("In **BP_Door**"), HasSubstr("Sets bOpen to true")));
-	EXPECT_THAT(Editor.Ask("Where is that used?"), AllOf(HasSubstr("**Open**"), Not(HasSubstr("did not understand"))));
+	EXPECT_THAT(Editor.Ask("Where is that used?"), HasSubstr("**Open** is a function of **BP_Door**, but no step of it calls it."));
 	EXPECT_THAT(Editor.Ask("Where else is it used?"), HasSubstr("**BP_Player**"));
 	EXPECT_THAT(Editor.Ask("Which variables does BP_Enemy have?"), HasSubstr("**BP_Enemy** has 1 variable"));
 	EXPECT_THAT(Editor.Ask("And BP_Door?"), HasSubstr("**BP_Door** has 1 variable"));
@@ -67,7 +67,7 @@ TEST_F(Assistant, UsesOfAMemberAreFoundInAllBlueprints)
 	const std::string Answer = Editor.Ask("Where is Open called?");
 	EXPECT_THAT(Answer, StartsWith("**Open** is used in 1 place of 2 Blueprints:\n\n"));
 	EXPECT_THAT(Answer, HasSubstr("- **BP_Door**, which has it, uses it nowhere\n"));
-	EXPECT_THAT(Answer, HasSubstr("- **BP_Player**:\n  - In EventGraph, the step \"calls Open on "));
+	EXPECT_THAT(Answer, HasSubstr("- **BP_Player**:\n  - In EventGraph, the step \"calls Open\" calls it\n"));
 	EXPECT_THAT(Editor.Ask("Where is Helath used?"), AllOf(HasSubstr("\"Helath\" to mean **Health**"), HasSubstr("**BP_Enemy**, which has it")));
 	EXPECT_THAT(Editor.Ask("Which Blueprints use Gravity?"), HasSubstr("nothing called \"Gravity\" in 3 Blueprints"));
 }
@@ -77,7 +77,7 @@ TEST_F(Assistant, UsesOfAnAssetAreFoundThroughItsReferencers)
 	const std::string Answer = Editor.Ask("What uses BP_Door?");
 	EXPECT_THAT(Answer, HasSubstr("**BP_Door** is used by 2 assets:"));
 	EXPECT_THAT(Answer, HasSubstr("  - The variable Door (BP_Door reference)\n"));
-	EXPECT_THAT(Answer, HasSubstr("  - In EventGraph, the step \"calls Open on "));
+	EXPECT_THAT(Answer, HasSubstr("  - In EventGraph, the step \"calls Open\"\n"));
 	EXPECT_THAT(Answer, HasSubstr("- **L_Harbor** (`/Game/L_Harbor`) refers to it\n"));
 	EXPECT_THAT(Editor.GetCalls(), Not(Contains(HasSubstr("BP_Enemy")))) << "what cannot refer to it is not read";
 }

@@ -94,6 +94,40 @@ TEST_F(Chat, ItMeansTheBlueprintNamedLast)
 	EXPECT_THAT(Stream->Finish(), HasSubstr("- **Health**: number, 100 by default"));
 }
 
+TEST_F(Chat, APictureIsKeptForTheClientToFetch)
+{
+	StartAndLogIn();
+	const auto Stream = Ask("chat-1", "Take a picture of the viewport");
+	const FJson Call = TagInfo(Stream->WaitFor("/>"), "ToolCall");
+	EXPECT_EQ(Call["tool_name"], "get_scene_screenshot");
+	EXPECT_EQ(Call["mode"], "viewport");
+	// The signature of a PNG and one byte more.
+	EXPECT_EQ(Reply("chat-1", Call["reply_id"], {{"title", "/Game/Map"}, {"format", "png"}, {"image", "iVBORw0KGgoh"}}), 200);
+	const std::string Text = Stream->Finish();
+	const std::size_t Begin = Text.find(" url=\"") + 6;
+	const std::string Url = Text.substr(Begin, Text.find('"', Begin) - Begin);
+	ASSERT_THAT(Url, StartsWith(Server->GetUrl() + "/images/"));
+	const std::string Path = Url.substr(Server->GetUrl().size());
+	const httplib::Result Image = MakeClient().Get(Path);
+	EXPECT_EQ(Image->status, 200);
+	EXPECT_EQ(Image->body, "\x89PNG\r\n\x1a\n!");
+	EXPECT_EQ(MakeClient().Get("/images/AAAAAAAAAAAAAAAAAAAAAA")->status, 404);
+}
+
+TEST_F(Chat, WhatIsNoPictureIsToldAndNotShown)
+{
+	StartAndLogIn();
+	for (const char* const Bytes : {"", "!!!!", "iVBORw0", "R0lGODlh", "iVBORw0KGg=="})
+	{
+		const auto Stream = Ask("chat-1", "Take a picture of the viewport");
+		const FJson Call = TagInfo(Stream->WaitFor("/>"), "ToolCall");
+		EXPECT_EQ(Reply("chat-1", Call["reply_id"], {{"image", Bytes}}), 200);
+		const std::string Text = Stream->Finish();
+		EXPECT_THAT(Text, HasSubstr("cannot be shown")) << Bytes;
+		EXPECT_THAT(Text, Not(HasSubstr("<Image")));
+	}
+}
+
 TEST_F(Chat, WhatItDoesNotUnderstandItSaysAtOnce)
 {
 	StartAndLogIn();

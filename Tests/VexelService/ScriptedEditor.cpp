@@ -55,7 +55,7 @@ FScriptedEditor::FScriptedEditor()
 		{ return SearchAssets(Arguments); });
 	SetTool("get_asset_info", [](const FJson& Arguments) -> FJson
 		{
-			if (Arguments["asset"] != "/Game/Doors/BP_Door")
+			if (Arguments.value("asset", "") != "/Game/Doors/BP_Door")
 			{
 				return {};
 			}
@@ -72,18 +72,18 @@ FScriptedEditor::FScriptedEditor()
 		{
 			if (Arguments.contains("symbol"))
 			{
-				return {{"symbol", Arguments["symbol"]},
+				return {{"symbol", Arguments.value("symbol", "")},
 					{"declarations", {{{"kind", "class"}, {"name", "ADoor"}, {"file", "Source/Harbor/Door.h"}, {"first_line", 3}, {"last_line", 5},
 										 {"text", "class ADoor\n{\n};\n"}}}}};
 			}
-			return {{"file", Arguments["file"]}, {"first_line", 1}, {"last_line", 2}, {"total_lines", 2}, {"text", "[Section]\nKey=```Value\n"}}; });
+			return {{"file", Arguments.value("file", "")}, {"first_line", 1}, {"last_line", 2}, {"total_lines", 2}, {"text", "[Section]\nKey=```Value\n"}}; });
 	SetTool("get_scene_screenshot", [](const FJson& Arguments) -> FJson
-		{ return {{"title", Arguments["mode"] == "editor" ? "BP_Door - Open" : "L_Harbor"}, {"image", "iVBORw0KGgo="}}; });
+		{ return {{"title", Arguments.value("mode", "") == "editor" ? "BP_Door - Open" : "L_Harbor"}, {"image", "iVBORw0KGgo="}}; });
 }
 
 FJson FScriptedEditor::ReadBlueprint(const FJson& Arguments) const
 {
-	const auto Found = Blueprints.find(PackageOf(Arguments["blueprint"]));
+	const auto Found = Blueprints.find(PackageOf(Arguments.value("blueprint", "")));
 	return Found == Blueprints.end() ? FJson() : Found->second;
 }
 
@@ -155,7 +155,8 @@ FToolOutcome FScriptedEditor::CallTool(std::string_view ToolName, const FJson& A
 	}
 	Calls.push_back(Call);
 	const auto Tool = Tools.find(std::string(ToolName));
-	const FJson Reply = Tool == Tools.end() ? FJson() : Tool->second(Arguments);
+	// Through its text, as it would come: numbers then are what a reader makes of them.
+	const FJson Reply = Tool == Tools.end() ? FJson() : FJson::parse(Tool->second(Arguments).dump());
 	return Reply.is_null() ? FToolOutcome{.Status = EToolStatus::Failed, .ErrorMessage = "no such thing"}
 						   : FToolOutcome{.Status = EToolStatus::Replied, .Reply = Reply};
 }

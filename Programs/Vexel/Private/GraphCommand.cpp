@@ -236,6 +236,6 @@ TSharedRef<FJsonObject> MakeGraphDocument(const UBlueprint& Blueprint, const UEd
 	Document->SetStringField(TEXT("graph"), Graph.GetName());
 	Document->SetNumberField(TEXT("nodes"), Graph.Nodes.Num());
 	Document->SetStringField(TEXT("text"), FString::JoinBy(Lines, TEXT("\n"), [](const FStyledLine& Line)
-		{ return Line.ToPlainText().TrimEnd(); }));
+											   { return Line.ToPlainText().TrimEnd(); }));
 	return Document;
 }

@@ -188,7 +188,7 @@ FCompletions FChatSession::Complete(const FString& Line) const
 
 TOptional<FString> FChatSession::ShowHelp(const TArray<FString>&)
 {
-	constexpr int32 NameWidth = 24;
+	constexpr int32 NameWidth = 27;
 	TArray<FStyledLine> Lines;
 	TArray<TSharedPtr<FJsonValue>> Rows;
 	for (const FCommand& Command : GetCommands())

@@ -92,8 +92,7 @@ bool FChatTurnView::WaitForEnd()
 	return FSession::TickUntil([this]
 		{
 			Display.Tick();
-			return FinalState.IsSet();
-		});
+			return FinalState.IsSet(); });
 }
 
 void FChatTurnView::OnText(const FString&, FStringView Text)

@@ -98,6 +98,11 @@ public:
 		bInterrupted = false;
 		int Count = 0;
 		const char* const Raw = el_gets(Line, &Count);
+		if (FConsole::UsesStyles())
+		{
+			// The editor leaves a prompt's last code out, so that what is typed has the prompt's style.
+			FConsole::WriteTerminalCodes(TEXT("\x1b[0m"));
+		}
 		if (bInterrupted)
 		{
 			el_reset(Line);

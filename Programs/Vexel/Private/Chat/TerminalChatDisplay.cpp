@@ -69,7 +69,7 @@ FStyledLine MakeToolLine(const FStyledLine& Sign, const FString& Text, const FCh
 const FTextStyle& GetEditStyle(const FString& Edit)
 {
 	return Edit.StartsWith(TEXT("+")) ? TextStyle::Good : Edit.StartsWith(TEXT("-")) ? TextStyle::Bad
-																					  : TextStyle::Accent;
+																					 : TextStyle::Accent;
 }
 }
 

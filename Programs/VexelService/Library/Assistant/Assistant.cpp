@@ -1,19 +1,21 @@
 #include "Assistant/Assistant.h"
 
+#include "Assistant/AssetFinder.h"
 #include "Assistant/BlueprintDescriber.h"
 #include "Assistant/BlueprintModel.h"
 #include "Assistant/Conversation.h"
+#include "Assistant/Markdown.h"
 #include "Assistant/NameMatch.h"
 #include "Assistant/ProjectAnswers.h"
 #include "Assistant/ProjectReader.h"
 #include "Assistant/Question.h"
+#include "Assistant/UsageAnswer.h"
 #include "Assistant/UsageSearch.h"
 #include "Assistant/Words.h"
 #include "QuestionPatterns.h"
 
 #include <algorithm>
 #include <optional>
-#include <set>
 #include <string>
 #include <vector>
 
@@ -23,10 +25,7 @@ namespace VexelService
 namespace
 {
 
-/** A project may have thousands of Blueprints; nobody waits for an answer that reads them all. */
-constexpr std::size_t MaxReadBlueprints = 40;
-constexpr std::size_t MaxListedBlueprints = 200;
-constexpr std::size_t MaxUsesOfBlueprint = 20;
+constexpr std::size_t MaxListedAssets = 200;
 constexpr std::size_t MaxOverviews = 12;
 constexpr std::size_t MaxSaid = 100;
 
@@ -45,26 +44,6 @@ constexpr const char* WhatIUnderstand =
 	"\n"
 	"Name a Blueprint by its name or its path. \"It\" and \"that\" mean what we spoke of last, and \"And BP_Enemy?\" asks the same again.\n";
 
-std::string Bold(const std::string& Text)
-{
-	return "**" + Text + "**";
-}
-
-std::string Quoted(const std::string& Text)
-{
-	return "\"" + Shortened(Text, MaxSaid) + "\"";
-}
-
-bool IsBlueprintLike(const FAssetRow& Row)
-{
-	return !Row.ParentClass.empty() || LowerCase(Row.Class).find("blueprint") != std::string::npos || Row.Class == "World";
-}
-
-std::string PackageOf(const std::string& ObjectPath)
-{
-	return ObjectPath.substr(0, ObjectPath.find('.'));
-}
-
 /** One turn: reads what it needs, and says what it found. */
 class FAnswer
 {
@@ -73,6 +52,7 @@ public:
 		: Request(InRequest)
 		, Channel(InChannel)
 		, Reader(InChannel)
+		, Assets(InRequest, InChannel, Reader)
 		, Topic(ReadTopic(InRequest))
 	{
 	}
@@ -130,15 +110,6 @@ public:
 	}
 
 private:
-	/** Tells why a tool did not do its work; nothing when the turn is over anyway. */
-	void SayFailure(const std::string& What)
-	{
-		if (!Reader.IsOver())
-		{
-			Channel.Say("I could not " + What + ". The editor says: " + Reader.GetLastError() + "\n");
-		}
-	}
-
 	void TellReply(const std::optional<FJson>& Reply, std::string (*Describe)(const FJson&), const std::string& What)
 	{
 		if (Reply)
@@ -146,51 +117,7 @@ private:
 			Channel.Say(Describe(*Reply));
 			return;
 		}
-		SayFailure(What);
-	}
-
-	std::optional<std::string> FindOpenAsset(const std::string& Name) const
-	{
-		const auto Open = std::find_if(Request.OpenAssets.begin(), Request.OpenAssets.end(), [&](const std::string& Asset)
-			{ return EqualIgnoringCase(ShortName(Asset), ClassName(Name)); });
-		return Open == Request.OpenAssets.end() ? std::nullopt : std::optional<std::string>(*Open);
-	}
-
-	/** The asset that a name means. Says so when it takes another for it. Nothing when there is none. */
-	std::optional<FAssetRow> FindAsset(const std::string& Name)
-	{
-		if (StartsWith(Name, "/"))
-		{
-			return FAssetRow{.Path = Name, .Name = ShortName(Name), .Class = {}, .ParentClass = {}};
-		}
-		if (const std::optional<std::string> Open = FindOpenAsset(Name))
-		{
-			return FAssetRow{.Path = *Open, .Name = ShortName(*Open), .Class = {}, .ParentClass = {}};
-		}
-		const std::string Said = ClassName(Name);
-		std::optional<FAssetList> List = Reader.SearchAssets({.Words = Said, .Class = {}});
-		if (!List)
-		{
-			return std::nullopt;
-		}
-		// Blueprints are what people ask about when another asset has the same name.
-		std::stable_partition(List->Rows.begin(), List->Rows.end(), IsBlueprintLike);
-		std::vector<std::string> Names;
-		for (const FAssetRow& Row : List->Rows)
-		{
-			Names.push_back(Row.Name);
-		}
-		const std::optional<FNameMatch> Match = FindName(Said, Names);
-		if (!Match)
-		{
-			return std::nullopt;
-		}
-		const FAssetRow& Found = List->Rows[Match->Index];
-		if (!Match->bExact)
-		{
-			Channel.Say("I take " + Quoted(Said) + " to mean " + Bold(Found.Name) + ".\n\n");
-		}
-		return Found;
+		Assets.SayFailure(What);
 	}
 
 	/** The Blueprint that a question is about, by the words for it or by the conversation; nothing when it has told why. */
@@ -206,10 +133,10 @@ private:
 			Channel.Say("Which Blueprint do you mean? Name it, or open just that one in the editor.\n");
 			return nullptr;
 		}
-		const std::optional<FAssetRow> Asset = FindAsset(Meant);
+		const std::optional<FAssetRow> Asset = Assets.Find(Meant);
 		if (!Asset)
 		{
-			SayNoAsset(Meant);
+			Assets.SayMissing(Meant);
 			return nullptr;
 		}
 		if (!Asset->Class.empty() && !IsBlueprintLike(*Asset))
@@ -226,35 +153,9 @@ private:
 		const FBlueprintModel* const Model = Reader.ReadBlueprint(Path);
 		if (!Model)
 		{
-			SayFailure("read `" + Path + "`");
+			Assets.SayFailure("read `" + Path + "`");
 		}
 		return Model;
-	}
-
-	void SayNoAsset(const std::string& Name)
-	{
-		if (Reader.IsOver())
-		{
-			return;
-		}
-		if (!Reader.GetLastError().empty())
-		{
-			SayFailure("search the project");
-			return;
-		}
-		std::string Text = "I find no asset called " + Quoted(Name) + ", nor one with a name like it.";
-		const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxOverviews});
-		std::vector<std::string> Names;
-		for (const FAssetRow& Row : List ? List->Rows : std::vector<FAssetRow>())
-		{
-			Names.push_back(Bold(Row.Name));
-		}
-		if (List && List->Total > Names.size())
-		{
-			Names.push_back(CountOf(List->Total - Names.size(), "other"));
-		}
-		Text += Names.empty() ? "" : " The project's Blueprints are " + JoinWithAnd(Names) + ".";
-		Channel.Say(Text + "\n");
 	}
 
 	/** The member's name as the Blueprint has it, when it has one like what was said, and says what it took it for. */
@@ -277,7 +178,7 @@ private:
 	{
 		// "What does OpenDoor do?" may be about a function of the Blueprint that the conversation is about.
 		const bool bMayBeMember = Question.Kind == EQuestionKind::Overview && !Topic.Blueprint.empty() && !StartsWith(Question.Blueprint, "/") &&
-			!IsPrefixedAssetName(Question.Blueprint) && !IsBackReference(Question.Blueprint) && !FindOpenAsset(Question.Blueprint);
+			!IsPrefixedAssetName(Question.Blueprint) && !IsBackReference(Question.Blueprint) && !Assets.FindOpen(Question.Blueprint);
 		if (bMayBeMember && TellMemberOfTopic(Question.Blueprint))
 		{
 			return;
@@ -300,7 +201,7 @@ private:
 
 	bool TellMemberOfTopic(const std::string& Name)
 	{
-		const std::optional<FAssetRow> Asset = FindAsset(Topic.Blueprint);
+		const std::optional<FAssetRow> Asset = Assets.Find(Topic.Blueprint);
 		const FBlueprintModel* const Model = Asset ? Reader.ReadBlueprint(Asset->Path) : nullptr;
 		if (!Model || !FindName(Name, MemberNames(*Model)))
 		{
@@ -339,10 +240,10 @@ private:
 	void TellAssets(const std::string& Kind)
 	{
 		const char* const Class = FindAssetClass(Kind);
-		const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = Class ? Class : "", .Limit = MaxListedBlueprints});
+		const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = Class ? Class : "", .Limit = MaxListedAssets});
 		if (!List)
 		{
-			SayFailure("search the project");
+			Assets.SayFailure("search the project");
 			return;
 		}
 		Channel.Say(DescribeAssets(*List, Kind));
@@ -353,7 +254,7 @@ private:
 		const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxOverviews});
 		if (!List)
 		{
-			SayFailure("search the project");
+			Assets.SayFailure("search the project");
 			return;
 		}
 		std::string Text;
@@ -374,10 +275,10 @@ private:
 	void TellAsset(const FQuestion& Question)
 	{
 		const std::string Meant = IsBackReference(Question.Blueprint) ? Topic.Blueprint : Question.Blueprint;
-		const std::optional<FAssetRow> Asset = Meant.empty() ? std::nullopt : FindAsset(Meant);
+		const std::optional<FAssetRow> Asset = Meant.empty() ? std::nullopt : Assets.Find(Meant);
 		if (!Asset)
 		{
-			Meant.empty() ? static_cast<void>(Channel.Say("Which asset do you mean? Name it, or its path.\n")) : SayNoAsset(Meant);
+			Meant.empty() ? static_cast<void>(Channel.Say("Which asset do you mean? Name it, or its path.\n")) : Assets.SayMissing(Meant);
 			return;
 		}
 		const auto Describe = Question.Kind == EQuestionKind::AssetInfo ? DescribeAsset : DescribeDependencies;
@@ -394,7 +295,7 @@ private:
 			if (!Found)
 			{
 				Project ? static_cast<void>(Channel.Say("The project has no file called " + Quoted(Said) + " among its sources and settings.\n"))
-						: SayFailure("read the project");
+						: Assets.SayFailure("read the project");
 				return;
 			}
 			File = *Found;
@@ -434,10 +335,10 @@ private:
 		if (!bAsksForLevel)
 		{
 			const std::string Meant = IsBackReference(Question.Blueprint) ? Topic.Blueprint : Question.Blueprint;
-			const std::optional<FAssetRow> Asset = Meant.empty() ? std::nullopt : FindAsset(Meant);
+			const std::optional<FAssetRow> Asset = Meant.empty() ? std::nullopt : Assets.Find(Meant);
 			if (!Meant.empty() && !Asset)
 			{
-				SayNoAsset(Meant);
+				Assets.SayMissing(Meant);
 				return;
 			}
 			if (Asset)
@@ -449,7 +350,7 @@ private:
 		const std::optional<FJson> Reply = Reader.TakeScreenshot(Arguments);
 		if (!Reply)
 		{
-			SayFailure("take a picture");
+			Assets.SayFailure("take a picture");
 			return;
 		}
 		const std::string Title = TextMember(*Reply, "title");
@@ -507,185 +408,15 @@ private:
 			Channel.Say("What do you mean? Name the variable, the function or the asset.\n");
 			return;
 		}
-		const bool bAsset = StartsWith(Said, "/") || IsPrefixedAssetName(Said) || FindOpenAsset(Said).has_value();
-		bAsset ? TellUsesOfAsset(Said) : TellUsesOfMember(Said);
-	}
-
-	void TellUsesOfAsset(const std::string& Said)
-	{
-		const std::optional<FAssetRow> Asset = FindAsset(Said);
-		if (!Asset)
-		{
-			SayNoAsset(Said);
-			return;
-		}
-		const std::optional<FJson> Info = Reader.ReadAssetInfo(PackageOf(Asset->Path));
-		if (!Info)
-		{
-			SayFailure("read " + Asset->Name);
-			return;
-		}
-		const std::vector<std::string> Referencers = FindReferencers(*Info);
-		if (Referencers.empty())
-		{
-			Channel.Say("Nothing in the project refers to " + Bold(Asset->Name) + ".\n");
-			return;
-		}
-		const std::optional<std::vector<FAssetRow>> Blueprints = FindBlueprints(Referencers);
-		if (!Blueprints)
-		{
-			SayFailure("search the project");
-			return;
-		}
-		std::string Text = Bold(Asset->Name) + " is used by " + CountOf(Referencers.size(), "asset") + ":\n\n";
-		std::vector<std::string> Others;
-		for (const std::string& Package : Referencers)
-		{
-			const bool bBlueprint = std::any_of(Blueprints->begin(), Blueprints->end(), [&Package](const FAssetRow& Row)
-				{ return PackageOf(Row.Path) == Package; });
-			if (!bBlueprint)
-			{
-				Others.push_back(Package);
-			}
-		}
-		for (const FAssetRow& Row : *Blueprints)
-		{
-			const FBlueprintModel* const Model = Reader.ReadBlueprint(Row.Path);
-			if (Reader.IsOver())
-			{
-				return;
-			}
-			Text += TellUses(Bold(Row.Name), Model ? FindMentions(*Model, Asset->Name) : std::vector<std::string>());
-		}
-		for (const std::string& Package : Others)
-		{
-			Text += "- " + Bold(ShortName(Package)) + " (`" + Package + "`) refers to it\n";
-		}
-		Channel.Say(Text);
-	}
-
-	static std::vector<std::string> FindReferencers(const FJson& Info)
-	{
-		std::vector<std::string> Packages;
-		const FJson* const Member = FindMember(Info, "referencers");
-		for (const char* const Strength : {"hard", "soft"})
-		{
-			for (const FJson& Item : Member ? ArrayMember(*Member, Strength) : FJson::array())
-			{
-				if (Item.is_string() && std::find(Packages.begin(), Packages.end(), Item.get<std::string>()) == Packages.end())
-				{
-					Packages.push_back(Item.get<std::string>());
-				}
-			}
-		}
-		return Packages;
-	}
-
-	/** Those of some packages that are Blueprints, as many as are read for one answer. */
-	std::optional<std::vector<FAssetRow>> FindBlueprints(const std::vector<std::string>& Packages)
-	{
-		const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxListedBlueprints});
-		if (!List)
-		{
-			return std::nullopt;
-		}
-		const std::set<std::string> Wanted(Packages.begin(), Packages.end());
-		std::vector<FAssetRow> Found;
-		for (const FAssetRow& Row : List->Rows)
-		{
-			if (Wanted.count(PackageOf(Row.Path)) > 0 && Found.size() < MaxReadBlueprints)
-			{
-				Found.push_back(Row);
-			}
-		}
-		return Found;
-	}
-
-	static std::string TellUses(const std::string& Heading, const std::vector<std::string>& Uses)
-	{
-		std::string Text = "- " + Heading + (Uses.empty() ? " refers to it\n" : ":\n");
-		for (std::size_t Index = 0; Index < std::min(Uses.size(), MaxUsesOfBlueprint); ++Index)
-		{
-			Text += "  - " + UpperFirst(Uses[Index]) + "\n";
-		}
-		return Uses.size() > MaxUsesOfBlueprint ? Text + "  - and " + CountOf(Uses.size() - MaxUsesOfBlueprint, "other") + "\n" : Text;
-	}
-
-	void TellUsesOfMember(const std::string& Said)
-	{
-		const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxReadBlueprints});
-		if (!List)
-		{
-			SayFailure("search the project");
-			return;
-		}
-		std::vector<const FBlueprintModel*> Models;
-		std::vector<std::string> Members;
-		for (const FAssetRow& Row : List->Rows)
-		{
-			const FBlueprintModel* const Model = Reader.ReadBlueprint(Row.Path);
-			if (Reader.IsOver())
-			{
-				return;
-			}
-			if (Model)
-			{
-				Models.push_back(Model);
-				const std::vector<std::string> Names = MemberNames(*Model);
-				Members.insert(Members.end(), Names.begin(), Names.end());
-			}
-		}
-		std::sort(Members.begin(), Members.end());
-		Members.erase(std::unique(Members.begin(), Members.end()), Members.end());
-		std::string Text = ListUses(Models, Said);
-		if (const std::optional<FNameMatch> Match = Text.empty() ? FindName(Said, Members) : std::nullopt)
-		{
-			Text = "I take " + Quoted(Said) + " to mean " + Bold(Members[Match->Index]) + ".\n\n" + ListUses(Models, Members[Match->Index]);
-		}
-		if (Text.empty())
-		{
-			Text = "I find nothing called " + Quoted(Said) + " in " + CountOf(Models.size(), "Blueprint") +
-				": no variable, function, event or step.\n";
-		}
-		const std::size_t Unread = List->Total - std::min(List->Total, List->Rows.size());
-		Channel.Say(Unread > 0 ? Text + "\nI read " + CountOf(Models.size(), "Blueprint") + " and left out " + CountOf(Unread, "other") +
-				"; name one to ask about it.\n"
-							   : Text);
-	}
-
-	/** The Blueprints that have or use a name, each with its uses; empty when none does. */
-	static std::string ListUses(const std::vector<const FBlueprintModel*>& Models, const std::string& Name)
-	{
-		std::string Text;
-		std::size_t NumUses = 0;
-		std::size_t NumBlueprints = 0;
-		for (const FBlueprintModel* const Model : Models)
-		{
-			const std::vector<std::string> Names = MemberNames(*Model);
-			const bool bOwn = std::any_of(Names.begin(), Names.end(), [&Name](const std::string& Own)
-				{ return SameName(Own, Name); });
-			std::vector<std::string> Uses = FindMemberUses(*Model, Name);
-			if (Uses.empty())
-			{
-				const std::vector<std::string> Mentions = FindMentions(*Model, Name);
-				Uses.insert(Uses.end(), Mentions.begin(), Mentions.end());
-			}
-			if (!bOwn && Uses.empty())
-			{
-				continue;
-			}
-			NumUses += Uses.size();
-			++NumBlueprints;
-			const std::string Heading = Bold(Model->Name) + (bOwn ? ", which has it" : "");
-			Text += bOwn && Uses.empty() ? "- " + Heading + ", uses it nowhere\n" : TellUses(Heading, Uses);
-		}
-		return Text.empty() ? Text
-							: Bold(Name) + " is used in " + CountOf(NumUses, "place") + " of " + CountOf(NumBlueprints, "Blueprint") + ":\n\n" + Text;
+		const bool bAsset = StartsWith(Said, "/") || IsPrefixedAssetName(Said) || Assets.FindOpen(Said).has_value();
+		FUsageAnswer Uses(Channel, Reader, Assets);
+		bAsset ? Uses.TellUsesOfAsset(Said) : Uses.TellUsesOfMember(Said);
 	}
 
 	const FChatRequest& Request;
 	IAssistantChannel& Channel;
 	FProjectReader Reader;
+	FAssetFinder Assets;
 	const FTopic Topic;
 };
 

@@ -3,6 +3,7 @@
 #include "Assistant/BlueprintEntries.h"
 #include "Assistant/ExpressionWriter.h"
 #include "Assistant/GraphWalker.h"
+#include "Assistant/Markdown.h"
 #include "Assistant/StepMarkdown.h"
 #include "Assistant/VariableUse.h"
 #include "Assistant/Words.h"
@@ -37,11 +38,6 @@ constexpr FKindPhrase KindPhrases[] = {
 	{"macro", "a Blueprint macro library"},
 	{"level", "a level Blueprint"},
 };
-
-std::string Bold(const std::string& Text)
-{
-	return "**" + Text + "**";
-}
 
 // Names of a list, with what is too much for a sentence counted.
 std::string NameList(std::vector<std::string> Names, std::size_t MaxNames = 12)
@@ -442,13 +438,19 @@ std::string FBlueprintDescriber::VariableUse(std::string_view Variable) const
 	const auto Member = std::find_if(Model.Variables.begin(), Model.Variables.end(), [&](const FBlueprintVariable& Candidate)
 		{ return EqualIgnoringCase(Candidate.Id, Variable); });
 	const std::vector<FVariableUse> Uses = FindVariableUses(Model, Variable);
+	if (Uses.empty() && Member != Model.Variables.end())
+	{
+		return Bold(Member->Id) + " is " + WithArticle(TypeAndDefault(*Member)) + ", but no step of " + Bold(Model.Name) + " reads or sets it.\n";
+	}
+	if (Uses.empty() && FindGraph(Variable))
+	{
+		const FBlueprintGraph& Graph = *FindGraph(Variable);
+		const char* const Noun = Graph.Kind == EGraphKind::Macro ? "macro" : "function";
+		return Bold(Graph.Title()) + " is a " + Noun + " of " + Bold(Model.Name) + ", but no step of it calls it.\n";
+	}
 	if (Uses.empty())
 	{
-		const bool bKnown = Member != Model.Variables.end();
-		return bKnown ? Bold(Member->Id) + " is " + WithArticle(TypeAndDefault(*Member)) + ", but no step of " + Bold(Model.Name) +
-				" reads or sets it.\n"
-					  : Bold(Model.Name) + " has no variable \"" + Shortened(Name, 100) +
-				"\", and no step reads or sets one of that name.\n\n" + Variables();
+		return Bold(Model.Name) + " has no variable \"" + Shortened(Name, 100) + "\", and no step reads or sets one of that name.\n\n" + Variables();
 	}
 	std::string Text = Bold(Member == Model.Variables.end() ? Name : Member->Id);
 	Text += " is " + Counted(Uses) + " of " + Bold(Model.Name) + ":\n\n";

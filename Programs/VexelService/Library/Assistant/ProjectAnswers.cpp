@@ -1,5 +1,6 @@
 #include "Assistant/ProjectAnswers.h"
 
+#include "Assistant/Markdown.h"
 #include "Assistant/Words.h"
 
 #include <algorithm>
@@ -17,16 +18,6 @@ constexpr std::size_t MaxNamed = 12;
 constexpr std::size_t MaxShownLines = 80;
 constexpr std::size_t MaxShownBytes = 8000;
 constexpr std::size_t MaxDeclarations = 5;
-
-std::string Bold(const std::string& Text)
-{
-	return "**" + Text + "**";
-}
-
-std::string Code(const std::string& Text)
-{
-	return "`" + Text + "`";
-}
 
 std::size_t CountMember(const FJson& Object, const char* Key)
 {
@@ -153,21 +144,6 @@ std::string LinesInWords(const FJson& Object)
 	return First == Last ? "line " + std::to_string(First) : "lines " + std::to_string(First) + " to " + std::to_string(Last);
 }
 
-}
-
-std::string CodeBlock(std::string_view Text, std::string_view Language)
-{
-	// Longer than any run of such marks inside, so that nothing in the text can end the block.
-	std::size_t Longest = 2;
-	std::size_t Run = 0;
-	for (const char Character : Text)
-	{
-		Run = Character == '`' ? Run + 1 : 0;
-		Longest = std::max(Longest, Run);
-	}
-	const std::string Fence(Longest + 1, '`');
-	std::string Block = Fence + std::string(Language) + "\n" + std::string(Text);
-	return Block + (Text.empty() || Text.back() != '\n' ? "\n" : "") + Fence + "\n";
 }
 
 std::string DescribeProject(const FJson& Project)

@@ -29,7 +29,4 @@ std::string DescribeFile(const FJson& Source);
 /** What a name declares, of "get_source" with a symbol. */
 std::string DescribeDeclarations(const FJson& Source);
 
-/** Text as a code block, whatever it holds. */
-std::string CodeBlock(std::string_view Text, std::string_view Language);
-
 }

@@ -1,0 +1,187 @@
+#include "GraphPicture.h"
+
+#include "Containers/StringConv.h"
+#include "EdGraph/EdGraph.h"
+#include "EdGraph/EdGraphPin.h"
+#include "EdGraphNode_Comment.h"
+#include "EdGraphSchema_K2.h"
+#include "EditorFixture.h"
+#include "Engine/Blueprint.h"
+#include "GameFramework/Actor.h"
+#include "K2Node_CallFunction.h"
+#include "K2Node_CustomEvent.h"
+#include "K2Node_IfThenElse.h"
+#include "K2Node_Knot.h"
+#include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/KismetEditorUtilities.h"
+#include "Misc/Guid.h"
+#include "UObject/Package.h"
+#include "UObject/UObjectGlobals.h"
+
+#include <gmock/gmock.h>
+
+#include <string>
+#include <vector>
+
+namespace
+{
+using testing::ElementsAre;
+using testing::HasSubstr;
+
+class GraphPicture : public FEditorTest
+{
+protected:
+	virtual void SetUp() override
+	{
+		FEditorTest::SetUp();
+		UseUtf8Locale();
+		UPackage* const Package = CreatePackage(*(TEXT("/Game/Picture_") + FGuid::NewGuid().ToString()));
+		Blueprint = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), Package, TEXT("BP_Picture"), BPTYPE_Normal);
+		Graph = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Drawn"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	}
+
+	template <class NodeType>
+	NodeType* Add(
+		TFunctionRef<void(NodeType&)> Prepare = [](NodeType&) {})
+	{
+		FGraphNodeCreator<NodeType> Creator(*Graph);
+		NodeType* const Node = Creator.CreateNode(false);
+		Prepare(*Node);
+		Creator.Finalize();
+		return Node;
+	}
+
+	UEdGraphNode* AddEvent(const TCHAR* Name, int32 Y = 0)
+	{
+		return Add<UK2Node_CustomEvent>([&](UK2Node_CustomEvent& Node)
+			{
+				Node.CustomFunctionName = Name;
+				Node.NodePosY = Y; });
+	}
+
+	UEdGraphNode* AddPrint(const TCHAR* Text)
+	{
+		const UClass* const Library = FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetSystemLibrary"));
+		UEdGraphNode* const Node = Add<UK2Node_CallFunction>([&](UK2Node_CallFunction& Call)
+			{ Call.SetFromFunction(Library->FindFunctionByName(TEXT("PrintString"))); });
+		Node->FindPinChecked(TEXT("InString"))->DefaultValue = Text;
+		return Node;
+	}
+
+	static void Link(UEdGraphNode* From, const FName& Output, UEdGraphNode* To, const FName& Input = UEdGraphSchema_K2::PN_Execute)
+	{
+		From->FindPinChecked(Output, EGPD_Output)->MakeLinkTo(To->FindPinChecked(Input, EGPD_Input));
+	}
+	static void Link(UEdGraphNode* From, UEdGraphNode* To) { Link(From, UEdGraphSchema_K2::PN_Then, To); }
+
+	/** The picture without its heading and the empty lines. */
+	std::vector<std::string> Draw(int32 Width = 80) const
+	{
+		std::vector<std::string> Texts;
+		for (const FStyledLine& Line : DrawGraph(*Graph, Width))
+		{
+			EXPECT_LE(Line.GetWidth(), Width);
+			if (!Line.IsEmpty())
+			{
+				Texts.emplace_back(TCHAR_TO_UTF8(*Line.ToPlainText().TrimEnd()));
+			}
+		}
+		Texts.erase(Texts.begin());
+		return Texts;
+	}
+
+	UBlueprint* Blueprint = nullptr;
+	UEdGraph* Graph = nullptr;
+};
+}
+
+TEST_F(GraphPicture, WaysStandBelowTheNodeInTheirOrder)
+{
+	UEdGraphNode* const Event = AddEvent(TEXT("Go"));
+	UEdGraphNode* const Branch = Add<UK2Node_IfThenElse>();
+	Link(Event, Branch);
+	Link(Branch, UEdGraphSchema_K2::PN_Then, AddPrint(TEXT("yes")));
+	Link(Branch, UEdGraphSchema_K2::PN_Else, AddPrint(TEXT("no")));
+	EXPECT_THAT(Draw(), ElementsAre("● Go", "│ Branch", "├▸ true", "│  └ Print String  In String: \"yes\"", "└▸ false", "   └ Print String  In String: \"no\""));
+}
+
+TEST_F(GraphPicture, ANodeOfSeveralWaysIsDrawnOnceAndPointedTo)
+{
+	UEdGraphNode* const Shared = AddPrint(TEXT("shared"));
+	Link(AddEvent(TEXT("First"), 0), Shared);
+	Link(AddEvent(TEXT("Second"), 100), Shared);
+	EXPECT_THAT(Draw(), ElementsAre("● First", "└ #1 Print String  In String: \"shared\"", "● Second", "└ ↪ #1 Print String"));
+}
+
+TEST_F(GraphPicture, ALoopComesToAnEnd)
+{
+	UEdGraphNode* const Event = AddEvent(TEXT("Go"));
+	UEdGraphNode* const First = AddPrint(TEXT("a"));
+	UEdGraphNode* const Second = AddPrint(TEXT("b"));
+	Link(Event, First);
+	Link(First, Second);
+	Link(Second, First);
+	EXPECT_THAT(Draw(), ElementsAre("● Go", "│ #1 Print String  In String: \"a\"", "│ Print String  In String: \"b\"", "└ ↪ #1 Print String"));
+}
+
+TEST_F(GraphPicture, WiresThroughReroutesLeadOn)
+{
+	UEdGraphNode* const Event = AddEvent(TEXT("Go"));
+	UK2Node_Knot* const Knot = Add<UK2Node_Knot>();
+	UEdGraphNode* const Print = AddPrint(TEXT("behind"));
+	Event->FindPinChecked(UEdGraphSchema_K2::PN_Then)->MakeLinkTo(Knot->GetInputPin());
+	Knot->PropagatePinType();
+	Knot->GetOutputPin()->MakeLinkTo(Print->FindPinChecked(UEdGraphSchema_K2::PN_Execute));
+	EXPECT_THAT(Draw(), ElementsAre("● Go", "└ Print String  In String: \"behind\""));
+}
+
+TEST_F(GraphPicture, WhatNeverRunsIsInThePictureToo)
+{
+	AddEvent(TEXT("Go"));
+	UEdGraphNode* const Lost = AddPrint(TEXT("lost"));
+	Link(Lost, AddPrint(TEXT("after it")));
+	UEdGraphNode* const Circle = AddPrint(TEXT("circle"));
+	Link(Circle, Circle);
+	EXPECT_THAT(Draw(), ElementsAre("● Go", "Never runs: nothing leads here", "│ Print String  In String: \"lost\"", "└ Print String  In String: \"after it\"", "│ Print String  In String: \"circle\"", "└ ↪ Print String"));
+}
+
+TEST_F(GraphPicture, CommentsStandWithWhatTheyAreAbout)
+{
+	UEdGraphNode* const Event = AddEvent(TEXT("Go"), 50);
+	Event->NodeComment = TEXT("on the\nnode");
+	UEdGraphNode_Comment* const Box = Add<UEdGraphNode_Comment>([](UEdGraphNode_Comment& Node)
+		{
+			Node.NodeComment = TEXT("The way in");
+			Node.NodeWidth = 400;
+			Node.NodeHeight = 300; });
+	ASSERT_NE(Box, nullptr);
+	EXPECT_THAT(Draw(), ElementsAre("# The way in", "● Go  # on the node"));
+}
+
+TEST_F(GraphPicture, ALongChainAndADeepTreeFitTheWidth)
+{
+	UEdGraphNode* Last = AddEvent(TEXT("Chain"));
+	for (int32 Index = 0; Index < 500; ++Index)
+	{
+		UEdGraphNode* const Next = AddPrint(*FString::FromInt(Index));
+		Link(Last, Next);
+		Last = Next;
+	}
+	Last = AddEvent(TEXT("Tree"), 100);
+	FName Output = UEdGraphSchema_K2::PN_Then;
+	for (int32 Depth = 0; Depth < 60; ++Depth)
+	{
+		UEdGraphNode* const Branch = Add<UK2Node_IfThenElse>();
+		Link(Last, Output, Branch);
+		Link(Branch, UEdGraphSchema_K2::PN_Then, AddPrint(TEXT("a text that is long enough to be broken at the edge")));
+		Last = Branch;
+		Output = UEdGraphSchema_K2::PN_Else;
+	}
+	const std::vector<std::string> Lines = Draw();
+	size_t NumPrints = 0;
+	for (const std::string& Line : Lines)
+	{
+		NumPrints += Line.find("In String:") != std::string::npos;
+	}
+	EXPECT_EQ(NumPrints, 560u) << "every node is drawn once";
+}
