@@ -46,7 +46,7 @@ TEST(Command, BadNamesGiveOneClearLine)
 	ExpectOneClearLine(RunVexel({"inspect", Dir + "/none.uasset"}), 1, "none.uasset");
 	ExpectOneClearLine(
 		RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Nowhere"}), 1, "no Blueprint '/Game/BP_Nowhere'");
-	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "door"}), 1, "'door' is not an asset path");
+	ExpectOneClearLine(RunVexel({"graph", "export", "--project", Dir, "--blueprint", "door"}), 1, "there is no Blueprint 'door'");
 	ExpectOneClearLine(
 		RunVexel({"graph", "export", "--project", Dir, "--blueprint", "/Game/BP_Door", "--graph", "Cellar"}), 1, "no graph 'Cellar'");
 	ExpectOneClearLine(RunVexel({"graph", "import", "--project", Dir, "--blueprint", "/Game/BP_New", Dir + "/none.t3d"}), 1, "none.t3d");

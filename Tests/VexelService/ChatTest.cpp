@@ -78,18 +78,20 @@ TEST_F(Chat, AnEditorsErrorIsPassedOnInPlainWords)
 		HasSubstr("I could not read `/Game/Nowhere`. The editor says: Invalid input: Blueprint not found: `/Game/Nowhere`"));
 }
 
-TEST_F(Chat, ItMeansTheBlueprintNamedLast)
+TEST_F(Chat, ItMeansTheBlueprintThatWasReadLast)
 {
 	StartAndLogIn();
 	FJson Body = ChatBody("chat-1", "Which variables does it have?");
+	const FJson ReadCall = {{"type", "tool_call"}, {"reply_id", "r"},
+		{"tool_info", {{"tool_name", "read_blueprint"}, {"info", {{"blueprint", "/Game/Lamps/BP_Lamp.BP_Lamp"}}}}}};
 	Body["messages"] = {
 		{{"role", "user"}, {"message_blocks", {{{"type", "text"}, {"content", "What does BP_Lamp do?"}}}}},
-		{{"role", "assistant"}, {"content", {{{"type", "text"}, {"text", "Nothing."}}}}},
+		{{"role", "assistant"}, {"content", {{{"type", "text"}, {"text", "Nothing."}}}}, {"message_blocks", {ReadCall}}},
 		{{"role", "user"}, {"content", "Which variables does it have?"}},
 	};
 	const auto Stream = AskWith(Body);
 	const FJson Call = TagInfo(Stream->WaitFor("/>"), "ToolCall");
-	EXPECT_EQ(Call["blueprint"], "/Game/BP_Lamp");
+	EXPECT_EQ(Call["blueprint"], "/Game/Lamps/BP_Lamp.BP_Lamp");
 	EXPECT_EQ(Reply("chat-1", Call["reply_id"], MakeDoor()), 200);
 	EXPECT_THAT(Stream->Finish(), HasSubstr("- **Health**: number, 100 by default"));
 }
