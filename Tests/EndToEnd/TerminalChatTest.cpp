@@ -8,7 +8,6 @@ namespace
 using testing::HasSubstr;
 using testing::Not;
 
-const std::string Prompt = "❯ ";
 const std::string CtrlC = "\x03";
 const std::string CtrlD = "\x04";
 
@@ -55,13 +54,12 @@ TEST_F(TerminalChat, RendersMarkdownAndEndsWithCtrlD)
 {
 	SetChat(FScriptedAnswer().Chunk("# A ti").Chunk("tle\n\nSome **bo").Chunk("ld** words\n\n- one\n- two\n\n| a | b |\n|---|---|\n| 1 | 2 |\n"));
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings());
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("Hello?\r");
 	ASSERT_TRUE(Chat.WaitFor("1 │ 2")) << Chat.GetText();
-	ASSERT_TRUE(Chat.WaitFor(Prompt));
+	ASSERT_TRUE(Chat.WaitForPrompt());
 	EXPECT_THAT(Chat.GetRaw(), HasSubstr("\x1b[0;1mbo"));
-	EXPECT_THAT(Chat.GetText(), HasSubstr("• two"));
-	EXPECT_THAT(Chat.GetText(), Not(HasSubstr("# A")));
+	EXPECT_THAT(Chat.GetText(), HasSubstr("❯ Hello?\n\nA title\n\nSome bold words\n\n• one\n• two\n\na │ b\n──┼──\n1 │ 2\n\n❯\n"));
 	Chat.Type(CtrlD);
 	EXPECT_EQ(Chat.Finish(), 0) << Chat.GetText();
 }
@@ -71,19 +69,19 @@ TEST_F(TerminalChat, CtrlCStopsAnAnswerAndClearsALine)
 	FScriptedGate Gate;
 	SetChat(FScriptedAnswer().Chunk("A beginning").WaitFor(Gate));
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings());
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("Hello?\r");
 	ASSERT_TRUE(Chat.WaitFor("A beginning")) << Chat.GetText();
 	Chat.Type(CtrlC);
-	EXPECT_TRUE(Chat.WaitFor("Stopped")) << Chat.GetText();
-	ASSERT_TRUE(Chat.WaitFor(Prompt));
+	EXPECT_TRUE(Chat.WaitFor("■ Stopped")) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt());
 	Gate.Open();
 	SetChat(FScriptedAnswer().Chunk("Whole."));
 	Chat.Type("/quit" + CtrlC);
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << "the line is gone, and the program is not";
+	ASSERT_TRUE(Chat.WaitForPrompt()) << "the line is gone, and the program is not";
 	Chat.Type("Again?\r");
 	EXPECT_TRUE(Chat.WaitFor("Whole.")) << Chat.GetText();
-	ASSERT_TRUE(Chat.WaitFor(Prompt));
+	ASSERT_TRUE(Chat.WaitForPrompt());
 	Chat.Type("/quit\r");
 	EXPECT_EQ(Chat.Finish(), 0);
 	const std::vector<nlohmann::json> History = ReadHistory();
@@ -93,11 +91,13 @@ TEST_F(TerminalChat, CtrlCStopsAnAnswerAndClearsALine)
 TEST_F(TerminalChat, SlashCommandsAnswerAndTabCompletesThem)
 {
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings());
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("/he\t\r");
 	EXPECT_TRUE(Chat.WaitFor("/blueprint PATH [GRAPH]")) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt());
 	Chat.Type("/bl\t/G\tBP_Do\tOpen\t\r");
 	EXPECT_TRUE(Chat.WaitFor("● Open Door")) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt());
 	Chat.Type("/mode\r");
 	EXPECT_TRUE(Chat.WaitFor("vexel_agent_lite")) << Chat.GetText();
 	Chat.Type("/undo\r");
@@ -114,13 +114,13 @@ TEST_F(TerminalChat, ANewWidthHoldsFromTheNextLineOn)
 	const std::string Words = "These words are more than thirty columns wide, all in all.";
 	SetChat(FScriptedAnswer().Chunk("First.\n\n").WaitFor(Gate).Chunk(Words));
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings(), 100);
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("Hello?\r");
 	ASSERT_TRUE(Chat.WaitFor("First.")) << Chat.GetText();
 	Chat.Resize(30, 24);
 	Gate.Open();
-	ASSERT_TRUE(Chat.WaitFor("all.")) << Chat.GetText();
-	EXPECT_THAT(Chat.GetText(), Not(HasSubstr("more than thirty columns wide")));
+	ASSERT_TRUE(Chat.WaitFor("all.\n")) << Chat.GetText();
+	EXPECT_THAT(Chat.GetText(), HasSubstr("These words are more than\nthirty columns wide, all in\nall.\n"));
 	Chat.Type(CtrlD);
 	Chat.Finish();
 }
@@ -131,7 +131,7 @@ TEST_F(TerminalChat, NoColorLeavesTheStylesOut)
 	FProgramSurroundings Surroundings = MakeTerminalSurroundings();
 	Surroundings.Environment.push_back("NO_COLOR=1");
 	FTerminalProgram Chat(MakeWords(), Surroundings);
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("Hello?\r");
 	ASSERT_TRUE(Chat.WaitFor("bold words")) << Chat.GetText();
 	Chat.Type(CtrlD);
@@ -148,7 +148,7 @@ TEST_F(TerminalChat, HostileTextSendsNoCodesOfItsOwn)
 									"2J &#27;[5m `\x1b[7m`\n\n```\n\x1b[8m\n```\n"
 									"<ToolCall info={\"tool_name\":\"x\\u001b[2J\",\"reply_id\":\"r\",\"blueprint\":\"\\u001b[9m\"}/>the end"));
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings());
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("Hello?\r");
 	ASSERT_TRUE(Chat.WaitFor("the end")) << Chat.GetText();
 	Chat.Type(CtrlD);
@@ -163,7 +163,7 @@ TEST_F(TerminalChat, WideAndCombiningCharactersKeepTheLayout)
 {
 	SetChat(FScriptedAnswer().Chunk("| 名前 | e\u0301te\u0301 |\n|---|---|\n| 扉 | x |\n\n完了 done"));
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings());
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("扉は？\r");
 	ASSERT_TRUE(Chat.WaitFor("完了 done")) << Chat.GetText();
 	EXPECT_THAT(Chat.GetText(), HasSubstr("扉   │ x"));
@@ -176,11 +176,11 @@ TEST_F(TerminalChat, AServiceThatFailsIsToldAndTheChatGoesOn)
 {
 	SetChat(FScriptedAnswer(500).Text("broken"));
 	FTerminalProgram Chat(MakeWords(), MakeTerminalSurroundings());
-	ASSERT_TRUE(Chat.WaitFor(Prompt)) << Chat.GetText();
+	ASSERT_TRUE(Chat.WaitForPrompt()) << Chat.GetText();
 	Chat.Type("Hello?\r");
 	EXPECT_TRUE(Chat.WaitFor("HTTP status 500")) << Chat.GetText();
 	SetChat(FScriptedAnswer().Chunk("Better."));
-	ASSERT_TRUE(Chat.WaitFor(Prompt));
+	ASSERT_TRUE(Chat.WaitForPrompt());
 	Chat.Type("And now?\r");
 	EXPECT_TRUE(Chat.WaitFor("Better.")) << Chat.GetText();
 	Chat.Type(CtrlD);

@@ -1,5 +1,9 @@
 #include "TerminalProgram.h"
 
+#include "Containers/StringConv.h"
+#include "StyledText.h"
+
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -21,34 +25,36 @@ winsize MakeSize(int Columns, int Rows)
 	return Size;
 }
 
-/** A text without the codes that act on a terminal. */
-std::string WithoutCodes(const std::string& Raw)
+const std::string Prompt = "\u276F";
+
+/** How many bytes at the end of a text may be the beginning of a code or a character. */
+size_t CountUnfinished(const std::string& Text)
 {
-	std::string Text;
-	for (size_t At = 0; At < Raw.size(); ++At)
+	const size_t Escape = Text.rfind('\x1b');
+	if (Escape != std::string::npos && Text.find_first_of("@ABCDGHJKPhlm", Escape + 2) == std::string::npos)
 	{
-		if (Raw[At] != '\x1b')
+		return Text.size() - Escape;
+	}
+	for (size_t Length = 1; Length <= std::min<size_t>(3, Text.size()); ++Length)
+	{
+		const unsigned char Byte = static_cast<unsigned char>(Text[Text.size() - Length]);
+		const size_t Needed = Byte >= 0xF0 ? 4 : Byte >= 0xE0 ? 3
+			: Byte >= 0xC0                                    ? 2
+															  : 1;
+		if (Needed > 1)
 		{
-			Text += Raw[At] == '\r' || Raw[At] == '\b' ? "" : std::string(1, Raw[At]);
-			continue;
-		}
-		++At;
-		if (At < Raw.size() && Raw[At] == '[')
-		{
-			while (At + 1 < Raw.size() && (Raw[At + 1] < '@' || Raw[At + 1] > '~'))
-			{
-				++At;
-			}
-			++At;
+			return Needed > Length ? Length : 0;
 		}
 	}
-	return Text;
+	return 0;
 }
 }
 
 FTerminalProgram::FTerminalProgram(std::vector<std::string> Arguments, const FProgramSurroundings& Surroundings, int Columns, int Rows)
-	: TimeoutSeconds(Surroundings.TimeoutSeconds)
+	: Screen(Columns, Rows)
+	, TimeoutSeconds(Surroundings.TimeoutSeconds)
 {
+	UseUtf8Locale();
 	Arguments.insert(Arguments.begin(), VEXEL_PROGRAM);
 	std::vector<char*> Words;
 	for (std::string& Word : Arguments)
@@ -106,6 +112,7 @@ void FTerminalProgram::Type(const std::string& Keys)
 void FTerminalProgram::Resize(int Columns, int Rows)
 {
 	const winsize Size = MakeSize(Columns, Rows);
+	Screen.Resize(Columns, Rows);
 	ioctl(Terminal, TIOCSWINSZ, &Size);
 }
 
@@ -123,27 +130,51 @@ bool FTerminalProgram::ReadMore()
 		return false;
 	}
 	Raw.append(Buffer, size_t(NumRead));
+	const std::string New = Raw.substr(Raw.size() - size_t(NumRead) - NumHeld);
+	NumHeld = CountUnfinished(New);
+	Screen.Write(FString(UTF8_TO_TCHAR(New.substr(0, New.size() - NumHeld).c_str())));
 	return true;
 }
 
-bool FTerminalProgram::WaitFor(const std::string& Text)
+bool FTerminalProgram::WaitUntil(const std::function<bool()>& Condition)
 {
 	const auto Deadline = std::chrono::steady_clock::now() + std::chrono::seconds(TimeoutSeconds);
 	bool bOpen = true;
-	while (true)
+	while (!Condition())
 	{
-		const size_t Found = GetText().find(Text, NumSeen);
-		if (Found != std::string::npos)
-		{
-			NumSeen = Found + Text.size();
-			return true;
-		}
 		if (!bOpen || std::chrono::steady_clock::now() > Deadline)
 		{
 			return false;
 		}
 		bOpen = ReadMore();
 	}
+	return true;
+}
+
+bool FTerminalProgram::WaitFor(const std::string& Text)
+{
+	return WaitUntil([&]
+		{ return GetText().find(Text) != std::string::npos; });
+}
+
+bool FTerminalProgram::WaitForPrompt()
+{
+	const bool bFound = WaitUntil([&]
+		{
+			const std::vector<std::string> Lines = Screen.GetLines();
+			return CountPrompts() > NumPrompts && Lines.back() == Prompt; });
+	NumPrompts = CountPrompts();
+	return bFound;
+}
+
+int FTerminalProgram::CountPrompts() const
+{
+	int Num = 0;
+	for (const std::string& Line : Screen.GetLines())
+	{
+		Num += Line.compare(0, Prompt.size(), Prompt) == 0;
+	}
+	return Num;
 }
 
 int FTerminalProgram::Finish()
@@ -164,5 +195,10 @@ int FTerminalProgram::Finish()
 
 std::string FTerminalProgram::GetText() const
 {
-	return WithoutCodes(Raw);
+	std::string Text;
+	for (const std::string& Line : Screen.GetLines())
+	{
+		Text += Line + "\n";
+	}
+	return Text;
 }

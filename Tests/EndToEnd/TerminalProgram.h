@@ -1,9 +1,11 @@
 #pragma once
 
 #include "Program.h"
+#include "TestScreen.h"
 
 #include <sys/types.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -20,25 +22,31 @@ public:
 	void Type(const std::string& Keys);
 	void Resize(int Columns, int Rows);
 
-	/** Waits until the program has written Text, codes left out, behind what earlier calls waited for; false when it never does. */
+	/** Waits until the terminal shows Text; false when it never does. */
 	bool WaitFor(const std::string& Text);
+	/** Waits until the program asks for a line, anew since the last call. */
+	bool WaitForPrompt();
 
 	/** Waits for the end of the program; its exit status, or 128 and the signal that ended it. -1 when it does not end. */
 	int Finish();
 
 	/** Everything that it wrote, codes and all. */
 	const std::string& GetRaw() const { return Raw; }
-	/** The same without codes. */
+	/** What the terminal shows and has shown, a line each. */
 	std::string GetText() const;
 
 private:
 	/** Reads what there is, waiting a little; false at the end. */
 	bool ReadMore();
+	bool WaitUntil(const std::function<bool()>& Condition);
+	int CountPrompts() const;
 
 	int Terminal = -1;
 	pid_t Process = -1;
 	std::string Raw;
-	/** Bytes of the text that WaitFor has passed. */
-	size_t NumSeen = 0;
+	FTestScreen Screen;
+	/** Bytes at the end of Raw that are only the beginning of a character or a code, which the screen waits for. */
+	size_t NumHeld = 0;
+	int NumPrompts = 0;
 	int TimeoutSeconds;
 };

@@ -23,6 +23,10 @@ void FTestScreen::Write(FStringView Text)
 		{
 			Column = 0;
 		}
+		else if (Text[0] == TEXT('\b'))
+		{
+			Column = std::max(0, Column - 1);
+		}
 		else if (Text[0] == TEXT('\n'))
 		{
 			BeginLine();
@@ -90,6 +94,19 @@ int32 FTestScreen::RunCode(FStringView Text)
 		case 'A':
 			Row = std::max(0, Row - std::max(Number, 1));
 			break;
+		case 'C':
+			Column += std::max(Number, 1);
+			break;
+		case 'D':
+			Column = std::max(0, Column - std::max(Number, 1));
+			break;
+		case 'P':
+			RemoveCells(size_t(std::max(Number, 1)));
+			break;
+		case '@':
+			CurrentLine().resize(std::max(CurrentLine().size(), size_t(Column)), " ");
+			CurrentLine().insert(CurrentLine().begin() + Column, size_t(std::max(Number, 1)), " ");
+			break;
 		case 'G':
 			Column = std::max(Number, 1) - 1;
 			break;
@@ -110,6 +127,24 @@ int32 FTestScreen::RunCode(FStringView Text)
 			break;
 	}
 	return std::min(End + 1, Text.Len());
+}
+
+void FTestScreen::RemoveCells(size_t Count)
+{
+	FCells& Line = CurrentLine();
+	const size_t Begin = std::min(Line.size(), size_t(Column));
+	Line.erase(Line.begin() + ptrdiff_t(Begin), Line.begin() + ptrdiff_t(std::min(Line.size(), Begin + Count)));
+}
+
+void FTestScreen::Resize(int32 NewColumns, int32 NewRows)
+{
+	Columns = NewColumns;
+	// Rows come and go at the top, where lines that have scrolled away come back from.
+	const int32 Cursor = GetCursorLine();
+	Rows = NewRows;
+	ScrolledAway = size_t(std::max(0, Cursor + 1 - Rows));
+	Row = Cursor - int32(ScrolledAway);
+	Lines.resize(std::max(Lines.size(), ScrolledAway + size_t(Rows)));
 }
 
 std::vector<std::string> FTestScreen::GetLines() const

@@ -12,6 +12,8 @@ public:
 	FTestScreen(int32 InColumns, int32 InRows);
 
 	void Write(FStringView Text);
+	/** Lines keep their text as it is. */
+	void Resize(int32 NewColumns, int32 NewRows);
 
 	/** All lines ever shown, those that scrolled away first, without blanks at their ends and empty lines at the end. */
 	std::vector<std::string> GetLines() const;
@@ -27,6 +29,7 @@ private:
 
 	void Put(FStringView Character);
 	void BeginLine();
+	void RemoveCells(size_t Count);
 	int32 RunCode(FStringView Text);
 	FCells& CurrentLine() { return Lines[ScrolledAway + size_t(Row)]; }
 

@@ -62,6 +62,15 @@ TEST_F(Assistant, ANameSaidOnceStandsForTheBlueprintThatWasRead)
 	EXPECT_THAT(Editor.GetCalls(), ElementsAre("read_blueprint /Game/Enemies/BP_Enemy.BP_Enemy"));
 }
 
+TEST_F(Assistant, AnEventMayNameItsBlueprintInPlainWords)
+{
+	EXPECT_THAT(Editor.Ask("What happens when play begins for the enemy?"), AllOf(HasSubstr("In **BP_Enemy**"), HasSubstr("destroys itself")));
+	Editor.Ask("What does BP_Player do?");
+	EXPECT_THAT(Editor.Ask("What happens when play begins?"), HasSubstr("In **BP_Player**"));
+	EXPECT_THAT(Editor.Ask("What happens when the door is told to open?"), HasSubstr("In **BP_Door**"));
+	EXPECT_THAT(Editor.Ask("What happens when the moon rises?"), HasSubstr("no event of **BP_Door**"));
+}
+
 TEST_F(Assistant, UsesOfAMemberAreFoundInAllBlueprints)
 {
 	const std::string Answer = Editor.Ask("Where is Open called?");

@@ -4,6 +4,7 @@
 #include "EdGraph/EdGraphPin.h"
 #include "EdGraphSchema_K2.h"
 #include "K2Node.h"
+#include "K2Node_GetArrayItem.h"
 #include "K2Node_Knot.h"
 #include "K2Node_Self.h"
 #include "K2Node_VariableGet.h"
@@ -138,7 +139,11 @@ private:
 		const FString Compact = Known && Node.ShouldDrawCompact() ? Known->GetCompactNodeTitle().ToString() : FString();
 		const bool bSign = !Compact.IsEmpty() && !FChar::IsAlpha(Compact[0]);
 		FString Text;
-		if (bSign && Operands.Num() >= 2)
+		if (Node.IsA<UK2Node_GetArrayItem>() && Operands.Num() == 2)
+		{
+			Text = WriteInput(*Operands[0], Depth + 1, true) + TEXT("[") + WriteInput(*Operands[1], Depth + 1, false) + TEXT("]");
+		}
+		else if (bSign && Operands.Num() >= 2)
 		{
 			const FString Inner = FString::JoinBy(Operands, *(TEXT(" ") + Compact + TEXT(" ")), [&](const UEdGraphPin* Pin)
 				{ return WriteInput(*Pin, Depth + 1, true); });

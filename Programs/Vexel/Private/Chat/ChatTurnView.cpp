@@ -3,10 +3,13 @@
 #include "Chat/ToolSummary.h"
 #include "Session.h"
 #include "VexelError.h"
+#include "VexelStringUtil.h"
 #include "VexelTools.h"
 
 namespace
 {
+constexpr int32 MaxAddressLength = 500;
+
 /** The tool table's icon of a tool; empty for one that it does not have. */
 FString FindIcon(const FString& ToolName)
 {
@@ -107,6 +110,12 @@ void FChatTurnView::OnBlock(const FString&, const FVexelChatMessageBlock& Block)
 	{
 		Answer += Block.GetText();
 		Display.AddError(Block.GetText());
+	}
+	else if (Block.GetType() == EVexelChatMessageBlockType::Image && Block.GetInfo())
+	{
+		FString Address;
+		Block.GetInfo()->TryGetStringField(TEXT("url"), Address);
+		Display.AddImage(FVexelStringUtil::ToPrintableLine(Address, MaxAddressLength));
 	}
 	else if (Block.GetType() == EVexelChatMessageBlockType::ToolCall && Block.GetInfo())
 	{

@@ -43,6 +43,13 @@ void FEventChatDisplay::AddError(const FString& Text)
 	WriteJsonLine(Event);
 }
 
+void FEventChatDisplay::AddImage(const FString& Address)
+{
+	const TSharedRef<FJsonObject> Event = MakeEvent(TEXT("image"));
+	Event->SetStringField(TEXT("address"), Address);
+	WriteJsonLine(Event);
+}
+
 void FEventChatDisplay::BeginTool(const FChatToolCall& Call)
 {
 	const TSharedRef<FJsonObject> Event = MakeEvent(TEXT("tool_started"));

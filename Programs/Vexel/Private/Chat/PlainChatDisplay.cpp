@@ -46,6 +46,11 @@ void FPlainChatDisplay::AddError(const FString& Text)
 	Write(Text);
 }
 
+void FPlainChatDisplay::AddImage(const FString& Address)
+{
+	WriteLine(TEXT("[picture: ") + Address + TEXT("]"));
+}
+
 void FPlainChatDisplay::BeginTool(const FChatToolCall& Call)
 {
 	WriteLine(TEXT("[") + Call.ProgressText + TEXT("]"));

@@ -110,6 +110,14 @@ void FTerminalChatDisplay::AddError(const FString& Text)
 	bChanged = true;
 }
 
+void FTerminalChatDisplay::AddImage(const FString& Address)
+{
+	FinishText();
+	EnterSection(ESection::Tools);
+	FinalLines.Append(WrapText(FStyledLine(Address, TextStyle::Code), GetWidth(), FStyledLine(TEXT("  ▣ "), TextStyle::Good), TEXT("    ")));
+	bChanged = true;
+}
+
 void FTerminalChatDisplay::BeginTool(const FChatToolCall& Call)
 {
 	FinishText();

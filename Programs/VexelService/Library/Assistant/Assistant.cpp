@@ -183,6 +183,10 @@ private:
 		{
 			return;
 		}
+		if (Question.Kind == EQuestionKind::WhenEvent && Question.Blueprint.empty() && TellEventOfSubject(Question))
+		{
+			return;
+		}
 		const FBlueprintModel* const Model = ReadNamedBlueprint(Question.Blueprint);
 		if (!Model)
 		{
@@ -197,6 +201,53 @@ private:
 				Channel.Say(Describe(Question, *OtherModel));
 			}
 		}
+	}
+
+	/**
+	 * "What happens when the enemy takes damage?" names a Blueprint in its own words. What the conversation is about goes first, when
+	 * it has such an event.
+	 */
+	bool TellEventOfSubject(const FQuestion& Question)
+	{
+		const std::optional<FAssetRow> TopicAsset = Topic.Blueprint.empty() ? std::nullopt : Assets.Find(Topic.Blueprint);
+		const FBlueprintModel* const TopicModel = TopicAsset ? Reader.ReadBlueprint(TopicAsset->Path) : nullptr;
+		const bool bTopicHasIt = TopicModel && FBlueprintDescriber(*TopicModel).HasEvent(Question.Subject);
+		const bool bOneIsOpen = !TopicModel && Request.OpenAssets.size() == 1;
+		if (bTopicHasIt || bOneIsOpen)
+		{
+			return false;
+		}
+		const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxListedAssets});
+		for (const FAssetRow& Row : List ? List->Rows : std::vector<FAssetRow>())
+		{
+			if (!NamesBlueprint(Question.Subject, Row.Name))
+			{
+				continue;
+			}
+			const FBlueprintModel* const Model = ReadBlueprint(Row.Path);
+			if (Model)
+			{
+				Channel.Say(FBlueprintDescriber(*Model).WhenEvent(Question.Subject));
+			}
+			return true;
+		}
+		return false;
+	}
+
+	/** Whether a word of a text is a Blueprint's name without its tag. */
+	static bool NamesBlueprint(std::string_view Text, const std::string& Name)
+	{
+		const std::string Bare = CompactName(IsPrefixedAssetName(Name) ? Name.substr(Name.find('_') + 1) : Name);
+		for (std::size_t Begin = 0; Begin < Text.size();)
+		{
+			const std::size_t End = std::min(Text.find(' ', Begin), Text.size());
+			if (CompactName(Text.substr(Begin, End - Begin)) == Bare)
+			{
+				return true;
+			}
+			Begin = End + 1;
+		}
+		return false;
 	}
 
 	bool TellMemberOfTopic(const std::string& Name)

@@ -272,6 +272,15 @@ std::string LooseNodes(const FBlueprintModel& Model, const FBlueprintGraph& Grap
 	return Unreached + (Unreached.empty() || Unread.empty() ? "" : "\n") + Unread;
 }
 
+// Where anything starts that somebody may ask for: events, functions and macros.
+std::vector<FBlueprintEntry> FindEntries(const FBlueprintModel& Model)
+{
+	std::vector<FBlueprintEntry> Entries = FindEvents(Model);
+	const std::vector<FBlueprintEntry> OwnFunctions = FindFunctions(Model);
+	Entries.insert(Entries.end(), OwnFunctions.begin(), OwnFunctions.end());
+	return Entries;
+}
+
 std::string NotConnectedNote(const std::vector<FBlueprintEntry>& Events)
 {
 	std::vector<std::string> Names;
@@ -340,12 +349,14 @@ std::string FBlueprintDescriber::Overview() const
 	return Sections.Finish();
 }
 
+bool FBlueprintDescriber::HasEvent(std::string_view Description) const
+{
+	return !MatchEntries(FindEntries(Model), Description).empty();
+}
+
 std::string FBlueprintDescriber::WhenEvent(std::string_view Description) const
 {
-	std::vector<FBlueprintEntry> Entries = FindEvents(Model);
-	const std::vector<FBlueprintEntry> OwnFunctions = FindFunctions(Model);
-	Entries.insert(Entries.end(), OwnFunctions.begin(), OwnFunctions.end());
-	const std::vector<FBlueprintEntry> Matches = MatchEntries(Entries, Description);
+	const std::vector<FBlueprintEntry> Matches = MatchEntries(FindEntries(Model), Description);
 	if (Matches.empty())
 	{
 		return "I find no event of " + Bold(Model.Name) + " for \"" + Shortened(std::string(Description), 100) + "\".\n\n" + Events();

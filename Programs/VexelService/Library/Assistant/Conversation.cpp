@@ -3,6 +3,7 @@
 #include "Assistant/Words.h"
 
 #include <utility>
+#include <vector>
 
 namespace VexelService
 {
@@ -47,6 +48,23 @@ FQuestion Repeat(const FQuestion& Named, const FTopic& Topic)
 	return Question;
 }
 
+// The Blueprint that was read for an answer is the one that was meant, however it was called. Several are no one's, but the one that
+// the conversation was about before may have been looked into first.
+void FollowReading(FTopic& Topic, std::vector<std::string> Paths)
+{
+	if (Paths.size() > 1)
+	{
+		std::erase(Paths, Topic.ReadPath);
+	}
+	if (Paths.size() != 1)
+	{
+		return;
+	}
+	Topic.ReadPath = Paths.front();
+	Topic.Blueprint = Paths.front();
+	Topic.Question.Blueprint = Topic.Question.Blueprint.empty() ? std::string() : Topic.Blueprint;
+}
+
 void Follow(FTopic& Topic, const FQuestion& Question)
 {
 	if (Question.Kind < EQuestionKind::Overview)
@@ -87,11 +105,9 @@ FTopic ReadTopic(const FChatRequest& Request)
 		{
 			Follow(Topic, ResolveReferences(ReadQuestion(Message.Text, OpenNames), Topic));
 		}
-		// The Blueprint that was read is the one that was meant, however it was called. Several are no one's.
-		else if (Message.Role == "assistant" && Message.ReadBlueprints.size() == 1)
+		else if (Message.Role == "assistant")
 		{
-			Topic.Blueprint = Message.ReadBlueprints.front();
-			Topic.Question.Blueprint = Topic.Question.Blueprint.empty() ? std::string() : Topic.Blueprint;
+			FollowReading(Topic, Message.ReadBlueprints);
 		}
 	}
 	return Topic;

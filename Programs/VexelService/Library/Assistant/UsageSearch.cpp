@@ -8,6 +8,7 @@
 #include "Assistant/Words.h"
 
 #include <algorithm>
+#include <map>
 
 namespace VexelService
 {
@@ -43,6 +44,26 @@ bool NodeNames(const FBlueprintNode& Node, std::string_view Name)
 	const bool bValue = std::any_of(Node.Pins.begin(), Node.Pins.end(), [Name](const FBlueprintPin& Pin)
 		{ return Pin.bInput && Pin.Links.empty() && ValueNames(Pin.Value, Name); });
 	return bValue || TypeNames(Node.Type, Name);
+}
+
+// Each text once, with how often it was there.
+std::vector<std::string> Folded(const std::vector<std::string>& Texts)
+{
+	std::vector<std::string> Different;
+	std::map<std::string, std::size_t> Counts;
+	for (const std::string& Text : Texts)
+	{
+		if (++Counts[Text] == 1)
+		{
+			Different.push_back(Text);
+		}
+	}
+	for (std::string& Text : Different)
+	{
+		const std::size_t Count = Counts[Text];
+		Text += Count > 1 ? " (" + std::to_string(Count) + " times)" : "";
+	}
+	return Different;
 }
 
 std::string InGraph(const FBlueprintGraph& Graph, const std::string& What)
@@ -100,7 +121,7 @@ std::vector<std::string> FindMentions(const FBlueprintModel& Model, std::string_
 			Mentions.push_back(InGraph(Graph, bRuns ? "the step \"" + Walker.Tell(Node) + "\"" : "the node \"" + NodeTitle(Node) + "\""));
 		}
 	}
-	return Mentions;
+	return Folded(Mentions);
 }
 
 std::vector<std::string> FindMemberUses(const FBlueprintModel& Model, std::string_view Name)
@@ -110,7 +131,7 @@ std::vector<std::string> FindMemberUses(const FBlueprintModel& Model, std::strin
 	{
 		Uses.push_back(InGraph(*Use.Graph, "the step \"" + Use.Step + "\" " + UseVerbs[static_cast<std::size_t>(Use.Kind)]));
 	}
-	return Uses;
+	return Folded(Uses);
 }
 
 }

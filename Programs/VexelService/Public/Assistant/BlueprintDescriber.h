@@ -21,6 +21,9 @@ public:
 	/** What the Blueprint is, what happens on each event, and what its functions and macros do. */
 	std::string Overview() const;
 
+	/** Whether an event or a function fits words like "a player overlaps it". */
+	bool HasEvent(std::string_view Description) const;
+
 	/** What happens on the events that fit words like "a player overlaps it". */
 	std::string WhenEvent(std::string_view Description) const;
 

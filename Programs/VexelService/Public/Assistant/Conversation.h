@@ -13,6 +13,8 @@ struct FTopic
 {
 	/** The Blueprint spoken of last, by its path or as the user named it; may be empty. */
 	std::string Blueprint;
+	/** The Blueprint that was read last for an answer of its own. */
+	std::string ReadPath;
 	/** The variable, function, event or other thing asked about last. */
 	std::string Subject;
 	/** The last question that was understood, without references to earlier ones. */
