@@ -1,4 +1,5 @@
 #include "Chat/ChatSession.h"
+#include "Chat/ConversationList.h"
 #include "Chat/EventChatDisplay.h"
 #include "Chat/PlainChatDisplay.h"
 #include "Chat/TerminalChatDisplay.h"
@@ -35,6 +36,7 @@ int32 RunOneMessage(UVexelChatSubsystem& Subsystem, const TSharedRef<FVexelChatC
 	FChatTurnView View(Subsystem, *Display);
 	const FQuietInput Quiet;
 	const TOptional<FString> Failure = View.RunTurn(Conversation->GetChatId(), Message);
+	ConversationList::NameAfterFirstQuestion(Subsystem, *Conversation);
 	return Failure ? ExitStatus::Failed : ExitStatus::Done;
 }
 
@@ -43,6 +45,7 @@ int32 RunOneDocument(UVexelChatSubsystem& Subsystem, const TSharedRef<FVexelChat
 	FSilentChatDisplay Display;
 	FChatTurnView View(Subsystem, Display);
 	const TOptional<FString> Failure = View.RunTurn(Conversation->GetChatId(), Message);
+	ConversationList::NameAfterFirstQuestion(Subsystem, *Conversation);
 	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
 	Document->SetStringField(TEXT("chat_id"), Conversation->GetChatId());
 	Document->SetStringField(TEXT("state"), ToWord(View.GetFinalState()));

@@ -40,8 +40,8 @@ public:
 	virtual void AddText(FStringView Text) {}
 	/** An error that the answer itself carries. */
 	virtual void AddError(const FString& Text) {}
-	/** A picture of the answer, by where it can be seen. */
-	virtual void AddImage(const FString& Address) {}
+	/** A picture of the answer is in a file now; that may be after the turn. */
+	virtual void AddImage(const FString& Path) {}
 	virtual void BeginTool(const FChatToolCall& Call) {}
 	virtual void EndTool(const FChatToolCall& Call, const FChatToolOutcome& Outcome) {}
 	/** Time has passed; called many times a second while a turn runs. */

@@ -117,6 +117,7 @@ void FChatSession::RunLine(const FString& Line)
 	if (!bCommand)
 	{
 		bLastSucceeded = !Turns.RunTurn(Conversation->GetChatId(), Line);
+		ConversationList::NameAfterFirstQuestion(Subsystem, *Conversation);
 		return;
 	}
 	const FCommand* const Command = FindCommand(Words[0]);
@@ -227,21 +228,26 @@ TOptional<FString> FChatSession::BeginNew(const TArray<FString>&)
 
 TOptional<FString> FChatSession::ListConversations(const TArray<FString>&)
 {
-	const TArray<TSharedRef<FVexelChatConversation>> Conversations = Subsystem.GetHistory();
-	Display.ShowResult(RunningCommand, ConversationList::MakeLines(Conversations, Conversation->GetChatId(), Display.GetWidth()),
-		ConversationList::MakeDocument(Conversations, Conversation->GetChatId()));
+	const TArray<FVexelChatHeader> Headers = Subsystem.GetHistory();
+	Display.ShowResult(RunningCommand, ConversationList::MakeLines(Headers, Conversation->GetChatId(), Display.GetWidth()),
+		ConversationList::MakeDocument(Headers, Conversation->GetChatId()));
 	return NullOpt;
 }
 
 TOptional<FString> FChatSession::OpenConversation(const TArray<FString>& Words)
 {
-	const TArray<TSharedRef<FVexelChatConversation>> Conversations = Subsystem.GetHistory();
-	const int32 Number = Words.Num() == 1 ? ReadNumber(Words[0], Conversations.Num()) : 0;
+	const TArray<FVexelChatHeader> Headers = Subsystem.GetHistory();
+	const int32 Number = Words.Num() == 1 ? ReadNumber(Words[0], Headers.Num()) : 0;
 	if (Number == 0)
 	{
 		return FString(TEXT("which conversation? Say '/open NUMBER' with a number of /list"));
 	}
-	Conversation = Conversations[Number - 1];
+	const TSharedPtr<FVexelChatConversation> Found = Subsystem.FindActiveConversation(Headers[Number - 1].ChatId);
+	if (!Found)
+	{
+		return FString::Printf(TEXT("conversation %d cannot be opened"), Number);
+	}
+	Conversation = Found.ToSharedRef();
 	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
 	Document->SetStringField(TEXT("chat_id"), Conversation->GetChatId());
 	Document->SetNumberField(TEXT("messages"), Conversation->GetMessages().Num());
@@ -278,14 +284,18 @@ TOptional<FString> FChatSession::ChangeMode(const TArray<FString>& Words)
 	{
 		return FString::Printf(TEXT("there is no mode '%s'; /mode shows those that there are"), *Wanted);
 	}
-	Conversation->SetChatMode(*Mode);
+	const TVexelExpected<void> Changed = Subsystem.SetChatMode(Conversation->GetChatId(), *Mode);
+	if (Changed.HasError())
+	{
+		return Changed.GetError().ToChainString();
+	}
 	Tell(TEXT("the mode is ") + Mode->DisplayText);
 	return NullOpt;
 }
 
 TOptional<FString> FChatSession::Revert(const TArray<FString>& Words)
 {
-	const TArray<ConversationList::FPlace> Checkpoints = ConversationList::FindCheckpoints(*Conversation);
+	const TArray<FVexelCheckpoint> Checkpoints = Conversation->GetCheckpoints();
 	if (Words.IsEmpty())
 	{
 		Display.ShowResult(RunningCommand, ConversationList::MakeCheckpointLines(*Conversation, Display.GetWidth()),
@@ -297,10 +307,10 @@ TOptional<FString> FChatSession::Revert(const TArray<FString>& Words)
 	{
 		return FString(TEXT("back to which answer? Say '/revert NUMBER' with a number of /revert"));
 	}
-	const ConversationList::FPlace& Place = Checkpoints[Number - 1];
-	if (!Conversation->RevertToBlockIndex(Place.MessageIndex, Place.BlockIndex))
+	const TVexelExpected<void> Reverted = Subsystem.RevertToCheckpoint(Conversation->GetChatId(), Checkpoints[Number - 1].Id);
+	if (Reverted.HasError())
 	{
-		return FString(TEXT("the conversation cannot be cut back"));
+		return Reverted.GetError().ToChainString();
 	}
 	Tell(FString::Printf(TEXT("back to how the conversation stood after answer %d; edits of the project stay, /undo takes them back"), Number));
 	return NullOpt;

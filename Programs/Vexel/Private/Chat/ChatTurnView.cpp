@@ -1,14 +1,15 @@
 #include "Chat/ChatTurnView.h"
 
 #include "Chat/ToolSummary.h"
+#include "HAL/PlatformTime.h"
 #include "Session.h"
 #include "VexelError.h"
-#include "VexelStringUtil.h"
 #include "VexelTools.h"
 
 namespace
 {
-constexpr int32 MaxAddressLength = 500;
+/** A picture that has not come by then is in the conversation's history later. */
+constexpr double ImageTimeoutSeconds = 3.0;
 
 /** The tool table's icon of a tool; empty for one that it does not have. */
 FString FindIcon(const FString& ToolName)
@@ -42,6 +43,7 @@ FChatTurnView::FChatTurnView(UVexelChatSubsystem& InSubsystem, IChatDisplay& InD
 	Events.OnBlockAdded.AddRaw(this, &FChatTurnView::OnBlock);
 	Events.OnToolStarted.AddRaw(this, &FChatTurnView::OnToolStarted);
 	Events.OnToolFinished.AddRaw(this, &FChatTurnView::OnToolFinished);
+	Events.OnImageStored.AddRaw(this, &FChatTurnView::OnImageStored);
 	Events.OnRequestStateChanged.AddRaw(this, &FChatTurnView::OnState);
 	Events.OnSaveFailed.AddRaw(this, &FChatTurnView::OnSaveFailed);
 }
@@ -53,6 +55,7 @@ FChatTurnView::~FChatTurnView()
 	Events.OnBlockAdded.RemoveAll(this);
 	Events.OnToolStarted.RemoveAll(this);
 	Events.OnToolFinished.RemoveAll(this);
+	Events.OnImageStored.RemoveAll(this);
 	Events.OnRequestStateChanged.RemoveAll(this);
 	Events.OnSaveFailed.RemoveAll(this);
 }
@@ -60,6 +63,7 @@ FChatTurnView::~FChatTurnView()
 TOptional<FString> FChatTurnView::RunTurn(const FString& ChatId, const FString& Message)
 {
 	OpenCalls.Reset();
+	NumAwaitedImages = 0;
 	Answer.Reset();
 	Failure.Reset();
 	SaveFailure.Reset();
@@ -84,6 +88,7 @@ TOptional<FString> FChatTurnView::RunTurn(const FString& ChatId, const FString& 
 	}
 	else if (GetFinalState() == EVexelChatRequestState::Succeeded)
 	{
+		WaitForImages();
 		Failure = SaveFailure;
 	}
 	Display.EndTurn(GetFinalState(), Failure);
@@ -96,6 +101,20 @@ bool FChatTurnView::WaitForEnd()
 		{
 			Display.Tick();
 			return FinalState.IsSet(); });
+}
+
+void FChatTurnView::WaitForImages()
+{
+	const double Deadline = FPlatformTime::Seconds() + ImageTimeoutSeconds;
+	// An interrupt stops the waiting alone: the answer is complete.
+	if (!FSession::TickUntil([&]
+			{
+				Display.Tick();
+				return NumAwaitedImages <= 0 || FPlatformTime::Seconds() > Deadline;
+			}))
+	{
+		FSession::TakeInterrupt();
+	}
 }
 
 void FChatTurnView::OnText(const FString&, FStringView Text)
@@ -111,11 +130,9 @@ void FChatTurnView::OnBlock(const FString&, const FVexelChatMessageBlock& Block)
 		Answer += Block.GetText();
 		Display.AddError(Block.GetText());
 	}
-	else if (Block.GetType() == EVexelChatMessageBlockType::Image && Block.GetInfo())
+	else if (!Block.Image_GetUrl().IsEmpty())
 	{
-		FString Address;
-		Block.GetInfo()->TryGetStringField(TEXT("url"), Address);
-		Display.AddImage(FVexelStringUtil::ToPrintableLine(Address, MaxAddressLength));
+		++NumAwaitedImages;
 	}
 	else if (Block.GetType() == EVexelChatMessageBlockType::ToolCall && Block.GetInfo())
 	{
@@ -151,6 +168,12 @@ void FChatTurnView::OnToolFinished(const FString&, const FString& ReplyId, const
 	const FChatToolCall Call = OpenCalls[Index];
 	OpenCalls.RemoveAt(Index);
 	Display.EndTool(Call, {.DoneText = DoneText, .Error = Error, .Edits = Error ? TArray<FString>() : SummarizeEdits(Call)});
+}
+
+void FChatTurnView::OnImageStored(const FString&, const FString&, const FString& Path)
+{
+	--NumAwaitedImages;
+	Display.AddImage(Path);
 }
 
 void FChatTurnView::OnState(const FString&, EVexelChatRequestState State, const FVexelError* Error)

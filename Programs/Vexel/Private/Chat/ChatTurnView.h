@@ -26,14 +26,18 @@ private:
 	void OnBlock(const FString& ChatId, const FVexelChatMessageBlock& Block);
 	void OnToolStarted(const FString& ChatId, const FString& ReplyId, const FString& ProgressText);
 	void OnToolFinished(const FString& ChatId, const FString& ReplyId, const FString& DoneText, const FVexelError* Error);
+	void OnImageStored(const FString& ChatId, const FString& AssetId, const FString& Path);
 	void OnState(const FString& ChatId, EVexelChatRequestState State, const FVexelError* Error);
 	void OnSaveFailed(const FString& ChatId, const FVexelError& Error);
 	bool WaitForEnd();
+	void WaitForImages();
 
 	UVexelChatSubsystem& Subsystem;
 	IChatDisplay& Display;
 	/** Calls whose tool has not finished. */
 	TArray<FChatToolCall> OpenCalls;
+	/** Images of the answer that are not in a file yet. */
+	int32 NumAwaitedImages = 0;
 	FString Answer;
 	FString Failure;
 	FString SaveFailure;

@@ -1,6 +1,7 @@
 #include "Chat/ConversationList.h"
 
 #include "MarkdownLines.h"
+#include "Subsystem/VexelChatSubsystem.h"
 #include "VexelStringUtil.h"
 
 namespace
@@ -8,16 +9,10 @@ namespace
 constexpr int32 MaxTitleLength = 80;
 
 /** "2026-11-21 17:40" on the user's clock; empty for an unset time. */
-FString FormatTime(const FVexelChatConversation& Conversation)
+FString FormatTime(const FVexelChatHeader& Header)
 {
-	const TOptional<FDateTime>& Time = Conversation.GetUpdateTime() ? Conversation.GetUpdateTime() : Conversation.GetCreationTime();
+	const TOptional<FDateTime>& Time = Header.UpdateTime ? Header.UpdateTime : Header.CreationTime;
 	return Time ? (*Time + (FDateTime::Now() - FDateTime::UtcNow())).ToString(TEXT("%Y-%m-%d %H:%M")) : FString();
-}
-
-FString GetText(const FVexelChatMessage& Message)
-{
-	return FString::JoinBy(Message.GetBlocks(), TEXT(""), [](const FVexelChatMessageBlock& Block)
-		{ return Block.GetType() == EVexelChatMessageBlockType::Text ? Block.GetText() : FString(); });
 }
 
 /** The user's question that a message answers, on one line. */
@@ -28,31 +23,24 @@ FString FindQuestion(const FVexelChatConversation& Conversation, int32 MessageIn
 	{
 		if (Messages[Index].GetRole() == EVexelChatRole::User && Messages[Index].IsValid())
 		{
-			return FVexelStringUtil::ToPrintableLine(GetText(Messages[Index]), MaxTitleLength);
+			return FVexelStringUtil::ToPrintableLine(Messages[Index].GetText(), MaxTitleLength);
 		}
 	}
 	return FString();
 }
-
-/** What a conversation began with; its title before anything was asked. */
-FString GetSubject(const FVexelChatConversation& Conversation)
-{
-	const FString Question = FindQuestion(Conversation, 0);
-	return Question.IsEmpty() ? Conversation.GetTitle() : Question;
-}
 }
 
-TArray<FStyledLine> ConversationList::MakeLines(const TArray<TSharedRef<FVexelChatConversation>>& Conversations, const FString& OpenChatId, int32 Width)
+TArray<FStyledLine> ConversationList::MakeLines(const TArray<FVexelChatHeader>& Headers, const FString& OpenChatId, int32 Width)
 {
 	TArray<FStyledLine> Lines;
-	for (const TSharedRef<FVexelChatConversation>& Conversation : Conversations)
+	for (int32 Index = 0; Index < Headers.Num(); ++Index)
 	{
-		const bool bOpen = Conversation->GetChatId().Equals(OpenChatId);
-		const int32 NumMessages = Conversation->GetMessages().Num();
+		const FVexelChatHeader& Header = Headers[Index];
+		const bool bOpen = Header.ChatId.Equals(OpenChatId);
 		FStyledLine Line(bOpen ? TEXT("● ") : TEXT("  "), TextStyle::Good);
-		Line.Add(FString::Printf(TEXT("%3d  "), Lines.Num() + 1), TextStyle::Accent).Add(FormatTime(*Conversation) + TEXT("  "), TextStyle::Faint);
-		Line.Add(GetSubject(*Conversation), bOpen ? TextStyle::Strong : TextStyle::Plain);
-		Line.Add(FString::Printf(TEXT("  %d %s"), NumMessages, NumMessages == 1 ? TEXT("message") : TEXT("messages")), TextStyle::Faint);
+		Line.Add(FString::Printf(TEXT("%3d  "), Index + 1), TextStyle::Accent).Add(FormatTime(Header) + TEXT("  "), TextStyle::Faint);
+		Line.Add(Header.Title, bOpen ? TextStyle::Strong : TextStyle::Plain);
+		Line.Add(FString::Printf(TEXT("  %d %s"), Header.NumMessages, Header.NumMessages == 1 ? TEXT("message") : TEXT("messages")), TextStyle::Faint);
 		Lines.Add(Line.CutTo(Width));
 	}
 	if (Lines.IsEmpty())
@@ -62,17 +50,17 @@ TArray<FStyledLine> ConversationList::MakeLines(const TArray<TSharedRef<FVexelCh
 	return Lines;
 }
 
-TSharedRef<FJsonObject> ConversationList::MakeDocument(const TArray<TSharedRef<FVexelChatConversation>>& Conversations, const FString& OpenChatId)
+TSharedRef<FJsonObject> ConversationList::MakeDocument(const TArray<FVexelChatHeader>& Headers, const FString& OpenChatId)
 {
 	TArray<TSharedPtr<FJsonValue>> Rows;
-	for (const TSharedRef<FVexelChatConversation>& Conversation : Conversations)
+	for (const FVexelChatHeader& Header : Headers)
 	{
 		const TSharedRef<FJsonObject> Row = MakeShared<FJsonObject>();
-		Row->SetStringField(TEXT("chat_id"), Conversation->GetChatId());
-		Row->SetStringField(TEXT("title"), GetSubject(*Conversation));
-		Row->SetStringField(TEXT("mode"), Conversation->GetChatMode().ChatMode);
-		Row->SetNumberField(TEXT("messages"), Conversation->GetMessages().Num());
-		Row->SetBoolField(TEXT("open"), Conversation->GetChatId().Equals(OpenChatId));
+		Row->SetStringField(TEXT("chat_id"), Header.ChatId);
+		Row->SetStringField(TEXT("title"), Header.Title);
+		Row->SetStringField(TEXT("mode"), Header.ChatMode);
+		Row->SetNumberField(TEXT("messages"), Header.NumMessages);
+		Row->SetBoolField(TEXT("open"), Header.ChatId.Equals(OpenChatId));
 		Rows.Add(MakeShared<FJsonValueObject>(Row));
 	}
 	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
@@ -84,7 +72,7 @@ TArray<FStyledLine> ConversationList::MakeLastExchange(const FVexelChatConversat
 {
 	TArray<FStyledLine> Lines;
 	const TArray<FVexelChatMessage>& Messages = Conversation.GetMessages();
-	Lines.Add(FStyledLine(GetSubject(Conversation), TextStyle::Strong).CutTo(Width));
+	Lines.Add(FStyledLine(Conversation.GetTitle(), TextStyle::Strong).CutTo(Width));
 	if (Messages.IsEmpty())
 	{
 		return Lines;
@@ -95,30 +83,15 @@ TArray<FStyledLine> ConversationList::MakeLastExchange(const FVexelChatConversat
 	if (Messages.Last().GetRole() == EVexelChatRole::Assistant)
 	{
 		Lines.AddDefaulted();
-		Lines.Append(RenderMarkdown(GetText(Messages.Last()), Width));
+		Lines.Append(RenderMarkdown(Messages.Last().GetText(), Width));
 	}
 	return Lines;
-}
-
-TArray<ConversationList::FPlace> ConversationList::FindCheckpoints(const FVexelChatConversation& Conversation)
-{
-	TArray<FPlace> Places;
-	const TArray<FVexelChatMessage>& Messages = Conversation.GetMessages();
-	for (int32 Message = 0; Message < Messages.Num(); ++Message)
-	{
-		const int32 Block = Messages[Message].FindLastCheckpoint();
-		if (Block != INDEX_NONE)
-		{
-			Places.Add({Message, Block});
-		}
-	}
-	return Places;
 }
 
 TArray<FStyledLine> ConversationList::MakeCheckpointLines(const FVexelChatConversation& Conversation, int32 Width)
 {
 	TArray<FStyledLine> Lines;
-	for (const FPlace& Checkpoint : FindCheckpoints(Conversation))
+	for (const FVexelCheckpoint& Checkpoint : Conversation.GetCheckpoints())
 	{
 		FStyledLine Line(FString::Printf(TEXT("%3d  "), Lines.Num() + 1), TextStyle::Accent);
 		Lines.Add(Line.Add(FindQuestion(Conversation, Checkpoint.MessageIndex)).CutTo(Width));
@@ -133,13 +106,30 @@ TArray<FStyledLine> ConversationList::MakeCheckpointLines(const FVexelChatConver
 TSharedRef<FJsonObject> ConversationList::MakeCheckpointDocument(const FVexelChatConversation& Conversation)
 {
 	TArray<TSharedPtr<FJsonValue>> Rows;
-	for (const FPlace& Checkpoint : FindCheckpoints(Conversation))
+	for (const FVexelCheckpoint& Checkpoint : Conversation.GetCheckpoints())
 	{
 		const TSharedRef<FJsonObject> Row = MakeShared<FJsonObject>();
+		Row->SetStringField(TEXT("checkpoint_id"), Checkpoint.Id);
 		Row->SetStringField(TEXT("question"), FindQuestion(Conversation, Checkpoint.MessageIndex));
 		Rows.Add(MakeShared<FJsonValueObject>(Row));
 	}
 	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
 	Document->SetArrayField(TEXT("answers"), Rows);
 	return Document;
+}
+
+void ConversationList::NameAfterFirstQuestion(UVexelChatSubsystem& Subsystem, const FVexelChatConversation& Conversation)
+{
+	const TArray<FVexelChatMessage>& Messages = Conversation.GetMessages();
+	// Its first turn is over; from then on a title may be the user's own.
+	if (Messages.Num() > 2 || Messages.IsEmpty())
+	{
+		return;
+	}
+	const FString Question = FindQuestion(Conversation, 0);
+	if (!Question.IsEmpty() && !Conversation.GetTitle().Equals(Question))
+	{
+		// A question without letters gives no title; the list then shows the old one.
+		(void)Subsystem.SetTitle(Conversation.GetChatId(), Question);
+	}
 }

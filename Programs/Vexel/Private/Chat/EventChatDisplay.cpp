@@ -43,10 +43,10 @@ void FEventChatDisplay::AddError(const FString& Text)
 	WriteJsonLine(Event);
 }
 
-void FEventChatDisplay::AddImage(const FString& Address)
+void FEventChatDisplay::AddImage(const FString& Path)
 {
 	const TSharedRef<FJsonObject> Event = MakeEvent(TEXT("image"));
-	Event->SetStringField(TEXT("address"), Address);
+	Event->SetStringField(TEXT("path"), Path);
 	WriteJsonLine(Event);
 }
 

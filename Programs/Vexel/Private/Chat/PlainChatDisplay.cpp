@@ -46,9 +46,9 @@ void FPlainChatDisplay::AddError(const FString& Text)
 	Write(Text);
 }
 
-void FPlainChatDisplay::AddImage(const FString& Address)
+void FPlainChatDisplay::AddImage(const FString& Path)
 {
-	WriteLine(TEXT("[picture: ") + Address + TEXT("]"));
+	WriteLine(TEXT("[picture: ") + Path + TEXT("]"));
 }
 
 void FPlainChatDisplay::BeginTool(const FChatToolCall& Call)

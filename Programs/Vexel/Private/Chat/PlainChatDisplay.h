@@ -9,7 +9,7 @@ public:
 	virtual void BeginTurn(const FString& Message) override;
 	virtual void AddText(FStringView Text) override;
 	virtual void AddError(const FString& Text) override;
-	virtual void AddImage(const FString& Address) override;
+	virtual void AddImage(const FString& Path) override;
 	virtual void BeginTool(const FChatToolCall& Call) override;
 	virtual void EndTool(const FChatToolCall& Call, const FChatToolOutcome& Outcome) override;
 	virtual void EndTurn(EVexelChatRequestState State, const FString& Failure) override;

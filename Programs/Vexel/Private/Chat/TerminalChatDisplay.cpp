@@ -110,11 +110,11 @@ void FTerminalChatDisplay::AddError(const FString& Text)
 	bChanged = true;
 }
 
-void FTerminalChatDisplay::AddImage(const FString& Address)
+void FTerminalChatDisplay::AddImage(const FString& Path)
 {
 	FinishText();
 	EnterSection(ESection::Tools);
-	FinalLines.Append(WrapText(FStyledLine(Address, TextStyle::Code), GetWidth(), FStyledLine(TEXT("  ▣ "), TextStyle::Good), TEXT("    ")));
+	FinalLines.Append(WrapText(FStyledLine(Path, TextStyle::Code), GetWidth(), FStyledLine(TEXT("  ▣ "), TextStyle::Good), TEXT("    ")));
 	bChanged = true;
 }
 
