@@ -1,6 +1,6 @@
+#include "History.h"
 #include "Program.h"
 
-#include <fstream>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
@@ -9,30 +9,6 @@ namespace
 {
 using testing::HasSubstr;
 using testing::Not;
-
-std::string ReadFile(const std::filesystem::path& Path)
-{
-	std::ifstream Stream(Path, std::ios::binary);
-	return std::string(std::istreambuf_iterator<char>(Stream), {});
-}
-
-/** The stored conversations of a project, read from their files. */
-std::vector<nlohmann::json> ReadHistory(const std::filesystem::path& Project)
-{
-	std::vector<nlohmann::json> Conversations;
-	const std::filesystem::path Directory = Project / "Saved/ChatHistories";
-	if (std::filesystem::exists(Directory))
-	{
-		for (const auto& Entry : std::filesystem::directory_iterator(Directory))
-		{
-			if (Entry.path().extension() == ".json")
-			{
-				Conversations.push_back(nlohmann::json::parse(ReadFile(Entry.path()), nullptr, false));
-			}
-		}
-	}
-	return Conversations;
-}
 
 /** A Blueprint node text, as the editor copies it: BeginPlay prints a greeting. */
 std::string MakeGreetingText(const std::string& Greeting)

@@ -1,10 +1,9 @@
 #pragma once
 
+#include "History.h"
 #include "Program.h"
 #include "ScriptedHttpServer.h"
 
-#include <filesystem>
-#include <fstream>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 #include <optional>
@@ -78,16 +77,7 @@ protected:
 		return Token;
 	}
 
-	std::vector<nlohmann::json> ReadHistory() const
-	{
-		std::vector<nlohmann::json> Conversations;
-		for (const auto& Entry : std::filesystem::directory_iterator(Project.GetPath() / "Saved/ChatHistories"))
-		{
-			std::ifstream Stream(Entry.path());
-			Conversations.push_back(nlohmann::json::parse(Stream, nullptr, false));
-		}
-		return Conversations;
-	}
+	std::vector<nlohmann::json> ReadStored() const { return ReadHistory(Project.GetPath()); }
 
 	FScriptedHttpServer Server;
 	FSampleProjectCopy Project;

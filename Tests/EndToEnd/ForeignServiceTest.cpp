@@ -133,7 +133,7 @@ TEST_F(ForeignService, EachBadAnswerGivesOneClearLineAndKeepsTheConversation)
 	}
 	SetChat(FScriptedAnswer().Chunk("Good day."));
 	EXPECT_EQ(Chat(std::nullopt, {"--continue"}).Status, 0);
-	const std::vector<nlohmann::json> History = ReadHistory();
+	const std::vector<nlohmann::json> History = ReadStored();
 	ASSERT_EQ(History.size(), 1u);
 	size_t NumPrompts = 0;
 	for (const nlohmann::json& Message : History[0]["Messages"])
@@ -232,10 +232,10 @@ TEST_F(ForeignService, AFullDiskKeepsTheOldConversationWhole)
 	const std::string Answer(3000, 'a');
 	SetChat(FScriptedAnswer().Chunk(Answer));
 	ASSERT_EQ(Chat().Status, 0);
-	const std::vector<nlohmann::json> Before = ReadHistory();
+	const std::vector<nlohmann::json> Before = ReadStored();
 	const FProgramResult Result = RunVexelWithSmallFiles(
 		{"chat", "--project", Project.GetPath(), "--service", GetUrl(), "--continue", "--message", "And now?"}, MakeSurroundings(std::nullopt));
 	ExpectOneClearLine(Result, 1, "cannot be written; the disk may be full");
 	EXPECT_EQ(Result.Output, Answer + "\n") << "the answer is shown all the same";
-	EXPECT_EQ(ReadHistory(), Before);
+	EXPECT_EQ(ReadStored(), Before);
 }

@@ -84,7 +84,7 @@ TEST_F(TerminalChat, CtrlCStopsAnAnswerAndClearsALine)
 	ASSERT_TRUE(Chat.WaitForPrompt());
 	Chat.Type("/quit\r");
 	EXPECT_EQ(Chat.Finish(), 0);
-	const std::vector<nlohmann::json> History = ReadHistory();
+	const std::vector<nlohmann::json> History = ReadStored();
 	ASSERT_EQ(History.size(), 1u);
 }
 
@@ -169,7 +169,7 @@ TEST_F(TerminalChat, WideAndCombiningCharactersKeepTheLayout)
 	EXPECT_THAT(Chat.GetText(), HasSubstr("扉   │ x"));
 	Chat.Type(CtrlD);
 	EXPECT_EQ(Chat.Finish(), 0);
-	EXPECT_EQ(ReadHistory()[0]["Messages"][0]["message_blocks"][0]["content"], "扉は？");
+	EXPECT_EQ(ReadStored()[0]["Messages"][0]["message_blocks"][0]["content"], "扉は？");
 }
 
 TEST_F(TerminalChat, AServiceThatFailsIsToldAndTheChatGoesOn)

@@ -37,6 +37,7 @@ TEST_F(Assistant, MistypedAndPlainNamesMeanTheNearestAndAreNamed)
 	{
 		EXPECT_THAT(Editor.Ask(Question), AllOf(HasSubstr("to mean **BP_Door**"), HasSubstr("**BP_Door** is a Blueprint"))) << Question;
 	}
+	EXPECT_THAT(Editor.Ask("What does the door actor do?"), HasSubstr("**BP_Door** is a Blueprint"));
 	const std::string Answer = Editor.Ask("What does BP_Submarine do?");
 	EXPECT_THAT(Answer, HasSubstr("I find no asset called \"BP_Submarine\""));
 	EXPECT_THAT(Answer, HasSubstr("**BP_Player**, **BP_Door** and **BP_Enemy**"));
@@ -97,7 +98,7 @@ TEST_F(Assistant, TheProjectIsToldWithWhatItHas)
 		AllOf(StartsWith("**Harbor** is a project open in engine 5.7. A quiet place."), HasSubstr("4 assets: 3 of class Blueprint and 1 of class World"),
 			HasSubstr("`Config/DefaultEngine.ini`")));
 	EXPECT_THAT(Editor.Ask("Which Blueprints are there?"),
-		AllOf(StartsWith("The project has 3 Blueprints:"), HasSubstr("- **BP_Door** (Blueprint, a Actor): `/Game/Doors/BP_Door`")));
+		AllOf(StartsWith("The project has 3 Blueprints:"), HasSubstr("- **BP_Door** (Blueprint, an Actor): `/Game/Doors/BP_Door`")));
 	EXPECT_THAT(Editor.Ask("list all levels"), AllOf(HasSubstr("**L_Harbor** (World)"), Not(HasSubstr("BP_Door"))));
 	EXPECT_THAT(Editor.Ask("What do all the Blueprints do?"),
 		AllOf(HasSubstr("- **BP_Door** is a Blueprint"), HasSubstr("- **BP_Enemy** is a Blueprint"), HasSubstr("- **BP_Player** is a Blueprint")));

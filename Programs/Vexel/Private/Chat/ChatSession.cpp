@@ -77,6 +77,8 @@ const FChatSession::FCommand* FChatSession::FindCommand(const FString& Name)
 
 int32 FChatSession::Run()
 {
+	// For the whole chat, so that nothing typed between two lines is taken by the terminal itself.
+	FQuietInput Quiet;
 	FLineReader Reader(
 		GetLineHistoryPath(), [this](const FString& Line)
 		{ return Complete(Line); },
@@ -94,6 +96,7 @@ int32 FChatSession::Run()
 	{
 		FString Line;
 		const EReadLine Result = Reader.ReadLine(MakePrompt(), Line);
+		Quiet.Renew();
 		if (Result == EReadLine::End)
 		{
 			break;
@@ -101,7 +104,6 @@ int32 FChatSession::Run()
 		Line = Line.TrimStartAndEnd();
 		if (Result == EReadLine::Line && !Line.IsEmpty())
 		{
-			const FQuietInput Quiet;
 			RunLine(Line);
 		}
 	}

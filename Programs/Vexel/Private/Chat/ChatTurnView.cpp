@@ -110,8 +110,7 @@ void FChatTurnView::WaitForImages()
 	if (!FSession::TickUntil([&]
 			{
 				Display.Tick();
-				return NumAwaitedImages <= 0 || FPlatformTime::Seconds() > Deadline;
-			}))
+				return NumAwaitedImages <= 0 || FPlatformTime::Seconds() > Deadline; }))
 	{
 		FSession::TakeInterrupt();
 	}

@@ -263,14 +263,22 @@ struct FQuietInput::FState
 FQuietInput::FQuietInput()
 {
 	termios Mode = {};
-	if (!isatty(STDIN_FILENO) || tcgetattr(STDIN_FILENO, &Mode) != 0)
+	if (isatty(STDIN_FILENO) && tcgetattr(STDIN_FILENO, &Mode) == 0)
 	{
-		return;
+		State = MakeUnique<FState>();
+		State->Before = Mode;
+		Renew();
 	}
-	State = MakeUnique<FState>();
-	State->Before = Mode;
-	Mode.c_lflag &= ~tcflag_t(ECHO | ICANON);
-	tcsetattr(STDIN_FILENO, TCSADRAIN, &Mode);
+}
+
+void FQuietInput::Renew()
+{
+	termios Mode = {};
+	if (State && tcgetattr(STDIN_FILENO, &Mode) == 0)
+	{
+		Mode.c_lflag &= ~tcflag_t(ECHO | ICANON);
+		tcsetattr(STDIN_FILENO, TCSADRAIN, &Mode);
+	}
 }
 
 FQuietInput::~FQuietInput()

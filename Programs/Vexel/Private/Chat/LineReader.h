@@ -54,6 +54,9 @@ public:
 	~FQuietInput();
 	UE_NONCOPYABLE(FQuietInput)
 
+	/** The same again, after a line was read: the line editor leaves the terminal as a shell wants it. */
+	void Renew();
+
 private:
 	struct FState;
 	TUniquePtr<FState> State;

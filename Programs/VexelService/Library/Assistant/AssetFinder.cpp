@@ -80,9 +80,11 @@ std::optional<FAssetRow> FAssetFinder::Find(const std::string& Name)
 		Names.push_back(Row.Name);
 	}
 	const std::optional<FNameMatch> Match = FindName(Said, Names);
+	const std::size_t LastBlank = Said.rfind(' ');
 	if (!Match)
 	{
-		return std::nullopt;
+		// "The time of day widget" says with its last word what it is.
+		return LastBlank == std::string::npos ? std::nullopt : Find(Said.substr(0, LastBlank));
 	}
 	const FAssetRow& Found = List->Rows[Match->Index];
 	if (!Match->bExact)

@@ -177,7 +177,7 @@ std::string DescribeAssets(const FAssetList& Assets, std::string_view Kind)
 	for (std::size_t Index = 0; Index < std::min(Assets.Rows.size(), MaxListed); ++Index)
 	{
 		const FAssetRow& Row = Assets.Rows[Index];
-		const std::string Class = Row.ParentClass.empty() ? Row.Class : Row.Class + ", a " + Row.ParentClass;
+		const std::string Class = Row.ParentClass.empty() ? Row.Class : Row.Class + ", " + WithArticle(Row.ParentClass);
 		Text += "- " + Bold(Row.Name) + " (" + Class + "): " + Code(Row.Path.substr(0, Row.Path.rfind('.'))) + "\n";
 	}
 	const std::size_t Shown = std::min(Assets.Rows.size(), MaxListed);

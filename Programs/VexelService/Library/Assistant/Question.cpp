@@ -165,6 +165,9 @@ FQuestion ToQuestion(const FWords& Words, FReading Reading)
 	Question.Subject = SubjectWithout(Words, Reading);
 	if (!Reading.Blueprint)
 	{
+		// A name in several words: "what does the level load button do?".
+		const bool bNameInWords = Question.Kind == EQuestionKind::Overview && !Question.Subject.empty();
+		Question.Blueprint = bNameInWords ? std::exchange(Question.Subject, std::string()) : std::string();
 		return Question;
 	}
 	Question.Blueprint = Words[*Reading.Blueprint].Text;

@@ -174,6 +174,8 @@ constexpr FPatternRow PatternRows[] = {
 	{EQuestionKind::Overview, "explain|describe what {bp} does"},
 	{EQuestionKind::Overview, "explain|describe|summarize|summarise|read|inspect {bp}"},
 	{EQuestionKind::Overview, "about {bp}"},
+	{EQuestionKind::Overview, "what does|do {subject} do"},
+	{EQuestionKind::Overview, "explain|describe {subject}"},
 	{EQuestionKind::WhenEvent, "what happens {subject} in {bp}"},
 	{EQuestionKind::WhenEvent, "what does {bp} do {subject}"},
 	{EQuestionKind::Function, "how does {bp} {subject}"},

@@ -169,6 +169,11 @@ void FUsageAnswer::TellUsesOfMember(const std::string& Said)
 	{
 		Text = "I take " + Quoted(Said) + " to mean " + Bold(Members[Match->Index]) + ".\n\n" + ListUses(Models, Members[Match->Index]);
 	}
+	if (Text.empty() && Assets.Find(Said))
+	{
+		TellUsesOfAsset(Said);
+		return;
+	}
 	if (Text.empty())
 	{
 		Text = "I find nothing called " + Quoted(Said) + " in " + CountOf(Models.size(), "Blueprint") +
