@@ -91,7 +91,7 @@ TEST(Chat, TakesSeveralQuestionsFromAPipe)
 TEST(Chat, TellsWhichBlueprintIsMissing)
 {
 	const FSampleProjectCopy Project;
-	const FProgramResult Result = RunVexel({"chat", "--project", Project.GetPath(), "--message", "What does BP_Nowhere do?"});
+	const FProgramResult Result = RunVexel({"chat", "--project", Project.GetPath(), "--message", "What does /Game/BP_Nowhere do?"});
 	EXPECT_EQ(Result.Status, 0);
 	EXPECT_THAT(Result.Output, HasSubstr("BP_Nowhere"));
 	EXPECT_THAT(Result.Output, HasSubstr("[failed: Invalid input: Blueprint not found: `/Game/BP_Nowhere`]"));

@@ -88,7 +88,7 @@ int32 FChatSession::Run()
 	{
 		FStyledLine Greeting(TEXT("Vexel"), TextStyle::Title);
 		Greeting.Add(TEXT(" in ") + FString(FApp::GetProjectName()), TextStyle::Strong);
-		Greeting.Add(TEXT("  Ask about a Blueprint. /help shows the commands, Ctrl-C stops an answer, Ctrl-D ends."), TextStyle::Faint);
+		Greeting.Add(TEXT("  Ask about a Blueprint or the project; /help shows commands."), TextStyle::Faint);
 		FConsole::WriteLines(WrapText(Greeting, FConsole::GetSize().X - 1));
 		FConsole::WriteLines({FStyledLine()});
 	}
