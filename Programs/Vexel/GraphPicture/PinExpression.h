@@ -4,7 +4,6 @@
 
 class UEdGraphNode;
 class UEdGraphPin;
-class UK2Node;
 
 /** The values that flow into nodes, written as expressions: "Health - Damage", "Get Actor Location(Target: Door)". */
 namespace PinExpression

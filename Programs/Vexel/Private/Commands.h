@@ -3,6 +3,11 @@
 #include "Arguments.h"
 #include "CoreMinimal.h"
 
+class FJsonObject;
+class FStyledLine;
+class UBlueprint;
+class UEdGraph;
+
 /** One command of the program: its words, its options, and the function that carries it out and answers the exit status. */
 struct FCommandRow
 {
@@ -32,10 +37,10 @@ int32 RunWhoamiCommand(const FArguments& Arguments);
 TOptional<FString> ReadFileOrInput(const FString& Path);
 
 /** Writes a JSON object to standard output over several lines. */
-void WriteJson(const TSharedRef<class FJsonObject>& Object);
+void WriteJson(const TSharedRef<FJsonObject>& Object);
 
 /** Writes a JSON object to standard output on one line. */
 void WriteJsonLine(const TSharedRef<FJsonObject>& Object);
 
 /** A picture of a graph, as DrawGraph made it, for another program. */
-TSharedRef<FJsonObject> MakeGraphDocument(const class UBlueprint& Blueprint, const class UEdGraph& Graph, const TArray<class FStyledLine>& Lines);
+TSharedRef<FJsonObject> MakeGraphDocument(const UBlueprint& Blueprint, const UEdGraph& Graph, const TArray<FStyledLine>& Lines);

@@ -2,6 +2,8 @@
 
 #include "CoreMinimal.h"
 
+class FStyledLine;
+
 /** Exit statuses of every command. */
 namespace ExitStatus
 {
@@ -20,7 +22,7 @@ public:
 	static void Write(FStringView Text);
 	static void WriteLine(FStringView Text);
 	/** Lines in their styles; as plain text where there are no styles. */
-	static void WriteLines(const TArray<class FStyledLine>& Lines);
+	static void WriteLines(const TArray<FStyledLine>& Lines);
 	/** Codes for the terminal, written as they are. Texts in them must have been through a styled line; nothing goes to anything but a terminal. */
 	static void WriteTerminalCodes(FStringView Codes);
 	/** A document for another program: to the letter, but on a terminal as Write(). */

@@ -330,7 +330,6 @@ TOptional<FString> FChatSession::Redo(const TArray<FString>&)
 
 TOptional<FString> FChatSession::Travel(bool bBack)
 {
-	FText Title;
 	const bool bCan = GEditor->Trans && (bBack ? GEditor->Trans->CanUndo() : GEditor->Trans->CanRedo());
 	if (!bCan)
 	{
