@@ -1,6 +1,7 @@
 #include "ForeignServiceFixture.h"
 #include "TerminalProgram.h"
 
+#include <fstream>
 #include <gmock/gmock.h>
 
 namespace
@@ -198,6 +199,20 @@ TEST_F(TerminalChat, APipeGetsPlainTextAndCommandsWorkThere)
 	EXPECT_THAT(Result.Errors, HasSubstr("which conversation?"));
 	EXPECT_THAT(Result.Output + Result.Errors, Not(HasSubstr("\x1b")));
 	EXPECT_THAT(Result.Output, Not(HasSubstr("❯")));
+}
+
+TEST_F(TerminalChat, APictureOfTheAnswerIsInAFileWhenTheTurnEnds)
+{
+	const std::string Png = "\x89PNG\r\n\x1a\n and more";
+	SetAnswer("/picture", FScriptedAnswer().Header("Content-Type", "image/png").Text(Png));
+	SetChat(FScriptedAnswer().Chunk("Look: <Image asset_id=\"p1\" url=\"" + GetUrl() + "/picture\"/>"));
+	const FProgramResult Result = RunInPipe("Show me\n");
+	const std::string Before = "[picture: ";
+	const size_t Begin = Result.Output.find(Before);
+	ASSERT_NE(Begin, std::string::npos) << Result.Output << Result.Errors;
+	const std::string Path = Result.Output.substr(Begin + Before.size(), Result.Output.find(']', Begin) - Begin - Before.size());
+	std::ifstream File(Path, std::ios::binary);
+	EXPECT_EQ(std::string(std::istreambuf_iterator<char>(File), {}), Png) << Path;
 }
 
 TEST_F(TerminalChat, JsonGivesOneEventALine)

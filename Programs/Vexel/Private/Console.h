@@ -23,7 +23,7 @@ public:
 	static void WriteLine(FStringView Text);
 	/** Lines in their styles; as plain text where there are no styles. */
 	static void WriteLines(const TArray<FStyledLine>& Lines);
-	/** Codes for the terminal, written as they are. Texts in them must have been through a styled line; nothing goes to anything but a terminal. */
+	/** Codes for the terminal, written as they are; nothing where there is none. Texts in them must have been through a styled line. */
 	static void WriteTerminalCodes(FStringView Codes);
 	/** A document for another program: to the letter, but on a terminal as Write(). */
 	static void WriteData(FStringView Text);

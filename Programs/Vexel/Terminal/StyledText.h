@@ -90,7 +90,8 @@ private:
  * Breaks a text at blanks into lines of at most Width columns, the prefixes included; a word that is wider than a line is cut.
  * Never empty.
  */
-TArray<FStyledLine> WrapText(const FStyledLine& Text, int32 Width, const FStyledLine& FirstPrefix = {}, const FStyledLine& OtherPrefix = {});
+TArray<FStyledLine> WrapText(
+	const FStyledLine& Text, int32 Width, const FStyledLine& FirstPrefix = {}, const FStyledLine& OtherPrefix = {});
 
 /** Adds a character of any plane of Unicode; half a surrogate pair becomes a replacement character. */
 void AppendCodePoint(FString& Text, char32_t Character);

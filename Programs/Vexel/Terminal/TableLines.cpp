@@ -89,7 +89,8 @@ TArray<FStyledLine> RenderTable(const FTextTable& Table, int32 Width)
 			FStyledLine& Rule = Lines.AddDefaulted_GetRef();
 			for (int32 Column = 0; Column < Widths.Num(); ++Column)
 			{
-				Rule.Add(Column == 0 ? TEXT("") : TEXT("─┼─"), TextStyle::Faint).Add(FString::ChrN(Widths[Column], TCHAR(0x2500)), TextStyle::Faint);
+				const FString Dashes = FString::ChrN(Widths[Column], TCHAR(0x2500));
+				Rule.Add((Column == 0 ? TEXT("") : TEXT("─┼─")) + Dashes, TextStyle::Faint);
 			}
 		}
 	}

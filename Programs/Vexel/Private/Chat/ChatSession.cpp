@@ -43,7 +43,8 @@ int32 ReadNumber(const FString& Word, int32 Limit)
 }
 }
 
-FChatSession::FChatSession(UVexelChatSubsystem& InSubsystem, IChatDisplay& InDisplay, const TSharedRef<FVexelChatConversation>& InConversation)
+FChatSession::FChatSession(
+	UVexelChatSubsystem& InSubsystem, IChatDisplay& InDisplay, const TSharedRef<FVexelChatConversation>& InConversation)
 	: Subsystem(InSubsystem)
 	, Display(InDisplay)
 	, Turns(InSubsystem, InDisplay)
@@ -314,7 +315,8 @@ TOptional<FString> FChatSession::Revert(const TArray<FString>& Words)
 	{
 		return Reverted.GetError().ToChainString();
 	}
-	Tell(FString::Printf(TEXT("back to how the conversation stood after answer %d; edits of the project stay, /undo takes them back"), Number));
+	Tell(FString::Printf(
+		TEXT("back to how the conversation stood after answer %d; edits of the project stay, /undo takes them back"), Number));
 	return NullOpt;
 }
 

@@ -40,7 +40,8 @@ TArray<FStyledLine> ConversationList::MakeLines(const TArray<FVexelChatHeader>& 
 		FStyledLine Line(bOpen ? TEXT("● ") : TEXT("  "), TextStyle::Good);
 		Line.Add(FString::Printf(TEXT("%3d  "), Index + 1), TextStyle::Accent).Add(FormatTime(Header) + TEXT("  "), TextStyle::Faint);
 		Line.Add(Header.Title, bOpen ? TextStyle::Strong : TextStyle::Plain);
-		Line.Add(FString::Printf(TEXT("  %d %s"), Header.NumMessages, Header.NumMessages == 1 ? TEXT("message") : TEXT("messages")), TextStyle::Faint);
+		const TCHAR* const Noun = Header.NumMessages == 1 ? TEXT("message") : TEXT("messages");
+		Line.Add(FString::Printf(TEXT("  %d %s"), Header.NumMessages, Noun), TextStyle::Faint);
 		Lines.Add(Line.CutTo(Width));
 	}
 	if (Lines.IsEmpty())

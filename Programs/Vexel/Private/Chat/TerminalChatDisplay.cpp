@@ -106,7 +106,7 @@ void FTerminalChatDisplay::AddError(const FString& Text)
 {
 	FinishText();
 	EnterSection(ESection::Tools);
-	FinalLines.Append(WrapText(FStyledLine(Text.TrimEnd(), TextStyle::Bad), GetWidth(), FStyledLine(TEXT("  ✗ "), TextStyle::Bad), TEXT("    ")));
+	AddBadNews(Text.TrimEnd());
 	bChanged = true;
 }
 
@@ -179,7 +179,7 @@ void FTerminalChatDisplay::EndTurn(EVexelChatRequestState State, const FString& 
 	else if (!Failure.IsEmpty())
 	{
 		EnterSection(ESection::Tools);
-		FinalLines.Append(WrapText(FStyledLine(Failure, TextStyle::Bad), GetWidth(), FStyledLine(TEXT("  ✗ "), TextStyle::Bad), TEXT("    ")));
+		AddBadNews(Failure);
 	}
 	FinalLines.AddDefaulted();
 	Live.Update(FinalLines, {});
@@ -199,6 +199,12 @@ void FTerminalChatDisplay::ShowFailure(const FString& Reason)
 {
 	FitTerminal();
 	Live.Update(WrapText(FStyledLine(Reason, TextStyle::Bad), GetWidth(), FStyledLine(TEXT("✗ "), TextStyle::Bad), TEXT("  ")), {});
+}
+
+void FTerminalChatDisplay::AddBadNews(const FString& Text)
+{
+	const FStyledLine Sign(TEXT("  ✗ "), TextStyle::Bad);
+	FinalLines.Append(WrapText(FStyledLine(Text, TextStyle::Bad), GetWidth(), Sign, TEXT("    ")));
 }
 
 void FTerminalChatDisplay::EnterSection(ESection Next)

@@ -38,6 +38,8 @@ private:
 
 	/** Begins a part of the answer of another kind, with an empty line between the two. */
 	void EnterSection(ESection Next);
+	/** Why something failed, as lines for good. */
+	void AddBadNews(const FString& Text);
 	/** Ends the text so far, whose last block then stands for good. */
 	void FinishText();
 	void Refresh();

@@ -374,14 +374,24 @@ private:
 		return Match ? std::optional<std::string>(Paths[Match->Index]) : std::nullopt;
 	}
 
-	void ShowPicture(const FQuestion& Question)
+	/** Whether a picture is wanted of the level, and not of a graph or of the editor's window. */
+	bool AsksForLevel(const FQuestion& Question) const
 	{
 		static constexpr std::string_view LevelWords[] = {"viewport", "level", "scene", "world", "game"};
-		const bool bLevel = std::any_of(std::begin(LevelWords), std::end(LevelWords), [&](std::string_view Word)
-			{ return SameName(Question.Subject, Word); });
+		if (!Question.Subject.empty())
+		{
+			return std::any_of(std::begin(LevelWords), std::end(LevelWords), [&](std::string_view Word)
+				{ return SameName(Question.Subject, Word); });
+		}
 		const std::string Text = LowerCase(Request.Messages.back().Text);
-		const bool bAsksForLevel = bLevel || (Question.Subject.empty() && Text.find("viewport") != std::string::npos) ||
-			(Question.Subject.empty() && Question.Blueprint.empty() && Text.find("graph") == std::string::npos && Text.find("editor") == std::string::npos);
+		const auto Says = [&Text](std::string_view Word)
+		{ return Text.find(Word) != std::string::npos; };
+		return Says("viewport") || (Question.Blueprint.empty() && !Says("graph") && !Says("editor"));
+	}
+
+	void ShowPicture(const FQuestion& Question)
+	{
+		const bool bAsksForLevel = AsksForLevel(Question);
 		FJson Arguments = {{"mode", bAsksForLevel ? "viewport" : "editor"}};
 		if (!bAsksForLevel)
 		{

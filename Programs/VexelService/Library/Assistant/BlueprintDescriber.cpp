@@ -461,7 +461,8 @@ std::string FBlueprintDescriber::VariableUse(std::string_view Variable) const
 	}
 	if (Uses.empty())
 	{
-		return Bold(Model.Name) + " has no variable \"" + Shortened(Name, 100) + "\", and no step reads or sets one of that name.\n\n" + Variables();
+		return Bold(Model.Name) + " has no variable \"" + Shortened(Name, 100) + "\", and no step reads or sets one of that name.\n\n" +
+			Variables();
 	}
 	std::string Text = Bold(Member == Model.Variables.end() ? Name : Member->Id);
 	Text += " is " + Counted(Uses) + " of " + Bold(Model.Name) + ":\n\n";
