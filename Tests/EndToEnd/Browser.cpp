@@ -69,7 +69,8 @@ FBrowser::FBrowser()
 	int WritesTo = -1;
 	OpenPipe(ReadsFrom, ToBrowser);
 	OpenPipe(FromBrowser, WritesTo);
-	std::vector<std::string> Words = {FindProgram(), "--headless", "--remote-debugging-pipe", "--user-data-dir=" + Profile.string(), "--disable-gpu",
+	std::vector<std::string> Words = {FindProgram(), "--headless", "--remote-debugging-pipe", "--user-data-dir=" + Profile.string(),
+		"--disable-gpu",
 		"--disable-dev-shm-usage", "--no-first-run", "--disable-background-networking", "--disable-component-update", "--hide-scrollbars",
 		"--window-size=900,760"};
 	if (geteuid() == 0)

@@ -23,6 +23,7 @@ protected:
 
 	/** Starts the module again, which takes up a stored login. */
 	static void RestartModule();
+	std::string GetUrl() const { return "http://127.0.0.1:" + std::to_string(Server.GetPort()); }
 	/** Which port the callback takes; 0 for a free one. */
 	static void SetCallbackPort(int32 Port);
 

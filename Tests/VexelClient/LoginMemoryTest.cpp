@@ -1,3 +1,4 @@
+#include "Auth/VexelAuthData.h"
 #include "Auth/VexelAuthPkce.h"
 #include "FreedMemoryWatch.h"
 #include "LoginFixture.h"
@@ -61,16 +62,17 @@ TEST_F(LoginMemory, ASecretIsOverwrittenBeforeItsMemoryIsFreed)
 	EXPECT_EQ(Watch.GetNumFound(), 0);
 }
 
-TEST_F(LoginMemory, ALogoutLeavesNoTokenInFreedMemory)
+TEST_F(LoginMemory, ALogoutOverwritesTheTokensThatItFrees)
 {
-	LogIn();
-	ASSERT_TRUE(PumpUntil([this]
-		{ return FindRequests("/api/user").size() == 1; }));
-	AdvanceTime(6.0f);
-	const FString Token = UTF8_TO_TCHAR(AccessToken);
-	const FFreedMemoryWatch Watch(Token);
-	FVexelAuth::Logout();
-	EXPECT_EQ(Watch.GetNumFound(), 0);
+	for (FVexelAuthSecret FVexelAuthData::*const Member : {&FVexelAuthData::AccessToken, &FVexelAuthData::RefreshToken})
+	{
+		LogIn();
+		const FString Token(*(FVexelAuthData::Get().*Member).Get());
+		const FFreedMemoryWatch Watch(Token, *(FVexelAuthData::Get().*Member).Get());
+		FVexelAuth::Logout();
+		EXPECT_GE(Watch.GetNumFreed(), 1);
+		EXPECT_EQ(Watch.GetNumFound(), 0);
+	}
 }
 
 TEST_F(LoginMemory, TheVerifierOfALoginThatEndsIsOverwritten)

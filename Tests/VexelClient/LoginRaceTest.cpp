@@ -230,15 +230,15 @@ TEST_F(LoginRace, OneOfAllWhoCompleteALoginDoesAndNobodyHangs)
 
 TEST_F(LoginRace, EveryOrderOfEventsLeavesOneExchangeAndNoTokenAfterTheLogout)
 {
-	// Each event happens on this thread at its place in the order, and what it sets off on others has come to rest before the next.
+	// Each event happens on this thread at its place in the order; what it has asked of the service arrives between the later ones.
 	const std::vector<std::pair<char, std::function<void()>>> Events = {
-		{'c', [this]
+		{'c', []
 			{
 				if (const TSharedPtr<FVexelAuthLoginState> Current = FVexelAuth::GetCurrentLogin())
 				{
 					Current->HandleCallback(MakeCallbackRequest(Current->GetState().Get()));
 				} }},
-		{'p', [this]
+		{'p', []
 			{
 				if (const TSharedPtr<FVexelAuthLoginState> Current = FVexelAuth::GetCurrentLogin())
 				{

@@ -8,6 +8,7 @@
 #include "VexelSecureStorage.h"
 
 #include <gmock/gmock.h>
+#include <sstream>
 
 namespace
 {
@@ -54,20 +55,22 @@ TEST_F(Login, TheCallbackBringsTheCodeAndEndsThePolling)
 	FString Token;
 	EXPECT_EQ(FVexelHttpManager::GetAuthState(Token), FVexelHttp::IAuthProvider::EAuthResult::Pending);
 	const std::string Address = GetOpenedAddress();
-	const std::string Base = std::string(TCHAR_TO_UTF8(*Server.GetUrl())) + "/oauth/authorize?";
+	const std::string Base = GetUrl() + "/oauth/authorize?";
 	EXPECT_THAT(Address, StartsWith(Base + "response_type=code&code_challenge="));
 	std::vector<std::string> Names;
-	for (size_t At = Base.size(); At != std::string::npos && At < Address.size(); At = Address.find('&', At) == std::string::npos ? std::string::npos : Address.find('&', At) + 1)
+	std::istringstream Pairs(Address.substr(Base.size()));
+	for (std::string Pair; std::getline(Pairs, Pair, '&');)
 	{
-		Names.push_back(Address.substr(At, Address.find('=', At) - At));
+		Names.push_back(Pair.substr(0, Pair.find('=')));
 	}
-	EXPECT_THAT(Names, ElementsAre("response_type", "code_challenge", "code_challenge_method", "client_id", "redirect_uri", "scope", "state", "device_id"));
+	EXPECT_THAT(Names,
+		ElementsAre("response_type", "code_challenge", "code_challenge_method", "client_id", "redirect_uri", "scope", "state", "device_id"));
 	EXPECT_EQ(GetOpened("scope"), "api.read");
 	EXPECT_EQ(GetOpened("state").size(), 22u);
 
 	const std::string Answer = Callback(MakeCallback());
 	EXPECT_THAT(Answer, StartsWith("HTTP/1.1 302"));
-	EXPECT_THAT(Answer, HasSubstr("Location: " + std::string(TCHAR_TO_UTF8(*Server.GetUrl())) + "/auth/local?auth_request_id=request-1\r\n"));
+	EXPECT_THAT(Answer, HasSubstr("Location: " + GetUrl() + "/auth/local?auth_request_id=request-1\r\n"));
 	ASSERT_TRUE(WaitForState(EState::Online)) << Log.ToText();
 
 	std::map<std::string, std::string> Form = ReadForm(FindRequests("/oauth/token")[0].Body);
@@ -162,7 +165,7 @@ TEST_F(Login, TheBrowserGoesNowhereButToTheServicesPage)
 	const TSharedRef<FVexelAuthLoginState> Started = OpenLogin();
 	const std::string Hostile = "%2F%2Fevil.example%2F%0D%0ASet-Cookie%3A%20a%3Db%26x%3D%23";
 	const std::string Answer = Callback("/auth-callback?auth_request_id=" + Hostile + "&error=1&state=" + GetOpened("state"));
-	EXPECT_THAT(Answer, HasSubstr("Location: " + std::string(TCHAR_TO_UTF8(*Server.GetUrl())) + "/auth/local?auth_request_id=" + Hostile + "\r\n"));
+	EXPECT_THAT(Answer, HasSubstr("Location: " + GetUrl() + "/auth/local?auth_request_id=" + Hostile + "\r\n"));
 	EXPECT_THAT(Answer, Not(HasSubstr("Set-Cookie:")));
 }
 
@@ -172,7 +175,8 @@ TEST_F(Login, ACallbackAfterThePolledCodeStartsNoSecondExchange)
 	const TSharedRef<FVexelAuthLoginState> Started = OpenLogin();
 	ASSERT_EQ(WaitForEnd(Started), "");
 	FVexelHttpServerRequest Late;
-	Late.QueryParams = {{TEXT("auth_request_id"), TEXT("r")}, {TEXT("code"), TEXT("c")}, {TEXT("state"), FString(UTF8_TO_TCHAR(GetOpened("state").c_str()))}};
+	Late.QueryParams = {{TEXT("auth_request_id"), TEXT("r")}, {TEXT("code"), TEXT("c")}};
+	Late.QueryParams.Add(TEXT("state"), UTF8_TO_TCHAR(GetOpened("state").c_str()));
 	const FVexelHttpServerResponse Answer = Started->HandleCallback(Late);
 	EXPECT_EQ(Answer.Status, 200);
 	EXPECT_EQ(Answer.Text, FString(TEXT("OK")));
@@ -235,7 +239,8 @@ TEST_F(Login, APollThatFailsForAMomentOrSaysSomethingNewIsRepeated)
 {
 	const TSharedRef<FVexelAuthLoginState> Started = OpenLogin();
 	ASSERT_TRUE(WaitForPolls(1));
-	const FScriptedAnswer Passing[] = {FScriptedAnswer(503), FScriptedAnswer().Chunk("{").Close(), FScriptedAnswer::Json(R"({"status":"thinking"})"),
+	const FScriptedAnswer Passing[] = {FScriptedAnswer(503), FScriptedAnswer().Chunk("{").Close(),
+		FScriptedAnswer::Json(R"({"status":"thinking"})"),
 		FScriptedAnswer(500), FScriptedAnswer(502)};
 	size_t NumPolls = CountRequests("/oauth/poll");
 	for (const FScriptedAnswer& Answer : Passing)
@@ -409,7 +414,8 @@ TEST_F(Login, TheMonitoringThreadRefreshesBeforeTheTokenExpires)
 	ASSERT_TRUE(PumpUntil([]
 		{ return GetStored(TEXT("rt")) == "the-next-refresh-token"; }));
 	EXPECT_TRUE(FVexelAuth::IsOnline());
-	for (const char* const Line : {"Auth monitoring thread started: ", "Auth monitoring thread sleeping for 0.", "Auth monitoring thread refreshing access token",
+	for (const char* const Line : {"Auth monitoring thread started: ", "Auth monitoring thread sleeping for 0.",
+			 "Auth monitoring thread refreshing access token",
 			 "OAuth token refresh successful"})
 	{
 		EXPECT_TRUE(Log.Contains(Line)) << Line;
@@ -450,7 +456,9 @@ TEST_F(Login, RequestsWaitForARefreshThatIsUnderWay)
 	LogIn();
 	FScriptedGate Gate;
 	Server.AnswerWith("/oauth/token", [&](const FScriptedRequest&)
-		{ return FScriptedAnswer::Json(R"({"access_token":"e30.eyJzdWIiOiJ1c2VyLTEifQ.newer","refresh_token":"r","expires_in":9})").WaitFor(Gate); });
+		{
+			const std::string Newer = R"({"access_token":"e30.eyJzdWIiOiJ1c2VyLTEifQ.newer","refresh_token":"r","expires_in":9})";
+			return FScriptedAnswer::Json(Newer).WaitFor(Gate); });
 	const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(AccessToken));
 	const TVexelTaskResult<TSharedRef<FVexelHttpResponse>> Request =
 		FVexelClient::Get().GetApiClient()->Request(EVexelHttpVerb::Get, TEXT("/api/waiting")).WithAuth().SendAndAwait();
@@ -474,7 +482,8 @@ TEST_F(Login, TheNextStartLogsInFromTheStoreAndARefusedTokenIsDeleted)
 	RestartModule();
 	ASSERT_TRUE(WaitForState(EState::Offline));
 	EXPECT_EQ(GetStored(TEXT("rt")), "");
-	EXPECT_TRUE(Log.Contains("while performing auto-login"));
+	EXPECT_TRUE(PumpUntil([this]
+		{ return Log.Contains("while performing auto-login"); }));
 	Log.Clear();
 	RestartModule();
 	EXPECT_TRUE(Log.Contains("No valid stored refresh token found for auto-login."));
@@ -521,8 +530,9 @@ TEST_F(Login, NoSecretReachesTheLog)
 	ASSERT_TRUE(PumpUntil([&]
 		{ return Refresh.IsComplete() && FVexelAuth::GetState() == EState::Offline; }));
 	const std::string Text = Log.ToText();
-	EXPECT_THAT(Text, HasSubstr("Launching browser for OAuth login at URL: " + std::string(TCHAR_TO_UTF8(*Server.GetUrl())) + "/oauth/authorize?response_type=code&"));
-	for (const std::string& Secret : {std::string(AccessToken), std::string("refresh-secret"), Form["code_verifier"], Form["state"], Form["device_id"], Form["code"]})
+	EXPECT_THAT(Text, HasSubstr("Launching browser for OAuth login at URL: " + GetUrl() + "/oauth/authorize?response_type=code&"));
+	for (const std::string& Secret : {std::string(AccessToken), std::string("refresh-secret"), Form["code_verifier"], Form["state"],
+			 Form["device_id"], Form["code"]})
 	{
 		EXPECT_THAT(Text, Not(HasSubstr(Secret)));
 	}

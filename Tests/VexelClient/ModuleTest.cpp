@@ -530,7 +530,8 @@ TEST_F(Module, AProfileThatComesAfterTheLogoutIsNobodys)
 	Gate.Open();
 	ASSERT_TRUE(PumpUntil([&]
 		{ return Refresh.IsComplete(); }));
-	EXPECT_TRUE(Refresh.Value().HasError());
+	ASSERT_TRUE(Refresh.Value().HasError());
+	EXPECT_TRUE(Refresh.Value().GetError().IsCausedBy<FVexelError_HttpCancelled>()) << "which nobody reports";
 	EXPECT_FALSE(FVexelAuthUserInfo::GetCurrent().IsValid());
 }
 

@@ -186,7 +186,8 @@ int32 RunLogoutCommand(const FArguments& Arguments)
 	}
 	if (LoggedOut.HasError() || (bWasStored && !bWasOnline))
 	{
-		const TOptional<FVexelError> Failure = LoggedOut.HasError() ? TOptional<FVexelError>(LoggedOut.GetError()) : FVexelClient::GetLoginFailure();
+		const TOptional<FVexelError> Failure =
+			LoggedOut.HasError() ? TOptional<FVexelError>(LoggedOut.GetError()) : FVexelClient::GetLoginFailure();
 		return Fail(FString::Printf(TEXT("the login at %s is forgotten here, but the service did not revoke it: %s"), *Url,
 			Failure ? *Failure->ToChainString() : TEXT("it was not reached")));
 	}

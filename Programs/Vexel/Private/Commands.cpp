@@ -32,7 +32,8 @@ constexpr FOptionRow ChatOptions[] = {
 constexpr FOptionRow ServiceOption = {TEXT("--service"), TEXT("URL"), TEXT("the service")};
 constexpr FOptionRow LoginOptions[] = {
 	ServiceOption,
-	{TEXT("--no-browser"), nullptr, TEXT("only prints the address, for a browser on another machine; so it is over ssh and without a desktop")},
+	{TEXT("--no-browser"), nullptr,
+		TEXT("only prints the address, for a browser on another machine; so it is over ssh and without a desktop")},
 	JsonOption,
 	VerboseOption,
 };

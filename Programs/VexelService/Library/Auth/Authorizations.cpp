@@ -201,7 +201,8 @@ TOrRefusal<FTokenSet> FAuthorizations::Redeem(const FCodeExchange& Exchange)
 	}
 	Record->bSpent = true;
 	const FAuthorizationRequest& Request = Record->Request;
-	const bool bFits = Clock() < Record->CodeExpiresAt && Exchange.ClientId == Request.ClientId && Exchange.RedirectUri == Request.RedirectUri &&
+	const bool bFits = Clock() < Record->CodeExpiresAt && Exchange.ClientId == Request.ClientId &&
+		Exchange.RedirectUri == Request.RedirectUri &&
 		Exchange.DeviceId == Request.DeviceId && SecretsEqual(Exchange.State, Request.State) &&
 		ChallengeFits(Request.CodeChallenge, Exchange.CodeVerifier);
 	if (!bFits)

@@ -166,15 +166,19 @@ button:focus-visible {
 )css";
 
 constexpr const char* BrandMark =
-	R"html(<p class="brand"><svg viewBox="0 0 32 32" aria-hidden="true"><path fill="currentColor" d="M4 5h6l6 15 6-15h6L18.6 27h-5.2z"/><circle cx="16" cy="7" r="3" fill="currentColor"/></svg>Vexel</p>
+	R"html(<p class="brand"><svg viewBox="0 0 32 32" aria-hidden="true"><path fill="currentColor" d="M4 5h6l6 15 6-15h6L18.6 27h-5.2z"/>
+<circle cx="16" cy="7" r="3" fill="currentColor"/></svg>Vexel</p>
 )html";
 
 constexpr const char* GoodMark =
-	R"html(<svg class="mark good" viewBox="0 0 48 48" aria-hidden="true"><circle cx="24" cy="24" r="21" fill="none" stroke="currentColor" stroke-width="3"/><path d="M15 25l6.5 6.5L34 18" fill="none" stroke="currentColor" stroke-width="3.5" stroke-linecap="round" stroke-linejoin="round"/></svg>
+	R"html(<svg class="mark good" viewBox="0 0 48 48" aria-hidden="true" fill="none" stroke="currentColor">
+<circle cx="24" cy="24" r="21" stroke-width="3"/>
+<path d="M15 25l6.5 6.5L34 18" stroke-width="3.5" stroke-linecap="round" stroke-linejoin="round"/></svg>
 )html";
 
 constexpr const char* BadMark =
-	R"html(<svg class="mark bad" viewBox="0 0 48 48" aria-hidden="true"><circle cx="24" cy="24" r="21" fill="none" stroke="currentColor" stroke-width="3"/><path d="M17 17l14 14M31 17L17 31" fill="none" stroke="currentColor" stroke-width="3.5" stroke-linecap="round"/></svg>
+	R"html(<svg class="mark bad" viewBox="0 0 48 48" aria-hidden="true" fill="none" stroke="currentColor">
+<circle cx="24" cy="24" r="21" stroke-width="3"/><path d="M17 17l14 14M31 17L17 31" stroke-width="3.5" stroke-linecap="round"/></svg>
 )html";
 
 std::string Escape(std::string_view Text)
@@ -280,7 +284,8 @@ void LoginPages::SendOutcome(httplib::Response& Response, EAuthorizationStatus S
 	{
 		case EAuthorizationStatus::Approved:
 			SendPage(Response, 200, "Logged in",
-				std::string(GoodMark) + "<h1>You are logged in</h1>\n<p>Vexel may use your account now. You can close this page and go back to it.</p>\n"
+				std::string(GoodMark) + "<h1>You are logged in</h1>\n"
+										"<p>Vexel may use your account now. You can close this page and go back to it.</p>\n"
 										"<p class=\"soft\">To take this back, log out in Vexel.</p>\n",
 				"");
 			break;
@@ -289,7 +294,8 @@ void LoginPages::SendOutcome(httplib::Response& Response, EAuthorizationStatus S
 				std::string(BadMark) + "<h1>You denied access</h1>\n<p>Vexel was not logged in. You can close this page.</p>\n", "");
 			break;
 		case EAuthorizationStatus::Pending:
-			SendPage(Response, 200, "Undecided", "<h1>Nothing was decided</h1>\n<p>This login still waits for your answer, on its own page.</p>\n", "");
+			SendPage(Response, 200, "Undecided",
+				"<h1>Nothing was decided</h1>\n<p>This login still waits for your answer, on its own page.</p>\n", "");
 			break;
 		case EAuthorizationStatus::Unknown:
 			SendPage(Response, 404, "Unknown login",
@@ -301,7 +307,9 @@ void LoginPages::SendOutcome(httplib::Response& Response, EAuthorizationStatus S
 void LoginPages::SendRefusal(httplib::Response& Response, const FRefusal& Refusal)
 {
 	SendPage(Response, Refusal.Status, "Login refused",
-		std::string(BadMark) + "<h1>This login cannot go on</h1>\n<p>" + Escape(Refusal.Detail) + "</p>\n<p class=\"soft\">Start it again in Vexel.</p>\n", "");
+		std::string(BadMark) + "<h1>This login cannot go on</h1>\n<p>" + Escape(Refusal.Detail) +
+			"</p>\n<p class=\"soft\">Start it again in Vexel.</p>\n",
+		"");
 }
 
 void LoginPages::SendStyle(httplib::Response& Response)

@@ -28,7 +28,11 @@ bool WasTokenRefused(const FVexelError& Error)
 /** The token to refresh with: another process of the user may have used the one that this process holds, and stored the next. */
 FVexelAuthSecret ChooseRefreshToken(const FVexelAuthSecret& Held, bool bHeldIsStored)
 {
-	const TVexelExpected<FString> Stored = bHeldIsStored ? FVexelSecureStorage::LoadValueString(RefreshTokenKey) : TVexelExpected<FString>(FString());
+	if (!bHeldIsStored)
+	{
+		return Held;
+	}
+	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
 	return Stored.HasValue() && !Stored.GetValue().IsEmpty() ? FVexelAuthSecret(Stored.GetValue()) : Held;
 }
 
@@ -190,14 +194,15 @@ void FVexelAuth::EndLogin(const FVexelError& Failure, FLoginNumber Number, bool 
 			{
 				return;
 			}
-			Data.BeginNumber();
-			Data.LoginFailure = Failure;
-			News = Data.ChangeState(EState::Offline);
 		}
 		if (bForgetRefused && WasTokenRefused(Failure))
 		{
 			Deleted = FVexelSecureStorage::DeleteValue(RefreshTokenKey);
 		}
+		FScopeLock Guard(&Data.Lock);
+		Data.BeginNumber();
+		Data.LoginFailure = Failure;
+		News = Data.ChangeState(EState::Offline);
 	}
 	if (Deleted.HasError())
 	{
@@ -266,9 +271,11 @@ TVexelTaskResult<void> FVexelAuth::StartRefresh(const FString* RefusedToken)
 		}
 	}
 	News.Tell();
-	const TCHAR* const While = RefusedToken ? TEXT("while refreshing access token") : TEXT("while refreshing access token in monitoring thread");
+	const TCHAR* const While =
+		RefusedToken ? TEXT("while refreshing access token") : TEXT("while refreshing access token in monitoring thread");
 	// Outside the lock: a result that is complete at once goes on in this call.
-	InternalRefreshAccessToken(ChooseRefreshToken(Held, bStored), Number).OnComplete([Refresh, Number, While](const TVexelExpected<void>& Result)
+	const FVexelAuthSecret Chosen = ChooseRefreshToken(Held, bStored);
+	InternalRefreshAccessToken(Chosen, Number).OnComplete([Refresh, Number, While](const TVexelExpected<void>& Result)
 		{
 			OnRefreshed(Result, Number, While);
 			Refresh.Complete(Result); });
@@ -463,11 +470,14 @@ TVexelExpected<void> FVexelAuth::InternalProcessTokenResponse(const FTokenRespon
 		Data.Expiry = Now + FTimespan::FromSeconds(VexelAuthTokens::ClampLife(*Response.ExpiresInSeconds));
 		Data.RetrySeconds = 0.0;
 		News = Data.ChangeState(EState::Online);
-		if (!Data.Monitor)
+		if (Data.Monitor)
+		{
+			Data.Monitor->Wake();
+		}
+		else
 		{
 			Data.Monitor = MakeUnique<FVexelAuthMonitor>();
 		}
-		Data.Monitor->Wake();
 	}
 	if (Stored.HasError())
 	{

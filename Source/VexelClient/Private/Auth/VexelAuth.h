@@ -124,7 +124,7 @@ private:
 		const VexelAuthRequests::FClient& Client, const FTokenResponse& Response, FLoginNumber Number);
 	static TVexelTaskResult<void> InternalRefreshAccessToken(const FVexelAuthSecret& RefreshToken, FLoginNumber Number);
 
-	static TVexelExpected<FLoginNumber> BeginLogin(
+	static TVexelExpected<void> BeginLogin(
 		const TSharedRef<FVexelAuthLoginState>& Login, TSharedPtr<FVexelAuthLoginState>& OutEarlier);
 	static void OnLoginComplete(
 		const TSharedRef<FVexelAuthLoginState>& Login, const TVexelExpected<FAuthCodeInfo>& Result, FLoginNumber Number);

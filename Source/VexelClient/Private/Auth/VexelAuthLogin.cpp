@@ -94,14 +94,12 @@ TVexelExpected<TSharedRef<FVexelAuthLoginState>> FVexelAuth::StartLogin(bool bLi
 	VexelAuthReport::FScope Scope(TEXT("login"), TEXT("manual"));
 	VEXEL_TRY(const FLogin Login, FVexelAuthLoginState::Make());
 	TSharedPtr<FVexelAuthLoginState> Earlier;
-	VEXEL_TRY(const FLoginNumber Number, BeginLogin(Login, Earlier));
+	VEXEL_TRY_VOID(BeginLogin(Login, Earlier));
 	if (Earlier)
 	{
 		VEXEL_LOG(Log, "Cancelling previous auth request in favor of new one.");
 		Earlier->Cancel();
 	}
-	Login->GetResult().OnComplete([Login, Number](const TVexelExpected<FAuthCodeInfo>& Result)
-		{ OnLoginComplete(Login, Result, Number); });
 
 	const TVexelExpected<FString> DeviceId = GetDeviceId();
 	if (DeviceId.HasError())
@@ -130,11 +128,10 @@ TVexelExpected<TSharedRef<FVexelAuthLoginState>> FVexelAuth::StartLogin(bool bLi
 	return Login;
 }
 
-TVexelExpected<FVexelAuth::FLoginNumber> FVexelAuth::BeginLogin(const FLogin& Login, TSharedPtr<FVexelAuthLoginState>& OutEarlier)
+TVexelExpected<void> FVexelAuth::BeginLogin(const FLogin& Login, TSharedPtr<FVexelAuthLoginState>& OutEarlier)
 {
 	FVexelAuthData& Data = FVexelAuthData::Get();
 	FVexelAuthNews News;
-	FLoginNumber Number = 0;
 	{
 		FScopeLock StoreGuard(&Data.StoreLock);
 		FScopeLock Guard(&Data.Lock);
@@ -145,13 +142,15 @@ TVexelExpected<FVexelAuth::FLoginNumber> FVexelAuth::BeginLogin(const FLogin& Lo
 		}
 		OutEarlier = Data.CurrentLogin;
 		Data.BeginNumber();
+		// Before anybody else knows of the login, who may complete it: what it holds for the exchange goes with its end.
+		Login->GetResult().OnComplete([Login, Number = Data.Number](const TVexelExpected<FAuthCodeInfo>& Result)
+			{ OnLoginComplete(Login, Result, Number); });
 		Data.CurrentLogin = Login;
 		Data.LoginFailure.Reset();
-		Number = Data.Number;
 		News = Data.ChangeState(EState::LoggingIn);
 	}
 	News.Tell();
-	return Number;
+	return TVexelExpected<void>();
 }
 
 TVexelExpected<void> FVexelAuth::InternalStartBrowserWithClientId(const FLogin& Login, const FString& ClientId, const FString& DeviceId)

@@ -30,9 +30,11 @@ TVexelExpected<FVexelAuthPkce> FVexelAuthPkce::Make()
 {
 	FVexelAuthPkce Pkce;
 	VEXEL_TRY(Pkce.CodeVerifier,
-		MakeRandomText(VerifierBytes, TEXT("Failed to generate secure random bytes for OAuth code"), TEXT("Failed to base64-encode code_verifier")));
+		MakeRandomText(VerifierBytes, TEXT("Failed to generate secure random bytes for OAuth code"),
+			TEXT("Failed to base64-encode code_verifier")));
 	VEXEL_TRY(Pkce.State,
-		MakeRandomText(StateBytes, TEXT("Failed to generate secure random bytes for OAuth state"), TEXT("Failed to base64-encode OAuth state")));
+		MakeRandomText(StateBytes, TEXT("Failed to generate secure random bytes for OAuth state"),
+			TEXT("Failed to base64-encode OAuth state")));
 	const FTCHARToUTF8 Verifier(*Pkce.CodeVerifier.Get());
 	Pkce.CodeChallenge = FVexelCrypto::Base64UrlEncode(
 		FVexelCrypto::Sha256(TConstArrayView<uint8>(reinterpret_cast<const uint8*>(Verifier.Get()), Verifier.Length())));

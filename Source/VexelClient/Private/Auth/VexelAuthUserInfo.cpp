@@ -105,7 +105,9 @@ TVexelTaskResult<FVexelAuthUserInfo> FVexelAuthUserInfo::ForceRefresh()
 			{
 				if (GetNumCleared() != NumCleared)
 				{
-					return VEXEL_ERROR(FVexelError_UserInfoFetch, "The user logged out in the meantime");
+					// As a request that was cut off, which is no failure to report.
+					const FVexelError Late = VEXEL_ERROR_TITLED(FVexelError_HttpCancelled, "Cancelled", "The user logged out in the meantime");
+					return VEXEL_ERROR_CAUSED(FVexelError_UserInfoFetch, Late, "%s", *Late.GetMessage());
 				}
 				SetCurrent(Info);
 				return Info; });

@@ -221,7 +221,8 @@ void FVexelHttpTransfer::Finish(CURLcode Code)
 		CompleteOnWorker(MakeTransportError(Code == CURLE_OK ? CURLE_PARTIAL_FILE : Code));
 		return;
 	}
-	const TSharedRef<FVexelHttpResponse> Answer = MakeShared<FVexelHttpResponse>(int32(Status), MoveTemp(Body), MoveTemp(ResponseHeaders), Setup.bSecret);
+	const TSharedRef<FVexelHttpResponse> Answer =
+		MakeShared<FVexelHttpResponse>(int32(Status), MoveTemp(Body), MoveTemp(ResponseHeaders), Setup.bSecret);
 	{
 		FScopeLock Guard(&ResponseLock);
 		Response = Answer;
