@@ -27,6 +27,7 @@ public class VexelClient : ModuleRules
 		PrivateDependencyModuleNames.AddRange(new string[]
 		{
 			"ImageWrapper",
+			"Projects",
 			"VexelEditor"
 		});
 	}
