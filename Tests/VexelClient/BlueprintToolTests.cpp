@@ -178,6 +178,7 @@ TEST_F(FBlueprintToolTest, EveryMistakeInTheInputIsNamedAndChangesNothing)
 	};
 	const FCase Cases[] = {
 		{TEXT("node_spawn"), "{'graph': 'EventGraph'}", "Missing `blueprint`"},
+		{TEXT("node_spawn"), "{'blueprint': 5, 'graph': 'EventGraph'}", "Missing `blueprint`"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP'}", "Missing `graph`"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': []}",
 			"Missing or empty required parameter 'nodes' (must be an array of node descriptor objects)"},
@@ -188,7 +189,7 @@ TEST_F(FBlueprintToolTest, EveryMistakeInTheInputIsNamedAndChangesNothing)
 		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'var.self', 'pin_values': {'A': 1}}]}",
 			"Invalid pin value for 'A': must be a string"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'var.self', 'pin_values': []}]}",
-			"Invalid 'pin_values' field"},
+			"`nodes[0].pin_values` must be an object, not an empty array"},
 		{TEXT("node_spawn"), "{'blueprint': '/Game/None', 'graph': 'EventGraph', 'nodes': [{'node_type': 'var.self'}]}",
 			"Blueprint not found: /Game/None"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'None_7', 'nodes': [{'node_type': 'var.self'}]}", "Graph not found: None_7"},
