@@ -89,6 +89,31 @@ TEST(Command, ReadBlueprintGivesTheExport)
 	EXPECT_FALSE(Export["variables"].empty());
 }
 
+TEST(Command, AGraphIsRewiredCompiledAndSavedByOneToolAfterTheOther)
+{
+	const FSampleProjectCopy Project;
+	const auto Call = [&Project](const char* Tool, const char* Input)
+	{
+		const FProgramResult Result = RunVexel({"tool", Tool, "--project", Project.GetPath(), "--save", "--input", Input});
+		EXPECT_EQ(Result.Status, 0) << Result.Errors;
+		return nlohmann::json::parse(Result.Output, nullptr, false);
+	};
+	const nlohmann::json Spawned = Call("node_spawn",
+		R"({"blueprint":"/Game/BP_Door","graph":"EventGraph","nodes":[{"node_type":"event.custom"},
+			{"node_type":"call.KismetSystemLibrary.PrintString","pin_values":{"InString":"rewired"}}]})");
+	EXPECT_TRUE(Spawned["errors"].empty()) << Spawned["errors"];
+	// Each call is a process of its own: the ids are those that reading gives, so the new nodes are the last of their titles.
+	const nlohmann::json Linked = Call("node_link",
+		R"({"blueprint":"/Game/BP_Door","graph":"EventGraph","links":[
+			{"from_node":"CustomEvent_0","from_pin":"then","to_node":"PrintString_2","to_pin":"execute"}]})");
+	EXPECT_TRUE(Linked["errors"].empty()) << Linked["errors"];
+	const nlohmann::json Compiled = Call("compile", R"({"blueprint":"/Game/BP_Door"})");
+	EXPECT_TRUE(Compiled["success"]) << Compiled;
+	const FProgramResult Text =
+		RunVexel({"graph", "export", "--project", Project.GetPath(), "--blueprint", "/Game/BP_Door", "--graph", "EventGraph"});
+	EXPECT_THAT(Text.Output, HasSubstr("DefaultValue=\"rewired\""));
+}
+
 TEST(Command, InspectShowsThePackagesTables)
 {
 	const FSampleProjectCopy Project;

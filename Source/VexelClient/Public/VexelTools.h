@@ -22,6 +22,9 @@ public:
 	/** The tool table, in its order. */
 	static TArray<FVexelToolInfo> List();
 
-	/** Calls a tool as the assistant would, outside any conversation. */
+	/**
+	 * Calls a tool as the assistant would, in a conversation of this call alone. The nodes of a Blueprint that the input names have the ids
+	 * there that "read_blueprint" answers for it.
+	 */
 	static TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FString& Name, const TSharedRef<FJsonObject>& Input);
 };

@@ -1,6 +1,23 @@
 #include "VexelTools.h"
 
+#include "Blueprint/VexelBlueprintMapping.h"
+#include "Data/VexelChatConversation.h"
+#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
 #include "Tools/VexelToolManager.h"
+
+namespace
+{
+/** Gives the nodes of the Blueprint their ids by having it read; what cannot be read is the tool's to complain of. */
+void NameNodes(const TSharedRef<FVexelBlueprintMapping>& Mapping, const FJsonObject& Input)
+{
+	FString BlueprintId;
+	UBlueprint* Blueprint = nullptr;
+	if (Input.TryGetStringField(TEXT("blueprint"), BlueprintId) && Mapping->ResolveBlueprint(TVexelBlueprintId(BlueprintId), Blueprint))
+	{
+		static_cast<void>(FVexelBlueprintToolTarget(*Blueprint, Mapping).Export());
+	}
+}
+}
 
 TArray<FVexelToolInfo> FVexelTools::List()
 {
@@ -20,5 +37,8 @@ TVexelTaskResult<TSharedRef<FJsonObject>> FVexelTools::Call(const FString& Name,
 	{
 		return Tool.GetError();
 	}
-	return Tool.GetValue()->Call(FVexelToolContext(), FVexelToolInput(Input));
+	FVexelToolContext Context;
+	Context.Conversation = MakeShared<FVexelChatConversation>();
+	NameNodes(Context.Conversation->GetMapping(), *Input);
+	return Tool.GetValue()->Call(Context, FVexelToolInput(Input));
 }
