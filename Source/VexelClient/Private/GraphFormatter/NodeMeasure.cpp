@@ -3,6 +3,7 @@
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraph/EdGraphPin.h"
 #include "K2Node.h"
+#include "K2Node_Event.h"
 #include "K2Node_Knot.h"
 
 namespace
@@ -10,6 +11,8 @@ namespace
 constexpr double TitleCharacterWidth = 8.5;
 constexpr double TitleMargin = 56;
 constexpr double TitleLineHeight = 24;
+/** What stands below the title is written smaller. */
+constexpr double SubtitleLineHeight = 14;
 constexpr double LabelCharacterWidth = 7;
 /** A pin's arrow or circle with its margins. */
 constexpr double PinWidth = 40;
@@ -42,6 +45,11 @@ TArray<FString> GetTitleLines(const UEdGraphNode& Node)
 
 bool FNodeMeasure::IsShown(const UEdGraphNode& Node, const UEdGraphPin& Pin)
 {
+	// An event's own delegate is shown in its title.
+	if (Node.IsA<UK2Node_Event>() && Pin.PinName == UK2Node_Event::DelegateOutputName)
+	{
+		return false;
+	}
 	const bool bFoldedAway = Pin.bAdvancedView && Node.AdvancedPinDisplay == ENodeAdvancedPins::Hidden && Pin.LinkedTo.IsEmpty();
 	return !Pin.bHidden && !bFoldedAway;
 }
@@ -54,7 +62,7 @@ FNodeMeasure::FNodeMeasure(const UEdGraphNode& Node)
 	{
 		TitleWidth = FMath::Max(TitleWidth, TitleCharacterWidth * Line.Len() + TitleMargin);
 	}
-	const double TitleHeight = TitleLineHeight * Lines.Num();
+	const double TitleHeight = Lines.IsEmpty() ? 0 : TitleLineHeight + SubtitleLineHeight * (Lines.Num() - 1);
 	TitleY = TitleHeight / 2;
 
 	// Inputs stand on the left, outputs on the right.
