@@ -478,6 +478,47 @@ TEST_F(Module, ALoginIsOfferedToTheServiceThatItIsOfAlone)
 	FVexelClient::Get().StartupModule();
 }
 
+TEST_F(Module, AnotherServiceInTheSettingsNeverGetsTheTokenOfTheFirst)
+{
+	// The user's own store, as in the editor.
+	FVexelSecureStorage::SetDirectory(FString());
+	FVexelSecureStorage::SetScope(Server.GetUrl());
+	LogIn();
+	ASSERT_TRUE(FVexelAuth::IsOnline());
+	UVexelUserSettings* const Settings = GetMutableDefault<UVexelUserSettings>();
+	FVexelInternalConfig::Find(TEXT("ApiUrl"))->ClearOverride();
+	unsetenv("VEXEL_API_URL");
+
+	FScriptedHttpServer Other;
+	Other.Answer("/probe", FScriptedAnswer().Text("ok"));
+	FPropertyChangedEvent Event(UVexelUserSettings::StaticClass()->FindPropertyByName(TEXT("ApiUrl")));
+	Settings->ApiUrl = Other.GetUrl();
+	Settings->PostEditChangeProperty(Event);
+	EXPECT_FALSE(FVexelAuth::IsOnline());
+	const auto Probe = FVexelClient::Get().GetApiClient()->Request(EVexelHttpVerb::Get, TEXT("/probe")).WithAuth().SendAndAwait();
+	EXPECT_TRUE(PumpUntil([&Probe]
+		{ return Probe.IsComplete(); }));
+	EXPECT_TRUE(Probe.Value().HasError());
+	for (const FScriptedRequest& Request : Other.GetRequests())
+	{
+		EXPECT_FALSE(Request.GetHeader("authorization")) << Request.GetPath();
+	}
+
+	Settings->ApiUrl = Server.GetUrl();
+	Settings->PostEditChangeProperty(Event);
+	EXPECT_TRUE(PumpUntil([]
+		{ return FVexelAuth::IsOnline(); }))
+		<< "what is stored for the first service logs in there again";
+
+	FVexelClient::Get().ShutdownModule();
+	EXPECT_TRUE(FVexelSecureStorage::DeleteValue(TEXT("rt")).HasValue());
+	FVexelSecureStorage::SetDirectory(GetProjectDir() / TEXT("ModuleSecrets"));
+	Settings->ApiUrl.Empty();
+	Settings->PostEditChangeProperty(Event);
+	setenv("VEXEL_API_URL", "http://127.0.0.1:1", 1);
+	FVexelInternalConfig::Find(TEXT("ApiUrl"))->SetOverride(Server.GetUrl());
+}
+
 TEST_F(Module, ClientsAreKeptWhileTheirAddressIsTheSameButForCase)
 {
 	FVexelClient& Client = FVexelClient::Get();

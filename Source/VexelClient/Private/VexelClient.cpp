@@ -74,11 +74,11 @@ void Report(FVexelError Error, const FVexelErrorPlace& Place)
 	}
 }
 
-/** A project's settings may name another service, which must not get the login of this one. */
-void ScopeSecretsToService()
+/** What secrets are kept under: settings may name another service, which must not get the login of this one. */
+FString GetServiceScope()
 {
 	const TVexelExpected<FString> Origin = FVexelUrlUtils::GetOrigin(ApiUrlSetting.Get());
-	FVexelSecureStorage::SetScope(Origin.HasValue() ? Origin.GetValue() : ApiUrlSetting.Get());
+	return Origin.HasValue() ? Origin.GetValue() : ApiUrlSetting.Get();
 }
 
 void SetErrorReportingUser(bool bLoggedIn)
@@ -123,7 +123,8 @@ void FVexelClient::StartupModule()
 	GetInsightsClient();
 	GetAuxiliaryHttpClient();
 	HoldRequestsForFeatures();
-	ScopeSecretsToService();
+	ServiceScope = GetServiceScope();
+	FVexelSecureStorage::SetScope(ServiceScope);
 	AuthProvider = MakeUnique<FVexelAuthProvider>();
 	FVexelHttpManager::SetAuthProvider(AuthProvider.Get());
 
@@ -284,6 +285,20 @@ void FVexelClient::OnSettingChanged(UObject* Settings, FPropertyChangedEvent&)
 {
 	Settings->SaveConfig();
 	FVexelInternalConfig::ReloadAll();
+	FollowService();
+}
+
+void FVexelClient::FollowService()
+{
+	const FString Scope = GetServiceScope();
+	if (Scope.Equals(ServiceScope))
+	{
+		return;
+	}
+	ServiceScope = Scope;
+	FVexelAuth::Leave();
+	FVexelSecureStorage::SetScope(Scope);
+	FVexelAuth::StartAutoLogin();
 }
 
 void FVexelClient::OnAuthStateChanged()

@@ -74,6 +74,8 @@ private:
 	/** Has the API's requests wait for the features of the next login. */
 	void HoldRequestsForFeatures();
 	void ForgetClients();
+	/** Ends the login when the settings name another service, and goes on with the one that is stored for that. */
+	void FollowService();
 
 	void RegisterMenus();
 	void OnSettingChanged(UObject* Settings, FPropertyChangedEvent& Event);
@@ -96,6 +98,8 @@ private:
 
 	TUniquePtr<FVexelAuthProvider> AuthProvider;
 	FDelegateHandle SettingsHandle;
+	/** Of the service whose login this is. */
+	FString ServiceScope;
 	FDelegateHandle AuthStateHandle;
 	FDelegateHandle UserInfoHandle;
 	/** Made when the user's features first ask for the cache. */

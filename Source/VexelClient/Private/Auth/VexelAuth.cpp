@@ -174,6 +174,29 @@ void FVexelAuth::Logout()
 	News.Tell();
 }
 
+void FVexelAuth::Leave()
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	TSharedPtr<FVexelAuthLoginState> Login;
+	FVexelAuthNews News;
+	{
+		FScopeLock StoreGuard(&Data.StoreLock);
+		FScopeLock Guard(&Data.Lock);
+		if (Data.State == EState::Offline)
+		{
+			return;
+		}
+		Login = Data.CurrentLogin;
+		Data.BeginNumber();
+		News = Data.ChangeState(EState::Offline);
+	}
+	if (Login)
+	{
+		Login->Cancel();
+	}
+	News.Tell();
+}
+
 TVexelTaskResult<void> FVexelAuth::GetRevocation()
 {
 	FVexelAuthData& Data = FVexelAuthData::Get();

@@ -69,6 +69,8 @@ public:
 	 * logged in.
 	 */
 	static void Logout();
+	/** Forgets the login here, at once, because requests go to another service from now on. What is stored stays. */
+	static void Leave();
 	/** Of the last logout; refers to no task without one. A failure is reported already. */
 	static TVexelTaskResult<void> GetRevocation();
 
