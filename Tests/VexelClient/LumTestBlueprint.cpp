@@ -22,6 +22,15 @@ void FLumTest::SetUp()
 	ASSERT_NE(nullptr, EventGraph);
 }
 
+void FLumTest::TearDown()
+{
+	if (Blueprint)
+	{
+		Blueprint->ClearFlags(RF_Public | RF_Standalone);
+	}
+	FEditorTest::TearDown();
+}
+
 UEdGraphNode& FLumTest::AddBareNode(const TCHAR* ClassName, const TCHAR* Property, const TCHAR* Text)
 {
 	UClass* const Class = FindFirstObject<UClass>(ClassName, EFindFirstObjectOptions::NativeFirst);

@@ -14,6 +14,8 @@ class FLumTest : public FEditorTest
 {
 protected:
 	virtual void SetUp() override;
+	/** What the test made is no asset of the project any more. */
+	virtual void TearDown() override;
 
 	/** A node of the class without pins; each property is set from its text form. */
 	UEdGraphNode& AddBareNode(const TCHAR* ClassName, const TCHAR* Property = nullptr, const TCHAR* Text = nullptr);
