@@ -133,12 +133,12 @@ void FVexelClient::StartupModule()
 	FVexelAuth::StartAutoLogin();
 	AuthStateHandle = FVexelAuth::AddAuthStateChangedCallback(
 		FVexelAuth::FOnAuthStateChanged::FDelegate::CreateLambda([](FVexelAuth::EState)
-			{ FVexelTaskManager::ScheduleFunc(EVexelTaskThread::GameThread, []
-				  {
-						if (FVexelClient* const This = FModuleManager::GetModulePtr<FVexelClient>(ModuleName))
-						{
-							This->OnAuthStateChanged();
-						} }); }));
+			{ ScheduleAuthStateChanged(); }));
+	if (FVexelAuth::IsOnline())
+	{
+		// The automatic login was through before anybody listened.
+		ScheduleAuthStateChanged();
+	}
 	UserInfoHandle = FVexelAuthUserInfo::OnUserInfoChanged().AddRaw(this, &FVexelClient::OnUserInfoChanged);
 
 	const TVexelExpected<void> IndexMade = FVexelEmbed::Initialize();
@@ -299,6 +299,16 @@ void FVexelClient::FollowService()
 	FVexelAuth::Leave();
 	FVexelSecureStorage::SetScope(Scope);
 	FVexelAuth::StartAutoLogin();
+}
+
+void FVexelClient::ScheduleAuthStateChanged()
+{
+	FVexelTaskManager::ScheduleFunc(EVexelTaskThread::GameThread, []
+		{
+			if (FVexelClient* const This = FModuleManager::GetModulePtr<FVexelClient>(ModuleName))
+			{
+				This->OnAuthStateChanged();
+			} });
 }
 
 void FVexelClient::OnAuthStateChanged()

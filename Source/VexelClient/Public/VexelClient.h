@@ -79,6 +79,8 @@ private:
 
 	void RegisterMenus();
 	void OnSettingChanged(UObject* Settings, FPropertyChangedEvent& Event);
+	/** Looks at the login's state at the game thread's next tick. Any thread. */
+	static void ScheduleAuthStateChanged();
 	void OnAuthStateChanged();
 	void OnUserInfoChanged(const FVexelAuthUserInfo& Info);
 	void InitializeNodeTypeCacheIfNeeded();
