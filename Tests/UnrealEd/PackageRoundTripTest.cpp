@@ -153,7 +153,7 @@ struct FKnownDifference
 
 constexpr FKnownDifference KnownDifferences[] = {
 	{"MetaData", 50, "entries of objects that the file itself has lost are not written"},
-	{"Blueprint", 15, "the enumeration of replication conditions is another module's here; one keeps the last edited graph in its old form"},
+	{"Blueprint", 1, "the last edited graphs are kept in the old form, and written in the new one"},
 	{"BlueprintGeneratedClass", 5, "the size in memory of a struct that only the engine's C++ has"},
 	{"WidgetBlueprintGeneratedClass", 1, "the size in memory of a struct that only the engine's C++ has"},
 	{"K2Node_GetClassDefaults", 4, "an empty text that was saved with its closing zero is saved without"},
