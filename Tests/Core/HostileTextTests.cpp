@@ -1,36 +1,14 @@
-#include "Internationalization/Text.h"
+#include "TextTestSupport.h"
 
 #include "Math/NumericLimits.h"
 #include "Serialization/MemoryReader.h"
-#include "Serialization/MemoryWriter.h"
 
 #include <gtest/gtest.h>
 
 #include <random>
-#include <string>
 
 namespace
 {
-std::string Utf8(const FString& Text)
-{
-	return TCHAR_TO_UTF8(*Text);
-}
-
-FString Exported(const FText& Text, bool bStripPackageNamespace = false)
-{
-	FString Result;
-	FTextStringHelper::WriteToBuffer(Result, Text, true, bStripPackageNamespace);
-	return Result;
-}
-
-TArray<uint8> Saved(FText Text)
-{
-	TArray<uint8> Bytes;
-	FMemoryWriter Writer(Bytes);
-	Writer << Text;
-	return Bytes;
-}
-
 FText MakeRandomText(std::mt19937& Random, int32 Depth)
 {
 	static const TCHAR Alphabet[] = {'a', '"', '\\', '\n', '{', '}', '`', '0', ',', ')', u'\u00E4'};

@@ -2,8 +2,6 @@
 
 #include "Internationalization/TextData.h"
 
-#include <algorithm>
-
 using UE::Core::Private::FTextData;
 
 namespace
@@ -18,6 +16,15 @@ FText MakeUnidentified(FString String, uint32 Flags)
 FText MakeTrimmed(const FText& Text, FStringView Trimmed)
 {
 	return Trimmed.Len() == Text.ToString().Len() ? Text : FText::FromString(FString(Trimmed));
+}
+
+FText MakeTransformed(const FText& Source, ETextTransform Transform)
+{
+	FTextData Parts;
+	Parts.Type = ETextHistoryType::Transform;
+	Parts.Source = Source;
+	Parts.History.Set<ETextTransform>(Transform);
+	return UE::Core::Private::MakeTextOfParts(MoveTemp(Parts));
 }
 }
 
@@ -94,12 +101,11 @@ FText FText::FromNamespaceKeySource(const FString& Namespace, const FString& Key
 
 FText FText::FromStringTable(const FName& TableId, const FString& Key)
 {
-	std::shared_ptr<FTextData> Data = std::make_shared<FTextData>();
-	Data->Type = ETextHistoryType::StringTableEntry;
-	Data->Display = TEXT("<MISSING STRING TABLE ENTRY>");
-	Data->TableId = TableId;
-	Data->Key = Key;
-	return FText(std::move(Data));
+	FTextData Parts;
+	Parts.Type = ETextHistoryType::StringTableEntry;
+	Parts.TableId = TableId;
+	Parts.Key = Key;
+	return UE::Core::Private::MakeTextOfParts(MoveTemp(Parts));
 }
 
 FText FText::ChangeKey(const FTextKey& Namespace, const FTextKey& Key, const FText& Text)
@@ -150,12 +156,12 @@ bool FText::IsEmptyOrWhitespace() const
 
 FText FText::ToLower() const
 {
-	return FromString(ToString().ToLower());
+	return MakeTransformed(*this, ETextTransform::ToLower);
 }
 
 FText FText::ToUpper() const
 {
-	return FromString(ToString().ToUpper());
+	return MakeTransformed(*this, ETextTransform::ToUpper);
 }
 
 int32 FText::CompareTo(const FText& Other, ETextComparisonLevel Level) const
@@ -198,7 +204,7 @@ bool FText::IdenticalTo(const FText& Other, ETextIdenticalModeFlags CompareFlags
 			return Mine.TableId == Theirs.TableId && Mine.Key.Equals(Theirs.Key);
 		default:
 			return EnumHasAnyFlags(CompareFlags, ETextIdenticalModeFlags::DeepCompare) && Mine.Display.Equals(Theirs.Display) &&
-				Mine.Pattern.IdenticalTo(Theirs.Pattern, CompareFlags);
+				UE::Core::Private::ArePartsIdentical(Mine, Theirs, CompareFlags);
 	}
 }
 

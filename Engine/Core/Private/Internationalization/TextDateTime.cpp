@@ -1,8 +1,9 @@
-#include "Internationalization/Text.h"
-#include "Misc/DateTime.h"
+#include "Internationalization/TextData.h"
 
 #include <algorithm>
-#include <cmath>
+
+using UE::Core::Private::FDateTimeHistory;
+using UE::Core::Private::FTextData;
 
 namespace
 {
@@ -45,22 +46,61 @@ FString FormatTime(const FDateTime& Time, EDateTimeStyle::Type Style)
 	}
 	return Result;
 }
+
+FText MakeDateTime(ETextHistoryType Type, const FDateTime& Value, EDateTimeStyle::Type DateStyle, EDateTimeStyle::Type TimeStyle)
+{
+	FDateTimeHistory History;
+	History.Value = Value;
+	History.DateStyle = DateStyle;
+	History.TimeStyle = TimeStyle;
+	FTextData Parts;
+	Parts.Type = Type;
+	Parts.History.Set<FDateTimeHistory>(MoveTemp(History));
+	return UE::Core::Private::MakeTextOfParts(MoveTemp(Parts));
+}
+}
+
+namespace UE::Core::Private
+{
+const TCHAR* GetDateTimeStyleName(EDateTimeStyle::Type Style)
+{
+	constexpr const TCHAR* Names[] = {TEXT("Default"), TEXT("Short"), TEXT("Medium"), TEXT("Long"), TEXT("Full")};
+	const uint32 Index = static_cast<uint32>(Style);
+	return Index < UE_ARRAY_COUNT(Names) ? Names[Index] : nullptr;
+}
+
+FString FormatDateTimeOfKind(ETextHistoryType Type, const FDateTimeHistory& History)
+{
+	// A file may hold any number of ticks; those outside the calendar have no date.
+	const FDateTime Value = std::clamp(History.Value, FDateTime::MinValue(), FDateTime::MaxValue());
+	switch (Type)
+	{
+		case ETextHistoryType::AsDate:
+			return FormatDate(Value, History.DateStyle);
+		case ETextHistoryType::AsTime:
+			return FormatTime(Value, History.TimeStyle);
+		default:
+		{
+			const bool bIsLong = History.DateStyle == EDateTimeStyle::Long || History.DateStyle == EDateTimeStyle::Full;
+			return FormatDate(Value, History.DateStyle) + (bIsLong ? TEXT(" at ") : TEXT(", ")) + FormatTime(Value, History.TimeStyle);
+		}
+	}
+}
 }
 
 FText FText::AsDate(const FDateTime& DateTime, EDateTimeStyle::Type DateStyle)
 {
-	return AsCultureInvariant(FormatDate(DateTime, DateStyle));
+	return MakeDateTime(ETextHistoryType::AsDate, DateTime, DateStyle, EDateTimeStyle::Default);
 }
 
 FText FText::AsTime(const FDateTime& DateTime, EDateTimeStyle::Type TimeStyle)
 {
-	return AsCultureInvariant(FormatTime(DateTime, TimeStyle));
+	return MakeDateTime(ETextHistoryType::AsTime, DateTime, EDateTimeStyle::Default, TimeStyle);
 }
 
 FText FText::AsDateTime(const FDateTime& DateTime, EDateTimeStyle::Type DateStyle, EDateTimeStyle::Type TimeStyle)
 {
-	const bool bIsLong = DateStyle == EDateTimeStyle::Long || DateStyle == EDateTimeStyle::Full;
-	return AsCultureInvariant(FormatDate(DateTime, DateStyle) + (bIsLong ? TEXT(" at ") : TEXT(", ")) + FormatTime(DateTime, TimeStyle));
+	return MakeDateTime(ETextHistoryType::AsDateTime, DateTime, DateStyle, TimeStyle);
 }
 
 FText FText::AsTimespan(const FTimespan& Timespan)

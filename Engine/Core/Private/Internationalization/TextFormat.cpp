@@ -1,120 +1,18 @@
 #include "Internationalization/TextData.h"
 
-#include <algorithm>
-#include <cmath>
-
 using UE::Core::Private::FTextData;
 
 namespace
 {
-void GroupDigits(FString& Number, int32 NumSigns, int32 NumIntegral)
-{
-	for (int32 Index = NumSigns + NumIntegral - 3; Index > NumSigns; Index -= 3)
-	{
-		Number.InsertAt(Index, TEXT(','));
-	}
-}
-
-FText FinishNumber(bool bNegative, FString Integral, FString Fraction, const FNumberFormattingOptions& Options)
-{
-	const int32 NumMissing = Options.MinimumIntegralDigits - Integral.Len();
-	Integral = FString::ChrN(NumMissing, TEXT('0')) + Integral;
-	if (Integral.Len() > Options.MaximumIntegralDigits)
-	{
-		Integral.RightInline(Options.MaximumIntegralDigits);
-	}
-	while (Fraction.Len() > Options.MinimumFractionalDigits && Fraction.EndsWith(TEXT("0")))
-	{
-		Fraction.LeftChopInline(1);
-	}
-	Fraction += FString::ChrN(Options.MinimumFractionalDigits - Fraction.Len(), TEXT('0'));
-	const FString Sign = bNegative ? TEXT("-") : (Options.AlwaysSign ? TEXT("+") : TEXT(""));
-	FString Result = Sign + Integral;
-	if (Options.UseGrouping)
-	{
-		GroupDigits(Result, Sign.Len(), Integral.Len());
-	}
-	if (!Fraction.IsEmpty())
-	{
-		Result += TEXT('.');
-		Result += Fraction;
-	}
-	return FText::AsCultureInvariant(MoveTemp(Result));
-}
-
-const FNumberFormattingOptions& OptionsOrDefault(const FNumberFormattingOptions* Options)
-{
-	return Options != nullptr ? *Options : FNumberFormattingOptions::DefaultWithGrouping();
-}
-
 template <typename ArgumentsType>
-FText MakeFormatted(ETextHistoryType Type, FText Pattern, ArgumentsType&& Arguments, ArgumentsType FTextData::*Member)
+FText MakeFormatted(ETextHistoryType Type, FText Pattern, ArgumentsType&& Arguments)
 {
-	std::shared_ptr<FTextData> Data = std::make_shared<FTextData>();
-	Data->Type = Type;
-	Data->Pattern = MoveTemp(Pattern);
-	(*Data).*Member = MoveTemp(Arguments);
-	Data->Display = UE::Core::Private::FormatPattern(Data->Pattern.ToString(), Data->Named, Data->Ordered);
-	return UE::Core::Private::MakeTextOfData(std::move(Data), 0);
+	FTextData Parts;
+	Parts.Type = Type;
+	Parts.Source = MoveTemp(Pattern);
+	Parts.History.Set<ArgumentsType>(MoveTemp(Arguments));
+	return UE::Core::Private::MakeTextOfParts(MoveTemp(Parts));
 }
-}
-
-const FNumberFormattingOptions& FNumberFormattingOptions::DefaultWithGrouping()
-{
-	static const FNumberFormattingOptions Options;
-	return Options;
-}
-
-const FNumberFormattingOptions& FNumberFormattingOptions::DefaultNoGrouping()
-{
-	static const FNumberFormattingOptions Options = FNumberFormattingOptions().SetUseGrouping(false);
-	return Options;
-}
-
-FText FText::AsNumber(int32 Value, const FNumberFormattingOptions* Options)
-{
-	return AsNumber(static_cast<int64>(Value), Options);
-}
-
-FText FText::AsNumber(uint32 Value, const FNumberFormattingOptions* Options)
-{
-	return AsNumber(static_cast<uint64>(Value), Options);
-}
-
-FText FText::AsNumber(int64 Value, const FNumberFormattingOptions* Options)
-{
-	const uint64 Magnitude = Value < 0 ? 0 - static_cast<uint64>(Value) : static_cast<uint64>(Value);
-	return FinishNumber(Value < 0, LexToString(Magnitude), FString(), OptionsOrDefault(Options));
-}
-
-FText FText::AsNumber(uint64 Value, const FNumberFormattingOptions* Options)
-{
-	return FinishNumber(false, LexToString(Value), FString(), OptionsOrDefault(Options));
-}
-
-FText FText::AsNumber(float Value, const FNumberFormattingOptions* Options)
-{
-	return AsNumber(static_cast<double>(Value), Options);
-}
-
-FText FText::AsNumber(double Value, const FNumberFormattingOptions* Options)
-{
-	if (!std::isfinite(Value))
-	{
-		return AsCultureInvariant(FString(std::isnan(Value) ? TEXT("NaN") : (Value < 0 ? TEXT("-\u221E") : TEXT("\u221E"))));
-	}
-	const FNumberFormattingOptions& Used = OptionsOrDefault(Options);
-	const FString Digits = FString::Printf(TEXT("%.*f"), std::max(Used.MaximumFractionalDigits, 0), std::abs(Value));
-	FString Integral = Digits;
-	FString Fraction;
-	Digits.Split(TEXT("."), &Integral, &Fraction);
-	return FinishNumber(Value < 0, MoveTemp(Integral), MoveTemp(Fraction), Used);
-}
-
-FText FText::AsPercent(double Value, const FNumberFormattingOptions* Options)
-{
-	static const FNumberFormattingOptions WholePercent = FNumberFormattingOptions().SetMaximumFractionalDigits(0);
-	return AsCultureInvariant(AsNumber(Value * 100, Options != nullptr ? Options : &WholePercent).ToString() + TEXT("%"));
 }
 
 FText FText::Format(FText Fmt, const FFormatNamedArguments& InArguments)
@@ -124,7 +22,7 @@ FText FText::Format(FText Fmt, const FFormatNamedArguments& InArguments)
 
 FText FText::Format(FText Fmt, FFormatNamedArguments&& InArguments)
 {
-	return MakeFormatted(ETextHistoryType::NamedFormat, MoveTemp(Fmt), MoveTemp(InArguments), &FTextData::Named);
+	return MakeFormatted(ETextHistoryType::NamedFormat, MoveTemp(Fmt), MoveTemp(InArguments));
 }
 
 FText FText::Format(FText Fmt, const FFormatOrderedArguments& InArguments)
@@ -134,7 +32,7 @@ FText FText::Format(FText Fmt, const FFormatOrderedArguments& InArguments)
 
 FText FText::Format(FText Fmt, FFormatOrderedArguments&& InArguments)
 {
-	return MakeFormatted(ETextHistoryType::OrderedFormat, MoveTemp(Fmt), MoveTemp(InArguments), &FTextData::Ordered);
+	return MakeFormatted(ETextHistoryType::OrderedFormat, MoveTemp(Fmt), MoveTemp(InArguments));
 }
 
 const TCHAR* UE::Core::Private::GetGenderName(ETextGender Gender)
@@ -197,12 +95,10 @@ FString FFormatArgumentValue::ToFormattedString() const
 	switch (Type)
 	{
 		case EFormatArgumentType::Int:
-			return FText::AsNumber(IntValue).ToString();
 		case EFormatArgumentType::UInt:
-			return FText::AsNumber(GetUIntValue()).ToString();
 		case EFormatArgumentType::Float:
 		case EFormatArgumentType::Double:
-			return FText::AsNumber(DoubleValue).ToString();
+			return UE::Core::Private::FormatNumber(*this, UE::Core::Private::FNumberOptions());
 		case EFormatArgumentType::Text:
 			return TextValue.ToString();
 		default:

@@ -1,250 +1,20 @@
-#include "Internationalization/TextData.h"
+#include "Internationalization/TextMacros.h"
+#include "Internationalization/TextReader.h"
 
-#include "Misc/Parse.h"
+#include <algorithm>
+#include <cmath>
+
+using UE::Core::Private::ETextMacroForm;
+using UE::Core::Private::FArgumentList;
+using UE::Core::Private::FDateTimeHistory;
+using UE::Core::Private::FNumberHistory;
+using UE::Core::Private::FNumberOptions;
+using UE::Core::Private::FTextData;
+using UE::Core::Private::FTextMacro;
+using UE::Core::Private::FTextReader;
 
 namespace
 {
-/** Formats inside formats: no text that people write comes near it. */
-constexpr int32 MaxDepth = 16;
-
-/** Reads one text form from the left; every step fails without having moved. */
-class FTextReader
-{
-public:
-	FTextReader(const TCHAR* InText, const TCHAR* InTextNamespace, const TCHAR* InPackageNamespace)
-		: At(InText)
-		, TextNamespace(InTextNamespace)
-		, PackageNamespace(InPackageNamespace)
-	{
-	}
-
-	const TCHAR* GetPosition() const { return At; }
-
-	/** One of the macros; plain strings are the caller's. */
-	bool ReadMacro(FText& OutText, int32 Depth)
-	{
-		const TCHAR* const Begin = At;
-		const bool bRead = ReadLocalized(OutText) || ReadTable(OutText) || ReadInvariant(OutText) ||
-			(Depth < MaxDepth && ReadFormat(OutText, Depth));
-		At = bRead ? At : Begin;
-		return bRead;
-	}
-
-	/** A string in quotes, with or without TEXT() around it. */
-	bool ReadQuoted(FString& OutString)
-	{
-		const bool bHasMacro = Word(TEXT("TEXT")) && Char('(');
-		SkipBlanks();
-		int32 NumRead = 0;
-		if (!FParse::QuotedString(At, OutString, &NumRead))
-		{
-			return false;
-		}
-		At += NumRead;
-		return !bHasMacro || Char(')');
-	}
-
-private:
-	void SkipBlanks()
-	{
-		while (FChar::IsWhitespace(*At))
-		{
-			++At;
-		}
-	}
-
-	bool Char(TCHAR Wanted)
-	{
-		SkipBlanks();
-		const bool bFound = *At == Wanted;
-		At += bFound ? 1 : 0;
-		return bFound;
-	}
-
-	bool Word(FStringView Wanted)
-	{
-		SkipBlanks();
-		const bool bFound = FCString::Strncmp(At, Wanted.GetData(), static_cast<SIZE_T>(Wanted.Len())) == 0 &&
-			!FChar::IsIdentifier(At[Wanted.Len()]);
-		At += bFound ? Wanted.Len() : 0;
-		return bFound;
-	}
-
-	bool Macro(FStringView Name)
-	{
-		const TCHAR* const Begin = At;
-		const bool bFound = Word(Name) && Char('(');
-		At = bFound ? At : Begin;
-		return bFound;
-	}
-
-	bool ReadLocalized(FText& OutText)
-	{
-		FString Namespace(TextNamespace);
-		const bool bNamesNamespace = Macro(TEXTVIEW("NSLOCTEXT"));
-		if (!bNamesNamespace && !Macro(TEXTVIEW("LOCTEXT")))
-		{
-			return false;
-		}
-		if (bNamesNamespace && !(ReadQuoted(Namespace) && Char(',')))
-		{
-			return false;
-		}
-		FString Key;
-		FString Source;
-		if (!ReadQuoted(Key) || !Char(',') || !ReadQuoted(Source) || !Char(')'))
-		{
-			return false;
-		}
-		OutText = UE::Core::Private::MakeBaseText(PutPackageNamespace(Namespace), Key, MoveTemp(Source));
-		return true;
-	}
-
-	/** A package's own texts keep "[its namespace]" at the end of theirs; text that comes to another package gets that package's. */
-	FString PutPackageNamespace(const FString& Namespace) const
-	{
-		int32 Bracket;
-		const bool bHasOne = Namespace.EndsWith(TEXT("]")) && Namespace.FindLastChar('[', Bracket);
-		if (!bHasOne || PackageNamespace == nullptr || *PackageNamespace == 0)
-		{
-			return Namespace;
-		}
-		return FString::Printf(TEXT("%s[%s]"), *Namespace.Left(Bracket), PackageNamespace);
-	}
-
-	bool ReadTable(FText& OutText)
-	{
-		FString Table;
-		FString Key;
-		if (!Macro(TEXTVIEW("LOCTABLE")) || !ReadQuoted(Table) || !Char(',') || !ReadQuoted(Key) || !Char(')'))
-		{
-			return false;
-		}
-		OutText = FText::FromStringTable(FName(Table), Key);
-		return true;
-	}
-
-	bool ReadInvariant(FText& OutText)
-	{
-		FString Source;
-		if (!Macro(TEXTVIEW("INVTEXT")) || !ReadQuoted(Source) || !Char(')'))
-		{
-			return false;
-		}
-		OutText = FText::AsCultureInvariant(MoveTemp(Source));
-		return true;
-	}
-
-	bool ReadFormat(FText& OutText, int32 Depth)
-	{
-		const bool bNamed = Macro(TEXTVIEW("LOCGEN_FORMAT_NAMED"));
-		FText Pattern;
-		if ((!bNamed && !Macro(TEXTVIEW("LOCGEN_FORMAT_ORDERED"))) || !ReadMacroOrQuoted(Pattern, Depth))
-		{
-			return false;
-		}
-		FFormatNamedArguments Named;
-		FFormatOrderedArguments Ordered;
-		while (Char(','))
-		{
-			FString Name;
-			FFormatArgumentValue Value;
-			if ((bNamed && !(ReadQuoted(Name) && Char(','))) || !ReadArgument(Value, Depth))
-			{
-				return false;
-			}
-			if (bNamed)
-			{
-				Named.Add(MoveTemp(Name), MoveTemp(Value));
-			}
-			else
-			{
-				Ordered.Add(MoveTemp(Value));
-			}
-		}
-		if (!Char(')'))
-		{
-			return false;
-		}
-		OutText = bNamed ? FText::Format(MoveTemp(Pattern), MoveTemp(Named)) : FText::Format(MoveTemp(Pattern), MoveTemp(Ordered));
-		return true;
-	}
-
-	bool ReadMacroOrQuoted(FText& OutText, int32 Depth)
-	{
-		FString Plain;
-		if (ReadMacro(OutText, Depth + 1))
-		{
-			return true;
-		}
-		if (!ReadQuoted(Plain))
-		{
-			return false;
-		}
-		OutText = FText::FromString(MoveTemp(Plain));
-		return true;
-	}
-
-	bool ReadGender(FFormatArgumentValue& OutValue)
-	{
-		if (!Word(TEXTVIEW("ETextGender")) || !Char(':') || !Char(':'))
-		{
-			return false;
-		}
-		for (const ETextGender Gender : {ETextGender::Masculine, ETextGender::Feminine, ETextGender::Neuter})
-		{
-			if (Word(UE::Core::Private::GetGenderName(Gender)))
-			{
-				OutValue = FFormatArgumentValue(Gender);
-				return true;
-			}
-		}
-		return false;
-	}
-
-	bool ReadArgument(FFormatArgumentValue& OutValue, int32 Depth)
-	{
-		SkipBlanks();
-		if (*At == 'E')
-		{
-			return ReadGender(OutValue);
-		}
-		if (!FChar::IsDigit(*At) && *At != '-' && *At != '+')
-		{
-			FText Text;
-			const bool bRead = ReadMacroOrQuoted(Text, Depth);
-			OutValue = FFormatArgumentValue(MoveTemp(Text));
-			return bRead;
-		}
-		const TCHAR* End = At;
-		while (FChar::IsDigit(*End) || *End == '.' || *End == '-' || *End == '+')
-		{
-			++End;
-		}
-		const FString Number(FStringView(At, static_cast<int32>(End - At)));
-		const bool bHasPoint = Number.Contains(TEXT("."));
-		const bool bHasSuffix = *End == 'f' || *End == 'u';
-		At = End + (bHasSuffix ? 1 : 0);
-		if (*End == 'f')
-		{
-			OutValue = FFormatArgumentValue(FCString::Atof(*Number));
-		}
-		else if (*End == 'u')
-		{
-			OutValue = FFormatArgumentValue(FCString::Strtoui64(*Number, nullptr, 10));
-		}
-		else
-		{
-			OutValue = bHasPoint ? FFormatArgumentValue(FCString::Atod(*Number)) : FFormatArgumentValue(FCString::Atoi64(*Number));
-		}
-		return Number.IsNumeric();
-	}
-
-	const TCHAR* At;
-	const TCHAR* TextNamespace;
-	const TCHAR* PackageNamespace;
-};
-
 void AppendQuoted(FString& Buffer, const FString& Text)
 {
 	Buffer += TEXT('"');
@@ -270,22 +40,196 @@ void WriteArgument(FString& Buffer, const FFormatArgumentValue& Value, bool bStr
 	Buffer += Value.ToExportedString();
 }
 
-void WriteFormat(FString& Buffer, const UE::Core::Private::FTextData& Data, bool bStripPackageNamespace)
+/** Of a map or a list of pairs. */
+template <typename ArgumentsType>
+void WriteNamedArguments(FString& Buffer, const ArgumentsType& Arguments, bool bStripPackageNamespace)
 {
-	const bool bNamed = Data.Type == ETextHistoryType::NamedFormat;
-	Buffer += bNamed ? TEXT("LOCGEN_FORMAT_NAMED(") : TEXT("LOCGEN_FORMAT_ORDERED(");
-	FTextStringHelper::WriteToBuffer(Buffer, Data.Pattern, true, bStripPackageNamespace);
-	for (const TPair<FString, FFormatArgumentValue>& Pair : Data.Named)
+	for (const TPair<FString, FFormatArgumentValue>& Argument : Arguments)
 	{
 		Buffer += TEXT(", ");
-		AppendQuoted(Buffer, Pair.Key);
-		WriteArgument(Buffer, Pair.Value, bStripPackageNamespace);
+		AppendQuoted(Buffer, Argument.Key);
+		WriteArgument(Buffer, Argument.Value, bStripPackageNamespace);
 	}
-	for (const FFormatArgumentValue& Value : Data.Ordered)
+}
+
+void WriteFormat(FString& Buffer, const FTextData& Data, bool bStripPackageNamespace)
+{
+	const bool bOrdered = Data.Type == ETextHistoryType::OrderedFormat;
+	Buffer += bOrdered ? TEXT("LOCGEN_FORMAT_ORDERED(") : TEXT("LOCGEN_FORMAT_NAMED(");
+	FTextStringHelper::WriteToBuffer(Buffer, Data.Source, true, bStripPackageNamespace);
+	if (const FFormatOrderedArguments* const Ordered = Data.History.TryGet<FFormatOrderedArguments>())
 	{
-		WriteArgument(Buffer, Value, bStripPackageNamespace);
+		for (const FFormatArgumentValue& Value : *Ordered)
+		{
+			WriteArgument(Buffer, Value, bStripPackageNamespace);
+		}
+	}
+	else if (const FFormatNamedArguments* const Named = Data.History.TryGet<FFormatNamedArguments>())
+	{
+		WriteNamedArguments(Buffer, *Named, bStripPackageNamespace);
+	}
+	else
+	{
+		WriteNamedArguments(Buffer, Data.History.Get<FArgumentList>(), bStripPackageNamespace);
 	}
 	Buffer += TEXT(')');
+}
+
+void BeginMacro(FString& Buffer, ETextHistoryType Type, ETextMacroForm Form)
+{
+	const FTextMacro* const Macro = std::find_if(std::begin(UE::Core::Private::GeneratedTextMacros),
+		std::end(UE::Core::Private::GeneratedTextMacros), [Type, Form](const FTextMacro& Known)
+		{ return Known.Type == Type && Known.Form == Form; });
+	check(Macro != std::end(UE::Core::Private::GeneratedTextMacros));
+	Buffer += Macro->Name;
+	Buffer += TEXT('(');
+}
+
+void EndMacro(FString& Buffer, const FString& CultureName)
+{
+	Buffer += TEXT(", ");
+	AppendQuoted(Buffer, CultureName);
+	Buffer += TEXT(')');
+}
+
+/** The options that are not the usual ones, or one that is: the form cannot name none. */
+FString MakeOptionsText(const FNumberOptions& Options)
+{
+	const FNumberOptions Usual;
+	FString Result;
+	const auto Append = [&Result](FStringView Setter, FStringView Value)
+	{
+		Result += Result.IsEmpty() ? TEXT("") : TEXT(".");
+		Result += Setter;
+		Result += TEXT('(');
+		Result += Value;
+		Result += TEXT(')');
+	};
+	for (const UE::Core::Private::TNumberOptionName<bool>& Option : UE::Core::Private::SwitchOptions)
+	{
+		if (Options.*Option.Member != Usual.*Option.Member)
+		{
+			Append(Option.Setter, Options.*Option.Member ? TEXTVIEW("true") : TEXTVIEW("false"));
+		}
+	}
+	if (Options.RoundingMode != Usual.RoundingMode)
+	{
+		const TCHAR* const Name = UE::Core::Private::GetRoundingModeName(Options.RoundingMode);
+		Append(UE::Core::Private::RoundingModeOption, FString(UE::Core::Private::RoundingModeEnum) + TEXT("::") + Name);
+	}
+	for (const UE::Core::Private::TNumberOptionName<int32>& Option : UE::Core::Private::DigitOptions)
+	{
+		if (Options.*Option.Member != Usual.*Option.Member)
+		{
+			Append(Option.Setter, LexToString(Options.*Option.Member));
+		}
+	}
+	if (Result.IsEmpty())
+	{
+		Append(UE::Core::Private::SwitchOptions[1].Setter, TEXTVIEW("true"));
+	}
+	return Result;
+}
+
+/** Which form shows the same: GROUPED is read as no options, which for a number are the usual ones, but not for a percentage. */
+ETextMacroForm FindNumberForm(ETextHistoryType Type, const TOptional<FNumberOptions>& Options)
+{
+	if (!Options.IsSet() || (Type == ETextHistoryType::AsNumber && *Options == FNumberOptions()))
+	{
+		return ETextMacroForm::Grouped;
+	}
+	const bool bIsUngrouped = *Options == FNumberOptions(FNumberFormattingOptions::DefaultNoGrouping());
+	return bIsUngrouped ? ETextMacroForm::Ungrouped : ETextMacroForm::Custom;
+}
+
+void WriteNumber(FString& Buffer, ETextHistoryType Type, const FNumberHistory& History)
+{
+	const ETextMacroForm Form = FindNumberForm(Type, History.Options);
+	BeginMacro(Buffer, Type, Form);
+	Buffer += History.Value.ToExportedString();
+	if (Form == ETextMacroForm::Custom)
+	{
+		Buffer += TEXT(", ");
+		Buffer += MakeOptionsText(*History.Options);
+	}
+	EndMacro(Buffer, History.CultureName);
+}
+
+/** An amount in the currency's smallest coin; the form has no place for options. */
+void WriteCurrency(FString& Buffer, const FNumberHistory& History)
+{
+	constexpr double Limit = 9.0e18;
+	const double Amount = History.Value.GetNumber() * std::pow(10.0, UE::Core::Private::GetCurrencyDigits(History.CurrencyCode));
+	const double Fitting = std::isnan(Amount) ? 0 : std::clamp(Amount, -Limit, Limit);
+	BeginMacro(Buffer, ETextHistoryType::AsCurrency, ETextMacroForm::Plain);
+	Buffer += LexToString(static_cast<int64>(std::llround(Fitting)));
+	Buffer += TEXT(", ");
+	AppendQuoted(Buffer, History.CurrencyCode);
+	EndMacro(Buffer, History.CultureName);
+}
+
+void WriteDateTime(FString& Buffer, ETextHistoryType Type, const FDateTimeHistory& History)
+{
+	const bool bIsLocal = History.TimeZone.Equals(UE::Core::Private::LocalTimeZone);
+	const auto AppendStyle = [&Buffer](EDateTimeStyle::Type Style)
+	{
+		const TCHAR* const Name = UE::Core::Private::GetDateTimeStyleName(Style);
+		Buffer += TEXT(", ");
+		Buffer += UE::Core::Private::DateTimeStyleEnum;
+		Buffer += TEXT("::");
+		Buffer += Name != nullptr ? Name : UE::Core::Private::GetDateTimeStyleName(EDateTimeStyle::Default);
+	};
+	BeginMacro(Buffer, Type, bIsLocal ? ETextMacroForm::Local : ETextMacroForm::Utc);
+	Buffer += LexToString(std::clamp(History.Value, FDateTime::MinValue(), FDateTime::MaxValue()).ToUnixTimestamp());
+	if (Type != ETextHistoryType::AsTime)
+	{
+		AppendStyle(History.DateStyle);
+	}
+	if (Type != ETextHistoryType::AsDate)
+	{
+		AppendStyle(History.TimeStyle);
+	}
+	if (!bIsLocal)
+	{
+		Buffer += TEXT(", ");
+		AppendQuoted(Buffer, History.TimeZone);
+	}
+	EndMacro(Buffer, History.CultureName);
+}
+
+/** A text that was made of other values, not of a string; false for the others. */
+bool WriteMadeOfParts(FString& Buffer, const FTextData& Data, bool bStripPackageNamespace)
+{
+	switch (Data.Type)
+	{
+		case ETextHistoryType::NamedFormat:
+		case ETextHistoryType::OrderedFormat:
+		case ETextHistoryType::ArgumentFormat:
+			WriteFormat(Buffer, Data, bStripPackageNamespace);
+			return true;
+		case ETextHistoryType::AsNumber:
+		case ETextHistoryType::AsPercent:
+			WriteNumber(Buffer, Data.Type, Data.History.Get<FNumberHistory>());
+			return true;
+		case ETextHistoryType::AsCurrency:
+			WriteCurrency(Buffer, Data.History.Get<FNumberHistory>());
+			return true;
+		case ETextHistoryType::AsDate:
+		case ETextHistoryType::AsTime:
+		case ETextHistoryType::AsDateTime:
+			WriteDateTime(Buffer, Data.Type, Data.History.Get<FDateTimeHistory>());
+			return true;
+		case ETextHistoryType::Transform:
+		{
+			const bool bIsLower = Data.History.Get<ETextTransform>() == ETextTransform::ToLower;
+			BeginMacro(Buffer, Data.Type, bIsLower ? ETextMacroForm::Lower : ETextMacroForm::Upper);
+			FTextStringHelper::WriteToBuffer(Buffer, Data.Source, true, bStripPackageNamespace);
+			Buffer += TEXT(')');
+			return true;
+		}
+		default:
+			return false;
+	}
 }
 }
 
@@ -293,7 +237,7 @@ const TCHAR* FTextStringHelper::ReadFromBuffer(
 	const TCHAR* Buffer, FText& OutValue, const TCHAR* TextNamespace, const TCHAR* PackageNamespace, bool bRequiresQuotes)
 {
 	FTextReader Reader(Buffer, TextNamespace, PackageNamespace);
-	if (Reader.ReadMacro(OutValue, 0))
+	if (Reader.ReadMacro(OutValue))
 	{
 		return Reader.GetPosition();
 	}
@@ -325,23 +269,20 @@ FText FTextStringHelper::CreateFromBuffer(
 
 void FTextStringHelper::WriteToBuffer(FString& Buffer, const FText& Value, bool bRequiresQuotes, bool bStripPackageNamespace)
 {
-	const UE::Core::Private::FTextData& Data = *Value.Data;
+	const FTextData& Data = *Value.Data;
 	const bool bHasIdentity = !Data.Key.IsEmpty() || !Data.Namespace.IsEmpty();
-	switch (Data.Type)
+	if (WriteMadeOfParts(Buffer, Data, bStripPackageNamespace))
 	{
-		case ETextHistoryType::StringTableEntry:
-			Buffer += TEXT("LOCTABLE(");
-			AppendQuoted(Buffer, Data.TableId.ToString());
-			Buffer += TEXT(", ");
-			AppendQuoted(Buffer, Data.Key);
-			Buffer += TEXT(')');
-			return;
-		case ETextHistoryType::NamedFormat:
-		case ETextHistoryType::OrderedFormat:
-			WriteFormat(Buffer, Data, bStripPackageNamespace);
-			return;
-		default:
-			break;
+		return;
+	}
+	if (Data.Type == ETextHistoryType::StringTableEntry)
+	{
+		Buffer += TEXT("LOCTABLE(");
+		AppendQuoted(Buffer, Data.TableId.ToString());
+		Buffer += TEXT(", ");
+		AppendQuoted(Buffer, Data.Key);
+		Buffer += TEXT(')');
+		return;
 	}
 	if (Value.IsCultureInvariant() && !Data.Display.IsEmpty())
 	{

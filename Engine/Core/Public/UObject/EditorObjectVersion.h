@@ -11,6 +11,7 @@ struct CORE_API FEditorObjectVersion
 		/** Packages have metadata of their own beside that of their objects. */
 		RootMetaDataSupport = 3,
 		TextFormatArgumentDataIsVariant = 5,
+		AddedAlwaysSignNumberFormattingOption = 21,
 		/** A text without identity keeps its string. */
 		CultureInvariantTextSerializationKeyStability = 32,
 

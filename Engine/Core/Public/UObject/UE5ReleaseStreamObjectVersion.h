@@ -8,6 +8,7 @@ struct CORE_API FUE5ReleaseStreamObjectVersion
 	enum Type
 	{
 		BeforeCustomVersionWasAdded = 0,
+		TextFormatArgumentData64bitSupport = 12,
 		BlueprintPinsUseRealNumbers = 29,
 		SerializeFloatPinDefaultValuesAsSinglePrecision = 36,
 

@@ -168,6 +168,13 @@ FString FTextProperty::GetCPPType(FString* ExtendedTypeText, uint32 CPPExportFla
 
 bool FTextProperty::Identical_Implementation(const FText& A, const FText& B, uint32 PortFlags)
 {
+	const bool bIsMadeOfParts = FTextInspector::GetSourceString(A) == nullptr || FTextInspector::GetSourceString(B) == nullptr;
+	if (bIsMadeOfParts)
+	{
+		// The same words may come from another number, date or table.
+		return A.IsCultureInvariant() == B.IsCultureInvariant() &&
+			A.IdenticalTo(B, ETextIdenticalModeFlags::DeepCompare | ETextIdenticalModeFlags::LexicalCompareInvariants);
+	}
 	const TOptional<FString> SpaceA = FTextInspector::GetNamespace(A);
 	const TOptional<FString> SpaceB = FTextInspector::GetNamespace(B);
 	const TOptional<FString> KeyA = FTextInspector::GetKey(A);
