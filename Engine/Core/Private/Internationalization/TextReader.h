@@ -6,7 +6,7 @@ namespace UE::Core::Private
 {
 struct FTextMacro;
 
-/** Reads one text form from the left; every step fails without having moved. */
+/** Reads one text form from the left. A macro is read as a whole or not at all; where a smaller step fails, the position has no meaning. */
 class FTextReader
 {
 public:
