@@ -181,22 +181,26 @@ bool FVexelBlueprintMapping::ResolveNodeInGraph(const TVexelNodeId& Id, const UE
 
 UEdGraphNode* FVexelBlueprintMapping::FindNamedNode(const FGuid& NodeGuid, const UEdGraph& Graph)
 {
-	TWeakObjectPtr<UEdGraphNode>& Found = FoundNodes.FindOrAdd(NodeGuid);
-	UEdGraphNode* const Last = Found.Get();
+	const FFoundNode* const Last = FoundNodes.Find(NodeGuid);
+	UEdGraphNode* const LastNode = Last ? Last->Node.Get() : nullptr;
 	// A node that was removed keeps its graph as its outer, so only the graph's own list tells.
-	if (Last && Last->NodeGuid == NodeGuid && Graph.Nodes.Contains(Last))
+	const bool bIsThere = LastNode && Graph.Nodes.IsValidIndex(Last->Index) && Graph.Nodes[Last->Index] == LastNode;
+	if (bIsThere && LastNode->NodeGuid == NodeGuid)
 	{
-		return Last;
+		return LastNode;
 	}
-	for (UEdGraphNode* const Node : Graph.Nodes)
+	// One walk finds the nodes that are asked for next, too; from the end, so that of several with one GUID the first stays.
+	UEdGraphNode* Found = nullptr;
+	for (int32 Index = Graph.Nodes.Num() - 1; Index >= 0; --Index)
 	{
-		if (Node && Node->NodeGuid == NodeGuid)
+		UEdGraphNode* const Node = Graph.Nodes[Index];
+		if (Node)
 		{
-			Found = Node;
-			return Node;
+			FoundNodes.Add(Node->NodeGuid, {Node, Index});
+			Found = Node->NodeGuid == NodeGuid ? Node : Found;
 		}
 	}
-	return nullptr;
+	return Found;
 }
 
 TVexelPinId FVexelBlueprintMapping::MakePinReference(const UEdGraphPin& Pin)

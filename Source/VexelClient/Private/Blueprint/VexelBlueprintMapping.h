@@ -80,8 +80,13 @@ private:
 	UEdGraphNode* FindNamedNode(const FGuid& NodeGuid, const UEdGraph& Graph);
 
 	FVexelNodeNameTable NodeNames;
-	/** Where nodes with names were last found. An entry holds while the node has that GUID. */
-	TMap<FGuid, TWeakObjectPtr<UEdGraphNode>> FoundNodes;
+	/** Where a node was last found. It is there still as long as its graph has it at that index. */
+	struct FFoundNode
+	{
+		TWeakObjectPtr<UEdGraphNode> Node;
+		int32 Index = INDEX_NONE;
+	};
+	TMap<FGuid, FFoundNode> FoundNodes;
 	/** By "owner path.property name". */
 	TMap<FString, FGuid> PropGuids;
 };

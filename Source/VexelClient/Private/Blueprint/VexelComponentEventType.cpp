@@ -5,6 +5,7 @@
 #include "BlueprintNodeSpawner.h"
 #include "Engine/Blueprint.h"
 #include "K2Node_ComponentBoundEvent.h"
+#include "Kismet2/BlueprintEditorUtils.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -27,7 +28,7 @@ UBlueprintNodeSpawner* VexelComponentEventType::MakeSpawner(const TVexelNodeType
 	{
 		return nullptr;
 	}
-	const UClass* const Class = Blueprint.SkeletonGeneratedClass ? Blueprint.SkeletonGeneratedClass.Get() : Blueprint.GeneratedClass.Get();
+	const UClass* const Class = FBlueprintEditorUtils::GetMostUpToDateClass(Blueprint.GeneratedClass);
 	const auto* const Component = Class ? FindFProperty<FObjectProperty>(Class, FName(*Parts[3])) : nullptr;
 	const auto* const Dispatcher = Component ? FindDispatcher(Component->PropertyClass, Parts[2], Parts[1] + TEXT(".")) : nullptr;
 	if (!Dispatcher)

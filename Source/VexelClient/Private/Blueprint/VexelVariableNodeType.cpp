@@ -70,7 +70,7 @@ TSubclassOf<UK2Node_Variable> GetNodeClass(const FVariableId& Id)
 /** The class as its Blueprint's nodes see it, with members that no compile has brought to the generated class yet. */
 UClass* GetCurrentClass(const UBlueprint& Blueprint)
 {
-	return Blueprint.SkeletonGeneratedClass ? Blueprint.SkeletonGeneratedClass.Get() : Blueprint.GeneratedClass.Get();
+	return FBlueprintEditorUtils::GetMostUpToDateClass(Blueprint.GeneratedClass);
 }
 
 bool IsOwnPrefix(const UClass* Class, const FString& OwnerPrefix)
