@@ -105,13 +105,16 @@ TEST_F(FActionDatabaseTest, AnEventStandsInItsBlueprintOnce)
 TEST_F(FActionDatabaseTest, ActionsFollowTheirBlueprint)
 {
 	EXPECT_EQ(Find(Blueprint, TEXT("Get Health")), nullptr);
-	const uint64 Before = FBlueprintActionDatabase::Get().GetGeneration();
+	bool bTold = false;
+	const FDelegateHandle Listener = FBlueprintActionDatabase::Get().OnEntryUpdated().AddLambda([this, &bTold](UObject* Key)
+		{ bTold |= Key == Blueprint; });
 	AddVariable(TEXT("Health"));
 	UK2Node_VariableGet* const Get = Spawn<UK2Node_VariableGet>(Blueprint, TEXT("Get Health"));
 	ASSERT_NE(Get, nullptr);
 	EXPECT_TRUE(Get->VariableReference.IsSelfContext());
 	EXPECT_NE(Spawn<UK2Node_VariableSet>(Blueprint, TEXT("Set Health")), nullptr);
-	EXPECT_NE(FBlueprintActionDatabase::Get().GetGeneration(), Before);
+	EXPECT_TRUE(bTold);
+	FBlueprintActionDatabase::Get().OnEntryUpdated().Remove(Listener);
 
 	FBlueprintEditorUtils::RenameMemberVariable(Blueprint, TEXT("Health"), TEXT("Energy"));
 	EXPECT_EQ(Find(Blueprint, TEXT("Get Health")), nullptr);

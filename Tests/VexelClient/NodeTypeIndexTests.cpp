@@ -116,6 +116,15 @@ TEST_F(FNodeTypeIndexTest, AnEventOfAComponentIsBoundToIt)
 	}
 }
 
+TEST_F(FNodeTypeIndexTest, ADatabaseThatIsMadeAnewIsLookedAtAnew)
+{
+	ASSERT_NE(nullptr, Resolve(TEXT("flow.if")));
+	FBlueprintActionDatabase::Get().RefreshAll();
+	CollectGarbage(RF_Standalone);
+	EXPECT_EQ("flow.if", SpawnedId(TEXT("flow.if")));
+	EXPECT_EQ("call.KismetSystemLibrary.PrintString", SpawnedId(TEXT("call.KismetSystemLibrary.PrintString")));
+}
+
 TEST_F(FNodeTypeIndexTest, WhatMayOnlyBeReadIsNotWritten)
 {
 	AddVariable(TEXT("Score"), TEXT("int"));
@@ -158,6 +167,9 @@ TEST_F(FNodeTypeIndexTest, ThousandsOfNodesOfOneTitleHaveNamesOfTheirOwn)
 	UEdGraphNode* Last = nullptr;
 	ASSERT_TRUE(Mapping.ResolveNodeInGraph(TVexelNodeId(FString::Printf(TEXT("Branch_%d"), NumNodes - 1)), *EventGraph, Last));
 	EXPECT_EQ(EventGraph->Nodes.Last().Get(), Last);
+	EventGraph->RemoveNode(EventGraph->Nodes[0]);
+	ASSERT_TRUE(Mapping.ResolveNodeInGraph(TVexelNodeId(FString::Printf(TEXT("Branch_%d"), NumNodes - 1)), *EventGraph, Last));
+	EXPECT_EQ(EventGraph->Nodes.Last().Get(), Last) << "though it stands elsewhere now";
 	EventGraph->RemoveNode(Last);
 	EXPECT_FALSE(Mapping.ResolveNodeInGraph(TVexelNodeId(FString::Printf(TEXT("Branch_%d"), NumNodes - 1)), *EventGraph, Last));
 }

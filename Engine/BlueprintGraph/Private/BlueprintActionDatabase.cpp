@@ -40,9 +40,9 @@ const FBlueprintActionDatabase::FActionRegistry& FBlueprintActionDatabase::GetAl
 
 void FBlueprintActionDatabase::RefreshAll()
 {
+	const FActionRegistry Old = MoveTemp(ActionRegistry);
 	ActionRegistry.Empty();
 	ChangedAssets.Empty();
-	++Generation;
 	// Actions are objects too: the classes are listed before any is made.
 	TArray<UClass*> Classes;
 	for (TObjectIterator<UClass> Class; Class; ++Class)
@@ -69,6 +69,17 @@ void FBlueprintActionDatabase::RefreshAll()
 	for (TObjectIterator<UBlueprint> Blueprint; Blueprint; ++Blueprint)
 	{
 		RefreshAssetActions(*Blueprint);
+	}
+	for (const auto& [Key, Actions] : Old)
+	{
+		if (!ActionRegistry.Contains(Key))
+		{
+			EntryRemoved.Broadcast(Key.ResolveObjectPtr());
+		}
+	}
+	for (const auto& [Key, Actions] : ActionRegistry)
+	{
+		EntryUpdated.Broadcast(Key.ResolveObjectPtr());
 	}
 }
 
@@ -143,13 +154,18 @@ void FBlueprintActionDatabase::RefreshChangedAssets()
 
 void FBlueprintActionDatabase::DropDeadEntries()
 {
+	bool bRemoved = false;
 	for (FActionRegistry::TIterator Entry(ActionRegistry); Entry; ++Entry)
 	{
 		if (!Entry.Key().ResolveObjectPtr())
 		{
 			Entry.RemoveCurrent();
-			++Generation;
+			bRemoved = true;
 		}
+	}
+	if (bRemoved)
+	{
+		EntryRemoved.Broadcast(nullptr);
 	}
 }
 
@@ -160,7 +176,6 @@ void FBlueprintActionDatabase::SetActions(UObject* Key, FActionList&& Actions)
 		RemoveActions(FObjectKey(Key), Key);
 		return;
 	}
-	++Generation;
 	FActionList& Kept = ActionRegistry.FindOrAdd(FObjectKey(Key));
 	for (UBlueprintNodeSpawner* const Old : Kept)
 	{
@@ -177,7 +192,6 @@ void FBlueprintActionDatabase::RemoveActions(const FObjectKey& Key, UObject* Key
 	{
 		return;
 	}
-	++Generation;
 	for (UBlueprintNodeSpawner* const Old : Removed)
 	{
 		Old->ClearCachedTemplateNode();

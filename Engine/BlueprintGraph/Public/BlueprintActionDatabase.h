@@ -28,8 +28,6 @@ public:
 
 	/** Brought up to date first. The lists hold until the next change. */
 	const FActionRegistry& GetAllActions();
-	/** Changes whenever an entry does: an index over the actions is good as long as this stays. */
-	uint64 GetGeneration() const { return Generation; }
 
 	void RefreshAll();
 	void RefreshClassActions(UClass* Class);
@@ -39,6 +37,7 @@ public:
 
 	/** After the actions of a class or an asset were made again. */
 	FOnDatabaseEntryUpdated& OnEntryUpdated() { return EntryUpdated; }
+	/** With null where the class or asset is gone. */
 	FOnDatabaseEntryUpdated& OnEntryRemoved() { return EntryRemoved; }
 
 	virtual void AddReferencedObjects(FReferenceCollector& Collector) override;
@@ -56,7 +55,6 @@ private:
 
 	FActionRegistry ActionRegistry;
 	TSet<FObjectKey> ChangedAssets;
-	uint64 Generation = 0;
 	FOnDatabaseEntryUpdated EntryUpdated;
 	FOnDatabaseEntryUpdated EntryRemoved;
 	static FBlueprintActionDatabase* Instance;
