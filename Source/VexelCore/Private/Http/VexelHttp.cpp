@@ -313,9 +313,17 @@ void FVexelHttpRequest::BeginWaiting()
 
 bool FVexelHttpRequest::EndWaiting()
 {
-	FScopeLock Guard(&Lock);
-	bWaiting = false;
-	return !bCancelled;
+	{
+		FScopeLock Guard(&Lock);
+		bWaiting = false;
+		if (!bCancelled)
+		{
+			return true;
+		}
+	}
+	// Cancelled before it began to wait, when nobody was there yet to complete it; otherwise the first completion counts.
+	Result.Complete(MakeCancelledError());
+	return false;
 }
 
 void FVexelHttpRequest::CompleteFailed(const TCHAR* Reason)
