@@ -1,5 +1,6 @@
 #include "Lum/LumCompound.h"
 
+#include "Lum/Compound/LumBlueprintCompound.h"
 #include "Lum/LumErrors.h"
 #include "Lum/LumJsonPropertyCollector.h"
 #include "Lum/LumProperty.h"
@@ -55,6 +56,11 @@ private:
 };
 }
 
+TSharedRef<ILumCompound> ILumCompound::Create(UBlueprint& Blueprint)
+{
+	return MakeShared<FLumBlueprintCompound>(Blueprint);
+}
+
 TVexelExpected<void> ILumCompound::IterateProperties(ILumPropertyCollector& Collector) const
 {
 	VEXEL_TRY_VOID(Iterate(Collector), "while iterating properties");
@@ -90,4 +96,47 @@ TVexelExpected<void> ILumCompound::JsonExportPropertiesAndVariables(const FLumCo
 	VEXEL_TRY_VOID(IterateForExport(Collector), "while iterating properties for JSON export");
 	Collector.MoveTo(Object, TEXT("properties"), TEXT("variables"));
 	return {};
+}
+
+TVexelExpected<void> ILumCompound::AddVariable(const FLumVarDesc& Desc)
+{
+	return VEXEL_ERROR(FLumError_Write, "Variable '%s' cannot be added: the target holds no variables", *Desc.PropId);
+}
+
+TVexelExpected<void> ILumCompound::RemoveVariable(const TVexelVarScopeId&, const TVexelPropId& PropId)
+{
+	return VEXEL_ERROR(FLumError_Write, "Variable '%s' cannot be removed: the target holds no variables", *PropId);
+}
+
+TVexelExpected<void> ILumCompound::JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object)
+{
+	for (const auto& [Key, Value] : Object->Values)
+	{
+		VEXEL_TRY(const TSharedPtr<ILumProperty> Property, FindProperty(TVexelPropId(Key)), "while finding property '%s'", *Key);
+		if (!Property)
+		{
+			return VEXEL_ERROR(FLumError_Import, "Property '%s' not found", *Key);
+		}
+		if (!Value || Value->IsNull())
+		{
+			return VEXEL_ERROR(FLumError_Import, "Invalid JSON value for key '%s'", *Key);
+		}
+		VEXEL_TRY_VOID(Property->JsonImportValue(Context, Value.ToSharedRef()), "while importing property '%s'", *Key);
+	}
+	return {};
+}
+
+TVexelExpected<void> ILumCollectionCompound::InsertAt(const FLumContext&, int32, const TSharedRef<FJsonValue>&)
+{
+	return VEXEL_ERROR(FLumError_Import, "Elements of the collection cannot be changed");
+}
+
+TVexelExpected<void> ILumCollectionCompound::RemoveAt(int32)
+{
+	return VEXEL_ERROR(FLumError_Import, "Elements of the collection cannot be changed");
+}
+
+TVexelExpected<void> ILumCollectionCompound::Resize(int32)
+{
+	return VEXEL_ERROR(FLumError_Import, "Elements of the collection cannot be changed");
 }

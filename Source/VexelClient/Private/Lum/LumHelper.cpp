@@ -13,9 +13,6 @@
 
 namespace
 {
-const TCHAR* const ReferencePrefix = TEXT("ref|");
-const TCHAR* const NullPath = TEXT("None");
-
 TVexelExpected<TSharedRef<ILumProperty>> ResolvePath(TSharedRef<ILumCompound> Compound, const FString& Path)
 {
 	FString Rest = Path;
@@ -179,26 +176,6 @@ TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(
 	return Property.ToSharedRef();
 }
 
-FString FLumHelper::MakeReferenceString(const UObject* Object)
-{
-	return MakeReferenceString(Object ? Object->GetPathName() : FString());
-}
-
-FString FLumHelper::MakeReferenceString(const FString& ObjectPath)
-{
-	return FString(ReferencePrefix) + (ObjectPath.IsEmpty() ? FString(NullPath) : ObjectPath);
-}
-
-TVexelExpected<FString> FLumHelper::ParseReferenceString(const FString& Reference)
-{
-	if (!Reference.StartsWith(ReferencePrefix, ESearchCase::CaseSensitive))
-	{
-		return VEXEL_ERROR(FLumError_Read, "Invalid reference string");
-	}
-	FString Path = Reference.RightChop(FStringView(ReferencePrefix).Len());
-	return Path == NullPath ? FString() : Path;
-}
-
 TVexelExpected<void> FLumHelper::ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text)
 {
 	FStringOutputDevice Errors;
@@ -207,6 +184,17 @@ TVexelExpected<void> FLumHelper::ImportStringToProperty(const FProperty& Propert
 		return VEXEL_ERROR(FLumError_Import, "Failed to import text to property '%s': %s", *Property.GetName(), *Errors);
 	}
 	return {};
+}
+
+FString FLumHelper::ListEnumerators(const UEnum& Enum)
+{
+	const int32 NumNames = Enum.NumEnums() - (Enum.ContainsExistingMax() ? 1 : 0);
+	TArray<FString> Names;
+	for (int32 Index = 0; Index < NumNames; ++Index)
+	{
+		Names.Add(Enum.GetNameStringByIndex(Index));
+	}
+	return TEXT("Valid names: ") + FString::Join(Names, TEXT(", "));
 }
 
 TVexelExpected<TArray<int32>> FLumHelper::GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object)

@@ -14,7 +14,9 @@ class ILumCompound;
 class ILumProperty;
 class ILumPropertyCollector;
 class UBlueprint;
+class UClass;
 class UEdGraph;
+class UEnum;
 class UObject;
 class UStruct;
 
@@ -57,8 +59,17 @@ public:
 	/** The path of a reference string; empty for a null reference. */
 	static TVexelExpected<FString> ParseReferenceString(const FString& Reference);
 
+	/**
+	 * The object at the path, loaded if it must be; null for an empty path. Refused where there is none, where it is not of the class, or
+	 * where Referrer may not refer to it since it is private to another package. Class and Referrer may be null.
+	 */
+	static TVexelExpected<UObject*> ResolveReference(const FString& Path, const UClass* Class, const UObject* Referrer);
+
 	/** Sets the value from the engine's text form. Data is the value's memory. */
 	static TVexelExpected<void> ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text);
+
+	/** "Valid names: A, B, C", of the names that a value of the enumeration may have. */
+	static FString ListEnumerators(const UEnum& Enum);
 
 	/** The object's keys as indices, ascending. A key is decimal digits without sign. */
 	static TVexelExpected<TArray<int32>> GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object);
@@ -80,4 +91,6 @@ public:
 
 	/** A pin's default as a string: object pins as references, the common math structs as their components. */
 	static TVexelExpected<TSharedRef<FJsonValue>> GetPinDefaultValueAsJsonValue(const UEdGraphPin& Pin);
+	/** Takes what GetPinDefaultValueAsJsonValue answers. Undo restores the old default when the caller has a transaction open. */
+	static TVexelExpected<void> SetPinDefaultValueFromJsonValue(UEdGraphPin& Pin, const TSharedRef<FJsonValue>& Value);
 };

@@ -9,6 +9,12 @@ TVexelExpected<TSharedRef<FJsonObject>> ILumProperty::JsonExportPropertyObject(c
 	return Object;
 }
 
+TVexelExpected<void> ILumProperty::JsonImportValue(const FLumContext&, const TSharedRef<FJsonValue>&)
+{
+	VEXEL_TRY(const TVexelPropId Id, GetPropId());
+	return VEXEL_ERROR(FLumError_Import, "Property '%s' cannot be changed", *Id);
+}
+
 TVexelExpected<TSharedRef<FJsonObject>> ILumProperty::MakePropertyObject(const FLumContext& Context) const
 {
 	VEXEL_TRY(const TVexelPropId Id, GetPropId());
@@ -59,6 +65,21 @@ TVexelExpected<TSharedRef<FJsonValue>> ILumCompoundProperty::JsonExportValue(con
 	}
 	VEXEL_TRY(const TSharedRef<FJsonObject> Object, Compound->JsonExportObject(Context));
 	return MakeShared<FJsonValueObject>(Object);
+}
+
+TVexelExpected<void> ILumCompoundProperty::JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value)
+{
+	const TSharedPtr<FJsonObject>* Object = nullptr;
+	if (!Value->TryGetObject(Object))
+	{
+		return VEXEL_ERROR(FLumError_Import, "Expected JSON object for compound property");
+	}
+	VEXEL_TRY(const TSharedPtr<ILumCompound> Compound, GetCompound());
+	if (!Compound)
+	{
+		return VEXEL_ERROR(FLumError_Import, "Compound property is null");
+	}
+	return Compound->JsonImportObject(Context, Object->ToSharedRef());
 }
 
 TVexelExpected<TSharedPtr<ILumCompound>> ILumCollectionProperty::GetCompound() const

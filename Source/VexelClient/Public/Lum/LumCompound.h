@@ -7,9 +7,12 @@
 
 class FLumContext;
 class FLumJsonPropertyCollector;
+class ILumCollectionCompound;
 class ILumProperty;
 class ILumPropertyCollector;
 class ILumVariable;
+class UBlueprint;
+struct FLumVarDesc;
 
 /**
  * Something that owns properties, and for some kinds variables: a Blueprint, a graph, a node, an object, a struct, a container.
@@ -18,6 +21,9 @@ class ILumVariable;
 class ILumCompound
 {
 public:
+	/** The compound of a whole Blueprint. */
+	static TSharedRef<ILumCompound> Create(UBlueprint& Blueprint);
+
 	virtual ~ILumCompound() = default;
 
 	virtual TVexelExpected<TVexelPropTypeId> GetCompoundType() const = 0;
@@ -32,8 +38,21 @@ public:
 	/** The scopes of which the compound may hold variables; empty where it holds none. */
 	virtual TArray<TVexelVarScopeId> GetVariableScopes() const { return {}; }
 
+	/** Each is an undo entry of its own. Compounds without variables refuse. */
+	virtual TVexelExpected<void> AddVariable(const FLumVarDesc& Desc);
+	virtual TVexelExpected<void> RemoveVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId);
+
 	/** The compound as the assistant reads it. */
 	virtual TVexelExpected<TSharedRef<FJsonObject>> JsonExportObject(const FLumContext& Context) const;
+
+	/**
+	 * Gives each property that the object names the value that it has there, in the object's order, and leaves the others as they are.
+	 * The first failure ends it; what came before stays.
+	 */
+	virtual TVexelExpected<void> JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object);
+
+	/** This compound where it is the contents of a container, else null. */
+	virtual ILumCollectionCompound* AsCollectionCompound() { return nullptr; }
 
 protected:
 	/** What IterateProperties does, without its context line. */
@@ -51,4 +70,12 @@ class ILumCollectionCompound : public ILumCompound
 {
 public:
 	virtual TVexelExpected<int32> GetNum() const = 0;
+
+	/** The index is where the element stands afterwards, at most the number of elements. A value that is refused adds nothing. */
+	virtual TVexelExpected<void> InsertAt(const FLumContext& Context, int32 Index, const TSharedRef<FJsonValue>& Value);
+	virtual TVexelExpected<void> RemoveAt(int32 Index);
+	/** Cuts elements off at the end, or adds default ones there. */
+	virtual TVexelExpected<void> Resize(int32 Count);
+
+	virtual ILumCollectionCompound* AsCollectionCompound() override { return this; }
 };

@@ -10,6 +10,7 @@ class FLumContext;
 class ILumCollectionCompound;
 class ILumCompound;
 class ILumCompoundProperty;
+class ILumEditableVariable;
 
 /**
  * One named value with a type, somewhere inside a Blueprint. It refers to live memory: use it before anything else changes the
@@ -29,8 +30,18 @@ public:
 
 	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const = 0;
 
+	/**
+	 * Writes the value; each kind says which JSON it takes. Undo restores what was there when the caller has a transaction open. A value
+	 * that is refused leaves the old one; of a compound's value, what came before the first refusal stays. A property that cannot be
+	 * written refuses every value.
+	 */
+	virtual TVexelExpected<void> JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value);
+
 	/** This property where its value has properties of its own, else null. */
 	virtual const ILumCompoundProperty* AsCompoundProperty() const { return nullptr; }
+
+	/** This property where it is a variable that takes a new descriptor, else null. */
+	virtual ILumEditableVariable* AsEditableVariable() { return nullptr; }
 
 	/** Id, type, value and flags of the property. Flags that are not set have no key. */
 	virtual TVexelExpected<TSharedRef<FJsonObject>> JsonExportPropertyObject(const FLumContext& Context) const;
@@ -48,6 +59,8 @@ public:
 
 	virtual const ILumCompoundProperty* AsCompoundProperty() const override { return this; }
 	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override;
+	/** Takes an object, whose keys are ids of the compound's properties. */
+	virtual TVexelExpected<void> JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) override;
 };
 
 /** A property that is an array, a set or a map. */

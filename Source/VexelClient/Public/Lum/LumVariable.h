@@ -26,3 +26,13 @@ public:
 	/** As a property's, with the scope behind it. */
 	virtual TVexelExpected<TSharedRef<FJsonObject>> JsonExportPropertyObject(const FLumContext& Context) const override;
 };
+
+/** A variable that takes a new name, type or category. */
+class ILumEditableVariable : public ILumVariable
+{
+public:
+	/** Renames, retypes and recategorises to what the descriptor says; what is empty in it stays. Each change is an undo entry. */
+	virtual TVexelExpected<void> SetVariableDescriptor(const FLumVarDesc& Desc) = 0;
+
+	virtual ILumEditableVariable* AsEditableVariable() override { return this; }
+};
