@@ -4,6 +4,7 @@
 #include "Assistant/BlueprintDescriber.h"
 #include "Assistant/BlueprintModel.h"
 #include "Assistant/Conversation.h"
+#include "Assistant/Edits/EditRequest.h"
 #include "Assistant/Markdown.h"
 #include "Assistant/NameMatch.h"
 #include "Assistant/ProjectAnswers.h"
@@ -59,6 +60,11 @@ public:
 
 	void Run()
 	{
+		if (const std::optional<FEditRequest> Edit = ReadEditRequest(Request.Messages.back().Text, OpenAssetNames(Request)))
+		{
+			RunEdit(*Edit);
+			return;
+		}
 		const FQuestion Question = ResolveReferences(ReadQuestion(Request.Messages.back().Text, OpenAssetNames(Request)), Topic);
 		switch (Question.Kind)
 		{
@@ -110,6 +116,20 @@ public:
 	}
 
 private:
+	void RunEdit(const FEditRequest& Edit)
+	{
+		if (!Edit.Edit)
+		{
+			Channel.Say(Edit.Question);
+			return;
+		}
+		if (ReadNamedBlueprint(Edit.Blueprint))
+		{
+			FEditSession Session(Channel, Reader, ReadPath);
+			Edit.Edit->Run(Session);
+		}
+	}
+
 	void TellReply(const std::optional<FJson>& Reply, std::string (*Describe)(const FJson&), const std::string& What)
 	{
 		if (Reply)
@@ -149,6 +169,7 @@ private:
 
 	const FBlueprintModel* ReadBlueprint(const std::string& Path)
 	{
+		ReadPath = Path;
 		Channel.Say("Let me read " + ShortName(Path) + ".\n\n");
 		const FBlueprintModel* const Model = Reader.ReadBlueprint(Path);
 		if (!Model)
@@ -479,6 +500,8 @@ private:
 	FProjectReader Reader;
 	FAssetFinder Assets;
 	const FTopic Topic;
+	/** The Blueprint that was read last. */
+	std::string ReadPath;
 };
 
 }

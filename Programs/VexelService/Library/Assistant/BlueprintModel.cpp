@@ -243,6 +243,13 @@ void FBlueprintGraph::IndexNodes()
 	}
 }
 
+const FBlueprintGraph* FBlueprintModel::FindGraph(std::string_view GraphId) const
+{
+	const auto Found = std::find_if(Graphs.begin(), Graphs.end(), [GraphId](const FBlueprintGraph& Graph)
+		{ return EqualIgnoringCase(Graph.Id, GraphId); });
+	return Found == Graphs.end() ? nullptr : &*Found;
+}
+
 std::optional<FBlueprintModel> ReadBlueprintModel(const FJson& Export)
 {
 	if (!FindMember(Export, "id") && !FindMember(Export, "graphs") && !FindMember(Export, "variables"))

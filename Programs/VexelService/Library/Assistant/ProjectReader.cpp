@@ -53,17 +53,35 @@ const FBlueprintModel* FProjectReader::ReadBlueprint(const std::string& Path)
 	{
 		return nullptr;
 	}
-	std::optional<FBlueprintModel> Model = ReadBlueprintModel(*Reply);
+	const FBlueprintModel* const Model = Keep(Path, *Reply);
 	if (!Model)
 	{
 		LastError = "it answered, but not with a Blueprint that I can read";
+	}
+	return Model;
+}
+
+const FBlueprintModel* FProjectReader::Keep(const std::string& Path, const FJson& Export)
+{
+	std::optional<FBlueprintModel> Model = ReadBlueprintModel(Export);
+	if (!Model)
+	{
 		return nullptr;
 	}
 	if (Model->Name.empty())
 	{
 		Model->Name = ShortName(Path);
 	}
-	return (Blueprints[Path] = std::make_unique<FBlueprintModel>(std::move(*Model))).get();
+	std::unique_ptr<FBlueprintModel>& Kept = Blueprints[Path];
+	if (Kept)
+	{
+		*Kept = std::move(*Model);
+	}
+	else
+	{
+		Kept = std::make_unique<FBlueprintModel>(std::move(*Model));
+	}
+	return Kept.get();
 }
 
 std::optional<FAssetList> FProjectReader::SearchAssets(const FAssetQuery& Query)

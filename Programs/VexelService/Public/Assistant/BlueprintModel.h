@@ -103,6 +103,8 @@ struct FBlueprintModel
 	std::vector<FBlueprintVariable> Variables;
 	/** False when the export was larger than the limits and the rest was left out. */
 	bool bComplete = true;
+
+	const FBlueprintGraph* FindGraph(std::string_view GraphId) const;
 };
 
 /** Nothing when the JSON is no Blueprint export at all (it has none of "id", "graphs" and "variables"). */

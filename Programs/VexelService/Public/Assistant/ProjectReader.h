@@ -63,6 +63,14 @@ public:
 	std::optional<FJson> ReadSource(const FJson& Arguments);
 	std::optional<FJson> TakeScreenshot(const FJson& Arguments);
 
+	/** Calls a tool as it is. */
+	std::optional<FJson> Call(std::string_view Tool, const FJson& Arguments);
+
+	/** Puts what a tool answered of a Blueprint into the model that ReadBlueprint gives; null when it is none that can be read. */
+	const FBlueprintModel* Keep(const std::string& Path, const FJson& Export);
+	/** Has the Blueprint read anew when it is asked for; the model that was given before is no more. */
+	void Forget(const std::string& Path) { Blueprints.erase(Path); }
+
 	/** The editor's words for the last tool that failed, in short. */
 	const std::string& GetLastError() const { return LastError; }
 
@@ -70,8 +78,6 @@ public:
 	bool IsOver() const { return bOver; }
 
 private:
-	std::optional<FJson> Call(std::string_view Tool, const FJson& Arguments);
-
 	IAssistantChannel& Channel;
 	std::map<std::string, std::unique_ptr<FBlueprintModel>> Blueprints;
 	std::string LastError;

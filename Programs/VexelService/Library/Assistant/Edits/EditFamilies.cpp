@@ -1,0 +1,12 @@
+#include "Assistant/Edits/EditRequest.h"
+
+namespace VexelService
+{
+
+const std::vector<FEditFamily>& GetEditFamilies()
+{
+	static const std::vector<FEditFamily> Families = {};
+	return Families;
+}
+
+}
