@@ -1,6 +1,7 @@
 #include "Browser.h"
 #include "ClearLine.h"
 #include "Program.h"
+#include "RawHttpClient.h"
 
 #include <arpa/inet.h>
 #include <csignal>
@@ -11,6 +12,7 @@
 #include <netinet/in.h>
 #include <nlohmann/json.hpp>
 #include <regex>
+#include <sys/resource.h>
 #include <sys/socket.h>
 #include <thread>
 #include <unistd.h>
@@ -67,7 +69,7 @@ protected:
 		return Start(Command, false, std::move(More))->Finish();
 	}
 
-	/** The address that the program opened in the desktop's browser. */
+	/** The address that the program opened in the desktop's browser: the word that stood on the command line. */
 	std::string WaitForOpened() const
 	{
 		const auto Deadline = std::chrono::steady_clock::now() + std::chrono::seconds(30);
@@ -77,6 +79,19 @@ protected:
 		}
 		std::ifstream Stream(OpenedFile);
 		return std::string(std::istreambuf_iterator<char>(Stream), {});
+	}
+
+	/** Where the page that the program opened leads, as a browser would find; empty when it leads nowhere any more. */
+	static std::string FollowStart(const std::string& Start)
+	{
+		const size_t PortBegin = Start.rfind(':') + 1;
+		const size_t PathBegin = std::min(Start.find('/', PortBegin), Start.size());
+		// Not by httplib, which decodes the address in the answer.
+		const FRawClient Visitor(std::atoi(Start.c_str() + PortBegin));
+		const std::string Answer =
+			Visitor.Ask("GET " + Start.substr(PathBegin) + " HTTP/1.1\r\nHost: 127.0.0.1\r\nConnection: close\r\n\r\n");
+		std::smatch Location;
+		return std::regex_search(Answer, Location, std::regex("\r\nLocation: ([^\r]*)\r\n")) ? Location[1].str() : std::string();
 	}
 
 	/** The address that the program prints. */
@@ -189,7 +204,8 @@ TEST_F(LoginBrowser, ARefusalInTheBrowserEndsTheLogin)
 
 TEST_F(LoginBrowser, AHostilePageNeitherDecidesNorAnswers)
 {
-	const std::string Address = WaitForOpened();
+	const std::string Start = WaitForOpened();
+	const std::string Address = FollowStart(Start);
 	std::smatch Port;
 	ASSERT_TRUE(std::regex_search(Address, Port, std::regex("localhost%3A([0-9]+)")));
 	httplib::Server Hostile;
@@ -197,7 +213,9 @@ TEST_F(LoginBrowser, AHostilePageNeitherDecidesNorAnswers)
 		"/oauth/decision\"><input name=auth_request_id value=guess><input name=form_token value=guess><input name=decision value=approve></form>"
 		"<script>const Tries = []; for (const Where of ['code=c', 'error=access_denied']) Tries.push(fetch('http://localhost:" +
 		Port[1].str() + "/auth-callback?auth_request_id=r&state=AAAAAAAAAAAAAAAAAAAAAA&' + Where, {mode: 'no-cors'}).catch(() => 0)); "
-						"Promise.all(Tries).then(() => { document.title = 'tried'; });</script>";
+						"Tries.push(fetch('" +
+		Start.substr(0, Start.rfind('/')) + "/AAAAAAAAAAAAAAAAAAAAAA', {mode: 'no-cors'}).catch(() => 0)); "
+											"Promise.all(Tries).then(() => { document.title = 'tried'; });</script>";
 	Hostile.Get("/", [&](const httplib::Request&, httplib::Response& Response)
 		{ Response.set_content(Page, "text/html"); });
 	const int HostilePort = Hostile.bind_to_any_port("127.0.0.1");
@@ -244,12 +262,84 @@ TEST_F(LoginCommand, ATakenPortLeavesPolling)
 	std::thread Serving([&]
 		{ Other.listen_after_bind(); });
 	const std::unique_ptr<FStartedProgram> Login = Start("login", true);
-	const std::string Address = WaitForOpened();
+	const std::string Address = FollowStart(WaitForOpened());
 	EXPECT_THAT(Address, HasSubstr("redirect_uri=urn%3Avexel%3Aoauth%3Anoredirect"));
 	DecideAt(Address, "approve");
 	EXPECT_EQ(Login->Finish().Status, 0);
 	Other.stop();
 	Serving.join();
+}
+
+TEST_F(LoginCommand, TheDesktopGetsAnAddressWithoutSecretsThatWorksOnce)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService());
+	const std::unique_ptr<FStartedProgram> Login = Start("login", true);
+	const std::string Opened = WaitForOpened();
+	EXPECT_THAT(Opened, MatchesRegex("http://127\\.0\\.0\\.1:[0-9]+/auth-start/[A-Za-z0-9_-]{22}"));
+	const std::string Address = FollowStart(Opened);
+	EXPECT_EQ(Address, ReadAddress(*Login)) << "the terminal alone shows the whole";
+	EXPECT_EQ(FollowStart(Opened), "");
+	const std::string Callback = DecideAt(Address, "approve");
+	const std::string Origin = Callback.substr(0, Callback.find("/auth-callback"));
+	const httplib::Result Answer = httplib::Client(Origin).Get(Callback.substr(Origin.size()));
+	ASSERT_TRUE(Answer);
+	EXPECT_EQ(Answer->status, 302);
+	EXPECT_EQ(Login->Finish().Status, 0);
+	EXPECT_FALSE(httplib::Client(Opened.substr(0, Opened.find("/auth-start"))).Get("/")) << "the page is gone with the login";
+}
+
+TEST_F(LoginCommand, ProgramsThatStartAtOnceShareOneLogin)
+{
+	// Each refresh takes a while, in which another program that did not wait for its turn would send the same token.
+	ASSERT_NO_FATAL_FAILURE(StartService({{"delay_milliseconds", 100}}));
+	const std::unique_ptr<FStartedProgram> Login = Start("login", false);
+	DecideAt(ReadAddress(*Login), "approve");
+	ASSERT_EQ(Login->Finish().Status, 0);
+	for (int Round = 0; Round < 2; ++Round)
+	{
+		std::vector<std::unique_ptr<FStartedProgram>> Programs;
+		for (int Index = 0; Index < 5; ++Index)
+		{
+			Programs.push_back(Start("whoami", false));
+		}
+		for (const std::unique_ptr<FStartedProgram>& Program : Programs)
+		{
+			const FProgramResult Result = Program->Finish();
+			EXPECT_EQ(Result.Status, 0) << Result.Errors;
+			EXPECT_THAT(Result.Output, HasSubstr("Ada Lovelace"));
+		}
+	}
+}
+
+TEST_F(LoginCommand, ProgramsWithSecretsInMemoryLeaveNoCoreDump)
+{
+	rlimit Own = {};
+	ASSERT_EQ(getrlimit(RLIMIT_CORE, &Own), 0);
+	if (Own.rlim_max <= 1)
+	{
+		GTEST_SKIP() << "no program dumps here";
+	}
+	ASSERT_NO_FATAL_FAILURE(StartService());
+	// Lets the program write its first line, ends it as a crash would, and answers its limit, and whether it left a dump.
+	const auto Crash = [&](const std::string& Name, const std::vector<std::string>& Words)
+	{
+		const std::filesystem::path Directory = Project.GetPath() / Name;
+		std::filesystem::create_directories(Directory);
+		std::vector<std::string> All = {"/bin/bash", "-c", "cd \"$0\" && ulimit -S -c hard && exec \"$@\"", Directory};
+		All.insert(All.end(), Words.begin(), Words.end());
+		FStartedProgram Program(All, MakeSurroundings(false));
+		Program.WaitForOutput("\n");
+		std::ifstream Limits("/proc/" + std::to_string(Program.GetProcessId()) + "/limits");
+		const std::string Text(std::istreambuf_iterator<char>(Limits), {});
+		std::smatch Limit;
+		EXPECT_TRUE(std::regex_search(Text, Limit, std::regex("Max core file size +(\\S+)"))) << Text;
+		Program.Send(SIGABRT);
+		EXPECT_EQ(Program.Finish().Status, 128 + SIGABRT) << Name;
+		return Limit[1].str() + (std::filesystem::is_empty(Directory) ? "" : ", dumped");
+	};
+	EXPECT_EQ(Crash("vexel", {VEXEL_PROGRAM, "login", "--service", Url}), "1");
+	EXPECT_EQ(Crash("service", {VEXEL_SERVICE_PROGRAM}), "1");
+	EXPECT_THAT(Crash("ordinary", {"/bin/sh", "-c", "echo; exec sleep 60"}), Not(testing::StrEq("1"))) << "or this shows nothing";
 }
 
 TEST_F(LoginCommand, CtrlCCancelsTheLogin)

@@ -20,9 +20,17 @@ public:
 		To.sin_family = AF_INET;
 		To.sin_addr.s_addr = Address;
 		To.sin_port = htons(uint16(Port));
-		const timeval Longest{3, 0};
-		setsockopt(Socket, SOL_SOCKET, SO_RCVTIMEO, &Longest, sizeof(Longest));
-		bConnected = connect(Socket, reinterpret_cast<sockaddr*>(&To), sizeof(To)) == 0;
+		Connect(To);
+	}
+	FRawClient(int32 Port, const in6_addr& Address, uint32 Interface = 0)
+		: Socket(socket(AF_INET6, SOCK_STREAM, 0))
+	{
+		sockaddr_in6 To = {};
+		To.sin6_family = AF_INET6;
+		To.sin6_addr = Address;
+		To.sin6_port = htons(uint16(Port));
+		To.sin6_scope_id = Interface;
+		Connect(To);
 	}
 	~FRawClient() { close(Socket); }
 
@@ -61,4 +69,13 @@ public:
 
 	const int Socket;
 	bool bConnected = false;
+
+private:
+	template <typename AddressType>
+	void Connect(const AddressType& To)
+	{
+		const timeval Longest{3, 0};
+		setsockopt(Socket, SOL_SOCKET, SO_RCVTIMEO, &Longest, sizeof(Longest));
+		bConnected = connect(Socket, reinterpret_cast<const sockaddr*>(&To), sizeof(To)) == 0;
+	}
 };

@@ -44,10 +44,9 @@ void FLoginTest::SetUp()
 	SetAnswer("/oauth/token", MakeTokens(RefreshToken));
 	SetPoll(FScriptedAnswer::Json(R"({"status":"not_found"})"));
 	FVexelClient::Get().StartupModule();
-	FVexelAuth::SetOpenAddress([this](const FString& Url)
+	FVexelAuth::SetOpenAddress([this](const FString& Url, FVexelAuth::FLaunchBrowser)
 		{
-			const std::lock_guard Guard(OpenedLock);
-			OpenedAddress = TCHAR_TO_UTF8(*Url);
+			SetOpenedAddress(TCHAR_TO_UTF8(*Url));
 			return FString(); });
 	Log.Clear();
 }
@@ -96,10 +95,7 @@ FScriptedAnswer FLoginTest::MakeTokens(const std::string& Refresh, double Expire
 
 TSharedRef<FVexelAuthLoginState> FLoginTest::OpenLogin()
 {
-	{
-		const std::lock_guard Guard(OpenedLock);
-		OpenedAddress.clear();
-	}
+	SetOpenedAddress("");
 	const TVexelExpected<TSharedRef<FVexelAuthLoginState>> Login = FVexelAuth::StartLogin();
 	EXPECT_TRUE(PumpUntil([this]
 		{ return !GetOpenedAddress().empty(); }))
@@ -119,6 +115,12 @@ std::string FLoginTest::GetOpenedAddress() const
 {
 	const std::lock_guard Guard(OpenedLock);
 	return OpenedAddress;
+}
+
+void FLoginTest::SetOpenedAddress(const std::string& Address)
+{
+	const std::lock_guard Guard(OpenedLock);
+	OpenedAddress = Address;
 }
 
 std::string FLoginTest::GetOpened(const std::string& Name) const

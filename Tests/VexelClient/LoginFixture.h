@@ -41,6 +41,8 @@ protected:
 	/** A parameter of the address that was opened last, decoded. */
 	std::string GetOpened(const std::string& Name) const;
 	std::string GetOpenedAddress() const;
+	/** Where another way than the fixture's opened the login. */
+	void SetOpenedAddress(const std::string& Address);
 	/** What the callback's server answers to that target, whole; Host is whom the request is addressed to. */
 	std::string Callback(const std::string& Target, const std::string& Host = "localhost") const;
 	/** The target that the service would send the browser to. */

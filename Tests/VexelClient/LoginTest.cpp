@@ -334,7 +334,7 @@ TEST_F(Login, CancelEndsALoginOnceAndChangesNothingAfterwards)
 
 TEST_F(Login, WithoutAClientIdOrABrowserItFailsByName)
 {
-	FVexelAuth::SetOpenAddress([](const FString&)
+	FVexelAuth::SetOpenAddress([](const FString&, FVexelAuth::FLaunchBrowser)
 		{ return FString(TEXT("no screen")); });
 	const TVexelExpected<TSharedRef<FVexelAuthLoginState>> NoBrowser = FVexelAuth::StartLogin();
 	ASSERT_TRUE(NoBrowser.HasValue());
@@ -449,6 +449,67 @@ TEST_F(Login, ARefreshTakesUpTheTokenThatAnotherProcessStored)
 	ASSERT_TRUE(PumpUntil([&]
 		{ return Refresh.IsComplete(); }));
 	EXPECT_EQ(ReadForm(FindRequests("/oauth/token")[1].Body)["refresh_token"], "stored-by-another-process");
+}
+
+TEST_F(Login, ARefreshWaitsForTheTurnOfAnotherProcessAndTakesItsToken)
+{
+	LogIn();
+	TOptional<FVexelFileLock> Turn = FVexelSecureStorage::TryTakeTurn().GetValue();
+	ASSERT_TRUE(Turn.IsSet());
+	const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(AccessToken));
+	AdvanceTime(1.0f);
+	EXPECT_EQ(CountRequests("/oauth/token"), 1u) << "the login's own";
+	ASSERT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("rt"), TEXT("stored-in-the-other-turn")).HasValue());
+	Turn.Reset();
+	ASSERT_TRUE(PumpUntil([&]
+		{ return Refresh.IsComplete(); }));
+	EXPECT_TRUE(Refresh.Value().HasValue());
+	EXPECT_EQ(ReadForm(FindRequests("/oauth/token")[1].Body)["refresh_token"], "stored-in-the-other-turn");
+	EXPECT_TRUE(FVexelSecureStorage::TryTakeTurn().GetValue().IsSet()) << "the turn ends with the refresh";
+}
+
+TEST_F(Login, ATurnIsHeldUntilTheNextTokenIsStoredOrRefused)
+{
+	LogIn();
+	for (const int32 Status : {200, 500})
+	{
+		FScriptedGate Gate;
+		Server.AnswerWith("/oauth/token", [&](const FScriptedRequest&)
+			{ return (Status == 200 ? MakeTokens("the-next-refresh-token") : FScriptedAnswer(Status)).WaitFor(Gate); });
+		const size_t NumBefore = CountRequests("/oauth/token");
+		const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(AccessToken));
+		ASSERT_TRUE(WaitForRequests("/oauth/token", NumBefore + 1));
+		EXPECT_FALSE(FVexelSecureStorage::TryTakeTurn().GetValue().IsSet());
+		Gate.Open();
+		ASSERT_TRUE(PumpUntil([&]
+			{ return Refresh.IsComplete(); }));
+		EXPECT_TRUE(FVexelSecureStorage::TryTakeTurn().GetValue().IsSet());
+	}
+}
+
+TEST_F(Login, ATurnThatNeverComesFailsTheRefreshAndKeepsTheLogin)
+{
+	LogIn();
+	const TOptional<FVexelFileLock> Turn = FVexelSecureStorage::TryTakeTurn().GetValue();
+	const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(AccessToken));
+	AdvanceTime(31.0f);
+	ASSERT_TRUE(Refresh.IsComplete());
+	EXPECT_THAT(std::string(TCHAR_TO_UTF8(*Refresh.Value().GetError().ToString())), HasSubstr("Another process is still refreshing the login"));
+	EXPECT_TRUE(FVexelAuth::IsOnline()) << "it is tried again later";
+	EXPECT_EQ(GetStored(TEXT("rt")), RefreshToken);
+	EXPECT_EQ(CountRequests("/oauth/token"), 1u);
+}
+
+TEST_F(Login, ALogoutEndsTheWaitForATurn)
+{
+	LogIn();
+	const TOptional<FVexelFileLock> Turn = FVexelSecureStorage::TryTakeTurn().GetValue();
+	const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(AccessToken));
+	FVexelAuth::Logout();
+	AdvanceTime(0.2f);
+	ASSERT_TRUE(Refresh.IsComplete());
+	EXPECT_TRUE(Refresh.Value().HasError());
+	EXPECT_EQ(CountRequests("/oauth/token"), 1u);
 }
 
 TEST_F(Login, RequestsWaitForARefreshThatIsUnderWay)

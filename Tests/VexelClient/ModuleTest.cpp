@@ -456,6 +456,25 @@ TEST_F(Module, EverySettingIsOneOfTheSettingsObject)
 	}
 }
 
+TEST_F(Module, ALoginThatIsThroughBeforeTheModuleListensLetsRequestsGoWithItsFeatures)
+{
+	SetFeatures({"early"});
+	Server.Answer("/probe", FScriptedAnswer().Text("ok"));
+	ASSERT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("rt"), TEXT("first")).HasValue());
+	FVexelAuth::StartAutoLogin();
+	ASSERT_TRUE(PumpUntil([]
+		{ return FVexelAuth::IsOnline(); }))
+		<< Log.ToText();
+	FVexelClient::Get().StartupModule();
+	const auto Probe = FVexelClient::Get().GetApiClient()->Request(EVexelHttpVerb::Get, TEXT("/probe")).WithAuth().SendAndAwait();
+	EXPECT_FALSE(Probe.IsComplete());
+	ASSERT_TRUE(PumpUntil([&Probe]
+		{ return Probe.IsComplete(); }))
+		<< "it would wait for ever";
+	EXPECT_TRUE(Probe.Value().HasValue());
+	EXPECT_EQ(FindRequest("/probe")->GetHeader("vexel-beta"), "early");
+}
+
 TEST_F(Module, ALoginIsOfferedToTheServiceThatItIsOfAlone)
 {
 	// The user's own store, as in the editor.

@@ -31,6 +31,14 @@ TEST_F(FileLock, HasOneHolderAtATimeAndIsFreeAfterIt)
 		ASSERT_TRUE(Second.HasError());
 		EXPECT_THAT(TCHAR_TO_UTF8(*Second.GetError().ToShortString()), testing::HasSubstr("Another process has held"));
 		EXPECT_TRUE(FVexelFileLock::Take(GetPath("other"), 0.01).HasValue());
+		const TVexelExpected<TOptional<FVexelFileLock>> Tried = FVexelFileLock::TryTake(GetPath("lock"));
+		ASSERT_TRUE(Tried.HasValue()) << "another holder is no failure";
+		EXPECT_FALSE(Tried.GetValue().IsSet());
+	}
+	{
+		const TVexelExpected<TOptional<FVexelFileLock>> Tried = FVexelFileLock::TryTake(GetPath("lock"));
+		ASSERT_TRUE(Tried.HasValue() && Tried.GetValue().IsSet());
+		EXPECT_TRUE(FVexelFileLock::Take(GetPath("lock"), 0.01).HasError());
 	}
 	EXPECT_TRUE(FVexelFileLock::Take(GetPath("lock"), 0.01).HasValue());
 }
@@ -48,4 +56,5 @@ TEST_F(FileLock, SaysWhichFileCannotBeMade)
 	const TVexelExpected<FVexelFileLock> Lock = FVexelFileLock::Take(GetPath("no directory/lock"));
 	ASSERT_TRUE(Lock.HasError());
 	EXPECT_THAT(TCHAR_TO_UTF8(*Lock.GetError().ToShortString()), testing::HasSubstr("no directory/lock"));
+	EXPECT_TRUE(FVexelFileLock::TryTake(GetPath("no directory/lock")).HasError());
 }

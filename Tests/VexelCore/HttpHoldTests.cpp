@@ -60,6 +60,37 @@ TEST_F(FHttpHoldTest, ACancelledRequestNeverLeaves)
 	EXPECT_EQ(Server.GetRequests().size(), 1u);
 }
 
+TEST_F(FHttpHoldTest, ARequestThatIsCancelledAsItBeginsToWaitForATokenCompletes)
+{
+	/** Cancels the request in the middle of its question for a token, and has it wait for one. */
+	struct FCancellingAuth final : FVexelHttp::IAuthProvider
+	{
+		virtual EAuthResult GetAuthState(FString& OutToken) override
+		{
+			OutToken = TEXT("token-1");
+			if (!Cancelled)
+			{
+				return EAuthResult::Authenticated;
+			}
+			Cancelled->Cancel();
+			return EAuthResult::Pending;
+		}
+		virtual TVexelTaskResult<void> RefreshToken(const FString&) override { return Refreshed; }
+
+		TSharedPtr<FVexelHttpRequest> Cancelled;
+		const TVexelTaskResult<void> Refreshed = TVexelTaskResult<void>::MakePending();
+	};
+	FCancellingAuth Cancelling;
+	FVexelHttpManager::SetAuthProvider(&Cancelling);
+	const TSharedRef<FVexelHttpRequest> Held = Send();
+	Cancelling.Cancelled = Held;
+	Hold.Complete(TVexelExpected<void>());
+	Cancelling.Refreshed.Complete(TVexelExpected<void>());
+	ASSERT_TRUE(Held->Await().IsComplete()) << "whoever waits for it would wait for ever";
+	EXPECT_TRUE(Held->Await().Value().GetError().IsA<FVexelError_HttpCancelled>());
+	EXPECT_TRUE(Server.GetRequests().empty());
+}
+
 TEST_F(FHttpHoldTest, WithoutALoginARequestFailsAtOnce)
 {
 	Auth.Result = FVexelHttp::IAuthProvider::EAuthResult::Pending;

@@ -1,4 +1,5 @@
 #include "HAL/Event.h"
+#include "Http/LoopbackPeer.h"
 #include "HttpFixture.h"
 #include "RawHttpClient.h"
 #include "VexelHttpServer.h"
@@ -8,6 +9,7 @@
 #include <ifaddrs.h>
 #include <netinet/in.h>
 #include <sys/socket.h>
+#include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
 
@@ -24,6 +26,13 @@ protected:
 		EXPECT_TRUE(Server.AddRoute(EVexelHttpVerb::Get, TEXT("/a"), MoveTemp(Handler)).HasValue());
 		EXPECT_TRUE(Server.Start().HasValue());
 		return MakeShared<FVexelHttp>(FVexelHttpClientConfig(FString::Printf(TEXT("http://localhost:%d"), Server.GetPort())));
+	}
+
+	static bool HasIpv6()
+	{
+		// A port that nobody listens at: the machine says so only of an address that it has.
+		const FRawClient Client(1, in6addr_loopback);
+		return !Client.bConnected && errno == ECONNREFUSED;
 	}
 
 	static std::string MakeGet(const std::string& Target, const std::string& Host = "localhost")
@@ -88,6 +97,7 @@ TEST_F(FHttpServerTest, OnlyRoutesAreAnsweredAndOnlyForThisMachinesName)
 	EXPECT_EQ(Ask(MakeGet("/")), "HTTP/1.1 404");
 	EXPECT_EQ(Ask(MakeGet("/ab")), "HTTP/1.1 404");
 	EXPECT_EQ(Ask(MakeGet("/A")), "HTTP/1.1 404");
+	EXPECT_EQ(Ask("HEAD /a HTTP/1.1\r\nHost: localhost\r\n\r\n"), "HTTP/1.1 405") << "one who only looks sets nothing going";
 	EXPECT_EQ(Ask("POST /a HTTP/1.1\r\nHost: localhost\r\nContent-Length: 0\r\n\r\n"), "HTTP/1.1 405");
 	for (const std::string Host : {"evil.example", "localhost.evil.example", "127.0.0.1.evil.example:80", "", "evil.example:localhost"})
 	{
@@ -168,8 +178,108 @@ TEST_F(FHttpServerTest, OtherInterfacesDoNotAnswer)
 			const in_addr_t Address = reinterpret_cast<const sockaddr_in*>(Interface->ifa_addr)->sin_addr.s_addr;
 			EXPECT_EQ(FRawClient(Server.GetPort(), Address).bConnected, Address == htonl(INADDR_LOOPBACK)) << Interface->ifa_name;
 		}
+		if (Interface->ifa_addr && Interface->ifa_addr->sa_family == AF_INET6)
+		{
+			const sockaddr_in6& Address = *reinterpret_cast<const sockaddr_in6*>(Interface->ifa_addr);
+			EXPECT_EQ(FRawClient(Server.GetPort(), Address.sin6_addr, Address.sin6_scope_id).bConnected,
+				bool(IN6_IS_ADDR_LOOPBACK(&Address.sin6_addr)))
+				<< Interface->ifa_name;
+		}
 	}
 	freeifaddrs(Interfaces);
+}
+
+TEST_F(FHttpServerTest, BothAddressesOfLocalhostAnswerAndAreFreeAfterTheStop)
+{
+	if (!HasIpv6())
+	{
+		GTEST_SKIP() << "this machine has no IPv6";
+	}
+	int32 Port = 0;
+	for (int32 Round = 0; Round < 3; ++Round)
+	{
+		FVexelHttpServer Both(Port);
+		ASSERT_TRUE(Both.AddRoute(EVexelHttpVerb::Get, TEXT("/a"), [](const FVexelHttpServerRequest&)
+							{ return FVexelHttpServerResponse(); })
+						.HasValue());
+		ASSERT_TRUE(Both.Start().HasValue());
+		EXPECT_THAT(FRawClient(Both.GetPort()).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200"));
+		EXPECT_THAT(FRawClient(Both.GetPort(), in6addr_loopback).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200"));
+		Port = Both.GetPort();
+		Both.Stop();
+		EXPECT_FALSE(FRawClient(Port).bConnected);
+		EXPECT_FALSE(FRawClient(Port, in6addr_loopback).bConnected);
+	}
+}
+
+TEST_F(FHttpServerTest, APortThatSomebodyElseHasAtTheOtherAddressIsTaken)
+{
+	if (!HasIpv6())
+	{
+		GTEST_SKIP() << "this machine has no IPv6";
+	}
+	const int Other = socket(AF_INET6, SOCK_STREAM | SOCK_CLOEXEC, 0);
+	sockaddr_in6 Address = {};
+	Address.sin6_family = AF_INET6;
+	Address.sin6_addr = in6addr_loopback;
+	socklen_t Length = sizeof(Address);
+	ASSERT_EQ(bind(Other, reinterpret_cast<sockaddr*>(&Address), Length), 0);
+	ASSERT_EQ(listen(Other, 1), 0);
+	ASSERT_EQ(getsockname(Other, reinterpret_cast<sockaddr*>(&Address), &Length), 0);
+	FVexelHttpServer Half(ntohs(Address.sin6_port));
+	EXPECT_TRUE(Half.Start().HasError()) << "a browser might take what is meant for this one there";
+	EXPECT_FALSE(FRawClient(ntohs(Address.sin6_port)).bConnected) << "nothing is left listening";
+	close(Other);
+	EXPECT_TRUE(Half.Start().HasValue());
+}
+
+TEST_F(FHttpServerTest, ProgramsOfOtherUsersReachNoHandler)
+{
+	if (geteuid() != 0)
+	{
+		GTEST_SKIP() << "only root can be another user for a moment";
+	}
+	std::atomic<int32> NumCalls = 0;
+	Run([&](const FVexelHttpServerRequest&)
+		{ ++NumCalls; return FVexelHttpServerResponse(); });
+	// The system calls of this thread alone: the C library's would make the whole process another user.
+	constexpr long Nobody = 65534;
+	std::string Answers[2];
+	std::thread([&]
+		{
+			ASSERT_EQ(syscall(SYS_setresuid, Nobody, Nobody, Nobody), 0);
+			Answers[0] = FRawClient(Server.GetPort()).Ask(MakeGet("/a"));
+			Answers[1] = HasIpv6() ? FRawClient(Server.GetPort(), in6addr_loopback).Ask(MakeGet("/a")) : Answers[0]; })
+		.join();
+	EXPECT_THAT(Answers, testing::Each(testing::StartsWith("HTTP/1.1 403")));
+	EXPECT_EQ(NumCalls, 0);
+	EXPECT_THAT(FRawClient(Server.GetPort()).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200"));
+	in6_addr Mapped = {};
+	ASSERT_EQ(inet_pton(AF_INET6, "::ffff:127.0.0.1", &Mapped), 1);
+	EXPECT_THAT(FRawClient(Server.GetPort(), Mapped).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200"));
+}
+
+TEST_F(FHttpServerTest, AConnectionThatItsProgramHasLeftIsNobodys)
+{
+	Run([](const FVexelHttpServerRequest&)
+		{ return FVexelHttpServerResponse(); });
+	const int32 Port = Server.GetPort();
+	const LoopbackPeer::FEnd Own{"127.0.0.1", Port};
+	LoopbackPeer::FEnd Other{"127.0.0.1", 0};
+	{
+		const FRawClient Client(Port);
+		sockaddr_in Address = {};
+		socklen_t Length = sizeof(Address);
+		ASSERT_EQ(getsockname(Client.Socket, reinterpret_cast<sockaddr*>(&Address), &Length), 0);
+		Other.Port = ntohs(Address.sin_port);
+		EXPECT_TRUE(LoopbackPeer::IsOfThisUser(Other, Own));
+		EXPECT_FALSE(LoopbackPeer::IsOfThisUser({"127.0.0.2", Other.Port}, Own));
+		EXPECT_FALSE(LoopbackPeer::IsOfThisUser({"localhost", Other.Port}, Own)) << "a name is no address";
+		// The server waits for a request yet, so that only this end of the connection is closed.
+		shutdown(Client.Socket, SHUT_WR);
+		EXPECT_FALSE(LoopbackPeer::IsOfThisUser(Other, Own));
+	}
+	EXPECT_FALSE(LoopbackPeer::IsOfThisUser(Other, Own));
 }
 
 TEST_F(FHttpServerTest, StopWaitsForTheHandlerThatRuns)

@@ -3,6 +3,7 @@
 #include "VexelErrorKinds.h"
 #include "VexelSecureStorage.h"
 
+#include <csignal>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -190,6 +191,69 @@ TEST_F(FSecureStorageTest, ProcessesAndThreadsThatWriteAtOnceLoseNothing)
 	}
 }
 
+TEST_F(FSecureStorageTest, ProcessesAndThreadsThatReplaceAValueInTurnLoseNoStep)
+{
+	constexpr int32 NumSteps = 25;
+	const auto Count = [](int32 Steps)
+	{
+		while (Steps > 0)
+		{
+			const TVexelExpected<TOptional<FVexelFileLock>> Turn = FVexelSecureStorage::TryTakeTurn();
+			if (Turn.HasError())
+			{
+				return false;
+			}
+			if (Turn.GetValue())
+			{
+				const int32 Next = FCString::Atoi(*FVexelSecureStorage::LoadValueString(TEXT("n")).GetValue()) + 1;
+				(void)FVexelSecureStorage::StoreValueString(TEXT("n"), FString::FromInt(Next));
+				--Steps;
+			}
+		}
+		return true;
+	};
+	ASSERT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("n"), TEXT("0")).HasValue());
+	const pid_t Child = fork();
+	ASSERT_GE(Child, 0);
+	if (Child == 0)
+	{
+		_exit(Count(NumSteps) ? 0 : 1);
+	}
+	std::thread Other([&]
+		{ EXPECT_TRUE(Count(NumSteps)); });
+	EXPECT_TRUE(Count(NumSteps));
+	Other.join();
+	int Status = 0;
+	waitpid(Child, &Status, 0);
+	EXPECT_EQ(Status, 0);
+	EXPECT_EQ(ToUtf8(FVexelSecureStorage::LoadValueString(TEXT("n")).GetValue()), std::to_string(3 * NumSteps));
+	EXPECT_EQ(GetMode(Directory / "turn.lock"), 0600u);
+}
+
+TEST_F(FSecureStorageTest, TheTurnOfAProcessThatIsKilledIsFreeAgain)
+{
+	int Ready[2] = {};
+	ASSERT_EQ(pipe(Ready), 0);
+	const pid_t Child = fork();
+	ASSERT_GE(Child, 0);
+	if (Child == 0)
+	{
+		const TVexelExpected<TOptional<FVexelFileLock>> Turn = FVexelSecureStorage::TryTakeTurn();
+		const char Taken = Turn.HasValue() && Turn.GetValue() ? 'y' : 'n';
+		(void)!write(Ready[1], &Taken, 1);
+		pause();
+	}
+	char Taken = 0;
+	ASSERT_EQ(read(Ready[0], &Taken, 1), 1);
+	EXPECT_EQ(Taken, 'y');
+	EXPECT_FALSE(FVexelSecureStorage::TryTakeTurn().GetValue().IsSet());
+	kill(Child, SIGKILL);
+	waitpid(Child, nullptr, 0);
+	EXPECT_TRUE(FVexelSecureStorage::TryTakeTurn().GetValue().IsSet());
+	close(Ready[0]);
+	close(Ready[1]);
+}
+
 TEST_F(FSecureStorageTest, StandsInTheUsersDataDirectoryUnlessToldOtherwise)
 {
 	FVexelSecureStorage::SetDirectory(FString());
@@ -212,4 +276,5 @@ TEST_F(FSecureStorageTest, DirectoryThatCannotBeMadeIsAnError)
 	ASSERT_TRUE(Stored.HasError());
 	EXPECT_TRUE(Stored.GetError().IsA<FVexelError_SecureStorage>());
 	EXPECT_THAT(ToUtf8(Stored.GetError().GetMessage()), testing::EndsWith("\nwhile storing value 'rt'"));
+	EXPECT_TRUE(FVexelSecureStorage::TryTakeTurn().HasError());
 }

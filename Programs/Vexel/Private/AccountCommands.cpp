@@ -4,7 +4,6 @@
 #include "Dom/JsonValue.h"
 #include "ForeignService.h"
 #include "HAL/PlatformMisc.h"
-#include "HAL/PlatformProcess.h"
 #include "Session.h"
 #include "VexelAccount.h"
 #include "VexelClient.h"
@@ -88,19 +87,14 @@ int32 ShowUser(bool bJson)
 }
 
 /** Tells the user where to log in. With a document on standard output, that goes to standard error. */
-FString ShowAddress(const FString& Url, bool bJson, bool bOpen)
+FString ShowAddress(const FString& Url, bool bJson, const TFunctionRef<FString()>* LaunchBrowser)
 {
-	FString Failure;
-	if (bOpen)
-	{
-		FPlatformProcess::LaunchURL(*Url, nullptr, &Failure);
-	}
+	const bool bOpened = LaunchBrowser && (*LaunchBrowser)().IsEmpty();
 	if (bJson)
 	{
 		FConsole::WriteError(FString::Printf(TEXT("to log in, open %s"), *Url));
 		return FString();
 	}
-	const bool bOpened = bOpen && Failure.IsEmpty();
 	FConsole::WriteLine(bOpened ? TEXT("Your browser opens the page of the login. If it does not, open this address:")
 								: TEXT("To log in, open this address in a browser, on any machine:"));
 	FConsole::WriteLine(TEXT("\n  ") + Url + TEXT("\n"));
@@ -138,8 +132,8 @@ int32 RunLoginCommand(const FArguments& Arguments)
 	{
 		const bool bOpen = HasOwnBrowser(Arguments);
 		const TVexelExpected<void> Started = FVexelAccount::LogIn(
-			{.bListen = bOpen, .Open = [bJson, bOpen](const FString& Url)
-				{ return ShowAddress(Url, bJson, bOpen); }});
+			{.bListen = bOpen, .Open = [bJson, bOpen](const FString& Url, TFunctionRef<FString()> LaunchBrowser)
+				{ return ShowAddress(Url, bJson, bOpen ? &LaunchBrowser : nullptr); }});
 		if (Started.HasError())
 		{
 			return Fail(Started.GetError().ToChainString());

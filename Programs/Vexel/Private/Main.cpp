@@ -6,10 +6,23 @@
 #include "Misc/OutputDeviceRedirector.h"
 #include "StyledText.h"
 
+#include <algorithm>
 #include <csignal>
+#include <sys/resource.h>
 
 namespace
 {
+/** Keeps the tokens in this program's memory out of a file that it would leave behind when it crashes. */
+void KeepMemoryOutOfCoreDumps()
+{
+	// One byte, because none would still hand the memory to a program that the system has for dumps. Lowering never fails.
+	constexpr rlim_t NoDump = 1;
+	rlimit Limit = {};
+	getrlimit(RLIMIT_CORE, &Limit);
+	Limit.rlim_cur = std::min(NoDump, Limit.rlim_max);
+	setrlimit(RLIMIT_CORE, &Limit);
+}
+
 void WriteHelp()
 {
 	FConsole::WriteLine(TEXT("Vexel: an assistant for Blueprints.\n"));
@@ -53,6 +66,7 @@ int32 FailUsage(const FString& Reason)
 
 int main(int NumWords, char** RawWords)
 {
+	KeepMemoryOutOfCoreDumps();
 	UseUtf8Locale();
 	// A pipe that closes is an ordinary end of output, and a connection that closes is an error value.
 	signal(SIGPIPE, SIG_IGN);

@@ -3,6 +3,7 @@
 
 #include <poll.h>
 #include <signal.h>
+#include <sys/resource.h>
 #include <sys/signalfd.h>
 #include <unistd.h>
 
@@ -113,6 +114,16 @@ void WaitForStop(int StopSignals, bool bExitWithParent)
 	}
 }
 
+// The signing key and the codes in memory must not end up in a file after a crash. A limit of one byte also keeps them from a
+// program that the system hands dumps to, which one of zero does not. A limit may always be lowered.
+void ForbidCoreDumps()
+{
+	rlimit Core = {};
+	getrlimit(RLIMIT_CORE, &Core);
+	Core.rlim_cur = Core.rlim_max == 0 ? 0 : 1;
+	setrlimit(RLIMIT_CORE, &Core);
+}
+
 int Fail(const std::string& Reason)
 {
 	std::fprintf(stderr, "vexel-service: %s\n", Reason.c_str());
@@ -123,6 +134,7 @@ int Fail(const std::string& Reason)
 
 int main(int ArgumentCount, char** Arguments)
 {
+	ForbidCoreDumps();
 	FCommandLine CommandLine;
 	if (ArgumentCount == 2 && std::strcmp(Arguments[1], "--help") == 0)
 	{

@@ -20,8 +20,12 @@ struct FVexelLoginWay
 {
 	/** Whether this machine's browser may bring the answer; without it the service is asked for the answer alone. */
 	bool bListen = true;
-	/** Shows the user an address to open in a browser; answers why it cannot, or an empty text. Any thread. The browser without one. */
-	TFunction<FString(const FString& Url)> Open;
+	/**
+	 * Shows the user the address to open in a browser, which holds secrets of the login, and may have the user's browser opened with
+	 * LaunchBrowser, which keeps them off its command line. It answers, as LaunchBrowser does, why it cannot, or an empty text. Any
+	 * thread. Without one the browser is launched.
+	 */
+	TFunction<FString(const FString& Url, TFunctionRef<FString()> LaunchBrowser)> Open;
 };
 
 /**

@@ -21,23 +21,39 @@ FVexelError MakeLockError(const FString& Path, int Number)
 	FPlatformMisc::GetSystemErrorMessage(Reason, int32(UE_ARRAY_COUNT(Reason)), Number);
 	return VEXEL_ERROR_TITLED(FVexelError, "File not locked", "'%s': %s", *Path, Reason);
 }
+
+/** Each holder opens the file anew, so that the lock also keeps two threads of one process apart. Negative for a failure. */
+int OpenLockFile(const FString& Path)
+{
+	return open(TCHAR_TO_UTF8(*Path), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnerOnlyFile);
+}
+
+/** 0 when the lock is had, EWOULDBLOCK while another has it, or why it cannot be had. */
+int TryLock(int File)
+{
+	int Number = 0;
+	do
+	{
+		Number = flock(File, LOCK_EX | LOCK_NB) == 0 ? 0 : errno;
+	} while (Number == EINTR);
+	return Number;
+}
 }
 
 TVexelExpected<FVexelFileLock> FVexelFileLock::Take(const FString& Path, double TimeoutSeconds)
 {
-	// Each holder opens the file anew, so that the lock also keeps two threads of one process apart.
-	const int File = open(TCHAR_TO_UTF8(*Path), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, OwnerOnlyFile);
+	const int File = OpenLockFile(Path);
 	if (File < 0)
 	{
 		return MakeLockError(Path, errno);
 	}
 	FVexelFileLock Lock(File);
 	const double Deadline = FPlatformTime::Seconds() + TimeoutSeconds;
-	while (flock(File, LOCK_EX | LOCK_NB) != 0)
+	while (const int Number = TryLock(File))
 	{
-		if (errno != EWOULDBLOCK && errno != EINTR)
+		if (Number != EWOULDBLOCK)
 		{
-			return MakeLockError(Path, errno);
+			return MakeLockError(Path, Number);
 		}
 		if (FPlatformTime::Seconds() > Deadline)
 		{
@@ -46,6 +62,26 @@ TVexelExpected<FVexelFileLock> FVexelFileLock::Take(const FString& Path, double 
 		FPlatformProcess::Sleep(PauseSeconds);
 	}
 	return Lock;
+}
+
+TVexelExpected<TOptional<FVexelFileLock>> FVexelFileLock::TryTake(const FString& Path)
+{
+	const int File = OpenLockFile(Path);
+	if (File < 0)
+	{
+		return MakeLockError(Path, errno);
+	}
+	FVexelFileLock Lock(File);
+	const int Number = TryLock(File);
+	if (Number == EWOULDBLOCK)
+	{
+		return TOptional<FVexelFileLock>();
+	}
+	if (Number != 0)
+	{
+		return MakeLockError(Path, Number);
+	}
+	return TOptional<FVexelFileLock>(MoveTemp(Lock));
 }
 
 FVexelFileLock::FVexelFileLock(FVexelFileLock&& Other)

@@ -6,11 +6,13 @@
 #include "Misc/ScopeLock.h"
 #include "Storage/FileSecretStore.h"
 #include "Storage/KeyringSecretStore.h"
+#include "Storage/PrivateFile.h"
 #include "VexelCrypto.h"
 #include "VexelErrorKinds.h"
 #include "VexelInternalConfig.h"
 #include "VexelLog.h"
 #include "VexelSecrets.h"
+#include "VexelStringUtil.h"
 
 #include <pwd.h>
 #include <unistd.h>
@@ -70,27 +72,42 @@ FString ToDirectoryName(const FString& Scope)
 	return Name + TEXT("-") + FVexelCrypto::Base64UrlEncode(MakeArrayView(Digest).Left(DigestBytesInName));
 }
 
-/** The places of the moment, the best first. A secret is stored in the first one that takes it. */
-TArray<TUniquePtr<ISecretStore>> MakeStores()
+/** Where the secrets of the moment are. */
+struct FPlace
 {
-	FString Directory;
 	FString Scope;
+	/** Of the encrypted file, and of the lock whatever the session has. */
+	FString Directory;
+	/** Whether the directory was chosen, and no keyring is asked. */
+	bool bFileAlone = false;
+};
+
+FPlace GetPlace()
+{
+	FPlace Place;
 	{
 		FStoreSettings& Settings = GetSettings();
 		FScopeLock Guard(&Settings.Lock);
-		Directory = Settings.Directory;
-		Scope = Settings.Scope;
+		Place = {Settings.Scope, Settings.Directory, !Settings.Directory.IsEmpty()};
 	}
-	TArray<TUniquePtr<ISecretStore>> Stores;
-	if (Directory.IsEmpty())
+	if (!Place.bFileAlone)
 	{
-		if (StoreSetting.Get() != TEXT("file") && FKeyringSecretStore::IsAvailable())
-		{
-			Stores.Add(MakeUnique<FKeyringSecretStore>(Scope));
-		}
-		Directory = Scope.IsEmpty() ? GetDefaultDirectory() : GetDefaultDirectory() / TEXT("services") / ToDirectoryName(Scope);
+		Place.Directory =
+			Place.Scope.IsEmpty() ? GetDefaultDirectory() : GetDefaultDirectory() / TEXT("services") / ToDirectoryName(Place.Scope);
 	}
-	Stores.Add(MakeUnique<FFileSecretStore>(Directory));
+	return Place;
+}
+
+/** The stores of the moment, the best first. A secret is stored in the first one that takes it. */
+TArray<TUniquePtr<ISecretStore>> MakeStores()
+{
+	const FPlace Place = GetPlace();
+	TArray<TUniquePtr<ISecretStore>> Stores;
+	if (!Place.bFileAlone && StoreSetting.Get() != TEXT("file") && FKeyringSecretStore::IsAvailable())
+	{
+		Stores.Add(MakeUnique<FKeyringSecretStore>(Place.Scope));
+	}
+	Stores.Add(MakeUnique<FFileSecretStore>(Place.Directory));
 	return Stores;
 }
 }
@@ -161,6 +178,18 @@ TVexelExpected<void> FVexelSecureStorage::DeleteValue(const FString& Key)
 	}
 	VEXEL_TRY_VOID(MoveTemp(Result), "while deleting value '%s'", *Key);
 	return TVexelExpected<void>();
+}
+
+TVexelExpected<TOptional<FVexelFileLock>> FVexelSecureStorage::TryTakeTurn()
+{
+	const FString Directory = GetPlace().Directory;
+	VEXEL_TRY_VOID(PrivateFile::MakeDirectory(FVexelStringUtil::ToStdStringUtf8(Directory)));
+	TVexelExpected<TOptional<FVexelFileLock>> Turn = FVexelFileLock::TryTake(Directory / TEXT("turn.lock"));
+	if (Turn.HasError())
+	{
+		return VEXEL_ERROR_CAUSED(FVexelError_SecureStorage, Turn.GetError(), "No turn to replace a secret");
+	}
+	return Turn;
 }
 
 void FVexelSecureStorage::SetScope(const FString& Scope)

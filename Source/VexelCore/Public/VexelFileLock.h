@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "Misc/Optional.h"
 #include "VexelExpected.h"
 
 /**
@@ -15,6 +16,8 @@ public:
 	 * stopped may never let go.
 	 */
 	static TVexelExpected<FVexelFileLock> Take(const FString& Path, double TimeoutSeconds = 10.0);
+	/** The same without waiting: unset while there is another holder. */
+	static TVexelExpected<TOptional<FVexelFileLock>> TryTake(const FString& Path);
 	~FVexelFileLock();
 
 	FVexelFileLock(FVexelFileLock&& Other);

@@ -36,8 +36,9 @@ struct FVexelHttpServerResponse
 };
 
 /**
- * A small HTTP server for this machine alone: it listens on the loopback interface and nowhere else, takes only small requests,
- * and gives up on clients that dawdle. Handlers run on the server's own threads, several at a time.
+ * A small HTTP server for this user of this machine alone: it listens on the loopback interface, at the addresses of both families,
+ * and nowhere else, refuses programs of other users with status 403, takes only small requests, and gives up on clients that dawdle.
+ * Handlers run on the server's own threads, several at a time; a HEAD request reaches none.
  */
 class VEXELCORE_API FVexelHttpServer
 {
@@ -53,7 +54,7 @@ public:
 	/** A route for a path to the letter. Before Start(); an error for a path without "/" in front, and for one that has a handler. */
 	TVexelExpected<void> AddRoute(EVexelHttpVerb Verb, const FString& Path, FHandler Handler);
 
-	/** Listens; requests are answered when this returns. An error when the port is taken or the server runs already. */
+	/** Listens; requests are answered when this returns. An error when the port is taken, at either address, or the server runs already. */
 	TVexelExpected<void> Start();
 
 	/**
@@ -62,10 +63,14 @@ public:
 	 */
 	void Stop();
 
+	/** Has a background thread stop and destroy a server, or none, for a caller that may be its own handler or must not wait. */
+	static void StopElsewhere(TSharedPtr<FVexelHttpServer>&& Server);
+
 	/** The port that it listens on; the one that it was made with while it does not. */
 	int32 GetPort() const;
 
 private:
+	class FEndpoint;
 	class FListener;
 
 	struct FRoute

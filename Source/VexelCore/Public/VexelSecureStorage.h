@@ -2,6 +2,7 @@
 
 #include "CoreMinimal.h"
 #include "VexelExpected.h"
+#include "VexelFileLock.h"
 
 /**
  * Short secrets in the user's protected store, which outlive the editor. They stand in the desktop's keyring; where the session
@@ -17,6 +18,12 @@ public:
 	static TVexelExpected<FString> LoadValueString(const FString& Key);
 	/** Success also when there was nothing to delete. */
 	static TVexelExpected<void> DeleteValue(const FString& Key);
+
+	/**
+	 * The turn of one among all processes and threads of the user that share these secrets, for a value that is read, used up and
+	 * replaced by the next one; unset while another has it. Single values need none. A lock file beside the secrets stays behind.
+	 */
+	static TVexelExpected<TOptional<FVexelFileLock>> TryTakeTurn();
 
 	/** Whose secrets from now on: the address of a service, so that one service's token never goes to another. Empty at first. */
 	static void SetScope(const FString& Scope);

@@ -7,6 +7,7 @@
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
 #include "VexelLog.h"
+#include "VexelRepeat.h"
 #include "VexelSecureStorage.h"
 #include "VexelTry.h"
 
@@ -15,6 +16,9 @@ namespace
 const FString RefreshTokenKey = TEXT("rt");
 constexpr double FirstRetrySeconds = 5.0;
 constexpr double LongestRetrySeconds = 300.0;
+constexpr float TurnPauseSeconds = 0.05f;
+/** Half a minute: a process that was stopped in the middle of its turn may never end it. */
+constexpr int32 MaxTurnAttempts = 600;
 
 /**
  * Whether the service has looked at the refresh token and refused it. A service that is down, busy or broken says nothing about
@@ -25,15 +29,43 @@ bool WasTokenRefused(const FVexelError& Error)
 	return Error.IsA<FVexelError_HttpStatusClientError>();
 }
 
-/** The token to refresh with: another process of the user may have used the one that this process holds, and stored the next. */
-FVexelAuthSecret ChooseRefreshToken(const FVexelAuthSecret& Held, bool bHeldIsStored)
+/** The stored refresh token, and the turn to use it up while that is held. */
+struct FTurn
 {
-	if (!bHeldIsStored)
-	{
-		return Held;
-	}
-	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
-	return Stored.HasValue() && !Stored.GetValue().IsEmpty() ? FVexelAuthSecret(Stored.GetValue()) : Held;
+	FVexelAuthSecret RefreshToken;
+	TSharedPtr<FVexelFileLock> Lock;
+};
+
+bool IsCurrent(int32 Number)
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FScopeLock Guard(&Data.Lock);
+	return Data.Number == Number;
+}
+
+/** The turn without its token; a null lock while another process has it. */
+TVexelTaskResult<FTurn> TryTakeTurn()
+{
+	VEXEL_TRY(TOptional<FVexelFileLock> Lock, FVexelSecureStorage::TryTakeTurn());
+	return FTurn{FVexelAuthSecret(), Lock ? MakeShared<FVexelFileLock>(MoveTemp(*Lock)) : TSharedPtr<FVexelFileLock>()};
+}
+
+/** Waits for this process's turn with the stored refresh token, as long as the login of that number is the one. */
+TVexelTaskResult<FTurn> WaitForTurn(const FVexelAuthSecret& Held, int32 Number)
+{
+	return Try(VexelRepeat<FTurn>(&TryTakeTurn)
+				   .While([Number, NumLeft = MaxTurnAttempts](const TVexelExpected<FTurn>& Latest) mutable
+					   { return Latest.HasValue() && !Latest.GetValue().Lock && IsCurrent(Number) && --NumLeft > 0; })
+				   .DelayRepeat(TurnPauseSeconds)
+				   .Flush())
+		.Then([Held](const FTurn& Turn) -> TVexelExpected<FTurn>
+			{
+				if (!Turn.Lock)
+				{
+					return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Another process is still refreshing the login");
+				}
+				const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
+				return FTurn{Stored.HasValue() && !Stored.GetValue().IsEmpty() ? FVexelAuthSecret(Stored.GetValue()) : Held, Turn.Lock}; });
 }
 
 FVexelError MakeLateError()
@@ -123,7 +155,7 @@ void FVexelAuth::StartAutoLogin()
 		return;
 	}
 	News.Tell();
-	InternalRefreshAccessToken(FVexelAuthSecret(Stored.GetValue()), Number).OnComplete([Refresh, Number](const TVexelExpected<void>& Result)
+	InternalRefreshAccessToken(FVexelAuthSecret(Stored.GetValue()), true, Number).OnComplete([Refresh, Number](const TVexelExpected<void>& Result)
 		{
 			if (Result.HasError())
 			{
@@ -297,8 +329,7 @@ TVexelTaskResult<void> FVexelAuth::StartRefresh(const FString* RefusedToken)
 	const TCHAR* const While =
 		RefusedToken ? TEXT("while refreshing access token") : TEXT("while refreshing access token in monitoring thread");
 	// Outside the lock: a result that is complete at once goes on in this call.
-	const FVexelAuthSecret Chosen = ChooseRefreshToken(Held, bStored);
-	InternalRefreshAccessToken(Chosen, Number).OnComplete([Refresh, Number, While](const TVexelExpected<void>& Result)
+	InternalRefreshAccessToken(Held, bStored, Number).OnComplete([Refresh, Number, While](const TVexelExpected<void>& Result)
 		{
 			OnRefreshed(Result, Number, While);
 			Refresh.Complete(Result); });
@@ -430,17 +461,25 @@ void FVexelAuth::Shutdown()
 	}
 }
 
-TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FVexelAuthSecret& RefreshToken, FLoginNumber Number)
+TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FVexelAuthSecret& Held, bool bHeldIsStored, FLoginNumber Number)
 {
 	// Taken here, because a step may run when the module is gone already.
 	const TSharedPtr<FVexelHttp> Api = FVexelClient::Get().GetApiClient();
-	return Try(PreloadClientId()).Then([RefreshToken, Api, Number](const FString& ClientId) -> TVexelTaskResult<void>
+	return Try(PreloadClientId()).Then([Held, bHeldIsStored, Api, Number](const FString& ClientId) -> TVexelTaskResult<void>
 		{
 			const VexelAuthRequests::FClient OAuthClient{Api, ClientId, FString()};
-			return Try(VexelAuthRequests::Refresh(OAuthClient, RefreshToken)).Then([OAuthClient, Number](const FTokenResponse& Tokens)
-				{
-					VEXEL_LOG(Log, "OAuth token refresh successful");
-					return ProcessOrRevoke(OAuthClient, Tokens, Number); }); });
+			const TVexelTaskResult<FTurn> Turn = bHeldIsStored ? WaitForTurn(Held, Number) : TVexelTaskResult<FTurn>(FTurn{Held, nullptr});
+			return Try(Turn).Then([OAuthClient, Number](const FTurn& Taken)
+				{ return RefreshInTurn(OAuthClient, Taken.RefreshToken, Taken.Lock, Number); }); });
+}
+
+TVexelTaskResult<void> FVexelAuth::RefreshInTurn(const VexelAuthRequests::FClient& OAuthClient, const FVexelAuthSecret& RefreshToken,
+	const TSharedPtr<FVexelFileLock>& Turn, FLoginNumber Number)
+{
+	return Try(VexelAuthRequests::Refresh(OAuthClient, RefreshToken)).Then([OAuthClient, Number, Turn](const FTokenResponse& Tokens)
+		{
+			VEXEL_LOG(Log, "OAuth token refresh successful");
+			return ProcessOrRevoke(OAuthClient, Tokens, Number); });
 }
 
 TVexelExpected<void> FVexelAuth::ProcessOrRevoke(

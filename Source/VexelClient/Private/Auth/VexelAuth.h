@@ -8,6 +8,7 @@
 #include "VexelTaskResult.h"
 
 class FVexelAuthLoginState;
+class FVexelFileLock;
 namespace VexelAuthRequests
 {
 struct FClient;
@@ -44,8 +45,10 @@ public:
 	};
 
 	DECLARE_MULTICAST_DELEGATE_OneParam(FOnAuthStateChanged, EState);
-	/** Shows the user an address to open; answers why it cannot, or an empty text. */
-	using FOpenAddress = TFunction<FString(const FString& Url)>;
+	/** Opens the login in the user's browser, with nothing of its address on a command line; answers why it cannot, or an empty text. */
+	using FLaunchBrowser = TFunctionRef<FString()>;
+	/** Shows the user an address to open, and may launch the browser with it; answers why it cannot, or an empty text. */
+	using FOpenAddress = TFunction<FString(const FString& Url, FLaunchBrowser LaunchBrowser)>;
 
 	/** Fetches the plug-in's OAuth client id once and keeps it. */
 	static TVexelTaskResult<FString> PreloadClientId();
@@ -83,7 +86,7 @@ public:
 	/** Where the secure store has the refresh token of the last login. */
 	static const FString& GetRefreshTokenKey();
 
-	/** Replaces the user's browser by another way to show an address; the browser again without a function. */
+	/** Replaces the launch of the user's browser by another way to show an address; the launch again without a function. */
 	static void SetOpenAddress(FOpenAddress Open);
 
 	/** Why the last login failed; unset while one is under way and after one that succeeded. */
@@ -124,7 +127,15 @@ private:
 	/** The same; what nobody will use is revoked. */
 	static TVexelExpected<void> ProcessOrRevoke(
 		const VexelAuthRequests::FClient& Client, const FTokenResponse& Response, FLoginNumber Number);
-	static TVexelTaskResult<void> InternalRefreshAccessToken(const FVexelAuthSecret& RefreshToken, FLoginNumber Number);
+	/**
+	 * With the stored refresh token where Held was stored, because another process may have used that up and stored the next one;
+	 * processes that share the store do this one after the other. With Held where it was not stored, or nothing is any more.
+	 */
+	static TVexelTaskResult<void> InternalRefreshAccessToken(const FVexelAuthSecret& Held, bool bHeldIsStored, FLoginNumber Number);
+
+	/** Turn is held until the next token is stored, or there is none. */
+	static TVexelTaskResult<void> RefreshInTurn(const VexelAuthRequests::FClient& Client, const FVexelAuthSecret& RefreshToken,
+		const TSharedPtr<FVexelFileLock>& Turn, FLoginNumber Number);
 
 	static TVexelExpected<void> BeginLogin(
 		const TSharedRef<FVexelAuthLoginState>& Login, TSharedPtr<FVexelAuthLoginState>& OutEarlier);

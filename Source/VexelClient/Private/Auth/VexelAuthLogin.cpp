@@ -171,15 +171,18 @@ TVexelExpected<void> FVexelAuth::InternalStartBrowserWithClientId(const FLogin& 
 		FScopeLock Guard(&Data.Lock);
 		Open = Data.OpenAddress;
 	}
-	FString Failure;
-	if (Open)
+	const auto LaunchBrowser = [&]() -> FString
 	{
-		Failure = Open(Address.Url);
-	}
-	else
-	{
-		FPlatformProcess::LaunchURL(*Address.Url, nullptr, &Failure);
-	}
+		const TVexelExpected<FString> StartPage = Login->OpenStartPage(Address.Url);
+		if (StartPage.HasError())
+		{
+			return StartPage.GetError().ToShortString();
+		}
+		FString Failure;
+		FPlatformProcess::LaunchURL(*StartPage.GetValue(), nullptr, &Failure);
+		return Failure;
+	};
+	const FString Failure = Open ? Open(Address.Url.Get(), LaunchBrowser) : LaunchBrowser();
 	if (!Failure.IsEmpty())
 	{
 		return VEXEL_ERROR(FVexelError_Auth_BrowserLaunch, "Failed to launch browser: %s", *Failure);

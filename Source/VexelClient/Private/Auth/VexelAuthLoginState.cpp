@@ -4,7 +4,7 @@
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
 #include "VexelInternalConfig.h"
-#include "VexelTaskManager.h"
+#include "VexelTry.h"
 
 namespace
 {
@@ -13,16 +13,6 @@ const FString NoRedirectUri = TEXT("urn:vexel:oauth:noredirect");
 constexpr int32 MaxPort = 65535;
 /** The port is part of what the service sends a browser to. */
 FConfigValueBase PortSetting(TEXT("AuthCallbackPort"), TEXT("4000"));
-
-/** Stops a server where it may be waited for: its own handler, which may be the caller, must end first. */
-void StopElsewhere(TSharedPtr<FVexelHttpServer>&& Server)
-{
-	if (Server)
-	{
-		FVexelTaskManager::ScheduleFunc(EVexelTaskThread::BackgroundThread, [Server = MoveTemp(Server)]
-			{ Server->Stop(); });
-	}
-}
 }
 
 TVexelExpected<TSharedRef<FVexelAuthLoginState>> FVexelAuthLoginState::Make()
@@ -44,7 +34,7 @@ FVexelAuthLoginState::FVexelAuthLoginState(FVexelAuthPkce&& Pkce)
 
 FVexelAuthLoginState::~FVexelAuthLoginState()
 {
-	StopElsewhere(TakeServer());
+	FVexelHttpServer::StopElsewhere(TakeServer());
 }
 
 TVexelExpected<int32> FVexelAuthLoginState::StartAuthServer()
@@ -83,11 +73,24 @@ TVexelExpected<int32> FVexelAuthLoginState::StartAuthServer()
 	if (!Server)
 	{
 		// The login ended while its server started; nobody else knows of it.
-		StopElsewhere(MoveTemp(Starting));
+		FVexelHttpServer::StopElsewhere(MoveTemp(Starting));
 		return VEXEL_ERROR(FVexelError_Auth_HttpServer, "The login is over");
 	}
 	RedirectUri = FString::Printf(TEXT("http://localhost:%d%s"), Port, *CallbackPath);
 	return Port;
+}
+
+TVexelExpected<FString> FVexelAuthLoginState::OpenStartPage(const FVexelAuthSecret& Target)
+{
+	VEXEL_TRY(TUniquePtr<FVexelAuthStartPage> Page, FVexelAuthStartPage::Make(Target));
+	const FString Url = Page->GetUrl();
+	FScopeLock Guard(&Lock);
+	if (State.IsEmpty())
+	{
+		return VEXEL_ERROR(FVexelError_Auth_HttpServer, "The login is over");
+	}
+	StartPage = MoveTemp(Page);
+	return Url;
 }
 
 void FVexelAuthLoginState::Cancel()
@@ -207,6 +210,7 @@ void FVexelAuthLoginState::Finish() const
 	{
 		FScopeLock Guard(&Lock);
 		Poll = MoveTemp(PollRequest);
+		StartPage.Reset();
 		CodeVerifier.Wipe();
 		State.Wipe();
 	}
@@ -214,7 +218,7 @@ void FVexelAuthLoginState::Finish() const
 	{
 		Poll->Cancel();
 	}
-	StopElsewhere(TakeServer());
+	FVexelHttpServer::StopElsewhere(TakeServer());
 }
 
 TSharedPtr<FVexelHttpServer> FVexelAuthLoginState::TakeServer() const

@@ -3,6 +3,7 @@
 #include "Auth/VexelAuth.h"
 #include "Auth/VexelAuthPkce.h"
 #include "Auth/VexelAuthRequests.h"
+#include "Auth/VexelAuthStartPage.h"
 #include "HAL/CriticalSection.h"
 #include "VexelHttpServer.h"
 
@@ -23,6 +24,9 @@ public:
 	 * that stands for none.
 	 */
 	TVexelExpected<int32> StartAuthServer();
+
+	/** Makes a page that leads this user's browser to the target once, until the login is over, and answers the page's address. */
+	TVexelExpected<FString> OpenStartPage(const FVexelAuthSecret& Target);
 
 	/** Ends the login from outside. The port is free when this returns. Not to be called by the callback's handler. */
 	void Cancel();
@@ -67,5 +71,6 @@ private:
 	FString RedirectUri;
 	VexelAuthRequests::FClient Client;
 	mutable TSharedPtr<FVexelHttpServer> Server;
+	mutable TUniquePtr<FVexelAuthStartPage> StartPage;
 	mutable TSharedPtr<FVexelHttpRequest> PollRequest;
 };

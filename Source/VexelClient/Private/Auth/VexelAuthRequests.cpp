@@ -122,7 +122,7 @@ VexelAuthRequests::FAuthorizeAddress VexelAuthRequests::MakeAuthorizeAddress(
 			.Add(TEXT("device_id"), ShownDeviceId);
 		return FString::Printf(TEXT("%s/oauth/authorize?%s"), *FVexelClient::GetAppUrl(), *Params.ToUrlEncodedString());
 	};
-	return {Make(State, Client.DeviceId), Make(HiddenValue, HiddenValue)};
+	return {FVexelAuthSecret(Make(State, Client.DeviceId)), Make(HiddenValue, HiddenValue)};
 }
 
 TSharedRef<FVexelHttpRequest> VexelAuthRequests::SendPoll(const FClient& Client, const FString& State)

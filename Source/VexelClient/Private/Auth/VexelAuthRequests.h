@@ -36,7 +36,7 @@ TVexelTaskResult<FString> FetchClientId(FVexelHttp& Api);
 /** The address that the user's browser opens. Shown is the same for a log: without what only the browser may know. */
 struct FAuthorizeAddress
 {
-	FString Url;
+	FVexelAuthSecret Url;
 	FString Shown;
 };
 FAuthorizeAddress MakeAuthorizeAddress(

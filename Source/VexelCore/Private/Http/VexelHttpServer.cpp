@@ -1,16 +1,21 @@
 #include "VexelHttpServer.h"
 
 #include "Containers/StringConv.h"
+#include "Http/LoopbackPeer.h"
 #include "Misc/ScopeLock.h"
 #include "VexelErrorKinds.h"
 #include "VexelLog.h"
 #include "VexelStringUtil.h"
+#include "VexelTaskManager.h"
 
+#include <atomic>
 #include <condition_variable>
 #include <httplib.h>
 #include <mutex>
+#include <netinet/in.h>
 #include <sys/socket.h>
 #include <thread>
+#include <unistd.h>
 
 namespace
 {
@@ -18,7 +23,10 @@ constexpr size_t MaxBodyBytes = 64 * 1024;
 constexpr int32 MaxConnections = 8;
 constexpr time_t DawdleSeconds = 2;
 constexpr std::chrono::seconds LongestStop(2 * DawdleSeconds + 1);
-constexpr const char* Loopback = "127.0.0.1";
+/** A free port of one address may be taken at the other. */
+constexpr int32 MaxBindAttempts = 16;
+constexpr const char* Loopback4 = "127.0.0.1";
+constexpr const char* Loopback6 = "::1";
 constexpr const char* AnyPath = ".*";
 constexpr const char* PlainText = "text/plain; charset=utf-8";
 
@@ -34,6 +42,21 @@ bool IsMeantForThisMachine(const httplib::Request& Request)
 	const std::string Host = Request.get_header_value("Host");
 	const std::string Name = Host.substr(0, Host.find_last_of(':') == Host.find(':') ? Host.find(':') : Host.find("]:") + 1);
 	return Name == "localhost" || Name == "127.0.0.1" || Name == "[::1]";
+}
+
+/** Whether "localhost" may mean the address of IPv6 on this machine. */
+bool HasLoopback6()
+{
+	const int Socket = socket(AF_INET6, SOCK_STREAM | SOCK_CLOEXEC, 0);
+	sockaddr_in6 Address = {};
+	Address.sin6_family = AF_INET6;
+	Address.sin6_addr = in6addr_loopback;
+	const bool bBound = Socket >= 0 && bind(Socket, reinterpret_cast<const sockaddr*>(&Address), sizeof(Address)) == 0;
+	if (Socket >= 0)
+	{
+		close(Socket);
+	}
+	return bBound;
 }
 
 bool StaysOnItsLine(const FString& Text)
@@ -65,12 +88,13 @@ void Write(const FVexelHttpServerResponse& Answer, httplib::Response& Out)
 }
 }
 
-/** The server while it listens. Its thread shares it, so that a connection which outlives the stop finds it still there. */
-class FVexelHttpServer::FListener
+/** One address that the server listens at, and the thread that does. */
+class FVexelHttpServer::FEndpoint
 {
 public:
-	explicit FListener(const TArray<FRoute>& InRoutes)
-		: Routes(InRoutes)
+	using FAnswer = TFunction<void(EVexelHttpVerb, const httplib::Request&, httplib::Response&)>;
+
+	explicit FEndpoint(const FAnswer& Answer)
 	{
 		Server.new_task_queue = []
 		{ return new httplib::ThreadPool(MaxConnections); };
@@ -80,76 +104,153 @@ public:
 		Server.set_keep_alive_timeout(DawdleSeconds);
 		Server.set_keep_alive_max_count(1);
 		// The library's own choice would let a second server share the port, and half of the requests.
-		Server.set_socket_options([](socket_t Socket)
+		Server.set_socket_options([this](socket_t Opened)
 			{
 				const int Yes = 1;
-				setsockopt(Socket, SOL_SOCKET, SO_REUSEADDR, &Yes, sizeof(Yes)); });
+				setsockopt(Opened, SOL_SOCKET, SO_REUSEADDR, &Yes, sizeof(Yes));
+				Socket = Opened; });
+		const auto MakeHandler = [&Answer](EVexelHttpVerb Verb) -> httplib::Server::Handler
+		{
+			return [Answer, Verb](const httplib::Request& Request, httplib::Response& Response)
+			{ Answer(Verb, Request, Response); };
+		};
 		Server.Get(AnyPath, MakeHandler(EVexelHttpVerb::Get));
 		Server.Post(AnyPath, MakeHandler(EVexelHttpVerb::Post));
 		Server.Put(AnyPath, MakeHandler(EVexelHttpVerb::Put));
 	}
 
-	/** The port; negative when it cannot be had. */
+	~FEndpoint()
+	{
+		// The library closes only what it has listened at.
+		if (bBound && !bListened)
+		{
+			close(Socket);
+		}
+	}
+	UE_NONCOPYABLE(FEndpoint)
+
+	/** The port, a free one for 0; negative when it cannot be had. */
+	int32 Bind(const char* Address, int32 WantedPort)
+	{
+		const int32 Port =
+			WantedPort == 0 ? Server.bind_to_any_port(Address) : (Server.bind_to_port(Address, WantedPort) ? WantedPort : -1);
+		bBound = Port >= 0;
+		return Port;
+	}
+
+	void Listen()
+	{
+		bListened = true;
+		Server.listen_after_bind();
+	}
+
+	httplib::Server Server;
+	std::thread Thread;
+
+private:
+	socket_t Socket = -1;
+	bool bBound = false;
+	std::atomic<bool> bListened = false;
+};
+
+/** The server while it listens. Its threads share it, so that a connection which outlives the stop finds it still there. */
+class FVexelHttpServer::FListener
+{
+public:
+	explicit FListener(const TArray<FRoute>& InRoutes)
+		: Routes(InRoutes)
+	{
+	}
+
+	/**
+	 * Both loopback addresses where the machine has both, because browsers take either for "localhost", and another user's program
+	 * at the other one would get what is meant for this. The port; negative when it cannot be had.
+	 */
 	int32 Bind(int32 WantedPort)
 	{
-		if (WantedPort == 0)
+		const bool bBoth = HasLoopback6();
+		const int32 NumAttempts = WantedPort == 0 ? MaxBindAttempts : 1;
+		for (int32 Attempt = 0; Attempt < NumAttempts; ++Attempt)
 		{
-			BoundPort = Server.bind_to_any_port(Loopback);
+			Endpoints.Reset();
+			BoundPort = AddEndpoint(Loopback4, WantedPort);
+			if (BoundPort >= 0 && (!bBoth || AddEndpoint(Loopback6, BoundPort) >= 0))
+			{
+				return BoundPort;
+			}
 		}
-		else
-		{
-			BoundPort = Server.bind_to_port(Loopback, WantedPort) ? WantedPort : -1;
-		}
-		return BoundPort;
+		Endpoints.Reset();
+		return -1;
 	}
 
 	static void Run(const TSharedPtr<FListener>& This)
 	{
-		This->Thread = std::thread([This]
-			{
-				This->Server.listen_after_bind();
-				const std::lock_guard Guard(This->Mutex);
-				This->bEnded = true;
-				This->Changed.notify_all(); });
-		// A stop that came before the thread listens would be lost.
-		while (!This->Server.is_running() && !This->HasEnded())
+		This->NumListening = This->Endpoints.Num();
+		for (const TUniquePtr<FEndpoint>& Endpoint : This->Endpoints)
 		{
-			std::this_thread::yield();
+			Endpoint->Thread = std::thread([This, &Endpoint = *Endpoint]
+				{
+					Endpoint.Listen();
+					const std::lock_guard Guard(This->Mutex);
+					--This->NumListening;
+					This->Changed.notify_all(); });
+		}
+		// A stop that came before a thread listens would be lost.
+		for (const TUniquePtr<FEndpoint>& Endpoint : This->Endpoints)
+		{
+			while (!Endpoint->Server.is_running() && !This->HasFailed())
+			{
+				std::this_thread::yield();
+			}
 		}
 	}
 
 	void Stop()
 	{
-		Server.stop();
+		for (const TUniquePtr<FEndpoint>& Endpoint : Endpoints)
+		{
+			Endpoint->Server.stop();
+		}
 		std::unique_lock Guard(Mutex);
 		bStopping = true;
 		Changed.wait(Guard, [this]
 			{ return NumRunning == 0; });
 		const bool bInTime = Changed.wait_for(Guard, LongestStop, [this]
-			{ return bEnded; });
+			{ return NumListening == 0; });
 		Guard.unlock();
-		if (bInTime)
+		if (!bInTime)
 		{
-			Thread.join();
-			return;
+			VEXEL_LOG(Warning, "A connection of the local HTTP server has not ended yet; it is left to itself");
 		}
-		VEXEL_LOG(Warning, "A connection of the local HTTP server has not ended yet; it is left to itself");
-		Thread.detach();
+		for (const TUniquePtr<FEndpoint>& Endpoint : Endpoints)
+		{
+			if (bInTime)
+			{
+				Endpoint->Thread.join();
+			}
+			else
+			{
+				Endpoint->Thread.detach();
+			}
+		}
 	}
 
 	int32 GetPort() const { return BoundPort; }
 
 private:
-	bool HasEnded()
+	int32 AddEndpoint(const char* Address, int32 WantedPort)
 	{
-		const std::lock_guard Guard(Mutex);
-		return bEnded;
+		const TUniquePtr<FEndpoint>& Endpoint = Endpoints.Add_GetRef(
+			MakeUnique<FEndpoint>([this](EVexelHttpVerb Verb, const httplib::Request& Request, httplib::Response& Response)
+				{ Answer(Verb, Request, Response); }));
+		return Endpoint->Bind(Address, WantedPort);
 	}
 
-	httplib::Server::Handler MakeHandler(EVexelHttpVerb Verb)
+	/** Whether an endpoint has ended by itself. */
+	bool HasFailed()
 	{
-		return [this, Verb](const httplib::Request& Request, httplib::Response& Response)
-		{ Answer(Verb, Request, Response); };
+		const std::lock_guard Guard(Mutex);
+		return NumListening < Endpoints.Num();
 	}
 
 	void Answer(EVexelHttpVerb Verb, const httplib::Request& Request, httplib::Response& Response)
@@ -157,6 +258,11 @@ private:
 		if (!IsMeantForThisMachine(Request))
 		{
 			Response.status = 400;
+			return;
+		}
+		if (!LoopbackPeer::IsOfThisUser({Request.remote_addr, Request.remote_port}, {Request.local_addr, Request.local_port}))
+		{
+			Response.status = 403;
 			return;
 		}
 		const FString Path = ToText(Request.path);
@@ -167,7 +273,8 @@ private:
 			if (Candidate.Path.Equals(Path))
 			{
 				Response.status = 405;
-				Route = Candidate.Verb == Verb ? &Candidate : Route;
+				// The library has GET's handler answer HEAD too, but one who only looks is not to set anything going.
+				Route = Candidate.Verb == Verb && Request.method != "HEAD" ? &Candidate : Route;
 			}
 		}
 		if (!Route || !BeginHandler())
@@ -210,15 +317,14 @@ private:
 	}
 
 	const TArray<FRoute> Routes;
-	httplib::Server Server;
-	std::thread Thread;
+	TArray<TUniquePtr<FEndpoint>> Endpoints;
 	int32 BoundPort = -1;
 
 	std::mutex Mutex;
 	std::condition_variable Changed;
+	int32 NumListening = 0;
 	int32 NumRunning = 0;
 	bool bStopping = false;
-	bool bEnded = false;
 };
 
 TOptional<FString> FVexelHttpServerRequest::FindParam(const FString& Name) const
@@ -291,6 +397,15 @@ void FVexelHttpServer::Stop()
 	if (Stopping)
 	{
 		Stopping->Stop();
+	}
+}
+
+void FVexelHttpServer::StopElsewhere(TSharedPtr<FVexelHttpServer>&& Server)
+{
+	if (Server)
+	{
+		FVexelTaskManager::ScheduleFunc(EVexelTaskThread::BackgroundThread, [Server = MoveTemp(Server)]
+			{ Server->Stop(); });
 	}
 }
 
