@@ -57,7 +57,7 @@ const std::vector<std::pair<std::string, FNames>> ThirdPartyHeaders = {
 };
 
 /** The system's own, for what no engine API does. */
-const FNames SystemHeaders = {"fcntl.h", "pwd.h", "sys/file.h", "sys/socket.h", "sys/stat.h", "unistd.h"};
+const FNames SystemHeaders = {"arpa/inet.h", "fcntl.h", "netinet/in.h", "pwd.h", "sys/file.h", "sys/socket.h", "sys/stat.h", "unistd.h"};
 
 /** The compilers' own, for what the language cannot say. */
 const FNames CompilerHeaders = {"emmintrin.h"};
