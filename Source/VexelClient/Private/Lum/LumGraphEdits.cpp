@@ -1,5 +1,8 @@
 #include "Lum/LumHelper.h"
 
+#include "Lum/LumStructureEdit.h"
+#include "Lum/LumVariableRules.h"
+
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
@@ -46,5 +49,34 @@ TVexelExpected<void> FLumHelper::RemoveGraphFromBlueprint(UEdGraph& Graph)
 	const FScopedTransaction Transaction(INVTEXT("(Vexel) Remove Function Graph"));
 	Blueprint->Modify();
 	FBlueprintEditorUtils::RemoveGraph(Blueprint, &Graph, EGraphRemoveFlags::Recompile);
+	return {};
+}
+
+TVexelExpected<void> FLumHelper::RenameGraph(UEdGraph& Graph, const FString& NewName)
+{
+	UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForGraph(&Graph);
+	if (!Blueprint)
+	{
+		return VEXEL_ERROR(FLumError_Write, "Graph does not belong to a valid blueprint");
+	}
+	const FString OldName = Graph.GetName();
+	if (OldName.Equals(NewName, ESearchCase::CaseSensitive))
+	{
+		return {};
+	}
+	if (!Graph.bAllowRenaming)
+	{
+		return VEXEL_ERROR(FLumError_Write, "Graph '%s' cannot be renamed: the blueprint needs its name", *OldName);
+	}
+	VEXEL_TRY_VOID(LumVariableRules::CheckMemberName(*Blueprint, NewName, Graph.GetFName()), "while renaming graph '%s' to '%s'", *OldName, *NewName);
+	FLumEditBatch::BringUpToDate(*Blueprint);
+	FLumStructureEdit Edit(INVTEXT("(Vexel) Rename Graph"), *Blueprint, ELumSkeleton::AtOnce);
+	Edit.LetEngineMark();
+	FBlueprintEditorUtils::RenameGraph(&Graph, NewName);
+	if (Graph.GetName() != NewName)
+	{
+		Edit.Cancel();
+		return VEXEL_ERROR(FLumError_Write, "Failed to rename graph '%s' to '%s'", *OldName, *NewName);
+	}
 	return {};
 }

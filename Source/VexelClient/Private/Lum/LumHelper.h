@@ -17,8 +17,10 @@ class UBlueprint;
 class UClass;
 class UEdGraph;
 class UEnum;
+class UK2Node_EditablePinBase;
 class UObject;
 class UStruct;
+struct FLumVarDesc;
 
 /** Scopes of variables. */
 namespace LumScope
@@ -88,6 +90,25 @@ public:
 	/** Adds a function to the Blueprint, which can be undone. The name must be nobody's in it. */
 	static TVexelExpected<UEdGraph*> AddGraphToBlueprint(UBlueprint& Blueprint, const FString& Name, EGraphType Type);
 	static TVexelExpected<void> RemoveGraphFromBlueprint(UEdGraph& Graph);
+	/** Renames the graph with its uses. */
+	static TVexelExpected<void> RenameGraph(UEdGraph& Graph, const FString& NewName);
+
+	/**
+	 * Inputs and outputs of a function, a macro or a dispatcher, in the descriptor's scope: "in" or "out". The nodes of all loaded Blueprints that
+	 * use the graph follow. These and the edits of pins below are each one entry of undo; one that fails changes nothing.
+	 */
+	static TVexelExpected<void> AddFunctionInputOutput(const UEdGraph& Graph, const FName Name, const FLumVarDesc& Desc);
+	/** What the descriptor leaves empty stays as it is. */
+	static TVexelExpected<void> ChangeFunctionInputOutput(
+		const UEdGraph& Graph, EEdGraphPinDirection Direction, FName Name, const FLumVarDesc& Desc);
+	static TVexelExpected<void> RemoveFunctionInputOutput(const UEdGraph& Graph, EEdGraphPinDirection Direction, FName Name);
+
+	/** Pins of nodes that have them together, see GetAllNodesForUserPinEdit. The scope is the pins' direction on the nodes. */
+	static TVexelExpected<void> AddUserDefinedPin(const TArray<UK2Node_EditablePinBase*>& Nodes, const FName& Name, const FLumVarDesc& Desc);
+	static TVexelExpected<void> ChangeUserDefinedPin(const TArray<UK2Node_EditablePinBase*>& Nodes, const FName& Name, const FLumVarDesc& Desc);
+	static TVexelExpected<void> RemoveUserDefinedPin(const TArray<UK2Node_EditablePinBase*>& Nodes, const FName& Name);
+	/** The node, and all that must have the same pins: the other results of a function. */
+	static TVexelExpected<void> GetAllNodesForUserPinEdit(UK2Node_EditablePinBase& Node, TArray<UK2Node_EditablePinBase*>& OutNodes);
 
 	/** A pin's default as a string: object pins as references, the common math structs as their components. */
 	static TVexelExpected<TSharedRef<FJsonValue>> GetPinDefaultValueAsJsonValue(const UEdGraphPin& Pin);
