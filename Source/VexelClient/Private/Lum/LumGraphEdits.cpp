@@ -6,6 +6,7 @@
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
+#include "K2Node_CustomEvent.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/Kismet2NameValidators.h"
 #include "ScopedTransaction.h"
@@ -52,12 +53,30 @@ TVexelExpected<void> FLumHelper::RemoveGraphFromBlueprint(UEdGraph& Graph)
 	return {};
 }
 
-TVexelExpected<void> FLumHelper::RenameGraph(UEdGraph& Graph, const FString& NewName)
+namespace
 {
-	UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForGraph(&Graph);
+TVexelExpected<UBlueprint*> CheckNewName(const UObject& Named, const FString& OldName, const FString& NewName)
+{
+	UBlueprint* const Blueprint = Named.GetTypedOuter<UBlueprint>();
 	if (!Blueprint)
 	{
 		return VEXEL_ERROR(FLumError_Write, "Graph does not belong to a valid blueprint");
+	}
+	const TVexelExpected<void> Checked = LumVariableRules::CheckMemberName(*Blueprint, NewName, FName(*OldName));
+	if (Checked.HasError())
+	{
+		return VEXEL_ERROR(FLumError_Write, "Failed to rename '%s' to '%s': %s", *OldName, *NewName, *Checked.GetError().GetMessage());
+	}
+	return Blueprint;
+}
+}
+
+TVexelExpected<void> FLumHelper::RenameGraph(UEdGraph& Graph, const FString& NewName)
+{
+	const EGraphType Type = FBlueprintEditorUtils::GetGraphType(&Graph);
+	if (Type != GT_Function && Type != GT_Macro)
+	{
+		return VEXEL_ERROR(FLumError_Write, "Editable name is only supported for function/macro graphs");
 	}
 	const FString OldName = Graph.GetName();
 	if (OldName.Equals(NewName, ESearchCase::CaseSensitive))
@@ -66,9 +85,9 @@ TVexelExpected<void> FLumHelper::RenameGraph(UEdGraph& Graph, const FString& New
 	}
 	if (!Graph.bAllowRenaming)
 	{
-		return VEXEL_ERROR(FLumError_Write, "Graph '%s' cannot be renamed: the blueprint needs its name", *OldName);
+		return VEXEL_ERROR(FLumError_Write, "Failed to rename '%s' to '%s': what the graph overrides gives it its name", *OldName, *NewName);
 	}
-	VEXEL_TRY_VOID(LumVariableRules::CheckMemberName(*Blueprint, NewName, Graph.GetFName()), "while renaming graph '%s' to '%s'", *OldName, *NewName);
+	VEXEL_TRY(UBlueprint* const Blueprint, CheckNewName(Graph, OldName, NewName));
 	FLumEditBatch::BringUpToDate(*Blueprint);
 	FLumStructureEdit Edit(INVTEXT("(Vexel) Rename Graph"), *Blueprint, ELumSkeleton::AtOnce);
 	Edit.LetEngineMark();
@@ -76,7 +95,35 @@ TVexelExpected<void> FLumHelper::RenameGraph(UEdGraph& Graph, const FString& New
 	if (Graph.GetName() != NewName)
 	{
 		Edit.Cancel();
-		return VEXEL_ERROR(FLumError_Write, "Failed to rename graph '%s' to '%s'", *OldName, *NewName);
+		return VEXEL_ERROR(FLumError_Write, "Failed to rename '%s' to '%s'", *OldName, *NewName);
+	}
+	return {};
+}
+
+TVexelExpected<void> FLumHelper::RenameNode(UEdGraphNode& Node, const FString& NewName)
+{
+	UK2Node_CustomEvent* const Event = Cast<UK2Node_CustomEvent>(&Node);
+	if (!Event)
+	{
+		return VEXEL_ERROR(FLumError_Write, "Editable name is only supported for Custom Event nodes");
+	}
+	const FString OldName = Event->CustomFunctionName.ToString();
+	if (OldName.Equals(NewName, ESearchCase::CaseSensitive))
+	{
+		return {};
+	}
+	if (Event->IsOverride())
+	{
+		return VEXEL_ERROR(FLumError_Write, "Failed to rename '%s' to '%s': what the event overrides gives it its name", *OldName, *NewName);
+	}
+	VEXEL_TRY(UBlueprint* const Blueprint, CheckNewName(Node, OldName, NewName));
+	FLumEditBatch::BringUpToDate(*Blueprint);
+	FLumStructureEdit Edit(INVTEXT("(Vexel) Rename Event"), *Blueprint, ELumSkeleton::AtOnce);
+	Event->OnRenameNode(NewName);
+	if (!Event->CustomFunctionName.ToString().Equals(NewName, ESearchCase::CaseSensitive))
+	{
+		Edit.Cancel();
+		return VEXEL_ERROR(FLumError_Write, "Failed to rename '%s' to '%s'", *OldName, *NewName);
 	}
 	return {};
 }

@@ -16,6 +16,7 @@ class ILumPropertyCollector;
 class UBlueprint;
 class UClass;
 class UEdGraph;
+class UEdGraphNode;
 class UEnum;
 class UK2Node_EditablePinBase;
 class UObject;
@@ -90,8 +91,10 @@ public:
 	/** Adds a function to the Blueprint, which can be undone. The name must be nobody's in it. */
 	static TVexelExpected<UEdGraph*> AddGraphToBlueprint(UBlueprint& Blueprint, const FString& Name, EGraphType Type);
 	static TVexelExpected<void> RemoveGraphFromBlueprint(UEdGraph& Graph);
-	/** Renames the graph with its uses. */
+	/** Renames a function, a macro or a dispatcher with its uses. One entry of undo; refused names change nothing. */
 	static TVexelExpected<void> RenameGraph(UEdGraph& Graph, const FString& NewName);
+	/** The same for a custom event. */
+	static TVexelExpected<void> RenameNode(UEdGraphNode& Node, const FString& NewName);
 
 	/**
 	 * Inputs and outputs of a function, a macro or a dispatcher, in the descriptor's scope: "in" or "out". The nodes of all loaded Blueprints that

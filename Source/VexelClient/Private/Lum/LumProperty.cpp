@@ -15,6 +15,8 @@ TVexelExpected<void> ILumProperty::JsonImportValue(const FLumContext&, const TSh
 	return VEXEL_ERROR(FLumError_Import, "Property '%s' cannot be changed", *Id);
 }
 
+TVexelExpected<void> ILumProperty::OnImport() { return {}; }
+
 TVexelExpected<TSharedRef<FJsonObject>> ILumProperty::MakePropertyObject(const FLumContext& Context) const
 {
 	VEXEL_TRY(const TVexelPropId Id, GetPropId());

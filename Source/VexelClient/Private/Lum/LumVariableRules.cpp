@@ -3,6 +3,7 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumErrors.h"
 #include "Lum/LumStructureEdit.h"
+#include "Lum/LumVariable.h"
 #include "VexelFuzzySearch.h"
 
 #include "Algo/Sort.h"
@@ -165,6 +166,28 @@ const UBlueprint* FindChildWithMember(const UBlueprint& Blueprint, FName Name)
 	}
 	return nullptr;
 }
+}
+
+TVexelExpected<void> LumVariableRules::CheckComplete(const FLumVarDesc& Desc)
+{
+	if (Desc.PropId.IsEmpty())
+	{
+		return VEXEL_ERROR(FLumError_Write, "Variable name (prop_id) is required");
+	}
+	if (Desc.TypeId.IsEmpty())
+	{
+		return VEXEL_ERROR(FLumError_Write, "Variable type_id is required");
+	}
+	return {};
+}
+
+TVexelExpected<FName> LumVariableRules::MakeName(const TVexelPropId& PropId)
+{
+	if (PropId.ToString().Len() >= NAME_SIZE)
+	{
+		return FLumError_Write(VEXEL_HERE, INameValidatorInterface::GetErrorString(PropId.ToString(), EValidatorResult::TooLong));
+	}
+	return FName(*PropId.ToString());
 }
 
 TVexelExpected<FEdGraphPinType> LumVariableRules::ParseType(const TVexelPropTypeId& TypeId, EUse Use)

@@ -8,10 +8,17 @@
 class UBlueprint;
 class UK2Node_FunctionEntry;
 class UStruct;
+struct FLumVarDesc;
 
 /** What may be declared in a Blueprint. An error of these is the reason that stands behind an edit's own text. */
 namespace LumVariableRules
 {
+/** Fails where the descriptor of a new variable has no name or no type. */
+TVexelExpected<void> CheckComplete(const FLumVarDesc& Desc);
+
+/** The engine's name of the id; fails where it is longer than any name is. */
+TVexelExpected<FName> MakeName(const TVexelPropId& PropId);
+
 /** What a type is wanted for. */
 enum class EUse : uint8
 {

@@ -87,12 +87,15 @@ public:
 
 	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FVexelToolContext& Context, const FVexelToolInput& Input) const override final
 	{
-		VEXEL_TRY(const RecordType Record, RecordType::GetSchema().Read(*Input.GetValues()));
-		return Run(Context, Record);
+		TVexelExpected<RecordType> Record = RecordType::GetSchema().Read(*Input.GetValues());
+		return Record.HasError() ? MakeInputError(MoveTemp(Record).GetError()) : Run(Context, Record.GetValue());
 	}
 	virtual const FVexelToolSchema* GetSchema() const override final { return &RecordType::GetSchema(); }
 
 protected:
+	/** What the call answers when its arguments do not fit the schema. */
+	virtual FVexelError MakeInputError(FVexelError&& Error) const { return MoveTemp(Error); }
+
 	/** Performs the tool with arguments that fit the schema. As Call. */
 	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const RecordType& Input) const = 0;
 };

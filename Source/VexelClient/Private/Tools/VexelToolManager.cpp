@@ -28,7 +28,7 @@ static const FToolTableRow ToolTable[] = {
 	{{TEXT("node_link"), IconEdit, TEXT("Linking nodes..."), TEXT("Nodes linked")}, MakeVexelTool<class FVexelToolBlueprintNodeLink>},
 	{{TEXT("node_remove"), IconEdit, TEXT("Removing nodes..."), TEXT("Nodes removed")}, MakeVexelTool<class FVexelToolBlueprintNodeRemove>},
 	{{TEXT("node_spawn"), IconEdit, TEXT("Spawning nodes..."), TEXT("Nodes spawned")}, MakeVexelTool<class FVexelToolBlueprintNodeSpawn>},
-	{{TEXT("object_edit"), IconEdit, TEXT("Editing blueprint objects..."), TEXT("Object edits applied")}, MakeVexelTool<class FVexelToolUnavailable>},
+	{{TEXT("object_edit"), IconEdit, TEXT("Editing blueprint objects..."), TEXT("Object edits applied")}, MakeVexelTool<class FVexelToolBlueprintObjectEdit>},
 	{{TEXT("search_node"), IconSearch, TEXT("Browsing nodes..."), TEXT("Interpreting nodes...")}, MakeVexelTool<class FVexelToolUnavailable>},
 	{{TEXT("search_type"), IconSearch, TEXT("Browsing types..."), TEXT("Interpreting types...")}, MakeVexelTool<class FVexelToolUnavailable>},
 	{{TEXT("edit_blueprint"), IconObject, TEXT("Editing blueprint"), TEXT("Editing blueprint")}, MakeVexelTool<class FVexelToolNoResponse>},

@@ -128,3 +128,16 @@ TVexelExpected<void> TVexelToolValue<TSharedPtr<FJsonObject>>::Read(
 	Out = Value.AsObject();
 	return {};
 }
+
+bool TVexelToolValue<TArray<TSharedPtr<FJsonValue>>>::Fits(const FJsonValue& Value, const FVexelToolRule& Rule)
+{
+	const TArray<TSharedPtr<FJsonValue>>* Elements = nullptr;
+	return Value.TryGetArray(Elements) && (!Rule.bNotEmpty || Elements->Num() > 0);
+}
+
+TVexelExpected<void> TVexelToolValue<TArray<TSharedPtr<FJsonValue>>>::Read(
+	const FJsonValue& Value, const FVexelToolRule& Rule, const FString& Path, TArray<TSharedPtr<FJsonValue>>& Out)
+{
+	Out = Value.AsArray();
+	return {};
+}

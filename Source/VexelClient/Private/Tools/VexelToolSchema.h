@@ -152,6 +152,15 @@ struct TVexelToolValue<TArray<T>>
 	}
 };
 
+/** An array of anything, whose elements the tool reads by itself. */
+template <>
+struct TVexelToolValue<TArray<TSharedPtr<FJsonValue>>>
+{
+	static FString GetTypeName() { return TEXT("array"); }
+	static bool Fits(const FJsonValue& Value, const FVexelToolRule& Rule);
+	static TVexelExpected<void> Read(const FJsonValue& Value, const FVexelToolRule& Rule, const FString& Path, TArray<TSharedPtr<FJsonValue>>& Out);
+};
+
 /**
  * The schema of a tool's record. The record has it as a static function, and its members have their defaults as initial values:
  *

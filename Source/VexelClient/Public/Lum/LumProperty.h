@@ -37,6 +37,9 @@ public:
 	 */
 	virtual TVexelExpected<void> JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value);
 
+	/** To be called when the value's compound was changed in place: a value that no object holds is written back then. */
+	virtual TVexelExpected<void> OnImport();
+
 	/** This property where its value has properties of its own, else null. */
 	virtual const ILumCompoundProperty* AsCompoundProperty() const { return nullptr; }
 

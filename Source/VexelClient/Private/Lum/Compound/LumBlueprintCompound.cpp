@@ -7,6 +7,8 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
 #include "Lum/LumPropertyCollector.h"
+#include "Lum/LumVariableEdits.h"
+#include "Lum/LumVariableRules.h"
 #include "Lum/Property/LumClassDefaultObjectProperty.h"
 #include "Lum/Variable/LumBlueprintMemberVariable.h"
 
@@ -24,6 +26,15 @@ TArray<TSharedPtr<FJsonValue>> MakeParentChain(const UBlueprint& Blueprint)
 		Chain.Add(MakeShared<FJsonValueString>(FVexelBlueprintPropTypeBuilder::GetTypeName(*Class)));
 	}
 	return Chain;
+}
+
+TVexelExpected<void> CheckScope(const TVexelVarScopeId& ScopeId)
+{
+	if (ScopeId != LumScope::Member())
+	{
+		return VEXEL_ERROR(FLumError_Write, "Only 'member' scope is supported by blueprint compound");
+	}
+	return {};
 }
 }
 
@@ -70,6 +81,22 @@ TVexelExpected<void> FLumBlueprintCompound::Iterate(ILumPropertyCollector& Colle
 			"while processing class default object in blueprint '%s'", *BlueprintName);
 	}
 	return {};
+}
+
+TVexelExpected<void> FLumBlueprintCompound::AddVariable(const FLumVarDesc& Desc)
+{
+	VEXEL_TRY_VOID(CheckScope(Desc.ScopeId));
+	VEXEL_TRY_VOID(LumVariableRules::CheckComplete(Desc));
+	VEXEL_TRY(UBlueprint* const Blueprint, GetBlueprint());
+	return LumVariableEdits::AddMember(*Blueprint, Desc);
+}
+
+TVexelExpected<void> FLumBlueprintCompound::RemoveVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId)
+{
+	VEXEL_TRY_VOID(CheckScope(ScopeId));
+	VEXEL_TRY(UBlueprint* const Blueprint, GetBlueprint());
+	VEXEL_TRY(const FName Name, LumVariableRules::MakeName(PropId));
+	return LumVariableEdits::RemoveMember(*Blueprint, Name);
 }
 
 TVexelExpected<TSharedRef<FJsonObject>> FLumBlueprintCompound::JsonExportObject(const FLumContext& Context) const

@@ -7,6 +7,8 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
 #include "Lum/LumPropertyCollector.h"
+#include "Lum/LumVariableEdits.h"
+#include "Lum/LumVariableRules.h"
 #include "Lum/Property/LumNameProperty.h"
 #include "Lum/Variable/LumGraphLocalVariable.h"
 #include "Lum/Variable/LumPinVariable.h"
@@ -122,8 +124,13 @@ TVexelExpected<void> FLumGraphCompound::Iterate(ILumPropertyCollector& Collector
 		return {};
 	}
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType());
-	VEXEL_TRY_VOID(
-		Collector.Property(MakeShared<FLumNameProperty>(Type, Graph->GetFName())), "while registering editable graph name property");
+	const auto Rename = [WeakGraph = WeakGraph](const FString& NewName) -> TVexelExpected<void>
+	{
+		VEXEL_TRY(UEdGraph* const Renamed, FLumHelper::GetValid(WeakGraph, TEXT("Graph object is not valid")));
+		return FLumHelper::RenameGraph(*Renamed, NewName);
+	};
+	VEXEL_TRY_VOID(Collector.Property(MakeShared<FLumNameProperty>(Type, Graph->GetFName(), TEXT("Expected string for graph name"), Rename)),
+		"while registering editable graph name property");
 
 	const FGraphEnds Ends(*Graph);
 	for (const UEdGraphPin* const Pin : GetParameterPins(Ends.Entry, EGPD_Output, GraphType))
@@ -137,6 +144,47 @@ TVexelExpected<void> FLumGraphCompound::Iterate(ILumPropertyCollector& Collector
 			*Pin->PinName.ToString(), *Graph->GetName());
 	}
 	return CollectLocalVariables(Collector, *Graph, Ends.Entry);
+}
+
+TVexelExpected<FLumGraphCompound::EGraphScope> FLumGraphCompound::CheckScope(const TVexelVarScopeId& ScopeId) const
+{
+	const bool bIsLocal = ScopeId == LumScope::Local();
+	if (!bIsLocal && ScopeId != LumScope::In() && ScopeId != LumScope::Out())
+	{
+		return VEXEL_ERROR(FLumError_Write, "Variable scope is invalid. Valid scopes are: in, out, local");
+	}
+	VEXEL_TRY(const UEdGraph* const Graph, GetGraph());
+	if (!FBlueprintEditorUtils::FindBlueprintForGraph(Graph))
+	{
+		return VEXEL_ERROR(FLumError_Write, "Graph is not part of a blueprint");
+	}
+	return bIsLocal ? EGraphScope::Local : EGraphScope::Parameter;
+}
+
+TVexelExpected<void> FLumGraphCompound::AddVariable(const FLumVarDesc& Desc)
+{
+	VEXEL_TRY(const EGraphScope Scope, CheckScope(Desc.ScopeId));
+	VEXEL_TRY_VOID(LumVariableRules::CheckComplete(Desc));
+	VEXEL_TRY(UEdGraph* const Graph, GetGraph());
+	if (Scope == EGraphScope::Local)
+	{
+		return LumVariableEdits::AddLocal(*Graph, Desc);
+	}
+	VEXEL_TRY(const FName Name, LumVariableRules::MakeName(Desc.PropId));
+	return FLumHelper::AddFunctionInputOutput(*Graph, Name, Desc);
+}
+
+TVexelExpected<void> FLumGraphCompound::RemoveVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId)
+{
+	VEXEL_TRY(const EGraphScope Scope, CheckScope(ScopeId));
+	VEXEL_TRY(UEdGraph* const Graph, GetGraph());
+	VEXEL_TRY(const FName Name, LumVariableRules::MakeName(PropId));
+	if (Scope == EGraphScope::Local)
+	{
+		return LumVariableEdits::RemoveLocal(*Graph, Name);
+	}
+	VEXEL_TRY(const EEdGraphPinDirection Direction, FLumHelper::CreatePinDirectionFromScopeId(ScopeId));
+	return FLumHelper::RemoveFunctionInputOutput(*Graph, Direction, Name);
 }
 
 TVexelExpected<TSharedRef<FJsonObject>> FLumGraphCompound::JsonExportObject(const FLumContext& Context) const

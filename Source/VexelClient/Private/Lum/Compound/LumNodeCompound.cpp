@@ -5,6 +5,7 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
 #include "Lum/LumJsonPropertyCollector.h"
+#include "Lum/LumVariableRules.h"
 #include "Lum/Property/LumNameProperty.h"
 #include "Lum/Variable/LumPinVariable.h"
 
@@ -69,8 +70,14 @@ TVexelExpected<void> FLumNodeCompound::IterateName(ILumPropertyCollector& Collec
 		return {};
 	}
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType());
+	const auto Rename = [WeakNode = WeakNode](const FString& NewName) -> TVexelExpected<void>
+	{
+		VEXEL_TRY(UEdGraphNode* const Renamed, FLumHelper::GetValid(WeakNode, TEXT("Node object is not valid")));
+		return FLumHelper::RenameNode(*Renamed, NewName);
+	};
 	VEXEL_TRY_VOID(
-		Collector.Property(MakeShared<FLumNameProperty>(Type, Event->CustomFunctionName)), "while registering editable node name property");
+		Collector.Property(MakeShared<FLumNameProperty>(Type, Event->CustomFunctionName, TEXT("Expected string for node name"), Rename)),
+		"while registering editable node name property");
 	return {};
 }
 
@@ -119,6 +126,36 @@ TArray<TVexelVarScopeId> FLumEditablePinsNodeCompound::GetVariableScopes() const
 	return {LumScope::In(), LumScope::Out()};
 }
 
+TVexelExpected<UK2Node_EditablePinBase*> FLumEditablePinsNodeCompound::GetEditableNode() const
+{
+	VEXEL_TRY(UEdGraphNode* const Node, GetNode());
+	UK2Node_EditablePinBase* const Editable = Cast<UK2Node_EditablePinBase>(Node);
+	if (!Editable)
+	{
+		return VEXEL_ERROR(FLumError_Read, "Node does not support editable pins");
+	}
+	return Editable;
+}
+
+TVexelExpected<void> FLumEditablePinsNodeCompound::AddVariable(const FLumVarDesc& Desc)
+{
+	VEXEL_TRY_VOID(LumVariableRules::CheckComplete(Desc));
+	VEXEL_TRY(UK2Node_EditablePinBase* const Node, GetEditableNode());
+	VEXEL_TRY(const FName Name, LumVariableRules::MakeName(Desc.PropId));
+	TArray<UK2Node_EditablePinBase*> Nodes;
+	VEXEL_TRY_VOID(FLumHelper::GetAllNodesForUserPinEdit(*Node, Nodes));
+	return FLumHelper::AddUserDefinedPin(Nodes, Name, Desc);
+}
+
+TVexelExpected<void> FLumEditablePinsNodeCompound::RemoveVariable(const TVexelVarScopeId&, const TVexelPropId& PropId)
+{
+	VEXEL_TRY(UK2Node_EditablePinBase* const Node, GetEditableNode());
+	VEXEL_TRY(const FName Name, LumVariableRules::MakeName(PropId));
+	TArray<UK2Node_EditablePinBase*> Nodes;
+	VEXEL_TRY_VOID(FLumHelper::GetAllNodesForUserPinEdit(*Node, Nodes));
+	return FLumHelper::RemoveUserDefinedPin(Nodes, Name);
+}
+
 TSharedRef<FLumPinVariable> FLumEditablePinsNodeCompound::MakePin(const UEdGraphNode& Node, const UEdGraphPin& Pin) const
 {
 	const UK2Node_EditablePinBase* const Editable = Cast<UK2Node_EditablePinBase>(&Node);
@@ -127,15 +164,10 @@ TSharedRef<FLumPinVariable> FLumEditablePinsNodeCompound::MakePin(const UEdGraph
 
 TVexelExpected<void> FLumEditablePinsNodeCompound::IterateEditablePins(ILumPropertyCollector& Collector) const
 {
-	VEXEL_TRY(const UEdGraphNode* const Node, GetNode());
-	const UK2Node_EditablePinBase* const Editable = Cast<UK2Node_EditablePinBase>(Node);
-	if (!Editable)
-	{
-		return VEXEL_ERROR(FLumError_Read, "Node does not support editable pins");
-	}
+	VEXEL_TRY(const UK2Node_EditablePinBase* const Node, GetEditableNode());
 	for (const UEdGraphPin* const Pin : Node->Pins)
 	{
-		if (Pin && Editable->UserDefinedPinExists(Pin->PinName))
+		if (Pin && Node->UserDefinedPinExists(Pin->PinName))
 		{
 			VEXEL_TRY_VOID(Collector.Variable(MakeShared<FLumEditablePinVariable>(*Pin)), "while iterating pin '%s' on node '%s'",
 				*Pin->PinName.ToString(), *Node->GetName());

@@ -6,6 +6,7 @@
 class FLumPinVariable;
 class UEdGraphNode;
 class UEdGraphPin;
+class UK2Node_EditablePinBase;
 
 /** A node: its name where it can be changed, and its pins as properties. */
 class FLumNodeCompound : public ILumCompound
@@ -43,8 +44,13 @@ public:
 	using FLumNodeCompound::FLumNodeCompound;
 
 	virtual TArray<TVexelVarScopeId> GetVariableScopes() const override;
+	virtual TVexelExpected<void> AddVariable(const FLumVarDesc& Desc) override;
+	virtual TVexelExpected<void> RemoveVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId) override;
 
 protected:
 	virtual TSharedRef<FLumPinVariable> MakePin(const UEdGraphNode& Node, const UEdGraphPin& Pin) const override;
 	virtual TVexelExpected<void> IterateEditablePins(ILumPropertyCollector& Collector) const override;
+
+private:
+	TVexelExpected<UK2Node_EditablePinBase*> GetEditableNode() const;
 };

@@ -1,15 +1,21 @@
 #pragma once
 
+#include "Lum/LumErrors.h"
 #include "Lum/LumProperty.h"
+#include "Templates/Function.h"
 
 /** The name of a graph or a node, as the property "name". */
 class FLumNameProperty : public ILumProperty
 {
 public:
-	/** OwnerTypeId is the type id of what has the name. */
-	FLumNameProperty(const TVexelPropTypeId& InOwnerTypeId, FName InName)
+	using FRename = TFunction<TVexelExpected<void>(const FString& NewName)>;
+
+	/** OwnerTypeId is the type id of what has the name; NotString is said of a value that is no string, a literal. */
+	FLumNameProperty(const TVexelPropTypeId& InOwnerTypeId, FName InName, const TCHAR* InNotString, FRename InRename)
 		: OwnerTypeId(InOwnerTypeId)
 		, Name(InName)
+		, NotString(InNotString)
+		, Rename(MoveTemp(InRename))
 	{
 	}
 
@@ -22,8 +28,18 @@ public:
 	{
 		return MakeShared<FJsonValueString>(Name.ToString());
 	}
+	virtual TVexelExpected<void> JsonImportValue(const FLumContext&, const TSharedRef<FJsonValue>& Value) override
+	{
+		if (Value->Type != EJson::String)
+		{
+			return FLumError_Import(VEXEL_HERE, FString(NotString));
+		}
+		return Rename(Value->AsString());
+	}
 
 private:
 	TVexelPropTypeId OwnerTypeId;
 	FName Name;
+	const TCHAR* NotString;
+	FRename Rename;
 };

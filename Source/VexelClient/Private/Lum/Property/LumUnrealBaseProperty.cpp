@@ -81,10 +81,15 @@ bool FLumUnrealBaseProperty::ExportText(FString& OutText) const
 	return Property->ExportText_Direct(OutText, Data, Data, nullptr, PPF_None);
 }
 
+bool FLumUnrealPropertyFactory::CanCreate(const FProperty& Property)
+{
+	return Property.ArrayDim == 1 && FLumHelper::GetPropertyTypeId(Property).HasValue() && !Property.IsA<FDelegateProperty>() &&
+		!Property.IsA<FMulticastDelegateProperty>();
+}
+
 TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FProperty& Property, void* Data)
 {
-	if (Property.ArrayDim != 1 || FLumHelper::GetPropertyTypeId(Property).HasError() || Property.IsA<FDelegateProperty>() ||
-		Property.IsA<FMulticastDelegateProperty>())
+	if (!CanCreate(Property))
 	{
 		return nullptr;
 	}

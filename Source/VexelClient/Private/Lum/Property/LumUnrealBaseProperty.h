@@ -48,6 +48,8 @@ public:
 class FLumUnrealPropertyFactory
 {
 public:
-	/** Null for a property whose values no Blueprint type covers (a delegate, a fixed-size array). */
+	/** False for a property whose values no Blueprint type covers (a delegate, a fixed-size array). */
+	static bool CanCreate(const FProperty& Property);
+	/** Null where that is false. */
 	static TSharedPtr<ILumProperty> CreateSubProperty(const FProperty& Property, void* Data);
 };

@@ -6,31 +6,38 @@
 
 #include "UObject/UnrealType.h"
 
-TVexelExpected<TSharedRef<ILumProperty>> FLumUnrealVirtualProperty::Create(const FProperty& Property, const FString& Text)
+TVexelExpected<FLumUnrealVirtualProperty::FValue> FLumUnrealVirtualProperty::MakeValue(const FProperty& Property, const FString& Text)
 {
-	void* const Data = Property.AllocateAndInitializeValue();
-	const TSharedPtr<ILumProperty> Inner = FLumUnrealPropertyFactory::CreateSubProperty(Property, Data);
+	const TSharedRef<uint8> Data = MakeShareable(static_cast<uint8*>(Property.AllocateAndInitializeValue()), [&Property](uint8* Memory)
+		{ Property.DestroyAndFreeValue(Memory); });
+	const TSharedPtr<ILumProperty> Inner = FLumUnrealPropertyFactory::CreateSubProperty(Property, &*Data);
 	if (!Inner)
 	{
-		Property.DestroyAndFreeValue(Data);
 		return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
 	}
-	const TSharedRef<ILumProperty> Virtual = MakeShared<FLumUnrealVirtualProperty>(Property, Data, Inner.ToSharedRef());
 	if (!Text.IsEmpty())
 	{
-		VEXEL_TRY_VOID(FLumHelper::ImportStringToProperty(Property, Data, Text));
+		VEXEL_TRY_VOID(FLumHelper::ImportStringToProperty(Property, &*Data, Text));
 	}
-	return Virtual;
+	return FValue{&Property, Data, Inner.ToSharedRef()};
 }
 
-FLumUnrealVirtualProperty::FLumUnrealVirtualProperty(const FProperty& InProperty, void* InData, const TSharedRef<ILumProperty>& InInner)
-	: FLumForwardingProperty(InInner)
-	, Property(InProperty)
-	, Data(InData)
+FLumUnrealVirtualProperty::FLumUnrealVirtualProperty(const FValue& InValue)
+	: FLumForwardingProperty(InValue.Inner)
+	, Value(InValue)
 {
 }
 
-FLumUnrealVirtualProperty::~FLumUnrealVirtualProperty()
+TVexelExpected<void> FLumUnrealVirtualProperty::JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& NewValue)
 {
-	Property.DestroyAndFreeValue(Data);
+	TVexelExpected<void> Imported = Value.Inner->JsonImportValue(Context, NewValue);
+	VEXEL_TRY_VOID(OnImport());
+	return Imported;
+}
+
+FString FLumUnrealVirtualProperty::ExportText() const
+{
+	FString Text;
+	Value.Property->ExportText_Direct(Text, &*Value.Data, &*Value.Data, nullptr, PPF_None);
+	return Text;
 }

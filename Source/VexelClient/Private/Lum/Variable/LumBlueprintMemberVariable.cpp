@@ -1,9 +1,15 @@
 #include "Lum/Variable/LumBlueprintMemberVariable.h"
 
 #include "Lum/LumErrors.h"
+#include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumHelper.h"
+#include "Lum/LumStructureEdit.h"
+#include "Lum/LumVariableEdits.h"
+#include "Lum/LumVariableFlags.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
+#include "Lum/Property/LumVariableVirtualProperty.h"
 
+#include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "UObject/UnrealType.h"
 
@@ -18,15 +24,57 @@ TVexelExpected<const FBPVariableDescription*> FLumBlueprintMemberVariable::GetBp
 	return FindDescription(Blueprint->NewVariables);
 }
 
+TVexelExpected<TArray<ELumVarFlag>> FLumBlueprintMemberVariable::GetVariableFlags() const
+{
+	VEXEL_TRY(const FBPVariableDescription* const Description, GetBpVariableDescription());
+	return LumVariableFlags::Read(*Description);
+}
+
+TVexelExpected<void> FLumBlueprintMemberVariable::SetVariableDescriptor(const FLumVarDesc& Desc)
+{
+	VEXEL_TRY(UBlueprint* const Blueprint, GetBlueprint());
+	return LumVariableEdits::ChangeMember(*Blueprint, Name, Desc);
+}
+
+TSharedPtr<ILumProperty> FLumBlueprintMemberVariable::FindCompiledValue(
+	const UBlueprint& Blueprint, const FBPVariableDescription& Description) const
+{
+	const UClass* const Class = Blueprint.GeneratedClass;
+	UObject* const DefaultObject = Class ? Class->GetDefaultObject(false) : nullptr;
+	const FProperty* const Property = DefaultObject ? Class->FindPropertyByName(Name) : nullptr;
+	FEdGraphPinType Type;
+	const bool bIsAsDescribed = Property && GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(Property, Type) &&
+		FVexelBlueprintPropTypeBuilder::MakeId(Type) == FVexelBlueprintPropTypeBuilder::MakeId(Description.VarType);
+	return bIsAsDescribed ? FLumUnrealPropertyFactory::CreateSubProperty(*Property, Property->ContainerPtrToValuePtr<void>(DefaultObject))
+						  : nullptr;
+}
+
 TVexelExpected<TSharedPtr<ILumProperty>> FLumBlueprintMemberVariable::CreateLumValueWrapper() const
 {
-	VEXEL_TRY(const UBlueprint* const Blueprint, GetBlueprint());
-	const UClass* const Class = Blueprint->GeneratedClass;
-	UObject* const DefaultObject = Class ? Class->GetDefaultObject(false) : nullptr;
-	const FProperty* const Property = Class ? Class->FindPropertyByName(Name) : nullptr;
-	if (!DefaultObject || !Property)
+	VEXEL_TRY(UBlueprint* const Blueprint, GetBlueprint());
+	VEXEL_TRY(const FBPVariableDescription* const Description, GetBpVariableDescription());
+	if (const TSharedPtr<ILumProperty> Compiled = FindCompiledValue(*Blueprint, *Description))
+	{
+		return Compiled;
+	}
+	FLumEditBatch::BringUpToDate(*Blueprint);
+	const UClass* const Skeleton = Blueprint->SkeletonGeneratedClass;
+	const FProperty* const Property = Skeleton ? Skeleton->FindPropertyByName(Name) : nullptr;
+	if (!Property || !FLumUnrealPropertyFactory::CanCreate(*Property))
 	{
 		return TSharedPtr<ILumProperty>();
 	}
-	return FLumUnrealPropertyFactory::CreateSubProperty(*Property, Property->ContainerPtrToValuePtr<void>(DefaultObject));
+	VEXEL_TRY(const TSharedRef<ILumProperty> Value,
+		FLumUnrealVirtualProperty::Create<FLumMemberVariableVirtualProperty>(*Property, Description->DefaultValue, *Blueprint, Name));
+	return Value;
+}
+
+void FLumBlueprintMemberVariable::ModifyValueOwner() const
+{
+	const TVexelExpected<UBlueprint*> Blueprint = GetBlueprint();
+	const UClass* const Class = Blueprint.HasValue() ? Blueprint.GetValue()->GeneratedClass.Get() : nullptr;
+	if (UObject* const DefaultObject = Class ? Class->GetDefaultObject(false) : nullptr)
+	{
+		DefaultObject->Modify();
+	}
 }

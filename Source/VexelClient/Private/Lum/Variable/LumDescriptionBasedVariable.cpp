@@ -65,11 +65,49 @@ TVexelExpected<FString> FLumDescriptionBasedVariable::GetCategory() const
 
 TVexelExpected<TSharedRef<FJsonValue>> FLumDescriptionBasedVariable::JsonExportValue(const FLumContext& Context) const
 {
-	VEXEL_TRY(const TSharedPtr<ILumProperty> Value, CreateLumValueWrapper());
-	if (Value)
+	const TVexelExpected<TSharedPtr<ILumProperty>> Value = CreateLumValueWrapper();
+	if (Value.HasValue() && Value.GetValue())
 	{
-		return Value->JsonExportValue(Context);
+		return Value.GetValue()->JsonExportValue(Context);
 	}
+	// A text that the type cannot read, such as one of a package, is shown as it is.
 	VEXEL_TRY(const FBPVariableDescription* const Description, GetBpVariableDescription());
 	return MakeShared<FJsonValueString>(Description->DefaultValue);
+}
+
+TVexelExpected<TSharedPtr<ILumProperty>> FLumDescriptionBasedVariable::GetValue() const
+{
+	if (!OpenValue)
+	{
+		VEXEL_TRY(OpenValue, CreateLumValueWrapper());
+	}
+	return OpenValue;
+}
+
+TVexelExpected<void> FLumDescriptionBasedVariable::JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value)
+{
+	VEXEL_TRY(const TSharedPtr<ILumProperty> Property, GetValue());
+	if (!Property)
+	{
+		return VEXEL_ERROR(FLumError_Import, "Property '%s' cannot be changed", *Name.ToString());
+	}
+	ModifyValueOwner();
+	return Property->JsonImportValue(Context, Value);
+}
+
+TVexelExpected<void> FLumDescriptionBasedVariable::OnImport()
+{
+	VEXEL_TRY(const TSharedPtr<ILumProperty> Property, GetValue());
+	return Property ? Property->OnImport() : TVexelExpected<void>();
+}
+
+const ILumCompoundProperty* FLumDescriptionBasedVariable::AsCompoundProperty() const
+{
+	const TVexelExpected<TSharedPtr<ILumProperty>> Property = GetValue();
+	if (Property.HasError() || !Property.GetValue())
+	{
+		return nullptr;
+	}
+	ModifyValueOwner();
+	return Property.GetValue()->AsCompoundProperty();
 }

@@ -2,7 +2,10 @@
 
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
-#include "Lum/Property/LumUnrealVirtualProperty.h"
+#include "Lum/LumStructureEdit.h"
+#include "Lum/LumVariableEdits.h"
+#include "Lum/Property/LumUnrealBaseProperty.h"
+#include "Lum/Property/LumVariableVirtualProperty.h"
 
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
@@ -26,18 +29,25 @@ TVexelExpected<const FBPVariableDescription*> FLumGraphLocalVariable::GetBpVaria
 	return FindDescription(Entry->LocalVariables);
 }
 
+TVexelExpected<void> FLumGraphLocalVariable::SetVariableDescriptor(const FLumVarDesc& Desc)
+{
+	VEXEL_TRY(const UK2Node_FunctionEntry* const Entry, FLumHelper::GetValid(WeakEntry, TEXT("Graph does not have a valid function scope")));
+	return LumVariableEdits::ChangeLocal(*Entry->GetGraph(), Name, Desc);
+}
+
 TVexelExpected<TSharedPtr<ILumProperty>> FLumGraphLocalVariable::CreateLumValueWrapper() const
 {
-	VEXEL_TRY(const UBlueprint* const Blueprint, GetBlueprint());
+	VEXEL_TRY(UBlueprint* const Blueprint, GetBlueprint());
+	VEXEL_TRY(UK2Node_FunctionEntry* const Entry, FLumHelper::GetValid(WeakEntry, TEXT("Graph does not have a valid function scope")));
 	VEXEL_TRY(const FBPVariableDescription* const Description, GetBpVariableDescription());
-	const UEdGraph* const Graph = WeakEntry.IsValid() ? WeakEntry->GetGraph() : nullptr;
-	const UClass* const Class = Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass : Blueprint->GeneratedClass;
-	const UFunction* const Function = Class && Graph ? Class->FindFunctionByName(Graph->GetFName()) : nullptr;
+	FLumEditBatch::BringUpToDate(*Blueprint);
+	const UFunction* const Function = LumVariableEdits::FindFunction(*Entry->GetGraph());
 	const FProperty* const Property = Function ? Function->FindPropertyByName(Name) : nullptr;
-	if (!Property)
+	if (!Property || !FLumUnrealPropertyFactory::CanCreate(*Property))
 	{
 		return TSharedPtr<ILumProperty>();
 	}
-	VEXEL_TRY(const TSharedRef<ILumProperty> Value, FLumUnrealVirtualProperty::Create(*Property, Description->DefaultValue));
+	VEXEL_TRY(const TSharedRef<ILumProperty> Value,
+		FLumUnrealVirtualProperty::Create<FLumLocalVariableVirtualProperty>(*Property, Description->DefaultValue, *Entry, Name));
 	return Value;
 }

@@ -13,6 +13,7 @@ public:
 
 	virtual TVexelExpected<TVexelVarScopeId> GetVarScopeId() const override;
 	virtual TVexelExpected<TSharedPtr<ILumProperty>> CreateLumValueWrapper() const override;
+	virtual TVexelExpected<void> SetVariableDescriptor(const FLumVarDesc& Desc) override;
 
 protected:
 	virtual TVexelExpected<const FBPVariableDescription*> GetBpVariableDescription() const override;

@@ -9,6 +9,7 @@
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraph/EdGraphSchema.h"
 #include "EdGraphSchema_K2.h"
+#include "K2Node_EditablePinBase.h"
 
 namespace
 {
@@ -110,6 +111,32 @@ TVexelExpected<TSharedRef<FJsonValue>> FLumPinVariable::JsonExportValue(const FL
 	return MakeShared<FJsonValueString>(Text);
 }
 
+TVexelExpected<void> FLumPinVariable::JsonImportValue(const FLumContext&, const TSharedRef<FJsonValue>& Value)
+{
+	VEXEL_TRY(const UEdGraphPin* const Pin, GetPin());
+	UEdGraphNode* const Node = Pin->GetOwningNode();
+	Node->Modify();
+	return FLumHelper::SetPinDefaultValueFromJsonValue(*Node->FindPinById(PinId), Value);
+}
+
+ILumEditableVariable* FLumPinVariable::AsEditableVariable()
+{
+	const UK2Node_EditablePinBase* const Node = Cast<UK2Node_EditablePinBase>(WeakNode.Get());
+	return Node && Node->IsEditable() && Node->UserDefinedPinExists(PinName) ? this : nullptr;
+}
+
+TVexelExpected<void> FLumPinVariable::SetVariableDescriptor(const FLumVarDesc& Desc)
+{
+	UK2Node_EditablePinBase* const Node = Cast<UK2Node_EditablePinBase>(WeakNode.Get());
+	if (!Node)
+	{
+		return VEXEL_ERROR(FLumError_Write, "Node does not support editable pins");
+	}
+	TArray<UK2Node_EditablePinBase*> Nodes;
+	VEXEL_TRY_VOID(FLumHelper::GetAllNodesForUserPinEdit(*Node, Nodes));
+	return FLumHelper::ChangeUserDefinedPin(Nodes, PinName, Desc);
+}
+
 TVexelExpected<TSharedRef<FJsonObject>> FLumPinVariable::JsonExportPropertyObject(const FLumContext& Context) const
 {
 	VEXEL_TRY(const UEdGraphPin* const Pin, GetPin());
@@ -135,6 +162,14 @@ TVexelExpected<TVexelVarScopeId> FLumGraphInputOutputVariable::GetVarScopeId() c
 {
 	VEXEL_TRY(const UEdGraphPin* const Pin, GetPin());
 	return Pin->Direction == EGPD_Output ? LumScope::In() : LumScope::Out();
+}
+
+TVexelExpected<void> FLumGraphInputOutputVariable::SetVariableDescriptor(const FLumVarDesc& Desc)
+{
+	VEXEL_TRY(const UEdGraphPin* const Pin, GetPin());
+	VEXEL_TRY(const TVexelVarScopeId ScopeId, GetVarScopeId());
+	VEXEL_TRY(const EEdGraphPinDirection Direction, FLumHelper::CreatePinDirectionFromScopeId(ScopeId));
+	return FLumHelper::ChangeFunctionInputOutput(*Pin->GetOwningNode()->GetGraph(), Direction, GetPinName(), Desc);
 }
 
 TVexelExpected<TSharedRef<FJsonObject>> FLumGraphInputOutputVariable::JsonExportPropertyObject(const FLumContext& Context) const

@@ -7,7 +7,7 @@
 class UEdGraphNode;
 
 /** A pin of a node: its scope is its direction, its value its default. It is exported as pins are, with its links. */
-class FLumPinVariable : public ILumVariable
+class FLumPinVariable : public ILumEditableVariable
 {
 public:
 	/** bInEditablePin tells, on a node that has user-defined pins, whether this is one. */
@@ -21,9 +21,15 @@ public:
 	virtual TVexelExpected<TVexelVarScopeId> GetVarScopeId() const override;
 	/** The pin's default; an empty string for a pin that has none by its nature. */
 	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override;
+	/** Takes the pin's default as it is exported. */
+	virtual TVexelExpected<void> JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) override;
 	virtual TVexelExpected<TSharedRef<FJsonObject>> JsonExportPropertyObject(const FLumContext& Context) const override;
+	/** Null unless a user has defined the pin and may change it. */
+	virtual ILumEditableVariable* AsEditableVariable() override;
+	virtual TVexelExpected<void> SetVariableDescriptor(const FLumVarDesc& Desc) override;
 
 protected:
+	FName GetPinName() const { return PinName; }
 	/** The pin, found again by its id, since a reconstruction replaces pins. */
 	TVexelExpected<const UEdGraphPin*> GetPin() const;
 
@@ -50,5 +56,6 @@ public:
 	using FLumPinVariable::FLumPinVariable;
 
 	virtual TVexelExpected<TVexelVarScopeId> GetVarScopeId() const override;
+	virtual TVexelExpected<void> SetVariableDescriptor(const FLumVarDesc& Desc) override;
 	virtual TVexelExpected<TSharedRef<FJsonObject>> JsonExportPropertyObject(const FLumContext& Context) const override;
 };

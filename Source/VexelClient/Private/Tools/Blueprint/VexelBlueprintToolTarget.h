@@ -22,6 +22,7 @@ public:
 
 	UBlueprint& GetBlueprint() const { return *Blueprint; }
 	FVexelBlueprintMapping& GetMapping() const { return *Mapping; }
+	const TSharedRef<FVexelBlueprintMapping>& GetSharedMapping() const { return Mapping; }
 	/** Null where the Blueprint has no such graph. */
 	UEdGraph* FindGraph(const FString& GraphId) const;
 

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "CoreMinimal.h"
+#include "UObject/WeakObjectPtr.h"
+
+class FVexelBlueprintMapping;
+class UBlueprint;
+class UEdGraph;
+class UEdGraphNode;
+class UEdGraphPin;
+
+/**
+ * The links of a Blueprint, and of the loaded Blueprints that use it, as they were when this was made: what an edit of types and members has
+ * cost can be told from it.
+ */
+class FVexelBlueprintLinks
+{
+public:
+	FVexelBlueprintLinks(UBlueprint& Blueprint, FVexelBlueprintMapping& Mapping);
+
+	/** A sentence for each link that has been lost since; of many, the first ones and how many more there are. */
+	TArray<FString> DescribeLost() const;
+
+private:
+	struct FNode
+	{
+		TWeakObjectPtr<UEdGraphNode> Node;
+		/** As the assistant knows it; the node may be gone when that is asked for. */
+		FString Id;
+		int32 Graph;
+	};
+	struct FGraph
+	{
+		TWeakObjectPtr<UEdGraph> Graph;
+		FString Name;
+		FString BlueprintName;
+	};
+	/** One end of a link. A node that is reconstructed gets new pins, but they keep their ids. */
+	struct FEnd
+	{
+		int32 Node;
+		FGuid PinId;
+		FName PinName;
+	};
+	struct FLink
+	{
+		FEnd From;
+		FEnd To;
+	};
+
+	void Add(UEdGraph& Graph, const FString& BlueprintName, FVexelBlueprintMapping& Mapping);
+	/** Null where the node stands in its graph no more, or has no such pin but one that is only kept for its links. */
+	const UEdGraphPin* FindPin(const FEnd& End, const TSet<const UEdGraphNode*>& StandingNodes) const;
+	FString Describe(const FLink& Link) const;
+
+	TArray<FGraph> Graphs;
+	TArray<FNode> Nodes;
+	TArray<FLink> Links;
+};

@@ -1,0 +1,198 @@
+#include "Tools/Blueprint/VexelObjectEditRequest.h"
+
+#include "Blueprint/VexelBlueprintMapping.h"
+#include "Lum/Compound/LumBlueprintCompound.h"
+#include "Lum/Compound/LumGraphCompound.h"
+#include "Lum/Compound/LumNodeCompound.h"
+#include "Lum/LumErrors.h"
+#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "VexelLog.h"
+
+#include "EdGraph/EdGraph.h"
+#include "EdGraph/EdGraphNode.h"
+#include "Engine/Blueprint.h"
+
+namespace
+{
+template <typename EnumType>
+struct TEditWord
+{
+	const TCHAR* Word;
+	EnumType Value;
+};
+
+const TEditWord<EVexelEditOperation> OperationWords[] = {
+	{TEXT("update"), EVexelEditOperation::Update},
+	{TEXT("insert"), EVexelEditOperation::Insert},
+	{TEXT("remove"), EVexelEditOperation::Remove},
+	{TEXT("add_variable"), EVexelEditOperation::AddVariable},
+	{TEXT("remove_variable"), EVexelEditOperation::RemoveVariable},
+	{TEXT("edit_variable"), EVexelEditOperation::EditVariable},
+	{TEXT("add_pin"), EVexelEditOperation::AddPin},
+	{TEXT("remove_pin"), EVexelEditOperation::RemovePin},
+	{TEXT("edit_pin"), EVexelEditOperation::EditPin},
+};
+
+const TEditWord<EVexelEditTarget> TargetWords[] = {
+	{TEXT("blueprint"), EVexelEditTarget::Blueprint},
+	{TEXT("graph"), EVexelEditTarget::Graph},
+	{TEXT("node"), EVexelEditTarget::Node},
+};
+
+FString ReadText(const FJsonObject& Object, const TCHAR* Key)
+{
+	FString Text;
+	Object.TryGetStringField(Key, Text);
+	return Text;
+}
+
+template <typename EnumType, size_t NumWords>
+EnumType ReadWord(const FJsonObject& Object, const TCHAR* Key, const TEditWord<EnumType> (&Words)[NumWords])
+{
+	const FString Text = ReadText(Object, Key);
+	for (const TEditWord<EnumType>& Word : Words)
+	{
+		if (Text.Equals(Word.Word, ESearchCase::CaseSensitive))
+		{
+			return Word.Value;
+		}
+	}
+	return EnumType::Unknown;
+}
+
+TSharedPtr<FJsonValue> ReadValue(const FJsonObject& Object)
+{
+	const TSharedPtr<FJsonValue> Value = Object.TryGetField(TEXT("value"));
+	return Value && !Value->IsNull() ? Value : nullptr;
+}
+
+/** A whole number, or the text of one; the index that stands for none otherwise. */
+int32 ReadIndex(const FJsonObject& Object)
+{
+	const FString Text = ReadText(Object, TEXT("index"));
+	int32 Index = INDEX_NONE;
+	if (!Text.IsEmpty() && !LexTryParseString(Index, *Text))
+	{
+		VEXEL_LOG(Warning, "Invalid index value '%s' in edit request", *Text.Left(NAME_SIZE));
+		return INDEX_NONE;
+	}
+	return Index;
+}
+
+FEditRequest::FTargetInfo ReadTarget(const FJsonObject& Request)
+{
+	FEditRequest::FTargetInfo Target;
+	const TSharedPtr<FJsonObject>* Object = nullptr;
+	if (Request.TryGetObjectField(TEXT("target"), Object))
+	{
+		Target.Type = ReadWord(**Object, TEXT("target_type"), TargetWords);
+		Target.GraphId = ReadText(**Object, TEXT("graph"));
+		Target.NodeId = ReadText(**Object, TEXT("node"));
+	}
+	return Target;
+}
+
+/** Unset for an operation that is not known. */
+TOptional<FEditRequest::FOperation> ReadOperation(const FJsonObject& Object)
+{
+	const EVexelEditOperation Type = ReadWord(Object, TEXT("operation"), OperationWords);
+	if (Type == EVexelEditOperation::Unknown)
+	{
+		return {};
+	}
+	if (Type < EVexelEditOperation::AddVariable)
+	{
+		return FEditRequest::FOperation(TInPlaceType<FEditRequestOperationOnProp>(),
+			FEditRequestOperationOnProp{Type, ReadText(Object, TEXT("scope")), ReadText(Object, TEXT("prop_path")), ReadIndex(Object), ReadValue(Object)});
+	}
+	return FEditRequest::FOperation(TInPlaceType<FEditRequestOperationOnVar>(),
+		FEditRequestOperationOnVar{Type, ReadText(Object, TEXT("scope")), ReadText(Object, TEXT("name")), ReadValue(Object)});
+}
+
+TVexelExpected<UEdGraph*> ResolveGraph(const FVexelBlueprintToolTarget& Blueprint, const FString& GraphId)
+{
+	UEdGraph* const Graph = Blueprint.FindGraph(GraphId);
+	if (!Graph)
+	{
+		return VEXEL_ERROR(FLumError_Traverse, "Graph '%s' not found", *GraphId);
+	}
+	return Graph;
+}
+
+TVexelExpected<UEdGraphNode*> ResolveNode(const FVexelBlueprintToolTarget& Blueprint, const UEdGraph& Graph, const FString& NodeId)
+{
+	UEdGraphNode* Node = nullptr;
+	if (!Blueprint.GetMapping().ResolveNodeInGraph(TVexelNodeId(NodeId), Graph, Node))
+	{
+		return VEXEL_ERROR(FLumError_Traverse, "Node '%s' not found", *NodeId);
+	}
+	return Node;
+}
+
+TVexelExpected<TSharedRef<ILumCompound>> Resolve(const FVexelBlueprintToolTarget& Blueprint, const FEditRequest::FTargetInfo& Target)
+{
+	if (Target.Type == EVexelEditTarget::Blueprint)
+	{
+		return ILumCompound::Create(Blueprint.GetBlueprint());
+	}
+	if (Target.Type == EVexelEditTarget::Unknown)
+	{
+		return VEXEL_ERROR(FLumError_Traverse, "Invalid target type '%s' for edit request", TEXT("unknown"));
+	}
+	VEXEL_TRY(UEdGraph* const Graph, ResolveGraph(Blueprint, Target.GraphId), "while resolving graph '%s' in blueprint '%s'", *Target.GraphId,
+		*Blueprint.GetBlueprint().GetPathName());
+	if (Target.Type == EVexelEditTarget::Graph)
+	{
+		return StaticCastSharedRef<ILumCompound>(MakeShared<FLumGraphCompound>(*Graph));
+	}
+	VEXEL_TRY(UEdGraphNode* const Node, ResolveNode(Blueprint, *Graph, Target.NodeId), "while resolving node '%s' in graph '%s'", *Target.NodeId,
+		*Target.GraphId);
+	return StaticCastSharedRef<ILumCompound>(FLumNodeCompound::Create(*Node));
+}
+}
+
+FString FEditRequest::FTargetInfo::Describe() const
+{
+	switch (Type)
+	{
+		case EVexelEditTarget::Blueprint:
+			return TEXT("Blueprint");
+		case EVexelEditTarget::Graph:
+			return FString::Printf(TEXT("Graph (%s)"), *GraphId);
+		case EVexelEditTarget::Node:
+			return FString::Printf(TEXT("Node (%s) in Graph (%s)"), *NodeId, *GraphId);
+		default:
+			return TEXT("Unknown Target");
+	}
+}
+
+FEditRequest FEditRequest::FromJson(const FJsonObject& Object)
+{
+	FEditRequest Request;
+	Request.Target = ReadTarget(Object);
+	const TArray<TSharedPtr<FJsonValue>>* Values = nullptr;
+	if (Object.TryGetArrayField(TEXT("operations"), Values))
+	{
+		for (const TSharedPtr<FJsonValue>& Value : *Values)
+		{
+			const TSharedPtr<FJsonObject>* OperationObject = nullptr;
+			TOptional<FOperation> Operation;
+			if (Value && Value->TryGetObject(OperationObject))
+			{
+				Operation = ReadOperation(**OperationObject);
+			}
+			if (Operation)
+			{
+				Request.Operations.Add(MoveTemp(*Operation));
+			}
+		}
+	}
+	return Request;
+}
+
+TVexelExpected<TSharedRef<ILumCompound>> FEditRequest::ResolveTarget(const FVexelBlueprintToolTarget& Blueprint) const
+{
+	VEXEL_TRY(const TSharedRef<ILumCompound> Compound, Resolve(Blueprint, Target), "while resolving target `%s` for edit request",
+		*Target.Describe());
+	return Compound;
+}

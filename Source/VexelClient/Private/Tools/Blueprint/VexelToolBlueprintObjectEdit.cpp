@@ -1,0 +1,145 @@
+#include "Lum/LumCompound.h"
+#include "Lum/LumContext.h"
+#include "Lum/LumStructureEdit.h"
+#include "Tools/Blueprint/VexelBlueprintLinks.h"
+#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelObjectEditRequest.h"
+#include "Tools/VexelTool.h"
+#include "Tools/VexelToolSchema.h"
+
+namespace
+{
+struct FParsedObjectEditInput
+{
+	FString Blueprint;
+	TArray<TSharedPtr<FJsonValue>> RequestValues;
+
+	static const TVexelToolSchema<FParsedObjectEditInput>& GetSchema()
+	{
+		static const TVexelToolSchema<FParsedObjectEditInput> Schema =
+			TVexelToolSchema<FParsedObjectEditInput>()
+				.Required(TEXT("blueprint"), &FParsedObjectEditInput::Blueprint, {.Complaint = TEXT("Missing `blueprint`")})
+				.Required(TEXT("requests"), &FParsedObjectEditInput::RequestValues,
+					{.bNotEmpty = true, .Complaint = TEXT("Missing or empty `requests` array")});
+		return Schema;
+	}
+
+	TArray<FEditRequest> GetRequests() const
+	{
+		TArray<FEditRequest> Requests;
+		for (const TSharedPtr<FJsonValue>& Value : RequestValues)
+		{
+			const TSharedPtr<FJsonObject>* Object = nullptr;
+			if (Value && Value->TryGetObject(Object))
+			{
+				Requests.Add(FEditRequest::FromJson(**Object));
+			}
+		}
+		return Requests;
+	}
+};
+
+using FTexts = TArray<FString>;
+
+TVexelExpected<void> Execute(const FEditRequest::FOperation& Operation, const TSharedRef<ILumCompound>& Compound, const FLumContext& Context)
+{
+	if (const FEditRequestOperationOnProp* const OnProp = Operation.TryGet<FEditRequestOperationOnProp>())
+	{
+		return OnProp->Execute(Compound, Context);
+	}
+	return Operation.Get<FEditRequestOperationOnVar>().Execute(Compound);
+}
+
+void Execute(const FEditRequest& Request, const FVexelBlueprintToolTarget& Target, FTexts& OutErrors)
+{
+	const TVexelExpected<TSharedRef<ILumCompound>> Compound = Request.ResolveTarget(Target);
+	const FString Description = Request.Target.Describe();
+	if (Compound.HasError())
+	{
+		OutErrors.Add(
+			FString::Printf(TEXT("Failed to resolve target '%s': %s"), *Description, *Compound.GetError().ToChainString()));
+		return;
+	}
+	const FLumContext Context(Target.GetSharedMapping());
+	for (const FEditRequest::FOperation& Operation : Request.Operations)
+	{
+		const TVexelExpected<void> Result = Execute(Operation, Compound.GetValue(), Context);
+		if (Result.HasError())
+		{
+			OutErrors.Add(
+				FString::Printf(TEXT("Failed to execute operation on target '%s': %s"), *Description, *Result.GetError().ToChainString()));
+		}
+	}
+}
+
+/** Whether something in the requests takes away or changes what links hang on. */
+bool CanLoseLinks(const TArray<FEditRequest>& Requests)
+{
+	const auto IsLossy = [](const FEditRequest::FOperation& Operation)
+	{
+		const FEditRequestOperationOnVar* const OnVar = Operation.TryGet<FEditRequestOperationOnVar>();
+		return OnVar && OnVar->Type != EVexelEditOperation::AddVariable && OnVar->Type != EVexelEditOperation::AddPin;
+	};
+	return Requests.ContainsByPredicate([&IsLossy](const FEditRequest& Request)
+		{ return Request.Operations.ContainsByPredicate(IsLossy); });
+}
+
+void SetTexts(FJsonObject& Object, const TCHAR* Key, const FTexts& Texts)
+{
+	TArray<TSharedPtr<FJsonValue>> Values;
+	for (const FString& Text : Texts)
+	{
+		Values.Add(MakeShared<FJsonValueString>(Text));
+	}
+	if (!Values.IsEmpty())
+	{
+		Object.SetArrayField(Key, MoveTemp(Values));
+	}
+}
+
+TVexelExpected<TSharedRef<FJsonObject>> Edit(const FVexelToolContext& Context, const FParsedObjectEditInput& Input)
+{
+	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Context.GetMapping(), Input.Blueprint));
+	const TArray<FEditRequest> Requests = Input.GetRequests();
+	TOptional<FVexelBlueprintLinks> LinksBefore;
+	if (CanLoseLinks(Requests))
+	{
+		LinksBefore.Emplace(Target.GetBlueprint(), Target.GetMapping());
+	}
+	FTexts Errors;
+	{
+		const FLumEditBatch Batch(Target.GetBlueprint());
+		for (const FEditRequest& Request : Requests)
+		{
+			Execute(Request, Target, Errors);
+		}
+	}
+	VEXEL_TRY(const TSharedRef<FJsonObject> Exported, Target.Export());
+	const TSharedRef<FJsonObject> Answer = MakeShared<FJsonObject>();
+	Answer->SetObjectField(TEXT("blueprint"), Exported);
+	SetTexts(*Answer, TEXT("errors"), Errors);
+	SetTexts(*Answer, TEXT("warnings"), LinksBefore ? LinksBefore->DescribeLost() : FTexts());
+	return Answer;
+}
+}
+
+/** "object_edit": changes values, variables and user-defined pins of one Blueprint. */
+class FVexelToolBlueprintObjectEdit : public TVexelTool<FParsedObjectEditInput>
+{
+public:
+	using TVexelTool::TVexelTool;
+
+protected:
+	/** Of this tool the service expects one kind of failure. */
+	virtual FVexelError MakeInputError(FVexelError&& Error) const override
+	{
+		return VEXEL_ERROR(FVexelError_ToolCallFailed, "%s", *Error.GetMessage());
+	}
+
+	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FParsedObjectEditInput& Input) const override
+	{
+		return Edit(Context, Input);
+	}
+};
+
+VEXEL_DEFINE_TOOL(FVexelToolBlueprintObjectEdit)
