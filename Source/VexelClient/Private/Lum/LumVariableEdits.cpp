@@ -54,6 +54,11 @@ void AddSignature(UBlueprint& Blueprint, FName Name)
 /** What a change of a variable comes to, checked: what is unset stays. */
 struct FChange
 {
+	explicit FChange(FName InName)
+		: Name(InName)
+	{
+	}
+
 	FName Name;
 	bool bRenamed = false;
 	TOptional<FEdGraphPinType> Type;
@@ -102,7 +107,7 @@ bool IsRenamed(FName Name, const FLumVarDesc& Desc)
 
 TVexelExpected<FChange> CheckMemberChange(UBlueprint& Blueprint, const FBPVariableDescription& Variable, const FLumVarDesc& Desc)
 {
-	FChange Change{Variable.VarName};
+	FChange Change(Variable.VarName);
 	VEXEL_TRY_VOID(CheckScopeStays(Desc, LumScope::Member()));
 	if (IsRenamed(Variable.VarName, Desc))
 	{
@@ -173,7 +178,7 @@ TVexelExpected<FLocal> FindLocal(UEdGraph& Graph, FName Name)
 
 TVexelExpected<FChange> CheckLocalChange(const FLocal& Local, const FLumVarDesc& Desc)
 {
-	FChange Change{Local.Variable->VarName};
+	FChange Change(Local.Variable->VarName);
 	VEXEL_TRY_VOID(CheckScopeStays(Desc, LumScope::Local()));
 	VEXEL_TRY_VOID(LumVariableFlags::CheckNone(Desc));
 	if (IsRenamed(Change.Name, Desc))

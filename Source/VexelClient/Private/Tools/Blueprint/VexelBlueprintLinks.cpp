@@ -5,12 +5,22 @@
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraph/EdGraphPin.h"
+#include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 
 namespace
 {
 constexpr int32 MaxDescribed = 50;
+
+/** Whether the one's values can go into the other. */
+bool Fits(const UEdGraphPin& Output, const UEdGraphPin& Input)
+{
+	const UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForNode(Output.GetOwningNode());
+	const UEdGraphSchema_K2* const Schema = Cast<UEdGraphSchema_K2>(Output.GetSchema());
+	const UClass* const Class = Blueprint && Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass.Get() : nullptr;
+	return !Schema || Schema->ArePinsCompatible(&Output, &Input, Class);
+}
 }
 
 FVexelBlueprintLinks::FVexelBlueprintLinks(UBlueprint& Blueprint, FVexelBlueprintMapping& Mapping)
@@ -55,7 +65,7 @@ void FVexelBlueprintLinks::Add(UEdGraph& Graph, const FString& BlueprintName, FV
 				const int32* const OtherNode = Other && !Other->bOrphanedPin ? Indices.Find(Other->GetOwningNode()) : nullptr;
 				if (OtherNode)
 				{
-					Links.Add({{Node.Value, Pin->PinId, Pin->PinName}, {*OtherNode, Other->PinId, Other->PinName}});
+					Links.Add({{Node.Value, Pin->PinId, Pin->PinName}, {*OtherNode, Other->PinId, Other->PinName}, Fits(*Pin, *Other)});
 				}
 			}
 		}
@@ -83,27 +93,36 @@ TArray<FString> FVexelBlueprintLinks::DescribeLost() const
 	int32 NumLost = 0;
 	for (const FLink& Link : Links)
 	{
-		const UEdGraphPin* const From = FindPin(Link.From, StandingNodes);
-		const UEdGraphPin* const To = FindPin(Link.To, StandingNodes);
-		const bool bIsLost = !From || !To || !From->LinkedTo.Contains(To);
-		if (bIsLost && ++NumLost <= MaxDescribed)
+		const TCHAR* const Fault = FindFault(Link, StandingNodes);
+		if (*Fault && ++NumLost <= MaxDescribed)
 		{
-			Texts.Add(Describe(Link));
+			Texts.Add(Describe(Link, Fault));
 		}
 	}
 	if (NumLost > MaxDescribed)
 	{
-		Texts.Add(FString::Printf(TEXT("%d more links are lost"), NumLost - MaxDescribed));
+		Texts.Add(FString::Printf(TEXT("%d more links are lost or do not fit any more"), NumLost - MaxDescribed));
 	}
 	return Texts;
 }
 
-FString FVexelBlueprintLinks::Describe(const FLink& Link) const
+const TCHAR* FVexelBlueprintLinks::FindFault(const FLink& Link, const TSet<const UEdGraphNode*>& StandingNodes) const
+{
+	const UEdGraphPin* const From = FindPin(Link.From, StandingNodes);
+	const UEdGraphPin* const To = FindPin(Link.To, StandingNodes);
+	if (!From || !To || !From->LinkedTo.Contains(To))
+	{
+		return TEXT("is lost");
+	}
+	return Link.bFits && !Fits(*From, *To) ? TEXT("does not fit any more") : TEXT("");
+}
+
+FString FVexelBlueprintLinks::Describe(const FLink& Link, const TCHAR* Fault) const
 {
 	const FNode& From = Nodes[Link.From.Node];
 	const FNode& To = Nodes[Link.To.Node];
 	const FGraph& Graph = Graphs[From.Graph];
 	const FString Place = Graph.BlueprintName.IsEmpty() ? FString() : FString::Printf(TEXT(" of '%s'"), *Graph.BlueprintName);
-	return FString::Printf(TEXT("The link from '%s'.'%s' to '%s'.'%s' in graph '%s'%s is lost"), *From.Id, *Link.From.PinName.ToString(), *To.Id,
-		*Link.To.PinName.ToString(), *Graph.Name, *Place);
+	return FString::Printf(TEXT("The link from '%s'.'%s' to '%s'.'%s' in graph '%s'%s %s"), *From.Id, *Link.From.PinName.ToString(), *To.Id,
+		*Link.To.PinName.ToString(), *Graph.Name, *Place, Fault);
 }

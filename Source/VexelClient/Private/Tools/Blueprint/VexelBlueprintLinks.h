@@ -18,7 +18,7 @@ class FVexelBlueprintLinks
 public:
 	FVexelBlueprintLinks(UBlueprint& Blueprint, FVexelBlueprintMapping& Mapping);
 
-	/** A sentence for each link that has been lost since; of many, the first ones and how many more there are. */
+	/** A sentence for each link that has been lost since or fits no more; of many, the first ones and how many more there are. */
 	TArray<FString> DescribeLost() const;
 
 private:
@@ -46,12 +46,16 @@ private:
 	{
 		FEnd From;
 		FEnd To;
+		/** One that did not fit before either is no news. */
+		bool bFits;
 	};
 
 	void Add(UEdGraph& Graph, const FString& BlueprintName, FVexelBlueprintMapping& Mapping);
 	/** Null where the node stands in its graph no more, or has no such pin but one that is only kept for its links. */
 	const UEdGraphPin* FindPin(const FEnd& End, const TSet<const UEdGraphNode*>& StandingNodes) const;
-	FString Describe(const FLink& Link) const;
+	/** What has become of the link, for the end of a sentence; empty when it is as it was. */
+	const TCHAR* FindFault(const FLink& Link, const TSet<const UEdGraphNode*>& StandingNodes) const;
+	FString Describe(const FLink& Link, const TCHAR* Fault) const;
 
 	TArray<FGraph> Graphs;
 	TArray<FNode> Nodes;

@@ -10,6 +10,7 @@
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/TimelineTemplate.h"
 #include "UObject/Interface.h"
+#include "UObject/PropertyPortFlags.h"
 
 #include <gtest/gtest.h>
 
