@@ -89,8 +89,10 @@ void FObjectEditTest::Use()
 	const std::string Name = ToStd(Blueprint->GetName());
 	const std::string OwnSpawns =
 		"{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'var.get.Health'}, {'node_type': 'var.set.Health'},"
-		"{'node_type': 'call." + Name + ".Heal'}, {'node_type': 'call." + Name + ".Hurt'}, {'node_type': 'macro.Twice'},"
-		"{'node_type': 'delegate.call." + Name + ".OnHurt'}]}";
+		"{'node_type': 'call." +
+		Name + ".Heal'}, {'node_type': 'call." + Name + ".Hurt'}, {'node_type': 'macro.Twice'},"
+														"{'node_type': 'delegate.call." +
+		Name + ".OnHurt'}]}";
 	ASSERT_THAT(ItemErrorsOf(TEXT("node_spawn"), OwnSpawns.c_str()), testing::IsEmpty());
 	UEdGraphNode* const Event = FindNodeOfClass<UK2Node_CustomEvent>(EventGraph);
 	UEdGraphNode* const Get = FindNodeOfClass<UK2Node_VariableGet>(EventGraph);
