@@ -17,35 +17,6 @@ protected:
 	std::string IdOf(const UEdGraphNode& Node) { return ToStd(Mapping.MakeNodeTypeReference(Node).ToString()); }
 };
 
-struct FBareCase
-{
-	const TCHAR* ClassName;
-	const char* Id;
-};
-
-TEST_F(FNodeTypeRuleTest, ClassesOfOneIdNeedNothingElse)
-{
-	const FBareCase Cases[] = {
-		{TEXT("K2Node_Copy"), "call.copy"},
-		{TEXT("K2Node_AssignmentStatement"), "var.assign"},
-		{TEXT("K2Node_MakeMap"), "make.map"},
-		{TEXT("K2Node_MakeSet"), "make.set"},
-		{TEXT("K2Node_EaseFunction"), "math.ease"},
-		{TEXT("K2Node_GenericCreateObject"), "call.create_object"},
-		{TEXT("K2Node_GetClassDefaults"), "call.get_class_defaults"},
-		{TEXT("K2Node_LoadAsset"), "call.load_asset"},
-		{TEXT("K2Node_LoadAssetClass"), "call.load_asset_class"},
-		{TEXT("K2Node_EnumInequality"), "enum.not_equal"},
-		{TEXT("K2Node_GetEnumeratorName"), "enum.get_name"},
-		{TEXT("K2Node_GetEnumeratorNameAsString"), "enum.get_name_string"},
-		{TEXT("K2Node_Timeline"), "timeline"},
-	};
-	for (const FBareCase& Case : Cases)
-	{
-		EXPECT_EQ(Case.Id, IdOf(AddBareNode(Case.ClassName))) << TCHAR_TO_UTF8(Case.ClassName);
-	}
-}
-
 TEST_F(FNodeTypeRuleTest, SubclassHasTheRuleOfItsNearestAncestor)
 {
 	const TCHAR* const Function =

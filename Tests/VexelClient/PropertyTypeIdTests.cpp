@@ -1,5 +1,6 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Blueprint/VexelBlueprintNodePin.h"
+#include "Blueprint/VexelBlueprintPropType.h"
 #include "EdGraphSchema_K2.h"
 #include "GameFramework/Actor.h"
 #include "LumTestBlueprint.h"
@@ -167,5 +168,35 @@ TEST_F(FPropertyTypeIdTest, PinRecordReadsBackFromItsJson)
 	EXPECT_FALSE(Read.FromJson(Object));
 	EXPECT_EQ("Target", ToStd(Read.Id));
 	EXPECT_EQ(1, Read.Connections.Num());
+}
+
+TEST_F(FPropertyTypeIdTest, EachTypeOfTheListReadsBackAsItself)
+{
+	const TArray<TSharedRef<FVexelBlueprintPropType>> Types = Mapping.IteratePropTypes();
+	TSet<FString> Ids;
+	for (const TSharedRef<FVexelBlueprintPropType>& Type : Types)
+	{
+		Ids.Add(Type->Id.ToString());
+		FEdGraphPinType PinType;
+		if (!Mapping.ResolvePropType(Type->Id, PinType))
+		{
+			ADD_FAILURE() << ToStd(Type->Id.ToString());
+			continue;
+		}
+		EXPECT_EQ(ToStd(Type->Id.ToString()), MakeId(PinType));
+		EXPECT_FALSE(Type->Keywords.IsEmpty()) << ToStd(Type->Id.ToString());
+	}
+	EXPECT_EQ(Types.Num(), Ids.Num()) << "each once";
+	for (const FString& Id : {FString(TEXT("bool")), FString(TEXT("real")), FString(TEXT("text")), FString(TEXT("object.Actor")),
+			 FString(TEXT("softclass.Actor")), FString(TEXT("struct.Vector")), FString(TEXT("enum.ECollisionChannel")),
+			 TEXT("class.") + Blueprint->GetName()})
+	{
+		EXPECT_TRUE(Ids.Contains(Id)) << ToStd(Id);
+	}
+	for (const FString& Id : {FString(TEXT("exec")), FString(TEXT("wildcard")), FString(TEXT("object.K2Node")),
+			 TEXT("object.") + Blueprint->SkeletonGeneratedClass->GetName()})
+	{
+		EXPECT_FALSE(Ids.Contains(Id)) << ToStd(Id);
+	}
 }
 }

@@ -1,5 +1,7 @@
 #include "K2Node_InputDebugKey.h"
 
+#include "BlueprintActionDatabaseRegistrar.h"
+#include "BlueprintNodeSpawner.h"
 #include "InputNodePins.h"
 #include "UObject/Class.h"
 
@@ -30,6 +32,26 @@ FText UK2Node_InputDebugKey::GetTooltipText() const
 FText UK2Node_InputDebugKey::GetMenuCategory() const
 {
 	return LOCTEXT("KeyEventsCategory", "Input|Debug Events");
+}
+
+void UK2Node_InputDebugKey::GetMenuActions(FBlueprintActionDatabaseRegistrar& ActionRegistrar) const
+{
+	if (!ActionRegistrar.IsOpenForRegistration(GetClass()))
+	{
+		return;
+	}
+	TArray<FKey> Keys;
+	EKeys::GetAllKeys(Keys);
+	for (const FKey& Key : Keys)
+	{
+		if (!Key.IsAxis1D() && !Key.IsVector())
+		{
+			const auto SetKey = [Key](UEdGraphNode* Node, bool)
+			{ CastChecked<UK2Node_InputDebugKey>(Node)->InputKey = Key; };
+			ActionRegistrar.AddBlueprintAction(UBlueprintNodeSpawner::Create(
+				GetClass(), nullptr, UBlueprintNodeSpawner::FCustomizeNodeDelegate::CreateLambda(SetKey)));
+		}
+	}
 }
 
 #undef LOCTEXT_NAMESPACE

@@ -4,7 +4,9 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Blueprint/VexelBlueprintNodeType.h"
 #include "Blueprint/VexelComponentEventType.h"
+#include "Blueprint/VexelNamedNodeType.h"
 #include "Blueprint/VexelNodeTypeIndex.h"
+#include "Blueprint/VexelPropTypeCatalogue.h"
 #include "Blueprint/VexelVariableNodeType.h"
 #include "VexelLog.h"
 
@@ -59,7 +61,12 @@ UBlueprintNodeSpawner* FindSpawner(const TVexelNodeTypeId& Id, const FNodeTypePl
 			return Event;
 		}
 		// The database knows locals of other functions too.
-		return VexelVariableNodeType::IsLocal(Id) ? nullptr : FVexelNodeTypeIndex::Get().Find(Id);
+		if (VexelVariableNodeType::IsLocal(Id))
+		{
+			return nullptr;
+		}
+		UBlueprintNodeSpawner* const Action = FVexelNodeTypeIndex::Get().Find(Id);
+		return Action ? Action : VexelNamedNodeType::MakeSpawner(Id, Place.Blueprint, Place.Graph);
 	};
 	return IsInGameThread() ? Find() : Async(EAsyncExecution::TaskGraphMainThread, Find).Get();
 }
@@ -267,6 +274,11 @@ bool FVexelBlueprintMapping::ResolvePropType(const TVexelPropTypeId& Id, FEdGrap
 	}
 	OutPinType = MoveTemp(PinType).GetValue();
 	return true;
+}
+
+TArray<TSharedRef<FVexelBlueprintPropType>> FVexelBlueprintMapping::IteratePropTypes()
+{
+	return VexelPropTypeCatalogue::List();
 }
 
 FGuid FVexelBlueprintMapping::MakePropGuid(const FProperty* Property)

@@ -70,6 +70,8 @@ public:
 	/** SubCategoryAsset stands in for a type's object that is not loaded; it may be null. */
 	TVexelPropTypeId MakePropTypeReference(const FEdGraphPinType& PinType, const FAssetData* SubCategoryAsset);
 	bool ResolvePropType(const TVexelPropTypeId& Id, FEdGraphPinType& OutPinType);
+	/** Every type that a variable can have, without containers, sorted by id; those of assets too, which it does not load. */
+	TArray<TSharedRef<FVexelBlueprintPropType>> IteratePropTypes();
 
 	/** The same GUID for the same property of the same owner, until the editor closes. All zero without a property or an owner. */
 	FGuid MakePropGuid(const FProperty* Property);

@@ -72,6 +72,7 @@ void FVexelAssetNameIndex::Add(const FTopLevelAssetPath& Path)
 	}
 	const int32 Id = Entries.Add({Path, Path.GetAssetName().ToString().ToLower()});
 	Ids.Add(Path, Id);
+	IdsByName.FindOrAdd(Path.GetAssetName()).Add(Id);
 	for (const uint32 Pair : GetPairs(Entries[Id].Name))
 	{
 		IdsByPair.FindOrAdd(Pair).Add(Id);
@@ -86,6 +87,7 @@ void FVexelAssetNameIndex::Remove(const FTopLevelAssetPath& Path)
 		return;
 	}
 	Entries[Id].Name.Reset();
+	IdsByName.FindChecked(Path.GetAssetName()).Remove(Id);
 	if (Entries.Num() - Ids.Num() > FMath::Max(MinNumGaps, Ids.Num()))
 	{
 		RemoveGaps();
@@ -182,4 +184,15 @@ TArray<FVexelAssetNameIndex::FMatch> FVexelAssetNameIndex::Find(const FString& Q
 		Matches.Add({Entries[Rated.Id].Path, Rated.Score});
 	}
 	return Matches;
+}
+
+TArray<FTopLevelAssetPath> FVexelAssetNameIndex::FindExact(FName Name) const
+{
+	TArray<FTopLevelAssetPath> Paths;
+	const TArray<int32>* const Found = IdsByName.Find(Name);
+	for (const int32 Id : Found ? *Found : TArray<int32>())
+	{
+		Paths.Add(Entries[Id].Path);
+	}
+	return Paths;
 }

@@ -28,6 +28,8 @@ public:
 	 * order of the paths. A query without a letter or digit finds nothing.
 	 */
 	TArray<FMatch> Find(const FString& Query) const;
+	/** The assets that have the name, in any letter case. */
+	TArray<FTopLevelAssetPath> FindExact(FName Name) const;
 
 private:
 	struct FEntry
@@ -43,6 +45,7 @@ private:
 
 	TArray<FEntry> Entries;
 	TMap<FTopLevelAssetPath, int32> Ids;
+	TMap<FName, TArray<int32>> IdsByName;
 	/** Entries by two following letters of their names. Entries that are gone stay in until there are too many of them. */
 	TMap<uint32, TArray<int32>> IdsByPair;
 };

@@ -2,7 +2,7 @@
 
 #include "Blueprint/VexelBlueprintMapping.h"
 #include "Data/VexelChatConversation.h"
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 #include "Tools/VexelToolManager.h"
 
 namespace
@@ -14,7 +14,7 @@ void NameNodes(const TSharedRef<FVexelBlueprintMapping>& Mapping, const FJsonObj
 	UBlueprint* Blueprint = nullptr;
 	if (Input.TryGetStringField(TEXT("blueprint"), BlueprintId) && Mapping->ResolveBlueprint(TVexelBlueprintId(BlueprintId), Blueprint))
 	{
-		static_cast<void>(FVexelBlueprintToolTarget(*Blueprint, Mapping).Export());
+		static_cast<void>(FVexelBlueprintRequestHelper(*Blueprint, Mapping).Export());
 	}
 }
 }

@@ -2,13 +2,12 @@
 
 #include "Blueprint/VexelBlueprintEnums.h"
 #include "Blueprint/VexelBlueprintPropType.h"
+#include "Blueprint/VexelNamedObjects.h"
 #include "VexelErrorKinds.h"
 #include "VexelLog.h"
 
 #include "AssetRegistry/AssetData.h"
-#include "AssetRegistry/IAssetRegistry.h"
 #include "EdGraphSchema_K2.h"
-#include "Engine/Blueprint.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 
@@ -154,45 +153,6 @@ FVexelError LogAndFail(FString Message)
 	return FVexelError(VEXEL_HERE, FString(), MoveTemp(Message));
 }
 
-UObject* FindTypeInMemory(UClass* ObjectClass, const FString& Name)
-{
-	UObject* const Found = StaticFindFirstObject(ObjectClass, *Name, EFindFirstObjectOptions::NativeFirst);
-	if (Found || ObjectClass != UClass::StaticClass())
-	{
-		return Found;
-	}
-	return StaticFindFirstObject(ObjectClass, *(Name + TEXT("_C")), EFindFirstObjectOptions::None);
-}
-
-/** The class, struct or enumeration that an asset of this name makes; loads the asset. */
-UObject* LoadTypeOfAsset(UClass* ObjectClass, const FString& Name)
-{
-	const IAssetRegistry* const Registry = IAssetRegistry::Get();
-	TArray<FAssetData> Assets;
-	if (Registry)
-	{
-		Registry->GetAllAssets(Assets);
-	}
-	const FName AssetName(*Name);
-	for (const FAssetData& Asset : Assets)
-	{
-		if (Asset.AssetName != AssetName)
-		{
-			continue;
-		}
-		UObject* Type = Asset.GetAsset();
-		if (const UBlueprint* const Blueprint = Cast<UBlueprint>(Type))
-		{
-			Type = Blueprint->GeneratedClass;
-		}
-		if (Type && Type->IsA(ObjectClass))
-		{
-			return Type;
-		}
-	}
-	return nullptr;
-}
-
 TVexelExpected<FEdGraphPinType> ParseBase(const FString& Text)
 {
 	FEdGraphPinType Type;
@@ -211,14 +171,8 @@ TVexelExpected<FEdGraphPinType> ParseBase(const FString& Text)
 	}
 
 	// A name that no FName can hold names nothing.
-	const FObjectCategory* const Category =
-		CategoryText.Len() < NAME_SIZE && ObjectName.Len() < NAME_SIZE - 2 ? FindObjectCategory(FName(*CategoryText)) : nullptr;
-	UObject* Object = nullptr;
-	if (Category && !ObjectName.IsEmpty())
-	{
-		Object = FindTypeInMemory(Category->ObjectClass, ObjectName);
-		Object = Object ? Object : LoadTypeOfAsset(Category->ObjectClass, ObjectName);
-	}
+	const FObjectCategory* const Category = CategoryText.Len() < NAME_SIZE ? FindObjectCategory(FName(*CategoryText)) : nullptr;
+	UObject* const Object = Category ? VexelNamedObjects::Find(*Category->ObjectClass, ObjectName) : nullptr;
 	if (!Object)
 	{
 		return LogAndFail(FString::Printf(TEXT("Failed to load subcategory object '%s' for pin type '%s'!"), *ObjectName, *Text));

@@ -4,6 +4,7 @@
 #include "EdGraph/EdGraphPin.h"
 #include "EdGraphSchema_K2.h"
 #include "UObject/Class.h"
+#include "UObject/SoftObjectPath.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -51,13 +52,19 @@ FString VexelNodeProperties::GetKeyName(const UEdGraphNode& Node, const TCHAR* P
 	return KeyName ? ReadText(*KeyName, Found->ContainerPtrToValuePtr<void>(&Node)) : FString();
 }
 
-UObject* VexelNodeProperties::GetPinObject(const UEdGraphNode& Node, const TCHAR* PinName)
+FString VexelNodeProperties::GetPinObjectName(const UEdGraphNode& Node, const TCHAR* PinName)
 {
 	const UEdGraphPin* const Pin = Node.FindPin(PinName, EGPD_Input);
 	if (!Pin)
 	{
-		return nullptr;
+		return FString();
 	}
-	UObject* const TypeObject = Pin->PinType.PinSubCategoryObject.Get();
-	return Pin->PinType.PinCategory == UEdGraphSchema_K2::PC_Byte ? TypeObject : Pin->DefaultObject.Get();
+	const FName& Category = Pin->PinType.PinCategory;
+	if (Category == UEdGraphSchema_K2::PC_SoftObject || Category == UEdGraphSchema_K2::PC_SoftClass)
+	{
+		return FSoftObjectPath(Pin->DefaultValue).GetAssetName();
+	}
+	const UObject* const Object =
+		Category == UEdGraphSchema_K2::PC_Byte ? Pin->PinType.PinSubCategoryObject.Get() : Pin->DefaultObject.Get();
+	return Object ? Object->GetName() : FString();
 }

@@ -16,6 +16,6 @@ bool GetBool(const UEdGraphNode& Node, const TCHAR* Property);
 UObject* GetObject(const UEdGraphNode& Node, const TCHAR* Property);
 /** Name of the key in a member that is an input key; empty without one. */
 FString GetKeyName(const UEdGraphNode& Node, const TCHAR* Property);
-/** The object that an input pin has by default, or, on a pin of an enumeration, the enumeration. */
-UObject* GetPinObject(const UEdGraphNode& Node, const TCHAR* PinName);
+/** The name of the object that an input pin has by default or, on a pin of an enumeration, of the enumeration; empty without one. */
+FString GetPinObjectName(const UEdGraphNode& Node, const TCHAR* PinName);
 }

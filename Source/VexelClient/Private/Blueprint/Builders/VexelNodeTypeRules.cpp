@@ -270,16 +270,6 @@ struct FObjectRule
 	const TCHAR* Missing;
 };
 
-/** A node that is about an object if one of its pins or members names one. */
-struct FOptionalObjectRule
-{
-	const TCHAR* NodeClass;
-	const TCHAR* Id;
-	/** Pins whose default object is asked for, then the member; the first that holds an object names it. */
-	TArray<const TCHAR*> Pins;
-	const TCHAR* Property = nullptr;
-};
-
 constexpr FFixedRule FixedRules[] = {
 	{TEXT("K2Node_CallParentFunction"), TEXT("call.super")},
 	{TEXT("K2Node_AddComponentByClass"), TEXT("call.add_component_by_class")},
@@ -349,7 +339,7 @@ const TArray<const TCHAR*> ClassPins = {TEXT("ClassToSpawn"), TEXT("ClassType"),
 const TArray<const TCHAR*> AssetPins = {TEXT("OutputAssetClass"), TEXT("Asset"), TEXT("AssetClass")};
 const TArray<const TCHAR*> EnumPins = {TEXT("Enum"), TEXT("Enumerator"), TEXT("A")};
 
-const FOptionalObjectRule OptionalObjectRules[] = {
+const FVexelOptionalObjectRule OptionalObjectRules[] = {
 	{TEXT("K2Node_CreateWidget"), TEXT("call.create_widget"), ClassPins},
 	{TEXT("K2Node_CreateDragDropOperation"), TEXT("call.create_drag_drop"), ClassPins},
 	{TEXT("K2Node_GenericCreateObject"), TEXT("call.create_object"), ClassPins},
@@ -379,13 +369,14 @@ FString MakeObjectId(const UEdGraphNode& Node, const FObjectRule& Rule)
 	return Rule.IdPrefix + Object->GetName();
 }
 
-FString MakeOptionalObjectId(const UEdGraphNode& Node, const FOptionalObjectRule& Rule)
+FString MakeOptionalObjectId(const UEdGraphNode& Node, const FVexelOptionalObjectRule& Rule)
 {
 	for (const TCHAR* const PinName : Rule.Pins)
 	{
-		if (const UObject* const Object = VexelNodeProperties::GetPinObject(Node, PinName))
+		const FString Name = VexelNodeProperties::GetPinObjectName(Node, PinName);
+		if (!Name.IsEmpty())
 		{
-			return WithName(Rule.Id, Object->GetName());
+			return WithName(Rule.Id, Name);
 		}
 	}
 	const UObject* const Object = Rule.Property ? VexelNodeProperties::GetObject(Node, Rule.Property) : nullptr;
@@ -417,6 +408,11 @@ void AddNamed(TMap<FName, FVexelNodeTypeRule>& OutRules, const TCHAR* NodeClass,
 }
 }
 
+TArrayView<const FVexelOptionalObjectRule> FVexelNodeTypeRules::GetOptionalObjectRules()
+{
+	return OptionalObjectRules;
+}
+
 void FVexelNodeTypeRules::Collect(TMap<FName, FVexelNodeTypeRule>& OutRules)
 {
 	for (const FFixedRule& Rule : FixedRules)
@@ -429,7 +425,7 @@ void FVexelNodeTypeRules::Collect(TMap<FName, FVexelNodeTypeRule>& OutRules)
 		AddNamed(OutRules, Rule.NodeClass, [&Rule](const UEdGraphNode& Node)
 			{ return MakeObjectId(Node, Rule); });
 	}
-	for (const FOptionalObjectRule& Rule : OptionalObjectRules)
+	for (const FVexelOptionalObjectRule& Rule : OptionalObjectRules)
 	{
 		AddNamed(OutRules, Rule.NodeClass, [&Rule](const UEdGraphNode& Node)
 			{ return MakeOptionalObjectId(Node, Rule); });

@@ -19,8 +19,8 @@ TVexelExpected<TSharedRef<FJsonObject>> FVexelBlueprintGraphTool::EditAndExport(
 	const FVexelToolContext& Context, const FParsedAddRemoveGraphInput& Input) const
 {
 	VEXEL_TRY(const TSharedRef<FVexelBlueprintMapping> Mapping,
-		FVexelBlueprintToolTarget::FindMapping(Context, TEXT("Conversation not found.")));
-	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Mapping, Input.Blueprint));
+		FVexelBlueprintRequestHelper::FindMapping(Context, TEXT("Conversation not found.")));
+	VEXEL_TRY(const FVexelBlueprintRequestHelper Target, FVexelBlueprintRequestHelper::Find(Mapping, Input.Blueprint));
 	VEXEL_TRY_VOID(EditGraph(Target, Input.Graph));
 	VEXEL_TRY(const TSharedRef<FJsonObject> Exported, Target.Export());
 	const TSharedRef<FJsonObject> Answer = MakeShared<FJsonObject>();

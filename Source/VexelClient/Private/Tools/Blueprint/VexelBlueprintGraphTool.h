@@ -1,7 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 #include "Tools/VexelTool.h"
 #include "Tools/VexelToolSchema.h"
 
@@ -21,7 +21,7 @@ public:
 	using TVexelTool::TVexelTool;
 
 protected:
-	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintToolTarget& Target, const FString& GraphId) const = 0;
+	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintRequestHelper& Target, const FString& GraphId) const = 0;
 
 	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(
 		const FVexelToolContext& Context, const FParsedAddRemoveGraphInput& Input) const override final;

@@ -1,14 +1,14 @@
 #include "Tools/Blueprint/VexelBlueprintNodeTool.h"
 
 #include "Blueprint/VexelBlueprintManipulator.h"
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 
 TVexelExpected<TSharedRef<FJsonObject>> VexelBlueprintNodeTool::Run(const FVexelToolContext& Context, const FString& BlueprintId,
 	const FString& GraphId, const TCHAR* GraphMissing, FApply Apply)
 {
 	VEXEL_TRY(const TSharedRef<FVexelBlueprintMapping> Mapping,
-		FVexelBlueprintToolTarget::FindMapping(Context, TEXT("Failed to find the conversation.")));
-	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Mapping, BlueprintId));
+		FVexelBlueprintRequestHelper::FindMapping(Context, TEXT("Failed to find the conversation.")));
+	VEXEL_TRY(const FVexelBlueprintRequestHelper Target, FVexelBlueprintRequestHelper::Find(Mapping, BlueprintId));
 	if (!Target.FindGraph(GraphId))
 	{
 		return FVexelError_ToolInvalidInput(VEXEL_HERE, FString(GraphMissing).Replace(TEXT("%s"), *GraphId, ESearchCase::CaseSensitive));

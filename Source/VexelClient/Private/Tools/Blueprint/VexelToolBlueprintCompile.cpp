@@ -1,5 +1,5 @@
 #include "Blueprint/VexelBlueprintManipulator.h"
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 #include "Tools/VexelTool.h"
 #include "Tools/VexelToolSchema.h"
 
@@ -75,11 +75,11 @@ struct FCompileInput
 };
 
 /** Unlike for the other tools, a Blueprint that is not there is a failure of the work. */
-TVexelExpected<FVexelBlueprintToolTarget> FindTarget(const FVexelToolContext& Context, const FString& BlueprintId)
+TVexelExpected<FVexelBlueprintRequestHelper> FindTarget(const FVexelToolContext& Context, const FString& BlueprintId)
 {
 	VEXEL_TRY(const TSharedRef<FVexelBlueprintMapping> Mapping,
-		FVexelBlueprintToolTarget::FindMapping(Context, TEXT("Failed to find the conversation.")));
-	TVexelExpected<FVexelBlueprintToolTarget> Target = FVexelBlueprintToolTarget::Find(Mapping, BlueprintId);
+		FVexelBlueprintRequestHelper::FindMapping(Context, TEXT("Failed to find the conversation.")));
+	TVexelExpected<FVexelBlueprintRequestHelper> Target = FVexelBlueprintRequestHelper::Find(Mapping, BlueprintId);
 	if (Target.HasError())
 	{
 		return VEXEL_ERROR(FVexelError_ToolCallFailed, "Blueprint not found: %s", *BlueprintId);
@@ -97,7 +97,7 @@ public:
 protected:
 	virtual TVexelTaskResult<TSharedRef<FJsonObject>> Run(const FVexelToolContext& Context, const FCompileInput& Input) const override
 	{
-		const TVexelExpected<FVexelBlueprintToolTarget> Target = FindTarget(Context, Input.Blueprint);
+		const TVexelExpected<FVexelBlueprintRequestHelper> Target = FindTarget(Context, Input.Blueprint);
 		if (Target.HasError())
 		{
 			return Target.GetError();

@@ -9,7 +9,7 @@ public:
 	using FVexelBlueprintGraphTool::FVexelBlueprintGraphTool;
 
 protected:
-	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintToolTarget& Target, const FString& GraphId) const override
+	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintRequestHelper& Target, const FString& GraphId) const override
 	{
 		if (Target.FindGraph(GraphId))
 		{

@@ -8,7 +8,7 @@ public:
 	using FVexelBlueprintGraphTool::FVexelBlueprintGraphTool;
 
 protected:
-	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintToolTarget& Target, const FString& GraphId) const override
+	virtual TVexelExpected<void> EditGraph(const FVexelBlueprintRequestHelper& Target, const FString& GraphId) const override
 	{
 		UEdGraph* const Graph = Target.FindGraph(GraphId);
 		if (!Graph)

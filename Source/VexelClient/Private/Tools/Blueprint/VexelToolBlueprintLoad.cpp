@@ -1,6 +1,6 @@
 #include "Blueprint/VexelBlueprintMapping.h"
 #include "Engine/Blueprint.h"
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 #include "Tools/VexelTool.h"
 #include "Tools/VexelToolSchema.h"
 
@@ -34,7 +34,7 @@ protected:
 		{
 			return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Blueprint not found: `%s`", *Input.Blueprint);
 		}
-		return FVexelBlueprintToolTarget(*Blueprint, Mapping).Export();
+		return FVexelBlueprintRequestHelper(*Blueprint, Mapping).Export();
 	}
 };
 

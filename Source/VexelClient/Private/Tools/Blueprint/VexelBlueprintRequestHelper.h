@@ -9,16 +9,22 @@ class FVexelBlueprintMapping;
 class UBlueprint;
 class UEdGraph;
 
-/** The Blueprint that a tool call is about, kept from collection for the length of the call, in the ids of the call's conversation. */
-class FVexelBlueprintToolTarget
+/**
+ * What a request about a Blueprint goes by: the Blueprint, which this keeps from collection, and the ids of the request's conversation. Copies
+ * are of the same request. Game thread.
+ */
+class FVexelBlueprintRequestHelper
 {
 public:
-	FVexelBlueprintToolTarget(UBlueprint& InBlueprint, const TSharedRef<FVexelBlueprintMapping>& InMapping);
+	FVexelBlueprintRequestHelper(UBlueprint& InBlueprint, const TSharedRef<FVexelBlueprintMapping>& InMapping);
 
 	/** The mapping of the call's conversation, or "Tool call failed" with the text when the call has none. */
 	static TVexelExpected<TSharedRef<FVexelBlueprintMapping>> FindMapping(const FVexelToolContext& Context, const TCHAR* TextOfNone);
 	/** The Blueprint of the id, or "Invalid input" when no asset is one. */
-	static TVexelExpected<FVexelBlueprintToolTarget> Find(const TSharedRef<FVexelBlueprintMapping>& Mapping, const FString& BlueprintId);
+	static TVexelExpected<FVexelBlueprintRequestHelper> Find(const TSharedRef<FVexelBlueprintMapping>& Mapping, const FString& BlueprintId);
+
+	/** The Blueprints that are open in editors, in the order of their opening. */
+	static TArray<UBlueprint*> GetOpenedBlueprints();
 
 	UBlueprint& GetBlueprint() const { return *Blueprint; }
 	FVexelBlueprintMapping& GetMapping() const { return *Mapping; }

@@ -1,4 +1,4 @@
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 
 #include "Blueprint/VexelBlueprintMapping.h"
 #include "Data/VexelChatConversation.h"
@@ -6,15 +6,17 @@
 #include "Lum/LumContext.h"
 
 #include "EdGraph/EdGraph.h"
+#include "Editor.h"
 #include "Engine/Blueprint.h"
+#include "Subsystems/AssetEditorSubsystem.h"
 
-FVexelBlueprintToolTarget::FVexelBlueprintToolTarget(UBlueprint& InBlueprint, const TSharedRef<FVexelBlueprintMapping>& InMapping)
+FVexelBlueprintRequestHelper::FVexelBlueprintRequestHelper(UBlueprint& InBlueprint, const TSharedRef<FVexelBlueprintMapping>& InMapping)
 	: Blueprint(&InBlueprint)
 	, Mapping(InMapping)
 {
 }
 
-TVexelExpected<TSharedRef<FVexelBlueprintMapping>> FVexelBlueprintToolTarget::FindMapping(
+TVexelExpected<TSharedRef<FVexelBlueprintMapping>> FVexelBlueprintRequestHelper::FindMapping(
 	const FVexelToolContext& Context, const TCHAR* TextOfNone)
 {
 	if (!Context.Conversation)
@@ -24,7 +26,7 @@ TVexelExpected<TSharedRef<FVexelBlueprintMapping>> FVexelBlueprintToolTarget::Fi
 	return Context.Conversation->GetMapping();
 }
 
-TVexelExpected<FVexelBlueprintToolTarget> FVexelBlueprintToolTarget::Find(
+TVexelExpected<FVexelBlueprintRequestHelper> FVexelBlueprintRequestHelper::Find(
 	const TSharedRef<FVexelBlueprintMapping>& Mapping, const FString& BlueprintId)
 {
 	UBlueprint* Blueprint = nullptr;
@@ -32,17 +34,31 @@ TVexelExpected<FVexelBlueprintToolTarget> FVexelBlueprintToolTarget::Find(
 	{
 		return VEXEL_ERROR(FVexelError_ToolInvalidInput, "Blueprint not found: %s", *BlueprintId);
 	}
-	return FVexelBlueprintToolTarget(*Blueprint, Mapping);
+	return FVexelBlueprintRequestHelper(*Blueprint, Mapping);
 }
 
-UEdGraph* FVexelBlueprintToolTarget::FindGraph(const FString& GraphId) const
+TArray<UBlueprint*> FVexelBlueprintRequestHelper::GetOpenedBlueprints()
+{
+	TArray<UBlueprint*> Opened;
+	UAssetEditorSubsystem* const AssetEditors = GEditor ? GEditor->GetEditorSubsystem<UAssetEditorSubsystem>() : nullptr;
+	for (UObject* const Asset : AssetEditors ? AssetEditors->GetAllEditedAssets() : TArray<UObject*>())
+	{
+		if (UBlueprint* const Blueprint = Cast<UBlueprint>(Asset))
+		{
+			Opened.Add(Blueprint);
+		}
+	}
+	return Opened;
+}
+
+UEdGraph* FVexelBlueprintRequestHelper::FindGraph(const FString& GraphId) const
 {
 	UEdGraph* Graph = nullptr;
 	Mapping->ResolveGraphInBlueprint(TVexelGraphId(GraphId), *Blueprint, Graph);
 	return Graph;
 }
 
-TVexelExpected<TSharedRef<FJsonObject>> FVexelBlueprintToolTarget::Export() const
+TVexelExpected<TSharedRef<FJsonObject>> FVexelBlueprintRequestHelper::Export() const
 {
 	const FLumContext Context(Mapping);
 	TVexelExpected<TSharedRef<FJsonObject>> Exported = MakeShared<FLumBlueprintCompound>(*Blueprint)->JsonExportObject(Context);
