@@ -1,5 +1,6 @@
 #include "GraphFormatter/ColumnAssignment.h"
 
+#include "GraphFormatter/ColumnBalance.h"
 #include "GraphFormatter/FormatterGraph.h"
 
 #include "Algo/Reverse.h"
@@ -21,6 +22,8 @@ FColumnAssignment::FColumnAssignment(const FFormatterGraph& InGraph)
 	OrderExecution();
 	AssignExecution();
 	AssignValues();
+	MoveRootsNear();
+	BalanceValues();
 }
 
 void FColumnAssignment::OrderExecution()
@@ -191,4 +194,74 @@ void FColumnAssignment::AssignValue(int32 Node)
 		FirstReader = Reader == NoColumn ? FirstReader : FMath::Min(FirstReader, Reader);
 	}
 	Columns[Node] = FirstReader == MAX_int32 ? FMath::Max(0, GetEarliestColumn(Node)) : FirstReader - 1;
+}
+
+void FColumnAssignment::MoveRootsNear()
+{
+	for (const int32 Root : Roots)
+	{
+		// Right before the first that it leads to, where nothing else tells.
+		const int32 LastColumn = GetLastColumn(Root);
+		if (Graph.Nodes[Root].Inputs.IsEmpty() && LastColumn != MAX_int32)
+		{
+			Columns[Root] = FMath::Max(Columns[Root], LastColumn);
+		}
+	}
+}
+
+int32 FColumnAssignment::GetLastColumn(int32 Node) const
+{
+	int32 Last = MAX_int32;
+	for (const int32 Wire : Graph.Nodes[Node].Outputs)
+	{
+		Last = FMath::Min(Last, Columns[Graph.Wires[Wire].To] - 1);
+	}
+	return Last;
+}
+
+void FColumnAssignment::BalanceValues()
+{
+	for (const TArray<int32>& Component : Graph.FindComponents())
+	{
+		FColumnBalance Balance;
+		// All execution is one point, which stays: where its nodes are, the wires' least lengths say.
+		TMap<int32, int32> Points;
+		for (const int32 Node : Component)
+		{
+			if (!Graph.Nodes[Node].bExec)
+			{
+				Points.Add(Node, Balance.AddPoint(Columns[Node]));
+			}
+		}
+		if (Points.IsEmpty())
+		{
+			continue;
+		}
+		const int32 Execution = Balance.AddPoint(0);
+		const auto Find = [&](int32 Node)
+		{
+			const int32* const Point = Points.Find(Node);
+			return Point ? *Point : Execution;
+		};
+		const auto FixedColumn = [this](int32 Node)
+		{ return Graph.Nodes[Node].bExec ? Columns[Node] : 0; };
+		for (const int32 Node : Component)
+		{
+			for (const int32 WireIndex : Graph.Nodes[Node].Outputs)
+			{
+				const FFormatterWire& Wire = Graph.Wires[WireIndex];
+				const bool bIsOfValue = !Graph.Nodes[Wire.From].bExec || !Graph.Nodes[Wire.To].bExec;
+				// One that goes back closes a loop, and tells nothing.
+				if (bIsOfValue && Columns[Wire.From] < Columns[Wire.To])
+				{
+					Balance.AddWire(Find(Wire.From), Find(Wire.To), 1 + FixedColumn(Wire.From) - FixedColumn(Wire.To));
+				}
+			}
+		}
+		Balance.Run();
+		for (const auto& [Node, Point] : Points)
+		{
+			Columns[Node] = Balance.GetColumn(Point) - Balance.GetColumn(Execution);
+		}
+	}
 }

@@ -6,8 +6,8 @@
 class FFormatterGraph;
 
 /**
- * Which column each node stands in. Execution goes to the right, but for the wires that close a loop; a node that is read stands before
- * the first that reads it.
+ * Which column each node stands in. Execution goes to the right, but for the wires that close a loop; a value stands between
+ * what it reads and what reads it.
  */
 class FColumnAssignment
 {
@@ -27,6 +27,11 @@ private:
 	int32 GetEarliestColumn(int32 Node);
 	void AssignValues();
 	void AssignValue(int32 Node);
+	void MoveRootsNear();
+	/** Moves values to where their wires are shortest together, between what they read and what reads them. */
+	void BalanceValues();
+	/** The column before the first that the node leads to; the greatest number where it leads nowhere. */
+	int32 GetLastColumn(int32 Node) const;
 
 	const FFormatterGraph& Graph;
 	/** Nodes of execution, each before those that it leads to. */
