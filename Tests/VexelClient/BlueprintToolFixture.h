@@ -1,12 +1,9 @@
 #pragma once
 
 #include "Data/VexelChatConversation.h"
-#include "EdGraphUtilities.h"
-#include "Editor.h"
-#include "Editor/TransBuffer.h"
 #include "LumTestBlueprint.h"
-#include "Tools/VexelToolManager.h"
-#include "VexelJson.h"
+#include "VexelExpected.h"
+#include "VexelTaskResult.h"
 
 #include <string>
 #include <vector>
@@ -16,83 +13,29 @@ class FBlueprintToolTest : public FLumTest
 {
 protected:
 	using FAnswer = TVexelExpected<TSharedRef<FJsonObject>>;
+	using FPending = TVexelTaskResult<TSharedRef<FJsonObject>>;
 
-	virtual void SetUp() override
-	{
-		FLumTest::SetUp();
-		GEditor->ResetTransaction(INVTEXT("Test"));
-	}
+	virtual void SetUp() override;
 
 	/** Quotes may be single ones. "BP" stands for the test's Blueprint. */
-	FAnswer Call(const TCHAR* Tool, const char* Input)
-	{
-		FString Text = FString(UTF8_TO_TCHAR(Input)).Replace(TEXT("'"), TEXT("\""), ESearchCase::CaseSensitive);
-		Text = Text.Replace(TEXT("\"BP\""), *(TEXT("\"") + Blueprint->GetPathName() + TEXT("\"")), ESearchCase::CaseSensitive);
-		TSharedPtr<FJsonObject> Object;
-		FVexelJsonConversions::StringToJson(Text, Object);
-		checkf(Object, TEXT("No JSON: %s"), *Text);
-		FVexelToolContext Context;
-		Context.Conversation = Conversation;
-		const TSharedRef<FVexelTool> Found = FVexelToolManager::Get().FindTool(FName(Tool)).GetValue();
-		const TVexelTaskResult<TSharedRef<FJsonObject>> Result = Found->Call(Context, FVexelToolInput(Object.ToSharedRef()));
-		EXPECT_TRUE(PumpUntil([&Result]
-			{ return Result.IsComplete(); }));
-		return Result.Value();
-	}
-
-	std::string ErrorOf(const TCHAR* Tool, const char* Input)
-	{
-		const FAnswer Answer = Call(Tool, Input);
-		return Answer.HasError() ? ToStd(Answer.GetError().ToChainString()) : "no error";
-	}
-
+	FPending Start(const TCHAR* Tool, const std::string& Input);
+	/** Waits for the answer. */
+	FAnswer Call(const TCHAR* Tool, const std::string& Input);
+	/** The text of a call's error, with what caused it. */
+	std::string ErrorOf(const TCHAR* Tool, const std::string& Input);
 	/** The texts of "errors" of a call that must succeed. */
-	std::vector<std::string> ItemErrorsOf(const TCHAR* Tool, const char* Input)
-	{
-		const FAnswer Answer = Call(Tool, Input);
-		if (Answer.HasError())
-		{
-			ADD_FAILURE() << ToStd(Answer.GetError().ToChainString());
-			return {};
-		}
-		return TextsOf(*Answer.GetValue(), TEXT("errors"));
-	}
-
+	std::vector<std::string> ItemErrorsOf(const TCHAR* Tool, const std::string& Input);
 	/** The strings of an array that may be missing. */
-	static std::vector<std::string> TextsOf(const FJsonObject& Object, const TCHAR* Key)
-	{
-		std::vector<std::string> Texts;
-		const TArray<TSharedPtr<FJsonValue>>* Values = nullptr;
-		if (Object.TryGetArrayField(Key, Values))
-		{
-			for (const TSharedPtr<FJsonValue>& Value : *Values)
-			{
-				Texts.push_back(ToStd(Value->AsString()));
-			}
-		}
-		return Texts;
-	}
+	static std::vector<std::string> TextsOf(const FJsonObject& Object, const TCHAR* Key);
+	/** Whether the compile tool answers success. */
+	bool Compiles();
 
-	int32 NumUndos() const { return GEditor->Trans->GetQueueLength(); }
-
-	UEdGraphNode* FindNode(const TCHAR* Id)
-	{
-		UEdGraphNode* Node = nullptr;
-		Conversation->GetMapping()->ResolveNodeInGraph(TVexelNodeId(Id), *EventGraph, Node);
-		return Node;
-	}
-
-	FString ExportText() const
-	{
-		TSet<UObject*> Nodes;
-		for (UEdGraphNode* const Node : EventGraph->Nodes)
-		{
-			Nodes.Add(Node);
-		}
-		FString Text;
-		FEdGraphUtilities::ExportNodesToText(Nodes, Text);
-		return Text;
-	}
+	static int32 NumUndos();
+	static void UndoAll();
+	UEdGraphNode* FindNode(const TCHAR* Id);
+	/** The text of every node of the Blueprint's graphs. */
+	static FString ExportText(const UBlueprint& Blueprint);
+	FString ExportText() const { return ExportText(*Blueprint); }
 
 	TSharedPtr<FVexelChatConversation> Conversation =
 		MakeShared<FVexelChatConversation>(FString(TEXT("user")), FString(TEXT("chat")), FVexelChatModeInfo());

@@ -1,4 +1,5 @@
 #include "BlueprintToolFixture.h"
+#include "Editor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 
 #include <gmock/gmock.h>
@@ -29,16 +30,10 @@ TEST_F(FBlueprintToolTest, NodesAreSpawnedLinkedAndCompiledAndAllOfItIsUndone)
 	EXPECT_EQ(FindNode(TEXT("Branch_0")), Print->FindPinChecked(TEXT("execute"))->LinkedTo[0]->GetOwningNode());
 	EXPECT_LT(FindNode(TEXT("Branch_0"))->NodePosX, Print->NodePosX) << "laid out from left to right";
 
-	const FAnswer Compiled = Call(TEXT("compile"), "{'blueprint': 'BP'}");
-	ASSERT_FALSE(Compiled.HasError()) << ToStd(Compiled.GetError().ToChainString());
-	EXPECT_TRUE(Compiled.GetValue()->GetBoolField(TEXT("success")));
+	EXPECT_TRUE(Compiles());
 
-	const int32 NumEdits = NumUndos();
-	EXPECT_EQ(6, NumEdits) << "three spawns, two links, one layout";
-	for (int32 Edit = 0; Edit < NumEdits; ++Edit)
-	{
-		EXPECT_TRUE(GEditor->UndoTransaction());
-	}
+	EXPECT_EQ(6, NumUndos()) << "three spawns, two links, one layout";
+	UndoAll();
 	EXPECT_EQ(ToStd(Before), ToStd(ExportText()));
 }
 
@@ -97,6 +92,13 @@ TEST_F(FBlueprintToolTest, EveryMistakeInTheInputIsNamedAndChangesNothing)
 		{TEXT("node_spawn"), "{'graph': 'EventGraph'}", "Missing `blueprint`"},
 		{TEXT("node_spawn"), "{'blueprint': 5, 'graph': 'EventGraph'}", "Missing `blueprint`"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP'}", "Missing `graph`"},
+		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 7}", "Missing `graph`"},
+		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph'}",
+			"Missing or empty required parameter 'nodes' (must be an array of node descriptor objects)"},
+		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': {'node_type': 'var.self'}}",
+			"Missing or empty required parameter 'nodes' (must be an array of node descriptor objects)"},
+		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{}]}",
+			"Missing or invalid 'node_type' field in node descriptor"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': []}",
 			"Missing or empty required parameter 'nodes' (must be an array of node descriptor objects)"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': ['var.self']}",
@@ -110,6 +112,22 @@ TEST_F(FBlueprintToolTest, EveryMistakeInTheInputIsNamedAndChangesNothing)
 		{TEXT("node_spawn"), "{'blueprint': '/Game/None', 'graph': 'EventGraph', 'nodes': [{'node_type': 'var.self'}]}",
 			"Blueprint not found: /Game/None"},
 		{TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'None_7', 'nodes': [{'node_type': 'var.self'}]}", "Graph not found: None_7"},
+		{TEXT("node_link"), "{'graph': 'EventGraph'}", "Missing `blueprint`"},
+		{TEXT("node_link"), "{'blueprint': 'BP'}", "Missing `graph`"},
+		{TEXT("node_link"), "{'blueprint': 'BP', 'graph': 'EventGraph'}",
+			"Missing or empty required parameter 'links' (must be an array of node descriptor objects)"},
+		{TEXT("node_link"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'links': []}",
+			"Missing or empty required parameter 'links' (must be an array of node descriptor objects)"},
+		{TEXT("node_link"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'links': [{'from_node': 'a', 'to_node': 'c', 'to_pin': 'd'}]}",
+			"Missing or invalid 'from_pin' field in link descriptor"},
+		{TEXT("node_link"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'links': [{'from_node': 'a', 'from_pin': 'b', 'to_node': 3}]}",
+			"Missing or invalid 'to_node' field in link descriptor"},
+		{TEXT("node_link"),
+			"{'blueprint': 'BP', 'graph': 'None_7', 'links': [{'from_node': 'a', 'from_pin': 'b', 'to_node': 'c', 'to_pin': 'd'}]}",
+			"Graph not found: None_7"},
+		{TEXT("node_link"),
+			"{'blueprint': '/Game/None', 'graph': 'X', 'links': [{'from_node': 'a', 'from_pin': 'b', 'to_node': 'c', 'to_pin': 'd'}]}",
+			"Invalid input: Blueprint not found: /Game/None"},
 		{TEXT("node_link"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'links': {}}",
 			"Missing or empty required parameter 'links' (must be an array of node descriptor objects)"},
 		{TEXT("node_link"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'links': [[]]}",
@@ -118,12 +136,28 @@ TEST_F(FBlueprintToolTest, EveryMistakeInTheInputIsNamedAndChangesNothing)
 			"Missing or invalid 'from_node' field in link descriptor"},
 		{TEXT("node_link"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'links': [{'from_node': 'a', 'from_pin': 'b', 'to_node': 'c'}]}",
 			"Missing or invalid 'to_pin' field in link descriptor"},
+		{TEXT("node_remove"), "{}", "Missing `blueprint`"},
+		{TEXT("node_remove"), "{'blueprint': 'BP'}", "Missing `graph`"},
+		{TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': []}",
+			"Missing or empty required parameter 'nodes' (must be an array of node ids)"},
+		{TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': 'Branch_0'}",
+			"Missing or empty required parameter 'nodes' (must be an array of node ids)"},
+		{TEXT("node_remove"), "{'blueprint': '/Game/None', 'graph': 'X', 'nodes': ['a']}", "Invalid input: Blueprint not found: /Game/None"},
 		{TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph'}",
 			"Missing or empty required parameter 'nodes' (must be an array of node ids)"},
 		{TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{}]}",
 			"Invalid node descriptor in the input array (expected a string)"},
 		{TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'Gone', 'nodes': ['a']}",
 			"Graph reference `Gone` is invalid or does not exist in the blueprint."},
+		{TEXT("read_blueprint"), "{}", "Invalid input: Missing `blueprint`"},
+		{TEXT("read_blueprint"), "{'blueprint': null}", "Invalid input: Missing `blueprint`"},
+		{TEXT("graph_add"), "{'graph': 'F'}", "Invalid input: Missing `blueprint`"},
+		{TEXT("graph_add"), "{'blueprint': 'BP'}", "Invalid input: Missing `graph`"},
+		{TEXT("graph_add"), "{'blueprint': '/Game/None', 'graph': 'F'}", "Invalid input: Blueprint not found: /Game/None"},
+		{TEXT("graph_add"), "{'blueprint': 'BP', 'graph': 'UserConstructionScript'}", "Invalid input: Graph already exists: UserConstructionScript"},
+		{TEXT("graph_remove"), "{}", "Invalid input: Missing `blueprint`"},
+		{TEXT("graph_remove"), "{'blueprint': 'BP'}", "Invalid input: Missing `graph`"},
+		{TEXT("graph_remove"), "{'blueprint': '/Game/None', 'graph': 'F'}", "Invalid input: Blueprint not found: /Game/None"},
 		{TEXT("read_blueprint"), "{'blueprint': '/Game/None'}", "Blueprint not found: `/Game/None`"},
 		{TEXT("compile"), "{}", "Blueprint path not provided in tool input!"},
 		{TEXT("compile"), "{'blueprint': '/Game/None'}", "Tool call failed: Blueprint not found: /Game/None"},

@@ -118,7 +118,7 @@ void FObjectEditTest::Use()
 FObjectEditTest::FAnswer FObjectEditTest::Edit(const std::string& Target, const std::string& Operations)
 {
 	const std::string Input = "{'blueprint': 'BP', 'requests': [{'target': " + Target + ", 'operations': [" + Operations + "]}]}";
-	return Call(TEXT("object_edit"), Input.c_str());
+	return Call(TEXT("object_edit"), Input);
 }
 
 std::vector<std::string> FObjectEditTest::EditErrors(const std::string& Target, const std::string& Operations)

@@ -19,6 +19,8 @@ namespace
 constexpr double LayoutSpacing = 200.0;
 /** Type ids that an unknown one is answered with. */
 constexpr int32 MaxNearestTypes = 5;
+/** Unknown types of one call that are answered so. To look for what is like an id takes milliseconds, and who errs that often errs in the whole. */
+constexpr int32 MaxListings = 20;
 
 FVexelError_BlueprintManipulationFailed MakeError(const FVexelErrorPlace& Place, FString Detail)
 {
@@ -202,6 +204,10 @@ TVexelExpected<UEdGraphPin*> FVexelBlueprintManipulator::FindPin(
 
 FString FVexelBlueprintManipulator::ListNearestTypes(const TVexelNodeTypeId& TypeId) const
 {
+	if (NumListed++ >= MaxListings)
+	{
+		return FString();
+	}
 	TArray<FString> Names;
 	for (const TVexelNodeTypeId& Nearest : FVexelNodeTypeIndex::Get().FindNearest(TypeId, MaxNearestTypes))
 	{

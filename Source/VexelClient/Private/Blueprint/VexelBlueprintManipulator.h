@@ -71,6 +71,8 @@ private:
 
 	TWeakObjectPtr<UBlueprint> Blueprint;
 	FVexelBlueprintMapping& Mapping;
+	/** How many unknown types have been answered with those that look like them. */
+	mutable int32 NumListed = 0;
 	/** A batch is open, and one of its edits has been made. */
 	mutable bool bFinishLater = false;
 	mutable bool bUnfinished = false;
