@@ -1,22 +1,11 @@
 #include "GraphPicture.h"
 
+#include "BlueprintSnapshot.h"
 #include "Containers/StringConv.h"
-#include "EdGraph/EdGraph.h"
-#include "EdGraph/EdGraphPin.h"
 #include "EdGraphNode_Comment.h"
-#include "EdGraphSchema_K2.h"
-#include "EditorFixture.h"
-#include "Engine/Blueprint.h"
-#include "GameFramework/Actor.h"
-#include "K2Node_CallFunction.h"
-#include "K2Node_CustomEvent.h"
+#include "GraphFixture.h"
 #include "K2Node_IfThenElse.h"
 #include "K2Node_Knot.h"
-#include "Kismet2/BlueprintEditorUtils.h"
-#include "Kismet2/KismetEditorUtilities.h"
-#include "Misc/Guid.h"
-#include "UObject/Package.h"
-#include "UObject/UObjectGlobals.h"
 
 #include <gmock/gmock.h>
 
@@ -26,59 +15,15 @@
 namespace
 {
 using testing::ElementsAre;
-using testing::HasSubstr;
 
-class GraphPicture : public FEditorTest
+class GraphPicture : public FGraphTest
 {
 protected:
-	virtual void SetUp() override
-	{
-		FEditorTest::SetUp();
-		UseUtf8Locale();
-		UPackage* const Package = CreatePackage(*(TEXT("/Game/Picture_") + FGuid::NewGuid().ToString()));
-		Blueprint = FKismetEditorUtilities::CreateBlueprint(AActor::StaticClass(), Package, TEXT("BP_Picture"), BPTYPE_Normal);
-		Graph = FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Drawn"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
-	}
-
-	template <class NodeType>
-	NodeType* Add(
-		TFunctionRef<void(NodeType&)> Prepare = [](NodeType&) {})
-	{
-		FGraphNodeCreator<NodeType> Creator(*Graph);
-		NodeType* const Node = Creator.CreateNode(false);
-		Prepare(*Node);
-		Creator.Finalize();
-		return Node;
-	}
-
-	UEdGraphNode* AddEvent(const TCHAR* Name, int32 Y = 0)
-	{
-		return Add<UK2Node_CustomEvent>([&](UK2Node_CustomEvent& Node)
-			{
-				Node.CustomFunctionName = Name;
-				Node.NodePosY = Y; });
-	}
-
-	UEdGraphNode* AddPrint(const TCHAR* Text)
-	{
-		const UClass* const Library = FindObject<UClass>(nullptr, TEXT("/Script/Engine.KismetSystemLibrary"));
-		UEdGraphNode* const Node = Add<UK2Node_CallFunction>([&](UK2Node_CallFunction& Call)
-			{ Call.SetFromFunction(Library->FindFunctionByName(TEXT("PrintString"))); });
-		Node->FindPinChecked(TEXT("InString"))->DefaultValue = Text;
-		return Node;
-	}
-
-	static void Link(UEdGraphNode* From, const FName& Output, UEdGraphNode* To, const FName& Input = UEdGraphSchema_K2::PN_Execute)
-	{
-		From->FindPinChecked(Output, EGPD_Output)->MakeLinkTo(To->FindPinChecked(Input, EGPD_Input));
-	}
-	static void Link(UEdGraphNode* From, UEdGraphNode* To) { Link(From, UEdGraphSchema_K2::PN_Then, To); }
-
 	/** The picture without its heading and the empty lines. */
 	std::vector<std::string> Draw(int32 Width = 80) const
 	{
 		std::vector<std::string> Texts;
-		for (const FStyledLine& Line : DrawGraph(*Graph, Width))
+		for (const FStyledLine& Line : DrawGraph(FGraphSnapshot::Take(*Graph), Width))
 		{
 			EXPECT_LE(Line.GetWidth(), Width);
 			if (!Line.IsEmpty())
@@ -89,9 +34,6 @@ protected:
 		Texts.erase(Texts.begin());
 		return Texts;
 	}
-
-	UBlueprint* Blueprint = nullptr;
-	UEdGraph* Graph = nullptr;
 };
 }
 

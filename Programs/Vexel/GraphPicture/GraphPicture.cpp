@@ -1,414 +1,203 @@
 #include "GraphPicture.h"
 
-#include "EdGraph/EdGraph.h"
-#include "EdGraph/EdGraphNode.h"
-#include "EdGraph/EdGraphPin.h"
-#include "EdGraphNode_Comment.h"
-#include "EdGraphSchema_K2.h"
-#include "Engine/Blueprint.h"
-#include "K2Node_Knot.h"
-#include "Kismet2/BlueprintEditorUtils.h"
-#include "PinExpression.h"
+#include "BlueprintSnapshot.h"
+#include "GraphFlow.h"
+#include "NodeText.h"
 
 namespace
 {
-/** Ways that lie deeper are drawn in a section of their own: they would have no room, and nobody could follow them. */
-constexpr int32 MaxDepth = 12;
 constexpr int32 MinTextWidth = 30;
 constexpr int32 HangingBlanks = 4;
-
-/** A way out of a node: an execution output that leads somewhere. */
-struct FWay
-{
-	FString Label;
-	const UEdGraphPin* Entry = nullptr;
-};
 
 class FPainter
 {
 public:
-	FPainter(const UEdGraph& InGraph, int32 InWidth)
+	FPainter(const FGraphSnapshot& InGraph, int32 InWidth)
 		: Graph(InGraph)
-		, Width(FMath::Max(InWidth, MinTextWidth * 2))
+		, Width(GetPictureWidth(InWidth))
+		, Merged(Graph, nullptr, nullptr)
+		, Flow(Merged, Width)
 	{
-		for (const UEdGraphNode* const Node : Graph.Nodes)
-		{
-			if (const UEdGraphNode_Comment* const Comment = Cast<UEdGraphNode_Comment>(Node))
-			{
-				Comments.Add(Comment);
-			}
-		}
 	}
 
 	TArray<FStyledLine> Draw()
 	{
-		NumberJunctions();
 		DrawHeading();
-		for (const UEdGraphNode* const Root : FindRoots())
+		for (const FFlowLine& Line : Flow.GetLines())
 		{
-			if (Root->IsAutomaticallyPlacedGhostNode())
-			{
-				// The editor offers them; they are no part of the Blueprint until somebody connects them.
-				Ghosts.Add(Root);
-				Drawn.Add(Root);
-				continue;
-			}
-			DrawRoot(*Root);
+			DrawLine(Line);
 		}
-		DrawUnreached();
-		DrawTitles(TEXT("Nothing uses: "), FindUnused());
-		DrawTitles(TEXT("Without effect: "), Ghosts);
+		const TSet<int32> UsedValues = FindUsedValues(Graph);
+		DrawTitles(TEXT("Nothing uses: "), FindPure([&](int32 Node)
+											   { return !UsedValues.Contains(Node); }));
+		DrawTitles(TEXT("Left out above: "), FindPure([&](int32 Node)
+												 { return UsedValues.Contains(Node) && !Shown.Contains(Node); }));
+		DrawTitles(TEXT("Without effect: "), Flow.GetGhosts());
 		return MoveTemp(Lines);
 	}
 
 private:
-	static bool IsDrawn(const UEdGraphNode& Node) { return !Node.IsA<UK2Node_Knot>() && !Node.IsA<UEdGraphNode_Comment>(); }
-
-	static int32 CountEntering(const UEdGraphNode& Node)
-	{
-		int32 Num = 0;
-		for (const UEdGraphPin* const Pin : Node.Pins)
-		{
-			if (Pin->Direction == EGPD_Input && PinExpression::IsExec(*Pin))
-			{
-				Num += CountSources(*Pin, 0);
-			}
-		}
-		return Num;
-	}
-
-	/** Wires that come to an execution input, those behind reroute nodes each. */
-	static int32 CountSources(const UEdGraphPin& Input, int32 Depth)
-	{
-		int32 Num = 0;
-		for (const UEdGraphPin* const Source : Input.LinkedTo)
-		{
-			const UEdGraphNode* const Node = Source->GetOwningNodeUnchecked();
-			const bool bReroute = Node && Node->IsA<UK2Node_Knot>() && Depth < MaxDepth;
-			const UEdGraphPin* const Inner = bReroute ? Node->FindPinByPredicate([](const UEdGraphPin* Pin)
-															{ return Pin->Direction == EGPD_Input; })
-													  : nullptr;
-			Num += Inner ? CountSources(*Inner, Depth + 1) : 1;
-		}
-		return Num;
-	}
-
-	static bool HasExecInput(const UEdGraphNode& Node)
-	{
-		return Node.Pins.ContainsByPredicate([](const UEdGraphPin* Pin)
-			{ return Pin->Direction == EGPD_Input && PinExpression::IsExec(*Pin); });
-	}
-
-	void NumberJunctions()
-	{
-		for (const UEdGraphNode* const Node : Graph.Nodes)
-		{
-			if (Node && IsDrawn(*Node) && CountEntering(*Node) > 1)
-			{
-				Numbers.Add(Node, Numbers.Num() + 1);
-			}
-		}
-	}
-
-	/** Where execution begins, from the top of the graph to its bottom. */
-	TArray<const UEdGraphNode*> FindRoots() const
-	{
-		TArray<const UEdGraphNode*> Roots;
-		for (const UEdGraphNode* const Node : Graph.Nodes)
-		{
-			if (Node && IsDrawn(*Node) && !PinExpression::IsPure(*Node) && !HasExecInput(*Node))
-			{
-				Roots.Add(Node);
-			}
-		}
-		Roots.StableSort([](const UEdGraphNode& A, const UEdGraphNode& B)
-			{ return A.NodePosY < B.NodePosY; });
-		return Roots;
-	}
-
 	void DrawHeading()
 	{
 		int32 NumNodes = 0;
-		for (const UEdGraphNode* const Node : Graph.Nodes)
+		for (const FNodeSnapshot& Node : Graph.Nodes)
 		{
-			NumNodes += Node && IsDrawn(*Node) ? 1 : 0;
+			NumNodes += Node.IsDrawn() ? 1 : 0;
 		}
-		const UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForGraph(&Graph);
 		FStyledLine& Line = Lines.AddDefaulted_GetRef();
-		Line.Add((Blueprint ? Blueprint->GetName() + TEXT(" · ") : FString()) + Graph.GetName(), TextStyle::Strong);
+		const FString Owner = Graph.BlueprintName.IsEmpty() ? FString() : Graph.BlueprintName + TEXT(" · ");
+		Line.Add(Owner + Graph.Name, TextStyle::Strong);
 		Line.Add(FString::Printf(TEXT("  %d %s"), NumNodes, NumNodes == 1 ? TEXT("node") : TEXT("nodes")), TextStyle::Faint);
 	}
 
-	void DrawRoot(const UEdGraphNode& Root)
+	void DrawLine(const FFlowLine& Line)
 	{
-		Lines.AddDefaulted();
-		DrawComment(Root);
-		FStyledLine Text = MakeNodeText(Root, TextStyle::Title);
-		TArray<FString> Outputs;
-		for (const UEdGraphPin* const Pin : Root.Pins)
+		FStyledLine Rail(Line.Rail, Line.Kind == EFlowLine::Root ? TextStyle::Title : TextStyle::Faint);
+		switch (Line.Kind)
 		{
-			if (Pin->Direction == EGPD_Output && !Pin->bHidden && !PinExpression::IsExec(*Pin) && !Pin->ParentPin &&
-				Pin->PinType.PinCategory != UEdGraphSchema_K2::PC_Delegate)
-			{
-				Outputs.Add(PinExpression::GetName(*Pin));
-			}
+			case EFlowLine::Unreached:
+				Lines.AddDefaulted();
+				Lines.Add(FStyledLine(TEXT("Never runs: nothing leads here"), TextStyle::Accent));
+				break;
+			case EFlowLine::Root:
+				Lines.AddDefaulted();
+				if (Line.Node != INDEX_NONE)
+				{
+					DrawComment(Graph.Nodes[Line.Node]);
+					AddText(WriteLine(Line, TextStyle::Title).Add(WriteRootOutputs(Graph.Nodes[Line.Node]), TextStyle::Faint), Rail, Line.NextRail);
+				}
+				break;
+			case EFlowLine::Node:
+				AddText(WriteLine(Line, TextStyle::Strong), Rail, FStyledLine(Line.NextRail, TextStyle::Faint));
+				break;
+			case EFlowLine::Way:
+				Lines.Add(Rail.Add(Line.Label, TextStyle::Accent));
+				break;
+			case EFlowLine::Pointer:
+				Lines.Add(Rail.Add(TEXT("↪ ") + WriteNumber(Line.Node) + Graph.Nodes[Line.Node].Title, TextStyle::Accent).CutTo(Width));
+				break;
 		}
-		if (!Outputs.IsEmpty())
+	}
+
+	FString WriteNumber(int32 Node) const
+	{
+		const int32 Number = Flow.GetNumber(Node);
+		return Number > 0 ? FString::Printf(TEXT("#%d "), Number) : FString();
+	}
+
+	/** "#3 Print String  In String: "Hello"". */
+	FStyledLine WriteLine(const FFlowLine& Line, const FTextStyle& TitleStyle)
+	{
+		FStyledLine Text(WriteNumber(Line.Node), TextStyle::Accent);
+		Text.Append(WriteNode(Graph, Graph.Nodes[Line.Node], {.Title = TitleStyle}, Shown));
+		if (!Line.Label.IsEmpty())
 		{
-			Text.Add(TEXT(" → ") + FString::Join(Outputs, TEXT(", ")), TextStyle::Faint);
+			Text.Add(TEXT("  ▸ ") + Line.Label, TextStyle::Accent);
 		}
-		AddText(Text, FStyledLine(TEXT("● "), TextStyle::Title), TEXT("  "));
-		Drawn.Add(&Root);
-		DrawWaysOf(Root, FStyledLine(), 0);
-		DrawPostponed();
+		return Text;
 	}
 
 	/** The text of the comment box that a node stands in, if it stands in one. */
-	void DrawComment(const UEdGraphNode& Node)
+	void DrawComment(const FNodeSnapshot& Node)
 	{
-		const UEdGraphNode_Comment* Innermost = nullptr;
-		for (const UEdGraphNode_Comment* const Box : Comments)
+		const FNodeSnapshot* Innermost = nullptr;
+		for (const FNodeSnapshot& Box : Graph.Nodes)
 		{
-			const bool bInside = Node.NodePosX >= Box->NodePosX && Node.NodePosX < Box->NodePosX + Box->NodeWidth &&
-				Node.NodePosY >= Box->NodePosY && Node.NodePosY < Box->NodePosY + Box->NodeHeight;
-			if (bInside && (!Innermost || Box->NodeWidth < Innermost->NodeWidth))
+			const FIntPoint At = Node.Position - Box.Position;
+			const bool bInside =
+				Box.Form == ENodeForm::Comment && At.X >= 0 && At.Y >= 0 && At.X < Box.Size.X && At.Y < Box.Size.Y;
+			if (bInside && (!Innermost || Box.Size.X < Innermost->Size.X))
 			{
-				Innermost = Box;
+				Innermost = &Box;
 			}
 		}
-		if (Innermost && !Innermost->NodeComment.IsEmpty())
+		if (Innermost && !Innermost->Comment.IsEmpty())
 		{
-			AddText(FStyledLine(Innermost->NodeComment, {.bDim = true, .bItalic = true}), FStyledLine(TEXT("# "), TextStyle::Faint), TEXT("  "));
+			AddText(FStyledLine(Innermost->Comment, {.bDim = true, .bItalic = true}), FStyledLine(TEXT("# "), TextStyle::Faint), TEXT("  "));
 		}
 	}
 
-	/** Nodes that nothing runs, chain by chain. */
-	void DrawUnreached()
+	template <class PredicateType>
+	TArray<int32> FindPure(const PredicateType& IsWanted) const
 	{
-		bool bHeading = false;
-		// Chains first that have a beginning; what is left then runs in circles.
-		for (const bool bBeginning : {true, false})
+		TArray<int32> Found;
+		for (int32 Node = 0; Node < Graph.Nodes.Num(); ++Node)
 		{
-			for (const UEdGraphNode* const Node : Graph.Nodes)
+			if (Graph.Nodes[Node].IsDrawn() && Graph.Nodes[Node].bPure && IsWanted(Node))
 			{
-				if (!Node || !IsDrawn(*Node) || PinExpression::IsPure(*Node) || Drawn.Contains(Node) || (bBeginning && CountEntering(*Node) > 0))
-				{
-					continue;
-				}
-				if (!bHeading)
-				{
-					Lines.AddDefaulted();
-					Lines.Add(FStyledLine(TEXT("Never runs: nothing leads here"), TextStyle::Accent));
-					bHeading = true;
-				}
-				DrawChain(*Node, FStyledLine(), 0);
-				DrawPostponed();
+				Found.Add(Node);
 			}
 		}
+		return Found;
 	}
 
-	TArray<const UEdGraphNode*> FindUnused() const
-	{
-		TArray<const UEdGraphNode*> Unused;
-		for (const UEdGraphNode* const Node : Graph.Nodes)
-		{
-			if (Node && IsDrawn(*Node) && PinExpression::IsPure(*Node) && !Used.Contains(Node))
-			{
-				Unused.Add(Node);
-			}
-		}
-		return Unused;
-	}
-
-	void DrawTitles(const TCHAR* Label, const TArray<const UEdGraphNode*>& Nodes)
+	void DrawTitles(const TCHAR* Label, const TArray<int32>& Nodes)
 	{
 		if (Nodes.IsEmpty())
 		{
 			return;
 		}
 		Lines.AddDefaulted();
-		const FString Titles = FString::JoinBy(Nodes, TEXT(", "), [](const UEdGraphNode* Node)
-			{ return PinExpression::GetTitle(*Node); });
+		const FString Titles = FString::JoinBy(Nodes, TEXT(", "), [this](int32 Node)
+			{ return Graph.Nodes[Node].Title; });
 		AddText(Titles, FStyledLine(Label, TextStyle::Accent), FStyledLine());
 	}
 
-	/** "#3 Print String  In String: "Hello"". */
-	FStyledLine MakeNodeText(const UEdGraphNode& Node, const FTextStyle& TitleStyle)
-	{
-		FStyledLine Text;
-		if (const int32* const Number = Numbers.Find(&Node))
-		{
-			Text.Add(FString::Printf(TEXT("#%d "), *Number), TextStyle::Accent);
-		}
-		Text.Add(PinExpression::GetTitle(Node), TitleStyle);
-		for (const UEdGraphPin* const Pin : Node.Pins)
-		{
-			if (Pin->Direction != EGPD_Input || Pin->bHidden || PinExpression::IsExec(*Pin) || (Pin->ParentPin && !Pin->ParentPin->bHidden))
-			{
-				continue;
-			}
-			const bool bDefault = Pin->LinkedTo.IsEmpty() && Pin->DoesDefaultValueMatchAutogenerated();
-			const FString Value = bDefault ? FString() : PinExpression::GetInput(*Pin, Used);
-			if (!Value.IsEmpty())
-			{
-				Text.Add(TEXT("  ") + PinExpression::GetName(*Pin) + TEXT(": "), TextStyle::Faint).Add(Value, TextStyle::Code);
-			}
-		}
-		if (!Node.NodeComment.IsEmpty())
-		{
-			Text.Add(TEXT("  # ") + Node.NodeComment, {.bDim = true, .bItalic = true});
-		}
-		return Text;
-	}
+	void AddText(const FStyledLine& Text, const FStyledLine& First, const FStyledLine& Next) { AddFlowText(Lines, Text, Width, First, Next); }
 
-	static TArray<FWay> FindWays(const UEdGraphNode& Node)
-	{
-		TArray<FWay> Ways;
-		for (const UEdGraphPin* const Pin : Node.Pins)
-		{
-			if (Pin->Direction != EGPD_Output || !PinExpression::IsExec(*Pin) || Pin->LinkedTo.IsEmpty())
-			{
-				continue;
-			}
-			const UEdGraphPin* const Entry = PinExpression::FollowReroutes(*Pin->LinkedTo[0]);
-			if (Entry && !PinExpression::IsPure(*Entry->GetOwningNode()))
-			{
-				Ways.Add({PinExpression::GetName(*Pin), Entry});
-			}
-		}
-		return Ways;
-	}
-
-	/** Whether a node's only way needs its name: it has others that lead nowhere, and is not the usual one. */
-	static bool NeedsLabel(const UEdGraphNode& Node, const FWay& Way)
-	{
-		int32 NumOutputs = 0;
-		for (const UEdGraphPin* const Pin : Node.Pins)
-		{
-			NumOutputs += Pin->Direction == EGPD_Output && PinExpression::IsExec(*Pin) && !Pin->bHidden ? 1 : 0;
-		}
-		return NumOutputs > 1 && !Way.Label.Equals(UEdGraphSchema_K2::PN_Then.ToString(), ESearchCase::IgnoreCase);
-	}
-
-	/** Draws a node and what runs behind it, as long as there is one way. */
-	void DrawChain(const UEdGraphNode& First, const FStyledLine& Rail, int32 Depth)
-	{
-		const UEdGraphNode* Node = &First;
-		while (Node)
-		{
-			Drawn.Add(Node);
-			const TArray<FWay> Ways = FindWays(*Node);
-			const bool bOneWay = Ways.Num() == 1;
-			FStyledLine Text = MakeNodeText(*Node, TextStyle::Strong);
-			if (bOneWay && NeedsLabel(*Node, Ways[0]))
-			{
-				Text.Add(TEXT("  ▸ ") + Ways[0].Label, TextStyle::Accent);
-			}
-			const UEdGraphNode* const Next = bOneWay ? Ways[0].Entry->GetOwningNode() : nullptr;
-			const bool bLast = Ways.IsEmpty();
-			AddText(Text, MakeRail(Rail, bLast ? TEXT("└ ") : TEXT("│ ")), MakeRail(Rail, bLast ? TEXT("  ") : TEXT("│ ")));
-			if (Ways.Num() > 1)
-			{
-				DrawWays(Ways, Rail, Depth);
-				return;
-			}
-			if (Next && Drawn.Contains(Next))
-			{
-				DrawPointer(*Next, Rail);
-				return;
-			}
-			Node = Next;
-		}
-	}
-
-	void DrawWaysOf(const UEdGraphNode& Node, const FStyledLine& Rail, int32 Depth)
-	{
-		const TArray<FWay> Ways = FindWays(Node);
-		if (Ways.Num() == 1)
-		{
-			DrawEntry(*Ways[0].Entry->GetOwningNode(), Rail, Depth);
-			return;
-		}
-		DrawWays(Ways, Rail, Depth);
-	}
-
-	void DrawWays(const TArray<FWay>& Ways, const FStyledLine& Rail, int32 Depth)
-	{
-		for (int32 Index = 0; Index < Ways.Num(); ++Index)
-		{
-			const bool bLast = Index + 1 == Ways.Num();
-			Lines.Add(MakeRail(Rail, bLast ? TEXT("└▸ ") : TEXT("├▸ ")).Add(Ways[Index].Label, TextStyle::Accent));
-			DrawEntry(*Ways[Index].Entry->GetOwningNode(), MakeRail(Rail, bLast ? TEXT("   ") : TEXT("│  ")), Depth + 1);
-		}
-	}
-
-	void DrawEntry(const UEdGraphNode& Node, const FStyledLine& Rail, int32 Depth)
-	{
-		if (Drawn.Contains(&Node))
-		{
-			DrawPointer(Node, Rail);
-			return;
-		}
-		if (Depth >= MaxDepth || Rail.GetWidth() + MinTextWidth > Width)
-		{
-			if (!Numbers.Contains(&Node))
-			{
-				Numbers.Add(&Node, Numbers.Num() + 1);
-			}
-			Postponed.Add(&Node);
-			DrawPointer(Node, Rail);
-			return;
-		}
-		DrawChain(Node, Rail, Depth);
-	}
-
-	/** Draws the ways that had no room, from the left edge. */
-	void DrawPostponed()
-	{
-		for (int32 Index = 0; Index < Postponed.Num(); ++Index)
-		{
-			if (!Drawn.Contains(Postponed[Index]))
-			{
-				Lines.AddDefaulted();
-				DrawChain(*Postponed[Index], FStyledLine(), 0);
-			}
-		}
-		Postponed.Reset();
-	}
-
-	void DrawPointer(const UEdGraphNode& Node, const FStyledLine& Rail)
-	{
-		const int32* const Number = Numbers.Find(&Node);
-		const FString Name = (Number ? FString::Printf(TEXT("#%d "), *Number) : FString()) + PinExpression::GetTitle(Node);
-		Lines.Add(MakeRail(Rail, TEXT("└ ")).Add(TEXT("↪ ") + Name, TextStyle::Accent).CutTo(Width));
-	}
-
-	static FStyledLine MakeRail(const FStyledLine& Rail, const TCHAR* Sign)
-	{
-		FStyledLine Line = Rail;
-		return Line.Add(Sign, TextStyle::Faint);
-	}
-
-	void AddText(const FStyledLine& Text, const FStyledLine& First, const FStyledLine& Rest)
-	{
-		FStyledLine Hanging = Rest;
-		Hanging.Add(FString::ChrN(HangingBlanks, TEXT(' ')));
-		Lines.Append(WrapText(Text, FMath::Max(Width, First.GetWidth() + MinTextWidth), First, Hanging));
-	}
-
-	const UEdGraph& Graph;
+	const FGraphSnapshot& Graph;
 	const int32 Width;
-	TArray<const UEdGraphNode_Comment*> Comments;
-	TArray<const UEdGraphNode*> Ghosts;
+	const FMergedGraph Merged;
+	const FGraphFlow Flow;
 	TArray<FStyledLine> Lines;
-	TMap<const UEdGraphNode*, int32> Numbers;
-	TSet<const UEdGraphNode*> Drawn;
-	TSet<const UEdGraphNode*> Used;
-	TArray<const UEdGraphNode*> Postponed;
+	/** Pure nodes whose values are in the text so far. */
+	TSet<int32> Shown;
 };
 }
 
-TArray<FStyledLine> DrawGraph(const UEdGraph& Graph, int32 Width)
+TArray<FStyledLine> DrawGraph(const FGraphSnapshot& Graph, int32 Width)
 {
 	return FPainter(Graph, Width).Draw();
+}
+
+void AddFlowText(TArray<FStyledLine>& Lines, const FStyledLine& Text, int32 Width, const FStyledLine& First, const FStyledLine& Next)
+{
+	FStyledLine Hanging = Next;
+	Hanging.Add(FString::ChrN(HangingBlanks, TEXT(' ')));
+	Lines.Append(WrapText(Text, FMath::Max(Width, First.GetWidth() + MinTextWidth), First, Hanging));
+}
+
+int32 GetPictureWidth(int32 WantedWidth)
+{
+	return FMath::Max(WantedWidth, MinTextWidth * 2);
+}
+
+TSet<int32> FindUsedValues(const FGraphSnapshot& Graph)
+{
+	TSet<int32> Used;
+	TArray<int32> Open;
+	const auto AddSources = [&](const FNodeSnapshot& Node)
+	{
+		for (const FPinSnapshot& Pin : Node.Pins)
+		{
+			const FPinLink Source = Pin.bInput && !Pin.bExec && !Pin.Links.IsEmpty() ? Graph.FollowReroutes(Pin.Links[0]) : FPinLink();
+			if (Source.IsSet() && Graph.Nodes[Source.Node].bPure && !Used.Contains(Source.Node))
+			{
+				Used.Add(Source.Node);
+				Open.Add(Source.Node);
+			}
+		}
+	};
+	for (const FNodeSnapshot& Node : Graph.Nodes)
+	{
+		if (!Node.bPure)
+		{
+			AddSources(Node);
+		}
+	}
+	while (!Open.IsEmpty())
+	{
+		AddSources(Graph.Nodes[Open.Pop()]);
+	}
+	return Used;
 }

@@ -1,151 +1,137 @@
 #include "PinExpression.h"
 
-#include "EdGraph/EdGraphNode.h"
-#include "EdGraph/EdGraphPin.h"
+#include "BlueprintSnapshot.h"
 #include "EdGraphSchema_K2.h"
-#include "K2Node.h"
-#include "K2Node_GetArrayItem.h"
-#include "K2Node_Knot.h"
-#include "K2Node_Self.h"
-#include "K2Node_VariableGet.h"
-#include "UObject/Object.h"
+#include "Misc/PackageName.h"
 
 namespace
 {
 constexpr int32 MaxDepth = 6;
 constexpr int32 MaxTextLength = 160;
-constexpr int32 MaxReroutes = 1000;
 const TCHAR* const Ellipsis = TEXT("…");
-
-FString Shorten(const FString& Text, int32 MaxLength)
-{
-	return Text.Len() <= MaxLength ? Text : Text.Left(MaxLength - 1) + Ellipsis;
-}
 
 class FExpressionWriter
 {
 public:
-	explicit FExpressionWriter(TSet<const UEdGraphNode*>& InUsed)
-		: Used(InUsed)
+	explicit FExpressionWriter(const FGraphSnapshot& InGraph)
+		: Graph(InGraph)
 	{
 	}
 
 	/** @param bOperand Whether the text stands inside another expression, so that an operator needs parentheses. */
-	FString WriteInput(const UEdGraphPin& Pin, int32 Depth, bool bOperand)
+	FString WriteInput(const FPinSnapshot& Pin, int32 Depth, bool bOperand)
 	{
-		if (Pin.LinkedTo.IsEmpty())
+		if (Pin.Links.IsEmpty())
 		{
 			return WriteDefault(Pin);
 		}
-		const UEdGraphPin* const Source = PinExpression::FollowReroutes(*Pin.LinkedTo[0]);
-		return Source ? WriteOutput(*Source, Depth, bOperand) : FString(TEXT("?"));
+		const FPinLink Source = Graph.FollowReroutes(Pin.Links[0]);
+		return Source.IsSet() ? WriteOutput(Source, Depth, bOperand) : FString(TEXT("?"));
 	}
 
-private:
-	static FString WriteDefault(const UEdGraphPin& Pin)
+	FString WriteDefault(const FPinSnapshot& Pin)
 	{
-		const FString Value = Pin.GetDefaultAsString();
-		const FName Category = Pin.PinType.PinCategory;
-		if (Value.IsEmpty())
+		if (Pin.Value.IsEmpty())
 		{
 			return FString();
 		}
-		if (Category == UEdGraphSchema_K2::PC_String || Category == UEdGraphSchema_K2::PC_Text)
+		if (Pin.Category == UEdGraphSchema_K2::PC_String || Pin.Category == UEdGraphSchema_K2::PC_Text)
 		{
-			return TEXT("\"") + Shorten(Value, MaxTextLength) + TEXT("\"");
+			return TEXT("\"") + Shorten(Pin.Value) + TEXT("\"");
 		}
-		if (Pin.DefaultObject)
-		{
-			return Pin.DefaultObject->GetName();
-		}
-		return Shorten(TrimNumber(Value), MaxTextLength);
+		// An object by the name that its path ends with.
+		const bool bPath = Pin.Value.StartsWith(TEXT("/"));
+		return Shorten(bPath ? FPackageName::ObjectPathToObjectName(Pin.Value) : ShortenNumber(Pin.Value));
 	}
 
-	/** "90.000000" as "90". */
-	static FString TrimNumber(const FString& Value)
+	/** Nodes whose values are in the text. */
+	TSet<int32> Used;
+	/** Whether something is left out of the text. */
+	bool bCut = false;
+
+private:
+	FString Shorten(const FString& Text)
 	{
-		if (!Value.IsNumeric() || !Value.Contains(TEXT(".")))
+		if (Text.Len() <= MaxTextLength)
 		{
-			return Value;
+			return Text;
 		}
-		FString Trimmed = Value;
-		while (Trimmed.RemoveFromEnd(TEXT("0")))
-		{
-		}
-		Trimmed.RemoveFromEnd(TEXT("."));
-		return Trimmed;
+		bCut = true;
+		return Text.Left(MaxTextLength - 1) + Ellipsis;
 	}
 
-	FString WriteOutput(const UEdGraphPin& Output, int32 Depth, bool bOperand)
+	FString WriteOutput(const FPinLink& Link, int32 Depth, bool bOperand)
 	{
-		const UEdGraphNode& Node = *Output.GetOwningNode();
-		if (Node.IsA<UK2Node_Self>())
+		const FNodeSnapshot& Node = Graph.Nodes[Link.Node];
+		const FPinSnapshot& Output = Graph.GetPin(Link);
+		if (Node.Form == ENodeForm::Self)
 		{
-			Used.Add(&Node);
+			Used.Add(Link.Node);
 			return TEXT("self");
 		}
-		if (!PinExpression::IsPure(Node))
+		if (!Node.bPure)
 		{
 			// The result of a call says nothing by its own name.
-			const bool bResult = Output.PinName == UEdGraphSchema_K2::PN_ReturnValue;
-			return bResult ? TEXT("result of ") + PinExpression::GetTitle(Node) : PinExpression::GetName(Output);
+			const bool bResult = Output.Name == UEdGraphSchema_K2::PN_ReturnValue;
+			return bResult ? TEXT("result of ") + Node.Title : Output.Label;
 		}
-		Used.Add(&Node);
 		if (Depth >= MaxDepth)
 		{
+			bCut = true;
 			return Ellipsis;
 		}
-		if (Node.IsA<UK2Node_VariableGet>())
+		Used.Add(Link.Node);
+		if (Node.Form == ENodeForm::VariableGet)
 		{
 			return WriteVariable(Node, Output, Depth);
 		}
 		return WriteCall(Node, Output, Depth, bOperand);
 	}
 
-	FString WriteVariable(const UEdGraphNode& Node, const UEdGraphPin& Output, int32 Depth)
+	FString WriteVariable(const FNodeSnapshot& Node, const FPinSnapshot& Output, int32 Depth)
 	{
-		const UEdGraphPin* const Target = Node.FindPin(UEdGraphSchema_K2::PN_Self, EGPD_Input);
-		const bool bOther = Target && !Target->LinkedTo.IsEmpty();
-		return (bOther ? WriteInput(*Target, Depth + 1, true) + TEXT(".") : FString()) + PinExpression::GetName(Output);
+		const FPinSnapshot* const Target = Node.Pins.FindByPredicate([](const FPinSnapshot& Pin)
+			{ return Pin.bInput && Pin.Name == UEdGraphSchema_K2::PN_Self; });
+		const bool bOther = Target && !Target->Links.IsEmpty();
+		return (bOther ? WriteInput(*Target, Depth + 1, true) + TEXT(".") : FString()) + Output.Label;
 	}
 
 	/** Inputs that a reader sees, and how many outputs a reader can choose from. */
-	static TArray<const UEdGraphPin*> FindOperands(const UEdGraphNode& Node, int32& OutNumOutputs)
+	static TArray<const FPinSnapshot*> FindOperands(const FNodeSnapshot& Node, int32& OutNumOutputs)
 	{
-		TArray<const UEdGraphPin*> Operands;
-		for (const UEdGraphPin* const Pin : Node.Pins)
+		TArray<const FPinSnapshot*> Operands;
+		for (const FPinSnapshot& Pin : Node.Pins)
 		{
-			if (Pin->bHidden || PinExpression::IsExec(*Pin))
+			if (Pin.bHidden || Pin.bExec)
 			{
 				continue;
 			}
-			if (Pin->Direction == EGPD_Input)
+			if (Pin.bInput)
 			{
-				Operands.Add(Pin);
+				Operands.Add(&Pin);
 			}
 			else
 			{
-				OutNumOutputs += Pin->ParentPin ? 0 : 1;
+				OutNumOutputs += Pin.Parent == INDEX_NONE ? 1 : 0;
 			}
 		}
 		return Operands;
 	}
 
-	FString WriteCall(const UEdGraphNode& Node, const UEdGraphPin& Output, int32 Depth, bool bOperand)
+	FString WriteCall(const FNodeSnapshot& Node, const FPinSnapshot& Output, int32 Depth, bool bOperand)
 	{
 		int32 NumOutputs = 0;
-		const TArray<const UEdGraphPin*> Operands = FindOperands(Node, NumOutputs);
-		const UK2Node* const Known = Cast<UK2Node>(&Node);
-		const FString Compact = Known && Node.ShouldDrawCompact() ? Known->GetCompactNodeTitle().ToString() : FString();
+		const TArray<const FPinSnapshot*> Operands = FindOperands(Node, NumOutputs);
+		const FString& Compact = Node.CompactTitle;
 		const bool bSign = !Compact.IsEmpty() && !FChar::IsAlpha(Compact[0]);
 		FString Text;
-		if (Node.IsA<UK2Node_GetArrayItem>() && Operands.Num() == 2)
+		if (Node.Form == ENodeForm::ArrayItem && Operands.Num() == 2)
 		{
 			Text = WriteInput(*Operands[0], Depth + 1, true) + TEXT("[") + WriteInput(*Operands[1], Depth + 1, false) + TEXT("]");
 		}
 		else if (bSign && Operands.Num() >= 2)
 		{
-			const FString Inner = FString::JoinBy(Operands, *(TEXT(" ") + Compact + TEXT(" ")), [&](const UEdGraphPin* Pin)
+			const FString Inner = FString::JoinBy(Operands, *(TEXT(" ") + Compact + TEXT(" ")), [&](const FPinSnapshot* Pin)
 				{ return WriteInput(*Pin, Depth + 1, true); });
 			Text = bOperand ? TEXT("(") + Inner + TEXT(")") : Inner;
 		}
@@ -157,77 +143,41 @@ private:
 		}
 		else
 		{
-			Text = PinExpression::GetTitle(Node) + WriteArguments(Operands, Depth);
+			Text = Node.Title + WriteArguments(Operands, Depth);
 		}
-		Text = Shorten(Text, MaxTextLength);
-		return NumOutputs > 1 ? Text + TEXT(".") + PinExpression::GetName(Output) : Text;
+		Text = Shorten(Text);
+		return NumOutputs > 1 ? Text + TEXT(".") + Output.Label : Text;
 	}
 
-	FString WriteArguments(const TArray<const UEdGraphPin*>& Operands, int32 Depth)
+	FString WriteArguments(const TArray<const FPinSnapshot*>& Operands, int32 Depth)
 	{
 		TArray<FString> Arguments;
-		for (const UEdGraphPin* const Pin : Operands)
+		for (const FPinSnapshot* const Pin : Operands)
 		{
 			const FString Value = WriteInput(*Pin, Depth + 1, false);
 			if (!Value.IsEmpty())
 			{
-				Arguments.Add(PinExpression::GetName(*Pin) + TEXT(": ") + Value);
+				Arguments.Add(Pin->Label + TEXT(": ") + Value);
 			}
 		}
 		return Arguments.IsEmpty() ? FString() : TEXT("(") + FString::Join(Arguments, TEXT(", ")) + TEXT(")");
 	}
 
-	TSet<const UEdGraphNode*>& Used;
+	const FGraphSnapshot& Graph;
 };
 }
 
-FString PinExpression::GetTitle(const UEdGraphNode& Node)
+FPinExpression WritePinExpression(const FGraphSnapshot& Graph, const FPinSnapshot& Input)
 {
-	const FString Title = Node.GetNodeTitle(ENodeTitleType::ListView).ToString().TrimStartAndEnd();
-	int32 LineEnd = INDEX_NONE;
-	const FString FirstLine = Title.FindChar(TEXT('\n'), LineEnd) ? Title.Left(LineEnd) : Title;
-	return FirstLine.IsEmpty() ? Node.GetName() : FirstLine;
+	FExpressionWriter Writer(Graph);
+	FPinExpression Expression;
+	Expression.Text = Writer.WriteInput(Input, 0, false);
+	Expression.Used = MoveTemp(Writer.Used);
+	Expression.bCut = Writer.bCut;
+	return Expression;
 }
 
-FString PinExpression::GetName(const UEdGraphPin& Pin)
+FString WritePinDefault(const FGraphSnapshot& Graph, const FPinSnapshot& Input)
 {
-	const FString Name = Pin.GetDisplayName().ToString();
-	return Name.IsEmpty() ? Pin.PinName.ToString() : Name;
-}
-
-bool PinExpression::IsExec(const UEdGraphPin& Pin)
-{
-	return Pin.PinType.PinCategory == UEdGraphSchema_K2::PC_Exec;
-}
-
-bool PinExpression::IsPure(const UEdGraphNode& Node)
-{
-	return !Node.Pins.ContainsByPredicate([](const UEdGraphPin* Pin)
-		{ return IsExec(*Pin); });
-}
-
-const UEdGraphPin* PinExpression::FollowReroutes(const UEdGraphPin& Linked)
-{
-	const UEdGraphPin* Pin = &Linked;
-	for (int32 Hops = 0; Hops < MaxReroutes; ++Hops)
-	{
-		const UEdGraphNode* const Node = Pin->GetOwningNodeUnchecked();
-		if (!Node || !Node->IsA<UK2Node_Knot>())
-		{
-			return Node ? Pin : nullptr;
-		}
-		const UEdGraphPin* const OtherSide = Node->FindPinByPredicate([Pin](const UEdGraphPin* Candidate)
-			{ return Candidate->Direction != Pin->Direction; });
-		if (!OtherSide || OtherSide->LinkedTo.IsEmpty())
-		{
-			return nullptr;
-		}
-		Pin = OtherSide->LinkedTo[0];
-	}
-	return nullptr;
-}
-
-FString PinExpression::GetInput(const UEdGraphPin& Pin, TSet<const UEdGraphNode*>& Used)
-{
-	return FExpressionWriter(Used).WriteInput(Pin, 0, false);
+	return FExpressionWriter(Graph).WriteDefault(Input);
 }

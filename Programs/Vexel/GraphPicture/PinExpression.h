@@ -2,26 +2,21 @@
 
 #include "CoreMinimal.h"
 
-class UEdGraphNode;
-class UEdGraphPin;
+struct FGraphSnapshot;
+struct FPinSnapshot;
 
-/** The values that flow into nodes, written as expressions: "Health - Damage", "Get Actor Location(Target: Door)". */
-namespace PinExpression
+/** The value that flows into an input, written as an expression: "Health - Damage", "Get Actor Location(Target: Door)". */
+struct FPinExpression
 {
-/** A node's title on one line. */
-FString GetTitle(const UEdGraphNode& Node);
+	/** Empty where the input has no value. */
+	FString Text;
+	/** Indices of the pure nodes that the text shows. */
+	TSet<int32> Used;
+	/** Whether something is left out of the text because it would be too long or too deep. */
+	bool bCut = false;
+};
 
-/** A pin as the user reads it. */
-FString GetName(const UEdGraphPin& Pin);
+FPinExpression WritePinExpression(const FGraphSnapshot& Graph, const FPinSnapshot& Input);
 
-bool IsExec(const UEdGraphPin& Pin);
-
-/** Whether a node only computes values: no execution wire runs through it. */
-bool IsPure(const UEdGraphNode& Node);
-
-/** The pin that a wire really comes from or goes to, behind any reroute nodes; null where it ends at one. */
-const UEdGraphPin* FollowReroutes(const UEdGraphPin& Linked);
-
-/** An input's value; empty where it has none that anybody set. Adds the pure nodes that it is computed by to Used. */
-FString GetInput(const UEdGraphPin& Pin, TSet<const UEdGraphNode*>& Used);
-}
+/** The value of an input while nothing is linked to it; empty where there is none. */
+FString WritePinDefault(const FGraphSnapshot& Graph, const FPinSnapshot& Input);

@@ -1,4 +1,5 @@
 #include "BlueprintLookup.h"
+#include "BlueprintSnapshot.h"
 #include "Commands.h"
 #include "Console.h"
 #include "Dom/JsonObject.h"
@@ -94,7 +95,7 @@ int32 ShowGraph(const FArguments& Arguments)
 		return *Status;
 	}
 	// One column is left free, as a terminal breaks a line that fills it.
-	const TArray<FStyledLine> Lines = DrawGraph(*Graph, FConsole::GetSize().X - 1);
+	const TArray<FStyledLine> Lines = DrawGraph(FGraphSnapshot::Take(*Graph), FConsole::GetSize().X - 1);
 	if (Arguments.Has(TEXT("--json")))
 	{
 		WriteJson(MakeGraphDocument(*Blueprint, *Graph, Lines));

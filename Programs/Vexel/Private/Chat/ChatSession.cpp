@@ -1,6 +1,7 @@
 #include "Chat/ChatSession.h"
 
 #include "BlueprintLookup.h"
+#include "BlueprintSnapshot.h"
 #include "Chat/ConversationList.h"
 #include "Commands.h"
 #include "Console.h"
@@ -361,7 +362,7 @@ TOptional<FString> FChatSession::ShowBlueprint(const TArray<FString>& Words)
 	{
 		return Reason;
 	}
-	TArray<FStyledLine> Lines = DrawGraph(*Graph, Display.GetWidth());
+	TArray<FStyledLine> Lines = DrawGraph(FGraphSnapshot::Take(*Graph), Display.GetWidth());
 	const TSharedRef<FJsonObject> Document = MakeGraphDocument(*Blueprint, *Graph, Lines);
 	if (GraphName.IsEmpty())
 	{

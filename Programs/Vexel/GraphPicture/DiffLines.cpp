@@ -1,0 +1,64 @@
+#include "DiffLines.h"
+
+#include "GraphPicture.h"
+
+namespace
+{
+constexpr int32 MaxValueLength = 120;
+
+FString Shorten(const FString& Value)
+{
+	return Value.Len() > MaxValueLength ? Value.Left(MaxValueLength - 1) + TEXT("…") : Value;
+}
+}
+
+void FDiffLines::AddChange(EDifference Difference, const FStyledLine& Text, const FString& Rail, const FString& NextRail)
+{
+	if (IsFull())
+	{
+		Count();
+		return;
+	}
+	const TCHAR* const Sign = Difference == EDifference::Added ? TEXT("+ ") : Difference == EDifference::Removed ? TEXT("- ")
+																												 : TEXT("~ ");
+	const FTextStyle RailStyle = Difference == EDifference::Changed ? TextStyle::Faint : DiffText::GetStyle(Difference);
+	FStyledLine First(Sign, DiffText::GetStyle(Difference));
+	FStyledLine Next(Sign, DiffText::GetStyle(Difference));
+	Add(Text, First.Add(Rail, RailStyle), Next.Add(NextRail, RailStyle));
+}
+
+void FDiffLines::AddContext(const FStyledLine& Text, const FString& Rail, const FString& NextRail)
+{
+	if (!IsFull())
+	{
+		Add(Text, FStyledLine(TEXT("  ") + Rail, TextStyle::Faint), FStyledLine(TEXT("  ") + NextRail, TextStyle::Faint));
+	}
+}
+
+void FDiffLines::Add(const FStyledLine& Text, const FStyledLine& First, const FStyledLine& Next)
+{
+	AddFlowText(Lines, Text, Width, First, Next);
+}
+
+TArray<FStyledLine> FDiffLines::Finish()
+{
+	if (NumLeftOut > 0)
+	{
+		Lines.Add(FStyledLine(FString::Printf(TEXT("  … and %d more"), NumLeftOut), TextStyle::Faint));
+	}
+	return MoveTemp(Lines);
+}
+
+FTextStyle DiffText::GetStyle(EDifference Difference)
+{
+	return Difference == EDifference::Added ? TextStyle::Good : Difference == EDifference::Removed ? TextStyle::Bad
+																								   : TextStyle::Accent;
+}
+
+void DiffText::AddValue(FStyledLine& Text, const FString& Name, const FString& Before, const FString& After)
+{
+	Text.Add(TEXT("  ") + Name + TEXT(": "), TextStyle::Faint);
+	Text.Add(Before.IsEmpty() ? FString(TEXT("none")) : Shorten(Before), TextStyle::Bad);
+	Text.Add(TEXT(" → "), TextStyle::Faint);
+	Text.Add(After.IsEmpty() ? FString(TEXT("none")) : Shorten(After), TextStyle::Good);
+}
