@@ -1,5 +1,4 @@
-#include "ForeignServiceFixture.h"
-#include "TerminalProgram.h"
+#include "TerminalChatFixture.h"
 
 #include <fstream>
 #include <gmock/gmock.h>
@@ -12,43 +11,7 @@ using testing::Not;
 const std::string CtrlC = "\x03";
 const std::string CtrlD = "\x04";
 
-/** A chat on a terminal with a service that follows a script. */
-class TerminalChat : public FForeignServiceTest
-{
-protected:
-	FProgramSurroundings MakeTerminalSurroundings() const
-	{
-		FProgramSurroundings Surroundings = MakeSurroundings("first\n");
-		Surroundings.Environment[2] = "VEXEL_CHAT_STALL_TIMEOUT_SECONDS=50";
-		Surroundings.Environment.push_back("XDG_STATE_HOME=" + (Project.GetPath() / "state").string());
-		return Surroundings;
-	}
-
-	std::vector<std::string> MakeWords() const
-	{
-		return {"chat", "--project", Project.GetPath(), "--service", GetUrl(), "--token-fd", "3"};
-	}
-
-	FProgramResult RunInPipe(const std::string& Input, std::vector<std::string> More = {}) const
-	{
-		std::vector<std::string> Words = MakeWords();
-		Words.insert(Words.end(), More.begin(), More.end());
-		FProgramSurroundings Surroundings = MakeTerminalSurroundings();
-		Surroundings.Input = Input;
-		return RunVexel(Words, Surroundings);
-	}
-};
-
-std::vector<nlohmann::json> ParseLines(const std::string& Output)
-{
-	std::vector<nlohmann::json> Events;
-	std::istringstream Lines(Output);
-	for (std::string Line; std::getline(Lines, Line);)
-	{
-		Events.push_back(nlohmann::json::parse(Line, nullptr, false));
-	}
-	return Events;
-}
+using TerminalChat = FTerminalChatTest;
 }
 
 TEST_F(TerminalChat, RendersMarkdownAndEndsWithCtrlD)

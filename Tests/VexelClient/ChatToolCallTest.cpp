@@ -190,7 +190,7 @@ TEST_F(ChatToolCall, ACallThatIsCancelledAsItStartsIsNotMade)
 	bool bFinished = false;
 	Subsystem->GetEvents().OnToolStarted.AddLambda([this](const FString& ChatId, const FString&, const FString&)
 		{ Subsystem->CancelRequest(ChatId); });
-	Subsystem->GetEvents().OnToolFinished.AddLambda([&](const FString&, const FString&, const FString&, const FVexelError*)
+	Subsystem->GetEvents().OnToolFinished.AddLambda([&](const FString&, const FString&, const FString&, const TVexelExpected<TSharedRef<FJsonObject>>&)
 		{ bFinished = true; });
 	RunTurn(TEXT("Go"));
 	EXPECT_FALSE(bFinished);

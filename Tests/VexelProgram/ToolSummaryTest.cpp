@@ -23,48 +23,42 @@ FChatToolCall MakeCall(const TCHAR* Tool, const FString& Input)
 	return Call;
 }
 
-std::vector<std::string> Summarize(const TCHAR* Tool, const FString& Input)
+std::vector<std::string> Find(const FString& Answer)
 {
-	std::vector<std::string> Edits;
-	for (const FString& Edit : SummarizeEdits(MakeCall(Tool, Input)))
+	TSharedPtr<FJsonObject> Object;
+	EXPECT_TRUE(FVexelJsonConversions::StringToJson(Answer, Object)) << TCHAR_TO_UTF8(*Answer);
+	std::vector<std::string> Problems;
+	for (const FString& Problem : FindProblems(*Object))
 	{
-		Edits.emplace_back(TCHAR_TO_UTF8(*Edit));
+		Problems.emplace_back(TCHAR_TO_UTF8(*Problem));
 	}
-	return Edits;
+	return Problems;
 }
 }
 
-TEST(ToolSummary, EachEditIsALine)
+TEST(ToolSummary, ErrorsOfItemsAndOfTheCompilerAreProblems)
 {
-	EXPECT_THAT(Summarize(TEXT("node_spawn"), TEXT(R"({"graph":"EventGraph","nodes":[{"node_type":"flow.if"},{"node_type":"var.get.Health"}]})")),
-		ElementsAre("+ node flow.if in EventGraph", "+ node var.get.Health in EventGraph"));
-	EXPECT_THAT(Summarize(TEXT("node_link"), TEXT(R"({"links":[{"from_node":"A_0","from_pin":"then","to_node":"B_0","to_pin":"execute"},
-		{"from_node":"A_0","from_pin":"x","to_node":"B_0","to_pin":"y","remove":true}]})")),
-		ElementsAre("+ link A_0.then → B_0.execute", "- link A_0.x → B_0.y"));
-	EXPECT_THAT(Summarize(TEXT("node_remove"), TEXT(R"({"graph":"Open","nodes":["A_0"]})")), ElementsAre("- node A_0 in Open"));
-	EXPECT_THAT(Summarize(TEXT("graph_add"), TEXT(R"({"graph":"Open"})")), ElementsAre("+ graph Open"));
-	EXPECT_THAT(Summarize(TEXT("graph_remove"), TEXT(R"({"graph":"Open"})")), ElementsAre("- graph Open"));
-	EXPECT_THAT(Summarize(TEXT("object_edit"), TEXT(R"({"requests":[{"target":{"node":"A_0"},"operations":[
-		{"operation":"update","prop_path":"Speed","value":"3"},{"operation":"add_variable","name":"Health"},{"operation":"remove","prop_path":"Tags"}]}]})")),
-		ElementsAre("~ update Speed = 3 of A_0", "+ add variable Health of A_0", "- remove Tags of A_0"));
-	EXPECT_THAT(Summarize(TEXT("read_blueprint"), TEXT(R"({"graph":"Open","nodes":["A_0"]})")), IsEmpty());
+	EXPECT_THAT(Find(TEXT(R"({"blueprint":{},"errors":["first","second"]})")), ElementsAre("first", "second"));
+	EXPECT_THAT(Find(TEXT(R"({"success":false,"compiler_messages":[{"severity":"error","message":"no such pin"},
+		{"severity":"info","message":"took 3 ms"},{"severity":"warning","message":"unused"}]})")),
+		ElementsAre("error: no such pin", "warning: unused"));
+	EXPECT_THAT(Find(TEXT(R"({"blueprint":{},"errors":[]})")), IsEmpty());
 }
 
-TEST(ToolSummary, StrangeAndLongInputIsBounded)
+TEST(ToolSummary, StrangeAndLongAnswersAreBounded)
 {
-	EXPECT_THAT(Summarize(TEXT("node_spawn"), TEXT(R"({"nodes":[1,null,"x",{}]})")), ElementsAre("+ node "));
-	EXPECT_THAT(Summarize(TEXT("object_edit"), TEXT(R"({"requests":{"operations":[]}})")), IsEmpty());
-	FString Nodes = TEXT("\"a\"");
+	EXPECT_THAT(Find(TEXT(R"({"errors":[1,null,{},"x"]})")), ElementsAre("x"));
+	EXPECT_THAT(Find(TEXT(R"({"errors":"none","compiler_messages":{}})")), IsEmpty());
+	FString Errors = TEXT("\"a\"");
 	for (int32 Index = 0; Index < 100; ++Index)
 	{
-		Nodes += TEXT(",\"node\"");
+		Errors += TEXT(",\"error\"");
 	}
-	const std::vector<std::string> Edits = Summarize(TEXT("node_remove"), TEXT("{\"nodes\":[") + Nodes + TEXT("]}"));
-	ASSERT_EQ(Edits.size(), 8u);
-	EXPECT_EQ(Edits.back(), "… and 94 more");
-	const std::vector<std::string> Long =
-		Summarize(TEXT("node_remove"), TEXT("{\"nodes\":[\"") + FString::ChrN(5000, TEXT('x')) + TEXT("\\n\\u001b[2J\"]}"));
-	EXPECT_LT(Long[0].size(), 100u);
+	const std::vector<std::string> Many = Find(TEXT("{\"errors\":[") + Errors + TEXT("]}"));
+	ASSERT_EQ(Many.size(), 8u);
+	EXPECT_EQ(Many.back(), "… and 94 more");
+	const std::vector<std::string> Long = Find(TEXT("{\"errors\":[\"") + FString::ChrN(5000, TEXT('x')) + TEXT("\\n\\u001b[2J\"]}"));
+	EXPECT_LT(Long[0].size(), 500u);
 }
 
 TEST(ToolSummary, TheSubjectIsTheNameThatPeopleUse)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BlueprintDiff.h"
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
 #include "StyledText.h"
@@ -25,8 +26,10 @@ struct FChatToolOutcome
 	FString DoneText;
 	/** Null when the tool did its work. */
 	const FVexelError* Error = nullptr;
-	/** What it changed, a short line each. */
-	TArray<FString> Edits;
+	/** What of its work could not be done, a line each. */
+	TArray<FString> Problems;
+	/** What it changed, also where it failed later. */
+	TArray<FBlueprintDiff> Changes;
 };
 
 /** Where a chat is shown. The calls come on the game thread, in the order in which things happen. */

@@ -2,9 +2,12 @@
 
 #include "BlueprintLookup.h"
 #include "BlueprintSnapshot.h"
+#include "BlueprintWatch.h"
+#include "Chat/ChangeLines.h"
 #include "Chat/ConversationList.h"
 #include "Commands.h"
 #include "Console.h"
+#include "DiffDocument.h"
 #include "EdGraph/EdGraph.h"
 #include "Editor.h"
 #include "Editor/EditorEngine.h"
@@ -339,11 +342,19 @@ TOptional<FString> FChatSession::Travel(bool bBack)
 		return FString(bBack ? TEXT("there is nothing to undo") : TEXT("there is nothing to redo"));
 	}
 	const FString What = (bBack ? GEditor->Trans->GetUndoContext() : GEditor->Trans->GetRedoContext()).Title.ToString();
+	FBlueprintWatch Watch;
 	if (!(bBack ? GEditor->UndoTransaction() : GEditor->RedoTransaction()))
 	{
 		return FString::Printf(TEXT("'%s' cannot be %s"), *What, bBack ? TEXT("undone") : TEXT("redone"));
 	}
-	Tell((bBack ? TEXT("undone: ") : TEXT("redone: ")) + What);
+	const TArray<FBlueprintDiff> Changes = Watch.TakeDiffs();
+	const FString Text = (bBack ? TEXT("undone: ") : TEXT("redone: ")) + What;
+	TArray<FStyledLine> Lines = {FStyledLine(Text, TextStyle::Faint)};
+	Lines.Append(DrawChanges(Changes, Display.GetWidth(), TEXT("  ")));
+	const TSharedRef<FJsonObject> Document = MakeShared<FJsonObject>();
+	Document->SetStringField(TEXT("text"), Text);
+	Document->SetArrayField(TEXT("changes"), MakeDiffDocuments(Changes));
+	Display.ShowResult(RunningCommand, Lines, Document);
 	return NullOpt;
 }
 

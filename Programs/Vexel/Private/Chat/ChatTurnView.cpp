@@ -68,6 +68,7 @@ TOptional<FString> FChatTurnView::RunTurn(const FString& ChatId, const FString& 
 	Failure.Reset();
 	SaveFailure.Reset();
 	FinalState.Reset();
+	Watch = MakeUnique<FBlueprintWatch>();
 	Display.BeginTurn(Message);
 	const TVexelExpected<void> Sent = Subsystem.SendMessage(ChatId, Message);
 	if (Sent.HasError())
@@ -91,6 +92,7 @@ TOptional<FString> FChatTurnView::RunTurn(const FString& ChatId, const FString& 
 		WaitForImages();
 		Failure = SaveFailure;
 	}
+	Watch.Reset();
 	Display.EndTurn(GetFinalState(), Failure);
 	return Failure.IsEmpty() ? NullOpt : TOptional<FString>(Failure);
 }
@@ -153,10 +155,16 @@ void FChatTurnView::OnToolStarted(const FString&, const FString& ReplyId, const 
 		Call->ReplyId = ReplyId;
 	}
 	Call->ProgressText = ProgressText;
+	if (Watch && OpenCalls.Num() == 1)
+	{
+		// What changed while no tool ran is no tool's work.
+		Watch->Forget();
+	}
 	Display.BeginTool(*Call);
 }
 
-void FChatTurnView::OnToolFinished(const FString&, const FString& ReplyId, const FString& DoneText, const FVexelError* Error)
+void FChatTurnView::OnToolFinished(
+	const FString&, const FString& ReplyId, const FString& DoneText, const TVexelExpected<TSharedRef<FJsonObject>>& ToolAnswer)
 {
 	const int32 Index = OpenCalls.IndexOfByPredicate([&](const FChatToolCall& Open)
 		{ return Open.ReplyId.Equals(ReplyId); });
@@ -166,7 +174,12 @@ void FChatTurnView::OnToolFinished(const FString&, const FString& ReplyId, const
 	}
 	const FChatToolCall Call = OpenCalls[Index];
 	OpenCalls.RemoveAt(Index);
-	Display.EndTool(Call, {.DoneText = DoneText, .Error = Error, .Edits = Error ? TArray<FString>() : SummarizeEdits(Call)});
+	FChatToolOutcome Outcome;
+	Outcome.DoneText = DoneText;
+	Outcome.Error = ToolAnswer.HasError() ? &ToolAnswer.GetError() : nullptr;
+	Outcome.Problems = ToolAnswer.HasError() ? TArray<FString>() : FindProblems(*ToolAnswer.GetValue());
+	Outcome.Changes = Watch ? Watch->TakeDiffs() : TArray<FBlueprintDiff>();
+	Display.EndTool(Call, Outcome);
 }
 
 void FChatTurnView::OnImageStored(const FString&, const FString&, const FString& Path)

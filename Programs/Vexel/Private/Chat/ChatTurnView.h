@@ -1,5 +1,6 @@
 #pragma once
 
+#include "BlueprintWatch.h"
 #include "Chat/ChatDisplay.h"
 #include "CoreMinimal.h"
 #include "Subsystem/VexelChatSubsystem.h"
@@ -25,7 +26,8 @@ private:
 	void OnText(const FString& ChatId, FStringView Text);
 	void OnBlock(const FString& ChatId, const FVexelChatMessageBlock& Block);
 	void OnToolStarted(const FString& ChatId, const FString& ReplyId, const FString& ProgressText);
-	void OnToolFinished(const FString& ChatId, const FString& ReplyId, const FString& DoneText, const FVexelError* Error);
+	void OnToolFinished(const FString& ChatId, const FString& ReplyId, const FString& DoneText,
+		const TVexelExpected<TSharedRef<FJsonObject>>& ToolAnswer);
 	void OnImageStored(const FString& ChatId, const FString& AssetId, const FString& Path);
 	void OnState(const FString& ChatId, EVexelChatRequestState State, const FVexelError* Error);
 	void OnSaveFailed(const FString& ChatId, const FVexelError& Error);
@@ -36,6 +38,8 @@ private:
 	IChatDisplay& Display;
 	/** Calls whose tool has not finished. */
 	TArray<FChatToolCall> OpenCalls;
+	/** There while a turn runs. */
+	TUniquePtr<FBlueprintWatch> Watch;
 	/** Images of the answer that are not in a file yet. */
 	int32 NumAwaitedImages = 0;
 	FString Answer;

@@ -1,6 +1,7 @@
 #include "Chat/EventChatDisplay.h"
 
 #include "Commands.h"
+#include "DiffDocument.h"
 #include "VexelError.h"
 
 namespace
@@ -71,12 +72,13 @@ void FEventChatDisplay::EndTool(const FChatToolCall& Call, const FChatToolOutcom
 	Event->SetStringField(TEXT("tool"), Call.Name);
 	SetOptional(Event, TEXT("text"), Outcome.Error ? FString() : Outcome.DoneText);
 	SetOptional(Event, TEXT("error"), Outcome.Error ? Outcome.Error->ToShortString() : FString());
-	TArray<TSharedPtr<FJsonValue>> Edits;
-	for (const FString& Edit : Outcome.Edits)
+	TArray<TSharedPtr<FJsonValue>> Problems;
+	for (const FString& Problem : Outcome.Problems)
 	{
-		Edits.Add(MakeShared<FJsonValueString>(Edit));
+		Problems.Add(MakeShared<FJsonValueString>(Problem));
 	}
-	Event->SetArrayField(TEXT("edits"), Edits);
+	Event->SetArrayField(TEXT("problems"), Problems);
+	Event->SetArrayField(TEXT("changes"), MakeDiffDocuments(Outcome.Changes));
 	WriteJsonLine(Event);
 }
 

@@ -1,5 +1,6 @@
 #include "Chat/PlainChatDisplay.h"
 
+#include "Chat/ChangeLines.h"
 #include "Console.h"
 #include "VexelError.h"
 
@@ -59,9 +60,13 @@ void FPlainChatDisplay::BeginTool(const FChatToolCall& Call)
 void FPlainChatDisplay::EndTool(const FChatToolCall&, const FChatToolOutcome& Outcome)
 {
 	WriteLine(TEXT("[") + (Outcome.Error ? TEXT("failed: ") + Outcome.Error->ToShortString() : Outcome.DoneText) + TEXT("]"));
-	for (const FString& Edit : Outcome.Edits)
+	for (const FString& Problem : Outcome.Problems)
 	{
-		WriteLine(TEXT("  ") + Edit);
+		WriteLine(TEXT("  ! ") + Problem);
+	}
+	for (const FStyledLine& Line : DrawChanges(Outcome.Changes, GetWidth(), TEXT("  ")))
+	{
+		WriteLine(Line.ToPlainText().TrimEnd());
 	}
 }
 

@@ -1,5 +1,6 @@
 #include "Chat/TerminalChatDisplay.h"
 
+#include "Chat/ChangeLines.h"
 #include "Chat/ToolSummary.h"
 #include "Console.h"
 #include "HAL/PlatformTime.h"
@@ -64,12 +65,6 @@ FStyledLine MakeToolLine(const FStyledLine& Sign, const FString& Text, const FCh
 		Line.Add(TEXT("  ") + FormatSeconds(Seconds), TextStyle::Faint);
 	}
 	return Line;
-}
-
-const FTextStyle& GetEditStyle(const FString& Edit)
-{
-	return Edit.StartsWith(TEXT("+")) ? TextStyle::Good : Edit.StartsWith(TEXT("-")) ? TextStyle::Bad
-																					 : TextStyle::Accent;
 }
 }
 
@@ -146,10 +141,12 @@ void FTerminalChatDisplay::EndTool(const FChatToolCall& Call, const FChatToolOut
 	{
 		FinalLines.Add(MakeToolLine(FStyledLine(FindSign(Call.Icon), TextStyle::Good), Outcome.DoneText, Call, Seconds));
 	}
-	for (const FString& Edit : Outcome.Edits)
+	for (const FString& Problem : Outcome.Problems)
 	{
-		FinalLines.Add(FStyledLine(TEXT("    ")).Add(Edit, GetEditStyle(Edit)).CutTo(GetWidth()));
+		FinalLines.Append(
+			WrapText(FStyledLine(Problem, TextStyle::Bad), GetWidth(), FStyledLine(TEXT("    ✗ "), TextStyle::Bad), TEXT("      ")));
 	}
+	FinalLines.Append(DrawChanges(Outcome.Changes, GetWidth(), TEXT("    ")));
 	Refresh();
 }
 

@@ -2,13 +2,14 @@
 
 #include "CoreMinimal.h"
 
+class FJsonObject;
 struct FChatToolCall;
 
 /**
- * What a call of a tool that edits was asked to change, a short line each: "+" what comes, "-" what goes, "~" what changes. Empty
- * for a tool that only reads. A long list is cut, and its last line counts the rest.
+ * What a tool says in its answer of parts of its work that it could not do, and of errors and warnings that it found, a line each. A
+ * long list is cut, and its last line counts the rest.
  */
-TArray<FString> SummarizeEdits(const FChatToolCall& Call);
+TArray<FString> FindProblems(const FJsonObject& Answer);
 
 /** What a call is about, in a word: the Blueprint, asset or query of its input; empty where it names none. */
 FString DescribeSubject(const FChatToolCall& Call);

@@ -513,11 +513,11 @@ void UVexelChatSubsystem::HandleToolCall(const TSharedRef<FVexelChatRequest>& Re
 		.OnStarted = [this, ChatId, ReplyId](const FString& ProgressText)
 		{ Events.OnToolStarted.Broadcast(ChatId, ReplyId, ProgressText); },
 		.OnFinished =
-			[WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, ReplyId](const FString& DoneText, const FVexelError* Error)
+			[WeakThis = TWeakObjectPtr<UVexelChatSubsystem>(this), ChatId, ReplyId](const FString& DoneText, const TVexelExpected<TSharedRef<FJsonObject>>& Answer)
 		{
 			if (UVexelChatSubsystem* const This = WeakThis.Get())
 			{
-				This->Events.OnToolFinished.Broadcast(ChatId, ReplyId, DoneText, Error);
+				This->Events.OnToolFinished.Broadcast(ChatId, ReplyId, DoneText, Answer);
 			}
 		}};
 	Call.Run(FVexelClient::Get().GetApiClient().ToSharedRef());

@@ -27,7 +27,7 @@ void FVexelToolCall::Run(const TSharedRef<FVexelHttp>& ApiClient) const
 			{
 				FVexelErrorContextRestore Restore(ErrorContext);
 				MakeShared<FVexelToolReply>(ApiClient, Call.Context, Call.IsWanted)->Send(Value);
-				Call.OnFinished(DoneText, Value.HasError() ? &Value.GetError() : nullptr);
+				Call.OnFinished(DoneText, Value);
 			};
 			if (IsInGameThread())
 			{

@@ -15,8 +15,8 @@ struct FVexelToolCall
 	TFunction<bool()> IsWanted;
 	/** Called on the game thread before the tool runs, with its progress text. */
 	TFunction<void(const FString& ProgressText)> OnStarted;
-	/** Called on the game thread when the tool has finished, with its done text and its error, if any. */
-	TFunction<void(const FString& DoneText, const FVexelError* Error)> OnFinished;
+	/** Called on the game thread when the tool has finished, with its done text and its answer or its error. */
+	TFunction<void(const FString& DoneText, const TVexelExpected<TSharedRef<FJsonObject>>& Answer)> OnFinished;
 
 	/** Runs the call on the game thread. A reply that cannot be sent is reported. */
 	void Run(const TSharedRef<FVexelHttp>& ApiClient) const;

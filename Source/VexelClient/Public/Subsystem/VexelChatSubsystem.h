@@ -22,9 +22,9 @@ struct FVexelChatEvents
 	DECLARE_MULTICAST_DELEGATE_ThreeParams(FOnRequestStateChanged, const FString& /*ChatId*/, EVexelChatRequestState, const FVexelError*);
 	DECLARE_MULTICAST_DELEGATE_ThreeParams(
 		FOnToolStarted, const FString& /*ChatId*/, const FString& /*ReplyId*/, const FString& /*ProgressText*/);
-	/** The error is null when the tool did its work. */
-	DECLARE_MULTICAST_DELEGATE_FourParams(
-		FOnToolFinished, const FString& /*ChatId*/, const FString& /*ReplyId*/, const FString& /*DoneText*/, const FVexelError*);
+	/** With what the tool answers to the service, or why it failed. */
+	DECLARE_MULTICAST_DELEGATE_FourParams(FOnToolFinished, const FString& /*ChatId*/, const FString& /*ReplyId*/,
+		const FString& /*DoneText*/, const TVexelExpected<TSharedRef<FJsonObject>>& /*Answer*/);
 
 	/** An image that the service has shown is at hand now, in a file. */
 	DECLARE_MULTICAST_DELEGATE_ThreeParams(FOnImageStored, const FString& /*ChatId*/, const FString& /*AssetId*/, const FString& /*Path*/);
