@@ -227,7 +227,7 @@ TEST_F(DiffPicture, VariablesAndWhatFollowsTheirNames)
 	ASSERT_EQ(Lines.size(), 4u);
 	EXPECT_EQ(Lines[0], "~ variable Health → Life");
 	EXPECT_THAT(Lines[1], testing::StartsWith("+ variable Speed  type: Float"));
-	EXPECT_THAT(Lines[2], testing::StartsWith("~ BP_Picture · Drawn  event graph"));
+	EXPECT_THAT(Lines[2], testing::StartsWith("~ BP_Picture · Drawn"));
 	EXPECT_EQ(Lines[3], "  1 node goes by the new name");
 }
 
@@ -264,7 +264,7 @@ TEST_F(DiffPicture, TheHeadingCountsAndStylesTellWhatIsWhat)
 	AddEvent(TEXT("Come"));
 	AddEvent(TEXT("Come2"));
 	const TArray<FStyledLine> Lines = DrawStyled();
-	EXPECT_EQ(Lines[0].ToPlainText(), TEXT("~ BP_Picture · Drawn  event graph  +2 -1 nodes  -1 wire"));
+	EXPECT_EQ(Lines[0].ToPlainText(), TEXT("~ BP_Picture · Drawn  +2 -1 nodes  -1 wire"));
 	for (const FStyledLine& Line : Lines)
 	{
 		const FString Text = Line.ToPlainText();

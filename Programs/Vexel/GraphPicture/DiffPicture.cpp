@@ -2,14 +2,14 @@
 
 #include "DiffLines.h"
 #include "GraphFlow.h"
-#include "GraphPicture.h"
 #include "InputChanges.h"
 #include "NodeText.h"
-#include "PinExpression.h"
 
 namespace
 {
 constexpr int32 SignWidth = 2;
+/** A sign, and the least room that a flow gives to a text. */
+constexpr int32 MinWidth = 36;
 
 FNodeStyles GetNodeStyles(EDifference Difference)
 {
@@ -121,7 +121,11 @@ private:
 		FTextStyle NameStyle = bSame && !Difference.IsRenamed() ? TextStyle::Plain : bSame ? TextStyle::Good
 																						   : DiffText::GetStyle(Difference.Kind);
 		NameStyle.bBold = true;
-		Text.Add(Graph.Name, NameStyle).Add(TEXT("  ") + Graph.Kind, TextStyle::Faint);
+		Text.Add(Graph.Name, NameStyle);
+		if (Graph.Kind != TEXT("event graph"))
+		{
+			Text.Add(TEXT("  ") + Graph.Kind, TextStyle::Faint);
+		}
 		AddCounts(Text, TEXT("nodes"), [this](EDifference Kind)
 			{ return Difference.CountNodes(Kind); });
 		AddCounts(Text, TEXT("wires"), [this](EDifference Kind)
@@ -234,7 +238,7 @@ private:
 		}
 		else
 		{
-			TSet<int32> Ignored;
+			FShownNodes Ignored;
 			Lines.AddContext(WritePlainLine(Line, FNodeStyles::All(TextStyle::Faint), Ignored), Line.Rail, Line.NextRail);
 		}
 	}
@@ -257,7 +261,7 @@ private:
 		return WritePlainLine(Line, GetNodeStyles(Line.Difference), Line.Difference == EDifference::Removed ? ShownBefore : ShownAfter);
 	}
 
-	FStyledLine WritePlainLine(const FFlowLine& Line, const FNodeStyles& Styles, TSet<int32>& Used) const
+	FStyledLine WritePlainLine(const FFlowLine& Line, const FNodeStyles& Styles, FShownNodes& NowShown) const
 	{
 		FStyledLine Text;
 		switch (Line.Kind)
@@ -278,7 +282,7 @@ private:
 		}
 		const FNodeSnapshot& Node = Merged.Get(Line.Node);
 		Text.Add(WriteNumber(Line.Node), Styles.Number);
-		Text.Append(WriteNode(Merged.GetGraph(Line.Node), Node, Styles, Used));
+		Text.Append(WriteNode(Merged.GetGraph(Line.Node), Node, Styles, NowShown));
 		if (Line.Kind == EFlowLine::Root)
 		{
 			Text.Add(WriteRootOutputs(Node), Styles.Label);
@@ -290,7 +294,7 @@ private:
 	FStyledLine WritePointedNode(int32 Index, const FNodeStyles& Styles) const
 	{
 		const FString& Title = Merged.Get(Index).Title;
-		TSet<int32> Ignored;
+		FShownNodes Ignored;
 		return NumByTitle.FindRef(Title) > 1 ? WriteNode(Merged.GetGraph(Index), Merged.Get(Index), Styles, Ignored)
 											 : FStyledLine(Title, Styles.Title);
 	}
@@ -318,8 +322,8 @@ private:
 			DiffText::AddValue(Text, Change.Label, Change.Before.Text, Change.After.Text);
 			if (!Change.Before.bCut && !Change.After.bCut)
 			{
-				ShownBefore.Append(Change.Before.Used);
-				ShownAfter.Append(Change.After.Used);
+				ShownBefore.Add(Change.Before);
+				ShownAfter.Add(Change.After);
 			}
 		}
 		for (const FAspectDifference& Aspect : Own ? (*Own)->Aspects : TArray<FAspectDifference>())
@@ -385,7 +389,7 @@ private:
 		}
 		for (const auto& [Index, Inputs] : InputChanges)
 		{
-			if (Merged.Get(Index).bPure && !Changed.Contains(Index) && !ShownAfter.Contains(Index))
+			if (Merged.Get(Index).bPure && !Changed.Contains(Index) && !ShownAfter.Named.Contains(Index) && !ShownAfter.Unnamed.Contains(Index))
 			{
 				DrawLooseNode(EDifference::Changed, Index);
 			}
@@ -402,7 +406,12 @@ private:
 				return false;
 			}
 		}
-		return Node.After == INDEX_NONE ? ShownBefore.Contains(Node.Before) : ShownAfter.Contains(Node.After);
+		if (Node.Kind == EDifference::Removed)
+		{
+			return ShownBefore.Named.Contains(Node.Before);
+		}
+		// The value of a conversion that stays is all that can change of it.
+		return ShownAfter.Named.Contains(Node.After) || (Node.Kind == EDifference::Changed && ShownAfter.Unnamed.Contains(Node.After));
 	}
 
 	void DrawLooseNode(EDifference Kind, int32 Index)
@@ -413,7 +422,7 @@ private:
 			Lines.Count();
 			return;
 		}
-		TSet<int32> Ignored;
+		FShownNodes Ignored;
 		Lines.AddChange(Kind,
 			Kind == EDifference::Changed ? WriteChangedNode(Index)
 										 : WriteNode(Merged.GetGraph(Index), Merged.Get(Index), GetNodeStyles(Kind), Ignored));
@@ -471,15 +480,15 @@ private:
 	TMap<int32, const FNodeDifference*> Changed;
 	TMap<FString, int32> NumByTitle;
 	/** Pure nodes, by their indices before and after, that the lines so far show. */
-	TSet<int32> ShownBefore;
-	TSet<int32> ShownAfter;
+	FShownNodes ShownBefore;
+	FShownNodes ShownAfter;
 	bool bDrewNode = false;
 };
 }
 
 TArray<FStyledLine> DrawDiff(const FBlueprintDiff& Diff, int32 Width, int32 MaxLines)
 {
-	FDiffLines Lines(GetPictureWidth(Width), MaxLines);
+	FDiffLines Lines(FMath::Max(Width, MinWidth), MaxLines);
 	if (!Diff.Settings.IsEmpty() || !Diff.ClassDefaults.IsEmpty() || !Diff.Members.IsEmpty())
 	{
 		Lines.AddChange(EDifference::Changed, FStyledLine(Diff.After->Name, TextStyle::Strong));

@@ -14,7 +14,7 @@ class FPainter
 public:
 	FPainter(const FGraphSnapshot& InGraph, int32 InWidth)
 		: Graph(InGraph)
-		, Width(GetPictureWidth(InWidth))
+		, Width(FMath::Max(InWidth, MinTextWidth * 2))
 		, Merged(Graph, nullptr, nullptr)
 		, Flow(Merged, Width)
 	{
@@ -31,7 +31,7 @@ public:
 		DrawTitles(TEXT("Nothing uses: "), FindPure([&](int32 Node)
 											   { return !UsedValues.Contains(Node); }));
 		DrawTitles(TEXT("Left out above: "), FindPure([&](int32 Node)
-												 { return UsedValues.Contains(Node) && !Shown.Contains(Node); }));
+												 { return UsedValues.Contains(Node) && !Shown.Named.Contains(Node) && !Shown.Unnamed.Contains(Node); }));
 		DrawTitles(TEXT("Without effect: "), Flow.GetGhosts());
 		return MoveTemp(Lines);
 	}
@@ -151,7 +151,7 @@ private:
 	const FGraphFlow Flow;
 	TArray<FStyledLine> Lines;
 	/** Pure nodes whose values are in the text so far. */
-	TSet<int32> Shown;
+	FShownNodes Shown;
 };
 }
 
@@ -165,11 +165,6 @@ void AddFlowText(TArray<FStyledLine>& Lines, const FStyledLine& Text, int32 Widt
 	FStyledLine Hanging = Next;
 	Hanging.Add(FString::ChrN(HangingBlanks, TEXT(' ')));
 	Lines.Append(WrapText(Text, FMath::Max(Width, First.GetWidth() + MinTextWidth), First, Hanging));
-}
-
-int32 GetPictureWidth(int32 WantedWidth)
-{
-	return FMath::Max(WantedWidth, MinTextWidth * 2);
 }
 
 TSet<int32> FindUsedValues(const FGraphSnapshot& Graph)

@@ -16,8 +16,5 @@ TArray<FStyledLine> DrawGraph(const FGraphSnapshot& Graph, int32 Width);
 /** Breaks a line of a flow where it is too wide; what it goes on with is indented. */
 void AddFlowText(TArray<FStyledLine>& Lines, const FStyledLine& Text, int32 Width, const FStyledLine& First, const FStyledLine& Next);
 
-/** The width that a picture is drawn for where the wanted one is too narrow for any. */
-int32 GetPictureWidth(int32 WantedWidth);
-
 /** Nodes whose values some node with an execution wire gets, over however many pure nodes. */
 TSet<int32> FindUsedValues(const FGraphSnapshot& Graph);

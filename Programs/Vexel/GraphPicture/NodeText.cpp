@@ -2,7 +2,6 @@
 
 #include "BlueprintSnapshot.h"
 #include "EdGraphSchema_K2.h"
-#include "PinExpression.h"
 
 TArray<int32> FindShownInputs(const FNodeSnapshot& Node)
 {
@@ -19,7 +18,7 @@ TArray<int32> FindShownInputs(const FNodeSnapshot& Node)
 	return Inputs;
 }
 
-FStyledLine WriteNode(const FGraphSnapshot& Graph, const FNodeSnapshot& Node, const FNodeStyles& Styles, TSet<int32>& Used)
+FStyledLine WriteNode(const FGraphSnapshot& Graph, const FNodeSnapshot& Node, const FNodeStyles& Styles, FShownNodes& Shown)
 {
 	FStyledLine Text(Node.Title, Styles.Title);
 	for (const int32 Index : FindShownInputs(Node))
@@ -30,7 +29,7 @@ FStyledLine WriteNode(const FGraphSnapshot& Graph, const FNodeSnapshot& Node, co
 			continue;
 		}
 		const FPinExpression Value = WritePinExpression(Graph, Pin);
-		Used.Append(Value.Used);
+		Shown.Add(Value);
 		if (!Value.Text.IsEmpty())
 		{
 			Text.Add(TEXT("  ") + Pin.Label + TEXT(": "), Styles.Label).Add(Value.Text, Styles.Value);

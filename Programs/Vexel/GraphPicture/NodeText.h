@@ -1,6 +1,7 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "PinExpression.h"
 #include "StyledText.h"
 
 struct FGraphSnapshot;
@@ -22,8 +23,22 @@ struct FNodeStyles
 /** Inputs of a node that a reader may see a value of. */
 TArray<int32> FindShownInputs(const FNodeSnapshot& Node);
 
-/** "Print String  In String: "Hello"  # why". Adds the pure nodes whose values are in it to Used. */
-FStyledLine WriteNode(const FGraphSnapshot& Graph, const FNodeSnapshot& Node, const FNodeStyles& Styles, TSet<int32>& Used);
+/** Pure nodes that a text is made of. */
+struct FShownNodes
+{
+	TSet<int32> Named;
+	/** The text has their values alone: conversions. */
+	TSet<int32> Unnamed;
+
+	void Add(const FPinExpression& Expression)
+	{
+		Named.Append(Expression.Named);
+		Unnamed.Append(Expression.Unnamed);
+	}
+};
+
+/** "Print String  In String: "Hello"  # why". Adds the pure nodes that it shows to Shown; those of texts that are cut may be missing in it. */
+FStyledLine WriteNode(const FGraphSnapshot& Graph, const FNodeSnapshot& Node, const FNodeStyles& Styles, FShownNodes& Shown);
 
 /** What a root gives to the nodes behind it: " → Damage, Damage Type"; empty without outputs. */
 FString WriteRootOutputs(const FNodeSnapshot& Root);

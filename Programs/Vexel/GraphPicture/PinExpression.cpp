@@ -44,10 +44,11 @@ public:
 		return Shorten(bPath ? FPackageName::ObjectPathToObjectName(Pin.Value) : ShortenNumber(Pin.Value));
 	}
 
-	/** Nodes whose values are in the text. */
-	TSet<int32> Used;
-	/** Whether something is left out of the text. */
-	bool bCut = false;
+	FPinExpression Finish(const FString& Text)
+	{
+		Expression.Text = Text;
+		return MoveTemp(Expression);
+	}
 
 private:
 	FString Shorten(const FString& Text)
@@ -56,7 +57,7 @@ private:
 		{
 			return Text;
 		}
-		bCut = true;
+		Expression.bCut = true;
 		return Text.Left(MaxTextLength - 1) + Ellipsis;
 	}
 
@@ -66,7 +67,7 @@ private:
 		const FPinSnapshot& Output = Graph.GetPin(Link);
 		if (Node.Form == ENodeForm::Self)
 		{
-			Used.Add(Link.Node);
+			Expression.Named.Add(Link.Node);
 			return TEXT("self");
 		}
 		if (!Node.bPure)
@@ -77,15 +78,15 @@ private:
 		}
 		if (Depth >= MaxDepth)
 		{
-			bCut = true;
+			Expression.bCut = true;
 			return Ellipsis;
 		}
-		Used.Add(Link.Node);
 		if (Node.Form == ENodeForm::VariableGet)
 		{
+			Expression.Named.Add(Link.Node);
 			return WriteVariable(Node, Output, Depth);
 		}
-		return WriteCall(Node, Output, Depth, bOperand);
+		return WriteCall(Link.Node, Output, Depth, bOperand);
 	}
 
 	FString WriteVariable(const FNodeSnapshot& Node, const FPinSnapshot& Output, int32 Depth)
@@ -118,12 +119,14 @@ private:
 		return Operands;
 	}
 
-	FString WriteCall(const FNodeSnapshot& Node, const FPinSnapshot& Output, int32 Depth, bool bOperand)
+	FString WriteCall(int32 NodeIndex, const FPinSnapshot& Output, int32 Depth, bool bOperand)
 	{
+		const FNodeSnapshot& Node = Graph.Nodes[NodeIndex];
 		int32 NumOutputs = 0;
 		const TArray<const FPinSnapshot*> Operands = FindOperands(Node, NumOutputs);
 		const FString& Compact = Node.CompactTitle;
 		const bool bSign = !Compact.IsEmpty() && !FChar::IsAlpha(Compact[0]);
+		(bSign && Operands.Num() == 1 ? Expression.Unnamed : Expression.Named).Add(NodeIndex);
 		FString Text;
 		if (Node.Form == ENodeForm::ArrayItem && Operands.Num() == 2)
 		{
@@ -164,20 +167,13 @@ private:
 	}
 
 	const FGraphSnapshot& Graph;
+	FPinExpression Expression;
 };
 }
 
 FPinExpression WritePinExpression(const FGraphSnapshot& Graph, const FPinSnapshot& Input)
 {
 	FExpressionWriter Writer(Graph);
-	FPinExpression Expression;
-	Expression.Text = Writer.WriteInput(Input, 0, false);
-	Expression.Used = MoveTemp(Writer.Used);
-	Expression.bCut = Writer.bCut;
-	return Expression;
-}
-
-FString WritePinDefault(const FGraphSnapshot& Graph, const FPinSnapshot& Input)
-{
-	return FExpressionWriter(Graph).WriteDefault(Input);
+	const FString Text = Writer.WriteInput(Input, 0, false);
+	return Writer.Finish(Text);
 }

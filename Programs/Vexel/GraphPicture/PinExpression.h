@@ -10,13 +10,12 @@ struct FPinExpression
 {
 	/** Empty where the input has no value. */
 	FString Text;
-	/** Indices of the pure nodes that the text shows. */
-	TSet<int32> Used;
+	/** Indices of the pure nodes that the text names. */
+	TSet<int32> Named;
+	/** Those of conversions, of which the text has the value alone. */
+	TSet<int32> Unnamed;
 	/** Whether something is left out of the text because it would be too long or too deep. */
 	bool bCut = false;
 };
 
 FPinExpression WritePinExpression(const FGraphSnapshot& Graph, const FPinSnapshot& Input);
-
-/** The value of an input while nothing is linked to it; empty where there is none. */
-FString WritePinDefault(const FGraphSnapshot& Graph, const FPinSnapshot& Input);
