@@ -1,7 +1,7 @@
+#include "AnsweringAddresses.h"
 #include "Browser.h"
 #include "ClearLine.h"
 #include "Program.h"
-#include "RawHttpClient.h"
 
 #include <arpa/inet.h>
 #include <csignal>
@@ -288,6 +288,22 @@ TEST_F(LoginCommand, TheDesktopGetsAnAddressWithoutSecretsThatWorksOnce)
 	EXPECT_FALSE(httplib::Client(Opened.substr(0, Opened.find("/auth-start"))).Get("/")) << "the page is gone with the login";
 }
 
+TEST_F(LoginCommand, NothingListensButAtTheLoopbackInterface)
+{
+	ASSERT_NO_FATAL_FAILURE(StartService());
+	const std::unique_ptr<FStartedProgram> Login = Start("login", true);
+	const std::string Opened = WaitForOpened();
+	std::smatch Callback;
+	const std::string Address = FollowStart(Opened);
+	ASSERT_TRUE(std::regex_search(Address, Callback, std::regex("localhost%3A([0-9]+)")));
+	for (const std::string& Port : {Url.substr(Url.rfind(':') + 1), Opened.substr(Opened.rfind(':') + 1), Callback[1].str()})
+	{
+		const std::set<std::string> Answering = FindAnsweringAddresses(std::stoi(Port));
+		EXPECT_THAT(Answering, testing::Contains("127.0.0.1"));
+		EXPECT_THAT(Answering, testing::IsSubsetOf({"127.0.0.1", "::1"}));
+	}
+}
+
 TEST_F(LoginCommand, ProgramsThatStartAtOnceShareOneLogin)
 {
 	// Each refresh takes a while, in which another program that did not wait for its turn would send the same token.
@@ -377,7 +393,7 @@ TEST_F(LoginCommand, AnUnreachableServiceDoesNotKeepTheLoginHere)
 	EXPECT_EQ(Run("logout").Output, "Nobody is logged in at " + Url + ".\n");
 }
 
-TEST_F(LoginCommand, NoSecretIsInTheLogTheProjectOrTheProcessList)
+TEST_F(LoginCommand, NoSecretIsInTheLogTheProjectTheHistoryOrTheProcessList)
 {
 	ASSERT_NO_FATAL_FAILURE(StartService());
 	const std::unique_ptr<FStartedProgram> Login = Start("login", false, {"--verbose"});
@@ -402,18 +418,31 @@ TEST_F(LoginCommand, NoSecretIsInTheLogTheProjectOrTheProcessList)
 		EXPECT_THAT(Done.Errors, Not(HasSubstr(Secret)));
 		EXPECT_THAT(Done.Output.substr(Done.Output.find("Ctrl-C cancels.")), Not(HasSubstr(Secret)));
 	}
+	const FProgramResult Chat = Run("chat", {"--project", Project.GetPath(), "--message", "What does function CanOpen of BP_Door do?"});
+	ASSERT_EQ(Chat.Status, 0) << Chat.Errors;
 	size_t NumFiles = 0;
-	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Data))
+	bool bHistory = false;
+	for (const auto& Entry : std::filesystem::recursive_directory_iterator(Project.GetPath()))
 	{
-		if (Entry.is_regular_file())
+		if (!Entry.is_regular_file())
 		{
-			std::ifstream Stream(Entry.path(), std::ios::binary);
-			EXPECT_THAT(std::string(std::istreambuf_iterator<char>(Stream), {}), Not(HasSubstr(Device[1].str()))) << Entry.path();
+			continue;
+		}
+		std::ifstream Stream(Entry.path(), std::ios::binary);
+		const std::string Text(std::istreambuf_iterator<char>(Stream), {});
+		bHistory = bHistory || Text.find("What does function CanOpen") != std::string::npos;
+		for (const std::string& Secret : {State[1].str(), Device[1].str(), std::string("Bearer"), std::string("eyJhbGci")})
+		{
+			EXPECT_THAT(Text, Not(HasSubstr(Secret))) << Entry.path();
+		}
+		if (Entry.path().string().starts_with(Data.string()))
+		{
 			EXPECT_EQ(Entry.status().permissions() & ~std::filesystem::perms::owner_all, std::filesystem::perms::none) << Entry.path();
 			++NumFiles;
 		}
 	}
 	EXPECT_GT(NumFiles, 0u);
+	EXPECT_TRUE(bHistory) << "the conversation is among the files";
 }
 
 TEST(AccountCommand, TheLocalServiceNeedsNoLogin)

@@ -2,6 +2,7 @@
 #include "Auth/VexelAuthPkce.h"
 #include "FreedMemoryWatch.h"
 #include "LoginFixture.h"
+#include "VexelSecureStorage.h"
 
 namespace
 {
@@ -83,4 +84,19 @@ TEST_F(LoginMemory, TheVerifierOfALoginThatEndsIsOverwritten)
 	Login->Cancel();
 	EXPECT_TRUE(Login->GetCodeVerifier().IsEmpty());
 	EXPECT_EQ(Watch.GetNumFound(), 0);
+}
+
+TEST_F(LoginMemory, TheTokenThatARefreshUsesUpIsOverwrittenWhereverItWas)
+{
+	LogIn();
+	const FString Token = TEXT("the-token-that-another-process-has-stored");
+	ASSERT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("rt"), Token).HasValue());
+	SetAnswer("/oauth/token", MakeTokens("the-next-refresh-token"));
+	const FString Refused = UTF8_TO_TCHAR(AccessToken);
+	const FFreedMemoryWatch Watch(Token);
+	const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(Refused);
+	ASSERT_TRUE(PumpUntil([&]
+		{ return Refresh.IsComplete(); }));
+	EXPECT_EQ(Watch.GetNumFound(), 0) << "on its way from the store through the form to the service";
+	EXPECT_EQ(ReadForm(FindRequests("/oauth/token")[1].Body)["refresh_token"], "the-token-that-another-process-has-stored");
 }

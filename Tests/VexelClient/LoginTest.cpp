@@ -4,10 +4,12 @@
 #include "LoginFixture.h"
 #include "VexelClient.h"
 #include "VexelHttpServer.h"
+#include "VexelInternalConfig.h"
 #include "VexelJson.h"
 #include "VexelSecureStorage.h"
 
 #include <gmock/gmock.h>
+#include <set>
 #include <sstream>
 
 namespace
@@ -596,5 +598,40 @@ TEST_F(Login, NoSecretReachesTheLog)
 			 Form["device_id"], Form["code"]})
 	{
 		EXPECT_THAT(Text, Not(HasSubstr(Secret)));
+	}
+}
+
+TEST_F(Login, NoSecretThatTheServiceSendsBackReachesTheLogOrAReport)
+{
+	FConfigValueBase* const Dsn = FVexelInternalConfig::Find(TEXT("SentryDsn"));
+	Dsn->SetOverride(FString::Printf(TEXT("http://public@127.0.0.1:%d/1"), Server.GetPort()));
+	SetAnswer("/api/1/envelope/", FScriptedAnswer::Json("{}"));
+	RestartModule();
+	std::set<std::string> Secrets;
+	for (const bool bApproved : {false, true})
+	{
+		Server.AnswerWith("/oauth/poll", [&](const FScriptedRequest& Request)
+			{
+				const bool bStatus = Request.Body.find("return_code") == std::string::npos;
+				return bApproved && bStatus ? FScriptedAnswer::Json(R"({"status":"approved"})") : FScriptedAnswer().Text("you sent " + Request.Body); });
+		EXPECT_THAT(WaitForEnd(OpenLogin()), HasSubstr("you sent "));
+		Secrets.insert({GetOpened("state"), GetOpened("device_id")});
+	}
+	TSharedPtr<FJsonObject> CodePoll;
+	ASSERT_TRUE(FVexelJsonConversions::StringToJson(UTF8_TO_TCHAR(FindRequests("/oauth/poll").back().Body.c_str()), CodePoll));
+	Secrets.insert(TCHAR_TO_UTF8(*CodePoll->GetStringField(TEXT("code_verifier"))));
+	EXPECT_EQ(Secrets.size(), 4u) << "two states, a verifier and this machine's id";
+	ASSERT_TRUE(WaitForRequests("/api/1/envelope/", 1));
+	Dsn->ClearOverride();
+	RestartModule();
+	std::string Told = Log.ToText();
+	for (const FScriptedRequest& Report : FindRequests("/api/1/envelope/"))
+	{
+		EXPECT_THAT(Report.Body, HasSubstr("you sent "));
+		Told += Report.Body;
+	}
+	for (const std::string& Secret : Secrets)
+	{
+		EXPECT_THAT(Told, Not(HasSubstr(Secret)));
 	}
 }

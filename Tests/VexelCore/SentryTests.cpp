@@ -311,6 +311,18 @@ TEST(Secrets, NoLineOfTheLogHasOne)
 	EXPECT_TRUE(Log.Contains("] [secret] and 7"));
 }
 
+TEST(Secrets, TheOldestAreForgottenAndThoseInUseAreNot)
+{
+	FVexelSecrets::Add(TEXT("secret-in-use"));
+	FVexelSecrets::Add(TEXT("secret-used-once"));
+	for (int32 Index = 0; Index < 100; ++Index)
+	{
+		FVexelSecrets::Add(FString::Printf(TEXT("another-secret-%03d"), Index));
+		FVexelSecrets::Add(TEXT("secret-in-use"));
+	}
+	EXPECT_EQ(ToUtf8(FVexelSecrets::Redact(TEXT("secret-in-use another-secret-099 secret-used-once"))), "[secret] [secret] secret-used-once");
+}
+
 TEST(Secrets, ShortWordsStayAndLongOnesGo)
 {
 	FVexelSecrets::Add(TEXT("short"));

@@ -2,6 +2,7 @@
 
 #include "HAL/CriticalSection.h"
 #include "Misc/ScopeLock.h"
+#include "VexelCrypto.h"
 #include "VexelHttpPayload.h"
 
 namespace
@@ -26,13 +27,21 @@ FSecretList& GetList()
 	return *List;
 }
 
-/** The one that was used last stays longest. */
+/** The one that was used last stays longest; one that goes is overwritten. */
 void Remember(TArray<FString>& Secrets, const FString& Text)
 {
-	Secrets.RemoveAll([&](const FString& Known)
-		{ return Known.Equals(Text); });
+	const int32 Known = Secrets.IndexOfByPredicate([&](const FString& Secret)
+		{ return Secret.Equals(Text); });
+	if (Known != INDEX_NONE)
+	{
+		FString Secret = MoveTemp(Secrets[Known]);
+		Secrets.RemoveAt(Known);
+		Secrets.Add(MoveTemp(Secret));
+		return;
+	}
 	if (Secrets.Num() == MaxSecrets)
 	{
+		FVexelCrypto::Wipe(Secrets[0]);
 		Secrets.RemoveAt(0);
 	}
 	Secrets.Add(Text);
@@ -65,7 +74,7 @@ void FVexelSecrets::Add(const FString& Secret)
 	{
 		return;
 	}
-	const FString InAddress = VexelInternal::Http::UrlEncode(Secret);
+	FString InAddress = VexelInternal::Http::UrlEncode(Secret);
 	FSecretList& List = GetList();
 	FScopeLock Guard(&List.Lock);
 	Remember(List.Secrets, Secret);
@@ -73,6 +82,7 @@ void FVexelSecrets::Add(const FString& Secret)
 	{
 		Remember(List.Secrets, InAddress);
 	}
+	FVexelCrypto::Wipe(InAddress);
 }
 
 FString FVexelSecrets::Redact(const FString& Text)

@@ -149,15 +149,15 @@ TVexelExpected<FString> FVexelSecureStorage::LoadValueString(const FString& Key)
 	TOptional<FVexelError> Failure;
 	for (const TUniquePtr<ISecretStore>& Store : MakeStores())
 	{
-		const TVexelExpected<TOptional<FString>> Loaded = Store->Load(Key);
+		TVexelExpected<TOptional<FString>> Loaded = Store->Load(Key);
 		if (Loaded.HasError())
 		{
 			Failure = Failure ? Failure : Loaded.GetError();
 		}
-		else if (const TOptional<FString>& Value = Loaded.GetValue())
+		else if (TOptional<FString>& Value = Loaded.GetValue())
 		{
 			FVexelSecrets::Add(*Value);
-			return *Value;
+			return MoveTemp(*Value);
 		}
 	}
 	if (Failure)

@@ -7,8 +7,8 @@ class VEXELCORE_API FVexelSecrets
 {
 public:
 	/**
-	 * Remembers a secret, as it is and as it stands in an address. The secure store and authenticated requests remember theirs by
-	 * themselves. Texts of fewer than eight characters are not remembered: words of a report would vanish for nothing.
+	 * Remembers a secret, as it is and as it stands in an address. The secure store, authenticated requests and logins remember
+	 * theirs by themselves. Texts of fewer than eight characters are not remembered: words of a report would vanish for nothing.
 	 */
 	static void Add(const FString& Secret);
 

@@ -36,6 +36,13 @@ struct FTurn
 	TSharedPtr<FVexelFileLock> Lock;
 };
 
+/** Empty where none is stored. */
+FVexelAuthSecret LoadRefreshToken()
+{
+	TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
+	return FVexelAuthSecret(Stored.HasValue() ? MoveTemp(Stored).GetValue() : FString());
+}
+
 bool IsCurrent(int32 Number)
 {
 	FVexelAuthData& Data = FVexelAuthData::Get();
@@ -64,8 +71,8 @@ TVexelTaskResult<FTurn> WaitForTurn(const FVexelAuthSecret& Held, int32 Number)
 				{
 					return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Another process is still refreshing the login");
 				}
-				const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
-				return FTurn{Stored.HasValue() && !Stored.GetValue().IsEmpty() ? FVexelAuthSecret(Stored.GetValue()) : Held, Turn.Lock}; });
+				const FVexelAuthSecret Stored = LoadRefreshToken();
+				return FTurn{Stored.IsEmpty() ? Held : Stored, Turn.Lock}; });
 }
 
 FVexelError MakeLateError()
@@ -125,8 +132,8 @@ void FVexelAuth::StartAutoLogin()
 {
 	VexelAuthReport::FScope Scope(TEXT("login"), TEXT("auto"));
 	FVexelAuthData& Data = FVexelAuthData::Get();
-	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(RefreshTokenKey);
-	const bool bUsable = Stored.HasValue() && !Stored.GetValue().IsEmpty();
+	const FVexelAuthSecret Stored = LoadRefreshToken();
+	const bool bUsable = !Stored.IsEmpty();
 	FVexelAuthNews News;
 	TVexelTaskResult<void> Refresh;
 	FLoginNumber Number = 0;
@@ -155,7 +162,7 @@ void FVexelAuth::StartAutoLogin()
 		return;
 	}
 	News.Tell();
-	InternalRefreshAccessToken(FVexelAuthSecret(Stored.GetValue()), true, Number).OnComplete([Refresh, Number](const TVexelExpected<void>& Result)
+	InternalRefreshAccessToken(Stored, true, Number).OnComplete([Refresh, Number](const TVexelExpected<void>& Result)
 		{
 			if (Result.HasError())
 			{

@@ -4,6 +4,7 @@
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
 #include "VexelInternalConfig.h"
+#include "VexelSecrets.h"
 #include "VexelTry.h"
 
 namespace
@@ -18,6 +19,9 @@ FConfigValueBase PortSetting(TEXT("AuthCallbackPort"), TEXT("4000"));
 TVexelExpected<TSharedRef<FVexelAuthLoginState>> FVexelAuthLoginState::Make()
 {
 	VEXEL_TRY(FVexelAuthPkce Pkce, FVexelAuthPkce::Make());
+	// Whatever the service makes of them in its answers, no line of the log is to hold them.
+	FVexelSecrets::Add(Pkce.CodeVerifier.Get());
+	FVexelSecrets::Add(Pkce.State.Get());
 	return TSharedRef<FVexelAuthLoginState>(new FVexelAuthLoginState(MoveTemp(Pkce)));
 }
 

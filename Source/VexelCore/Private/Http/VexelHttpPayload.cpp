@@ -9,6 +9,9 @@
 
 namespace
 {
+/** Three escaped bytes, which a character takes at most; one beyond 16 bits takes four, and two characters. */
+constexpr int32 LongestEscape = 9;
+
 void AppendUtf8(TArray<uint8>& Bytes, const FString& Text)
 {
 	const FTCHARToUTF8 Utf8(*Text, Text.Len());
@@ -62,7 +65,14 @@ FVexelHttpUrlParams& FVexelHttpUrlParams::Add(const FString& Key, const FString&
 
 FString FVexelHttpUrlParams::ToUrlEncodedString() const
 {
+	int32 LongestText = 0;
+	for (const TTuple<FString, FString>& Pair : Pairs)
+	{
+		LongestText += LongestEscape * (Pair.Get<0>().Len() + Pair.Get<1>().Len()) + 2;
+	}
+	// At once, because a text that grows leaves its values behind in the memory that it gives up.
 	FString Text;
+	Text.Reserve(LongestText);
 	for (const TTuple<FString, FString>& Pair : Pairs)
 	{
 		if (!Text.IsEmpty())
@@ -134,6 +144,7 @@ namespace VexelInternal::Http
 FString UrlEncode(const FString& Text)
 {
 	FString Encoded;
+	Encoded.Reserve(LongestEscape * Text.Len());
 	AppendUrlEncoded(Encoded, Text);
 	return Encoded;
 }
