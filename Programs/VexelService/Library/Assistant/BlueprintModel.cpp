@@ -17,6 +17,10 @@ constexpr std::size_t MaxLinksOfPin = 500;
 constexpr std::size_t MaxVariables = 2000;
 constexpr std::size_t MaxValueBytes = 2000;
 constexpr int MaxValueDepth = 6;
+constexpr std::size_t MaxPartsOfValue = 500;
+constexpr const char* DefaultObjectId = "$ClassDefaultObject";
+constexpr const char* VariableFlags[] = {
+	"instance_editable", "read_only", "private", "expose_on_spawn", "save_game", "transient", "replicated"};
 
 // The editor shows "Array Element" where the pin may be called "ArrayElement".
 bool SamePinId(std::string_view A, std::string_view B)
@@ -88,6 +92,27 @@ std::string ValueAsText(const FJson* Value, int Depth)
 	return Value->is_primitive() ? JsonLine(*Value) : std::string();
 }
 
+std::vector<FBlueprintProperty> ReadParts(const FJson* Value, int Depth);
+
+FBlueprintProperty ReadProperty(const FJson& Object, int Depth)
+{
+	const FJson* const Value = FindMember(Object, "value");
+	return {IdMember(Object), TextMember(Object, "type"), ValueAsText(Value), ReadParts(Value, Depth + 1)};
+}
+
+std::vector<FBlueprintProperty> ReadParts(const FJson* Value, int Depth)
+{
+	std::vector<FBlueprintProperty> Parts;
+	for (const FJson& Part : Value&& Depth <= MaxValueDepth ? ArrayMember(*Value, "properties") : FJson::array())
+	{
+		if (Parts.size() < MaxPartsOfValue)
+		{
+			Parts.push_back(ReadProperty(Part, Depth));
+		}
+	}
+	return Parts;
+}
+
 FBlueprintPin ReadPin(const FJson& Object)
 {
 	FBlueprintPin Pin;
@@ -105,6 +130,40 @@ FBlueprintPin ReadPin(const FJson& Object)
 		Pin.Links.push_back({TextMember(Link, "node"), TextMember(Link, "pin")});
 	}
 	return Pin;
+}
+
+std::vector<std::string> ReadFlags(const FJson& Variable)
+{
+	std::vector<std::string> Flags;
+	for (const char* const Flag : VariableFlags)
+	{
+		const FJson* const Value = FindMember(Variable, Flag);
+		if (Value && Value->is_boolean() && Value->get<bool>())
+		{
+			Flags.emplace_back(Flag);
+		}
+	}
+	return Flags;
+}
+
+void ReadVariables(const FJson& Object, const char* Key, std::vector<FBlueprintVariable>& Variables, bool& bComplete)
+{
+	for (const FJson& Item : ArrayMember(Object, Key))
+	{
+		if (Variables.size() == MaxVariables)
+		{
+			bComplete = false;
+			break;
+		}
+		std::string Scope = TextMember(Item, "scope");
+		if (Scope.empty())
+		{
+			Scope = TextMember(Item, "scope_id");
+		}
+		FBlueprintProperty Property = ReadProperty(Item, 0);
+		Variables.push_back({std::move(Property.Id), std::move(Property.Type), std::move(Property.Value), TextMember(Item, "category"),
+			std::move(Scope), std::move(Property.Parts), ReadFlags(Item)});
+	}
 }
 
 FBlueprintNode ReadNode(const FJson& Object, bool& bComplete)
@@ -128,26 +187,8 @@ FBlueprintNode ReadNode(const FJson& Object, bool& bComplete)
 		}
 		Node.Pins.push_back(ReadPin(Pin));
 	}
+	ReadVariables(Object, "editable_pins", Node.EditablePins, bComplete);
 	return Node;
-}
-
-void ReadVariables(const FJson& Object, std::vector<FBlueprintVariable>& Variables, bool& bComplete)
-{
-	for (const FJson& Item : ArrayMember(Object, "variables"))
-	{
-		if (Variables.size() == MaxVariables)
-		{
-			bComplete = false;
-			break;
-		}
-		std::string Scope = TextMember(Item, "scope");
-		if (Scope.empty())
-		{
-			Scope = TextMember(Item, "scope_id");
-		}
-		Variables.push_back({IdMember(Item), TextMember(Item, "type"), ValueAsText(FindMember(Item, "value")), TextMember(Item, "category"),
-			std::move(Scope)});
-	}
 }
 
 // The kind is told by its word, whichever prefix or spelling it comes with ("GT_Ubergraph", "event_graph", "function").
@@ -182,7 +223,7 @@ FBlueprintGraph ReadGraph(const FJson& Object, bool& bComplete)
 		}
 		Graph.Nodes.push_back(ReadNode(Node, bComplete));
 	}
-	ReadVariables(Object, Graph.Variables, bComplete);
+	ReadVariables(Object, "variables", Graph.Variables, bComplete);
 	Graph.IndexNodes();
 	return Graph;
 }
@@ -206,6 +247,13 @@ std::vector<std::string> ReadParentChain(const FJson& Export)
 	return Chain;
 }
 
+}
+
+const FBlueprintProperty* FBlueprintProperty::FindPart(std::string_view PartId) const
+{
+	const auto Found = std::find_if(Parts.begin(), Parts.end(), [PartId](const FBlueprintProperty& Part)
+		{ return EqualIgnoringCase(Part.Id, PartId); });
+	return Found == Parts.end() ? nullptr : &*Found;
 }
 
 const FBlueprintPin* FBlueprintNode::FindPin(std::string_view PinId) const
@@ -275,7 +323,14 @@ std::optional<FBlueprintModel> ReadBlueprintModel(const FJson& Export)
 		}
 		Model.Graphs.push_back(ReadGraph(Graph, Model.bComplete));
 	}
-	ReadVariables(Export, Model.Variables, Model.bComplete);
+	ReadVariables(Export, "variables", Model.Variables, Model.bComplete);
+	for (const FJson& Property : ArrayMember(Export, "properties"))
+	{
+		if (IdMember(Property) == DefaultObjectId)
+		{
+			Model.Defaults = ReadProperty(Property, 0);
+		}
+	}
 	return Model;
 }
 

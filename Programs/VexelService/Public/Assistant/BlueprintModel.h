@@ -34,20 +34,18 @@ struct FBlueprintPin
 	bool IsExec() const { return Type == "exec"; }
 };
 
-struct FBlueprintNode
+/** A value with its parts: the fields of a struct or an object, the elements of a container. */
+struct FBlueprintProperty
 {
+	/** Its name, or the index of an element. */
 	std::string Id;
-	/** The node-type id; empty when the export names none. */
 	std::string Type;
-	/** The "name" property that custom events have. */
-	std::string Name;
-	std::vector<FBlueprintPin> Pins;
+	/** All of it as text. */
+	std::string Value;
+	std::vector<FBlueprintProperty> Parts;
 
-	/** Ids compare without regard to case, as the editor's names do. */
-	const FBlueprintPin* FindPin(std::string_view PinId) const;
-	const FBlueprintPin* FindInput(std::string_view PinId) const;
-	const FBlueprintPin* FindOutput(std::string_view PinId) const;
-	bool HasExecPin(bool bInput) const;
+	/** Null when no part has the id, compared as the editor's names are. */
+	const FBlueprintProperty* FindPart(std::string_view PartId) const;
 };
 
 struct FBlueprintVariable
@@ -58,6 +56,27 @@ struct FBlueprintVariable
 	std::string Category;
 	/** "member", "in", "out" or "local". */
 	std::string Scope;
+	std::vector<FBlueprintProperty> Parts = {};
+	/** The keys of what else holds of it: "instance_editable", "private". */
+	std::vector<std::string> Flags = {};
+};
+
+struct FBlueprintNode
+{
+	std::string Id;
+	/** The node-type id; empty when the export names none. */
+	std::string Type;
+	/** The "name" property that custom events have. */
+	std::string Name;
+	std::vector<FBlueprintPin> Pins;
+	/** The pins that the user has defined, as variables of the scope "in" or "out". */
+	std::vector<FBlueprintVariable> EditablePins;
+
+	/** Ids compare without regard to case, as the editor's names do. */
+	const FBlueprintPin* FindPin(std::string_view PinId) const;
+	const FBlueprintPin* FindInput(std::string_view PinId) const;
+	const FBlueprintPin* FindOutput(std::string_view PinId) const;
+	bool HasExecPin(bool bInput) const;
 };
 
 enum class EGraphKind
@@ -101,6 +120,8 @@ struct FBlueprintModel
 	std::string Kind;
 	std::vector<FBlueprintGraph> Graphs;
 	std::vector<FBlueprintVariable> Variables;
+	/** The class's default object, as far as it differs from the parent class's; it has no parts when it is not exported. */
+	FBlueprintProperty Defaults;
 	/** False when the export was larger than the limits and the rest was left out. */
 	bool bComplete = true;
 
