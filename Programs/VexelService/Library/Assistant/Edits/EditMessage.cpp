@@ -96,7 +96,7 @@ private:
 		const bool bOpens = Before == 0 && IsAt(Before, "in|inside|for|on|of");
 		const bool bEnds = IsMarkAt(Mention.End);
 		const bool bWithin = IsAt(Before, "in|inside|within");
-		const bool bOf = IsAt(Before, "of") && !(Before > 0 && IsAt(Before - 1, "instance|actor|copy|class|kind|type"));
+		const bool bOf = IsAt(Before, "of") && !(Before > 0 && IsAt(Before - 1, "instance|actor|copy|class|kind|type|array|list|set|map|reference|subclass|object|objects"));
 		const bool bToward = bEnds && IsAt(Before, "to|from|on|for|by") && IsBlueprintName(Mention.Name) && !FollowsCast(Before);
 		if (!bOpens && !bWithin && !bOf && !bToward)
 		{
@@ -131,7 +131,7 @@ private:
 
 	bool FollowsCast(std::size_t Before) const
 	{
-		return Before > 0 && IsAt(Before - 1, "cast|casts|class|level|map|equal|set");
+		return Before > 0 && IsAt(Before - 1, "cast|casts|class|level|map|equal|set|reference|references|ref|pointer");
 	}
 
 	static bool IsBlueprintName(const std::string& Name)

@@ -57,6 +57,10 @@ FJson ToJson(const FVariableToAdd& Variable)
 	{
 		Description["category"] = Variable.Category;
 	}
+	for (const auto& [Flag, bValue] : Variable.Flags)
+	{
+		Description[Flag] = bValue;
+	}
 	return Description;
 }
 

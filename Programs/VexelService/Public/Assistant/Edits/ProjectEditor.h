@@ -4,6 +4,7 @@
 #include "Assistant/ProjectReader.h"
 #include "Support/JsonText.h"
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -66,6 +67,8 @@ struct FVariableToAdd
 	std::string Scope = "member";
 	/** May be empty. */
 	std::string Category = {};
+	/** "instance_editable", "private" and the like, where they are to change. */
+	std::map<std::string, bool> Flags = {};
 };
 
 struct FCompilerMessage

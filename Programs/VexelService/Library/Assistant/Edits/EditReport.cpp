@@ -1,0 +1,190 @@
+#include "EditReport.h"
+
+#include "Assistant/AssetFinder.h"
+#include "Assistant/Markdown.h"
+#include "Assistant/NameMatch.h"
+#include "Assistant/UsageSearch.h"
+#include "Assistant/Words.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace VexelService
+{
+
+namespace
+{
+
+constexpr std::size_t MaxShownMessages = 10;
+constexpr std::size_t MaxShownUses = 10;
+constexpr std::size_t MaxShownValue = 200;
+constexpr std::size_t MaxOtherUsers = 20;
+constexpr std::size_t MaxListedBlueprints = 200;
+
+struct FExplanation
+{
+	/** Stands in the editor's text. */
+	std::string_view Text;
+	const char* Meaning;
+};
+
+// What the editor's errors mean to somebody who does not know its inside. The first that fits is told.
+constexpr FExplanation Explanations[] = {
+	{"already exists", "The name is taken."},
+	{"Failed to load subcategory object", "It knows no class, struct or enumeration of that name."},
+	{"Unknown collection type", "It knows no such type."},
+	{"Failed to add variable", "It does not take the name or the type."},
+	{"Failed to import text", "The value does not fit the type."},
+	{"reference string", "The value is no reference to an object."},
+	{"does not contain a valid compound", "The object is not part of the class's defaults: a component that the Blueprint itself adds cannot be "
+										  "reached this way, only those of its parent class."},
+	{"is not a compound", "That has no properties or elements of its own."},
+	{"out of range", "There is no such place in the list."},
+	{"is not editable", "The editor does not let it be changed."},
+	{"not found in compound", "There is no property of that name."},
+	{"Cannot add input pins", "It takes no such pin."},
+};
+
+std::string CompileInWords(FProjectEditor& Editor, const std::string& Subject)
+{
+	const FCompileOutcome Outcome = Editor.Compile();
+	if (!Outcome.bDone)
+	{
+		return Subject + " could not be compiled. The editor says: " + Code(Outcome.Errors.empty() ? "" : Outcome.Errors.front()) + "\n";
+	}
+	std::vector<const FCompilerMessage*> Shown;
+	for (const FCompilerMessage& Message : Outcome.Messages)
+	{
+		if (Message.IsError() || Message.IsWarning())
+		{
+			Shown.push_back(&Message);
+		}
+	}
+	if (Shown.empty())
+	{
+		return Subject + (Outcome.bSuccess ? " compiles without a warning.\n" : " does not compile, and the editor does not say why.\n");
+	}
+	std::string Text = Subject + (Outcome.bSuccess ? " compiles, with warnings:\n\n" : " does not compile now:\n\n");
+	for (std::size_t Index = 0; Index < std::min(Shown.size(), MaxShownMessages); ++Index)
+	{
+		Text += "- " + Shown[Index]->Severity + ": " + Shown[Index]->Text + "\n";
+	}
+	return Shown.size() > MaxShownMessages ? Text + "- and " + CountOf(Shown.size() - MaxShownMessages, "other") + "\n" : Text;
+}
+
+std::string TellUses(const FBlueprintModel& Model, const std::string& Name, const std::vector<std::string>& Uses)
+{
+	std::string Text = Bold(Name) + " is used in " + CountOf(Uses.size(), "place") + " of " + Bold(Model.Name) + ":\n\n";
+	for (std::size_t Index = 0; Index < std::min(Uses.size(), MaxShownUses); ++Index)
+	{
+		Text += "- " + UpperFirst(Uses[Index]) + "\n";
+	}
+	return Uses.size() > MaxShownUses ? Text + "- and " + CountOf(Uses.size() - MaxShownUses, "other") + "\n" : Text;
+}
+
+/** Blueprints that refer to this one, and use a member of that name which is none of their own. */
+std::vector<const FBlueprintModel*> FindOtherUsers(FEditSession& Session, const std::string& Name)
+{
+	FProjectReader& Reader = Session.Editor.GetReader();
+	const std::optional<FJson> Info = Reader.ReadAssetInfo(PackageOf(Session.Editor.GetPath()));
+	const FJson* const Referencers = Info ? FindMember(*Info, "referencers") : nullptr;
+	const FJson Packages = Referencers ? ArrayMember(*Referencers, "hard") : FJson::array();
+	const std::optional<FAssetList> List =
+		Packages.empty() ? std::nullopt : Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxListedBlueprints});
+	std::vector<const FBlueprintModel*> Users;
+	for (const FAssetRow& Row : List ? List->Rows : std::vector<FAssetRow>())
+	{
+		const bool bRefers = std::find(Packages.begin(), Packages.end(), PackageOf(Row.Path)) != Packages.end();
+		const FBlueprintModel* const Model = bRefers && Users.size() < MaxOtherUsers ? Reader.ReadBlueprint(Row.Path) : nullptr;
+		const std::vector<std::string> Own = Model ? MemberNames(*Model) : std::vector<std::string>();
+		const bool bOwn = std::any_of(Own.begin(), Own.end(), [&Name](const std::string& Member)
+			{ return SameName(Member, Name); });
+		if (Model && !bOwn && !FindMemberUses(*Model, Name).empty())
+		{
+			Users.push_back(Model);
+		}
+	}
+	return Users;
+}
+
+}
+
+void TellCompile(FEditSession& Session, const std::vector<std::string>& Others)
+{
+	if (!Session.IsOver())
+	{
+		Session.Say(CompileInWords(Session.Editor, "It"));
+	}
+	for (const std::string& Path : Others)
+	{
+		FProjectEditor Other(Session.Editor.GetReader(), Path);
+		if (!Session.IsOver())
+		{
+			Session.Say("\n" + CompileInWords(Other, Bold(ShortName(Path))));
+		}
+	}
+}
+
+void TellRefusal(FEditSession& Session, const std::string& What, const std::vector<std::string>& Errors)
+{
+	if (Session.IsOver())
+	{
+		return;
+	}
+	std::string Text = "I could not " + What + ", and left everything as it was.";
+	for (const std::string& Error : Errors)
+	{
+		const auto Meaning = std::find_if(std::begin(Explanations), std::end(Explanations), [&Error](const FExplanation& Row)
+			{ return Error.find(Row.Text) != std::string::npos; });
+		Text += (Meaning == std::end(Explanations) ? std::string() : " " + std::string(Meaning->Meaning)) + " The editor says: " + Code(Error);
+	}
+	Session.Say(Text + "\n");
+}
+
+std::vector<std::string> TellUsesBefore(FEditSession& Session, const std::string& Name)
+{
+	const FBlueprintModel* const Model = Session.Editor.Model();
+	const std::vector<std::string> Uses = Model ? FindMemberUses(*Model, Name) : std::vector<std::string>();
+	std::string Text = Uses.empty() ? std::string() : TellUses(*Model, Name, Uses) + "\n";
+	std::vector<std::string> Others;
+	for (const FBlueprintModel* const User : FindOtherUsers(Session, Name))
+	{
+		Text += TellUses(*User, Name, FindMemberUses(*User, Name)) + "\n";
+		Others.push_back(User->Id);
+	}
+	Session.Say(Text.empty() ? "No step uses " + Bold(Name) + ".\n\n" : Text);
+	return Others;
+}
+
+std::string ShownValue(const std::string& Value, const std::string& TypeId)
+{
+	const std::string Words = LiteralInWords(Value, TypeId);
+	return Shortened(Words.empty() ? (Value.empty() ? "empty" : Value) : Words, MaxShownValue);
+}
+
+std::string DescribeVariable(const FBlueprintVariable& Variable)
+{
+	std::string Text = TypeInWords(Variable.Type) + ", default " + ShownValue(Variable.Value, Variable.Type);
+	return Variable.Category.empty() || Variable.Category == "Default" ? Text : Text + ", category " + Variable.Category;
+}
+
+std::shared_ptr<const IEdit> MakeEdit(std::function<void(FEditSession&)> Run)
+{
+	class FFunctionEdit final : public IEdit
+	{
+	public:
+		explicit FFunctionEdit(std::function<void(FEditSession&)> InRun)
+			: Function(std::move(InRun))
+		{
+		}
+
+		void Run(FEditSession& Session) const override { Function(Session); }
+
+	private:
+		const std::function<void(FEditSession&)> Function;
+	};
+	return std::make_shared<FFunctionEdit>(std::move(Run));
+}
+
+}

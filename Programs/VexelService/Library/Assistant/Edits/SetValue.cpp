@@ -1,0 +1,344 @@
+#include "MemberFamilies.h"
+
+#include "EditReport.h"
+#include "MemberLookup.h"
+#include "MemberSentence.h"
+#include "PropertyNames.h"
+#include "Assistant/AssetFinder.h"
+#include "Assistant/Markdown.h"
+#include "Assistant/Question.h"
+#include "Assistant/Words.h"
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace VexelService
+{
+
+namespace
+{
+
+/** A guess costs a call of the editor's tool. */
+constexpr std::size_t MaxAttempts = 16;
+constexpr const char* DefaultObject = "$ClassDefaultObject";
+
+constexpr std::string_view Patterns[] = {
+	"set|change|update|adjust|assign|put {member} to|as|=|at {rest}",
+	"let {member} be|= {rest}",
+	"{member} should|must be {rest}",
+	"{member} = {rest}",
+	"give {member} value [of] {rest}",
+	"give {member} default|initial|starting [value] [of] {rest}",
+	"make {member} {rest:1}",
+};
+
+/** Values that say by themselves what they are of: "make the mesh invisible". */
+struct FAdjective
+{
+	std::string_view Words;
+	/** Of a component, and of the Blueprint itself. */
+	const char* Property;
+	const char* OwnProperty;
+	const char* Value;
+	const char* OwnValue;
+};
+
+constexpr FAdjective Adjectives[] = {
+	{"visible", "bVisible", "bHidden", "true", "false"},
+	{"invisible", "bVisible", "bHidden", "false", "true"},
+	{"hidden", "bHiddenInGame", "bHidden", "true", "true"},
+};
+
+/** A property with what the editor may take as its path and its value. */
+struct FAttempt
+{
+	std::string Path;
+	FJson Value;
+};
+
+const FBlueprintProperty* FindDefault(const FBlueprintModel& Model, std::string_view Path)
+{
+	const FBlueprintProperty* Property = &Model.Defaults;
+	for (std::string_view Rest = Path.substr(std::min(Path.find('.'), Path.size() - 1) + 1); Property && !Rest.empty();)
+	{
+		const std::size_t Dot = std::min(Rest.find('.'), Rest.size());
+		Property = Property->FindPart(Rest.substr(0, Dot));
+		Rest.remove_prefix(std::min(Dot + 1, Rest.size()));
+	}
+	return Property;
+}
+
+/** Sets the default of a variable, or a property of the class's default object. */
+class FSetValue final : public IEdit
+{
+public:
+	FSetValue(FSaidMember InMember, FEditWords InValue)
+		: Member(std::move(InMember))
+		, Value(std::move(InValue))
+	{
+	}
+
+	void Run(FEditSession& Session) const override
+	{
+		const FBlueprintModel& Model = *Session.Editor.Model();
+		const bool bOwned = Member.Names.size() > 1;
+		const bool bOfFunction = !Member.Owner.empty() || (bOwned && FindFunction(Model, Member.Names[1]).Found) ||
+			Member.Noun == EMemberNoun::Input || Member.Noun == EMemberNoun::Output || Member.Noun == EMemberNoun::LocalVariable;
+		const TMemberMatch<FBlueprintVariable> Variable = FindVariable(Model.Variables, bOwned ? Member.Names.back() : Member.Names.front(), "member");
+		if (bOfFunction)
+		{
+			const FMemberPlace Place = FindMemberPlace(Model, Member);
+			Place.Name.empty() ? Session.Say(Place.Problem) : SetVariable(Session, *Place.Variable, Place.Target);
+			return;
+		}
+		if (Variable.Found && !bOwned)
+		{
+			SetVariable(Session, *Variable.Found, {});
+			return;
+		}
+		if (Variable.Found && StartsWith(Variable.Found->Type, "map|"))
+		{
+			SetEntry(Session, *Variable.Found);
+			return;
+		}
+		SetProperty(Session, Variable.Found ? Variable.Found->Id : std::string(), Variable.Nearest);
+	}
+
+private:
+	void SetVariable(FEditSession& Session, const FBlueprintVariable& Variable, const FEditTarget& Target) const
+	{
+		const std::string Scope = Variable.Scope;
+		const std::string Name = Variable.Id;
+		const std::string Type = Variable.Type;
+		const std::string OldValue = ShownValue(Variable.Value, Type);
+		const std::size_t NumElements = Variable.Parts.size();
+		const FWireValue Wire = ResolveValue(Session, Value, Type, Scope == "in" || Scope == "out" ? EValueForm::Pin : EValueForm::Property);
+		if (!Wire.Json)
+		{
+			Session.Say("I did not set " + Bold(Name) + ", which is " + WithArticle(TypeInWords(Type)) + ": " + Wire.Problem + "\n");
+			return;
+		}
+		FJson Operations = FJson::array();
+		const bool bContainer = Wire.Json->is_object() && !SplitTypeId(Type).Container.empty();
+		if (!bContainer || !Wire.Json->empty())
+		{
+			Operations.push_back({{"operation", "update"}, {"scope", Scope}, {"prop_path", Name}, {"value", *Wire.Json}});
+		}
+		// What is longer than the new list goes, from its end, so that the places before stay what they are.
+		for (std::size_t Index = NumElements; bContainer && Index > Wire.Json->size(); --Index)
+		{
+			Operations.push_back({{"operation", "remove"}, {"scope", Scope}, {"prop_path", Name}, {"index", Index - 1}});
+		}
+		if (Operations.empty())
+		{
+			Session.Say(Bold(Name) + " is empty already. I changed nothing.\n");
+			return;
+		}
+		const FEditOutcome Outcome = Session.Editor.EditObjects(Target, Operations);
+		if (!Outcome.IsComplete())
+		{
+			TellRefusal(Session, "set " + Bold(Name), Outcome.Errors);
+			return;
+		}
+		const FBlueprintVariable* const Now = FindAgain(Session, Target, Scope, Name);
+		Session.Say("I set the default of " + Bold(Name) + " from " + OldValue + " to " + (Now ? ShownValue(Now->Value, Type) : JoinWords(Value)) + ".\n");
+		TellCompile(Session);
+	}
+
+	static const FBlueprintVariable* FindAgain(FEditSession& Session, const FEditTarget& Target, const std::string& Scope, const std::string& Name)
+	{
+		const FBlueprintModel* const Model = Session.Editor.Model();
+		const FBlueprintGraph* const Graph = Model && !Target.Graph.empty() ? Model->FindGraph(Target.Graph) : nullptr;
+		const FBlueprintNode* const Node = Graph && !Target.Node.empty() ? Graph->FindNode(Target.Node) : nullptr;
+		const bool bMissing = !Model || (!Target.Graph.empty() && !Graph) || (!Target.Node.empty() && !Node);
+		return bMissing ? nullptr : FindVariable(Node ? Node->EditablePins : Graph ? Graph->Variables
+																				   : Model->Variables,
+										Name, Scope)
+										.Found;
+	}
+
+	/** "Set Gold in Prices to 5", where Prices is a map. */
+	void SetEntry(FEditSession& Session, const FBlueprintVariable& Map) const
+	{
+		const std::string Name = Map.Id;
+		const std::string& Key = Member.Names.front();
+		FEditWords Entry = {{.Text = Key}, {.Text = "="}};
+		Entry.insert(Entry.end(), Value.begin(), Value.end());
+		const FWireValue Wire = ResolveValue(Session, Entry, Map.Type);
+		if (!Wire.Json)
+		{
+			Session.Say("I did not set " + Bold(Key) + " of " + Bold(Name) + ": " + Wire.Problem + "\n");
+			return;
+		}
+		const FJson& NewEntry = Wire.Json->begin().value();
+		const auto There = std::find_if(Map.Parts.begin(), Map.Parts.end(), [&NewEntry](const FBlueprintProperty& Part)
+			{
+				const FBlueprintProperty* const PartKey = Part.FindPart("key");
+				return PartKey && EqualIgnoringCase(PartKey->Value, NewEntry["key"].get<std::string>()); });
+		const bool bNew = There == Map.Parts.end();
+		const FJson Index = There - Map.Parts.begin();
+		const FEditOutcome Outcome = bNew
+			? Session.Editor.EditObjects({}, {{{"operation", "insert"}, {"scope", "member"}, {"prop_path", Name}, {"index", Index}, {"value", NewEntry}}})
+			: Session.Editor.SetVariableDefault(Name, FJson{{std::to_string(Index.get<std::size_t>()), NewEntry}});
+		if (!Outcome.IsComplete())
+		{
+			TellRefusal(Session, "set " + Bold(Key) + " of " + Bold(Name), Outcome.Errors);
+			return;
+		}
+		Session.Say("I " + std::string(bNew ? "added " : "set ") + Bold(Key) + (bNew ? " to " : " of ") + Bold(Name) + (bNew ? ", with " : " to ") + JoinWords(Value) + ".\n");
+		TellCompile(Session);
+	}
+
+	/** The paths that the words may mean; VariableName is that of a variable whose field is meant, or empty. */
+	std::vector<FPropertyName> GuessPaths(const std::string& VariableName) const
+	{
+		std::vector<std::string> Prefixes = {DefaultObject};
+		for (std::size_t Index = Member.Names.size(); Index > 1; --Index)
+		{
+			const bool bVariable = Index == Member.Names.size() && !VariableName.empty();
+			std::vector<std::string> Longer;
+			for (const std::string& Prefix : Prefixes)
+			{
+				for (const std::string& Name : bVariable ? std::vector<std::string>{VariableName} : GuessComponentNames(Member.Names[Index - 1]))
+				{
+					Longer.push_back(Prefix + "." + Name);
+				}
+			}
+			Prefixes = std::move(Longer);
+		}
+		std::vector<FPropertyName> Paths;
+		for (const FPropertyName& Name : GuessPropertyNames(Member.Names.front()))
+		{
+			for (const std::string& Prefix : Prefixes)
+			{
+				Paths.push_back({Prefix + "." + Name.Name, Name.Type});
+			}
+		}
+		return Paths;
+	}
+
+	std::vector<FJson> GuessValues(FEditSession& Session, const FPropertyName& Path, std::string& Problem) const
+	{
+		const FBlueprintProperty* const Known = FindDefault(*Session.Editor.Model(), Path.Name);
+		const std::string& Type = Known && !Known->Type.empty() ? Known->Type : Path.Type;
+		if (Type.empty())
+		{
+			return GuessWireValues(Value);
+		}
+		const FWireValue Wire = ResolveValue(Session, Value, Type);
+		Problem = Wire.Problem.empty() ? Problem : Wire.Problem;
+		return Wire.Json ? std::vector<FJson>{*Wire.Json} : std::vector<FJson>();
+	}
+
+	void SetProperty(FEditSession& Session, const std::string& VariableName, const std::string& Nearest) const
+	{
+		const std::string Said = JoinedNames();
+		std::vector<std::string> Errors;
+		std::string Problem;
+		std::size_t NumAttempts = 0;
+		for (const FPropertyName& Path : GuessPaths(VariableName))
+		{
+			for (const FJson& Wire : GuessValues(Session, Path, Problem))
+			{
+				if (Session.IsOver() || ++NumAttempts > MaxAttempts)
+				{
+					break;
+				}
+				const FBlueprintProperty* const Before = FindDefault(*Session.Editor.Model(), Path.Name);
+				const std::string OldValue = Before ? ShownValue(Before->Value, Before->Type) : std::string();
+				const FEditOutcome Outcome = Session.Editor.SetProperty(Path.Name, Wire);
+				if (Outcome.IsComplete())
+				{
+					TellSet(Session, Path.Name, OldValue);
+					return;
+				}
+				const bool bNoSuchName = !Outcome.Errors.empty() && Outcome.Errors.front().find("not found in compound") != std::string::npos;
+				// What the editor says of a property that is there tells more than that another is not.
+				Errors = Errors.empty() || !bNoSuchName ? Outcome.Errors : Errors;
+				if (bNoSuchName)
+				{
+					break;
+				}
+			}
+		}
+		const std::string Hint = Nearest.empty() ? "" : " Its variable " + Bold(Nearest) + " has a name like it; name it if you mean that.\n";
+		if (Errors.empty() && !Problem.empty())
+		{
+			Session.Say("I did not set " + Quoted(Said) + ": " + Problem + "\n");
+			return;
+		}
+		TellRefusal(Session, "set " + Quoted(Said) + " of " + Bold(Session.Editor.Model()->Name), Errors);
+		Session.Say(Hint);
+	}
+
+	void TellSet(FEditSession& Session, const std::string& Path, const std::string& OldValue) const
+	{
+		const FBlueprintModel* const Model = Session.Editor.Model();
+		const FBlueprintProperty* const Now = Model ? FindDefault(*Model, Path) : nullptr;
+		const std::string NewValue = Now ? ShownValue(Now->Value, Now->Type) : JoinWords(Value) + ", which is what its parent class has";
+		Session.Say("I set the default of " + Bold(Path.substr(std::string_view(DefaultObject).size() + 1)) + (OldValue.empty() ? "" : " from " + OldValue) + " to " +
+			NewValue + ".\n");
+		TellCompile(Session);
+	}
+
+	std::string JoinedNames() const
+	{
+		std::string Text;
+		for (const std::string& Name : Member.Names)
+		{
+			Text += (Text.empty() ? "" : " of ") + Name;
+		}
+		return Text;
+	}
+
+	const FSaidMember Member;
+	const FEditWords Value;
+};
+
+// "Make the mesh invisible" with its property and its value in words.
+void ReadAdjective(FSplitRequest& Split)
+{
+	const auto Found = std::find_if(std::begin(Adjectives), std::end(Adjectives), [&Split](const FAdjective& Row)
+		{ return Split.Rest.size() == 1 && IsWord(Split.Rest.front(), Row.Words); });
+	if (Found == std::end(Adjectives))
+	{
+		return;
+	}
+	const bool bItself = Split.Member.Names.size() == 1 && IsBackReference(Split.Member.Names.front());
+	if (bItself)
+	{
+		Split.Member.Names.clear();
+	}
+	Split.Member.Names.insert(Split.Member.Names.begin(), bItself ? Found->OwnProperty : Found->Property);
+	Split.Rest = {{.Text = bItself ? Found->OwnValue : Found->Value}};
+}
+
+// A word that can be nothing but a value, so that "make X Y" sets X.
+bool IsPlainValue(const FEditWords& Words)
+{
+	return Words.size() == 1 && (Words.front().bQuoted || ReadBoolean(Words) || ReadCount(Words.front().Text) || GuessWireValues(Words).size() > 1);
+}
+
+}
+
+std::optional<FEditRequest> ReadSetValue(const FEditMessage& Message)
+{
+	const std::optional<FEditMessage> Read = ReadMemberMessage(Message);
+	for (const std::string_view Pattern : Patterns)
+	{
+		std::optional<FSplitRequest> Split = Read ? SplitRequest(Pattern, Read->Words) : std::nullopt;
+		const bool bPlain = !StartsWith(Pattern, "make") || (Split && IsPlainValue(Split->Rest));
+		if (!Split || !bPlain || Split->Member.Element.IsSaid())
+		{
+			continue;
+		}
+		ReadAdjective(*Split);
+		FEditRequest Request{.Blueprint = Read->Blueprint};
+		Request.Edit = std::make_shared<FSetValue>(Split->Member, Split->Rest);
+		return Request;
+	}
+	return std::nullopt;
+}
+
+}
