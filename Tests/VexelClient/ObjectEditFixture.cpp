@@ -1,6 +1,7 @@
 #include "ObjectEditFixture.h"
 
 #include "EdGraphSchema_K2.h"
+#include "Editor.h"
 #include "GameFramework/Actor.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_CustomEvent.h"

@@ -1,4 +1,6 @@
 #include "BlueprintText.h"
+#include "Editor.h"
+#include "Editor/TransBuffer.h"
 #include "ObjectEditFixture.h"
 
 #include <gmock/gmock.h>

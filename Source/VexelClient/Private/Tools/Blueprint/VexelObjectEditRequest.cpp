@@ -5,7 +5,7 @@
 #include "Lum/Compound/LumGraphCompound.h"
 #include "Lum/Compound/LumNodeCompound.h"
 #include "Lum/LumErrors.h"
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 #include "VexelLog.h"
 
 #include "EdGraph/EdGraph.h"
@@ -109,7 +109,7 @@ TOptional<FEditRequest::FOperation> ReadOperation(const FJsonObject& Object)
 		FEditRequestOperationOnVar{Type, ReadText(Object, TEXT("scope")), ReadText(Object, TEXT("name")), ReadValue(Object)});
 }
 
-TVexelExpected<UEdGraph*> ResolveGraph(const FVexelBlueprintToolTarget& Blueprint, const FString& GraphId)
+TVexelExpected<UEdGraph*> ResolveGraph(const FVexelBlueprintRequestHelper& Blueprint, const FString& GraphId)
 {
 	UEdGraph* const Graph = Blueprint.FindGraph(GraphId);
 	if (!Graph)
@@ -119,7 +119,7 @@ TVexelExpected<UEdGraph*> ResolveGraph(const FVexelBlueprintToolTarget& Blueprin
 	return Graph;
 }
 
-TVexelExpected<UEdGraphNode*> ResolveNode(const FVexelBlueprintToolTarget& Blueprint, const UEdGraph& Graph, const FString& NodeId)
+TVexelExpected<UEdGraphNode*> ResolveNode(const FVexelBlueprintRequestHelper& Blueprint, const UEdGraph& Graph, const FString& NodeId)
 {
 	UEdGraphNode* Node = nullptr;
 	if (!Blueprint.GetMapping().ResolveNodeInGraph(TVexelNodeId(NodeId), Graph, Node))
@@ -129,7 +129,7 @@ TVexelExpected<UEdGraphNode*> ResolveNode(const FVexelBlueprintToolTarget& Bluep
 	return Node;
 }
 
-TVexelExpected<TSharedRef<ILumCompound>> Resolve(const FVexelBlueprintToolTarget& Blueprint, const FEditRequest::FTargetInfo& Target)
+TVexelExpected<TSharedRef<ILumCompound>> Resolve(const FVexelBlueprintRequestHelper& Blueprint, const FEditRequest::FTargetInfo& Target)
 {
 	if (Target.Type == EVexelEditTarget::Blueprint)
 	{
@@ -190,7 +190,7 @@ FEditRequest FEditRequest::FromJson(const FJsonObject& Object)
 	return Request;
 }
 
-TVexelExpected<TSharedRef<ILumCompound>> FEditRequest::ResolveTarget(const FVexelBlueprintToolTarget& Blueprint) const
+TVexelExpected<TSharedRef<ILumCompound>> FEditRequest::ResolveTarget(const FVexelBlueprintRequestHelper& Blueprint) const
 {
 	VEXEL_TRY(const TSharedRef<ILumCompound> Compound, Resolve(Blueprint, Target), "while resolving target `%s` for edit request",
 		*Target.Describe());

@@ -6,7 +6,7 @@
 #include "VexelExpected.h"
 
 class FLumContext;
-class FVexelBlueprintToolTarget;
+class FVexelBlueprintRequestHelper;
 class ILumCompound;
 class ILumProperty;
 
@@ -92,5 +92,5 @@ struct FEditRequest
 
 	static FEditRequest FromJson(const FJsonObject& Object);
 
-	TVexelExpected<TSharedRef<ILumCompound>> ResolveTarget(const FVexelBlueprintToolTarget& Blueprint) const;
+	TVexelExpected<TSharedRef<ILumCompound>> ResolveTarget(const FVexelBlueprintRequestHelper& Blueprint) const;
 };

@@ -2,7 +2,7 @@
 #include "Lum/LumContext.h"
 #include "Lum/LumStructureEdit.h"
 #include "Tools/Blueprint/VexelBlueprintLinks.h"
-#include "Tools/Blueprint/VexelBlueprintToolTarget.h"
+#include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 #include "Tools/Blueprint/VexelObjectEditRequest.h"
 #include "Tools/VexelTool.h"
 #include "Tools/VexelToolSchema.h"
@@ -50,7 +50,7 @@ TVexelExpected<void> Execute(const FEditRequest::FOperation& Operation, const TS
 	return Operation.Get<FEditRequestOperationOnVar>().Execute(Compound);
 }
 
-void Execute(const FEditRequest& Request, const FVexelBlueprintToolTarget& Target, FTexts& OutErrors)
+void Execute(const FEditRequest& Request, const FVexelBlueprintRequestHelper& Target, FTexts& OutErrors)
 {
 	const TVexelExpected<TSharedRef<ILumCompound>> Compound = Request.ResolveTarget(Target);
 	const FString Description = Request.Target.Describe();
@@ -99,7 +99,7 @@ void SetTexts(FJsonObject& Object, const TCHAR* Key, const FTexts& Texts)
 
 TVexelExpected<TSharedRef<FJsonObject>> Edit(const FVexelToolContext& Context, const FParsedObjectEditInput& Input)
 {
-	VEXEL_TRY(const FVexelBlueprintToolTarget Target, FVexelBlueprintToolTarget::Find(Context.GetMapping(), Input.Blueprint));
+	VEXEL_TRY(const FVexelBlueprintRequestHelper Target, FVexelBlueprintRequestHelper::Find(Context.GetMapping(), Input.Blueprint));
 	const TArray<FEditRequest> Requests = Input.GetRequests();
 	TOptional<FVexelBlueprintLinks> LinksBefore;
 	if (CanLoseLinks(Requests))
