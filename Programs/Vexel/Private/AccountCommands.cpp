@@ -86,20 +86,21 @@ int32 ShowUser(bool bJson)
 	return ExitStatus::Done;
 }
 
-/** Tells the user where to log in. With a document on standard output, that goes to standard error. */
-FString ShowAddress(const FString& Url, bool bJson, const TFunctionRef<FString()>* LaunchBrowser)
+/**
+ * Tells the user where to log in, and whether the browser opens that by itself. With a document on standard output, that goes to
+ * standard error.
+ */
+void ShowAddress(const FString& Url, bool bJson, bool bOpened)
 {
-	const bool bOpened = LaunchBrowser && (*LaunchBrowser)().IsEmpty();
 	if (bJson)
 	{
 		FConsole::WriteError(FString::Printf(TEXT("to log in, open %s"), *Url));
-		return FString();
+		return;
 	}
 	FConsole::WriteLine(bOpened ? TEXT("Your browser opens the page of the login. If it does not, open this address:")
 								: TEXT("To log in, open this address in a browser, on any machine:"));
 	FConsole::WriteLine(TEXT("\n  ") + Url + TEXT("\n"));
 	FConsole::WriteLine(TEXT("Waiting for your answer there. Ctrl-C cancels."));
-	return FString();
 }
 
 int32 Fail(const FString& Reason)
@@ -133,7 +134,9 @@ int32 RunLoginCommand(const FArguments& Arguments)
 		const bool bOpen = HasOwnBrowser(Arguments);
 		const TVexelExpected<void> Started = FVexelAccount::LogIn(
 			{.bListen = bOpen, .Open = [bJson, bOpen](const FString& Url, TFunctionRef<FString()> LaunchBrowser)
-				{ return ShowAddress(Url, bJson, bOpen ? &LaunchBrowser : nullptr); }});
+				{
+					ShowAddress(Url, bJson, bOpen && LaunchBrowser().IsEmpty());
+					return FString(); }});
 		if (Started.HasError())
 		{
 			return Fail(Started.GetError().ToChainString());

@@ -3,6 +3,7 @@
 #include "Auth/VexelAuthData.h"
 #include "Auth/VexelAuthLoginState.h"
 #include "Auth/VexelAuthRequests.h"
+#include "HAL/Event.h"
 #include "Misc/ScopeLock.h"
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
@@ -16,6 +17,8 @@ namespace
 const FString RefreshTokenKey = TEXT("rt");
 constexpr double FirstRetrySeconds = 5.0;
 constexpr double LongestRetrySeconds = 300.0;
+/** How long the end of the module waits for the answer to a refresh token. */
+constexpr double LongestEndSeconds = 2.0;
 constexpr float TurnPauseSeconds = 0.05f;
 /** Half a minute: a process that was stopped in the middle of its turn may never end it. */
 constexpr int32 MaxTurnAttempts = 600;
@@ -443,6 +446,7 @@ void FVexelAuth::WithAccessTokenAndUser(TFunctionRef<void(const FString& Token, 
 
 void FVexelAuth::Shutdown()
 {
+	WaitForSentRefresh();
 	FVexelAuthData& Data = FVexelAuthData::Get();
 	TSharedPtr<FVexelAuthLoginState> Login;
 	TUniquePtr<FVexelAuthMonitor> Monitor;
@@ -483,10 +487,36 @@ TVexelTaskResult<void> FVexelAuth::InternalRefreshAccessToken(const FVexelAuthSe
 TVexelTaskResult<void> FVexelAuth::RefreshInTurn(const VexelAuthRequests::FClient& OAuthClient, const FVexelAuthSecret& RefreshToken,
 	const TSharedPtr<FVexelFileLock>& Turn, FLoginNumber Number)
 {
-	return Try(VexelAuthRequests::Refresh(OAuthClient, RefreshToken)).Then([OAuthClient, Number, Turn](const FTokenResponse& Tokens)
-		{
-			VEXEL_LOG(Log, "OAuth token refresh successful");
-			return ProcessOrRevoke(OAuthClient, Tokens, Number); });
+	const TVexelTaskResult<void> Sent =
+		Try(VexelAuthRequests::Refresh(OAuthClient, RefreshToken)).Then([OAuthClient, Number, Turn](const FTokenResponse& Tokens)
+			{
+				VEXEL_LOG(Log, "OAuth token refresh successful");
+				return ProcessOrRevoke(OAuthClient, Tokens, Number); });
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	FScopeLock Guard(&Data.Lock);
+	if (Data.Number == Number)
+	{
+		Data.SentRefresh = Sent;
+	}
+	return Sent;
+}
+
+void FVexelAuth::WaitForSentRefresh()
+{
+	FVexelAuthData& Data = FVexelAuthData::Get();
+	TVexelTaskResult<void> Sent;
+	{
+		FScopeLock Guard(&Data.Lock);
+		Sent = Data.SentRefresh;
+	}
+	if (Sent.IsValid())
+	{
+		// Shared, since the one who triggers it may still be at it when the wait is over.
+		const TSharedRef<FEventRef> Done = MakeShared<FEventRef>(EEventMode::ManualReset);
+		Sent.OnComplete([Done](const TVexelExpected<void>&)
+			{ (*Done)->Trigger(); });
+		(*Done)->Wait(FTimespan::FromSeconds(LongestEndSeconds));
+	}
 }
 
 TVexelExpected<void> FVexelAuth::ProcessOrRevoke(

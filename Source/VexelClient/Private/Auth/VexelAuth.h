@@ -110,7 +110,7 @@ public:
 
 	/**
 	 * Ends what is under way and the monitoring thread, and forgets login, tokens and client id, as at the end of the process.
-	 * Nothing stored is touched.
+	 * Nothing stored is touched, but for the token that a refresh brings which has used the stored one up: for that it waits a moment.
 	 */
 	static void Shutdown();
 
@@ -136,6 +136,7 @@ private:
 	/** Turn is held until the next token is stored, or there is none. */
 	static TVexelTaskResult<void> RefreshInTurn(const VexelAuthRequests::FClient& Client, const FVexelAuthSecret& RefreshToken,
 		const TSharedPtr<FVexelFileLock>& Turn, FLoginNumber Number);
+	static void WaitForSentRefresh();
 
 	static TVexelExpected<void> BeginLogin(
 		const TSharedRef<FVexelAuthLoginState>& Login, TSharedPtr<FVexelAuthLoginState>& OutEarlier);

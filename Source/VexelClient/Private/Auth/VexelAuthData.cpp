@@ -44,6 +44,7 @@ void FVexelAuthData::BeginNumber()
 	UserId.Empty();
 	RetrySeconds = 0.0;
 	RunningRefresh = TVexelTaskResult<void>();
+	SentRefresh = TVexelTaskResult<void>();
 }
 
 VexelAuthReport::FScope::FScope(const TCHAR* Request, const TCHAR* Initiator)

@@ -57,6 +57,8 @@ struct FVexelAuthData
 	double RetrySeconds = 0.0;
 	FString UserId;
 
+	/** Of this login's last refresh, from the moment when its token was sent; refers to no task without one. */
+	TVexelTaskResult<void> SentRefresh;
 	/** Refers to no task when none is under way, as the next two. */
 	TVexelTaskResult<void> RunningRefresh;
 	TVexelTaskResult<void> Revocation;

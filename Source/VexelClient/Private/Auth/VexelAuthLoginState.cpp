@@ -199,6 +199,7 @@ FVexelHttpServerResponse FVexelAuthLoginState::HandleCallback(const FVexelHttpSe
 		FString::Printf(TEXT("%s/auth/local?%s"), *FVexelClient::GetAppUrl(), *Params.ToUrlEncodedString()));
 	// The address of this request holds the code, which the page behind it has no use for.
 	Answer.Headers.Emplace(TEXT("Referrer-Policy"), TEXT("no-referrer"));
+	Answer.Headers.Emplace(TEXT("Cache-Control"), TEXT("no-store"));
 	return Answer;
 }
 
