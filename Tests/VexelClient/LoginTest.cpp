@@ -505,16 +505,27 @@ TEST_F(Login, ATurnThatNeverComesFailsTheRefreshAndKeepsTheLogin)
 	EXPECT_EQ(CountRequests("/oauth/token"), 1u);
 }
 
-TEST_F(Login, ALogoutEndsTheWaitForATurn)
+TEST_F(Login, TheEndOfALoginEndsItsWaitForATurnAndSendsNothing)
 {
-	LogIn();
-	const TOptional<FVexelFileLock> Turn = FVexelSecureStorage::TryTakeTurn().GetValue();
-	const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(AccessToken));
-	FVexelAuth::Logout();
-	AdvanceTime(0.2f);
-	ASSERT_TRUE(Refresh.IsComplete());
-	EXPECT_TRUE(Refresh.Value().HasError());
-	EXPECT_EQ(CountRequests("/oauth/token"), 1u);
+	for (const bool bTurnComes : {false, true})
+	{
+		LogIn();
+		const size_t NumBefore = CountRequests("/oauth/token");
+		TOptional<FVexelFileLock> Turn = FVexelSecureStorage::TryTakeTurn().GetValue();
+		const TVexelTaskResult<void> Refresh = FVexelAuth::RefreshRefusedToken(UTF8_TO_TCHAR(AccessToken));
+		FVexelAuth::Leave();
+		// The store is now the one of another service, whose token this one must not see.
+		ASSERT_TRUE(FVexelSecureStorage::StoreValueString(TEXT("rt"), TEXT("of-another-service")).HasValue());
+		if (bTurnComes)
+		{
+			Turn.Reset();
+		}
+		AdvanceTime(0.2f);
+		ASSERT_TRUE(PumpUntil([&]
+			{ return Refresh.IsComplete(); }));
+		EXPECT_TRUE(Refresh.Value().HasError());
+		EXPECT_EQ(CountRequests("/oauth/token"), NumBefore);
+	}
 }
 
 TEST_F(Login, RequestsWaitForARefreshThatIsUnderWay)

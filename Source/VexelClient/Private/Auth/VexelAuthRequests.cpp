@@ -207,6 +207,12 @@ TVexelTaskResult<FTokenResponse> VexelAuthRequests::Refresh(const FClient& Clien
 			{ return ToServiceError(Error, *Request); });
 }
 
+bool VexelAuthRequests::WasTokenRefused(const FVexelError& RefreshFailure)
+{
+	// Refresh() makes a status that says nothing about the token none of the client's.
+	return RefreshFailure.IsA<FVexelError_HttpStatusClientError>();
+}
+
 TVexelTaskResult<void> VexelAuthRequests::Revoke(const FClient& Client, const FVexelAuthSecret& RefreshToken)
 {
 	FVexelHttpUrlParams Form;

@@ -56,7 +56,11 @@ TSharedRef<FVexelHttpRequest> SendCodePoll(const FClient& Client, const FString&
 TVexelExpected<FString> ReadPollCode(const FString& Body);
 
 TVexelTaskResult<FTokenResponse> ExchangeCode(const FClient& Client, const FCodeGrant& Grant);
-/** Fails as FVexelError_HttpStatusClientError only when the service has looked at the token and refused it. */
 TVexelTaskResult<FTokenResponse> Refresh(const FClient& Client, const FVexelAuthSecret& RefreshToken);
+/**
+ * Whether a refresh failed because the service has looked at the token and refused it. A service that is down, busy or broken says
+ * nothing about the token, which is worth keeping then.
+ */
+bool WasTokenRefused(const FVexelError& RefreshFailure);
 TVexelTaskResult<void> Revoke(const FClient& Client, const FVexelAuthSecret& RefreshToken);
 }
