@@ -387,6 +387,12 @@ int32 FGraphDifference::CountFollowing() const
 	return Num;
 }
 
+EDifference FBlueprintDiff::GetKind() const
+{
+	return After->Path.IsEmpty() ? EDifference::Removed : Before->Path.IsEmpty() ? EDifference::Added
+																				 : EDifference::Changed;
+}
+
 FBlueprintDiff FBlueprintDiff::Compare(
 	const TSharedRef<const FBlueprintSnapshot>& Before, const TSharedRef<const FBlueprintSnapshot>& After)
 {

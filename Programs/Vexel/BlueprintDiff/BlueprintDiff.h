@@ -109,6 +109,10 @@ struct FBlueprintDiff
 	/** The time for graphs of N nodes and wires is that of N; a graph that did not change is passed through quickly. */
 	static FBlueprintDiff Compare(const TSharedRef<const FBlueprintSnapshot>& Before, const TSharedRef<const FBlueprintSnapshot>& After);
 
+	/** Added or Removed where one side is an empty snapshot, that of no Blueprint. */
+	EDifference GetKind() const;
+	/** The Blueprint that there is, as it is in the end. */
+	const FBlueprintSnapshot& GetShown() const { return GetKind() == EDifference::Removed ? *Before : *After; }
 	bool IsEmpty() const { return Settings.IsEmpty() && ClassDefaults.IsEmpty() && Members.IsEmpty() && Graphs.IsEmpty(); }
 
 	TSharedRef<const FBlueprintSnapshot> Before;

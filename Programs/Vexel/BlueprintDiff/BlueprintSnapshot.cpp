@@ -384,6 +384,47 @@ FBlueprintSnapshot FBlueprintSnapshot::Take(const UBlueprint& Blueprint)
 	return Taken;
 }
 
+void FBlueprintSnapshot::ReplaceInValues(const FString& From, const FString& To)
+{
+	const auto Replace = [&](FString& Value)
+	{
+		if (Value.Contains(From))
+		{
+			Value.ReplaceInline(*From, *To);
+		}
+	};
+	const auto ReplaceAll = [&](TArray<FValueSnapshot>& Values)
+	{
+		for (FValueSnapshot& Value : Values)
+		{
+			Replace(Value.Value);
+		}
+	};
+	const auto ReplaceInMembers = [&](TArray<FMemberSnapshot>& OfOwner)
+	{
+		for (FMemberSnapshot& Member : OfOwner)
+		{
+			ReplaceAll(Member.Values);
+		}
+	};
+	Replace(Path);
+	ReplaceAll(Settings);
+	ReplaceAll(ClassDefaults);
+	ReplaceInMembers(Members);
+	for (FGraphSnapshot& Graph : Graphs)
+	{
+		ReplaceInMembers(Graph.Members);
+		for (FNodeSnapshot& Node : Graph.Nodes)
+		{
+			ReplaceAll(Node.Values);
+			for (FPinSnapshot& Pin : Node.Pins)
+			{
+				Replace(Pin.Value);
+			}
+		}
+	}
+}
+
 FString ShortenNumber(const FString& Value)
 {
 	if (!Value.IsNumeric() || !Value.Contains(TEXT(".")))

@@ -133,6 +133,9 @@ struct FBlueprintSnapshot
 	TArray<FGraphSnapshot> Graphs;
 
 	static FBlueprintSnapshot Take(const UBlueprint& Blueprint);
+
+	/** Replaces a text in every value: the name of a package that stands for another one. */
+	void ReplaceInValues(const FString& From, const FString& To);
 };
 
 /** "90.000000" as "90"; any other text as it is. */

@@ -114,7 +114,8 @@ TSharedRef<FJsonObject> MakeGraph(const FGraphDifference& Graph)
 TSharedRef<FJsonObject> MakeDiffDocument(const FBlueprintDiff& Diff)
 {
 	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	Object->SetStringField(TEXT("blueprint"), Diff.After->Path);
+	Object->SetStringField(TEXT("blueprint"), Diff.GetShown().Path);
+	Object->SetStringField(TEXT("change"), ToWord(Diff.GetKind()));
 	SetItems(Object, TEXT("settings"), Diff.Settings, MakeValue);
 	SetItems(Object, TEXT("members"), Diff.Members, MakeMember);
 	SetItems(Object, TEXT("class_defaults"), Diff.ClassDefaults, MakeValue);

@@ -491,7 +491,10 @@ TArray<FStyledLine> DrawDiff(const FBlueprintDiff& Diff, int32 Width, int32 MaxL
 	FDiffLines Lines(FMath::Max(Width, MinWidth), MaxLines);
 	if (!Diff.Settings.IsEmpty() || !Diff.ClassDefaults.IsEmpty() || !Diff.Members.IsEmpty())
 	{
-		Lines.AddChange(EDifference::Changed, FStyledLine(Diff.After->Name, TextStyle::Strong));
+		const EDifference Kind = Diff.GetKind();
+		FTextStyle Style = Kind == EDifference::Changed ? TextStyle::Plain : DiffText::GetStyle(Kind);
+		Style.bBold = true;
+		Lines.AddChange(Kind, FStyledLine(Diff.GetShown().Name, Style));
 	}
 	for (const FValueDifference& Value : Diff.Settings)
 	{

@@ -47,6 +47,7 @@ constexpr FOptionRow ToolOptions[] = {
 };
 constexpr FOptionRow ToolsOptions[] = {JsonOption};
 constexpr FOptionRow GraphOptions[] = {BlueprintOption, GraphOption, ProjectOption, SaveOption, JsonOption, VerboseOption};
+constexpr FOptionRow DiffOptions[] = {ProjectOption, JsonOption, VerboseOption};
 constexpr FOptionRow InspectOptions[] = {JsonOption};
 constexpr FOptionRow ServiceOptions[] = {
 	{TEXT("--port"), TEXT("N"), TEXT("the port; a free one without it")},
@@ -64,6 +65,8 @@ const FCommandRow Commands[] = {
 	{TEXT("graph"), TEXT("show|export|import --blueprint PATH [FILE|-]"),
 		TEXT("a graph as a picture in text; its node text out of it, or into it"), GraphOptions, 2,
 		RunGraphCommand},
+	{TEXT("diff"), TEXT("BEFORE AFTER"), TEXT("what differs between two Blueprints, each a file or one of the project; git can call it (Docs/Diff.md)"),
+		DiffOptions, 7, RunDiffCommand},
 	{TEXT("inspect"), TEXT("FILE.uasset"), TEXT("the tables of a package file as JSON"), InspectOptions, 1, RunInspectCommand},
 	{TEXT("service"), TEXT("[--port N] [--data DIR]"), TEXT("runs the local service"), ServiceOptions, 0, RunServiceCommand},
 };

@@ -24,6 +24,7 @@ struct FCommandRow
 TConstArrayView<FCommandRow> GetCommands();
 
 int32 RunChatCommand(const FArguments& Arguments);
+int32 RunDiffCommand(const FArguments& Arguments);
 int32 RunGraphCommand(const FArguments& Arguments);
 int32 RunInspectCommand(const FArguments& Arguments);
 int32 RunLoginCommand(const FArguments& Arguments);
