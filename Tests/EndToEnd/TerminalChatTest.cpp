@@ -50,6 +50,9 @@ TEST_F(TerminalChat, CtrlCStopsAnAnswerAndClearsALine)
 	EXPECT_EQ(Chat.Finish(), 0);
 	const std::vector<nlohmann::json> History = ReadStored();
 	ASSERT_EQ(History.size(), 1u);
+	ASSERT_EQ(History[0]["Messages"].size(), 4u) << "what came before Ctrl-C is kept";
+	EXPECT_EQ(History[0]["Messages"][1]["message_blocks"][0]["content"], "A beginning");
+	EXPECT_EQ(History[0]["Messages"][1]["failed"], true);
 }
 
 TEST_F(TerminalChat, SlashCommandsAnswerAndTabCompletesThem)

@@ -54,7 +54,7 @@ TEST_F(ChatTurn, APromptIsStoredBeforeItsAnswerComes)
 		{ return LastState == EVexelChatRequestState::Succeeded; }));
 }
 
-TEST_F(ChatTurn, CancellingKeepsThePromptAlone)
+TEST_F(ChatTurn, CancellingKeepsWhatHasComeOfTheAnswerAsFailed)
 {
 	Server.Answer("/api/chat", FScriptedAnswer().Chunk("one ").Stall());
 	ASSERT_TRUE(Subsystem->SendMessage(Conversation->GetChatId(), TEXT("Tell me")).HasValue());
@@ -64,8 +64,34 @@ TEST_F(ChatTurn, CancellingKeepsThePromptAlone)
 	ASSERT_TRUE(PumpUntil([this]
 		{ return LastState == EVexelChatRequestState::Cancelled; }));
 	EXPECT_FALSE(Subsystem->CancelRequest(Conversation->GetChatId()));
+	ASSERT_EQ(Conversation->GetMessages().Num(), 2);
+	EXPECT_EQ(Conversation->GetMessages()[0].GetRole(), EVexelChatRole::User);
+	EXPECT_EQ(Conversation->GetMessages()[1].GetState(), EVexelChatMessageState::Failed);
+	EXPECT_THAT(ReadStoredConversation(), HasSubstr("one "));
+}
+
+TEST_F(ChatTurn, CancellingBeforeAnythingCameKeepsThePromptAlone)
+{
+	Server.Answer("/api/chat", FScriptedAnswer().WaitFor(Gate).Chunk("late"));
+	ASSERT_TRUE(Subsystem->SendMessage(Conversation->GetChatId(), TEXT("Tell me")).HasValue());
+	EXPECT_TRUE(Subsystem->CancelRequest(Conversation->GetChatId()));
+	ASSERT_TRUE(PumpUntil([this]
+		{ return LastState == EVexelChatRequestState::Cancelled; }));
 	ASSERT_EQ(Conversation->GetMessages().Num(), 1);
 	EXPECT_EQ(Conversation->GetMessages()[0].GetRole(), EVexelChatRole::User);
+	Gate.Open();
+}
+
+TEST_F(ChatTurn, AConversationThatIsDeletedWhileItsAnswerComesStaysDeleted)
+{
+	Server.Answer("/api/chat", FScriptedAnswer().Chunk("one ").Stall());
+	RunUntilText(TEXT("Tell me"));
+	const FString ChatId = Conversation->GetChatId();
+	EXPECT_TRUE(Subsystem->CancelRequest(ChatId));
+	Subsystem->DeleteConversation(Conversation);
+	ASSERT_TRUE(PumpUntil([this]
+		{ return LastState == EVexelChatRequestState::Cancelled; }));
+	EXPECT_EQ(Subsystem->FindActiveConversation(ChatId), nullptr);
 }
 
 TEST_F(ChatTurn, LosingTheLoginCancelsTheAnswerAndKeepsThePrompt)

@@ -91,7 +91,7 @@ bool FVexelChatRequest::Send(FVexelHttp& ApiClient)
 	return true;
 }
 
-void FVexelChatRequest::Cancel()
+void FVexelChatRequest::Cancel(bool bKeepAnswer)
 {
 	if (State != EVexelChatRequestState::InProgress)
 	{
@@ -99,6 +99,7 @@ void FVexelChatRequest::Cancel()
 		return;
 	}
 	bCancelled = true;
+	bKeepsAnswer = bKeepAnswer;
 	Reader.Stop();
 	if (HttpRequest)
 	{

@@ -37,8 +37,10 @@ public:
 	/**
 	 * Ends the turn at any moment: nothing that arrives later is read, and no tool is called any more. The state changes to
 	 * Cancelled when the connection is gone.
+	 * @param bKeepAnswer Whether what has come of the answer is of use to whoever asked.
 	 */
-	void Cancel();
+	void Cancel(bool bKeepAnswer = false);
+	bool KeepsAnswer() const { return bKeepsAnswer; }
 
 	/** Reads a report of the whole body received so far. Called by the request itself; in the order of arrival. */
 	void OnBodyReceived(TConstArrayView<uint8> WholeBody);
@@ -88,6 +90,7 @@ private:
 	EVexelChatRequestState State = EVexelChatRequestState::Preparing;
 	/** From the user's word to the end of the connection the state is still InProgress. */
 	bool bCancelled = false;
+	bool bKeepsAnswer = false;
 	TOptional<FVexelError> Error;
 	TArray<FString> SubAgentChatIds;
 	/** Takes bytes on the network thread and reads text on the game thread. */

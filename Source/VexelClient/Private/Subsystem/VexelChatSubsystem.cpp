@@ -104,7 +104,10 @@ void UVexelChatSubsystem::DeleteConversation(const TSharedPtr<FVexelChatConversa
 	}
 	const FString ChatId = Conversation->GetChatId();
 	VEXEL_LOG(Log, "Deleting conversation with ID: %s", *ChatId);
-	CancelRequest(ChatId);
+	if (const TSharedRef<FVexelChatRequest>* const Request = ActiveRequests.Find(ChatId))
+	{
+		(*Request)->Cancel();
+	}
 	if (!HistoryManager->Delete(ChatId))
 	{
 		VEXEL_LOG(Warning, "Conversation with ID %s not found", *ChatId);
@@ -315,7 +318,7 @@ bool UVexelChatSubsystem::CancelRequest(const FString& ChatId)
 	{
 		return false;
 	}
-	(*Request)->Cancel();
+	(*Request)->Cancel(true);
 	return true;
 }
 
@@ -340,6 +343,7 @@ void UVexelChatSubsystem::OnMessageRequestStateChanged(const TSharedRef<FVexelCh
 			OnRequestFailed(Request);
 			break;
 		case EVexelChatRequestState::Cancelled:
+			OnRequestCancelled(Request);
 			break;
 	}
 	if (Request->IsFinal())
@@ -384,6 +388,18 @@ void UVexelChatSubsystem::OnRequestFailed(const TSharedRef<FVexelChatRequest>& R
 		LastCheckpoint, *Request->GetChatId());
 	Response.MarkFailedAfter(LastCheckpoint);
 	AddResponseToConversation(*Request);
+}
+
+void UVexelChatSubsystem::OnRequestCancelled(const TSharedRef<FVexelChatRequest>& Request)
+{
+	// The conversation may be gone by now, or have been cut back to where it was before the question.
+	const bool bStored = HistoryManager && HistoryManager->Find(Request->GetChatId()) && Request->FindPromptInConversation() != INDEX_NONE;
+	FVexelChatMessage& Response = Request->GetResponse();
+	if (Request->KeepsAnswer() && bStored && Response.NumBlocks() > 0)
+	{
+		Response.MarkFailedAfter(Response.FindLastCheckpoint());
+		AddResponseToConversation(*Request);
+	}
 }
 
 void UVexelChatSubsystem::AddResponseToConversation(const FVexelChatRequest& Request)

@@ -111,7 +111,10 @@ public:
 
 	/** Prepares a turn and sends it. An error when the conversation is unknown or has a request in flight already. */
 	TVexelExpected<void> SendMessage(const FString& ChatId, const FString& Message);
-	/** Cancels the conversation's request; false when it has none. */
+	/**
+	 * Cancels the conversation's request for the user; false when it has none. What has come of the answer is kept in the conversation,
+	 * marked as failed after its last checkpoint.
+	 */
 	bool CancelRequest(const FString& ChatId);
 	bool HasActiveRequest(const FString& ChatId) const;
 
@@ -124,6 +127,7 @@ private:
 
 	void OnRequestInProgress(const TSharedRef<FVexelChatRequest>& Request);
 	void OnRequestSucceeded(const TSharedRef<FVexelChatRequest>& Request);
+	void OnRequestCancelled(const TSharedRef<FVexelChatRequest>& Request);
 	void OnRequestFailed(const TSharedRef<FVexelChatRequest>& Request);
 	void AddResponseToConversation(const FVexelChatRequest& Request);
 
