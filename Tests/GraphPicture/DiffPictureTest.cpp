@@ -147,7 +147,7 @@ TEST_F(DiffPicture, WaysThatComeAndGoAreMarkedWithWhatIsBehindThem)
 	Link(Yes, AddPrint(TEXT("after yes")));
 	Remember();
 	Link(Branch, UEdGraphSchema_K2::PN_Else, AddPrint(TEXT("no")));
-	EXPECT_THAT(Draw(), ElementsAre("  ● Go", "  │ Branch", "  ⋮", "+ └▸ false", "+    └ Print String  In String: \"no\""));
+	EXPECT_THAT(Draw(), ElementsAre("  ● Go", "  │ Branch", "  …", "+ └▸ false", "+    └ Print String  In String: \"no\""));
 	Remember();
 	Remove(Yes);
 	EXPECT_THAT(Draw(), ElementsAre("  ● Go", "  │ Branch", "- ├▸ true", "- │  │ Print String  In String: \"yes\"", "- │  └ ↪ Print String  In String: \"after yes\""));
@@ -191,7 +191,7 @@ TEST_F(DiffPicture, WhatStaysAsItWasIsLeftOut)
 	}
 	Remember();
 	Changed->FindPinChecked(TEXT("InString"))->DefaultValue = TEXT("ten");
-	EXPECT_THAT(Draw(), ElementsAre("  ● Go", "  ⋮", "  │ Print String  In String: \"9\"", "~ │ Print String  In String: \"10\" → \"ten\"", "  │ Print String  In String: \"11\""));
+	EXPECT_THAT(Draw(), ElementsAre("  ● Go", "  …", "  │ Print String  In String: \"9\"", "~ │ Print String  In String: \"10\" → \"ten\"", "  │ Print String  In String: \"11\""));
 }
 
 TEST_F(DiffPicture, CommentsAndReroutesAreTold)

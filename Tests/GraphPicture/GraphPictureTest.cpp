@@ -127,3 +127,37 @@ TEST_F(GraphPicture, ALongChainAndADeepTreeFitTheWidth)
 	}
 	EXPECT_EQ(NumPrints, 560u) << "every node is drawn once";
 }
+
+TEST_F(GraphPicture, ManyPathsThroughAFewNodesComeToAnEnd)
+{
+	UEdGraphNode* const Event = AddEvent(TEXT("Go"));
+	UEdGraphNode* const Print = AddPrint(TEXT(""));
+	Link(Event, Print);
+	UEdGraphNode* const Convert = AddCall(TEXT("KismetStringLibrary"), TEXT("Conv_IntToString"));
+	Link(Convert, TEXT("ReturnValue"), Print, TEXT("InString"));
+	FName Input = TEXT("InInt");
+	UEdGraphNode* Last = Convert;
+	for (int32 Index = 0; Index < 40; ++Index)
+	{
+		UEdGraphNode* const Sum = AddCall(TEXT("KismetMathLibrary"), TEXT("Max"));
+		Link(Sum, TEXT("ReturnValue"), Last, Input);
+		if (Last != Convert)
+		{
+			Link(Sum, TEXT("ReturnValue"), Last, TEXT("B"));
+		}
+		Last = Sum;
+		Input = TEXT("A");
+	}
+	const std::vector<std::string> Lines = Draw();
+	ASSERT_GE(Lines.size(), 3u);
+	EXPECT_EQ(Lines[0], "● Go");
+	size_t NumLeftOut = 0;
+	for (const std::string& Line : Lines)
+	{
+		for (size_t At = Line.find("Max (Integer)"); At != std::string::npos; At = Line.find("Max (Integer)", At + 1))
+		{
+			++NumLeftOut;
+		}
+	}
+	EXPECT_GE(NumLeftOut, 35u) << "what lies too deep is named below";
+}

@@ -211,7 +211,7 @@ private:
 			}
 			if (bGap && !BeginsSection(All[Index]))
 			{
-				Lines.AddContext(FStyledLine(TEXT("⋮"), TextStyle::Faint));
+				Lines.AddContext(FStyledLine(TEXT("…"), TextStyle::Faint));
 			}
 			bGap = false;
 			const bool bMarked = IsMarked(All[Index]);
@@ -256,7 +256,8 @@ private:
 		if (bNode && Line.Difference == EDifference::Changed)
 		{
 			FStyledLine Text(WriteNumber(Line.Node), TextStyle::Accent);
-			return Text.Append(WriteChangedNode(Line.Node));
+			Text.Append(WriteChangedNode(Line.Node));
+			return Line.Label.IsEmpty() ? Text : Text.Add(TEXT("  ▸ ") + Line.Label, TextStyle::Faint);
 		}
 		return WritePlainLine(Line, GetNodeStyles(Line.Difference), Line.Difference == EDifference::Removed ? ShownBefore : ShownAfter);
 	}
@@ -278,7 +279,7 @@ private:
 		}
 		if (Line.Node == INDEX_NONE)
 		{
-			return Text.Add(TEXT("⋮"), Styles.Label);
+			return Text.Add(TEXT("…"), Styles.Label);
 		}
 		const FNodeSnapshot& Node = Merged.Get(Line.Node);
 		Text.Add(WriteNumber(Line.Node), Styles.Number);
@@ -317,16 +318,15 @@ private:
 		{
 			Text.Add(Now.Title, TextStyle::Strong);
 		}
-		for (const FInputChange& Change : Inputs ? *Inputs : TArray<FInputChange>())
+		static const TArray<FInputChange> NoInputs;
+		static const TArray<FAspectDifference> NoAspects;
+		for (const FInputChange& Change : Inputs ? *Inputs : NoInputs)
 		{
 			DiffText::AddValue(Text, Change.Label, Change.Before.Text, Change.After.Text);
-			if (!Change.Before.bCut && !Change.After.bCut)
-			{
-				ShownBefore.Add(Change.Before);
-				ShownAfter.Add(Change.After);
-			}
+			ShownBefore.Add(Change.Before);
+			ShownAfter.Add(Change.After);
 		}
-		for (const FAspectDifference& Aspect : Own ? (*Own)->Aspects : TArray<FAspectDifference>())
+		for (const FAspectDifference& Aspect : Own ? (*Own)->Aspects : NoAspects)
 		{
 			const bool bInInputs = Aspect.Aspect == ENodeAspect::PinValue && Inputs && Inputs->ContainsByPredicate([&](const FInputChange& Change)
 																						   { return Change.Label.Equals(Aspect.Name); });

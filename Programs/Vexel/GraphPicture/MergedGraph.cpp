@@ -1,26 +1,5 @@
 #include "GraphFlow.h"
 
-namespace
-{
-constexpr int32 MaxReroutes = 12;
-
-/** Wires that come to an execution input, those behind reroute nodes each. */
-int32 CountSources(const FGraphSnapshot& Graph, const FPinSnapshot& Input, int32 Depth)
-{
-	int32 Num = 0;
-	for (const FPinLink& Source : Input.Links)
-	{
-		const FNodeSnapshot& Node = Graph.Nodes[Source.Node];
-		const bool bReroute = Node.Form == ENodeForm::Reroute && Depth < MaxReroutes;
-		const FPinSnapshot* const Inner = bReroute ? Node.Pins.FindByPredicate([](const FPinSnapshot& Pin)
-														 { return Pin.bInput; })
-												   : nullptr;
-		Num += Inner ? CountSources(Graph, *Inner, Depth + 1) : 1;
-	}
-	return Num;
-}
-}
-
 FMergedGraph::FMergedGraph(const FGraphSnapshot& InAfter, const FGraphSnapshot* InBefore, const FGraphDifference* Difference)
 	: After(InAfter)
 	, Before(InBefore)
@@ -114,10 +93,32 @@ TArray<FMergedGraph::FWay> FMergedGraph::FindWays(int32 Node) const
 
 int32 FMergedGraph::CountEntering(int32 Node) const
 {
+	const FGraphSnapshot& Side = GetGraph(Node);
 	int32 Num = 0;
-	for (const FPinSnapshot& Pin : Get(Node).Pins)
+	TSet<int32> Reroutes;
+	TArray<const FNodeSnapshot*> Open = {&Get(Node)};
+	while (!Open.IsEmpty())
 	{
-		Num += Pin.bInput && Pin.bExec ? CountSources(GetGraph(Node), Pin, 0) : 0;
+		for (const FPinSnapshot& Pin : Open.Pop()->Pins)
+		{
+			if (!Pin.bInput || !Pin.bExec)
+			{
+				continue;
+			}
+			for (const FPinLink& Source : Pin.Links)
+			{
+				const FNodeSnapshot& Leading = Side.Nodes[Source.Node];
+				if (Leading.Form != ENodeForm::Reroute)
+				{
+					++Num;
+				}
+				else if (!Reroutes.Contains(Source.Node))
+				{
+					Reroutes.Add(Source.Node);
+					Open.Add(&Leading);
+				}
+			}
+		}
 	}
 	return Num;
 }

@@ -30,14 +30,18 @@ struct FShownNodes
 	/** The text has their values alone: conversions. */
 	TSet<int32> Unnamed;
 
+	/** Adds those of an expression, unless it is cut: nobody knows what is left of it then. */
 	void Add(const FPinExpression& Expression)
 	{
-		Named.Append(Expression.Named);
-		Unnamed.Append(Expression.Unnamed);
+		if (!Expression.bCut)
+		{
+			Named.Append(Expression.Named);
+			Unnamed.Append(Expression.Unnamed);
+		}
 	}
 };
 
-/** "Print String  In String: "Hello"  # why". Adds the pure nodes that it shows to Shown; those of texts that are cut may be missing in it. */
+/** "Print String  In String: "Hello"  # why". Adds the pure nodes that it shows to Shown. */
 FStyledLine WriteNode(const FGraphSnapshot& Graph, const FNodeSnapshot& Node, const FNodeStyles& Styles, FShownNodes& Shown);
 
 /** What a root gives to the nodes behind it: " → Damage, Damage Type"; empty without outputs. */

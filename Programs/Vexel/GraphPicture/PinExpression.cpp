@@ -8,6 +8,8 @@ namespace
 {
 constexpr int32 MaxDepth = 6;
 constexpr int32 MaxTextLength = 160;
+/** Nodes that a text is made of, each time that it is in it: a node that many paths lead to is met on each of them. */
+constexpr int32 MaxVisits = 200;
 const TCHAR* const Ellipsis = TEXT("…");
 
 class FExpressionWriter
@@ -76,9 +78,8 @@ private:
 			const bool bResult = Output.Name == UEdGraphSchema_K2::PN_ReturnValue;
 			return bResult ? TEXT("result of ") + Node.Title : Output.Label;
 		}
-		if (Depth >= MaxDepth)
+		if (Depth >= MaxDepth || ++NumVisits > MaxVisits)
 		{
-			Expression.bCut = true;
 			return Ellipsis;
 		}
 		if (Node.Form == ENodeForm::VariableGet)
@@ -168,6 +169,7 @@ private:
 
 	const FGraphSnapshot& Graph;
 	FPinExpression Expression;
+	int32 NumVisits = 0;
 };
 }
 

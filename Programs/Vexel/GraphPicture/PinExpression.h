@@ -14,7 +14,7 @@ struct FPinExpression
 	TSet<int32> Named;
 	/** Those of conversions, of which the text has the value alone. */
 	TSet<int32> Unnamed;
-	/** Whether something is left out of the text because it would be too long or too deep. */
+	/** Whether the text was too long, so that some of the nodes may be missing in it. What lies too deep is in neither set. */
 	bool bCut = false;
 };
 
