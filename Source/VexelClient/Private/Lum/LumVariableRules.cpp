@@ -212,7 +212,7 @@ TVexelExpected<FEdGraphPinType> LumVariableRules::ParseType(const TVexelPropType
 TVexelExpected<void> LumVariableRules::CheckMemberName(UBlueprint& Blueprint, const FString& Name, FName ExistingName)
 {
 	// Letter case does not tell names apart.
-	if (Name == ExistingName.ToString())
+	if (!ExistingName.IsNone() && Name == ExistingName.ToString())
 	{
 		return {};
 	}
@@ -232,7 +232,7 @@ TVexelExpected<void> LumVariableRules::CheckMemberName(UBlueprint& Blueprint, co
 TVexelExpected<void> LumVariableRules::CheckLocalName(
 	UBlueprint& Blueprint, const UK2Node_FunctionEntry& Entry, UStruct* Function, const FString& Name, FName ExistingName)
 {
-	if (Name == ExistingName.ToString())
+	if (!ExistingName.IsNone() && Name == ExistingName.ToString())
 	{
 		return {};
 	}

@@ -8,6 +8,7 @@
 #include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
 #include "VexelLog.h"
 
+#include "Algo/AllOf.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphNode.h"
 #include "Engine/Blueprint.h"
@@ -66,17 +67,26 @@ TSharedPtr<FJsonValue> ReadValue(const FJsonObject& Object)
 	return Value && !Value->IsNull() ? Value : nullptr;
 }
 
-/** A whole number, or the text of one; the index that stands for none otherwise. */
+/** Unset unless the text is a whole number that an index can be. */
+TOptional<int32> ParseIndex(const FString& Text)
+{
+	constexpr int32 MaxDigits = 10;
+	const FString Digits = Text.RightChop(Text.StartsWith(TEXT("-")) ? 1 : 0);
+	const bool bIsWhole = !Digits.IsEmpty() && Digits.Len() <= MaxDigits && Algo::AllOf(Digits, &FChar::IsDigit);
+	const int64 Number = bIsWhole ? FCString::Atoi64(*Text) : MAX_int64;
+	return Number >= MIN_int32 && Number <= MAX_int32 ? TOptional<int32>(static_cast<int32>(Number)) : TOptional<int32>();
+}
+
+/** A number, or the text of one; the index that stands for none otherwise. */
 int32 ReadIndex(const FJsonObject& Object)
 {
 	const FString Text = ReadText(Object, TEXT("index"));
-	int32 Index = INDEX_NONE;
-	if (!Text.IsEmpty() && !LexTryParseString(Index, *Text))
+	const TOptional<int32> Index = ParseIndex(Text);
+	if (!Index && !Text.IsEmpty())
 	{
 		VEXEL_LOG(Warning, "Invalid index value '%s' in edit request", *Text.Left(NAME_SIZE));
-		return INDEX_NONE;
 	}
-	return Index;
+	return Index.Get(INDEX_NONE);
 }
 
 FEditRequest::FTargetInfo ReadTarget(const FJsonObject& Request)
