@@ -1,4 +1,5 @@
 #include "EdGraphSchema_K2.h"
+#include "Editor.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_FunctionEntry.h"
