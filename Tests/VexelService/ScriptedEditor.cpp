@@ -154,6 +154,11 @@ FToolOutcome FScriptedEditor::CallTool(std::string_view ToolName, const FJson& A
 		Call += Arguments.contains(Key) ? " " + Arguments[Key].get<std::string>() : "";
 	}
 	Calls.push_back(Call);
+	const auto Ended = Outcomes.find(std::string(ToolName));
+	if (Ended != Outcomes.end())
+	{
+		return {.Status = Ended->second};
+	}
 	const auto Tool = Tools.find(std::string(ToolName));
 	// Through its text, as it would come: numbers then are what a reader makes of them.
 	const FJson Reply = Tool == Tools.end() ? FJson() : FJson::parse(Tool->second(Arguments).dump());

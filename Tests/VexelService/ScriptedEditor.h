@@ -23,6 +23,9 @@ public:
 
 	void SetTool(const std::string& Name, FTool Tool) { Tools[Name] = std::move(Tool); }
 
+	/** Has every call of a tool end so, without an answer. */
+	void SetOutcome(const std::string& Name, EToolStatus Status) { Outcomes[Name] = Status; }
+
 	/** Asks a question in the conversation so far; returns what the assistant says to it. */
 	std::string Ask(const std::string& Question);
 
@@ -39,6 +42,7 @@ private:
 	FJson SearchAssets(const FJson& Arguments) const;
 
 	std::map<std::string, FTool> Tools;
+	std::map<std::string, EToolStatus> Outcomes;
 	std::map<std::string, FJson> Blueprints;
 	FChatRequest Request;
 	std::string Answer;

@@ -26,6 +26,7 @@ constexpr FOptionRow ChatOptions[] = {
 	{TEXT("--service"), TEXT("URL"), TEXT("the service; a local one is started without it")},
 	{TEXT("--token-fd"), TEXT("N"),
 		TEXT("an open file descriptor to read the service's refresh token from, once; it is kept in the secure store")},
+	SaveOption,
 	ChatJsonOption,
 	VerboseOption,
 };

@@ -1,11 +1,9 @@
+#include "ChangedAssets.h"
 #include "Commands.h"
 #include "Console.h"
 #include "Dom/JsonObject.h"
 #include "Dom/JsonValue.h"
-#include "EditorAssetLibrary.h"
 #include "Session.h"
-#include "UObject/Package.h"
-#include "UObject/UObjectIterator.h"
 #include "VexelJson.h"
 #include "VexelTools.h"
 
@@ -32,22 +30,6 @@ TOptional<TSharedRef<FJsonObject>> ReadInput(const FString& Word)
 		return NullOpt;
 	}
 	return Object.ToSharedRef();
-}
-
-/** Saves every asset whose package a tool has changed; false, and the reasons on standard error, when one cannot be saved. */
-bool SaveChangedAssets()
-{
-	bool bAllSaved = true;
-	for (TObjectIterator<UPackage> Package; Package; ++Package)
-	{
-		UObject* const Asset = Package->IsDirty() ? Package->FindAssetInPackage() : nullptr;
-		if (Asset && !UEditorAssetLibrary::SaveLoadedAsset(Asset))
-		{
-			FConsole::WriteError(FString::Printf(TEXT("'%s' cannot be saved"), *Asset->GetPathName()));
-			bAllSaved = false;
-		}
-	}
-	return bAllSaved;
 }
 }
 
@@ -83,7 +65,7 @@ int32 RunToolCommand(const FArguments& Arguments)
 		return ExitStatus::Failed;
 	}
 	WriteJson(Result.GetValue());
-	return Arguments.Has(TEXT("--save")) && !SaveChangedAssets() ? ExitStatus::Failed : ExitStatus::Done;
+	return Arguments.Has(TEXT("--save")) && !SaveChangedAssetsOrSay() ? ExitStatus::Failed : ExitStatus::Done;
 }
 
 int32 RunToolsCommand(const FArguments& Arguments)

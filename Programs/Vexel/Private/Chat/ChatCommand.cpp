@@ -1,3 +1,4 @@
+#include "ChangedAssets.h"
 #include "Chat/ChatSession.h"
 #include "Chat/ConversationList.h"
 #include "Chat/EventChatDisplay.h"
@@ -84,6 +85,18 @@ TOptional<FString> CheckArguments(const FArguments& Arguments)
 	}
 	return Arguments.Has(TEXT("--service")) ? ForeignService::CheckAddress(Arguments.Get(TEXT("--service"))) : NullOpt;
 }
+
+int32 HoldChat(const FArguments& Arguments, UVexelChatSubsystem& Subsystem, const TSharedRef<FVexelChatConversation>& Conversation)
+{
+	const bool bJson = Arguments.Has(TEXT("--json"));
+	if (Arguments.Has(TEXT("--message")))
+	{
+		const auto Run = bJson ? RunOneDocument : RunOneMessage;
+		return Run(Subsystem, Conversation, Arguments.Get(TEXT("--message")));
+	}
+	const TUniquePtr<IChatDisplay> Display = MakeDisplay(bJson);
+	return FChatSession(Subsystem, *Display, Conversation).Run();
+}
 }
 
 int32 RunChatCommand(const FArguments& Arguments)
@@ -106,12 +119,6 @@ int32 RunChatCommand(const FArguments& Arguments)
 		FConsole::WriteError(TEXT("no conversation can be opened"));
 		return ExitStatus::Failed;
 	}
-	const bool bJson = Arguments.Has(TEXT("--json"));
-	if (Arguments.Has(TEXT("--message")))
-	{
-		const auto Run = bJson ? RunOneDocument : RunOneMessage;
-		return Run(Subsystem, Conversation.ToSharedRef(), Arguments.Get(TEXT("--message")));
-	}
-	const TUniquePtr<IChatDisplay> Display = MakeDisplay(bJson);
-	return FChatSession(Subsystem, *Display, Conversation.ToSharedRef()).Run();
+	const int32 Status = HoldChat(Arguments, Subsystem, Conversation.ToSharedRef());
+	return Arguments.Has(TEXT("--save")) && !SaveChangedAssetsOrSay() ? ExitStatus::Failed : Status;
 }

@@ -3,6 +3,7 @@
 #include "BlueprintLookup.h"
 #include "BlueprintSnapshot.h"
 #include "BlueprintWatch.h"
+#include "ChangedAssets.h"
 #include "Chat/ChangeLines.h"
 #include "Chat/ConversationList.h"
 #include "Commands.h"
@@ -67,6 +68,7 @@ TConstArrayView<FChatSession::FCommand> FChatSession::GetCommands()
 		{TEXT("/revert"), TEXT("[NUMBER]"), TEXT("the answers so far, or back to how things stood after one of them"), &FChatSession::Revert},
 		{TEXT("/undo"), TEXT(""), TEXT("takes back the last edit of the project"), &FChatSession::Undo},
 		{TEXT("/redo"), TEXT(""), TEXT("makes the edit again that was taken back last"), &FChatSession::Redo},
+		{TEXT("/save"), TEXT(""), TEXT("saves what was changed"), &FChatSession::Save},
 		{TEXT("/blueprint"), TEXT("PATH [GRAPH]"), TEXT("draws a graph of a Blueprint, the event graph without a name"),
 			&FChatSession::ShowBlueprint},
 		{TEXT("/quit"), TEXT(""), TEXT("ends the chat, as Ctrl-D does"), &FChatSession::Quit},
@@ -332,6 +334,21 @@ TOptional<FString> FChatSession::Undo(const TArray<FString>&)
 TOptional<FString> FChatSession::Redo(const TArray<FString>&)
 {
 	return Travel(false);
+}
+
+TOptional<FString> FChatSession::Save(const TArray<FString>&)
+{
+	const FSavedAssets Result = SaveChangedAssets();
+	if (!Result.Failed.IsEmpty())
+	{
+		return FString::Printf(TEXT("'%s' cannot be saved"), *FString::Join(Result.Failed, TEXT("', '")));
+	}
+	if (Result.Saved.IsEmpty())
+	{
+		return FString(TEXT("there is nothing to save"));
+	}
+	Tell(TEXT("saved: ") + FString::Join(Result.Saved, TEXT(", ")));
+	return NullOpt;
 }
 
 TOptional<FString> FChatSession::Travel(bool bBack)

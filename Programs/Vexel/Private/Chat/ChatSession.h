@@ -43,6 +43,7 @@ private:
 	TOptional<FString> Revert(const TArray<FString>& Words);
 	TOptional<FString> Undo(const TArray<FString>& Words);
 	TOptional<FString> Redo(const TArray<FString>& Words);
+	TOptional<FString> Save(const TArray<FString>& Words);
 	TOptional<FString> ShowBlueprint(const TArray<FString>& Words);
 	TOptional<FString> Quit(const TArray<FString>& Words);
 
