@@ -30,8 +30,8 @@ constexpr std::size_t MaxListedAssets = 200;
 constexpr std::size_t MaxOverviews = 12;
 constexpr std::size_t MaxSaid = 100;
 
-constexpr const char* WhatIUnderstand =
-	"I work offline and understand a fixed set of questions about the project:\n"
+constexpr const char* Questions =
+	"I work offline and understand a fixed set of questions about the project, and requests to change Blueprints:\n"
 	"\n"
 	"- What does BP_Door do? Explain BP_Door. Describe /Game/Doors/BP_Door.\n"
 	"- What happens when the player overlaps it in BP_Door?\n"
@@ -41,9 +41,22 @@ constexpr const char* WhatIUnderstand =
 	"- What does the project contain? Which Blueprints are there? What do they do?\n"
 	"- What does DefaultEngine.ini say? Show the source of ADoor.\n"
 	"- How big is BP_Door? What does BP_Door depend on?\n"
-	"- Show me the graph OpenDoor of BP_Door. Take a picture of the viewport.\n"
+	"- Show me the graph OpenDoor of BP_Door. Take a picture of the viewport.\n";
+
+constexpr const char* Names =
 	"\n"
 	"Name a Blueprint by its name or its path. \"It\" and \"that\" mean what we spoke of last, and \"And BP_Enemy?\" asks the same again.\n";
+
+/** The questions and the requests of every family, by examples. */
+std::string WhatIUnderstand()
+{
+	std::string Text = Questions;
+	for (const FEditFamily& Family : GetEditFamilies())
+	{
+		Text += std::string("- ") + Family.Help + "\n";
+	}
+	return Text + Names;
+}
 
 /** One turn: reads what it needs, and says what it found. */
 class FAnswer
@@ -70,10 +83,10 @@ public:
 		{
 			case EQuestionKind::Unknown:
 			case EQuestionKind::Again:
-				Channel.Say(std::string("I did not understand that. ") + WhatIUnderstand);
+				Channel.Say("I did not understand that. " + WhatIUnderstand());
 				break;
 			case EQuestionKind::Help:
-				Channel.Say(WhatIUnderstand);
+				Channel.Say(WhatIUnderstand());
 				break;
 			case EQuestionKind::Greeting:
 				Channel.Say("Hello. Ask me about a Blueprint or about the project; \"help\" shows what I understand.\n");

@@ -378,6 +378,21 @@ std::string FBlueprintDescriber::WhenEvent(std::string_view Description) const
 	return Sections.Finish();
 }
 
+std::string FBlueprintDescriber::Entry(std::string_view GraphId, std::string_view NodeId) const
+{
+	FSections Sections;
+	FWalkers Walkers(Model);
+	for (const FBlueprintEntry& Entry : FindEntries(Model))
+	{
+		if (!Entry.Node || !Entry.IsConnected() || !EqualIgnoringCase(Entry.Graph->Id, GraphId) || !EqualIgnoringCase(Entry.Node->Id, NodeId))
+		{
+			continue;
+		}
+		Sections.Add(Entry.Graph->Kind == EGraphKind::Event ? Walkers.EventSection(Entry) : GraphSection(*Entry.Graph));
+	}
+	return Sections.Finish();
+}
+
 std::string FBlueprintDescriber::Variables() const
 {
 	if (Model.Variables.empty())

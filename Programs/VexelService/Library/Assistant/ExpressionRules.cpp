@@ -114,6 +114,10 @@ FExpression FExpressionWriter::ParameterOutput(const FBlueprintNode&, const FBlu
 
 FExpression FExpressionWriter::EventOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin)
 {
+	if (Pin.Type == "delegate")
+	{
+		return {"the event " + (Node.Name.empty() ? NodeTitle(Node) : Node.Name)};
+	}
 	const FParameterPhrase* const Phrase = IsNodeType(Node, "event.custom") ? nullptr : FindParameterPhrase(Pin.Id);
 	return {Phrase ? std::string(Phrase->Phrase) : Pin.Id};
 }

@@ -27,6 +27,9 @@ public:
 	/** What happens on the events that fit words like "a player overlaps it". */
 	std::string WhenEvent(std::string_view Description) const;
 
+	/** What happens from one event or from the entry of one function, by its graph and its node; empty where nothing does. */
+	std::string Entry(std::string_view GraphId, std::string_view NodeId) const;
+
 	std::string Variables() const;
 	std::string Functions() const;
 	std::string Macros() const;

@@ -18,7 +18,11 @@ bool IsQuestion(const FEditWords& Words)
 {
 	const auto First = std::find_if(Words.begin(), Words.end(), [](const FEditWord& Word)
 		{ return !Word.bMark && !IsWord(Word, "and|so|ok|okay|well|but|hi|hello|hey|please|now|then"); });
-	return First == Words.end() || IsWord(*First, QuestionOpeners);
+	// "Tell me what would happen if ..." wants to know as well.
+	const auto Happens = std::find_if(Words.begin(), Words.end(), [](const FEditWord& Word)
+		{ return IsWord(Word, "happen|happens|happened"); });
+	const bool bAsksWhat = Happens != Words.begin() && Happens != Words.end() && IsWord(*(Happens - 1), "what|would|will|that|could");
+	return First == Words.end() || IsWord(*First, QuestionOpeners) || bAsksWhat;
 }
 
 }

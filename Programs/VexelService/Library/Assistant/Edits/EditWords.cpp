@@ -177,6 +177,10 @@ private:
 
 	static std::string_view Trimmed(std::string_view Word)
 	{
+		if (Word.find_first_not_of("<>=!+-*/") == std::string_view::npos)
+		{
+			return Word;
+		}
 		const std::size_t Begin = Word.find_first_not_of(Wrapping);
 		return Begin == std::string_view::npos ? std::string_view() : Word.substr(Begin, Word.find_last_not_of(Wrapping) - Begin + 1);
 	}
@@ -210,6 +214,18 @@ FSlot ReadSlot(std::string_view Text)
 	Text = Text.substr(1, Text.size() - 2);
 	const bool bOneWord = Text.size() > 2 && Text.substr(Text.size() - 2) == ":1";
 	return {.Text = bOneWord ? Text.substr(0, Text.size() - 2) : Text, .bCaptures = true, .bOneWord = bOneWord, .bOptional = bOptional};
+}
+
+// Whether a word is one of the alternatives, maybe with the "s" of verbs and of several things: "prints", "seconds", "touches".
+bool IsForm(const FEditWord& Word, std::string_view Alternatives)
+{
+	if (IsWord(Word, Alternatives))
+	{
+		return true;
+	}
+	const std::string_view Text = Word.Text;
+	const bool bPlain = !Word.bQuoted && !Word.bMark && Text.size() > 3 && Text.back() == 's';
+	return bPlain && (IsOneOf(Text.substr(0, Text.size() - 1), Alternatives) || (Text[Text.size() - 2] == 'e' && IsOneOf(Text.substr(0, Text.size() - 2), Alternatives)));
 }
 
 class FPatternMatcher
@@ -250,7 +266,7 @@ private:
 			return false;
 		}
 		const FEditWord& Word = Words[WordAt];
-		if (Slot.bCaptures ? Capture(SlotAt, WordAt) : IsWord(Word, Slot.Text) && Match(SlotAt + 1, WordAt + 1))
+		if (Slot.bCaptures ? Capture(SlotAt, WordAt) : IsForm(Word, Slot.Text) && Match(SlotAt + 1, WordAt + 1))
 		{
 			return true;
 		}
@@ -262,7 +278,7 @@ private:
 	bool MatchWithout(std::size_t SlotAt, std::size_t WordAt)
 	{
 		const FSlot& Slot = Slots[SlotAt];
-		const bool bStandsThere = !Slot.bCaptures && WordAt < Words.size() && IsWord(Words[WordAt], Slot.Text);
+		const bool bStandsThere = !Slot.bCaptures && WordAt < Words.size() && IsForm(Words[WordAt], Slot.Text);
 		return !bStandsThere && Match(SlotAt + 1, WordAt);
 	}
 
@@ -270,8 +286,9 @@ private:
 	{
 		const FSlot& Slot = Slots[SlotAt];
 		const std::size_t Longest = Slot.bOneWord ? WordAt + 1 : Words.size();
-		// An article belongs to a slot only when it is all that there is, as a key's name may be.
-		const bool bLeads = IsWord(Words[WordAt], Articles) && WordAt + 1 < Words.size() && !Words[WordAt + 1].bMark;
+		// An article belongs to a slot only when it is all that there is; "the A key" has one, and a name.
+		const bool bName = WordAt > 0 && Words[WordAt].Text == "A";
+		const bool bLeads = !bName && IsWord(Words[WordAt], Articles) && WordAt + 1 < Words.size() && !Words[WordAt + 1].bMark;
 		if (bLeads && Capture(SlotAt, WordAt + 1))
 		{
 			return true;
@@ -280,8 +297,7 @@ private:
 		{
 			if (Match(SlotAt + 1, End))
 			{
-				Captures[std::string(Slot.Text)] =
-					FEditWords(Words.begin() + static_cast<std::ptrdiff_t>(WordAt), Words.begin() + static_cast<std::ptrdiff_t>(End));
+				Captures[std::string(Slot.Text)] = PartOf(Words, WordAt, End);
 				return true;
 			}
 		}
@@ -314,6 +330,11 @@ std::string JoinWords(const FEditWords& Words)
 		Text += (Text.empty() || Word.bMark ? "" : " ") + Word.Text;
 	}
 	return Text;
+}
+
+FEditWords PartOf(const FEditWords& Words, std::size_t Begin, std::size_t End)
+{
+	return FEditWords(Words.begin() + static_cast<std::ptrdiff_t>(Begin), Words.begin() + static_cast<std::ptrdiff_t>(End));
 }
 
 bool IsWord(const FEditWord& Word, std::string_view Alternatives)

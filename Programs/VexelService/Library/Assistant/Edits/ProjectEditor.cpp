@@ -71,16 +71,40 @@ FJson OneOperation(FJson Operation)
 
 }
 
+std::vector<std::string> ReadNearestTypes(const std::string& Error)
+{
+	std::vector<std::string> Types;
+	std::size_t At = Error.find("Nearest:");
+	while (At != std::string::npos)
+	{
+		const std::size_t Open = Error.find('\'', At);
+		const std::size_t Close = Open == std::string::npos ? Open : Error.find('\'', Open + 1);
+		if (Close == std::string::npos)
+		{
+			break;
+		}
+		Types.push_back(Error.substr(Open + 1, Close - Open - 1));
+		At = Close + 1;
+	}
+	return Types;
+}
+
 FProjectEditor::FProjectEditor(FProjectReader& InReader, std::string InPath)
 	: Reader(InReader)
 	, Path(std::move(InPath))
 {
 }
 
+const FBlueprintModel& FProjectEditor::Blueprint()
+{
+	static const FBlueprintModel Nothing;
+	const FBlueprintModel* const Known = Model();
+	return Known ? *Known : Nothing;
+}
+
 const FBlueprintGraph* FProjectEditor::FindGraph(const std::string& GraphId)
 {
-	const FBlueprintModel* const Blueprint = Model();
-	return Blueprint ? Blueprint->FindGraph(GraphId) : nullptr;
+	return Blueprint().FindGraph(GraphId);
 }
 
 FEditOutcome FProjectEditor::Edit(std::string_view Tool, FJson Arguments)

@@ -38,6 +38,9 @@ std::optional<FEditWords> SplitEditWords(std::string_view Text);
 /** The words with one blank between two, those in quotes without them. */
 std::string JoinWords(const FEditWords& Words);
 
+/** The words from Begin up to End. */
+FEditWords PartOf(const FEditWords& Words, std::size_t Begin, std::size_t End);
+
 /** Whether a word is one of "a|b|c", outside quotes and without regard to case. */
 bool IsWord(const FEditWord& Word, std::string_view Alternatives);
 
@@ -46,7 +49,7 @@ using FCaptures = std::map<std::string, FEditWords, std::less<>>;
 
 /**
  * Matches words against a pattern that must cover all of them, such as "set|change {what} to|as {value} [please]": a word or its
- * alternatives, "[a|b]" for words that may be missing, "{name}" for one or more words, as few as possible, "{name:1}" for exactly
+ * alternatives, which may stand with an "s" behind, "[a|b]" for words that may be missing, "{name}" for one or more words, as few as possible, "{name:1}" for exactly
  * one. Articles and polite words in the message count only where the pattern or a slot has need of them; a slot is given none at its
  * beginning. Marks match no word of a pattern.
  */

@@ -100,6 +100,8 @@ public:
 
 	/** The Blueprint as the last answer has it; read when it was not before. Null when it cannot be read. */
 	const FBlueprintModel* Model() { return Reader.ReadBlueprint(Path); }
+	/** The same, and one without anything where it cannot be read. */
+	const FBlueprintModel& Blueprint();
 	const FBlueprintGraph* FindGraph(const std::string& GraphId);
 
 	const std::string& GetPath() const { return Path; }
@@ -134,5 +136,8 @@ private:
 	FProjectReader& Reader;
 	const std::string Path;
 };
+
+/** The node-type ids that an error of SpawnNodes names as the nearest to one that there is not. */
+std::vector<std::string> ReadNearestTypes(const std::string& Error);
 
 }

@@ -1,0 +1,24 @@
+#pragma once
+
+#include "Assistant/Edits/EditPlan.h"
+#include "Assistant/Edits/EditRun.h"
+
+#include <string>
+#include <vector>
+
+namespace VexelService
+{
+
+/** An editor's error in its own words, without what they repeat. */
+std::string PlainError(const std::string& Error);
+
+/** A list in Markdown; empty for none. */
+std::string BulletList(const std::vector<std::string>& Items);
+
+/** What the compiler says, in words and with what to do about it. */
+std::string DescribeCompile(const FCompileOutcome& Outcome, const std::string& Blueprint);
+
+/** Why an edit was not done, and what is left of it. */
+std::string DescribeFailure(const FRunOutcome& Outcome);
+
+}
