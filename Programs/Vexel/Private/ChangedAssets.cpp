@@ -2,6 +2,7 @@
 
 #include "Console.h"
 #include "EditorAssetLibrary.h"
+#include "Misc/PackageName.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectIterator.h"
 
@@ -10,7 +11,9 @@ FSavedAssets SaveChangedAssets()
 	FSavedAssets Result;
 	for (TObjectIterator<UPackage> Package; Package; ++Package)
 	{
-		UObject* const Asset = Package->IsDirty() ? Package->FindAssetInPackage() : nullptr;
+		// A new level that nobody gave a name belongs to no project.
+		const bool bOfProject = !FPackageName::IsTempPackage(Package->GetName());
+		UObject* const Asset = bOfProject && Package->IsDirty() ? Package->FindAssetInPackage() : nullptr;
 		if (!Asset)
 		{
 			continue;

@@ -5,6 +5,7 @@
 #include "Assistant/Words.h"
 
 #include <algorithm>
+#include <numeric>
 
 namespace VexelService
 {
@@ -53,6 +54,43 @@ const FBlueprintPin* FindLikePin(const FBlueprintNode& Node, const std::string& 
 	{ return Pin->IsExec(); };
 	const auto Only = std::find_if(Pins.begin(), Pins.end(), IsExec);
 	return bExec && std::count_if(Pins.begin(), Pins.end(), IsExec) == 1 ? *Only : nullptr;
+}
+
+// The links that are made in one call, which lays out their nodes together: those of each chain of nodes. What binds an event to the
+// node that calls it some time goes first, so that it does not hold their chains together.
+std::vector<std::vector<FPlanLink>> SplitLinks(const FEditPlan& Plan)
+{
+	std::vector<FPlanIndex> Chain(Plan.Nodes.size());
+	std::iota(Chain.begin(), Chain.end(), FPlanIndex(0));
+	const auto IsBinding = [](const FPlanLink& Link)
+	{ return Link.FromPin == "OutputDelegate"; };
+	for (const FPlanLink& Link : Plan.Links)
+	{
+		const FPlanIndex From = Chain[Link.From];
+		if (!IsBinding(Link))
+		{
+			std::replace(Chain.begin(), Chain.end(), From, FPlanIndex(Chain[Link.To]));
+		}
+	}
+	std::vector<std::vector<FPlanLink>> Batches;
+	std::map<std::pair<bool, FPlanIndex>, std::size_t> Places;
+	for (const bool bBindings : {true, false})
+	{
+		for (const FPlanLink& Link : Plan.Links)
+		{
+			if (IsBinding(Link) != bBindings)
+			{
+				continue;
+			}
+			const auto [Place, bNew] = Places.try_emplace({bBindings, Chain[Link.From]}, Batches.size());
+			if (bNew)
+			{
+				Batches.emplace_back();
+			}
+			Batches[Place->second].push_back(Link);
+		}
+	}
+	return Batches;
 }
 
 }
@@ -229,14 +267,20 @@ bool FEditRun::NameEvents(const FEditPlan& Plan, FRunOutcome& Outcome)
 
 bool FEditRun::Link(const FEditPlan& Plan, FRunOutcome& Outcome)
 {
-	std::map<std::string, std::vector<FLinkToEdit>> ByGraph;
-	for (const FPlanLink& Planned : Plan.Links)
+	for (const std::vector<FPlanLink>& Batch : SplitLinks(Plan))
 	{
-		const std::string& Graph = Plan.Nodes[Planned.From].Graph;
-		ByGraph[Graph].push_back(WithRealPins(Graph, {Nodes[Planned.From], Planned.FromPin, Nodes[Planned.To], Planned.ToPin}));
+		const std::string& Graph = Plan.Nodes[Batch.front().From].Graph;
+		std::vector<FLinkToEdit> Links;
+		for (const FPlanLink& Planned : Batch)
+		{
+			Links.push_back(WithRealPins(Graph, {Nodes[Planned.From], Planned.FromPin, Nodes[Planned.To], Planned.ToPin}));
+		}
+		if (!LinkIn(Graph, Links, Outcome))
+		{
+			return false;
+		}
 	}
-	return std::all_of(ByGraph.begin(), ByGraph.end(), [&](const auto& Group)
-		{ return LinkIn(Group.first, Group.second, Outcome); });
+	return true;
 }
 
 bool FEditRun::LinkIn(const std::string& Graph, const std::vector<FLinkToEdit>& Links, FRunOutcome& Outcome)

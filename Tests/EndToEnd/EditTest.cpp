@@ -1,0 +1,137 @@
+#include "Program.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <sstream>
+
+namespace
+{
+using testing::AllOf;
+using testing::HasSubstr;
+
+/** More than the edits of any of the sentences here. */
+constexpr int MaxUndos = 60;
+
+/** A behavior that one sentence builds, and what the graph's picture then shows, in this order. */
+struct FBehavior
+{
+	const char* Name;
+	const char* Blueprint;
+	const char* Sentence;
+	std::vector<std::string> Steps;
+};
+
+void PrintTo(const FBehavior& Behavior, std::ostream* Stream)
+{
+	*Stream << Behavior.Name;
+}
+
+/** What a chat says to lines of input: the texts of its answers, and the results of its commands. */
+struct FChatRecord
+{
+	std::vector<std::string> Answers;
+	std::vector<std::string> Pictures;
+	std::string All;
+};
+
+FChatRecord RunChat(const std::filesystem::path& Project, const std::string& Input)
+{
+	const FProgramResult Result = RunVexel({"chat", "--json", "--project", Project}, FProgramSurroundings{.Input = Input, .TimeoutSeconds = 120});
+	FChatRecord Record;
+	Record.All = Result.Output + Result.Errors;
+	std::istringstream Lines(Result.Output);
+	for (std::string Line; std::getline(Lines, Line);)
+	{
+		const nlohmann::json Event = nlohmann::json::parse(Line, nullptr, false);
+		const std::string Kind = Event.is_object() ? Event.value("event", "") : std::string();
+		if (Kind == "turn_started")
+		{
+			Record.Answers.emplace_back();
+		}
+		else if (Kind == "text" && !Record.Answers.empty())
+		{
+			Record.Answers.back() += Event.value("text", "");
+		}
+		else if (Kind == "command" && Event.value("command", "") == "/blueprint")
+		{
+			Record.Pictures.push_back(Event["result"]["text"]);
+		}
+	}
+	return Record;
+}
+
+class Edit : public testing::TestWithParam<FBehavior>
+{
+};
+}
+
+TEST_P(Edit, OneSentenceBuildsItCompiledAndUndoTakesAllOfItBack)
+{
+	const FSampleProjectCopy Project;
+	const std::string Blueprint = GetParam().Blueprint;
+	const std::string State = "/blueprint " + Blueprint + "\nWhich variables does " + Blueprint + " have?\n";
+	std::string Input = State + GetParam().Sentence + "\n/blueprint " + Blueprint + "\n";
+	for (int Count = 0; Count < MaxUndos; ++Count)
+	{
+		Input += "/undo\n";
+	}
+	Input += State;
+	const FChatRecord Record = RunChat(Project.GetPath(), Input);
+	ASSERT_EQ(Record.Answers.size(), 3u) << Record.All;
+	ASSERT_EQ(Record.Pictures.size(), 3u) << Record.All;
+	EXPECT_THAT(Record.Answers[1], HasSubstr("**" + Blueprint + "** compiles without errors."));
+	std::size_t At = 0;
+	for (const std::string& Step : GetParam().Steps)
+	{
+		const std::size_t Found = Record.Pictures[1].find(Step, At);
+		ASSERT_NE(Found, std::string::npos) << Step << "\n in\n"
+											<< Record.Pictures[1];
+		At = Found + Step.size();
+	}
+	EXPECT_NE(Record.Pictures[1], Record.Pictures[0]);
+	EXPECT_EQ(Record.Pictures[2], Record.Pictures[0]);
+	EXPECT_EQ(Record.Answers[2], Record.Answers[0]);
+}
+
+INSTANTIATE_TEST_SUITE_P(Behaviors, Edit,
+	testing::Values(
+		FBehavior{"Door", "BP_Door", "In BP_Door, when something hits it open the door, then close it after 3 seconds",
+			{"● Event Hit", "Open Door", "Delay  Duration: 3", "Close Door"}},
+		FBehavior{"Health", "BP_Enemy", "In BP_Enemy, when it is hit, subtract 10 from Health, then destroy it if Health is 0 or less",
+			{"● Event Hit", "Set Health  Health: Health - 10", "Branch  Condition: Health <= 0", "Destroy Actor"}},
+		FBehavior{"Spawner", "BP_Door", "In BP_Door, every 5 seconds spawn BP_Enemy",
+			{"● Event BeginPlay", "Set Timer by Event", "Looping: true", "● SpawnEnemy", "Spawn Actor"}},
+		FBehavior{"Light", "BP_Door", "When L is pressed toggle the light in BP_Door",
+			{"Add Point Light Component", "Set Light", "● L", "Toggle Visibility  Target: Light"}}),
+	[](const testing::TestParamInfo<FBehavior>& Info)
+	{ return std::string(Info.param.Name); });
+
+TEST(EditSaving, AnEditIsKeptWhereTheUserSaysSo)
+{
+	const FSampleProjectCopy Project;
+	const auto Picture = [&Project]
+	{ return RunVexel({"graph", "show", "--project", Project.GetPath(), "--blueprint", "BP_Door"}).Output; };
+	const std::string Before = Picture();
+	const std::string Sentence = "In BP_Door, when something hits it open the door";
+	ASSERT_EQ(RunVexel({"chat", "--project", Project.GetPath(), "--message", Sentence}).Status, 0);
+	EXPECT_EQ(Picture(), Before);
+	ASSERT_EQ(RunVexel({"chat", "--project", Project.GetPath(), "--save", "--message", Sentence}).Status, 0);
+	EXPECT_THAT(Picture(), HasSubstr("● Event Hit"));
+	const FChatRecord Record = RunChat(Project.GetPath(), "/save\nIn BP_Door, when it is destroyed print \"Gone\"\n/save\n");
+	EXPECT_THAT(Record.All, AllOf(HasSubstr("there is nothing to save"), HasSubstr("saved: "), HasSubstr("BP_Door")));
+	EXPECT_THAT(Picture(), HasSubstr("● Event Destroyed"));
+}
+
+TEST(EditRefusals, WhatCannotBeDoneLeavesTheBlueprintAsItWas)
+{
+	const FSampleProjectCopy Project;
+	const FChatRecord Record = RunChat(Project.GetPath(),
+		"/blueprint BP_Door\nIn BP_Door, when F is pressed toggle the chandelier\nIn BP_Door, on BeginPlay spawn BP_Submarine\n/blueprint BP_Door\n");
+	ASSERT_EQ(Record.Answers.size(), 2u) << Record.All;
+	EXPECT_THAT(Record.Answers[0], HasSubstr("no component and no variable called \"chandelier\""));
+	EXPECT_THAT(Record.Answers[1], HasSubstr("no class of actors called \"BP_Submarine\""));
+	ASSERT_EQ(Record.Pictures.size(), 2u);
+	EXPECT_EQ(Record.Pictures[0], Record.Pictures[1]);
+}
