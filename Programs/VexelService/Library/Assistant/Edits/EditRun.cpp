@@ -57,7 +57,7 @@ const FBlueprintPin* FindLikePin(const FBlueprintNode& Node, const std::string& 
 }
 
 // The links that are made in one call, which lays out their nodes together: those of each chain of nodes. What binds an event to the
-// node that calls it some time goes first, so that it does not hold their chains together.
+// node that calls it some time goes last, so that each chain has its own place by then.
 std::vector<std::vector<FPlanLink>> SplitLinks(const FEditPlan& Plan)
 {
 	std::vector<FPlanIndex> Chain(Plan.Nodes.size());
@@ -74,7 +74,7 @@ std::vector<std::vector<FPlanLink>> SplitLinks(const FEditPlan& Plan)
 	}
 	std::vector<std::vector<FPlanLink>> Batches;
 	std::map<std::pair<bool, FPlanIndex>, std::size_t> Places;
-	for (const bool bBindings : {true, false})
+	for (const bool bBindings : {false, true})
 	{
 		for (const FPlanLink& Link : Plan.Links)
 		{
