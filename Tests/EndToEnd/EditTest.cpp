@@ -23,10 +23,7 @@ struct FBehavior
 	std::vector<std::string> Steps;
 };
 
-void PrintTo(const FBehavior& Behavior, std::ostream* Stream)
-{
-	*Stream << Behavior.Name;
-}
+void PrintTo(const FBehavior& Behavior, std::ostream* Stream) { *Stream << Behavior.Name; }
 
 /** What a chat says to lines of input: the texts of its answers, and the results of its commands. */
 struct FChatRecord
@@ -38,7 +35,8 @@ struct FChatRecord
 
 FChatRecord RunChat(const std::filesystem::path& Project, const std::string& Input)
 {
-	const FProgramResult Result = RunVexel({"chat", "--json", "--project", Project}, FProgramSurroundings{.Input = Input, .TimeoutSeconds = 120});
+	const FProgramResult Result =
+		RunVexel({"chat", "--json", "--project", Project}, FProgramSurroundings{.Input = Input, .TimeoutSeconds = 120});
 	FChatRecord Record;
 	Record.All = Result.Output + Result.Errors;
 	std::istringstream Lines(Result.Output);
@@ -96,9 +94,8 @@ TEST_P(Edit, OneSentenceBuildsItCompiledAndUndoTakesAllOfItBack)
 }
 
 INSTANTIATE_TEST_SUITE_P(Behaviors, Edit,
-	testing::Values(
-		FBehavior{"Door", "BP_Door", "In BP_Door, when something hits it open the door, then close it after 3 seconds",
-			{"● Event Hit", "Open Door", "Delay  Duration: 3", "Close Door"}},
+	testing::Values(FBehavior{"Door", "BP_Door", "In BP_Door, when something hits it open the door, then close it after 3 seconds",
+						{"● Event Hit", "Open Door", "Delay  Duration: 3", "Close Door"}},
 		FBehavior{"Health", "BP_Enemy", "In BP_Enemy, when it is hit, subtract 10 from Health, then destroy it if Health is 0 or less",
 			{"● Event Hit", "Set Health  Health: Health - 10", "Branch  Condition: Health <= 0", "Destroy Actor"}},
 		FBehavior{"Spawner", "BP_Door", "In BP_Door, every 5 seconds spawn BP_Enemy",
@@ -112,7 +109,9 @@ TEST(EditSaving, AnEditIsKeptWhereTheUserSaysSo)
 {
 	const FSampleProjectCopy Project;
 	const auto Picture = [&Project]
-	{ return RunVexel({"graph", "show", "--project", Project.GetPath(), "--blueprint", "BP_Door"}).Output; };
+	{
+		return RunVexel({"graph", "show", "--project", Project.GetPath(), "--blueprint", "BP_Door"}).Output;
+	};
 	const std::string Before = Picture();
 	const std::string Sentence = "In BP_Door, when something hits it open the door";
 	ASSERT_EQ(RunVexel({"chat", "--project", Project.GetPath(), "--message", Sentence}).Status, 0);
@@ -128,7 +127,8 @@ TEST(EditRefusals, WhatCannotBeDoneLeavesTheBlueprintAsItWas)
 {
 	const FSampleProjectCopy Project;
 	const FChatRecord Record = RunChat(Project.GetPath(),
-		"/blueprint BP_Door\nIn BP_Door, when F is pressed toggle the chandelier\nIn BP_Door, on BeginPlay spawn BP_Submarine\n/blueprint BP_Door\n");
+		"/blueprint BP_Door\nIn BP_Door, when F is pressed toggle the chandelier\nIn BP_Door, on BeginPlay spawn BP_Submarine\n/blueprint "
+		"BP_Door\n");
 	ASSERT_EQ(Record.Answers.size(), 2u) << Record.All;
 	EXPECT_THAT(Record.Answers[0], HasSubstr("no component and no variable called \"chandelier\""));
 	EXPECT_THAT(Record.Answers[1], HasSubstr("no class of actors called \"BP_Submarine\""));

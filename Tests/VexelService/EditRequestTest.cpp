@@ -79,10 +79,11 @@ TEST(EditRequest, TheBlueprintIsTakenOutOfTheWords)
 
 TEST(EditRequest, QuestionsAndTalkAreNoEdits)
 {
-	for (const char* const Message : {"What does BP_Door do?", "What happens when F is pressed in BP_Door?", "what would happen if I pressed F",
-			 "Tell me what would happen if the player overlaps it", "how do I spawn an actor", "Where is Health set?", "Does it print Hello on BeginPlay?",
-			 "Which event opens the door?", "Explain BP_Door", "Show me the graph OpenDoor of BP_Door", "hello", "thanks", "help", "And BP_Enemy?",
-			 "", "   ", "...", "\"", "in BP_Door", "the moon rises", "on", "when", "if", "and then", "List all levels."})
+	for (const char* const Message : {"What does BP_Door do?", "What happens when F is pressed in BP_Door?",
+			 "what would happen if I pressed F", "Tell me what would happen if the player overlaps it", "how do I spawn an actor",
+			 "Where is Health set?", "Does it print Hello on BeginPlay?", "Which event opens the door?", "Explain BP_Door",
+			 "Show me the graph OpenDoor of BP_Door", "hello", "thanks", "help", "And BP_Enemy?", "", "   ", "...", "\"", "in BP_Door",
+			 "the moon rises", "on", "when", "if", "and then", "List all levels."})
 	{
 		EXPECT_FALSE(ReadEditRequest(Message)) << Message;
 	}
@@ -98,11 +99,14 @@ TEST(EditRequest, StepsWithoutAnEventAreAskedForOne)
 
 TEST(EditRequest, ManyWaysToSayTheSame)
 {
-	for (const char* const Message : {"on BeginPlay print \"Hi\"", "On begin play, print \"Hi\".", "when the game starts print \"Hi\"", "When play begins: print \"Hi\"",
-			 "print \"Hi\" on BeginPlay", "Please print \"Hi\" when the level starts", "can you print \"Hi\" on begin play?", "could you please make it so that on BeginPlay it prints \"Hi\"",
-			 "I want it to print \"Hi\" when the game begins", "add logic that prints \"Hi\" on BeginPlay", "on start, display 'Hi'", "When it spawns log \"Hi\"",
-			 "whenever the player touches it, say \"Hi\"", "upon overlap write \"Hi\"", "as soon as it is hit, print \"Hi\"", "every frame print \"Hi\"", "each second print \"Hi\"",
-			 "pressing F prints \"Hi\"", "when I press the F key print \"Hi\"", "on key F print \"Hi\"", "when the left mouse button is pressed print \"Hi\"", "when someone enters, print \"Hi\""})
+	for (const char* const Message :
+		{"on BeginPlay print \"Hi\"", "On begin play, print \"Hi\".", "when the game starts print \"Hi\"", "When play begins: print \"Hi\"",
+			"print \"Hi\" on BeginPlay", "Please print \"Hi\" when the level starts", "can you print \"Hi\" on begin play?",
+			"could you please make it so that on BeginPlay it prints \"Hi\"", "I want it to print \"Hi\" when the game begins",
+			"add logic that prints \"Hi\" on BeginPlay", "on start, display 'Hi'", "When it spawns log \"Hi\"",
+			"whenever the player touches it, say \"Hi\"", "upon overlap write \"Hi\"", "as soon as it is hit, print \"Hi\"",
+			"every frame print \"Hi\"", "each second print \"Hi\"", "pressing F prints \"Hi\"", "when I press the F key print \"Hi\"",
+			"on key F print \"Hi\"", "when the left mouse button is pressed print \"Hi\"", "when someone enters, print \"Hi\""})
 	{
 		const std::optional<FEditRequest> Read = ReadEditRequest(Message);
 		EXPECT_TRUE(Read && Read->Edit) << Message << (Read ? ": " + Read->Question : std::string());

@@ -19,15 +19,13 @@ FJson* FindIn(FJson& List, const std::string& Id)
 
 FJson* FindPin(FJson& Node, const std::string& Id, const char* Direction)
 {
-	const auto Found = std::find_if(Node["pins"].begin(), Node["pins"].end(), [&](const FJson& Pin)
+	const auto Found = std::find_if(
+		Node["pins"].begin(), Node["pins"].end(), [&](const FJson& Pin)
 		{ return Pin["id"] == Id && Pin["dir"] == Direction; });
 	return Found == Node["pins"].end() ? nullptr : &*Found;
 }
 
-std::string LastPart(const std::string& Type)
-{
-	return Type.substr(Type.rfind('.') + 1);
-}
+std::string LastPart(const std::string& Type) { return Type.substr(Type.rfind('.') + 1); }
 
 void Unlink(FJson& Graph, const std::string& Node, const std::string& Pin)
 {
@@ -67,25 +65,21 @@ FEditableBlueprint::FEditableBlueprint(FScriptedEditor& Editor, FJson InBlueprin
 		{ return AddGraph(Arguments); });
 	Editor.SetTool("graph_remove", [this](const FJson& Arguments)
 		{ return RemoveGraph(Arguments); });
-	Editor.SetTool("compile", [this](const FJson&) -> FJson
+	Editor.SetTool("compile",
+		[this](const FJson&) -> FJson
 		{
 			FJson Messages = FJson::array();
 			for (const std::string& Error : CompilerErrors)
 			{
 				Messages.push_back({{"severity", "error"}, {"message", Error}});
 			}
-			return {{"success", CompilerErrors.empty()}, {"compiler_messages", Messages}}; });
+			return {{"success", CompilerErrors.empty()}, {"compiler_messages", Messages}};
+		});
 }
 
-FJson FEditableBlueprint::Answer(FJson Errors) const
-{
-	return {{"blueprint", Blueprint}, {"errors", std::move(Errors)}};
-}
+FJson FEditableBlueprint::Answer(FJson Errors) const { return {{"blueprint", Blueprint}, {"errors", std::move(Errors)}}; }
 
-FJson* FEditableBlueprint::FindGraph(const std::string& Id)
-{
-	return FindIn(Blueprint["graphs"], Id);
-}
+FJson* FEditableBlueprint::FindGraph(const std::string& Id) { return FindIn(Blueprint["graphs"], Id); }
 
 std::optional<std::vector<FJson>> FEditableBlueprint::PinsOf(const std::string& Type) const
 {
@@ -103,7 +97,8 @@ std::optional<std::vector<FJson>> FEditableBlueprint::PinsOf(const std::string& 
 		{
 			return std::nullopt;
 		}
-		return IsOf("var.get.") ? std::vector<FJson>{DataOut(Last, ValueType)} : std::vector<FJson>{ExecIn(), ExecOut(), DataIn(Last, ValueType)};
+		return IsOf("var.get.") ? std::vector<FJson>{DataOut(Last, ValueType)}
+								: std::vector<FJson>{ExecIn(), ExecOut(), DataIn(Last, ValueType)};
 	}
 	if (IsOf("event.Actor.ReceiveAnyDamage"))
 	{
@@ -133,10 +128,11 @@ std::optional<std::vector<FJson>> FEditableBlueprint::PinsOf(const std::string& 
 	{
 		return std::vector<FJson>{DataOut("ReturnValue", "object.Pawn")};
 	}
-	return IsOf("call.") ? std::optional<std::vector<FJson>>({ExecIn(), ExecOut(), DataIn("self", "object.Actor", "self"), DataIn("Delegate", "delegate"),
-							   DataIn("SpawnTransform", "struct.Transform"), DataIn("RelativeTransform", "struct.Transform"), DataIn("InString", "string"), DataIn("Duration", "real"),
-							   DataOut("ReturnValue", "object.Actor")})
-						 : std::nullopt;
+	return IsOf("call.")
+		? std::optional<std::vector<FJson>>({ExecIn(), ExecOut(), DataIn("self", "object.Actor", "self"), DataIn("Delegate", "delegate"),
+			  DataIn("SpawnTransform", "struct.Transform"), DataIn("RelativeTransform", "struct.Transform"), DataIn("InString", "string"),
+			  DataIn("Duration", "real"), DataOut("ReturnValue", "object.Actor")})
+		: std::nullopt;
 }
 
 std::optional<std::string> FEditableBlueprint::SpawnOne(FJson& Graph, const FJson& Item)
@@ -237,7 +233,8 @@ std::optional<std::string> FEditableBlueprint::EditOne(const FJson& Target, cons
 	}
 	else if (Kind == "remove_variable")
 	{
-		std::erase_if(Blueprint["variables"].get_ref<FJson::array_t&>(), [&](const FJson& Variable)
+		std::erase_if(
+			Blueprint["variables"].get_ref<FJson::array_t&>(), [&](const FJson& Variable)
 			{ return Variable["id"] == Operation["name"]; });
 	}
 	else if (Target["target_type"] == "node")
@@ -311,7 +308,8 @@ std::vector<std::string> FEditableBlueprint::ListLinks(const std::string& Graph)
 			{
 				const auto Bare = [](const std::string& Id)
 				{ return Id.substr(0, Id.rfind('_')); };
-				Links.push_back(Bare(Node["id"]) + "." + Pin["id"].get<std::string>() + " > " + Bare(Wire["node"]) + "." + Wire["pin"].get<std::string>());
+				Links.push_back(Bare(Node["id"]) + "." + Pin["id"].get<std::string>() + " > " + Bare(Wire["node"]) + "." +
+					Wire["pin"].get<std::string>());
 			}
 		}
 	}

@@ -24,7 +24,8 @@ FJson MakeGate()
 {
 	FJson Events = MakeGraph("EventGraph", "ubergraph",
 		{MakeNode("EventBeginPlay_0", "event.Actor.ReceiveBeginPlay", {ExecOut()}),
-			MakeNode("PrintString_0", "call.KismetSystemLibrary.PrintString", {ExecIn(), ExecOut(), DataIn("InString", "string", "Hello")})});
+			MakeNode(
+				"PrintString_0", "call.KismetSystemLibrary.PrintString", {ExecIn(), ExecOut(), DataIn("InString", "string", "Hello")})});
 	Link(Events, "EventBeginPlay_0.then", "PrintString_0.execute");
 	const FJson Open = MakeGraph("OpenGate", "function", {MakeNode("OpenGate_0", "graph.entry", {ExecOut()})});
 	const FJson Close = MakeGraph("CloseGate", "function", {MakeNode("CloseGate_0", "graph.entry", {ExecOut()})});
@@ -43,7 +44,8 @@ protected:
 	/** That nothing of an edit is left. */
 	void ExpectAsBefore() const
 	{
-		EXPECT_THAT(Nodes(), UnorderedElementsAre("event.Actor.ReceiveBeginPlay()", "call.KismetSystemLibrary.PrintString(InString=Hello)"));
+		EXPECT_THAT(
+			Nodes(), UnorderedElementsAre("event.Actor.ReceiveBeginPlay()", "call.KismetSystemLibrary.PrintString(InString=Hello)"));
 		EXPECT_THAT(Links(), ElementsAre("EventBeginPlay.then > PrintString.execute"));
 		EXPECT_EQ(Gate.GetJson()["variables"].size(), 1u);
 		EXPECT_EQ(Gate.GetJson()["graphs"].size(), 3u);
@@ -56,9 +58,14 @@ protected:
 TEST_F(FlowEdit, AnExistingEventIsExtendedBehindItsLastStep)
 {
 	const std::string Answer = Ask("on BeginPlay wait 2 seconds and print \"Late\"");
-	EXPECT_THAT(Links(), UnorderedElementsAre("EventBeginPlay.then > PrintString.execute", "PrintString.then > Delay.execute", "Delay.then > PrintString.execute"));
-	EXPECT_THAT(Nodes(), AllOf(Contains("call.KismetSystemLibrary.Delay(Duration=2)"), Contains("call.KismetSystemLibrary.PrintString(InString=Late)")));
-	EXPECT_THAT(Answer, AllOf(HasSubstr("What is new follows what **Event Begin Play** did already."), HasSubstr("compiles without errors"), HasSubstr("- Prints \"Hello\"\n- Waits 2 seconds\n- Prints \"Late\"\n")));
+	EXPECT_THAT(Links(),
+		UnorderedElementsAre(
+			"EventBeginPlay.then > PrintString.execute", "PrintString.then > Delay.execute", "Delay.then > PrintString.execute"));
+	EXPECT_THAT(Nodes(),
+		AllOf(Contains("call.KismetSystemLibrary.Delay(Duration=2)"), Contains("call.KismetSystemLibrary.PrintString(InString=Late)")));
+	EXPECT_THAT(Answer,
+		AllOf(HasSubstr("What is new follows what **Event Begin Play** did already."), HasSubstr("compiles without errors"),
+			HasSubstr("- Prints \"Hello\"\n- Waits 2 seconds\n- Prints \"Late\"\n")));
 	EXPECT_EQ(std::count(Editor.GetCalls().begin(), Editor.GetCalls().end(), std::string("node_spawn /Game/BP_Gate EventGraph")), 1);
 }
 
@@ -66,10 +73,14 @@ TEST_F(FlowEdit, WhereTheWaysPartASequenceStandsInFrontOfThem)
 {
 	Ask("on BeginPlay if bLocked print \"Locked\" otherwise open the gate");
 	Ask("on BeginPlay print \"Done\"");
-	EXPECT_THAT(Links(), AllOf(Contains("PrintString.then > sequence.execute"), Contains("sequence.then_0 > if.execute"), Contains("sequence.then_1 > PrintString.execute")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("PrintString.then > sequence.execute"), Contains("sequence.then_0 > if.execute"),
+			Contains("sequence.then_1 > PrintString.execute")));
 	Ask("on overlap if bLocked print \"Locked\"");
 	Ask("on overlap print \"Again\"");
-	EXPECT_THAT(Links(), AllOf(Contains("ReceiveActorBeginOverlap.then > sequence.execute"), Contains("sequence.then_0 > if.execute"), Contains("sequence.then_1 > PrintString.execute")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("ReceiveActorBeginOverlap.then > sequence.execute"), Contains("sequence.then_0 > if.execute"),
+			Contains("sequence.then_1 > PrintString.execute")));
 }
 
 TEST_F(FlowEdit, AFreeWayOfASequenceIsUsedBeforeAnotherSequenceIsMade)
@@ -88,7 +99,9 @@ TEST_F(FlowEdit, AFreeWayOfASequenceIsUsedBeforeAnotherSequenceIsMade)
 TEST_F(FlowEdit, OwnFunctionsAreCalledByWhatPeopleCallThem)
 {
 	const std::string Answer = Ask("make the gate open on overlap and close after 3 seconds");
-	EXPECT_THAT(Links(), AllOf(Contains("ReceiveActorBeginOverlap.then > OpenGate.execute"), Contains("OpenGate.then > Delay.execute"), Contains("Delay.then > CloseGate.execute")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("ReceiveActorBeginOverlap.then > OpenGate.execute"), Contains("OpenGate.then > Delay.execute"),
+			Contains("Delay.then > CloseGate.execute")));
 	EXPECT_THAT(Nodes(), Contains("call.KismetSystemLibrary.Delay(Duration=3)"));
 	EXPECT_THAT(Answer, HasSubstr("**When another actor begins to overlap it**"));
 }
@@ -96,16 +109,24 @@ TEST_F(FlowEdit, OwnFunctionsAreCalledByWhatPeopleCallThem)
 TEST_F(FlowEdit, AVariableThatIsChangedIsMadeAndSaidSo)
 {
 	const std::string Answer = Ask("add health that drops on damage and destroys at zero");
-	EXPECT_THAT(Answer, AllOf(HasSubstr("The variable **Health** (number) is new; it begins with 100."), HasSubstr("Sets Health to Health - the damage"), HasSubstr("If Health is less than or equal to 0, destroys itself")));
+	EXPECT_THAT(Answer,
+		AllOf(HasSubstr("The variable **Health** (number) is new; it begins with 100."), HasSubstr("Sets Health to Health - the damage"),
+			HasSubstr("If Health is less than or equal to 0, destroys itself")));
 	EXPECT_EQ(Gate.GetJson()["variables"].back()["value"], "100");
-	EXPECT_THAT(Links(), AllOf(Contains("ReceiveAnyDamage.Damage > Subtract.B"), Contains("Health.Health > Subtract.A"), Contains("Subtract.ReturnValue > Health.Health"), Contains("LessEqual.ReturnValue > if.Condition")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("ReceiveAnyDamage.Damage > Subtract.B"), Contains("Health.Health > Subtract.A"),
+			Contains("Subtract.ReturnValue > Health.Health"), Contains("LessEqual.ReturnValue > if.Condition")));
 }
 
 TEST_F(FlowEdit, ATimerCallsAnEventOfItsOwn)
 {
 	const std::string Answer = Ask("every 5 seconds spawn BP_Enemy");
-	EXPECT_THAT(Nodes(), AllOf(Contains("call.spawn_actor(Class=/Game/Enemies/BP_Enemy.BP_Enemy_C)"), Contains("call.KismetSystemLibrary.K2_SetTimerDelegate(Time=5,bLooping=true)")));
-	EXPECT_THAT(Links(), AllOf(Contains("custom.OutputDelegate > K2_SetTimerDelegate.Delegate"), Contains("custom.then > spawn_actor.execute"), Contains("PrintString.then > K2_SetTimerDelegate.execute")));
+	EXPECT_THAT(Nodes(),
+		AllOf(Contains("call.spawn_actor(Class=/Game/Enemies/BP_Enemy.BP_Enemy_C)"),
+			Contains("call.KismetSystemLibrary.K2_SetTimerDelegate(Time=5,bLooping=true)")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("custom.OutputDelegate > K2_SetTimerDelegate.Delegate"), Contains("custom.then > spawn_actor.execute"),
+			Contains("PrintString.then > K2_SetTimerDelegate.execute")));
 	EXPECT_THAT(Answer, HasSubstr("SpawnEnemy"));
 }
 
@@ -117,21 +138,28 @@ TEST_F(FlowEdit, AComponentIsFoundByItsNameAndALightIsMadeWhereThereIsNone)
 	EXPECT_THAT(Answer, HasSubstr("**Auto Receive Input** to Player 0"));
 	Gate.Components.clear();
 	const std::string Second = Ask("when K is pressed toggle the light");
-	EXPECT_THAT(Second, AllOf(HasSubstr("no component called \"light\", so it adds a Point Light Component when play begins"), HasSubstr("**Light**")));
-	EXPECT_THAT(Links(), AllOf(Contains("K.Pressed > ToggleVisibility.execute"), Contains("PrintString.then > PointLightComponent.execute"), Contains("PointLightComponent.ReturnValue > Light.Light")));
+	EXPECT_THAT(Second,
+		AllOf(HasSubstr("no component called \"light\", so it adds a Point Light Component when play begins"), HasSubstr("**Light**")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("K.Pressed > ToggleVisibility.execute"), Contains("PrintString.then > PointLightComponent.execute"),
+			Contains("PointLightComponent.ReturnValue > Light.Light")));
 }
 
 TEST_F(FlowEdit, WhoOverlapsIsAskedWhereItMatters)
 {
 	Ask("when the player overlaps it, open the gate");
-	EXPECT_THAT(Links(), AllOf(Contains("ReceiveActorBeginOverlap.OtherActor > EqualEqual.A"), Contains("GetPlayerPawn.ReturnValue > EqualEqual.B"), Contains("if.then > OpenGate.execute")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("ReceiveActorBeginOverlap.OtherActor > EqualEqual.A"), Contains("GetPlayerPawn.ReturnValue > EqualEqual.B"),
+			Contains("if.then > OpenGate.execute")));
 }
 
 TEST_F(FlowEdit, AChangeOfAVariableCallsAnEventBehindEachStepThatSetsIt)
 {
 	Ask("on overlap set bLocked to true, then print \"Shut\"");
 	const std::string Answer = Ask("when bLocked changes print bLocked");
-	EXPECT_THAT(Links(), AllOf(Contains("ReceiveActorBeginOverlap.then > bLocked.execute"), Contains("bLocked.then > OnLockedChanged.execute"), Contains("OnLockedChanged.then > PrintString.execute")));
+	EXPECT_THAT(Links(),
+		AllOf(Contains("ReceiveActorBeginOverlap.then > bLocked.execute"), Contains("bLocked.then > OnLockedChanged.execute"),
+			Contains("OnLockedChanged.then > PrintString.execute")));
 	EXPECT_THAT(Answer, HasSubstr("is called behind 1 step that sets it"));
 }
 
@@ -145,9 +173,9 @@ TEST_F(FlowEdit, AFunctionIsMadeWithItsSteps)
 
 TEST_F(FlowEdit, WhatIsNotKnownIsAskedAndNothingIsChanged)
 {
-	for (const char* const Request : {"on BeginPlay fly to the moon", "when F is pressed toggle the chandelier", "on BeginPlay spawn BP_Submarine",
-			 "on BeginPlay call Explode", "when the moon rises print \"Howl\"", "on overlap if Mana is less than 5 print \"Tired\"",
-			 "on BeginPlay play sound S_Boom"})
+	for (const char* const Request : {"on BeginPlay fly to the moon", "when F is pressed toggle the chandelier",
+			 "on BeginPlay spawn BP_Submarine", "on BeginPlay call Explode", "when the moon rises print \"Howl\"",
+			 "on overlap if Mana is less than 5 print \"Tired\"", "on BeginPlay play sound S_Boom"})
 	{
 		const std::string Answer = Ask(Request);
 		EXPECT_THAT(Answer, HasSubstr("changed nothing")) << Request;
@@ -159,7 +187,11 @@ TEST_F(FlowEdit, WhatIsNotKnownIsAskedAndNothingIsChanged)
 TEST_F(FlowEdit, ARefusedNodeTakesAllOfItBack)
 {
 	Gate.Refuse = [](const std::string& Tool, const FJson& Item) -> std::optional<std::string>
-	{ return Tool == "node_spawn" && Item["node_type"] == "call.Actor.K2_DestroyActor" ? std::optional<std::string>("Node type is not valid") : std::nullopt; };
+	{
+		return Tool == "node_spawn" && Item["node_type"] == "call.Actor.K2_DestroyActor"
+			? std::optional<std::string>("Node type is not valid")
+			: std::nullopt;
+	};
 	const std::string Answer = Ask("add health that drops on damage and destroys at zero");
 	EXPECT_THAT(Answer, AllOf(HasSubstr("I could not do that."), HasSubstr("K2_DestroyActor"), HasSubstr("the Blueprint is as it was")));
 	ExpectAsBefore();
@@ -170,7 +202,8 @@ TEST_F(FlowEdit, ANodeOfTheSameNameElsewhereIsTakenInstead)
 	Gate.Refuse = [](const std::string& Tool, const FJson& Item) -> std::optional<std::string>
 	{
 		const bool bOld = Tool == "node_spawn" && Item["node_type"] == "call.KismetSystemLibrary.Delay";
-		return bOld ? std::optional<std::string>("Node type is not valid. Nearest: 'call.KismetSystemLibrary.DelayUntilNextTick', 'call.OtherLibrary.Delay'")
+		return bOld ? std::optional<std::string>(
+						  "Node type is not valid. Nearest: 'call.KismetSystemLibrary.DelayUntilNextTick', 'call.OtherLibrary.Delay'")
 					: std::nullopt;
 	};
 	const std::string Answer = Ask("on overlap wait 2 seconds, then open the gate");
@@ -182,7 +215,11 @@ TEST_F(FlowEdit, ALinkThatIsRefusedOnceIsMadeAgain)
 {
 	int Refusals = 0;
 	Gate.Refuse = [&Refusals](const std::string& Tool, const FJson& Item) -> std::optional<std::string>
-	{ return Tool == "node_link" && Item["to_pin"] == "B" && ++Refusals == 1 ? std::optional<std::string>("Connection not allowed: wildcard") : std::nullopt; };
+	{
+		return Tool == "node_link" && Item["to_pin"] == "B" && ++Refusals == 1
+			? std::optional<std::string>("Connection not allowed: wildcard")
+			: std::nullopt;
+	};
 	EXPECT_THAT(Ask("add health that drops on damage and destroys at zero"), HasSubstr("compiles without errors"));
 	EXPECT_THAT(Links(), Contains("ReceiveAnyDamage.Damage > Subtract.B"));
 }
@@ -192,7 +229,11 @@ TEST_F(FlowEdit, ALinkThatStaysRefusedTakesAllOfItBackWithTheWiresThatWereMoved)
 	Ask("on overlap if bLocked print \"Locked\"");
 	const std::vector<std::string> Before = Links();
 	Gate.Refuse = [](const std::string& Tool, const FJson& Item) -> std::optional<std::string>
-	{ return Tool == "node_link" && Item["to_pin"] == "execute" && Item["from_pin"] == "then_1" ? std::optional<std::string>("Connection not allowed") : std::nullopt; };
+	{
+		return Tool == "node_link" && Item["to_pin"] == "execute" && Item["from_pin"] == "then_1"
+			? std::optional<std::string>("Connection not allowed")
+			: std::nullopt;
+	};
 	EXPECT_THAT(Ask("on overlap open the gate"), AllOf(HasSubstr("Connection not allowed"), HasSubstr("the Blueprint is as it was")));
 	EXPECT_THAT(Links(), testing::UnorderedElementsAreArray(Before));
 }
@@ -200,10 +241,12 @@ TEST_F(FlowEdit, ALinkThatStaysRefusedTakesAllOfItBackWithTheWiresThatWereMoved)
 TEST_F(FlowEdit, ErrorsOfTheNewNodesTakeThemBackAndOthersAreOnlyTold)
 {
 	Gate.CompilerErrors = {"The function OldOne in node Sail could not be found"};
-	EXPECT_THAT(Ask("on overlap open the gate"), AllOf(HasSubstr("Done in **BP_Gate**"), HasSubstr("does not compile. 1 error"), HasSubstr("create it again, or remove the node")));
+	EXPECT_THAT(Ask("on overlap open the gate"),
+		AllOf(HasSubstr("Done in **BP_Gate**"), HasSubstr("does not compile. 1 error"), HasSubstr("create it again, or remove the node")));
 	const std::vector<std::string> Before = Nodes();
 	Gate.CompilerErrors = {"The current value of the 'Duration' pin of Delay is invalid"};
-	EXPECT_THAT(Ask("on hit wait 2 seconds, then close the gate"), AllOf(HasSubstr("I could not do that"), HasSubstr("of Delay is invalid")));
+	EXPECT_THAT(
+		Ask("on hit wait 2 seconds, then close the gate"), AllOf(HasSubstr("I could not do that"), HasSubstr("of Delay is invalid")));
 	EXPECT_EQ(Nodes(), Before);
 }
 
@@ -255,9 +298,9 @@ TEST_F(FlowEdit, HostileSentencesAreSurvived)
 	{
 		Ands += "print a and ";
 	}
-	for (const std::string& Request : {"on BeginPlay print \"" + Long + "\"", "on BeginPlay " + Words + "print x", "on BeginPlay " + Ands + "print b",
-			 std::string("on BeginPlay print \"**bold** `code` </tag>\""), std::string("on BeginPlay set \"\" to \"\""), std::string("on , . ; \" '"),
-			 "on BeginPlay set " + Long + " to 5"})
+	for (const std::string& Request : {"on BeginPlay print \"" + Long + "\"", "on BeginPlay " + Words + "print x",
+			 "on BeginPlay " + Ands + "print b", std::string("on BeginPlay print \"**bold** `code` </tag>\""),
+			 std::string("on BeginPlay set \"\" to \"\""), std::string("on , . ; \" '"), "on BeginPlay set " + Long + " to 5"})
 	{
 		EXPECT_FALSE(Ask(Request).empty());
 	}

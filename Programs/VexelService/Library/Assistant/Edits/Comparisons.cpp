@@ -68,7 +68,11 @@ FComparison ReadComparison(const FEditWords& Words)
 			continue;
 		}
 		const auto Right = Captures->find("right");
-		return {.Left = Captures->at("left"), .Right = Right == Captures->end() ? FEditWords() : Right->second, .Operator = Wording.Operator, .ImpliedRight = Wording.Right, .bNegated = Wording.bNegated};
+		return {.Left = Captures->at("left"),
+			.Right = Right == Captures->end() ? FEditWords() : Right->second,
+			.Operator = Wording.Operator,
+			.ImpliedRight = Wording.Right,
+			.bNegated = Wording.bNegated};
 	}
 	return {.Left = Words};
 }

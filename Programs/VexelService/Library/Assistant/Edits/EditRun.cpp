@@ -117,8 +117,8 @@ FRunOutcome FEditRun::Execute(const FEditPlan& Plan)
 {
 	FRunOutcome Outcome;
 	Nodes.assign(Plan.Nodes.size(), {});
-	Outcome.bDone = AddFunctions(Plan, Outcome) && AddVariables(Plan, Outcome) && Spawn(Plan, false, Outcome) && NameEvents(Plan, Outcome) &&
-		Spawn(Plan, true, Outcome) && Link(Plan, Outcome);
+	Outcome.bDone = AddFunctions(Plan, Outcome) && AddVariables(Plan, Outcome) && Spawn(Plan, false, Outcome) &&
+		NameEvents(Plan, Outcome) && Spawn(Plan, true, Outcome) && Link(Plan, Outcome);
 	if (Outcome.bDone)
 	{
 		RemoveUnused(Plan);
@@ -186,7 +186,8 @@ bool FEditRun::Spawn(const FEditPlan& Plan, bool bAfterOthers, FRunOutcome& Outc
 			ByGraph[Node.Graph].push_back(Index);
 		}
 	}
-	return std::all_of(ByGraph.begin(), ByGraph.end(), [&](const auto& Group)
+	return std::all_of(
+		ByGraph.begin(), ByGraph.end(), [&](const auto& Group)
 		{ return SpawnIn(Group.first, Group.second, Plan, Outcome); });
 }
 
@@ -196,7 +197,8 @@ std::string FEditRun::FindEntry(const std::string& GraphId)
 	const FBlueprintGraph* const Graph = Editor.FindGraph(GraphId);
 	const auto IsEntry = [](const FBlueprintNode& Node)
 	{ return Node.Type == "graph.entry"; };
-	const auto Entry = Graph ? std::find_if(Graph->Nodes.begin(), Graph->Nodes.end(), IsEntry) : std::vector<FBlueprintNode>::const_iterator();
+	const auto Entry =
+		Graph ? std::find_if(Graph->Nodes.begin(), Graph->Nodes.end(), IsEntry) : std::vector<FBlueprintNode>::const_iterator();
 	return Graph && Entry != Graph->Nodes.end() ? Entry->Id : std::string();
 }
 
@@ -330,13 +332,26 @@ bool FEditRun::IsLinked(const std::string& Graph, const FLinkToEdit& Link)
 	const FBlueprintGraph* const Found = Editor.FindGraph(Graph);
 	const FBlueprintNode* const From = Found ? Found->FindNode(Link.FromNode) : nullptr;
 	const FBlueprintPin* const Output = From ? From->FindOutput(Link.FromPin) : nullptr;
-	return Output && std::any_of(Output->Links.begin(), Output->Links.end(), [&](const FPinLink& Wire)
-						 {
-			const bool bDirect = EqualIgnoringCase(Wire.Node, Link.ToNode) && EqualIgnoringCase(Wire.Pin, Link.ToPin);
-			const FBlueprintNode* const Between = Found->FindNode(Wire.Node);
-			return bDirect || (Between && std::any_of(Between->Pins.begin(), Between->Pins.end(), [&](const FBlueprintPin& Pin)
-				{ return !Pin.bInput && std::any_of(Pin.Links.begin(), Pin.Links.end(), [&](const FPinLink& Next)
-					{ return !Pin.IsExec() && EqualIgnoringCase(Next.Node, Link.ToNode) && EqualIgnoringCase(Next.Pin, Link.ToPin); }); })); });
+	return Output &&
+		std::any_of(Output->Links.begin(), Output->Links.end(),
+			[&](const FPinLink& Wire)
+			{
+				const bool bDirect = EqualIgnoringCase(Wire.Node, Link.ToNode) && EqualIgnoringCase(Wire.Pin, Link.ToPin);
+				const FBlueprintNode* const Between = Found->FindNode(Wire.Node);
+				return bDirect ||
+					(Between &&
+						std::any_of(Between->Pins.begin(), Between->Pins.end(),
+							[&](const FBlueprintPin& Pin)
+							{
+								return !Pin.bInput &&
+									std::any_of(Pin.Links.begin(), Pin.Links.end(),
+										[&](const FPinLink& Next)
+										{
+											return !Pin.IsExec() && EqualIgnoringCase(Next.Node, Link.ToNode) &&
+												EqualIgnoringCase(Next.Pin, Link.ToPin);
+										});
+							}));
+			});
 }
 
 // Nodes that were made to see whether the Blueprint has what they read, and that nothing then needed.
@@ -347,7 +362,8 @@ void FEditRun::RemoveUnused(const FEditPlan& Plan)
 		const FPlanNode& Node = Plan.Nodes[Index];
 		const auto Before = NodesBefore.find(Node.Graph);
 		const bool bMade = !Node.Existing.empty() && Before != NodesBefore.end() && !Before->second.contains(Node.Existing);
-		const bool bUsed = std::any_of(Plan.Links.begin(), Plan.Links.end(), [Index](const FPlanLink& Link)
+		const bool bUsed = std::any_of(
+			Plan.Links.begin(), Plan.Links.end(), [Index](const FPlanLink& Link)
 			{ return Link.From == Index || Link.To == Index; });
 		if (bMade && !bUsed)
 		{
@@ -378,8 +394,10 @@ bool FEditRun::Compile(FRunOutcome& Outcome)
 	std::vector<std::string> Ours;
 	for (const FCompilerMessage& Message : Outcome.Compiled.Messages)
 	{
-		const bool bOurs = Message.IsError() && std::any_of(Nodes.begin(), Nodes.end(), [&](const std::string& Id)
-													{ return CompactName(Message.Text).find(CompactName(TitleOf(Id))) != std::string::npos; });
+		const bool bOurs = Message.IsError() &&
+			std::any_of(Nodes.begin(), Nodes.end(),
+				[&](const std::string& Id)
+				{ return CompactName(Message.Text).find(CompactName(TitleOf(Id))) != std::string::npos; });
 		if (bOurs)
 		{
 			Ours.push_back(Message.Text);

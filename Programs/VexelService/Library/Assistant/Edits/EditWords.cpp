@@ -23,10 +23,7 @@ constexpr std::string_view Wrapping = "*#[]{}<>()\"`'";
 constexpr std::string_view Fillers = "the|a|an|please|then|also|just|now|too";
 constexpr std::string_view Articles = "the|a|an";
 
-bool IsBlank(char Character)
-{
-	return Blanks.find(Character) != std::string_view::npos || Character == '\n';
-}
+bool IsBlank(char Character) { return Blanks.find(Character) != std::string_view::npos || Character == '\n'; }
 
 bool IsNumber(std::string_view Text)
 {
@@ -65,10 +62,7 @@ public:
 	}
 
 private:
-	void AddMark(std::string Mark)
-	{
-		Words.push_back({.Text = std::move(Mark), .bMark = true});
-	}
+	void AddMark(std::string Mark) { Words.push_back({.Text = std::move(Mark), .bMark = true}); }
 
 	/** Takes a text in quotes; not when nothing closes it. */
 	bool TakeQuoted()
@@ -170,10 +164,7 @@ private:
 		}
 	}
 
-	static bool IsLetter(char Character)
-	{
-		return (Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z');
-	}
+	static bool IsLetter(char Character) { return (Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z'); }
 
 	static std::string_view Trimmed(std::string_view Word)
 	{
@@ -225,7 +216,9 @@ bool IsForm(const FEditWord& Word, std::string_view Alternatives)
 	}
 	const std::string_view Text = Word.Text;
 	const bool bPlain = !Word.bQuoted && !Word.bMark && Text.size() > 3 && Text.back() == 's';
-	return bPlain && (IsOneOf(Text.substr(0, Text.size() - 1), Alternatives) || (Text[Text.size() - 2] == 'e' && IsOneOf(Text.substr(0, Text.size() - 2), Alternatives)));
+	return bPlain &&
+		(IsOneOf(Text.substr(0, Text.size() - 1), Alternatives) ||
+			(Text[Text.size() - 2] == 'e' && IsOneOf(Text.substr(0, Text.size() - 2), Alternatives)));
 }
 
 class FPatternMatcher
@@ -253,7 +246,8 @@ private:
 		}
 		if (SlotAt == Slots.size())
 		{
-			return std::all_of(Words.begin() + static_cast<std::ptrdiff_t>(WordAt), Words.end(), [](const FEditWord& Word)
+			return std::all_of(Words.begin() + static_cast<std::ptrdiff_t>(WordAt), Words.end(),
+				[](const FEditWord& Word)
 				{ return Word.bMark || IsWord(Word, Fillers); });
 		}
 		const FSlot& Slot = Slots[SlotAt];

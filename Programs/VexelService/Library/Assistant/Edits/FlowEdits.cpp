@@ -51,7 +51,8 @@ private:
 		}
 		const bool bClean = Run.TakeBack(Planner.GetPlan());
 		Session.Say("I understood " + Understood() + ", but I do not know enough to do it:\n\n" + BulletList(Planner.GetProblems()) +
-			(bClean ? "\nI changed nothing. Say it again with what is missing.\n" : "\nSome nodes that I tried are still there: undo takes them back.\n"));
+			(bClean ? "\nI changed nothing. Say it again with what is missing.\n"
+					: "\nSome nodes that I tried are still there: undo takes them back.\n"));
 	}
 
 	std::string Understood() const
@@ -86,12 +87,14 @@ private:
 		{
 			if (Entry.bExtended)
 			{
-				Made.push_back("What is new follows what **" + TitleOf(Blueprint, Entry.Graph, Run.GetNodes()[Entry.Node]) + "** did already.");
+				Made.push_back(
+					"What is new follows what **" + TitleOf(Blueprint, Entry.Graph, Run.GetNodes()[Entry.Node]) + "** did already.");
 			}
 		}
 		Made.insert(Made.end(), Plan.Notes.begin(), Plan.Notes.end());
 		Made.insert(Made.end(), Outcome.Notes.begin(), Outcome.Notes.end());
-		std::string Text = "Done in **" + Blueprint.Name + "**:\n\n" + BulletList(Made) + "\n" + DescribeCompile(Outcome.Compiled, Blueprint.Name);
+		std::string Text =
+			"Done in **" + Blueprint.Name + "**:\n\n" + BulletList(Made) + "\n" + DescribeCompile(Outcome.Compiled, Blueprint.Name);
 		return Text + "\n" + WhatHappensNow(Blueprint, Run, Planner);
 	}
 
@@ -142,10 +145,7 @@ std::optional<FEditRequest> Ask(std::string Question)
 }
 
 // Whether every step is known: words without an event that hold more than steps may be about anything.
-bool AreKnown(const FFlowSteps& Steps)
-{
-	return !Steps.empty() && UnknownSteps(Steps).empty();
-}
+bool AreKnown(const FFlowSteps& Steps) { return !Steps.empty() && UnknownSteps(Steps).empty(); }
 
 std::optional<FFlowRequest> ReadMessage(const FEditMessage& Message)
 {
@@ -157,8 +157,9 @@ std::optional<FFlowRequest> ReadMessage(const FEditMessage& Message)
 std::optional<FEditRequest> ReadFlowRequest(const FEditMessage& Message)
 {
 	std::optional<FFlowRequest> Flow = ReadMessage(Message);
-	const bool bWhole = Flow && std::all_of(Flow->Chains.begin(), Flow->Chains.end(), [](const FFlowChain& Chain)
-									{ return Chain.Event && AreKnown(Chain.Steps); });
+	const bool bWhole = Flow &&
+		std::all_of(Flow->Chains.begin(), Flow->Chains.end(), [](const FFlowChain& Chain)
+			{ return Chain.Event && AreKnown(Chain.Steps); });
 	return bWhole ? MakeRequest(std::move(*Flow)) : std::nullopt;
 }
 

@@ -42,10 +42,7 @@ constexpr FEventOutput EventOutputs[] = {
 	{"event.Actor.ReceiveAnyDamage", "DamageCauser", "object.Actor"},
 };
 
-std::string Name(const FFlowChain& Chain, std::string_view Slot)
-{
-	return CapturedText(Chain.Captures, Slot);
-}
+std::string Name(const FFlowChain& Chain, std::string_view Slot) { return CapturedText(Chain.Captures, Slot); }
 
 /** Where more can be put behind a chain of steps. */
 struct FChainEnd
@@ -74,7 +71,8 @@ const FBlueprintPin* OnlyWayOn(const FBlueprintNode& Node, bool& bForks)
 
 const FBlueprintPin* FindFreeWay(const FBlueprintNode& Sequence)
 {
-	const auto Free = std::find_if(Sequence.Pins.begin(), Sequence.Pins.end(), [](const FBlueprintPin& Pin)
+	const auto Free = std::find_if(Sequence.Pins.begin(), Sequence.Pins.end(),
+		[](const FBlueprintPin& Pin)
 		{ return Pin.IsExec() && !Pin.bInput && Pin.Links.empty(); });
 	return Free == Sequence.Pins.end() ? nullptr : &*Free;
 }
@@ -135,7 +133,8 @@ void FFlowPlanner::GoOnBehind(const std::string& GraphId, const std::string& Nod
 		Values.AddProblem("**" + NodeTitle(Node) + "** has no way on that I could follow.");
 		return;
 	}
-	const FPlanIndex Last = End.Node == &Node ? Start : Result.AddNode({.Graph = GraphId, .Type = End.Node->Type, .Existing = End.Node->Id});
+	const FPlanIndex Last =
+		End.Node == &Node ? Start : Result.AddNode({.Graph = GraphId, .Type = End.Node->Type, .Existing = End.Node->Id});
 	if (!End.bForks)
 	{
 		Ends = {{Last, End.Pin->Id}};
@@ -183,7 +182,8 @@ bool FFlowPlanner::StartAt(const std::string& Type, std::string_view Pin)
 	}
 	Scope.Graph = Graph->Id;
 	// The other pin of a key, or the event of another chain: one node has both.
-	const auto Planned = std::find_if(Entries.begin(), Entries.end(), [&](const FEntry& Entry)
+	const auto Planned = std::find_if(Entries.begin(), Entries.end(),
+		[&](const FEntry& Entry)
 		{ return !bCustom && EqualIgnoringCase(Result.Nodes[Entry.Node].Type, Type); });
 	const FPlanIndex Node = Planned == Entries.end() ? Values.AddNode(Scope, Type) : Planned->Node;
 	if (Planned == Entries.end())
@@ -234,10 +234,7 @@ void FFlowPlanner::MakeComponents()
 	}
 }
 
-bool FFlowPlanner::StartActorEvent(const FFlowChain& Chain)
-{
-	return StartAt(std::string(Chain.Event->Type), Chain.Event->Pin);
-}
+bool FFlowPlanner::StartActorEvent(const FFlowChain& Chain) { return StartAt(std::string(Chain.Event->Type), Chain.Event->Pin); }
 
 bool FFlowPlanner::StartOverlap(const FFlowChain& Chain)
 {
@@ -274,7 +271,8 @@ void FFlowPlanner::FilterOther(const FFlowChain& Chain, std::string_view OtherPi
 {
 	const auto Other = Scope.Outputs.find(OtherPin);
 	const std::string Who = Name(Chain, "who");
-	const bool bAnyone = Who.empty() || IsOneOf(Who, "something|anything|someone|anyone|it|actor|other actor|another actor|anybody|somebody|object|an actor|any actor");
+	const bool bAnyone = Who.empty() ||
+		IsOneOf(Who, "something|anything|someone|anyone|it|actor|other actor|another actor|anybody|somebody|object|an actor|any actor");
 	if (bAnyone || Other == Scope.Outputs.end() || MeansSelf(Model(), Who))
 	{
 		return;
@@ -316,13 +314,15 @@ void FFlowPlanner::EnableInput()
 	{
 		return;
 	}
-	const bool bPlanned = std::any_of(Result.Properties.begin(), Result.Properties.end(), [](const FPlanProperty& Property)
+	const bool bPlanned = std::any_of(Result.Properties.begin(), Result.Properties.end(),
+		[](const FPlanProperty& Property)
 		{ return Property.Path == "$ClassDefaultObject.AutoReceiveInput"; });
 	if (!bPlanned)
 	{
 		Result.Properties.push_back({"$ClassDefaultObject.AutoReceiveInput", "Player0",
 			"Set **Auto Receive Input** to Player 0: an actor that is no pawn hears no keys without it.",
-			"Set **Auto Receive Input** of **" + Model().Name + "** to Player 0 in its class defaults: without it, it hears no keys. I could not do that."});
+			"Set **Auto Receive Input** of **" + Model().Name +
+				"** to Player 0 in its class defaults: without it, it hears no keys. I could not do that."});
 	}
 }
 
@@ -378,7 +378,8 @@ bool FFlowPlanner::StartNamed(const FFlowChain& Chain)
 		return StartFunction(Function, true);
 	}
 	const std::string Said = Name(Chain, "name");
-	if (const std::optional<FCallable> Callable = FindCallable(Model(), Said, true); Callable && Callable->Kind != ECallableKind::Dispatcher)
+	if (const std::optional<FCallable> Callable = FindCallable(Model(), Said, true);
+		Callable && Callable->Kind != ECallableKind::Dispatcher)
 	{
 		const bool bFunction = Callable->Kind == ECallableKind::Function;
 		if (!bFunction)
@@ -418,8 +419,9 @@ bool FFlowPlanner::StartFunction(const std::string& GraphId, bool bNew)
 		return true;
 	}
 	const FBlueprintGraph* const Graph = Model().FindGraph(GraphId);
-	const auto Entry = std::find_if(Graph->Nodes.begin(), Graph->Nodes.end(), [](const FBlueprintNode& Node)
-		{ return Node.Type == "graph.entry"; });
+	const auto Entry =
+		std::find_if(Graph->Nodes.begin(), Graph->Nodes.end(), [](const FBlueprintNode& Node)
+			{ return Node.Type == "graph.entry"; });
 	if (Entry == Graph->Nodes.end())
 	{
 		Values.AddProblem("The function **" + GraphId + "** has no entry that I could go on from.");
@@ -482,8 +484,9 @@ void FFlowPlanner::CallAtEachChange(const FBlueprintVariable& Variable, const st
 			++Count;
 		}
 	}
-	Result.AddNote(Count == 0 ? "No step of **" + Model().Name + "** sets **" + Variable.Id + "** yet: call **" + Event + "** wherever you set it."
-							  : "A variable tells nobody that it changes, so **" + Event + "** is called behind " + CountOf(Count, "step") + " that " +
+	Result.AddNote(Count == 0
+			? "No step of **" + Model().Name + "** sets **" + Variable.Id + "** yet: call **" + Event + "** wherever you set it."
+			: "A variable tells nobody that it changes, so **" + Event + "** is called behind " + CountOf(Count, "step") + " that " +
 				(Count == 1 ? "sets" : "set") + " it.");
 }
 

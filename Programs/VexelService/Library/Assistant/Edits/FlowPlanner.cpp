@@ -31,15 +31,9 @@ constexpr FDirection Directions[] = {
 	{"left", "0, -", ", 0"},
 };
 
-std::string Shown(const FEditWords& Words)
-{
-	return Quoted(Shortened(JoinWords(Words), 100));
-}
+std::string Shown(const FEditWords& Words) { return Quoted(Shortened(JoinWords(Words), 100)); }
 
-bool Has(const FFlowStep& Step, std::string_view Slot)
-{
-	return Step.Captures.find(Slot) != Step.Captures.end();
-}
+bool Has(const FFlowStep& Step, std::string_view Slot) { return Step.Captures.find(Slot) != Step.Captures.end(); }
 
 FEditWords Words(const FCaptures& Captures, std::string_view Slot)
 {
@@ -262,7 +256,8 @@ FPlanValue FFlowPlanner::ReadSlot(const FFlowStep& Step, const FActionPin& Pin)
 			const std::optional<std::string> Amount = ReadNumber(CapturedText(Step.Captures, Direction.Slot));
 			if (Has(Step, Direction.Slot) && Amount)
 			{
-				return {.Literal = std::string(Direction.Before) + *Amount + std::string(Direction.After), .Pin = {}, .Type = "struct.Vector"};
+				return {
+					.Literal = std::string(Direction.Before) + *Amount + std::string(Direction.After), .Pin = {}, .Type = "struct.Vector"};
 			}
 		}
 	}
@@ -325,8 +320,9 @@ void FFlowPlanner::BuildSet(const FFlowStep& Step)
 	static constexpr FKindOfType Kinds[] = {{"bool", EValueKind::Boolean}, {"real", EValueKind::Number}, {"int", EValueKind::Integer},
 		{"string", EValueKind::Text}, {"text", EValueKind::Text}, {"name", EValueKind::Name}, {"struct.Vector", EValueKind::Vector},
 		{"struct.Rotator", EValueKind::Rotator}};
-	const auto Kind = std::find_if(std::begin(Kinds), std::end(Kinds), [&Variable](const FKindOfType& Row)
-		{ return Row.Type == Variable->Type; });
+	const auto Kind =
+		std::find_if(std::begin(Kinds), std::end(Kinds), [&Variable](const FKindOfType& Row)
+			{ return Row.Type == Variable->Type; });
 	const bool bObject = StartsWith(Variable->Type, "object.");
 	const EValueKind ValueKind = Kind != std::end(Kinds) ? Kind->Kind : bObject ? EValueKind::Object
 																				: EValueKind::None;
@@ -342,7 +338,8 @@ void FFlowPlanner::BuildChange(const FFlowStep& Step)
 		return;
 	}
 	const FPlanValue Before = Values.ReadVariable(*Variable, Scope);
-	const FPlanValue Amount = Values.Read(Words(Step.Captures, "value"), Variable->Type == "int" ? EValueKind::Integer : EValueKind::Number, Scope);
+	const FPlanValue Amount =
+		Values.Read(Words(Step.Captures, "value"), Variable->Type == "int" ? EValueKind::Integer : EValueKind::Number, Scope);
 	const FPlanIndex Operation = Values.AddNode(Scope, Step.Action->Type);
 	Values.Fill(Operation, "A", Before);
 	Values.Fill(Operation, "B", Amount);
@@ -375,7 +372,9 @@ void FFlowPlanner::BuildSpawn(const FFlowStep& Step)
 {
 	const FPlanValue Class = ReadSlot(Step, Step.Action->Pins.front());
 	const FEditWords Place = Words(Step.Captures, "place");
-	const bool bHere = Place.empty() || IsOneOf(JoinWords(Place), "here|its transform|own transform|its place|itself|its location|its position|this location|actor location|my location");
+	const bool bHere = Place.empty() ||
+		IsOneOf(JoinWords(Place),
+			"here|its transform|own transform|its place|itself|its location|its position|this location|actor location|my location");
 	FPlanValue Transform;
 	if (bHere)
 	{
@@ -412,7 +411,8 @@ void FFlowPlanner::AppendCall(const FCallable& Callable, const FFlowStep& Step)
 	const std::string Prefix = Callable.Kind == ECallableKind::Dispatcher ? "delegate.call." : "call.";
 	const FBlueprintGraph* const Graph = Model().FindGraph(Callable.Graph);
 	std::string FirstInput;
-	for (const FBlueprintVariable& Input : Graph&& Callable.Kind == ECallableKind::Function ? Graph->Variables : std::vector<FBlueprintVariable>())
+	for (const FBlueprintVariable& Input :
+		Graph&& Callable.Kind == ECallableKind::Function ? Graph->Variables : std::vector<FBlueprintVariable>())
 	{
 		FirstInput = FirstInput.empty() && Input.Scope == "in" ? Input.Id : FirstInput;
 	}
@@ -431,7 +431,8 @@ void FFlowPlanner::BuildCall(const FFlowStep& Step)
 	const std::optional<FCallable> Callable = FindCallable(Model(), Said, false);
 	if (!Callable)
 	{
-		Values.AddProblem("**" + Model().Name + "** has no function, custom event or dispatcher called " + Quoted(Shortened(Said, 100)) + ".");
+		Values.AddProblem(
+			"**" + Model().Name + "** has no function, custom event or dispatcher called " + Quoted(Shortened(Said, 100)) + ".");
 		return;
 	}
 	if (!SameName(Said, Callable->Name))
@@ -447,7 +448,8 @@ void FFlowPlanner::BuildTimer(const FFlowStep& Step)
 	const std::optional<FCallable> Callable = FindCallable(Model(), Said, false);
 	if (!Callable || Callable->Kind == ECallableKind::Dispatcher)
 	{
-		Values.AddProblem("**" + Model().Name + "** has no function or custom event called " + Quoted(Shortened(Said, 100)) + " for a timer to call.");
+		Values.AddProblem(
+			"**" + Model().Name + "** has no function or custom event called " + Quoted(Shortened(Said, 100)) + " for a timer to call.");
 		return;
 	}
 	const FPlanValue Seconds = ReadSlot(Step, Step.Action->Pins.front());

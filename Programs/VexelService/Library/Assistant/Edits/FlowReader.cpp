@@ -55,15 +55,9 @@ struct FReadSteps
 	std::size_t Count = 0;
 };
 
-bool IsBetter(const FReadSteps& A, const FReadSteps& B)
-{
-	return std::pair(A.Unknown, B.Count) < std::pair(B.Unknown, A.Count);
-}
+bool IsBetter(const FReadSteps& A, const FReadSteps& B) { return std::pair(A.Unknown, B.Count) < std::pair(B.Unknown, A.Count); }
 
-FEditWords WordsOf(std::string_view Text)
-{
-	return SplitEditWords(Text).value_or(FEditWords());
-}
+FEditWords WordsOf(std::string_view Text) { return SplitEditWords(Text).value_or(FEditWords()); }
 
 void AddImplied(std::string_view Implied, FCaptures& Captures)
 {
@@ -97,7 +91,8 @@ public:
 			}
 			Request.Chains.push_back(std::move(Chain));
 		}
-		const bool bAny = std::any_of(Request.Chains.begin(), Request.Chains.end(), [](const FFlowChain& Chain)
+		const bool bAny = std::any_of(Request.Chains.begin(), Request.Chains.end(),
+			[](const FFlowChain& Chain)
 			{ return !Chain.Steps.empty() && (Chain.Event || Chain.Steps.front().Action); });
 		return bAny ? std::optional<FFlowRequest>(std::move(Request)) : std::nullopt;
 	}
@@ -279,7 +274,8 @@ private:
 			FReadSteps Then = ReadSteps(Trimmed({End, Else}), Depth + 1);
 			// A comma or "then" ends the condition surely; elsewhere it ends where the fewest words are left over.
 			const bool bSure = Words[End].bMark || IsAt(End, "then");
-			const bool bKnown = Then.Count > 0 && (!Best || Then.Unknown < Best->Unknown || (bSure && Then.Unknown == Best->Unknown && Then.Unknown == 0));
+			const bool bKnown =
+				Then.Count > 0 && (!Best || Then.Unknown < Best->Unknown || (bSure && Then.Unknown == Best->Unknown && Then.Unknown == 0));
 			if (!bKnown)
 			{
 				continue;
@@ -336,7 +332,8 @@ private:
 				continue;
 			}
 			AddImplied(Wording.Implied, *Captures);
-			FFlowStep Step{.Action = FindAction(Wording.Action), .Captures = *Captures, .Words = Cut(Span), .Bodies = {Body.Steps, Second.Steps}};
+			FFlowStep Step{
+				.Action = FindAction(Wording.Action), .Captures = *Captures, .Words = Cut(Span), .Bodies = {Body.Steps, Second.Steps}};
 			return FReadSteps{.Steps = {std::move(Step)}, .Unknown = 0, .Count = 1 + Body.Count + Second.Count};
 		}
 		return std::nullopt;
@@ -373,7 +370,8 @@ private:
 			{
 				continue;
 			}
-			FReadSteps Both{.Steps = std::move(First.Steps), .Unknown = First.Unknown + Behind.Unknown, .Count = First.Count + Behind.Count};
+			FReadSteps Both{
+				.Steps = std::move(First.Steps), .Unknown = First.Unknown + Behind.Unknown, .Count = First.Count + Behind.Count};
 			Both.Steps.insert(Both.Steps.end(), Behind.Steps.begin(), Behind.Steps.end());
 			if (IsBetter(Both, Best) && Both.Steps.size() <= MaxSteps)
 			{
@@ -391,13 +389,15 @@ private:
 			return {};
 		}
 		const FEditWords Said = Cut(Span);
-		const bool bOneClause = std::none_of(Said.begin(), Said.end(), [](const FEditWord& Word)
-			{ return Word.bMark || IsWord(Word, "then"); });
+		const bool bOneClause =
+			std::none_of(Said.begin(), Said.end(), [](const FEditWord& Word)
+				{ return Word.bMark || IsWord(Word, "then"); });
 		for (std::size_t At = Span.Begin + 1; bOneClause && At + 1 < Span.End; ++At)
 		{
 			const bool bWhen = IsAt(At, "when|once") && !ReadComparison(Cut({At + 1, Span.End})).Operator.empty();
-			const bool bAfter = IsAt(At, "after") && std::none_of(Said.begin(), Said.end(), [](const FEditWord& Word)
-														 { return IsWord(Word, Separators); });
+			const bool bAfter =
+				IsAt(At, "after") && std::none_of(Said.begin(), Said.end(), [](const FEditWord& Word)
+										 { return IsWord(Word, Separators); });
 			if (bAfter || bWhen || IsAt(At, "if|unless"))
 			{
 				return ReadWithTail(Span, At, Depth);
@@ -413,7 +413,9 @@ private:
 			if (Captures)
 			{
 				AddImplied(Wording.Implied, *Captures);
-				return {.Steps = {{.Action = FindAction(Wording.Action), .Captures = std::move(*Captures), .Words = Said}}, .Unknown = 0, .Count = 1};
+				return {.Steps = {{.Action = FindAction(Wording.Action), .Captures = std::move(*Captures), .Words = Said}},
+					.Unknown = 0,
+					.Count = 1};
 			}
 		}
 		return {.Steps = {{.Words = Said}}, .Unknown = 1, .Count = 1};

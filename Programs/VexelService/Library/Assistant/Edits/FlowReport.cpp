@@ -47,7 +47,8 @@ constexpr FAdvice Advices[] = {
 const char* FindAdvice(const std::string& Message)
 {
 	const std::string Lower = LowerCase(Message);
-	const auto Found = std::find_if(std::begin(Advices), std::end(Advices), [&Lower](const FAdvice& Row)
+	const auto Found = std::find_if(
+		std::begin(Advices), std::end(Advices), [&Lower](const FAdvice& Row)
 		{ return Lower.find(Row.Words) != std::string::npos; });
 	return Found == std::end(Advices) ? nullptr : Found->Advice;
 }
@@ -109,7 +110,8 @@ std::string DescribeCompile(const FCompileOutcome& Outcome, const std::string& B
 		return Text + BulletList(Warnings);
 	}
 	Text += "does not compile";
-	Text += Errors.empty() ? ", and the compiler does not say why.\n" : ". " + UpperFirst(CountOf(Errors.size(), "error")) + ":\n\n" + BulletList(Errors);
+	Text += Errors.empty() ? ", and the compiler does not say why.\n"
+						   : ". " + UpperFirst(CountOf(Errors.size(), "error")) + ":\n\n" + BulletList(Errors);
 	return Warnings.empty() ? Text : Text + "\nBeside that " + CountOf(Warnings.size(), "warning") + ":\n\n" + BulletList(Warnings);
 }
 
@@ -121,7 +123,9 @@ std::string DescribeFailure(const FRunOutcome& Outcome)
 		Reasons.push_back(PlainError(Failure));
 	}
 	std::string Text = "I could not do that. The editor says:\n\n" + BulletList(Reasons) + "\n";
-	return Text + (Outcome.bTakenBack ? "I removed what I had begun, so the Blueprint is as it was.\n" : "I could not remove all that I had begun: undo takes it back step by step.\n");
+	return Text +
+		(Outcome.bTakenBack ? "I removed what I had begun, so the Blueprint is as it was.\n"
+							: "I could not remove all that I had begun: undo takes it back step by step.\n");
 }
 
 }

@@ -18,27 +18,83 @@ using enum EStepKind;
 constexpr FAction Actions[] = {
 	{.Id = "print", .Type = "call.KismetSystemLibrary.PrintString", .Pins = {{{"value", "InString", Text}}}},
 	{.Id = "delay", .Type = "call.KismetSystemLibrary.Delay", .Pins = {{{"seconds", "Duration", Number}}}},
-	{.Id = "destroy", .Type = "call.Actor.K2_DestroyActor", .Pins = {{{"target", "self", Object}}}, .ComponentType = "call.ActorComponent.K2_DestroyComponent"},
+	{.Id = "destroy",
+		.Type = "call.Actor.K2_DestroyActor",
+		.Pins = {{{"target", "self", Object}}},
+		.ComponentType = "call.ActorComponent.K2_DestroyComponent"},
 	{.Id = "spawn", .Kind = Spawn, .Type = "call.spawn_actor", .Pins = {{{"class", "Class", Class}}}},
-	{.Id = "sound_at", .Type = "call.GameplayStatics.PlaySoundAtLocation", .Pins = {{{"sound", "Sound", Asset}, {"place", "Location", Vector}}}},
+	{.Id = "sound_at",
+		.Type = "call.GameplayStatics.PlaySoundAtLocation",
+		.Pins = {{{"sound", "Sound", Asset}, {"place", "Location", Vector}}}},
 	{.Id = "sound", .Type = "call.GameplayStatics.PlaySound2D", .Pins = {{{"sound", "Sound", Asset}}}},
-	{.Id = "show", .Type = "call.Actor.SetActorHiddenInGame", .Values = "bNewHidden=false", .Pins = {{{"target", "self", Object}}}, .ComponentType = "call.SceneComponent.SetVisibility", .ComponentValues = "bNewVisibility=true;bPropagateToChildren=true"},
-	{.Id = "hide", .Type = "call.Actor.SetActorHiddenInGame", .Values = "bNewHidden=true", .Pins = {{{"target", "self", Object}}}, .ComponentType = "call.SceneComponent.SetVisibility", .ComponentValues = "bNewVisibility=false;bPropagateToChildren=true"},
-	{.Id = "toggle", .Kind = ToggleVariable, .Type = "call.SceneComponent.ToggleVisibility", .Values = "bPropagateToChildren=true", .Pins = {{{"target", "self", Object}}}, .ComponentType = "call.SceneComponent.ToggleVisibility", .ComponentValues = "bPropagateToChildren=true"},
-	{.Id = "move_to", .Type = "call.Actor.K2_SetActorLocation", .Pins = {{{"target", "self", Object}, {"place", "NewLocation", Vector}}}, .ComponentType = "call.SceneComponent.K2_SetRelativeLocation"},
-	{.Id = "world_move_to", .Type = "call.Actor.K2_SetActorLocation", .Pins = {{{"target", "self", Object}, {"place", "NewLocation", Vector}}}, .ComponentType = "call.SceneComponent.K2_SetWorldLocation"},
-	{.Id = "move_by", .Type = "call.Actor.K2_AddActorWorldOffset", .Pins = {{{"target", "self", Object}, {"offset", "DeltaLocation", Vector}}}, .ComponentType = "call.SceneComponent.K2_AddRelativeLocation"},
-	{.Id = "local_move_by", .Type = "call.Actor.K2_AddActorLocalOffset", .Pins = {{{"target", "self", Object}, {"offset", "DeltaLocation", Vector}}}, .ComponentType = "call.SceneComponent.K2_AddLocalOffset"},
-	{.Id = "turn_to", .Type = "call.Actor.K2_SetActorRotation", .Pins = {{{"target", "self", Object}, {"rotation", "NewRotation", Rotator}}}, .ComponentType = "call.SceneComponent.K2_SetRelativeRotation"},
-	{.Id = "world_turn_to", .Type = "call.Actor.K2_SetActorRotation", .Pins = {{{"target", "self", Object}, {"rotation", "NewRotation", Rotator}}}, .ComponentType = "call.SceneComponent.K2_SetWorldRotation"},
-	{.Id = "turn_by", .Type = "call.Actor.K2_AddActorLocalRotation", .Pins = {{{"target", "self", Object}, {"rotation", "DeltaRotation", Rotator}}}, .ComponentType = "call.SceneComponent.K2_AddLocalRotation"},
-	{.Id = "world_turn_by", .Type = "call.Actor.K2_AddActorWorldRotation", .Pins = {{{"target", "self", Object}, {"rotation", "DeltaRotation", Rotator}}}, .ComponentType = "call.SceneComponent.K2_AddWorldRotation"},
-	{.Id = "collision_on", .Type = "call.Actor.SetActorEnableCollision", .Values = "bNewActorEnableCollision=true", .Pins = {{{"target", "self", Object}}}},
-	{.Id = "collision_off", .Type = "call.Actor.SetActorEnableCollision", .Values = "bNewActorEnableCollision=false", .Pins = {{{"target", "self", Object}}}},
+	{.Id = "show",
+		.Type = "call.Actor.SetActorHiddenInGame",
+		.Values = "bNewHidden=false",
+		.Pins = {{{"target", "self", Object}}},
+		.ComponentType = "call.SceneComponent.SetVisibility",
+		.ComponentValues = "bNewVisibility=true;bPropagateToChildren=true"},
+	{.Id = "hide",
+		.Type = "call.Actor.SetActorHiddenInGame",
+		.Values = "bNewHidden=true",
+		.Pins = {{{"target", "self", Object}}},
+		.ComponentType = "call.SceneComponent.SetVisibility",
+		.ComponentValues = "bNewVisibility=false;bPropagateToChildren=true"},
+	{.Id = "toggle",
+		.Kind = ToggleVariable,
+		.Type = "call.SceneComponent.ToggleVisibility",
+		.Values = "bPropagateToChildren=true",
+		.Pins = {{{"target", "self", Object}}},
+		.ComponentType = "call.SceneComponent.ToggleVisibility",
+		.ComponentValues = "bPropagateToChildren=true"},
+	{.Id = "move_to",
+		.Type = "call.Actor.K2_SetActorLocation",
+		.Pins = {{{"target", "self", Object}, {"place", "NewLocation", Vector}}},
+		.ComponentType = "call.SceneComponent.K2_SetRelativeLocation"},
+	{.Id = "world_move_to",
+		.Type = "call.Actor.K2_SetActorLocation",
+		.Pins = {{{"target", "self", Object}, {"place", "NewLocation", Vector}}},
+		.ComponentType = "call.SceneComponent.K2_SetWorldLocation"},
+	{.Id = "move_by",
+		.Type = "call.Actor.K2_AddActorWorldOffset",
+		.Pins = {{{"target", "self", Object}, {"offset", "DeltaLocation", Vector}}},
+		.ComponentType = "call.SceneComponent.K2_AddRelativeLocation"},
+	{.Id = "local_move_by",
+		.Type = "call.Actor.K2_AddActorLocalOffset",
+		.Pins = {{{"target", "self", Object}, {"offset", "DeltaLocation", Vector}}},
+		.ComponentType = "call.SceneComponent.K2_AddLocalOffset"},
+	{.Id = "turn_to",
+		.Type = "call.Actor.K2_SetActorRotation",
+		.Pins = {{{"target", "self", Object}, {"rotation", "NewRotation", Rotator}}},
+		.ComponentType = "call.SceneComponent.K2_SetRelativeRotation"},
+	{.Id = "world_turn_to",
+		.Type = "call.Actor.K2_SetActorRotation",
+		.Pins = {{{"target", "self", Object}, {"rotation", "NewRotation", Rotator}}},
+		.ComponentType = "call.SceneComponent.K2_SetWorldRotation"},
+	{.Id = "turn_by",
+		.Type = "call.Actor.K2_AddActorLocalRotation",
+		.Pins = {{{"target", "self", Object}, {"rotation", "DeltaRotation", Rotator}}},
+		.ComponentType = "call.SceneComponent.K2_AddLocalRotation"},
+	{.Id = "world_turn_by",
+		.Type = "call.Actor.K2_AddActorWorldRotation",
+		.Pins = {{{"target", "self", Object}, {"rotation", "DeltaRotation", Rotator}}},
+		.ComponentType = "call.SceneComponent.K2_AddWorldRotation"},
+	{.Id = "collision_on",
+		.Type = "call.Actor.SetActorEnableCollision",
+		.Values = "bNewActorEnableCollision=true",
+		.Pins = {{{"target", "self", Object}}}},
+	{.Id = "collision_off",
+		.Type = "call.Actor.SetActorEnableCollision",
+		.Values = "bNewActorEnableCollision=false",
+		.Pins = {{{"target", "self", Object}}}},
 	{.Id = "life_span", .Type = "call.Actor.SetLifeSpan", .Pins = {{{"target", "self", Object}, {"seconds", "InLifespan", Number}}}},
 	{.Id = "jump", .Type = "call.Character.Jump", .Pins = {{{"target", "self", Object}}}},
-	{.Id = "launch", .Type = "call.Character.LaunchCharacter", .Values = "bZOverride=true", .Pins = {{{"target", "self", Object}, {"offset", "LaunchVelocity", Vector}}}},
-	{.Id = "apply_damage", .Type = "call.GameplayStatics.ApplyDamage", .Pins = {{{"target", "DamagedActor", Object}, {"value", "BaseDamage", Number}}}},
+	{.Id = "launch",
+		.Type = "call.Character.LaunchCharacter",
+		.Values = "bZOverride=true",
+		.Pins = {{{"target", "self", Object}, {"offset", "LaunchVelocity", Vector}}}},
+	{.Id = "apply_damage",
+		.Type = "call.GameplayStatics.ApplyDamage",
+		.Pins = {{{"target", "DamagedActor", Object}, {"value", "BaseDamage", Number}}}},
 	{.Id = "open_level", .Type = "call.GameplayStatics.OpenLevel", .Pins = {{{"level", "LevelName", Name}}}},
 	{.Id = "quit", .Type = "call.KismetSystemLibrary.QuitGame"},
 	{.Id = "set", .Kind = SetVariable, .Type = "var.set"},
@@ -46,11 +102,27 @@ constexpr FAction Actions[] = {
 	{.Id = "subtract", .Kind = ChangeVariable, .Type = "call.op.Subtract", .Start = "100"},
 	{.Id = "multiply", .Kind = ChangeVariable, .Type = "call.op.Multiply", .Start = "1"},
 	{.Id = "divide", .Kind = ChangeVariable, .Type = "call.op.Divide", .Start = "1"},
-	{.Id = "open", .Kind = Open, .Type = "call.Actor.K2_AddActorLocalRotation", .Values = "DeltaRotation=0, 90, 0", .Pins = {{{"target", "self", Object}}}, .ComponentType = "call.SceneComponent.K2_AddLocalRotation", .ComponentValues = "DeltaRotation=0, 90, 0"},
-	{.Id = "close", .Kind = Open, .Type = "call.Actor.K2_AddActorLocalRotation", .Values = "DeltaRotation=0, -90, 0", .Pins = {{{"target", "self", Object}}}, .ComponentType = "call.SceneComponent.K2_AddLocalRotation", .ComponentValues = "DeltaRotation=0, -90, 0"},
+	{.Id = "open",
+		.Kind = Open,
+		.Type = "call.Actor.K2_AddActorLocalRotation",
+		.Values = "DeltaRotation=0, 90, 0",
+		.Pins = {{{"target", "self", Object}}},
+		.ComponentType = "call.SceneComponent.K2_AddLocalRotation",
+		.ComponentValues = "DeltaRotation=0, 90, 0"},
+	{.Id = "close",
+		.Kind = Open,
+		.Type = "call.Actor.K2_AddActorLocalRotation",
+		.Values = "DeltaRotation=0, -90, 0",
+		.Pins = {{{"target", "self", Object}}},
+		.ComponentType = "call.SceneComponent.K2_AddLocalRotation",
+		.ComponentValues = "DeltaRotation=0, -90, 0"},
 	{.Id = "call", .Kind = Call},
 	{.Id = "timer", .Kind = TimerByFunction, .Type = "call.KismetSystemLibrary.K2_SetTimer", .Pins = {{{"seconds", "Time", Number}}}},
-	{.Id = "repeating_timer", .Kind = TimerByFunction, .Type = "call.KismetSystemLibrary.K2_SetTimer", .Values = "bLooping=true", .Pins = {{{"seconds", "Time", Number}}}},
+	{.Id = "repeating_timer",
+		.Kind = TimerByFunction,
+		.Type = "call.KismetSystemLibrary.K2_SetTimer",
+		.Values = "bLooping=true",
+		.Pins = {{{"seconds", "Time", Number}}}},
 	{.Id = "stop_timer", .Kind = TimerByFunction, .Type = "call.KismetSystemLibrary.K2_ClearTimer"},
 	{.Id = "loop", .Kind = Loop, .Type = "macro.ForLoop", .Pins = {{{"first", "FirstIndex", Integer}, {"last", "LastIndex", Integer}}}},
 	{.Id = "flip_flop", .Kind = FlipFlop, .Type = "macro.FlipFlop"},
@@ -71,7 +143,9 @@ constexpr FActionWording ActionWordings[] = {
 	{"after a|some delay|while|moment|time", "delay", "seconds=2"},
 	{"after delay|while|moment", "delay", "seconds=2"},
 	{"{seconds} second|sec later", "delay"},
-	{"print|log|display|output|say|write [text|message|string|value] [of] {value} on|to|in [the] screen|log|console|viewport|output", "print"},
+	{"print|log|display|output|say|write [text|message|string|value] [of] {value} on|to|in [the] "
+	 "screen|log|console|viewport|output",
+		"print"},
 	{"print|log|display|output|say|write text|message|string|value|variable [of] {value}", "print"},
 	{"print|log|display|output|say|write {value}", "print"},
 	{"show text|message|string {value}", "print"},
@@ -154,8 +228,12 @@ constexpr FActionWording ActionWordings[] = {
 	{"restart|reload level|map|game", "open_level", "level=current level"},
 	{"quit|exit [game]", "quit"},
 	{"end game", "quit"},
-	{"start|set|create [repeating|looping] timer [by] [function|event] [name|named|called|for|that] [calls|runs] {name} every {seconds} second|s|sec", "repeating_timer"},
-	{"start|set|create looping|repeating timer [by] [function|event] [name|named|called|for] {name} [of|with|for] {seconds} second|s|sec", "repeating_timer"},
+	{"start|set|create [repeating|looping] timer [by] [function|event] [name|named|called|for|that] [calls|runs] {name} every "
+	 "{seconds} second|s|sec",
+		"repeating_timer"},
+	{"start|set|create looping|repeating timer [by] [function|event] [name|named|called|for] {name} [of|with|for] {seconds} "
+	 "second|s|sec",
+		"repeating_timer"},
 	{"start|set|create timer [by] [function|event] [name|named|called|for] {name} after|in|of|with|for {seconds} second|s|sec", "timer"},
 	{"call|run {name} every {seconds} second|s|sec", "repeating_timer"},
 	{"call|run {name} after|in {seconds} second|s|sec", "timer"},
@@ -201,9 +279,24 @@ constexpr FActionWording ActionWordings[] = {
 constexpr FEvent Events[] = {
 	{.Id = "begin_play", .Type = "event.Actor.ReceiveBeginPlay"},
 	{.Id = "tick", .Type = "event.Actor.ReceiveTick"},
-	{.Id = "overlap", .Kind = EEventKind::Overlap, .Type = "event.Actor.ReceiveActorBeginOverlap", .ComponentType = "event.PrimitiveComponent.OnComponentBeginOverlap", .OtherPin = "OtherActor", .ComponentOtherPin = "OtherActor"},
-	{.Id = "overlap_end", .Kind = EEventKind::Overlap, .Type = "event.Actor.ReceiveActorEndOverlap", .ComponentType = "event.PrimitiveComponent.OnComponentEndOverlap", .OtherPin = "OtherActor", .ComponentOtherPin = "OtherActor"},
-	{.Id = "hit", .Kind = EEventKind::Overlap, .Type = "event.Actor.ReceiveHit", .ComponentType = "event.PrimitiveComponent.OnComponentHit", .OtherPin = "Other", .ComponentOtherPin = "OtherActor"},
+	{.Id = "overlap",
+		.Kind = EEventKind::Overlap,
+		.Type = "event.Actor.ReceiveActorBeginOverlap",
+		.ComponentType = "event.PrimitiveComponent.OnComponentBeginOverlap",
+		.OtherPin = "OtherActor",
+		.ComponentOtherPin = "OtherActor"},
+	{.Id = "overlap_end",
+		.Kind = EEventKind::Overlap,
+		.Type = "event.Actor.ReceiveActorEndOverlap",
+		.ComponentType = "event.PrimitiveComponent.OnComponentEndOverlap",
+		.OtherPin = "OtherActor",
+		.ComponentOtherPin = "OtherActor"},
+	{.Id = "hit",
+		.Kind = EEventKind::Overlap,
+		.Type = "event.Actor.ReceiveHit",
+		.ComponentType = "event.PrimitiveComponent.OnComponentHit",
+		.OtherPin = "Other",
+		.ComponentOtherPin = "OtherActor"},
 	{.Id = "damage", .Type = "event.Actor.ReceiveAnyDamage", .OtherPin = "DamageCauser"},
 	{.Id = "destroyed", .Type = "event.Actor.ReceiveDestroyed"},
 	{.Id = "end_play", .Type = "event.Actor.ReceiveEndPlay"},
@@ -363,51 +456,32 @@ const TRow* FindById(std::span<const TRow> Rows, std::string_view Id)
 
 }
 
-std::span<const FAction> GetActions()
-{
-	return Actions;
-}
+std::span<const FAction> GetActions() { return Actions; }
 
-std::span<const FActionWording> GetActionWordings()
-{
-	return ActionWordings;
-}
+std::span<const FActionWording> GetActionWordings() { return ActionWordings; }
 
-std::span<const FEvent> GetEvents()
-{
-	return Events;
-}
+std::span<const FEvent> GetEvents() { return Events; }
 
-std::span<const FEventWording> GetEventWordings()
-{
-	return EventWordings;
-}
+std::span<const FEventWording> GetEventWordings() { return EventWordings; }
 
-std::span<const FOutputName> GetOutputNames()
-{
-	return OutputNames;
-}
+std::span<const FOutputName> GetOutputNames() { return OutputNames; }
 
-const FAction* FindAction(std::string_view Id)
-{
-	return FindById(GetActions(), Id);
-}
+const FAction* FindAction(std::string_view Id) { return FindById(GetActions(), Id); }
 
-const FEvent* FindEvent(std::string_view Id)
-{
-	return FindById(GetEvents(), Id);
-}
+const FEvent* FindEvent(std::string_view Id) { return FindById(GetEvents(), Id); }
 
 const FComponentWord* FindComponentWord(std::string_view Words)
 {
-	const auto Found = std::find_if(std::begin(ComponentWords), std::end(ComponentWords), [Words](const FComponentWord& Row)
+	const auto Found = std::find_if(
+		std::begin(ComponentWords), std::end(ComponentWords), [Words](const FComponentWord& Row)
 		{ return IsOneOf(Words, Row.Words); });
 	return Found == std::end(ComponentWords) ? nullptr : &*Found;
 }
 
 std::optional<std::string> FindKey(std::string_view Words)
 {
-	const auto Row = std::find_if(std::begin(KeyWords), std::end(KeyWords), [Words](const FKeyWord& Candidate)
+	const auto Row = std::find_if(std::begin(KeyWords), std::end(KeyWords),
+		[Words](const FKeyWord& Candidate)
 		{ return IsOneOf(Words, Candidate.Words) || SameName(Words, Candidate.Key); });
 	if (Row != std::end(KeyWords))
 	{

@@ -13,19 +13,14 @@ namespace VexelService
 namespace
 {
 
-constexpr std::string_view SelfWords = "it|itself|self|this|actor|me|myself|this actor|own actor|owner|everything|them|him|her|character|pawn";
+constexpr std::string_view SelfWords =
+	"it|itself|self|this|actor|me|myself|this actor|own actor|owner|everything|them|him|her|character|pawn";
 constexpr std::string_view SmallWords = "the|a|an|its|my|of|to|at|and|it|this|with|by";
 constexpr std::size_t MaxNameBytes = 40;
 
-bool IsLetter(char Character)
-{
-	return (Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z');
-}
+bool IsLetter(char Character) { return (Character >= 'a' && Character <= 'z') || (Character >= 'A' && Character <= 'Z'); }
 
-bool IsNameCharacter(char Character)
-{
-	return IsLetter(Character) || (Character >= '0' && Character <= '9');
-}
+bool IsNameCharacter(char Character) { return IsLetter(Character) || (Character >= '0' && Character <= '9'); }
 
 std::string WithoutBoolean(const std::string& Name)
 {
@@ -137,7 +132,8 @@ std::string UniqueMemberName(const FBlueprintModel& Model, const std::string& Na
 {
 	const auto IsTaken = [&Model](const std::string& Candidate)
 	{
-		const bool bVariable = std::any_of(Model.Variables.begin(), Model.Variables.end(), [&](const FBlueprintVariable& Variable)
+		const bool bVariable = std::any_of(Model.Variables.begin(), Model.Variables.end(),
+			[&](const FBlueprintVariable& Variable)
 			{ return EqualIgnoringCase(Variable.Id, Candidate); });
 		return bVariable || FindCallable(Model, Candidate, true).has_value();
 	};
@@ -153,7 +149,8 @@ FFoundNode FindNodeOfType(const FBlueprintModel& Model, std::string_view Type)
 {
 	for (const FBlueprintGraph& Graph : Model.Graphs)
 	{
-		const auto Found = std::find_if(Graph.Nodes.begin(), Graph.Nodes.end(), [Type](const FBlueprintNode& Node)
+		const auto Found = std::find_if(
+			Graph.Nodes.begin(), Graph.Nodes.end(), [Type](const FBlueprintNode& Node)
 			{ return EqualIgnoringCase(Node.Type, Type); });
 		if (Graph.Kind == EGraphKind::Event && Found != Graph.Nodes.end())
 		{
@@ -165,7 +162,8 @@ FFoundNode FindNodeOfType(const FBlueprintModel& Model, std::string_view Type)
 
 const FBlueprintGraph* FindEventGraph(const FBlueprintModel& Model)
 {
-	const auto Found = std::find_if(Model.Graphs.begin(), Model.Graphs.end(), [](const FBlueprintGraph& Graph)
+	const auto Found = std::find_if(
+		Model.Graphs.begin(), Model.Graphs.end(), [](const FBlueprintGraph& Graph)
 		{ return Graph.Kind == EGraphKind::Event; });
 	return Found == Model.Graphs.end() ? nullptr : &*Found;
 }

@@ -18,7 +18,8 @@ FPlanValue FValuePlanner::Negated(const FPlanValue& Value, const FValueScope& Sc
 
 FPlanValue FValuePlanner::ReadCondition(const FEditWords& Words, const FValueScope& Scope)
 {
-	for (const auto& [Word, Type] : {std::pair("or", "call.KismetMathLibrary.BooleanOR"), std::pair("and", "call.KismetMathLibrary.BooleanAND")})
+	for (const auto& [Word, Type] :
+		{std::pair("or", "call.KismetMathLibrary.BooleanOR"), std::pair("and", "call.KismetMathLibrary.BooleanAND")})
 	{
 		for (std::size_t At = 1; At + 1 < Words.size(); ++At)
 		{
@@ -45,7 +46,8 @@ FPlanValue FValuePlanner::ReadCondition(const FEditWords& Words, const FValueSco
 	const FPlanValue Truth = ReadTruth(Comparison.Left, Scope);
 	if (Truth.IsEmpty())
 	{
-		AddProblem("I do not know what " + Quoted(Shortened(JoinWords(Words), 100)) + " would be: name a Boolean variable, or compare two values.");
+		AddProblem("I do not know what " + Quoted(Shortened(JoinWords(Words), 100)) +
+			" would be: name a Boolean variable, or compare two values.");
 		return {};
 	}
 	return Comparison.bNegated ? Negated(Truth, Scope) : Truth;
@@ -74,7 +76,8 @@ FPlanValue FValuePlanner::ReadSides(const FComparison& Comparison, const FValueS
 			return bEqual ? Truth : Negated(Truth, Scope);
 		}
 	}
-	const FEditWords Right = Comparison.ImpliedRight.empty() ? Comparison.Right : FEditWords{{.Text = std::string(Comparison.ImpliedRight)}};
+	const FEditWords Right =
+		Comparison.ImpliedRight.empty() ? Comparison.Right : FEditWords{{.Text = std::string(Comparison.ImpliedRight)}};
 	FPlanValue Left = Read(Comparison.Left, EValueKind::None, Scope);
 	FPlanValue Other = IsObjectType(Left.Type) ? ReadObject(JoinWords(Right), Scope) : Read(Right, EValueKind::None, Scope);
 	if (IsObjectType(Left.Type) && Other.IsEmpty())

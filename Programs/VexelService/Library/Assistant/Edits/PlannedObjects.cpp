@@ -95,8 +95,9 @@ FPlanValue FValuePlanner::WantComponent(const std::string& Said, const FValueSco
 	{
 		return {};
 	}
-	const auto Known = std::find_if(Missing.begin(), Missing.end(), [Word](const FMissingComponent& Other)
-		{ return Other.Class == Word->Class; });
+	const auto Known =
+		std::find_if(Missing.begin(), Missing.end(), [Word](const FMissingComponent& Other)
+			{ return Other.Class == Word->Class; });
 	if (Known != Missing.end())
 	{
 		return ReadVariable(Known->Variable, Scope);
@@ -124,7 +125,8 @@ FPlanValue FValuePlanner::ProbeComponent(const std::string& Said, const FValueSc
 		const FBlueprintGraph* const Graph = Editor.FindGraph(Scope.Graph);
 		const std::string Id = Outcome.Nodes.empty() ? std::string() : Outcome.Nodes.front();
 		const FBlueprintNode* const Node = Graph && !Id.empty() ? Graph->FindNode(Id) : nullptr;
-		const auto Output = Node ? std::find_if(Node->Pins.begin(), Node->Pins.end(), [](const FBlueprintPin& Pin)
+		const auto Output = Node ? std::find_if(Node->Pins.begin(), Node->Pins.end(),
+									   [](const FBlueprintPin& Pin)
 									   { return !Pin.bInput && IsObjectType(Pin.Type); })
 								 : std::vector<FBlueprintPin>::const_iterator();
 		if (Node && Output != Node->Pins.end())
@@ -167,8 +169,9 @@ std::string FValuePlanner::FindClass(const std::string& Said)
 		}
 		return Row.Path + "_C";
 	}
-	const auto Engine = std::find_if(std::begin(ClassWords), std::end(ClassWords), [&Said](const FClassWord& Row)
-		{ return IsOneOf(Said, Row.Words); });
+	const auto Engine =
+		std::find_if(std::begin(ClassWords), std::end(ClassWords), [&Said](const FClassWord& Row)
+			{ return IsOneOf(Said, Row.Words); });
 	if (Engine != std::end(ClassWords))
 	{
 		return Engine->Path;

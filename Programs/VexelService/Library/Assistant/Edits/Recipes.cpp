@@ -16,26 +16,34 @@ struct FRecipe
 };
 
 constexpr FRecipe Recipes[] = {
-	{"[add|make|create|build|implement] [it] [into|as] {what} that|which opens|open on|when overlap|overlapped|touched and closes|close [again] after {n} second",
+	{"[add|make|create|build|implement] [it] [into|as] {what} that|which opens|open on|when overlap|overlapped|touched and closes|close "
+	 "[again] after {n} second",
 		"on overlap open {what}, wait {n} seconds, close {what}"},
-	{"[add|make|create|build|implement] [it] [into|as] {what} that|which opens|open on|when overlap|overlapped|touched and closes|close [again] after [short] delay",
+	{"[add|make|create|build|implement] [it] [into|as] {what} that|which opens|open on|when overlap|overlapped|touched and closes|close "
+	 "[again] after [short] delay",
 		"on overlap open {what}, wait, close {what}"},
 	{"make|let|have {what} opens|open on|when overlap|overlapped|touched and closes|close [it] [again] after {n} second",
 		"on overlap open {what}, wait {n} seconds, close {what}"},
 	{"make|let|have {what} opens|open on|when overlap|overlapped|touched and closes|close [it] [again] after [short] delay",
 		"on overlap open {what}, wait, close {what}"},
-	{"[add|make|create|give|build|implement] [it] {health} that|which drops|decreases|goes|falls|shrinks [down] on|by|with damage and destroys|destroy [it|actor|itself] at|on zero|0",
+	{"[add|make|create|give|build|implement] [it] {health} that|which drops|decreases|goes|falls|shrinks [down] on|by|with damage and "
+	 "destroys|destroy [it|actor|itself] at|on zero|0",
 		"on any damage subtract damage from {health}, then if {health} is 0 or less destroy itself"},
-	{"[add|make|create|give|build|implement] [it] {health} that|which drops|decreases|goes|falls|shrinks [down] on|by|with damage and it|actor is destroyed|dies at|on zero|0",
+	{"[add|make|create|give|build|implement] [it] {health} that|which drops|decreases|goes|falls|shrinks [down] on|by|with damage and "
+	 "it|actor is destroyed|dies at|on zero|0",
 		"on any damage subtract damage from {health}, then if {health} is 0 or less destroy itself"},
-	{"[add|make|create|give|build|implement] [it] {health} that|which drops|decreases|goes|falls|shrinks [down] when [it] [is|takes|gets] damaged|damage|hurt|hit and destroys|destroy [it|actor|itself] at|on|when zero|0 [reached]",
+	{"[add|make|create|give|build|implement] [it] {health} that|which drops|decreases|goes|falls|shrinks [down] when [it] [is|takes|gets] "
+	 "damaged|damage|hurt|hit and destroys|destroy [it|actor|itself] at|on|when zero|0 [reached]",
 		"on any damage subtract damage from {health}, then if {health} is 0 or less destroy itself"},
-	{"[add|make|create|build|implement] [looping] timer that|which|to spawns|spawn {class} every {n} second", "every {n} seconds spawn {class}"},
+	{"[add|make|create|build|implement] [looping] timer that|which|to spawns|spawn {class} every {n} second",
+		"every {n} seconds spawn {class}"},
 	{"[add|make|create|build|implement] timer of {n} seconds that|which|to spawns|spawn {class}", "every {n} seconds spawn {class}"},
 	{"[add|make|create|build|implement] timer that|which every {n} second spawns|spawn {class}", "every {n} seconds spawn {class}"},
 	{"[add|make|create|build|implement] spawner that|which|of spawns|spawn {class} every {n} second", "every {n} seconds spawn {class}"},
-	{"[add|make|create|let|have] {key} key|press|button [press|pressed] that|which|to toggles|toggle {what}", "when {key} is pressed toggle {what}"},
-	{"[add|make|create|let|have] key|keypress|press [of] {key} [that|which|to] toggles|toggle {what}", "when {key} is pressed toggle {what}"},
+	{"[add|make|create|let|have] {key} key|press|button [press|pressed] that|which|to toggles|toggle {what}",
+		"when {key} is pressed toggle {what}"},
+	{"[add|make|create|let|have] key|keypress|press [of] {key} [that|which|to] toggles|toggle {what}",
+		"when {key} is pressed toggle {what}"},
 	{"make|let|have {key:1} [key] toggle {what}", "when {key} is pressed toggle {what}"},
 	{"toggle {what} with {key} [key]", "when {key} is pressed toggle {what}"},
 	{"jump with|on {key} [key]", "when {key} is pressed jump"},

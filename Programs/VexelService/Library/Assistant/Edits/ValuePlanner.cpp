@@ -61,10 +61,13 @@ struct FValueWording
 };
 
 constexpr FValueWording ValueWordings[] = {
-	{"[its|my|own|actor|actor's|self] [own|actor|current] location|position", "call.Actor.K2_GetActorLocation", "ReturnValue", "struct.Vector"},
+	{"[its|my|own|actor|actor's|self] [own|actor|current] location|position", "call.Actor.K2_GetActorLocation", "ReturnValue",
+		"struct.Vector"},
 	{"[its|my|own|actor|actor's|self] [own|actor|current] place|spot", "call.Actor.K2_GetActorLocation", "ReturnValue", "struct.Vector"},
-	{"location|position of {actor}", "call.Actor.K2_GetActorLocation", "ReturnValue", "struct.Vector", {"actor", "self", EValueKind::Object}},
-	{"player|player's location|position", "call.Actor.K2_GetActorLocation", "ReturnValue", "struct.Vector", {"player", "self", EValueKind::Object}},
+	{"location|position of {actor}", "call.Actor.K2_GetActorLocation", "ReturnValue", "struct.Vector",
+		{"actor", "self", EValueKind::Object}},
+	{"player|player's location|position", "call.Actor.K2_GetActorLocation", "ReturnValue", "struct.Vector",
+		{"player", "self", EValueKind::Object}},
 	{"[its|my|own|actor|actor's] [actor|current] rotation", "call.Actor.K2_GetActorRotation", "ReturnValue", "struct.Rotator"},
 	{"rotation of {actor}", "call.Actor.K2_GetActorRotation", "ReturnValue", "struct.Rotator", {"actor", "self", EValueKind::Object}},
 	{"[its|my|own|actor|actor's] forward vector|direction", "call.Actor.GetActorForwardVector", "ReturnValue", "struct.Vector"},
@@ -124,17 +127,15 @@ std::optional<std::string> ReadTriple(const std::string& Said)
 		}
 	}
 	std::erase(Numbers, std::string());
-	const bool bThree = Numbers.size() == 3 && std::all_of(Numbers.begin(), Numbers.end(), [](const std::string& Number)
-												   { return ReadNumber(Number).has_value(); });
+	const bool bThree = Numbers.size() == 3 &&
+		std::all_of(Numbers.begin(), Numbers.end(), [](const std::string& Number)
+			{ return ReadNumber(Number).has_value(); });
 	return bThree ? std::optional<std::string>(Numbers[0] + ", " + Numbers[1] + ", " + Numbers[2]) : std::nullopt;
 }
 
 }
 
-bool IsObjectType(std::string_view Type)
-{
-	return StartsWith(Type, "object.") || Type == "object";
-}
+bool IsObjectType(std::string_view Type) { return StartsWith(Type, "object.") || Type == "object"; }
 
 std::optional<std::string> ReadNumber(std::string_view Word)
 {
@@ -272,7 +273,8 @@ FPlanValue FValuePlanner::ReadText(const FEditWords& Words, const FValueScope& S
 	}
 	for (std::size_t At = Words.size(); At-- > 1;)
 	{
-		const bool bJoins = At + 1 < Words.size() && IsWord(Words[At], "+|plus|and|&|followed") && (Words[At - 1].bQuoted || Words[At + 1].bQuoted);
+		const bool bJoins =
+			At + 1 < Words.size() && IsWord(Words[At], "+|plus|and|&|followed") && (Words[At - 1].bQuoted || Words[At + 1].bQuoted);
 		if (bJoins && ++Depth < MaxValueDepth)
 		{
 			const FPlanValue Left = Read(PartOf(Words, 0, At), EValueKind::Text, Scope);
@@ -297,8 +299,9 @@ FPlanValue FValuePlanner::ReadNamed(const std::string& Said, EValueKind Kind, co
 			return {.Literal = {}, .Pin = Output->second, .Type = Output->second.Type};
 		}
 	}
-	const auto Output = std::find_if(Scope.Outputs.begin(), Scope.Outputs.end(), [&Said](const auto& Named)
-		{ return SameName(Said, Named.first); });
+	const auto Output =
+		std::find_if(Scope.Outputs.begin(), Scope.Outputs.end(), [&Said](const auto& Named)
+			{ return SameName(Said, Named.first); });
 	if (Output != Scope.Outputs.end())
 	{
 		return {.Literal = {}, .Pin = Output->second, .Type = Output->second.Type};
@@ -324,11 +327,14 @@ FPlanValue FValuePlanner::ReadPhrase(const FEditWords& Words, const FValueScope&
 			const bool bPlayer = Input.Slot == "player";
 			if (bPlayer || Captures->contains(Input.Slot))
 			{
-				Fill(Node, Input.Pin, Read(bPlayer ? FEditWords{{.Text = "player"}} : Captures->find(Input.Slot)->second, Input.Kind, Scope));
+				Fill(Node, Input.Pin,
+					Read(bPlayer ? FEditWords{{.Text = "player"}} : Captures->find(Input.Slot)->second, Input.Kind, Scope));
 			}
 		}
 		--Depth;
-		return {.Literal = {}, .Pin = FPlanPin{Node, std::string(Wording.Output), std::string(Wording.Type)}, .Type = std::string(Wording.Type)};
+		return {.Literal = {},
+			.Pin = FPlanPin{Node, std::string(Wording.Output), std::string(Wording.Type)},
+			.Type = std::string(Wording.Type)};
 	}
 	return {};
 }
@@ -363,7 +369,8 @@ std::optional<FBlueprintVariable> FValuePlanner::FindVariable(std::string_view S
 	{
 		return *Variable;
 	}
-	const auto New = std::find_if(NewVariables.begin(), NewVariables.end(), [Said](const FBlueprintVariable& Variable)
+	const auto New = std::find_if(NewVariables.begin(), NewVariables.end(),
+		[Said](const FBlueprintVariable& Variable)
 		{ return SameName(Said, Variable.Id) || SameName("b" + std::string(Said), Variable.Id); });
 	return New == NewVariables.end() ? std::nullopt : std::optional<FBlueprintVariable>(*New);
 }

@@ -66,7 +66,8 @@ public:
 		std::string Problem;
 		const std::optional<FEndpoint> Source = Find(Session.Editor.Blueprint(), From, {}, Problem);
 		const bool bTwo = Kind == EWiring::Connect || Kind == EWiring::Disconnect;
-		const std::optional<FEndpoint> Target = Source && bTwo ? Find(Session.Editor.Blueprint(), To, Source->Graph, Problem) : std::nullopt;
+		const std::optional<FEndpoint> Target =
+			Source && bTwo ? Find(Session.Editor.Blueprint(), To, Source->Graph, Problem) : std::nullopt;
 		if (!Source || (bTwo && !Target))
 		{
 			Session.Say(Problem + " I changed nothing.\n");
@@ -82,7 +83,8 @@ public:
 		if (Links.empty())
 		{
 			const std::string Between = Bold(Source->Title) + (Target ? " and " + Bold(Target->Title) : std::string());
-			Session.Say((Kind == EWiring::Connect ? "I find no pins of " + Between + " that fit each other: name them, as in \"connect Delay.Completed to Print String.execute\"."
+			Session.Say((Kind == EWiring::Connect ? "I find no pins of " + Between +
+									" that fit each other: name them, as in \"connect Delay.Completed to Print String.execute\"."
 												  : "There is no wire " + std::string(Target ? "between " : "at ") + Between + ".") +
 				" I changed nothing.\n");
 			return;
@@ -111,7 +113,8 @@ private:
 		std::vector<std::string> Done;
 		for (const FLinkToEdit& Link : Links)
 		{
-			Done.push_back((Link.bRemove ? "Broke the wire from `" : "Connected `") + Link.FromNode + "`." + Link.FromPin + " to `" + Link.ToNode + "`." + Link.ToPin + ".");
+			Done.push_back((Link.bRemove ? "Broke the wire from `" : "Connected `") + Link.FromNode + "`." + Link.FromPin + " to `" +
+				Link.ToNode + "`." + Link.ToPin + ".");
 		}
 		Finish(Session, Done);
 	}
@@ -143,7 +146,8 @@ private:
 	}
 
 	/** The node, and the pin behind a point or "'s" or "of", that words mean; a question in Problem when they mean none or several. */
-	static std::optional<FEndpoint> Find(const FBlueprintModel& Model, const std::string& Said, const std::string& InGraph, std::string& Problem)
+	static std::optional<FEndpoint> Find(
+		const FBlueprintModel& Model, const std::string& Said, const std::string& InGraph, std::string& Problem)
 	{
 		std::vector<FEndpoint> Found = FindNodes(Model, Said, InGraph, {});
 		for (const std::string_view Separator : {".", "'s ", " pin "})
@@ -174,7 +178,8 @@ private:
 		return std::nullopt;
 	}
 
-	static std::vector<FEndpoint> FindNodes(const FBlueprintModel& Model, const std::string& Said, const std::string& InGraph, const std::string& Pin)
+	static std::vector<FEndpoint> FindNodes(
+		const FBlueprintModel& Model, const std::string& Said, const std::string& InGraph, const std::string& Pin)
 	{
 		std::vector<FEndpoint> Found;
 		for (const FBlueprintGraph& Graph : Model.Graphs)
@@ -265,10 +270,12 @@ private:
 			for (const FPinLink& Link : Pin.Links)
 			{
 				const bool bWanted = (Source.Pin.empty() || EqualIgnoringCase(Pin.Id, Source.Pin)) &&
-					(!Target || (EqualIgnoringCase(Link.Node, Target->Node) && (Target->Pin.empty() || EqualIgnoringCase(Link.Pin, Target->Pin))));
+					(!Target ||
+						(EqualIgnoringCase(Link.Node, Target->Node) && (Target->Pin.empty() || EqualIgnoringCase(Link.Pin, Target->Pin))));
 				if (bWanted)
 				{
-					Links.push_back(Pin.bInput ? FLinkToEdit{Link.Node, Link.Pin, Node.Id, Pin.Id, true} : FLinkToEdit{Node.Id, Pin.Id, Link.Node, Link.Pin, true});
+					Links.push_back(Pin.bInput ? FLinkToEdit{Link.Node, Link.Pin, Node.Id, Pin.Id, true}
+											   : FLinkToEdit{Node.Id, Pin.Id, Link.Node, Link.Pin, true});
 				}
 			}
 		}
