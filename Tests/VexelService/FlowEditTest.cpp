@@ -106,6 +106,12 @@ TEST_F(FlowEdit, OwnFunctionsAreCalledByWhatPeopleCallThem)
 	EXPECT_THAT(Answer, HasSubstr("**When another actor begins to overlap it**"));
 }
 
+TEST_F(FlowEdit, APronounBehindAnEventBelongsToIt)
+{
+	EXPECT_THAT(Ask("when the player touches it the gate opens"), HasSubstr("calls OpenGate"));
+	EXPECT_THAT(Links(), Contains("if.then > OpenGate.execute"));
+}
+
 TEST_F(FlowEdit, AVariableThatIsChangedIsMadeAndSaidSo)
 {
 	const std::string Answer = Ask("add health that drops on damage and destroys at zero");

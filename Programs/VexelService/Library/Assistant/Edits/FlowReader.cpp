@@ -150,13 +150,18 @@ private:
 	{
 		std::optional<FFlowChain> Best;
 		FReadSteps BestSteps;
+		std::size_t BestCost = 0;
 		const auto Offer = [&](FFlowChain Chain, FSpan Rest)
 		{
-			FReadSteps Steps = Chain.Event ? ReadSteps(Trimmed(Rest), 0) : FReadSteps();
-			if (Steps.Count > 0 && (!Best || Steps.Unknown < BestSteps.Unknown))
+			Rest = Trimmed(Rest);
+			FReadSteps Steps = Chain.Event ? ReadSteps(Rest, 0) : FReadSteps();
+			// In "when it touches it the door opens" the second "it" belongs to the event rather than to the step.
+			const std::size_t Cost = 2 * Steps.Unknown + (IsAt(Rest.Begin, "it|him|her|them|this|that") ? 1 : 0);
+			if (Steps.Count > 0 && (!Best || Cost < BestCost))
 			{
 				Best = std::move(Chain);
 				BestSteps = std::move(Steps);
+				BestCost = Cost;
 			}
 		};
 		// "After 2 seconds ..." and "If ..." go on with what was said before them.
