@@ -14,7 +14,6 @@ namespace
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
 
 constexpr const char* DoorPath = "/Game/Doors/BP_Door.BP_Door";
 

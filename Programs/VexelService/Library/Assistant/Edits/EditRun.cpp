@@ -205,6 +205,7 @@ std::string FEditRun::FindEntry(const std::string& GraphId)
 bool FEditRun::SpawnIn(const std::string& Graph, const std::vector<FPlanIndex>& Indices, const FEditPlan& Plan, FRunOutcome& Outcome)
 {
 	std::vector<FNodeToSpawn> Wanted;
+	Wanted.reserve(Indices.size());
 	for (const FPlanIndex Index : Indices)
 	{
 		Wanted.push_back({Plan.Nodes[Index].Type, Plan.Nodes[Index].PinValues});
@@ -273,6 +274,7 @@ bool FEditRun::Link(const FEditPlan& Plan, FRunOutcome& Outcome)
 	{
 		const std::string& Graph = Plan.Nodes[Batch.front().From].Graph;
 		std::vector<FLinkToEdit> Links;
+		Links.reserve(Batch.size());
 		for (const FPlanLink& Planned : Batch)
 		{
 			Links.push_back(WithRealPins(Graph, {Nodes[Planned.From], Planned.FromPin, Nodes[Planned.To], Planned.ToPin}));

@@ -64,6 +64,7 @@ std::optional<FCallable> FindCallable(const FBlueprintModel& Model, std::string_
 {
 	const std::vector<FCallable> Callables = ListCallables(Model);
 	std::vector<std::string> Names;
+	Names.reserve(Callables.size());
 	for (const FCallable& Callable : Callables)
 	{
 		Names.push_back(Callable.Name);

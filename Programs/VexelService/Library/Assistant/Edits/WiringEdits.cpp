@@ -111,6 +111,7 @@ private:
 			return;
 		}
 		std::vector<std::string> Done;
+		Done.reserve(Links.size());
 		for (const FLinkToEdit& Link : Links)
 		{
 			Done.push_back((Link.bRemove ? "Broke the wire from `" : "Connected `") + Link.FromNode + "`." + Link.FromPin + " to `" +
@@ -168,6 +169,7 @@ private:
 			return Found.front();
 		}
 		std::vector<std::string> Ids;
+		Ids.reserve(Found.size());
 		for (const FEndpoint& Node : Found)
 		{
 			Ids.push_back("`" + Node.Node + "` in " + Node.Graph);
