@@ -1,6 +1,6 @@
 #include "MemberFamilies.h"
 
-#include "EditReport.h"
+#include "MemberReport.h"
 #include "MemberLookup.h"
 #include "MemberSentence.h"
 #include "PropertyNames.h"

@@ -1,4 +1,4 @@
-#include "EditReport.h"
+#include "MemberReport.h"
 
 #include "Assistant/AssetFinder.h"
 #include "Assistant/Markdown.h"
