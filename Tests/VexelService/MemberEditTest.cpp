@@ -140,6 +140,7 @@ TEST_F(MemberEdit, VariablesAreAddedInManyWords)
 		{"i want you to add an int variable Ammo to BP_Enemy starting at 30", "Ammo", "int", "\"30\"", ""},
 		{"declare a 64 bit integer Total in BP_Enemy", "Total", "int64", "", ""},
 		{"add a rotator Facing with default yaw 90 to BP_Enemy", "Facing", "struct.Rotator", "{\"Yaw\":\"90\"}", ""},
+		{"add an event dispatcher OnDied to BP_Enemy", "OnDied", "mcdelegate", "", ""},
 		{"Add an array of names Drops with default Coin, Gem and Key to BP_Enemy", "Drops", "array|name", "{\"0\":\"Coin\",\"1\":\"Gem\",\"2\":\"Key\"}", ""},
 	};
 	for (const auto& Case : Cases)
@@ -489,6 +490,22 @@ TEST_F(MemberEdit, ItMeansTheBlueprintOfTheConversation)
 	EXPECT_THAT(Operations("set Armor to 3"), ElementsAre("update member Armor \"3\""));
 	EXPECT_THAT(Operations("add a boolean bTired to it"), ElementsAre(HasSubstr("add_variable member bTired")));
 	EXPECT_THAT(Operations("make it hidden"), ElementsAre("update  $ClassDefaultObject.bHidden \"True\""));
+}
+
+TEST_F(MemberEdit, ItMeansTheMemberOfTheMessageBefore)
+{
+	Operations("Add a float variable Armor to BP_Enemy");
+	EXPECT_THAT(Operations("set it to 5"), ElementsAre("update member Armor \"5\""));
+	EXPECT_THAT(Operations("now rename it to Shield"), ElementsAre("edit_variable member Armor " + Description("Shield", "real", "Default")));
+	EXPECT_THAT(Operations("make this variable editable and put it in the category Stats"),
+		ElementsAre(AllOf(HasSubstr("edit_variable member Shield"), HasSubstr("\"instance_editable\":true"), HasSubstr("\"category\":\"Stats\""))))
+		<< Answer;
+	EXPECT_THAT(Operations("make it an integer"), ElementsAre(HasSubstr("edit_variable member Shield"))) << Answer;
+	Editor.Ask("Which functions does BP_Enemy have?");
+	EXPECT_THAT(Operations("remove it"), IsEmpty()) << "the last message was about no member";
+	EXPECT_THAT(Answer, HasSubstr("Which variable, function or event do you mean?"));
+	Operations("set Health to 5");
+	EXPECT_THAT(Operations("remove it"), ElementsAre("remove_variable member Health"));
 }
 
 }

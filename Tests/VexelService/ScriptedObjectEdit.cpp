@@ -13,7 +13,7 @@ namespace
 
 constexpr const char* DefaultObject = "$ClassDefaultObject";
 constexpr const char* KnownTypes[] = {"bool", "byte", "int", "int64", "real", "name", "string", "text", "struct.Vector", "struct.Rotator",
-	"struct.LinearColor", "object.Actor", "object.BP_Enemy", "object.BP_Door", "class.Actor", "class.BP_Enemy", "enum.EDoorState", "struct.Stats"};
+	"struct.LinearColor", "object.Actor", "object.BP_Enemy", "object.BP_Door", "class.Actor", "class.BP_Enemy", "enum.EDoorState", "struct.Stats", "mcdelegate"};
 
 bool IsKnownType(const std::string& Type)
 {

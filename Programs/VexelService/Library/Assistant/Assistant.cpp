@@ -73,7 +73,7 @@ public:
 
 	void Run()
 	{
-		if (const std::optional<FEditRequest> Edit = ReadEditRequest(Request.Messages.back().Text, OpenAssetNames(Request)))
+		if (const std::optional<FEditRequest> Edit = ReadEditRequest(Request.Messages.back().Text, OpenAssetNames(Request), Topic.LastSubject))
 		{
 			RunEdit(*Edit);
 			return;

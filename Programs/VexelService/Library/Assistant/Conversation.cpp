@@ -1,5 +1,6 @@
 #include "Assistant/Conversation.h"
 
+#include "Assistant/Edits/EditRequest.h"
 #include "Assistant/Words.h"
 
 #include <utility>
@@ -65,8 +66,16 @@ void FollowReading(FTopic& Topic, std::vector<std::string> Paths)
 	Topic.Question.Blueprint = Topic.Question.Blueprint.empty() ? std::string() : Topic.Blueprint;
 }
 
+void Follow(FTopic& Topic, const FEditRequest& Edit)
+{
+	Topic.Blueprint = IsBackReference(Edit.Blueprint) ? Topic.Blueprint : Edit.Blueprint;
+	Topic.Subject = Edit.Subject.empty() ? Topic.Subject : Edit.Subject;
+	Topic.LastSubject = Edit.Subject;
+}
+
 void Follow(FTopic& Topic, const FQuestion& Question)
 {
+	Topic.LastSubject = HasNamedSubject(Question.Kind) ? Question.Subject : std::string();
 	if (Question.Kind < EQuestionKind::Overview)
 	{
 		return;
@@ -98,16 +107,21 @@ FTopic ReadTopic(const FChatRequest& Request)
 {
 	const std::vector<std::string> OpenNames = OpenAssetNames(Request);
 	FTopic Topic;
+	bool bEdited = false;
 	for (std::size_t Index = 0; Index + 1 < Request.Messages.size(); ++Index)
 	{
 		const FChatMessage& Message = Request.Messages[Index];
 		if (Message.Role == "user")
 		{
-			Follow(Topic, ResolveReferences(ReadQuestion(Message.Text, OpenNames), Topic));
+			const std::optional<FEditRequest> Edit = ReadEditRequest(Message.Text, OpenNames, Topic.LastSubject);
+			bEdited = Edit.has_value();
+			Edit ? Follow(Topic, *Edit) : Follow(Topic, ResolveReferences(ReadQuestion(Message.Text, OpenNames), Topic));
 		}
 		else if (Message.Role == "assistant")
 		{
-			FollowReading(Topic, Message.ReadBlueprints);
+			// What an edit reads first it edits; the others are read for what uses that.
+			const bool bFirst = bEdited && !Message.ReadBlueprints.empty();
+			FollowReading(Topic, bFirst ? std::vector<std::string>{Message.ReadBlueprints.front()} : Message.ReadBlueprints);
 		}
 	}
 	return Topic;

@@ -17,6 +17,8 @@ struct FTopic
 	std::string ReadPath;
 	/** The variable, function, event or other thing asked about last. */
 	std::string Subject;
+	/** What the last message was about; empty when it was about no one thing of a Blueprint. An edit's "it" means nothing older. */
+	std::string LastSubject;
 	/** The last question that was understood, without references to earlier ones. */
 	FQuestion Question;
 };

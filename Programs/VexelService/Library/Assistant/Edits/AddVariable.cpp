@@ -201,6 +201,7 @@ std::optional<FEditRequest> ReadAddVariable(const FEditMessage& Message)
 			", but not to which function. Add \"to the function ...\".\n";
 		return Request;
 	}
+	Request.Subject = !Owner && Said->size() == 1 && Said->front().Names.size() == 1 ? Said->front().Names.front() : std::string();
 	Request.Edit = std::make_shared<FAddVariables>(*Said, Owner ? JoinWords(*Owner) : std::string());
 	return Request;
 }

@@ -174,6 +174,7 @@ private:
 		if (Succeeded(Session, Outcome, What))
 		{
 			Session.Say(Done);
+			TellWarnings(Session, Outcome);
 			TellCompile(Session, Others);
 		}
 	}
@@ -210,6 +211,7 @@ private:
 		if (Succeeded(Session, Outcome, What))
 		{
 			Session.Say("I changed the type of " + Subject + " from " + TypeInWords(OldType) + " to " + TypeInWords(Changed.Type) + ".\n");
+			TellWarnings(Session, Outcome);
 			TellCompile(Session, Others);
 		}
 	}
@@ -232,6 +234,7 @@ private:
 		if (Succeeded(Session, Outcome, "remove " + Subject))
 		{
 			Session.Say("I removed " + Subject + ".\n");
+			TellWarnings(Session, Outcome);
 			TellCompile(Session, Others);
 		}
 	}
@@ -325,33 +328,43 @@ bool IsOfMember(const FSaidChange& Change)
 	return Change.Change != EChange::Remove || Change.Member.Noun != EMemberNoun::Any || bOneWord;
 }
 
+FEditRequest MakeRequest(const FEditMessage& Message, FSaidChange& Change)
+{
+	FEditRequest Request{.Blueprint = Message.Blueprint};
+	if (!ResolveSubject(Change.Member, Message))
+	{
+		Request.Question = "Which variable, function or event do you mean? Name it.\n";
+		return Request;
+	}
+	if (!IsClear(Change))
+	{
+		Request.Question = "I understood that you want to rename " + Bold(Change.Member.Names.front()) +
+			", but not to what. A name is one word, or stands in quotes.\n";
+		return Request;
+	}
+	const bool bRenamed = Change.Change == EChange::Rename && !SubjectOf(Change.Member).empty();
+	Request.Subject = bRenamed ? Change.Text : Change.Change == EChange::Remove ? std::string()
+																				: SubjectOf(Change.Member);
+	Request.Edit = std::make_shared<FChangeMember>(Change);
+	return Request;
+}
+
 }
 
 std::optional<FEditRequest> ReadChangeMember(const FEditMessage& Message)
 {
 	const std::optional<FEditMessage> Read = ReadMemberMessage(Message);
-	if (const std::optional<FSaidChange> Flag = Read ? ReadFlag(Read->Words) : std::nullopt)
+	if (std::optional<FSaidChange> Flag = Read ? ReadFlag(Read->Words) : std::nullopt)
 	{
-		return FEditRequest{.Blueprint = Read->Blueprint, .Edit = std::make_shared<FChangeMember>(*Flag)};
+		return MakeRequest(*Read, *Flag);
 	}
 	for (const FChangePattern& Pattern : Patterns)
 	{
-		const std::optional<FSaidChange> Change = Read ? ReadChange(Pattern, Read->Words) : std::nullopt;
-		if (!Change || !IsOfMember(*Change))
+		std::optional<FSaidChange> Change = Read ? ReadChange(Pattern, Read->Words) : std::nullopt;
+		if (Change && IsOfMember(*Change))
 		{
-			continue;
+			return MakeRequest(*Read, *Change);
 		}
-		FEditRequest Request{.Blueprint = Read->Blueprint};
-		if (IsClear(*Change))
-		{
-			Request.Edit = std::make_shared<FChangeMember>(*Change);
-		}
-		else
-		{
-			Request.Question = "I understood that you want to rename " + Bold(Change->Member.Names.front()) +
-				", but not to what. A name is one word, or stands in quotes.\n";
-		}
-		return Request;
 	}
 	return std::nullopt;
 }

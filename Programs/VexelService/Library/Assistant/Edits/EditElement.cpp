@@ -304,12 +304,18 @@ std::optional<FEditRequest> ReadEditElement(const FEditMessage& Message)
 	const std::optional<FEditMessage> Read = ReadMemberMessage(Message);
 	for (const FElementPattern& Pattern : Patterns)
 	{
-		const std::optional<FSplitRequest> Split = Read ? SplitRequest(Pattern.Pattern, Read->Words) : std::nullopt;
+		std::optional<FSplitRequest> Split = Read ? SplitRequest(Pattern.Pattern, Read->Words) : std::nullopt;
 		if (!Split || !IsOfList(Pattern, *Split, Read->Words))
 		{
 			continue;
 		}
 		FEditRequest Request{.Blueprint = Read->Blueprint};
+		if (!ResolveSubject(Split->Member, *Read))
+		{
+			Request.Question = "Which list do you mean? Name it.\n";
+			return Request;
+		}
+		Request.Subject = SubjectOf(Split->Member);
 		Request.Edit = std::make_shared<FEditElement>(Pattern.Edit, Split->Member, Split->Rest, Pattern.bFirst);
 		return Request;
 	}

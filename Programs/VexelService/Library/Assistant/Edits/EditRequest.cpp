@@ -27,13 +27,14 @@ bool IsQuestion(const FEditWords& Words)
 
 }
 
-std::optional<FEditRequest> ReadEditRequest(std::string_view Message, const std::vector<std::string>& OpenNames)
+std::optional<FEditRequest> ReadEditRequest(std::string_view Message, const std::vector<std::string>& OpenNames, const std::string& Subject)
 {
-	const std::optional<FEditMessage> Read = ReadEditMessage(Message, OpenNames);
+	std::optional<FEditMessage> Read = ReadEditMessage(Message, OpenNames);
 	if (!Read)
 	{
 		return std::nullopt;
 	}
+	Read->Subject = Subject;
 	for (const FEditFamily& Family : GetEditFamilies())
 	{
 		if (IsQuestion(Read->Words) && !Family.bAsks)

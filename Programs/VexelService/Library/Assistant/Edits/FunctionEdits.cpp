@@ -386,6 +386,7 @@ std::optional<FEditRequest> ReadAddFunction(const FEditMessage& Message)
 			". Say for example: with an input Amount of type float and an output NewHealth of type float.\n";
 		return Request;
 	}
+	Request.Subject = *Name;
 	Request.Edit = std::make_shared<FAddFunction>(*Name, Parameters);
 	return Request;
 }

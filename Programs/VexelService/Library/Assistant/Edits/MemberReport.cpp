@@ -110,6 +110,20 @@ std::vector<const FBlueprintModel*> FindOtherUsers(FEditSession& Session, const 
 
 }
 
+void TellWarnings(FEditSession& Session, const FEditOutcome& Outcome)
+{
+	std::string Text;
+	for (std::size_t Index = 0; Index < std::min(Outcome.Warnings.size(), MaxShownMessages); ++Index)
+	{
+		Text += "- " + Outcome.Warnings[Index] + "\n";
+	}
+	if (!Text.empty())
+	{
+		const std::size_t Rest = Outcome.Warnings.size() - std::min(Outcome.Warnings.size(), MaxShownMessages);
+		Session.Say("It has an effect on wires:\n\n" + Text + (Rest > 0 ? "- and " + CountOf(Rest, "other") + "\n" : "") + "\n");
+	}
+}
+
 void TellCompile(FEditSession& Session, const std::vector<std::string>& Others)
 {
 	if (!Session.IsOver())

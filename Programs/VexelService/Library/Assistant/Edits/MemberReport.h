@@ -10,6 +10,9 @@
 namespace VexelService
 {
 
+/** Tells of wires that an edit has cost. */
+void TellWarnings(FEditSession& Session, const FEditOutcome& Outcome);
+
 /** Compiles the Blueprint, and others by their paths, and tells how that went. */
 void TellCompile(FEditSession& Session, const std::vector<std::string>& Others = {});
 

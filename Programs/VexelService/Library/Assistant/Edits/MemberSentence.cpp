@@ -272,7 +272,7 @@ private:
 
 std::optional<FEditMessage> ReadMemberMessage(const FEditMessage& Message)
 {
-	FEditMessage Read{.Words = WithoutPoliteness(Message.Words), .Blueprint = Message.Blueprint};
+	FEditMessage Read{.Words = WithoutPoliteness(Message.Words), .Blueprint = Message.Blueprint, .Subject = Message.Subject};
 	const bool bMoment = std::any_of(Read.Words.begin(), Read.Words.end(), [](const FEditWord& Word)
 		{ return IsWord(Word, Moments); });
 	if (bMoment || Read.Words.empty())
@@ -289,6 +289,11 @@ std::optional<FSaidMember> ReadSaidMember(FEditWordSpan Words)
 	return FMemberReader().Read(Words);
 }
 
+bool IsReferenceBack(const FSaidMember& Member)
+{
+	return Member.Names.size() == 1 && Member.Owner.empty() && IsOneOf(Member.Names.front(), "it|this|that|variable|one|function|event");
+}
+
 std::optional<FSplitRequest> SplitRequest(std::string_view Pattern, const FEditWords& Words)
 {
 	const std::optional<FCaptures> Captures = MatchWords(Pattern, Words);
@@ -299,6 +304,21 @@ std::optional<FSplitRequest> SplitRequest(std::string_view Pattern, const FEditW
 	const std::optional<FSaidMember> Member = ReadSaidMember(Captures->find("member")->second);
 	const auto Rest = Captures->find("rest");
 	return Member ? std::optional<FSplitRequest>({*Member, Rest == Captures->end() ? FEditWords() : Rest->second}) : std::nullopt;
+}
+
+bool ResolveSubject(FSaidMember& Member, const FEditMessage& Message)
+{
+	const bool bRefers = IsReferenceBack(Member);
+	if (bRefers && !Message.Subject.empty())
+	{
+		Member.Names.front() = Message.Subject;
+	}
+	return !bRefers || !Message.Subject.empty();
+}
+
+std::string SubjectOf(const FSaidMember& Member)
+{
+	return Member.Names.size() == 1 && Member.Owner.empty() ? Member.Names.front() : std::string();
 }
 
 }

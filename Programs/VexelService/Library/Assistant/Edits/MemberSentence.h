@@ -61,7 +61,16 @@ struct FSplitRequest
 	FEditWords Rest;
 };
 
+/** Whether the words for a member mean what was spoken of before: "it", "this variable". */
+bool IsReferenceBack(const FSaidMember& Member);
+
 /** Reads a message by a pattern with the slots {member} and {rest}. */
 std::optional<FSplitRequest> SplitRequest(std::string_view Pattern, const FEditWords& Words);
+
+/** Puts what the conversation was about in the place of "it". False where "it" was said and nothing is known that it means. */
+bool ResolveSubject(FSaidMember& Member, const FEditMessage& Message);
+
+/** What "it" may mean in the next message: the member's name, where that alone says which it is. */
+std::string SubjectOf(const FSaidMember& Member);
 
 }

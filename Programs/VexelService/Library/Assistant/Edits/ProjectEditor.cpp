@@ -50,6 +50,19 @@ const FBlueprintNode* FindEvent(const FBlueprintGraph& Graph, const std::string&
 	return Found == Graph.Nodes.end() ? nullptr : &*Found;
 }
 
+std::vector<std::string> ReadTexts(const FJson& Reply, const char* Key)
+{
+	std::vector<std::string> Texts;
+	for (const FJson& Text : ArrayMember(Reply, Key))
+	{
+		if (Text.is_string() && Texts.size() < MaxErrors)
+		{
+			Texts.push_back(Shortened(Text.get<std::string>(), MaxErrorBytes));
+		}
+	}
+	return Texts;
+}
+
 FJson ToJson(const FVariableToAdd& Variable)
 {
 	FJson Description = {{"scope_id", Variable.Scope}, {"prop_id", Variable.Name}, {"type_id", Variable.Type}};
@@ -116,13 +129,8 @@ FEditOutcome FProjectEditor::Edit(std::string_view Tool, FJson Arguments)
 		return {.bDone = false, .Errors = {Reader.GetLastError()}};
 	}
 	FEditOutcome Outcome{.bDone = true};
-	for (const FJson& Error : ArrayMember(*Reply, "errors"))
-	{
-		if (Error.is_string() && Outcome.Errors.size() < MaxErrors)
-		{
-			Outcome.Errors.push_back(Shortened(Error.get<std::string>(), MaxErrorBytes));
-		}
-	}
+	Outcome.Errors = ReadTexts(*Reply, "errors");
+	Outcome.Warnings = ReadTexts(*Reply, "warnings");
 	const FJson* const Export = FindMember(*Reply, "blueprint");
 	if (!Export || !Reader.Keep(Path, *Export))
 	{

@@ -335,6 +335,12 @@ std::optional<FEditRequest> ReadSetValue(const FEditMessage& Message)
 		}
 		ReadAdjective(*Split);
 		FEditRequest Request{.Blueprint = Read->Blueprint};
+		if (!ResolveSubject(Split->Member, *Read))
+		{
+			Request.Question = "What do you want to set to " + Bold(JoinWords(Split->Rest)) + "? Name the variable or the property.\n";
+			return Request;
+		}
+		Request.Subject = SubjectOf(Split->Member);
 		Request.Edit = std::make_shared<FSetValue>(Split->Member, Split->Rest);
 		return Request;
 	}

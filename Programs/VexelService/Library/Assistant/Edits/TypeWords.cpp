@@ -40,6 +40,7 @@ constexpr FTypeWords TypeWords[] = {
 	{"transform|ftransform", "struct", "Transform", true},
 	{"color|colour|linear color|linear colour|linearcolor|flinearcolor", "struct", "LinearColor", true},
 	{"fcolor|8-bit color|8 bit color", "struct", "Color", true},
+	{"event dispatcher|dispatcher", "mcdelegate", "", true},
 	{"timer handle", "struct", "TimerHandle", false},
 	{"object", "object", "Object", false},
 	{"actor", "object", "Actor", false},

@@ -54,6 +54,8 @@ struct FEditRequest
 	std::shared_ptr<const IEdit> Edit = {};
 	/** Markdown that says what was understood, and asks. */
 	std::string Question = {};
+	/** The one thing of the Blueprint that it is about, as the user wrote it, which a next message may call "it"; may be empty. */
+	std::string Subject = {};
 };
 
 /** Requests of one sort. A family reads what is its own alone, and gives nothing for any other message. */
@@ -71,8 +73,9 @@ const std::vector<FEditFamily>& GetEditFamilies();
 
 /**
  * Understands the requests that Docs/Assistant.md lists; nothing for a question and for what no family knows. OpenNames are the names
- * of the assets that are open in the editor.
+ * of the assets that are open in the editor, Subject is what the message before was about.
  */
-std::optional<FEditRequest> ReadEditRequest(std::string_view Message, const std::vector<std::string>& OpenNames = {});
+std::optional<FEditRequest> ReadEditRequest(
+	std::string_view Message, const std::vector<std::string>& OpenNames = {}, const std::string& Subject = {});
 
 }

@@ -30,6 +30,8 @@ struct FEditMessage
 	FEditWords Words;
 	/** The Blueprint that the message names, taken out of Words with what leads to it ("in BP_Door", "BP_Door:"); may be empty. */
 	std::string Blueprint;
+	/** What the message before was about, which "it" may mean; empty when it was about no one thing. */
+	std::string Subject = {};
 };
 
 /** Splits a text; nothing when it is longer than any request. */

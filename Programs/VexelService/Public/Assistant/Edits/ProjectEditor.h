@@ -21,6 +21,8 @@ struct FEditOutcome
 	bool bDone = false;
 	/** In the editor's words: why the call failed, or one text for each item that did. */
 	std::vector<std::string> Errors = {};
+	/** What it did beside that: wires that it has cost. */
+	std::vector<std::string> Warnings = {};
 
 	bool IsComplete() const { return bDone && Errors.empty(); }
 };
