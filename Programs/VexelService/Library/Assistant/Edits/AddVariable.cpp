@@ -33,10 +33,11 @@ public:
 		FEditTarget Target;
 		if (!Function.empty())
 		{
-			const TMemberMatch<FBlueprintGraph> Match = FindFunction(*Session.Editor.Model(), Function);
+			const FBlueprintModel& Model = Session.Editor.Blueprint();
+			const TMemberMatch<FBlueprintGraph> Match = FindFunction(Model, Function);
 			if (!Match.Found)
 			{
-				Session.Say(TellMissing(*Session.Editor.Model(), "function", Function, Match.Nearest));
+				Session.Say(TellMissing(Model, "function", Function, Match.Nearest));
 				return;
 			}
 			Target.Graph = Match.Found->Id;
@@ -60,16 +61,7 @@ private:
 
 	const FBlueprintVariable* Find(FEditSession& Session, const FEditTarget& Target, const std::string& Name) const
 	{
-		const FBlueprintModel* const Model = Session.Editor.Model();
-		const FBlueprintGraph* const Graph = Target.Graph.empty() ? nullptr : Session.Editor.FindGraph(Target.Graph);
-		if (!Model || (!Graph && !Target.Graph.empty()))
-		{
-			return nullptr;
-		}
-		const std::vector<FBlueprintVariable>& Variables = Graph ? Graph->Variables : Model->Variables;
-		const auto Found = std::find_if(Variables.begin(), Variables.end(), [&](const FBlueprintVariable& Variable)
-			{ return Variable.Scope == Scope() && EqualIgnoringCase(Variable.Id, Name); });
-		return Found == Variables.end() ? nullptr : &*Found;
+		return FindVariableAt(Session.Editor.Blueprint(), Target, Scope(), Name);
 	}
 
 	/** Whether the variable is there now. */
@@ -78,8 +70,8 @@ private:
 		const std::string What = "add the variable " + Bold(Name);
 		if (const FBlueprintVariable* const There = Find(Session, Target, Name))
 		{
-			Session.Say(Bold(Session.Editor.Model()->Name) + " already has a variable " + Bold(There->Id) + " (" + DescribeVariable(*There) +
-				"). I changed nothing.\n");
+			Session.Say(Bold(Session.Editor.Blueprint().Name) + " already has a variable " + Bold(There->Id) + " (" +
+				DescribeVariable(*There) + "). I changed nothing.\n");
 			return false;
 		}
 		std::vector<std::string> Errors;
@@ -91,7 +83,8 @@ private:
 				Session.Say("I did not " + What + ": " + Default.Problem + "\n");
 				return false;
 			}
-			const FEditOutcome Added = Session.Editor.AddVariable({.Name = Name, .Type = TypeId, .Scope = Scope(), .Category = Variable.Category}, Target);
+			const FEditOutcome Added =
+				Session.Editor.AddVariable({.Name = Name, .Type = TypeId, .Scope = Scope(), .Category = Variable.Category}, Target);
 			if (Session.IsOver())
 			{
 				return false;
@@ -134,7 +127,7 @@ private:
 			Session.Say("The editor took the variable " + Bold(Name) + ", but does not show it.\n");
 			return false;
 		}
-		const std::string Where = Function.empty() ? Bold(Session.Editor.Model()->Name) : "the function " + Bold(Target.Graph);
+		const std::string Where = Function.empty() ? Bold(Session.Editor.Blueprint().Name) : "the function " + Bold(Target.Graph);
 		Session.Say("I added the " + std::string(Function.empty() ? "" : "local ") + "variable " + Bold(Variable->Id) + " to " + Where + ": " +
 			DescribeVariable(*Variable) + ".\n");
 		return true;

@@ -118,7 +118,7 @@ public:
 
 	void Run(FEditSession& Session) const override
 	{
-		const FMemberPlace Place = FindMemberPlace(*Session.Editor.Model(), Said.Member);
+		const FMemberPlace Place = FindMemberPlace(Session.Editor.Blueprint(), Said.Member);
 		if (Place.Name.empty())
 		{
 			Session.Say(Place.Problem);
@@ -259,16 +259,16 @@ private:
 			return;
 		}
 		Session.Say(Said.FlagKey.empty() ? "" : TellFlag(Session, Subject, Changed.Name));
-		Session.Say(Said.Text.empty() ? "" : "I moved " + Subject + " from the category " + Bold(OldCategory) + " to " + Bold(Said.Text) + ".\n");
+		const std::string Moved = "I moved " + Subject + " from the category " + Bold(OldCategory) + " to " + Bold(Said.Text) + ".\n";
+		Session.Say(Said.Text.empty() ? std::string() : Moved);
 		TellCompile(Session);
 	}
 
 	/** What the editor shows of the mark now: one that does not know it lets it pass without a word. */
 	std::string TellFlag(FEditSession& Session, const std::string& Subject, const std::string& Name) const
 	{
-		const FBlueprintModel* const Model = Session.Editor.Model();
-		const TMemberMatch<FBlueprintVariable> Match = Model ? FindVariable(Model->Variables, Name, "member") : TMemberMatch<FBlueprintVariable>();
-		const bool bSet = Match.Found && std::find(Match.Found->Flags.begin(), Match.Found->Flags.end(), Said.FlagKey) != Match.Found->Flags.end();
+		const FBlueprintVariable* const Variable = FindVariableAt(Session.Editor.Blueprint(), {}, "member", Name);
+		const bool bSet = Variable && std::find(Variable->Flags.begin(), Variable->Flags.end(), Said.FlagKey) != Variable->Flags.end();
 		const std::string Flag = Bold(SpacedName(Said.FlagKey));
 		return bSet != Said.bFlag ? "The editor did not take the mark " + Flag + " of " + Subject + ": set it in its details there.\n"
 								  : UpperFirst(Subject) + " is " + (bSet ? "now" : "no longer") + " marked " + Flag + ".\n";
@@ -310,7 +310,9 @@ std::optional<FSaidChange> ReadFlag(const FEditWords& Words)
 		if (Split)
 		{
 			const FEditWords* const Category = Clauses.Find(EClause::Category);
-			return FSaidChange{.Change = EChange::SetFlag, .Member = Split->Member, .Text = Category ? JoinWords(*Category) : std::string(), .FlagKey = Pattern.Key, .bFlag = Pattern.bValue};
+			FSaidChange Change{.Change = EChange::SetFlag, .Member = Split->Member, .FlagKey = Pattern.Key, .bFlag = Pattern.bValue};
+			Change.Text = Category ? JoinWords(*Category) : std::string();
+			return Change;
 		}
 	}
 	return std::nullopt;

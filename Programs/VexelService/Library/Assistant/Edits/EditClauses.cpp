@@ -46,7 +46,8 @@ constexpr FLeadingWords LeadingWords[] = {
 	{EClause::Default, "="},
 	{EClause::Category, "[and] [put|place] [it] in|into|under|to|within [a|the] category [called|named]"},
 	{EClause::Category, "[with] [the|its] category [called|named|of]"},
-	{EClause::Inputs, "[that|which] [with|and|has|having|takes|taking|needs|get|gets] [a|an|the|one|two|three|four] [new] input|inputs [called|named]"},
+	{EClause::Inputs,
+		"[that|which] [with|and|has|having|takes|taking|needs|get|gets] [a|an|the|one|two|three|four] [new] input|inputs [called|named]"},
 	{EClause::Inputs,
 		"[that|which] [with|and|has|having|takes|taking|needs|get|gets] [a|an|the|one|two|three|four] [new] [input] "
 		"parameter|parameters|argument|arguments [called|named]"},
@@ -162,15 +163,16 @@ bool IsNameWord(const FEditWord& Word)
 
 bool IsCapitalised(const FEditWord& Word)
 {
-	return std::isupper(static_cast<unsigned char>(Word.Text.front())) != 0 || std::isdigit(static_cast<unsigned char>(Word.Text.front())) != 0;
+	const unsigned char First = static_cast<unsigned char>(Word.Text.front());
+	return std::isupper(First) != 0 || std::isdigit(First) != 0;
 }
 
 // Words of the language that no one gives to a variable as a name without quotes.
 bool IsPlainWord(const FEditWord& Word)
 {
 	return IsWord(Word,
-		"a|an|the|to|in|of|for|from|with|and|or|that|which|it|is|as|on|at|by|new|variable|variables|function|event|called|named|this|says|node|nodes|"
-		"component|print|some|more");
+		"a|an|the|to|in|of|for|from|with|and|or|that|which|it|is|as|on|at|by|new|variable|variables|function|event|called|named|"
+		"this|says|node|nodes|component|print|some|more");
 }
 
 /** A type and names that stand side by side. */

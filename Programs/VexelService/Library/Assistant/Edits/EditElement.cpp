@@ -52,8 +52,8 @@ constexpr FElementPattern Patterns[] = {
 
 // Words of which a request speaks that is about something else than a list's elements.
 constexpr std::string_view OtherNouns =
-	"variable|variables|function|event|input|output|parameter|argument|pin|node|nodes|component|print|call|macro|dispatcher|category|branch|delay|link|wire|connection|"
-	"boolean|integer|float|string|vector|interface|comment|timeline|result|graph";
+	"variable|variables|function|event|input|output|parameter|argument|pin|node|nodes|component|print|call|macro|dispatcher|category|"
+	"branch|delay|link|wire|connection|boolean|integer|float|string|vector|interface|comment|timeline|result|graph";
 
 /** A list that can be edited: a variable, or a property of the class's defaults. */
 struct FList
@@ -92,12 +92,17 @@ FList FindList(const FBlueprintModel& Model, const FSaidMember& Said)
 	const FBlueprintVariable* const Variable = Place.Variable;
 	if (Variable && SplitTypeId(Variable->Type).Container.empty())
 	{
-		return {.Problem = "I understood that you want to change elements of " + Bold(Variable->Id) + ", but that is " + WithArticle(TypeInWords(Variable->Type)) +
-				" and has none. I changed nothing.\n"};
+		return {.Problem = "I understood that you want to change elements of " + Bold(Variable->Id) + ", but that is " +
+				WithArticle(TypeInWords(Variable->Type)) + " and has none. I changed nothing.\n"};
 	}
 	if (Variable)
 	{
-		return {.Target = Place.Target, .Scope = Variable->Scope, .Path = Variable->Id, .Name = Variable->Id, .Type = Variable->Type, .Elements = ValuesOf(Variable->Parts)};
+		return {.Target = Place.Target,
+			.Scope = Variable->Scope,
+			.Path = Variable->Id,
+			.Name = Variable->Id,
+			.Type = Variable->Type,
+			.Elements = ValuesOf(Variable->Parts)};
 	}
 	const std::string Property = GuessPropertyNames(Name).front().Name;
 	const FBlueprintProperty* const Known = Model.Defaults.FindPart(Property);
@@ -105,7 +110,10 @@ FList FindList(const FBlueprintModel& Model, const FSaidMember& Said)
 	{
 		return {.Problem = TellMissing(Model, "list", Name, Match.Nearest)};
 	}
-	return {.Path = "$ClassDefaultObject." + Property, .Name = Property, .Type = Known ? Known->Type : std::string(), .Elements = Known ? ValuesOf(Known->Parts) : std::vector<std::string>()};
+	return {.Path = "$ClassDefaultObject." + Property,
+		.Name = Property,
+		.Type = Known ? Known->Type : std::string(),
+		.Elements = Known ? ValuesOf(Known->Parts) : std::vector<std::string>()};
 }
 
 class FEditElement final : public IEdit
@@ -121,7 +129,7 @@ public:
 
 	void Run(FEditSession& Session) const override
 	{
-		const FList List = FindList(*Session.Editor.Model(), Member);
+		const FList List = FindList(Session.Editor.Blueprint(), Member);
 		if (!List.Problem.empty())
 		{
 			Session.Say(List.Problem);
@@ -168,24 +176,19 @@ private:
 	/** One element's value; nothing when it has told why the words are none. */
 	std::optional<FJson> ReadValue(FEditSession& Session, const FList& List) const
 	{
+		if (List.Type.empty())
+		{
+			return GuessWireValues(Value).front();
+		}
 		const FTypeParts Parts = SplitTypeId(List.Type);
-		if (Parts.Container == "map")
+		const bool bMap = Parts.Container == "map";
+		const FWireValue Wire = ResolveValue(Session, Value, bMap ? List.Type : Parts.Element);
+		if (!Wire.Json)
 		{
-			const FWireValue Entry = ResolveValue(Session, Value, List.Type);
-			Entry.Json ? void() : Session.Say("I did not change " + Bold(List.Name) + ": " + Entry.Problem + "\n");
-			return Entry.Json ? std::optional<FJson>(Entry.Json->begin().value()) : std::nullopt;
+			Session.Say("I did not change " + Bold(List.Name) + ": " + Wire.Problem + "\n");
+			return std::nullopt;
 		}
-		const FWireValue One = List.Type.empty() ? FWireValue{.Json = GuessWireValues(Value).front()} : ResolveValue(Session, Value, Parts.Element);
-		Entry(Session, List, One);
-		return One.Json;
-	}
-
-	static void Entry(FEditSession& Session, const FList& List, const FWireValue& One)
-	{
-		if (!One.Json)
-		{
-			Session.Say("I did not change " + Bold(List.Name) + ": " + One.Problem + "\n");
-		}
+		return bMap ? Wire.Json->begin().value() : *Wire.Json;
 	}
 
 	void Set(FEditSession& Session, const FList& List) const
@@ -199,7 +202,8 @@ private:
 		FJson Update = Operation(List, "update");
 		Update["value"] = FJson{{std::to_string(*Index), *Wire}};
 		Finish(Session, List, Update, "set that element of " + Bold(List.Name),
-			"I set the element " + std::to_string(*Index) + " of " + Bold(List.Name) + " from " + Shown(List, *Index) + " to " + JoinWords(Value));
+			"I set the element " + std::to_string(*Index) + " of " + Bold(List.Name) + " from " + Shown(List, *Index) + " to " +
+				JoinWords(Value));
 	}
 
 	void Add(FEditSession& Session, const FList& List) const
@@ -255,7 +259,7 @@ private:
 			TellRefusal(Session, What, Outcome.Errors);
 			return;
 		}
-		const FList Now = FindList(*Session.Editor.Model(), Member);
+		const FList Now = FindList(Session.Editor.Blueprint(), Member);
 		std::string Text = Told + ".";
 		if (Now.Problem.empty())
 		{

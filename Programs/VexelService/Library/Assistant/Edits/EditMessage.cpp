@@ -96,7 +96,9 @@ private:
 		const bool bOpens = Before == 0 && IsAt(Before, "in|inside|for|on|of");
 		const bool bEnds = IsMarkAt(Mention.End);
 		const bool bWithin = IsAt(Before, "in|inside|within");
-		const bool bOf = IsAt(Before, "of") && !(Before > 0 && IsAt(Before - 1, "instance|actor|copy|class|kind|type|array|list|set|map|reference|subclass|object|objects"));
+		const bool bOfThing = Before > 0 &&
+			IsAt(Before - 1, "instance|actor|copy|class|kind|type|array|list|set|map|reference|subclass|object|objects");
+		const bool bOf = IsAt(Before, "of") && !bOfThing;
 		const bool bToward = bEnds && IsAt(Before, "to|from|on|for|by") && IsBlueprintName(Mention.Name) && !FollowsCast(Before);
 		if (!bOpens && !bWithin && !bOf && !bToward)
 		{

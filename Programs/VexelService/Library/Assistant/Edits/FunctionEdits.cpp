@@ -30,13 +30,6 @@ std::string ParameterInWords(const FSaidParameter& Parameter)
 	return std::string(Parameter.bOutput ? "the output " : "the input ") + Bold(Parameter.Variable.Names.front());
 }
 
-const FBlueprintVariable* FindIn(const std::vector<FBlueprintVariable>& Variables, const std::string& Scope, const std::string& Name)
-{
-	const auto Found = std::find_if(Variables.begin(), Variables.end(), [&](const FBlueprintVariable& Variable)
-		{ return Variable.Scope == Scope && EqualIgnoringCase(Variable.Id, Name); });
-	return Found == Variables.end() ? nullptr : &*Found;
-}
-
 /** What has inputs and outputs: a function by its graph, or a custom event by its node. */
 class FParameterOwner
 {
@@ -53,10 +46,7 @@ public:
 
 	const FBlueprintVariable* Find(const FSaidParameter& Parameter, const std::string& ParameterName) const
 	{
-		const FBlueprintGraph* const Graph = Session.Editor.FindGraph(Target.Graph);
-		const FBlueprintNode* const Node = Graph && IsEvent() ? Graph->FindNode(Target.Node) : nullptr;
-		const bool bMissing = !Graph || (IsEvent() && !Node);
-		return bMissing ? nullptr : FindIn(Node ? Node->EditablePins : Graph->Variables, ScopeOf(Parameter), ParameterName);
+		return FindVariableAt(Session.Editor.Blueprint(), Target, ScopeOf(Parameter), ParameterName);
 	}
 
 	/** Adds one parameter with its default; of one that cannot be had whole nothing stays, and Problem says why. */
@@ -83,7 +73,8 @@ public:
 				Problem = "The editor says: " + Code(Added.Errors.empty() ? "" : Added.Errors.front());
 				continue;
 			}
-			const FEditOutcome Set = Default.Json ? Session.Editor.SetVariableDefault(ParameterName, *Default.Json, Scope, Target) : FEditOutcome{.bDone = true};
+			const FEditOutcome Set = Default.Json ? Session.Editor.SetVariableDefault(ParameterName, *Default.Json, Scope, Target)
+												  : FEditOutcome{.bDone = true};
 			if (Set.IsComplete())
 			{
 				return true;
@@ -131,8 +122,7 @@ public:
 			TellRefusal(Session, "add the function " + Bold(Name), Outcome.Errors);
 			return;
 		}
-		const FBlueprintModel* const Model = Session.Editor.Model();
-		const TMemberMatch<FBlueprintGraph> Match = Model ? FindFunction(*Model, Name) : TMemberMatch<FBlueprintGraph>();
+		const TMemberMatch<FBlueprintGraph> Match = FindFunction(Session.Editor.Blueprint(), Name);
 		const FParameterOwner Owner(Session, {.Graph = Match.Found ? Match.Found->Id : Name}, Name);
 		std::vector<std::string> Made;
 		for (const FSaidParameter& Parameter : Parameters)
@@ -148,7 +138,8 @@ public:
 				Made.push_back(Describe(Owner, Parameter, ParameterName));
 			}
 		}
-		Session.Say("I added the function " + Bold(Name) + " to " + Bold(Session.Editor.Model()->Name) + (Made.empty() ? "" : ", with " + JoinWithAnd(Made)) + ".\n");
+		Session.Say("I added the function " + Bold(Name) + " to " + Bold(Session.Editor.Blueprint().Name) +
+			(Made.empty() ? "" : ", with " + JoinWithAnd(Made)) + ".\n");
 		TellCompile(Session);
 	}
 
@@ -180,7 +171,7 @@ public:
 
 	void Run(FEditSession& Session) const override
 	{
-		const FBlueprintModel& Model = *Session.Editor.Model();
+		const FBlueprintModel& Model = Session.Editor.Blueprint();
 		const TMemberMatch<FBlueprintGraph> Function = FindFunction(Model, OwnerName);
 		const FEventNode Event = Function.Found ? FEventNode() : FindCustomEvent(Model, OwnerName);
 		if (!Function.Found && !Event.Node)
@@ -195,7 +186,7 @@ public:
 			return;
 		}
 		const std::string Name = Function.Found ? Function.Found->Title() : OwnerName;
-		const FEditTarget Target{.Graph = Function.Found ? Function.Found->Id : Event.Graph->Id, .Node = Event.Node ? Event.Node->Id : std::string()};
+		const FEditTarget Target = Event.Node ? FEditTarget{Event.Graph->Id, Event.Node->Id} : FEditTarget{Function.Found->Id};
 		const std::vector<std::string> Others = TellUsesBefore(Session, Name);
 		const FParameterOwner Owner(Session, Target, Name);
 		bool bChanged = false;
@@ -282,8 +273,8 @@ std::optional<FSaidParameters> ReadGiving(const FEditWords& Words)
 {
 	for (const bool bOutput : {true, false})
 	{
-		const char* const Pattern =
-			bOutput ? "let|make|have [function] {owner:1} return|returns|output {what}" : "let|make|have [function|event] {owner:1} take|takes|accept {what}";
+		const char* const Pattern = bOutput ? "let|make|have [function] {owner:1} return|returns|output {what}"
+											: "let|make|have [function|event] {owner:1} take|takes|accept {what}";
 		if (const std::optional<FCaptures> Captures = MatchWords(Pattern, Words))
 		{
 			return FSaidParameters{bOutput, CapturedText(*Captures, "owner"), Captures->find("what")->second};
@@ -356,7 +347,8 @@ std::optional<FEditRequest> ReadAddFunction(const FEditMessage& Message)
 	const FClauses Clauses = SplitClauses(FEditWordSpan(Read->Words).subspan(1), {EClause::Inputs, EClause::Outputs});
 	const FEditWords Head = Trimmed(Clauses.Head);
 	std::optional<FCaptures> Captures;
-	for (const char* const Pattern : {"[new] function|method called|named {name}", "[new] function|method {name}", "[new] {name} function|method", "[new] function|method"})
+	for (const char* const Pattern : {"[new] function|method called|named {name}", "[new] function|method {name}",
+			 "[new] {name} function|method", "[new] function|method"})
 	{
 		Captures = Captures ? Captures : MatchWords(Pattern, Head);
 	}

@@ -83,7 +83,7 @@ std::optional<FAssetRow> FindAsset(FEditSession& Session, const std::string& Nam
 // "AActor" and "FVector" as the editor calls them.
 std::string WithoutClassPrefix(const std::string& Name, std::string_view Prefixes)
 {
-	const bool bPrefixed = Name.size() > 2 && Prefixes.find(Name[0]) != std::string_view::npos && IsUpper(Name[1]) && std::islower(static_cast<unsigned char>(Name[2])) != 0;
+	const bool bPrefixed = Name.size() > 2 && Prefixes.find(Name[0]) != std::string_view::npos && IsUpper(Name[1]) && !IsUpper(Name[2]);
 	return bPrefixed ? Name.substr(1) : Name;
 }
 
@@ -110,7 +110,9 @@ std::vector<std::string> NativeCandidates(const std::string& Category, const std
 
 std::vector<std::string> ResolveTerminal(FEditSession& Session, const FSaidTerminal& Terminal)
 {
-	if (Terminal.Name.empty() || (Terminal.Category == "struct" && IsOneOf(TerminalTypeId(Terminal), "struct.Vector|struct.Vector2D|struct.Vector4|struct.Rotator|struct.Transform|struct.LinearColor|struct.Color")))
+	const bool bKnown =
+		Terminal.Category == "struct" && IsOneOf(Terminal.Name, "Vector|Vector2D|Vector4|Rotator|Transform|LinearColor|Color");
+	if (Terminal.Name.empty() || bKnown)
 	{
 		return {TerminalTypeId(Terminal)};
 	}
@@ -176,7 +178,8 @@ FWireValue ResolveEntry(FEditSession& Session, const FEditWords& Said, const FTy
 
 }
 
-TMemberMatch<FBlueprintVariable> FindVariable(const std::vector<FBlueprintVariable>& Variables, std::string_view Said, std::string_view Scope)
+TMemberMatch<FBlueprintVariable> FindVariable(
+	const std::vector<FBlueprintVariable>& Variables, std::string_view Said, std::string_view Scope)
 {
 	std::vector<const FBlueprintVariable*> InScope;
 	for (const FBlueprintVariable& Variable : Variables)
@@ -188,6 +191,21 @@ TMemberMatch<FBlueprintVariable> FindVariable(const std::vector<FBlueprintVariab
 	}
 	return Match(Said, InScope, [](const FBlueprintVariable& Variable)
 		{ return Variable.Id; });
+}
+
+const FBlueprintVariable* FindVariableAt(
+	const FBlueprintModel& Model, const FEditTarget& Target, std::string_view Scope, std::string_view Name)
+{
+	const FBlueprintGraph* const Graph = Target.Graph.empty() ? nullptr : Model.FindGraph(Target.Graph);
+	const FBlueprintNode* const Node = Graph && !Target.Node.empty() ? Graph->FindNode(Target.Node) : nullptr;
+	const bool bMissing = (!Target.Graph.empty() && !Graph) || (!Target.Node.empty() && !Node);
+	static const std::vector<FBlueprintVariable> None;
+	const std::vector<FBlueprintVariable>& Variables = bMissing ? None : Node ? Node->EditablePins
+		: Graph                                                               ? Graph->Variables
+																			  : Model.Variables;
+	const auto Found = std::find_if(Variables.begin(), Variables.end(), [&](const FBlueprintVariable& Variable)
+		{ return Variable.Scope == Scope && EqualIgnoringCase(Variable.Id, Name); });
+	return Found == Variables.end() ? nullptr : &*Found;
 }
 
 TMemberMatch<FBlueprintGraph> FindFunction(const FBlueprintModel& Model, std::string_view Said)
@@ -262,7 +280,8 @@ FMemberPlace FindParameter(const FBlueprintModel& Model, const FSaidMember& Said
 		return {.Problem = TellMissing(Model, "function or custom event", Owner, Function.Nearest)};
 	}
 	const std::string& Name = Said.Names.front();
-	FMemberPlace Place{.Target = {.Graph = Event.Node ? Event.Graph->Id : Function.Found->Id, .Node = Event.Node ? Event.Node->Id : std::string()}};
+	FMemberPlace Place;
+	Place.Target = Event.Node ? FEditTarget{Event.Graph->Id, Event.Node->Id} : FEditTarget{Function.Found->Id};
 	std::string Nearest;
 	// What goes into an event comes out of its node.
 	const std::vector<FScopeNoun> Scopes = Event.Node ? std::vector<FScopeNoun>{{"out", "input"}, {"in", "input"}} : ScopesOf(Said.Noun);
@@ -323,7 +342,8 @@ FMemberPlace FindMemberPlace(const FBlueprintModel& Model, const FSaidMember& Sa
 	const FEventNode Event = bAny || Said.Noun == EMemberNoun::Event ? FindCustomEvent(Model, Name) : FEventNode();
 	if (Event.Node)
 	{
-		return {.Target = {.Graph = Event.Graph->Id, .Node = Event.Node->Id}, .Name = Event.Node->Name.empty() ? Name : Event.Node->Name, .Noun = "event"};
+		const std::string& OwnName = Event.Node->Name;
+		return {.Target = {Event.Graph->Id, Event.Node->Id}, .Name = OwnName.empty() ? Name : OwnName, .Noun = "event"};
 	}
 	const char* const Noun = bAny ? "variable, function or custom event" : Said.Noun == EMemberNoun::Variable ? "variable"
 		: Said.Noun == EMemberNoun::Function                                                                  ? "function"
@@ -364,7 +384,8 @@ FWireValue ResolveValue(FEditSession& Session, const FEditWords& Said, const std
 	}
 	for (const FEditWords& Element : SplitListWords(Said))
 	{
-		const FWireValue Value = Parts.Container == "map" ? ResolveEntry(Session, Element, Parts) : ResolveTerminalValue(Session, Element, Parts.Element, Form);
+		const bool bMap = Parts.Container == "map";
+		const FWireValue Value = bMap ? ResolveEntry(Session, Element, Parts) : ResolveTerminalValue(Session, Element, Parts.Element, Form);
 		if (!Value.Json)
 		{
 			return Value;

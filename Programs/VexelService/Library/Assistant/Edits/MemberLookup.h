@@ -24,7 +24,12 @@ struct TMemberMatch
 };
 
 /** The variable of a scope that a user's words mean, with the "b" of Booleans or without. */
-TMemberMatch<FBlueprintVariable> FindVariable(const std::vector<FBlueprintVariable>& Variables, std::string_view Said, std::string_view Scope);
+TMemberMatch<FBlueprintVariable> FindVariable(
+	const std::vector<FBlueprintVariable>& Variables, std::string_view Said, std::string_view Scope);
+
+/** The variable of exactly that name, but for case, that a target has in a scope; null when there is none. */
+const FBlueprintVariable* FindVariableAt(
+	const FBlueprintModel& Model, const FEditTarget& Target, std::string_view Scope, std::string_view Name);
 
 /** The function, with its graph; the construction script is none. */
 TMemberMatch<FBlueprintGraph> FindFunction(const FBlueprintModel& Model, std::string_view Said);

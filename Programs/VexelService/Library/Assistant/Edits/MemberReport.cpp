@@ -158,9 +158,9 @@ void TellRefusal(FEditSession& Session, const std::string& What, const std::vect
 
 std::vector<std::string> TellUsesBefore(FEditSession& Session, const std::string& Name)
 {
-	const FBlueprintModel* const Model = Session.Editor.Model();
-	const std::vector<std::string> Uses = Model ? FindMemberUses(*Model, Name) : std::vector<std::string>();
-	std::string Text = Uses.empty() ? std::string() : TellUses(*Model, Name, Uses) + "\n";
+	const FBlueprintModel& Model = Session.Editor.Blueprint();
+	const std::vector<std::string> Uses = FindMemberUses(Model, Name);
+	std::string Text = Uses.empty() ? std::string() : TellUses(Model, Name, Uses) + "\n";
 	std::vector<std::string> Others;
 	for (const FBlueprintModel* const User : FindOtherUsers(Session, Name))
 	{

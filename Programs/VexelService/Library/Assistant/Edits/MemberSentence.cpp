@@ -5,7 +5,6 @@
 #include "Assistant/Words.h"
 
 #include <algorithm>
-#include <cctype>
 #include <iterator>
 
 namespace VexelService
@@ -19,7 +18,8 @@ constexpr std::size_t MaxNames = 6;
 constexpr std::string_view Moments = "when|whenever|if|once|every|each|while|until|upon|unless";
 constexpr std::string_view Places = "to|in|on|of|from|for|inside|within|into";
 // Behind these a name is a type and not the Blueprint to edit.
-constexpr std::string_view TypeLeads = "class|type|reference|references|ref|refs|pointer|pointers|array|list|set|map|object|objects|instance|subclass|interface";
+constexpr std::string_view TypeLeads =
+	"class|type|reference|references|ref|refs|pointer|pointers|array|list|set|map|object|objects|instance|subclass|interface";
 constexpr std::string_view Having = "needs|has|gets|wants|have|get|gains";
 constexpr std::string_view Ordinals[] = {"first", "second", "third", "fourth", "fifth", "sixth", "seventh", "eighth", "ninth", "tenth"};
 constexpr std::string_view ElementNouns = "element|elements|item|entry|value|point|slot";
@@ -59,7 +59,8 @@ bool IsBackReferenceAt(const FEditWords& Words, std::size_t At)
 
 void Erase(FEditWords& Words, std::size_t Begin, std::size_t End)
 {
-	Words.erase(Words.begin() + static_cast<std::ptrdiff_t>(Begin), Words.begin() + static_cast<std::ptrdiff_t>(std::min(End, Words.size())));
+	const auto First = Words.begin();
+	Words.erase(First + static_cast<std::ptrdiff_t>(Begin), First + static_cast<std::ptrdiff_t>(std::min(End, Words.size())));
 }
 
 // "To BP_Door" within a message, and "to it" at its end.
@@ -73,8 +74,8 @@ void TakePlace(FEditMessage& Message)
 		{
 			++Name;
 		}
-		const bool bType = IsWord(Words[At - 1], TypeLeads) || (At > 2 && IsWord(Words[At - 2], "from|of") && IsWord(Words[At - 3], "map|dictionary"));
-		if (!IsWord(Words[At], Places) || bType)
+		const bool bMapValue = At > 2 && IsWord(Words[At - 2], "from|of") && IsWord(Words[At - 3], "map|dictionary");
+		if (!IsWord(Words[At], Places) || IsWord(Words[At - 1], TypeLeads) || bMapValue)
 		{
 			continue;
 		}
@@ -210,9 +211,9 @@ private:
 			Member.Element.Index = static_cast<int>(Ordinal - std::begin(Ordinals));
 			return true;
 		}
-		const std::string& Text = Words[0].Text;
-		const bool bCounted = Text.size() > 2 && std::isdigit(static_cast<unsigned char>(Text[0])) != 0 && IsOneOf(std::string_view(Text).substr(Text.size() - 2), "st|nd|rd|th");
-		const std::optional<int> Place = bCounted ? ReadCount(std::string_view(Text).substr(0, Text.size() - 2)) : std::nullopt;
+		const std::string_view Text = Words[0].Text;
+		const bool bCounted = Text.size() > 2 && IsOneOf(Text.substr(Text.size() - 2), "st|nd|rd|th");
+		const std::optional<int> Place = bCounted ? ReadCount(Text.substr(0, Text.size() - 2)) : std::nullopt;
 		if (Place && *Place > 0)
 		{
 			Member.Element.Index = *Place - 1;

@@ -81,11 +81,11 @@ public:
 
 	void Run(FEditSession& Session) const override
 	{
-		const FBlueprintModel& Model = *Session.Editor.Model();
+		const FBlueprintModel& Model = Session.Editor.Blueprint();
 		const bool bOwned = Member.Names.size() > 1;
 		const bool bOfFunction = !Member.Owner.empty() || (bOwned && FindFunction(Model, Member.Names[1]).Found) ||
 			Member.Noun == EMemberNoun::Input || Member.Noun == EMemberNoun::Output || Member.Noun == EMemberNoun::LocalVariable;
-		const TMemberMatch<FBlueprintVariable> Variable = FindVariable(Model.Variables, bOwned ? Member.Names.back() : Member.Names.front(), "member");
+		const TMemberMatch<FBlueprintVariable> Variable = FindVariable(Model.Variables, Member.Names.back(), "member");
 		if (bOfFunction)
 		{
 			const FMemberPlace Place = FindMemberPlace(Model, Member);
@@ -141,21 +141,10 @@ private:
 			TellRefusal(Session, "set " + Bold(Name), Outcome.Errors);
 			return;
 		}
-		const FBlueprintVariable* const Now = FindAgain(Session, Target, Scope, Name);
-		Session.Say("I set the default of " + Bold(Name) + " from " + OldValue + " to " + (Now ? ShownValue(Now->Value, Type) : JoinWords(Value)) + ".\n");
+		const FBlueprintVariable* const Now = FindVariableAt(Session.Editor.Blueprint(), Target, Scope, Name);
+		const std::string NewValue = Now ? ShownValue(Now->Value, Type) : JoinWords(Value);
+		Session.Say("I set the default of " + Bold(Name) + " from " + OldValue + " to " + NewValue + ".\n");
 		TellCompile(Session);
-	}
-
-	static const FBlueprintVariable* FindAgain(FEditSession& Session, const FEditTarget& Target, const std::string& Scope, const std::string& Name)
-	{
-		const FBlueprintModel* const Model = Session.Editor.Model();
-		const FBlueprintGraph* const Graph = Model && !Target.Graph.empty() ? Model->FindGraph(Target.Graph) : nullptr;
-		const FBlueprintNode* const Node = Graph && !Target.Node.empty() ? Graph->FindNode(Target.Node) : nullptr;
-		const bool bMissing = !Model || (!Target.Graph.empty() && !Graph) || (!Target.Node.empty() && !Node);
-		return bMissing ? nullptr : FindVariable(Node ? Node->EditablePins : Graph ? Graph->Variables
-																				   : Model->Variables,
-										Name, Scope)
-										.Found;
 	}
 
 	/** "Set Gold in Prices to 5", where Prices is a map. */
@@ -179,14 +168,16 @@ private:
 		const bool bNew = There == Map.Parts.end();
 		const FJson Index = There - Map.Parts.begin();
 		const FEditOutcome Outcome = bNew
-			? Session.Editor.EditObjects({}, {{{"operation", "insert"}, {"scope", "member"}, {"prop_path", Name}, {"index", Index}, {"value", NewEntry}}})
+			? Session.Editor.EditObjects({},
+				  {{{"operation", "insert"}, {"scope", "member"}, {"prop_path", Name}, {"index", Index}, {"value", NewEntry}}})
 			: Session.Editor.SetVariableDefault(Name, FJson{{std::to_string(Index.get<std::size_t>()), NewEntry}});
 		if (!Outcome.IsComplete())
 		{
 			TellRefusal(Session, "set " + Bold(Key) + " of " + Bold(Name), Outcome.Errors);
 			return;
 		}
-		Session.Say("I " + std::string(bNew ? "added " : "set ") + Bold(Key) + (bNew ? " to " : " of ") + Bold(Name) + (bNew ? ", with " : " to ") + JoinWords(Value) + ".\n");
+		Session.Say((bNew ? "I added " + Bold(Key) + " to " + Bold(Name) + ", with " : "I set " + Bold(Key) + " of " + Bold(Name) + " to ") +
+			JoinWords(Value) + ".\n");
 		TellCompile(Session);
 	}
 
@@ -200,7 +191,9 @@ private:
 			std::vector<std::string> Longer;
 			for (const std::string& Prefix : Prefixes)
 			{
-				for (const std::string& Name : bVariable ? std::vector<std::string>{VariableName} : GuessComponentNames(Member.Names[Index - 1]))
+				const std::vector<std::string> Names =
+					bVariable ? std::vector<std::string>{VariableName} : GuessComponentNames(Member.Names[Index - 1]);
+				for (const std::string& Name : Names)
 				{
 					Longer.push_back(Prefix + "." + Name);
 				}
@@ -220,7 +213,7 @@ private:
 
 	std::vector<FJson> GuessValues(FEditSession& Session, const FPropertyName& Path, std::string& Problem) const
 	{
-		const FBlueprintProperty* const Known = FindDefault(*Session.Editor.Model(), Path.Name);
+		const FBlueprintProperty* const Known = FindDefault(Session.Editor.Blueprint(), Path.Name);
 		const std::string& Type = Known && !Known->Type.empty() ? Known->Type : Path.Type;
 		if (Type.empty())
 		{
@@ -245,7 +238,7 @@ private:
 				{
 					break;
 				}
-				const FBlueprintProperty* const Before = FindDefault(*Session.Editor.Model(), Path.Name);
+				const FBlueprintProperty* const Before = FindDefault(Session.Editor.Blueprint(), Path.Name);
 				const std::string OldValue = Before ? ShownValue(Before->Value, Before->Type) : std::string();
 				const FEditOutcome Outcome = Session.Editor.SetProperty(Path.Name, Wire);
 				if (Outcome.IsComplete())
@@ -253,7 +246,8 @@ private:
 					TellSet(Session, Path.Name, OldValue);
 					return;
 				}
-				const bool bNoSuchName = !Outcome.Errors.empty() && Outcome.Errors.front().find("not found in compound") != std::string::npos;
+				const std::string Error = Outcome.Errors.empty() ? std::string() : Outcome.Errors.front();
+				const bool bNoSuchName = Error.find("not found in compound") != std::string::npos;
 				// What the editor says of a property that is there tells more than that another is not.
 				Errors = Errors.empty() || !bNoSuchName ? Outcome.Errors : Errors;
 				if (bNoSuchName)
@@ -268,17 +262,16 @@ private:
 			Session.Say("I did not set " + Quoted(Said) + ": " + Problem + "\n");
 			return;
 		}
-		TellRefusal(Session, "set " + Quoted(Said) + " of " + Bold(Session.Editor.Model()->Name), Errors);
+		TellRefusal(Session, "set " + Quoted(Said) + " of " + Bold(Session.Editor.Blueprint().Name), Errors);
 		Session.Say(Hint);
 	}
 
 	void TellSet(FEditSession& Session, const std::string& Path, const std::string& OldValue) const
 	{
-		const FBlueprintModel* const Model = Session.Editor.Model();
-		const FBlueprintProperty* const Now = Model ? FindDefault(*Model, Path) : nullptr;
+		const FBlueprintProperty* const Now = FindDefault(Session.Editor.Blueprint(), Path);
 		const std::string NewValue = Now ? ShownValue(Now->Value, Now->Type) : JoinWords(Value) + ", which is what its parent class has";
-		Session.Say("I set the default of " + Bold(Path.substr(std::string_view(DefaultObject).size() + 1)) + (OldValue.empty() ? "" : " from " + OldValue) + " to " +
-			NewValue + ".\n");
+		const std::string Property = Path.substr(std::string_view(DefaultObject).size() + 1);
+		Session.Say("I set the default of " + Bold(Property) + (OldValue.empty() ? "" : " from " + OldValue) + " to " + NewValue + ".\n");
 		TellCompile(Session);
 	}
 
@@ -317,7 +310,7 @@ void ReadAdjective(FSplitRequest& Split)
 // A word that can be nothing but a value, so that "make X Y" sets X.
 bool IsPlainValue(const FEditWords& Words)
 {
-	return Words.size() == 1 && (Words.front().bQuoted || ReadBoolean(Words) || ReadCount(Words.front().Text) || GuessWireValues(Words).size() > 1);
+	return Words.size() == 1 && (Words.front().bQuoted || ReadBoolean(Words) || GuessWireValues(Words).size() > 1);
 }
 
 }

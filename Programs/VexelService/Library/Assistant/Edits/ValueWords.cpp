@@ -1,5 +1,6 @@
 #include "Assistant/Edits/ValueWords.h"
 
+#include "Assistant/AssetFinder.h"
 #include "Assistant/QuestionWords.h"
 #include "Assistant/Words.h"
 
@@ -23,7 +24,8 @@ constexpr std::size_t MaxElements = 200;
 constexpr std::string_view TrueWords = "true|yes|on|enabled|active|checked|visible|shown";
 constexpr std::string_view FalseWords = "false|no|off|disabled|inactive|unchecked|invisible|hidden";
 // Units in which the editor has its numbers anyway.
-constexpr std::string_view Units = "degree|degrees|deg|second|seconds|sec|secs|s|unit|units|cm|centimeter|centimeters|lumen|lumens|candela|candelas|kg";
+constexpr std::string_view Units =
+	"degree|degrees|deg|second|seconds|sec|secs|s|unit|units|cm|centimeter|centimeters|lumen|lumens|candela|candelas|kg";
 constexpr std::string_view NumberWords[] = {
 	"zero", "one", "two", "three", "four", "five", "six", "seven", "eight", "nine", "ten", "eleven", "twelve"};
 
@@ -86,8 +88,9 @@ std::optional<std::string> ReadNumber(std::string_view Text)
 	// "5,000" has its thousands apart.
 	for (std::size_t Comma = Figures.find(','); Comma != std::string::npos; Comma = Figures.find(',', Comma))
 	{
-		const bool bThousands = Comma > 0 && Figures.size() - Comma >= 4 && (Figures.size() == Comma + 4 || Figures[Comma + 4] == ',' || Figures[Comma + 4] == '.');
-		if (!bThousands)
+		const std::size_t Behind = Comma + 4;
+		const bool bEnds = Behind == Figures.size() || (Behind < Figures.size() && (Figures[Behind] == ',' || Figures[Behind] == '.'));
+		if (Comma == 0 || !bEnds)
 		{
 			return std::nullopt;
 		}
@@ -221,7 +224,9 @@ FWireValue MakeStructValue(const FEditWords& Said, const FNumberStruct& Struct, 
 	if (!bAll && !bSome)
 	{
 		std::vector<std::string> Names(Struct.Fields.begin(), Struct.Fields.begin() + static_cast<std::ptrdiff_t>(Struct.NumFields));
-		return {.Json = {}, .Problem = "\"" + Shortened(Text, 100) + "\" is no " + TypeInWords(Struct.Type) + ": I need the numbers " + JoinWithAnd(Names) + (IsColor(Struct) ? ", or a color's name" : "") + "."};
+		return {.Json = {},
+			.Problem = Quoted(Text) + " is no " + TypeInWords(Struct.Type) + ": I need the numbers " + JoinWithAnd(Names) +
+				(IsColor(Struct) ? ", or a color's name." : ".")};
 	}
 	if (!bAll)
 	{
@@ -251,7 +256,9 @@ FWireValue MakeNumberValue(const FEditWords& Said, std::string_view Type, bool b
 	{
 		return {.Json = *Number};
 	}
-	return {.Json = {}, .Problem = "\"" + Shortened(JoinWords(Said), 100) + "\" is no " + (bWhole ? "whole number" : "number") + ", which " + WithArticle(TypeInWords(Type)) + " needs."};
+	return {.Json = {},
+		.Problem = Quoted(JoinWords(Said)) + " is no " + (bWhole ? "whole number" : "number") + ", which " + WithArticle(TypeInWords(Type)) +
+			" needs."};
 }
 
 }
@@ -309,7 +316,7 @@ FWireValue MakeWireValue(const FEditWords& Said, std::string_view TypeId, EValue
 	{
 		const std::optional<bool> Boolean = ReadBoolean(Said);
 		return Boolean ? FWireValue{.Json = *Boolean ? "True" : "False"}
-					   : FWireValue{.Json = {}, .Problem = "\"" + Shortened(Text, 100) + "\" is neither true nor false."};
+					   : FWireValue{.Json = {}, .Problem = Quoted(Text) + " is neither true nor false."};
 	}
 	if (IsOneOf(TypeId, "byte|int|int8|int16|int32|int64|uint16|uint32|uint64"))
 	{
@@ -340,7 +347,8 @@ std::vector<FJson> GuessWireValues(const FEditWords& Said)
 	const bool bOneQuoted = Said.size() == 1 && Said.front().bQuoted;
 	if (!bOneQuoted)
 	{
-		for (const char* const Type : {"real", "bool", "struct.Vector", "struct.Rotator", "struct.LinearColor", "struct.Color", "struct.Vector2D"})
+		for (const char* const Type :
+			{"real", "bool", "struct.Vector", "struct.Rotator", "struct.LinearColor", "struct.Color", "struct.Vector2D"})
 		{
 			Add(MakeWireValue(Said, Type));
 		}
@@ -368,7 +376,7 @@ std::vector<FEditWords> SplitListWords(const FEditWords& Said)
 		}
 		// Numbers in a row come as one word.
 		std::string_view Rest = Word.Text;
-		for (std::size_t Comma = Word.bQuoted ? std::string_view::npos : Rest.find(','); Comma != std::string_view::npos; Comma = Rest.find(','))
+		for (std::size_t Comma = Rest.find(','); !Word.bQuoted && Comma != std::string_view::npos; Comma = Rest.find(','))
 		{
 			Elements.back().push_back({.Text = std::string(Rest.substr(0, Comma))});
 			Begin();
