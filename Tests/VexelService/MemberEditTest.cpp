@@ -40,6 +40,7 @@ FJson MakeRichEnemy()
 	OnHit["properties"] = {{{"id", "name"}, {"value", "OnHit"}}};
 	OnHit["editable_pins"] = {MakeVariable("Damage", "real", "", "out")};
 	Enemy["graphs"][0]["nodes"].push_back(OnHit);
+	Enemy["graphs"][0]["nodes"].push_back(MakeNode("GetBody_0", "var.get.Body", {DataOut("Body", "object.SkeletalMeshComponent")}));
 	for (const FJson& Variable : {MakeVariable("bDead", "bool", "False"), MakeVariable("PatrolIndex", "int", "2"), MakeVariable("State", "enum.EDoorState", "Open"),
 			 MakeVariable("Home", "struct.Vector", "(X=0,Y=0,Z=0)"), MakeVariable("Target", "object.Actor", "ref|None"), MakeVariable("Greeting", "string", "Hi"),
 			 MakeList("Loot", "array|name", {"Coin", "Key"}), MakeList("Waypoints", "array|struct.Vector", {"(X=0,Y=0,Z=0)", "(X=1,Y=1,Z=1)", "(X=2,Y=2,Z=2)"}),
@@ -203,6 +204,8 @@ TEST_F(MemberEdit, OtherMessagesAreNotTakenForEdits)
 {
 	for (const char* const Message : {"Add a light to BP_Enemy", "What happens if I add a float variable Armor to BP_Enemy?", "How do I rename Health in BP_Enemy?",
 			 "Which variables does BP_Enemy have?", "Where is Health set in BP_Enemy?", "Add a comment to BP_Enemy", "When play begins, set Health to 5 in BP_Enemy",
+			 "set Health to 5 on BeginPlay in BP_Enemy", "set Health to 5 after 3 seconds in BP_Enemy", "add 5 to Health in BP_Enemy",
+			 "Add a function Greet that prints Health to BP_Enemy", "remove the node Delay from BP_Enemy",
 			 "Does BP_Enemy need a float?", "Paint the sky green", "BP_Enemy is broken"})
 	{
 		EXPECT_THAT(Operations(Message), IsEmpty()) << Message << "\n"
@@ -340,6 +343,7 @@ TEST_F(MemberEdit, DefaultsOfVariablesAreSet)
 		{"set the patrol index to three in BP_Enemy", "update member PatrolIndex \"3\""},
 		{"set dead to yes in BP_Enemy", "update member bDead \"True\""},
 		{"make bDead false in BP_Enemy", "update member bDead \"False\""},
+		{"make PatrolIndex 7 in BP_Enemy", "update member PatrolIndex \"7\""},
 		{"set Greeting to \"Good morning, all\" in BP_Enemy", "update member Greeting \"Good morning, all\""},
 		{"set Home to (10, 20, 30) in BP_Enemy", "update member Home \"(X=10,Y=20,Z=30)\""},
 		{"set Home to X=1 Y=2 Z=3 in BP_Enemy", "update member Home \"(X=1,Y=2,Z=3)\""},
@@ -362,7 +366,7 @@ TEST_F(MemberEdit, DefaultsOfVariablesAreSet)
 TEST_F(MemberEdit, ValuesThatDoNotFitAreRefused)
 {
 	EXPECT_THAT(Operations("set PatrolIndex of BP_Enemy to 1.5"), IsEmpty());
-	EXPECT_THAT(Answer, HasSubstr("\"1.5\" is no whole number, which an integer needs"));
+	EXPECT_THAT(Answer, HasSubstr("**PatrolIndex**, which is an integer: \"1.5\" is no whole number"));
 	EXPECT_THAT(Operations("set Home of BP_Enemy to far away"), IsEmpty());
 	EXPECT_THAT(Operations("set Target of BP_Enemy to Submarine"), IsEmpty());
 	EXPECT_THAT(Answer, HasSubstr("no asset called \"Submarine\""));
@@ -384,6 +388,8 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 		{"make the mesh invisible in BP_Enemy", "update  $ClassDefaultObject.Mesh.bVisible \"False\""},
 		{"set the location of the mesh to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
 		{"set the mesh's location to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
+		{"make the skeletal mesh invisible in BP_Enemy", "update  $ClassDefaultObject.Body.bVisible \"False\""},
+		{"make BP_Enemy hidden", "update  $ClassDefaultObject.bHidden \"True\""},
 		{"set hidden of BP_Enemy to true", "update  $ClassDefaultObject.bHidden \"True\""},
 	};
 	for (const auto& Case : Cases)
@@ -396,7 +402,7 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 		EXPECT_THAT(Answer, HasSubstr("I set the default of")) << Case.Message;
 	}
 	Operations("set the intensity of the PointLight to 5000 in BP_Enemy");
-	EXPECT_THAT(Answer, AllOf(HasSubstr("left everything as it was"), HasSubstr("a component that the Blueprint itself adds")));
+	EXPECT_THAT(Answer, AllOf(HasSubstr("left everything as it was"), HasSubstr("no such object in the class's defaults")));
 	Operations("set the wing span of BP_Enemy to 3");
 	EXPECT_THAT(Answer, AllOf(HasSubstr("could not set \"wing span\""), HasSubstr("There is no property of that name.")));
 }
@@ -429,7 +435,7 @@ TEST_F(MemberEdit, ElementsAreSetAddedAndRemoved)
 	}
 	EXPECT_THAT(Operations("set the tenth element of Loot to Gem in BP_Enemy"), IsEmpty());
 	EXPECT_THAT(Answer, HasSubstr("There is no such element: **Loot** has 3 elements"));
-	EXPECT_THAT(Operations("add 5 to Health in BP_Enemy"), IsEmpty());
+	EXPECT_THAT(Operations("add Gold to Health in BP_Enemy"), IsEmpty());
 	EXPECT_THAT(Answer, HasSubstr("that is a number and has none"));
 	EXPECT_THAT(Operations("set Loot to Gold and Silver in BP_Enemy"),
 		ElementsAre("update member Loot {\"0\":\"Gold\",\"1\":\"Silver\"}", "remove member Loot [2]"));

@@ -91,7 +91,8 @@ private:
 			}
 			if (!Added.IsComplete())
 			{
-				Errors = Added.Errors;
+				// Of several guesses at a type the first is the likeliest.
+				Errors = Errors.empty() ? Added.Errors : Errors;
 				continue;
 			}
 			return !Default.Json || SetDefault(Session, Target, Name, *Default.Json) ? TellAdded(Session, Target, Name) : false;

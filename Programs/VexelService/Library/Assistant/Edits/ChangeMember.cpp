@@ -202,8 +202,10 @@ private:
 		for (const std::string& Type : Types)
 		{
 			Changed.Type = Type;
-			Outcome = Session.IsOver() || Outcome.IsComplete() ? Outcome : Session.Editor.EditVariable(Changed.Name, Changed, Target);
-			if (Outcome.IsComplete())
+			const FEditOutcome Tried = Session.IsOver() ? FEditOutcome() : Session.Editor.EditVariable(Changed.Name, Changed, Target);
+			// Of several guesses at a type the first is the likeliest, so that its error tells most.
+			Outcome = Tried.IsComplete() || Outcome.Errors.empty() ? Tried : Outcome;
+			if (Tried.IsComplete())
 			{
 				break;
 			}

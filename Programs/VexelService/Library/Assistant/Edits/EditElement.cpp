@@ -74,7 +74,9 @@ std::vector<std::string> ValuesOf(const std::vector<FBlueprintProperty>& Parts)
 	std::vector<std::string> Values;
 	for (const FBlueprintProperty& Part : Parts)
 	{
-		Values.push_back(Part.Value);
+		const FBlueprintProperty* const Key = Part.FindPart("key");
+		const FBlueprintProperty* const Value = Part.FindPart("value");
+		Values.push_back(Key && Value ? Key->Value + " = " + Value->Value : Part.Value);
 	}
 	return Values;
 }
@@ -248,7 +250,8 @@ private:
 
 	static std::string Shown(const FList& List, std::size_t Index)
 	{
-		return ShownValue(List.Elements[Index], SplitTypeId(List.Type).Element);
+		const FTypeParts Type = SplitTypeId(List.Type);
+		return ShownValue(List.Elements[Index], Type.Container == "map" ? std::string() : Type.Element);
 	}
 
 	void Finish(FEditSession& Session, const FList& List, const FJson& Done, const std::string& What, const std::string& Told) const
@@ -297,7 +300,8 @@ bool IsOfList(const FElementPattern& Pattern, const FSplitRequest& Split, const 
 	{
 		return true;
 	}
-	const bool bOther = HasWord(Words, OtherNouns);
+	// "Add 5 to Score" is a step, unless it says that Score is a list.
+	const bool bOther = HasWord(Words, OtherNouns) || MakeWireValue(Split.Rest, "real").Json.has_value();
 	return !bOther && (Split.Rest.size() == 1 || HasWord(Split.Rest, "="));
 }
 

@@ -359,6 +359,11 @@ std::optional<FEditRequest> ReadAddFunction(const FEditMessage& Message)
 	FEditRequest Request{.Blueprint = Read->Blueprint};
 	const auto Said = Captures->find("name");
 	const std::optional<std::string> Name = Said == Captures->end() ? std::nullopt : ReadNewName(Said->second);
+	if (!Name && Said != Captures->end())
+	{
+		// "A function that prints Health" tells what it does.
+		return std::nullopt;
+	}
 	if (!Name)
 	{
 		Request.Question = "I understood that you want to add a function, but not its name: one word, or in quotes.\n";

@@ -37,9 +37,8 @@ constexpr FExplanation Explanations[] = {
 	{"Failed to add variable", "It does not take the name or the type."},
 	{"Failed to import text", "The value does not fit the type."},
 	{"reference string", "The value is no reference to an object."},
-	{"does not contain a valid compound", "The object is not part of the class's defaults: a component that the Blueprint itself adds cannot be "
-										  "reached this way, only those of its parent class."},
-	{"is not a compound", "That has no properties or elements of its own."},
+	{"does not contain a valid compound", "There is no such object in the class's defaults."},
+	{"is not a compound", "There is no such object in the class's defaults, or it has no properties of its own."},
 	{"out of range", "There is no such place in the list."},
 	{"is not editable", "The editor does not let it be changed."},
 	{"not found in compound", "There is no property of that name."},
@@ -68,7 +67,9 @@ std::string CompileInWords(FProjectEditor& Editor, const std::string& Subject)
 	std::string Text = Subject + (Outcome.bSuccess ? " compiles, with warnings:\n\n" : " does not compile now:\n\n");
 	for (std::size_t Index = 0; Index < std::min(Shown.size(), MaxShownMessages); ++Index)
 	{
-		Text += "- " + Shown[Index]->Severity + ": " + Shown[Index]->Text + "\n";
+		std::string Message = Shown[Index]->Text;
+		std::replace(Message.begin(), Message.end(), '\n', ' ');
+		Text += "- " + Shown[Index]->Severity + ": " + Message + "\n";
 	}
 	return Shown.size() > MaxShownMessages ? Text + "- and " + CountOf(Shown.size() - MaxShownMessages, "other") + "\n" : Text;
 }
@@ -173,13 +174,18 @@ std::vector<std::string> TellUsesBefore(FEditSession& Session, const std::string
 
 std::string ShownValue(const std::string& Value, const std::string& TypeId)
 {
+	if (Value == "()")
+	{
+		return "empty";
+	}
 	const std::string Words = LiteralInWords(Value, TypeId);
 	return Shortened(Words.empty() ? (Value.empty() ? "empty" : Value) : Words, MaxShownValue);
 }
 
 std::string DescribeVariable(const FBlueprintVariable& Variable)
 {
-	std::string Text = TypeInWords(Variable.Type) + ", default " + ShownValue(Variable.Value, Variable.Type);
+	const bool bHasValue = Variable.Type != "mcdelegate";
+	const std::string Text = TypeInWords(Variable.Type) + (bHasValue ? ", default " + ShownValue(Variable.Value, Variable.Type) : "");
 	return Variable.Category.empty() || Variable.Category == "Default" ? Text : Text + ", category " + Variable.Category;
 }
 

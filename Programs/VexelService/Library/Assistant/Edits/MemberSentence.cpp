@@ -15,7 +15,7 @@ namespace
 
 constexpr std::size_t MaxNames = 6;
 
-constexpr std::string_view Moments = "when|whenever|if|once|every|each|while|until|upon|unless";
+constexpr std::string_view Moments = "when|whenever|if|once|every|each|while|until|upon|unless|after|before|soon";
 constexpr std::string_view Places = "to|in|on|of|from|for|inside|within|into";
 // Behind these a name is a type and not the Blueprint to edit.
 constexpr std::string_view TypeLeads =
@@ -97,6 +97,12 @@ void TakePlace(FEditMessage& Message)
 void TakeSubject(FEditMessage& Message)
 {
 	FEditWords& Words = Message.Words;
+	const bool bMake = Words.size() > 2 && IsWord(Words[0], "make|let") && IsAssetWord(Words[1]);
+	if (bMake)
+	{
+		Message.Blueprint = std::exchange(Words[1].Text, "it");
+		return;
+	}
 	const bool bGive = Words.size() > 2 && IsWord(Words[0], "give") && (IsAssetWord(Words[1]) || IsWord(Words[1], "it|this"));
 	if (bGive)
 	{
@@ -117,6 +123,20 @@ void TakeSubject(FEditMessage& Message)
 		Words[Verb].Text = "add";
 		Erase(Words, 0, Verb);
 	}
+}
+
+// Whether something is to happen at a time: "when play begins", "on overlap". Where a list's end is, is none.
+bool TellsMoment(const FEditWords& Words)
+{
+	for (std::size_t At = 0; At < Words.size(); ++At)
+	{
+		const bool bOn = IsWord(Words[At], "on") && !(At + 1 < Words.size() && IsWord(Words[At + 1], "spawn|the|instance|instances"));
+		if (bOn || IsWord(Words[At], Moments))
+		{
+			return true;
+		}
+	}
+	return false;
 }
 
 /** Reads the names of a member from the words for it. */
@@ -274,15 +294,9 @@ private:
 std::optional<FEditMessage> ReadMemberMessage(const FEditMessage& Message)
 {
 	FEditMessage Read{.Words = WithoutPoliteness(Message.Words), .Blueprint = Message.Blueprint, .Subject = Message.Subject};
-	const bool bMoment = std::any_of(Read.Words.begin(), Read.Words.end(), [](const FEditWord& Word)
-		{ return IsWord(Word, Moments); });
-	if (bMoment || Read.Words.empty())
-	{
-		return std::nullopt;
-	}
 	TakeSubject(Read);
 	TakePlace(Read);
-	return Read;
+	return Read.Words.empty() || TellsMoment(Read.Words) ? std::nullopt : std::optional<FEditMessage>(Read);
 }
 
 std::optional<FSaidMember> ReadSaidMember(FEditWordSpan Words)

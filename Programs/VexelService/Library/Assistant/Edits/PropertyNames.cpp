@@ -1,10 +1,13 @@
 #include "PropertyNames.h"
 
+#include "Assistant/NameMatch.h"
+#include "Assistant/NodeTitles.h"
 #include "Assistant/QuestionWords.h"
 #include "Assistant/Words.h"
 
 #include <algorithm>
 #include <iterator>
+#include <set>
 
 namespace VexelService
 {
@@ -48,6 +51,31 @@ constexpr FComponentWords ComponentWords[] = {
 	{"root|root component|scene root", "RootComponent"},
 };
 
+struct FNamedComponent
+{
+	std::string Name;
+	std::string Class;
+};
+
+// The components of which graphs speak: an export has no list of them.
+std::vector<FNamedComponent> FindComponents(const FBlueprintModel& Model)
+{
+	std::vector<FNamedComponent> Components;
+	for (const FBlueprintGraph& Graph : Model.Graphs)
+	{
+		for (const FBlueprintNode& Node : Graph.Nodes)
+		{
+			const FBlueprintPin* const Output = IsNodeType(Node, "var.get") ? Node.FindOutput(LastSegment(Node.Type, '.')) : nullptr;
+			const std::string_view Type = Output ? std::string_view(Output->Type) : std::string_view();
+			if (StartsWith(Type, "object.") && Type.find("Component") != std::string_view::npos)
+			{
+				Components.push_back({Output->Id, std::string(LastSegment(Type, '.'))});
+			}
+		}
+	}
+	return Components;
+}
+
 std::string PascalCase(std::string_view Said)
 {
 	std::string Name;
@@ -82,27 +110,53 @@ std::vector<FPropertyName> GuessPropertyNames(std::string_view Said)
 		return Names;
 	}
 	const std::string Name = PascalCase(Said);
-	Names.push_back({Name});
+	if (Names.empty() || Names.front().Name != Name)
+	{
+		Names.push_back({Name});
+	}
 	Names.push_back({"b" + Name, "bool"});
 	return Names;
 }
 
-std::vector<std::string> GuessComponentNames(std::string_view Said)
+std::vector<std::string> GuessComponentNames(const FBlueprintModel& Model, std::string_view Said)
 {
 	std::vector<std::string> Names;
-	if (const FComponentWords* const Known = FindRow(ComponentWords, Said))
+	const auto Add = [&Names](const std::string& Name)
 	{
-		Names.emplace_back(Known->Name);
+		if (std::find(Names.begin(), Names.end(), Name) == Names.end())
+		{
+			Names.push_back(Name);
+		}
+	};
+	const std::vector<FNamedComponent> Known = FindComponents(Model);
+	for (const FNamedComponent& Component : Known)
+	{
+		if (SameName(Component.Name, Said))
+		{
+			Add(Component.Name);
+		}
+	}
+	if (const FComponentWords* const Row = FindRow(ComponentWords, Said))
+	{
+		Add(Row->Name);
 	}
 	constexpr std::string_view Suffix = "Component";
 	const std::string Name = PascalCase(Said);
 	const bool bSuffix = Name.size() > Suffix.size() && std::string_view(Name).substr(Name.size() - Suffix.size()) == Suffix;
-	for (const std::string& Candidate : {Name, bSuffix ? Name.substr(0, Name.size() - Suffix.size()) : Name + std::string(Suffix)})
+	Add(Name);
+	Add(bSuffix ? Name.substr(0, Name.size() - Suffix.size()) : Name + std::string(Suffix));
+	// "The mesh" is the one that there is; of two neither.
+	std::set<std::string> OfClass;
+	for (const FNamedComponent& Component : Known)
 	{
-		if (std::find(Names.begin(), Names.end(), Candidate) == Names.end())
+		if (CompactName(Component.Class).find(CompactName(Said)) != std::string::npos)
 		{
-			Names.push_back(Candidate);
+			OfClass.insert(Component.Name);
 		}
+	}
+	if (OfClass.size() == 1)
+	{
+		Add(*OfClass.begin());
 	}
 	return Names;
 }

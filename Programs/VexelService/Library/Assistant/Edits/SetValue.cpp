@@ -50,13 +50,6 @@ constexpr FAdjective Adjectives[] = {
 	{"hidden", "bHiddenInGame", "bHidden", "true", "true"},
 };
 
-/** A property with what the editor may take as its path and its value. */
-struct FAttempt
-{
-	std::string Path;
-	FJson Value;
-};
-
 const FBlueprintProperty* FindDefault(const FBlueprintModel& Model, std::string_view Path)
 {
 	const FBlueprintProperty* Property = &Model.Defaults;
@@ -181,40 +174,32 @@ private:
 		TellCompile(Session);
 	}
 
-	/** The paths that the words may mean; VariableName is that of a variable whose field is meant, or empty. */
-	std::vector<FPropertyName> GuessPaths(const std::string& VariableName) const
+	/** The objects that the words may mean, by their paths; VariableName is that of a variable whose field is meant, or empty. */
+	std::vector<std::string> GuessOwners(const FBlueprintModel& Model, const std::string& VariableName) const
 	{
-		std::vector<std::string> Prefixes = {DefaultObject};
+		std::vector<std::string> Owners = {DefaultObject};
 		for (std::size_t Index = Member.Names.size(); Index > 1; --Index)
 		{
 			const bool bVariable = Index == Member.Names.size() && !VariableName.empty();
+			const std::vector<std::string> Names =
+				bVariable ? std::vector<std::string>{VariableName} : GuessComponentNames(Model, Member.Names[Index - 1]);
 			std::vector<std::string> Longer;
-			for (const std::string& Prefix : Prefixes)
+			for (const std::string& Owner : Owners)
 			{
-				const std::vector<std::string> Names =
-					bVariable ? std::vector<std::string>{VariableName} : GuessComponentNames(Member.Names[Index - 1]);
 				for (const std::string& Name : Names)
 				{
-					Longer.push_back(Prefix + "." + Name);
+					Longer.push_back(Owner + "." + Name);
 				}
 			}
-			Prefixes = std::move(Longer);
+			Owners = std::move(Longer);
 		}
-		std::vector<FPropertyName> Paths;
-		for (const FPropertyName& Name : GuessPropertyNames(Member.Names.front()))
-		{
-			for (const std::string& Prefix : Prefixes)
-			{
-				Paths.push_back({Prefix + "." + Name.Name, Name.Type});
-			}
-		}
-		return Paths;
+		return Owners;
 	}
 
-	std::vector<FJson> GuessValues(FEditSession& Session, const FPropertyName& Path, std::string& Problem) const
+	std::vector<FJson> GuessValues(FEditSession& Session, const std::string& Path, const std::string& GuessedType, std::string& Problem) const
 	{
-		const FBlueprintProperty* const Known = FindDefault(Session.Editor.Blueprint(), Path.Name);
-		const std::string& Type = Known && !Known->Type.empty() ? Known->Type : Path.Type;
+		const FBlueprintProperty* const Known = FindDefault(Session.Editor.Blueprint(), Path);
+		const std::string& Type = Known && !Known->Type.empty() ? Known->Type : GuessedType;
 		if (Type.empty())
 		{
 			return GuessWireValues(Value);
@@ -224,52 +209,90 @@ private:
 		return Wire.Json ? std::vector<FJson>{*Wire.Json} : std::vector<FJson>();
 	}
 
-	void SetProperty(FEditSession& Session, const std::string& VariableName, const std::string& Nearest) const
+	enum class EAttempt
 	{
-		const std::string Said = JoinedNames();
-		std::vector<std::string> Errors;
-		std::string Problem;
-		std::size_t NumAttempts = 0;
-		for (const FPropertyName& Path : GuessPaths(VariableName))
+		Done,
+		/** The value is not what the property takes. */
+		WrongValue,
+		NoProperty,
+		/** There is nothing at all at the path before the property. */
+		NoOwner,
+	};
+
+	/** Tries one guess; Errors holds what the editor said of the guess that came nearest. */
+	EAttempt Try(FEditSession& Session, const std::string& Owner, const std::string& Name, const FJson& Wire, std::vector<std::string>& Errors) const
+	{
+		const std::string Path = Owner + "." + Name;
+		const FBlueprintProperty* const Before = FindDefault(Session.Editor.Blueprint(), Path);
+		const std::string OldValue = Before ? ShownValue(Before->Value, Before->Type) : std::string();
+		const FEditOutcome Outcome = Session.Editor.SetProperty(Path, Wire);
+		if (Outcome.IsComplete())
 		{
-			for (const FJson& Wire : GuessValues(Session, Path, Problem))
+			TellSet(Session, Path, OldValue);
+			return EAttempt::Done;
+		}
+		const std::string Error = Outcome.Errors.empty() ? std::string() : Outcome.Errors.front();
+		const bool bNoProperty = Error.find("'" + Name + "' not found in compound") != std::string::npos;
+		const bool bNoOwner = !bNoProperty && Owner != DefaultObject && Error.find("'" + std::string(LastSegment(Owner, '.')) + "'") < Error.find("while");
+		// What is said of a property that is there tells more than that another is not.
+		const bool bTellsMore = !bNoProperty && !bNoOwner;
+		Errors = Errors.empty() || bTellsMore ? Outcome.Errors : Errors;
+		return bNoOwner ? EAttempt::NoOwner : bNoProperty ? EAttempt::NoProperty
+														  : EAttempt::WrongValue;
+	}
+
+	/** Tries the properties of one object; whether one of them was set. */
+	bool TryOwner(FEditSession& Session, const std::string& Owner, std::vector<std::string>& Errors, std::string& Problem, std::size_t& NumAttempts) const
+	{
+		for (const FPropertyName& Name : GuessPropertyNames(Member.Names.front()))
+		{
+			for (const FJson& Wire : GuessValues(Session, Owner + "." + Name.Name, Name.Type, Problem))
 			{
 				if (Session.IsOver() || ++NumAttempts > MaxAttempts)
 				{
-					break;
+					return false;
 				}
-				const FBlueprintProperty* const Before = FindDefault(Session.Editor.Blueprint(), Path.Name);
-				const std::string OldValue = Before ? ShownValue(Before->Value, Before->Type) : std::string();
-				const FEditOutcome Outcome = Session.Editor.SetProperty(Path.Name, Wire);
-				if (Outcome.IsComplete())
+				const EAttempt Attempt = Try(Session, Owner, Name.Name, Wire, Errors);
+				if (Attempt == EAttempt::Done || Attempt == EAttempt::NoOwner)
 				{
-					TellSet(Session, Path.Name, OldValue);
-					return;
+					return Attempt == EAttempt::Done;
 				}
-				const std::string Error = Outcome.Errors.empty() ? std::string() : Outcome.Errors.front();
-				const bool bNoSuchName = Error.find("not found in compound") != std::string::npos;
-				// What the editor says of a property that is there tells more than that another is not.
-				Errors = Errors.empty() || !bNoSuchName ? Outcome.Errors : Errors;
-				if (bNoSuchName)
+				if (Attempt == EAttempt::NoProperty)
 				{
 					break;
 				}
 			}
 		}
-		const std::string Hint = Nearest.empty() ? "" : " Its variable " + Bold(Nearest) + " has a name like it; name it if you mean that.\n";
+		return false;
+	}
+
+	void SetProperty(FEditSession& Session, const std::string& VariableName, const std::string& Nearest) const
+	{
+		std::vector<std::string> Errors;
+		std::string Problem;
+		std::size_t NumAttempts = 0;
+		for (const std::string& Owner : GuessOwners(Session.Editor.Blueprint(), VariableName))
+		{
+			if (TryOwner(Session, Owner, Errors, Problem, NumAttempts))
+			{
+				return;
+			}
+		}
+		const std::string Said = JoinedNames();
 		if (Errors.empty() && !Problem.empty())
 		{
 			Session.Say("I did not set " + Quoted(Said) + ": " + Problem + "\n");
 			return;
 		}
 		TellRefusal(Session, "set " + Quoted(Said) + " of " + Bold(Session.Editor.Blueprint().Name), Errors);
-		Session.Say(Hint);
+		Session.Say(Nearest.empty() ? std::string() : "Its variable " + Bold(Nearest) + " has a name like it; name it if you mean that.\n");
 	}
 
 	void TellSet(FEditSession& Session, const std::string& Path, const std::string& OldValue) const
 	{
+		// The export leaves out what the parent class has too, and the components' own properties.
 		const FBlueprintProperty* const Now = FindDefault(Session.Editor.Blueprint(), Path);
-		const std::string NewValue = Now ? ShownValue(Now->Value, Now->Type) : JoinWords(Value) + ", which is what its parent class has";
+		const std::string NewValue = Now ? ShownValue(Now->Value, Now->Type) : JoinWords(Value);
 		const std::string Property = Path.substr(std::string_view(DefaultObject).size() + 1);
 		Session.Say("I set the default of " + Bold(Property) + (OldValue.empty() ? "" : " from " + OldValue) + " to " + NewValue + ".\n");
 		TellCompile(Session);
@@ -310,7 +333,7 @@ void ReadAdjective(FSplitRequest& Split)
 // A word that can be nothing but a value, so that "make X Y" sets X.
 bool IsPlainValue(const FEditWords& Words)
 {
-	return Words.size() == 1 && (Words.front().bQuoted || ReadBoolean(Words) || GuessWireValues(Words).size() > 1);
+	return Words.size() == 1 && (Words.front().bQuoted || MakeWireValue(Words, "real").Json || GuessWireValues(Words).size() > 1);
 }
 
 }

@@ -248,7 +248,7 @@ FWireValue MakeStructValue(const FEditWords& Said, const FNumberStruct& Struct, 
 	return {.Json = Form == EValueForm::Pin ? Whole : "(" + Whole + ")"};
 }
 
-FWireValue MakeNumberValue(const FEditWords& Said, std::string_view Type, bool bWhole)
+FWireValue MakeNumberValue(const FEditWords& Said, bool bWhole)
 {
 	const std::optional<std::string> Number = ReadNumber(Said);
 	const bool bFits = Number && (!bWhole || Number->find_first_of(".eE") == std::string::npos);
@@ -256,9 +256,7 @@ FWireValue MakeNumberValue(const FEditWords& Said, std::string_view Type, bool b
 	{
 		return {.Json = *Number};
 	}
-	return {.Json = {},
-		.Problem = Quoted(JoinWords(Said)) + " is no " + (bWhole ? "whole number" : "number") + ", which " + WithArticle(TypeInWords(Type)) +
-			" needs."};
+	return {.Json = {}, .Problem = Quoted(JoinWords(Said)) + " is no " + (bWhole ? "whole " : "") + "number."};
 }
 
 }
@@ -320,11 +318,11 @@ FWireValue MakeWireValue(const FEditWords& Said, std::string_view TypeId, EValue
 	}
 	if (IsOneOf(TypeId, "byte|int|int8|int16|int32|int64|uint16|uint32|uint64"))
 	{
-		return MakeNumberValue(Said, TypeId, true);
+		return MakeNumberValue(Said, true);
 	}
 	if (IsOneOf(TypeId, "real|float|double"))
 	{
-		return MakeNumberValue(Said, TypeId, false);
+		return MakeNumberValue(Said, false);
 	}
 	if (const FNumberStruct* const Struct = FindNumberStruct(TypeId))
 	{
