@@ -142,6 +142,8 @@ TEST_F(MemberEdit, VariablesAreAddedInManyWords)
 		{"declare a 64 bit integer Total in BP_Enemy", "Total", "int64", "", ""},
 		{"add a rotator Facing with default yaw 90 to BP_Enemy", "Facing", "struct.Rotator", "{\"Yaw\":\"90\"}", ""},
 		{"add an event dispatcher OnDied to BP_Enemy", "OnDied", "mcdelegate", "", ""},
+		{"add a map from name to int called Fees with default Apple = 3, Pear = 4 to BP_Enemy", "Fees", "map|name,int",
+			"{\"0\":{\"key\":\"Apple\",\"value\":\"3\"},\"1\":{\"key\":\"Pear\",\"value\":\"4\"}}", ""},
 		{"Add an array of names Drops with default Coin, Gem and Key to BP_Enemy", "Drops", "array|name", "{\"0\":\"Coin\",\"1\":\"Gem\",\"2\":\"Key\"}", ""},
 	};
 	for (const auto& Case : Cases)
@@ -389,6 +391,8 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 		{"set the location of the mesh to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
 		{"set the mesh's location to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
 		{"make the skeletal mesh invisible in BP_Enemy", "update  $ClassDefaultObject.Body.bVisible \"False\""},
+		{"make the body red in BP_Enemy", "update  $ClassDefaultObject.Body.LightColor \"(R=255,G=0,B=0,A=255)\""},
+		{"set the yaw of the rotation of the body to 90 in BP_Enemy", "update  $ClassDefaultObject.Body.RelativeRotation.Yaw \"90\""},
 		{"make BP_Enemy hidden", "update  $ClassDefaultObject.bHidden \"True\""},
 		{"set hidden of BP_Enemy to true", "update  $ClassDefaultObject.bHidden \"True\""},
 	};

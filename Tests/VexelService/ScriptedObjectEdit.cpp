@@ -287,7 +287,7 @@ std::string FScriptedObjectEdit::Update(const FJson& Target, const FJson& Operat
 	{
 		const char* Path;
 		const char* Type;
-	} Known[] = {{".InitialLifeSpan", "real"}, {".bHidden", "bool"}, {".Mesh.bVisible", "bool"}, {".Body.bVisible", "bool"}, {".CharacterMovement.MaxWalkSpeed", "real"},
+	} Known[] = {{".InitialLifeSpan", "real"}, {".bHidden", "bool"}, {".Mesh.bVisible", "bool"}, {".Body.bVisible", "bool"}, {".Body.LightColor", "struct.Color"}, {".Body.RelativeRotation.Yaw", "real"}, {".CharacterMovement.MaxWalkSpeed", "real"},
 		{".Mesh.RelativeLocation", "struct.Vector"}};
 	if (StartsWith(Path, std::string(DefaultObject) + ".PointLight."))
 	{

@@ -285,7 +285,9 @@ FClauses SplitClauses(FEditWordSpan Words, std::initializer_list<EClause> Kinds)
 	for (std::size_t At = 0; At < Words.size();)
 	{
 		const std::optional<FOpening> Opening = FindOpening(Words.subspan(At), Kinds);
-		if (!Opening)
+		// A default may have such words of its own: "with default Apple = 3".
+		const bool bInDefault = Opening && Opening->Kind == EClause::Default && !Clauses.Rest.empty() && Clauses.Rest.back().Kind == EClause::Default;
+		if (!Opening || bInDefault)
 		{
 			Current->push_back(Words[At++]);
 			continue;

@@ -81,7 +81,8 @@ std::vector<std::string> ValuesOf(const std::vector<FBlueprintProperty>& Parts)
 	return Values;
 }
 
-FList FindList(const FBlueprintModel& Model, const FSaidMember& Said)
+/** A property that its class has empty is not in the export, so that only an element to add can tell whether it is there. */
+FList FindList(const FBlueprintModel& Model, const FSaidMember& Said, bool bAdds)
 {
 	const std::string& Name = Said.Names.front();
 	const bool bOfFunction = !Said.Owner.empty() || Said.Noun == EMemberNoun::LocalVariable;
@@ -108,9 +109,9 @@ FList FindList(const FBlueprintModel& Model, const FSaidMember& Said)
 	}
 	const std::string Property = GuessPropertyNames(Name).front().Name;
 	const FBlueprintProperty* const Known = Model.Defaults.FindPart(Property);
-	if (!Known && !Match.Nearest.empty())
+	if (!Known && (!Match.Nearest.empty() || !bAdds))
 	{
-		return {.Problem = TellMissing(Model, "list", Name, Match.Nearest)};
+		return {.Problem = TellMissing(Model, "list with elements", Name, Match.Nearest)};
 	}
 	return {.Path = "$ClassDefaultObject." + Property,
 		.Name = Property,
@@ -131,7 +132,7 @@ public:
 
 	void Run(FEditSession& Session) const override
 	{
-		const FList List = FindList(Session.Editor.Blueprint(), Member);
+		const FList List = FindList(Session.Editor.Blueprint(), Member, Edit == EElementEdit::Add);
 		if (!List.Problem.empty())
 		{
 			Session.Say(List.Problem);
@@ -262,7 +263,7 @@ private:
 			TellRefusal(Session, What, Outcome.Errors);
 			return;
 		}
-		const FList Now = FindList(Session.Editor.Blueprint(), Member);
+		const FList Now = FindList(Session.Editor.Blueprint(), Member, true);
 		std::string Text = Told + ".";
 		if (Now.Problem.empty())
 		{

@@ -45,6 +45,15 @@ constexpr FExplanation Explanations[] = {
 	{"Cannot add input pins", "It takes no such pin."},
 };
 
+// The editor's words without where in its own inside the error went by.
+std::string CoreOfError(const std::string& Error)
+{
+	constexpr std::string_view Operation = "Failed to execute operation on target '";
+	const std::size_t Target = StartsWith(Error, Operation) ? Error.find("': ", Operation.size()) : std::string::npos;
+	const std::size_t Begin = Target == std::string::npos ? 0 : Target + 3;
+	return Error.substr(Begin, Error.find(", while ", Begin) - Begin);
+}
+
 std::string CompileInWords(FProjectEditor& Editor, const std::string& Subject)
 {
 	const FCompileOutcome Outcome = Editor.Compile();
@@ -152,7 +161,7 @@ void TellRefusal(FEditSession& Session, const std::string& What, const std::vect
 	{
 		const auto Meaning = std::find_if(std::begin(Explanations), std::end(Explanations), [&Error](const FExplanation& Row)
 			{ return Error.find(Row.Text) != std::string::npos; });
-		Text += (Meaning == std::end(Explanations) ? std::string() : " " + std::string(Meaning->Meaning)) + " The editor says: " + Code(Error);
+		Text += (Meaning == std::end(Explanations) ? std::string() : " " + std::string(Meaning->Meaning)) + " The editor says: " + Code(CoreOfError(Error));
 	}
 	Session.Say(Text + "\n");
 }

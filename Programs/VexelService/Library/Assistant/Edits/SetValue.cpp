@@ -90,6 +90,15 @@ public:
 			SetVariable(Session, *Variable.Found, {});
 			return;
 		}
+		const bool bColorOf = !bOwned && Value.size() == 1 && IsColorName(Value.front().Text);
+		if (bColorOf)
+		{
+			// "Make the light red" is about its color.
+			FSaidMember Color = Member;
+			Color.Names.insert(Color.Names.begin(), "color");
+			FSetValue(Color, Value).SetProperty(Session, {}, Variable.Nearest);
+			return;
+		}
 		if (Variable.Found && StartsWith(Variable.Found->Type, "map|"))
 		{
 			SetEntry(Session, *Variable.Found);
@@ -180,9 +189,16 @@ private:
 		std::vector<std::string> Owners = {DefaultObject};
 		for (std::size_t Index = Member.Names.size(); Index > 1; --Index)
 		{
-			const bool bVariable = Index == Member.Names.size() && !VariableName.empty();
-			const std::vector<std::string> Names =
-				bVariable ? std::vector<std::string>{VariableName} : GuessComponentNames(Model, Member.Names[Index - 1]);
+			const bool bOutermost = Index == Member.Names.size();
+			std::vector<std::string> Names;
+			if (bOutermost)
+			{
+				Names = VariableName.empty() ? GuessComponentNames(Model, Member.Names[Index - 1]) : std::vector<std::string>{VariableName};
+			}
+			for (const FPropertyName& Name : bOutermost ? std::vector<FPropertyName>() : GuessPropertyNames(Member.Names[Index - 1]))
+			{
+				Names.push_back(Name.Name);
+			}
 			std::vector<std::string> Longer;
 			for (const std::string& Owner : Owners)
 			{
@@ -233,7 +249,9 @@ private:
 		}
 		const std::string Error = Outcome.Errors.empty() ? std::string() : Outcome.Errors.front();
 		const bool bNoProperty = Error.find("'" + Name + "' not found in compound") != std::string::npos;
-		const bool bNoOwner = !bNoProperty && Owner != DefaultObject && Error.find("'" + std::string(LastSegment(Owner, '.')) + "'") < Error.find("while");
+		const bool bNowhere = Error.find("not found in compound") != std::string::npos || Error.find("is not a compound") != std::string::npos ||
+			Error.find("does not contain a valid compound") != std::string::npos;
+		const bool bNoOwner = bNowhere && !bNoProperty;
 		// What is said of a property that is there tells more than that another is not.
 		const bool bTellsMore = !bNoProperty && !bNoOwner;
 		Errors = Errors.empty() || bTellsMore ? Outcome.Errors : Errors;
@@ -286,6 +304,8 @@ private:
 		}
 		TellRefusal(Session, "set " + Quoted(Said) + " of " + Bold(Session.Editor.Blueprint().Name), Errors);
 		Session.Say(Nearest.empty() ? std::string() : "Its variable " + Bold(Nearest) + " has a name like it; name it if you mean that.\n");
+		const bool bOwned = Member.Names.size() > 1 && VariableName.empty();
+		Session.Say(bOwned ? "Components have the names that the editor's list of components shows.\n" : "");
 	}
 
 	void TellSet(FEditSession& Session, const std::string& Path, const std::string& OldValue) const

@@ -168,11 +168,17 @@ std::string ShortNumber(double Number)
 	return Text;
 }
 
+const FColorName* FindColor(std::string_view Word)
+{
+	const auto Found = std::find_if(std::begin(ColorNames), std::end(ColorNames), [Word](const FColorName& Row)
+		{ return IsOneOf(Word, Row.Words); });
+	return Found == std::end(ColorNames) ? nullptr : Found;
+}
+
 std::optional<FFields> ReadColorName(std::string_view Text, bool bBytes)
 {
-	const auto Found = std::find_if(std::begin(ColorNames), std::end(ColorNames), [Text](const FColorName& Row)
-		{ return IsOneOf(Text, Row.Words); });
-	if (Found == std::end(ColorNames))
+	const FColorName* const Found = FindColor(Text);
+	if (!Found)
 	{
 		return std::nullopt;
 	}
@@ -291,6 +297,11 @@ std::optional<bool> ReadBoolean(const FEditWords& Said)
 	const bool bTrue = bOne && (IsWord(Said.front(), TrueWords) || Said.front().Text == "1");
 	const bool bFalse = bOne && (IsWord(Said.front(), FalseWords) || Said.front().Text == "0");
 	return bTrue || bFalse ? std::optional<bool>(bTrue) : std::nullopt;
+}
+
+bool IsColorName(std::string_view Word)
+{
+	return FindColor(Word) != nullptr;
 }
 
 std::optional<int> ReadCount(std::string_view Text)

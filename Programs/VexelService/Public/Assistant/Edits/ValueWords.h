@@ -57,6 +57,9 @@ bool SaysNothing(const FEditWords& Said);
 /** A Boolean in words: "true", "off", "yes". */
 std::optional<bool> ReadBoolean(const FEditWords& Said);
 
+/** Whether a word names a color: "red". */
+bool IsColorName(std::string_view Word);
+
 /** A whole number in figures or in words. */
 std::optional<int> ReadCount(std::string_view Text);
 
