@@ -70,7 +70,7 @@ struct FBlueprintNode
 	std::string Name;
 	std::vector<FBlueprintPin> Pins;
 	/** The pins that the user has defined, as variables of the scope "in" or "out". */
-	std::vector<FBlueprintVariable> EditablePins;
+	std::vector<FBlueprintVariable> EditablePins = {};
 
 	/** Ids compare without regard to case, as the editor's names do. */
 	const FBlueprintPin* FindPin(std::string_view PinId) const;

@@ -1,6 +1,7 @@
 #include "MemberReport.h"
 
 #include "Assistant/AssetFinder.h"
+#include "Assistant/Edits/FlowReport.h"
 #include "Assistant/Markdown.h"
 #include "Assistant/NameMatch.h"
 #include "Assistant/UsageSearch.h"
@@ -54,33 +55,12 @@ std::string CoreOfError(const std::string& Error)
 	return Error.substr(Begin, Error.find(", while ", Begin) - Begin);
 }
 
-std::string CompileInWords(FProjectEditor& Editor, const std::string& Subject)
+std::string CompileInWords(FProjectEditor& Editor)
 {
 	const FCompileOutcome Outcome = Editor.Compile();
-	if (!Outcome.bDone)
-	{
-		return Subject + " could not be compiled. The editor says: " + Code(Outcome.Errors.empty() ? "" : Outcome.Errors.front()) + "\n";
-	}
-	std::vector<const FCompilerMessage*> Shown;
-	for (const FCompilerMessage& Message : Outcome.Messages)
-	{
-		if (Message.IsError() || Message.IsWarning())
-		{
-			Shown.push_back(&Message);
-		}
-	}
-	if (Shown.empty())
-	{
-		return Subject + (Outcome.bSuccess ? " compiles without a warning.\n" : " does not compile, and the editor does not say why.\n");
-	}
-	std::string Text = Subject + (Outcome.bSuccess ? " compiles, with warnings:\n\n" : " does not compile now:\n\n");
-	for (std::size_t Index = 0; Index < std::min(Shown.size(), MaxShownMessages); ++Index)
-	{
-		std::string Message = Shown[Index]->Text;
-		std::replace(Message.begin(), Message.end(), '\n', ' ');
-		Text += "- " + Shown[Index]->Severity + ": " + Message + "\n";
-	}
-	return Shown.size() > MaxShownMessages ? Text + "- and " + CountOf(Shown.size() - MaxShownMessages, "other") + "\n" : Text;
+	const std::string Name = ShortName(Editor.GetPath());
+	return Outcome.bDone ? DescribeCompile(Outcome, Name)
+						 : Bold(Name) + " could not be compiled. The editor says: " + Code(Outcome.Errors.empty() ? "" : Outcome.Errors.front()) + "\n";
 }
 
 std::string TellUses(const FBlueprintModel& Model, const std::string& Name, const std::vector<std::string>& Uses)
@@ -138,14 +118,14 @@ void TellCompile(FEditSession& Session, const std::vector<std::string>& Others)
 {
 	if (!Session.IsOver())
 	{
-		Session.Say(CompileInWords(Session.Editor, "It"));
+		Session.Say(CompileInWords(Session.Editor));
 	}
 	for (const std::string& Path : Others)
 	{
 		FProjectEditor Other(Session.Editor.GetReader(), Path);
 		if (!Session.IsOver())
 		{
-			Session.Say("\n" + CompileInWords(Other, Bold(ShortName(Path))));
+			Session.Say("\n" + CompileInWords(Other));
 		}
 	}
 }
