@@ -23,7 +23,8 @@ FJson MakeList(const char* Id, const char* Type, std::vector<std::string> Elemen
 	Variable["value"] = {{"type", Type}, {"properties", FJson::array()}};
 	for (const std::string& Element : Elements)
 	{
-		Variable["value"]["properties"].push_back({{"id", std::to_string(Variable["value"]["properties"].size())}, {"value", Element}, {"category", ""}});
+		Variable["value"]["properties"].push_back({{"id", std::to_string(Variable["value"]["properties"].size())}, {"value", Element},
+			{"category", ""}});
 	}
 	return Variable;
 }
@@ -34,16 +35,20 @@ FJson MakeRichEnemy()
 	FJson Enemy = MakeDoor();
 	Enemy["id"] = "/Game/Enemies/BP_Enemy.BP_Enemy";
 	FJson Heal = MakeGraph("Heal", "function", {MakeNode("Heal_0", "graph.entry", {ExecOut()})});
-	Heal["variables"] = {MakeVariable("Amount", "real", "1.0", "in"), MakeVariable("NewHealth", "real", "", "out"), MakeVariable("Count", "int", "0", "local")};
+	Heal["variables"] = {MakeVariable("Amount", "real", "1.0", "in"), MakeVariable("NewHealth", "real", "", "out"),
+		MakeVariable("Count", "int", "0", "local")};
 	Enemy["graphs"].push_back(Heal);
 	FJson OnHit = MakeNode("OnHit_0", "event.custom", {ExecOut()});
 	OnHit["properties"] = {{{"id", "name"}, {"value", "OnHit"}}};
 	OnHit["editable_pins"] = {MakeVariable("Damage", "real", "", "out")};
 	Enemy["graphs"][0]["nodes"].push_back(OnHit);
 	Enemy["graphs"][0]["nodes"].push_back(MakeNode("GetBody_0", "var.get.Body", {DataOut("Body", "object.SkeletalMeshComponent")}));
-	for (const FJson& Variable : {MakeVariable("bDead", "bool", "False"), MakeVariable("PatrolIndex", "int", "2"), MakeVariable("State", "enum.EDoorState", "Open"),
-			 MakeVariable("Home", "struct.Vector", "(X=0,Y=0,Z=0)"), MakeVariable("Target", "object.Actor", "ref|None"), MakeVariable("Greeting", "string", "Hi"),
-			 MakeList("Loot", "array|name", {"Coin", "Key"}), MakeList("Waypoints", "array|struct.Vector", {"(X=0,Y=0,Z=0)", "(X=1,Y=1,Z=1)", "(X=2,Y=2,Z=2)"}),
+	for (const FJson& Variable : {MakeVariable("bDead", "bool", "False"), MakeVariable("PatrolIndex", "int", "2"),
+			 MakeVariable("State", "enum.EDoorState", "Open"),
+			 MakeVariable("Home", "struct.Vector", "(X=0,Y=0,Z=0)"), MakeVariable("Target", "object.Actor", "ref|None"),
+			 MakeVariable("Greeting", "string", "Hi"),
+			 MakeList("Loot", "array|name", {"Coin", "Key"}),
+			 MakeList("Waypoints", "array|struct.Vector", {"(X=0,Y=0,Z=0)", "(X=1,Y=1,Z=1)", "(X=2,Y=2,Z=2)"}),
 			 MakeList("Prices", "map|name,int", {})})
 	{
 		Enemy["variables"].push_back(Variable);
@@ -94,7 +99,8 @@ protected:
 	std::string Answer;
 };
 
-std::string Description(const std::string& Name, const std::string& Type, const std::string& Category = "", const std::string& Scope = "member")
+std::string Description(const std::string& Name, const std::string& Type, const std::string& Category = "",
+	const std::string& Scope = "member")
 {
 	FJson Json = {{"prop_id", Name}, {"scope_id", Scope}, {"type_id", Type}};
 	if (!Category.empty())
@@ -132,10 +138,12 @@ TEST_F(MemberEdit, VariablesAreAddedInManyWords)
 		{"Add a color Tint with default red to BP_Enemy", "Tint", "struct.LinearColor", "\"(R=1,G=0,B=0,A=1)\"", ""},
 		{"add a variable Mode of type EDoorState to BP_Enemy", "Mode", "enum.EDoorState", "", ""},
 		{"add a Stats struct variable Base to BP_Enemy", "Base", "struct.Stats", "", ""},
-		{"Add a string Title with default \"Hello, world\" in the category Texts to BP_Enemy", "Title", "string", "\"Hello, world\"", "Texts"},
+		{"Add a string Title with default \"Hello, world\" in the category Texts to BP_Enemy", "Title", "string", "\"Hello, world\"",
+			"Texts"},
 		{"Add a bool bFriendly that defaults to true to BP_Enemy", "bFriendly", "bool", "\"True\"", ""},
 		{"add variable Stamina: float = 5 to BP_Enemy", "Stamina", "real", "\"5\"", ""},
-		{"please make a new variable named Energy, type float, default value 7, category Stats in BP_Enemy", "Energy", "real", "\"7\"", "Stats"},
+		{"please make a new variable named Energy, type float, default value 7, category Stats in BP_Enemy", "Energy", "real", "\"7\"",
+			"Stats"},
 		{"add Mana (float) to BP_Enemy", "Mana", "real", "", ""},
 		{"Add a float variable Max Rage to BP_Enemy under the Stats category", "MaxRage", "real", "", "Stats"},
 		{"i want you to add an int variable Ammo to BP_Enemy starting at 30", "Ammo", "int", "\"30\"", ""},
@@ -144,7 +152,8 @@ TEST_F(MemberEdit, VariablesAreAddedInManyWords)
 		{"add an event dispatcher OnDied to BP_Enemy", "OnDied", "mcdelegate", "", ""},
 		{"add a map from name to int called Fees with default Apple = 3, Pear = 4 to BP_Enemy", "Fees", "map|name,int",
 			"{\"0\":{\"key\":\"Apple\",\"value\":\"3\"},\"1\":{\"key\":\"Pear\",\"value\":\"4\"}}", ""},
-		{"Add an array of names Drops with default Coin, Gem and Key to BP_Enemy", "Drops", "array|name", "{\"0\":\"Coin\",\"1\":\"Gem\",\"2\":\"Key\"}", ""},
+		{"Add an array of names Drops with default Coin, Gem and Key to BP_Enemy", "Drops", "array|name",
+			"{\"0\":\"Coin\",\"1\":\"Gem\",\"2\":\"Key\"}", ""},
 	};
 	for (const auto& Case : Cases)
 	{
@@ -166,14 +175,16 @@ TEST_F(MemberEdit, SeveralVariablesComeFromOneMessage)
 	EXPECT_THAT(Operations("Add float variables Armor and Shield to BP_Enemy"),
 		ElementsAre(HasSubstr("add_variable member Armor"), HasSubstr("add_variable member Shield")));
 	EXPECT_THAT(Operations("Add a float Rage and a boolean bCalm to BP_Enemy"),
-		ElementsAre("add_variable member Rage " + Description("Rage", "real"), "add_variable member bCalm " + Description("bCalm", "bool")));
+		ElementsAre("add_variable member Rage " + Description("Rage", "real"),
+			"add_variable member bCalm " + Description("bCalm", "bool")));
 	EXPECT_EQ(Compiled.size(), 2u);
 }
 
 TEST_F(MemberEdit, LocalVariablesGoToTheirFunction)
 {
 	EXPECT_THAT(Operations("add a local integer Steps with default 3 to the function Heal of BP_Enemy"),
-		ElementsAre("Graph (Heal): add_variable local Steps " + Description("Steps", "int", "", "local"), "Graph (Heal): update local Steps \"3\""));
+		ElementsAre("Graph (Heal): add_variable local Steps " + Description("Steps", "int", "", "local"),
+			"Graph (Heal): update local Steps \"3\""));
 	EXPECT_THAT(Operations("add a local float Rest to BP_Enemy"), IsEmpty());
 	EXPECT_THAT(Answer, HasSubstr("not to which function"));
 	EXPECT_THAT(Operations("add a local float Rest to the function Harm of BP_Enemy"), IsEmpty());
@@ -204,8 +215,10 @@ TEST_F(MemberEdit, WhatIsHalfUnderstoodIsAsked)
 
 TEST_F(MemberEdit, OtherMessagesAreNotTakenForEdits)
 {
-	for (const char* const Message : {"Add a light to BP_Enemy", "What happens if I add a float variable Armor to BP_Enemy?", "How do I rename Health in BP_Enemy?",
-			 "Which variables does BP_Enemy have?", "Where is Health set in BP_Enemy?", "Add a comment to BP_Enemy", "When play begins, set Health to 5 in BP_Enemy",
+	for (const char* const Message : {"Add a light to BP_Enemy", "What happens if I add a float variable Armor to BP_Enemy?",
+			 "How do I rename Health in BP_Enemy?",
+			 "Which variables does BP_Enemy have?", "Where is Health set in BP_Enemy?", "Add a comment to BP_Enemy",
+			 "When play begins, set Health to 5 in BP_Enemy",
 			 "set Health to 5 on BeginPlay in BP_Enemy", "set Health to 5 after 3 seconds in BP_Enemy", "add 5 to Health in BP_Enemy",
 			 "remove the node Delay from BP_Enemy",
 			 "Does BP_Enemy need a float?", "Paint the sky green", "BP_Enemy is broken"})
@@ -247,11 +260,14 @@ TEST_F(MemberEdit, ATypeThatTheEditorDoesNotKnowIsToldInItsWords)
 
 TEST_F(MemberEdit, MembersAreRenamed)
 {
-	EXPECT_THAT(Operations("Rename Health of BP_Enemy to Life"), ElementsAre("edit_variable member Health " + Description("Life", "real", "Default")));
+	EXPECT_THAT(Operations("Rename Health of BP_Enemy to Life"),
+		ElementsAre("edit_variable member Health " + Description("Life", "real", "Default")));
 	EXPECT_THAT(Answer, AllOf(HasSubstr("**Health** is used in 1 place of **BP_Enemy**"), HasSubstr("I renamed the variable **Health** to **Life**."), HasSubstr("**BP_Enemy** compiles without errors")));
-	EXPECT_THAT(Operations("change the name of bDead to bIsDead in BP_Enemy"), ElementsAre("edit_variable member bDead " + Description("bIsDead", "bool", "Default")));
+	EXPECT_THAT(Operations("change the name of bDead to bIsDead in BP_Enemy"),
+		ElementsAre("edit_variable member bDead " + Description("bIsDead", "bool", "Default")));
 	EXPECT_THAT(Operations("rename the function Heal to Recover in BP_Enemy"), ElementsAre("Graph (Heal): update  name \"Recover\""));
-	EXPECT_THAT(Operations("rename the custom event OnHit of BP_Enemy to OnHurt"), ElementsAre("Node (OnHit_0) in Graph (EventGraph): update  name \"OnHurt\""));
+	EXPECT_THAT(Operations("rename the custom event OnHit of BP_Enemy to OnHurt"),
+		ElementsAre("Node (OnHit_0) in Graph (EventGraph): update  name \"OnHurt\""));
 	EXPECT_THAT(Operations("rename the input Amount of the function Recover to Points in BP_Enemy"),
 		ElementsAre("Graph (Recover): edit_variable in Amount " + Description("Points", "real", "Default", "in")));
 	EXPECT_THAT(Operations("rename Gold to Silver in BP_Enemy"), IsEmpty());
@@ -299,7 +315,8 @@ TEST_F(MemberEdit, ARemovalTellsWhatUsedItAndWhatBroke)
 	EXPECT_THAT(Operations("delete bDead in BP_Enemy"), ElementsAre("remove_variable member bDead"));
 	EXPECT_THAT(Answer, AllOf(HasSubstr("No step uses **bDead**."), HasSubstr("I removed")));
 	EXPECT_THAT(Operations("get rid of the function Heal in BP_Enemy"), ElementsAre("graph_remove Heal"));
-	EXPECT_THAT(Operations("remove the input Damage from the event OnHit of BP_Enemy"), ElementsAre("Node (OnHit_0) in Graph (EventGraph): remove_variable out Damage"));
+	EXPECT_THAT(Operations("remove the input Damage from the event OnHit of BP_Enemy"),
+		ElementsAre("Node (OnHit_0) in Graph (EventGraph): remove_variable out Damage"));
 }
 
 TEST_F(MemberEdit, OtherBlueprintsThatUseAMemberAreToldAndCompiled)
@@ -316,9 +333,11 @@ TEST_F(MemberEdit, OtherBlueprintsThatUseAMemberAreToldAndCompiled)
 
 TEST_F(MemberEdit, CategoriesAndMarksAreSet)
 {
-	EXPECT_THAT(Operations("put Health of BP_Enemy in the category Stats"), ElementsAre("edit_variable member Health " + Description("Health", "real", "Stats")));
+	EXPECT_THAT(Operations("put Health of BP_Enemy in the category Stats"),
+		ElementsAre("edit_variable member Health " + Description("Health", "real", "Stats")));
 	EXPECT_THAT(Answer, HasSubstr("from the category **Default** to **Stats**"));
-	EXPECT_THAT(Operations("move Health into the Life category in BP_Enemy"), ElementsAre("edit_variable member Health " + Description("Health", "real", "Life")));
+	EXPECT_THAT(Operations("move Health into the Life category in BP_Enemy"),
+		ElementsAre("edit_variable member Health " + Description("Health", "real", "Life")));
 	EXPECT_THAT(Operations("set the category of Health to \"My Stats\" in BP_Enemy"), ElementsAre(HasSubstr("\"category\":\"My Stats\"")));
 	EXPECT_THAT(Operations("make Health of BP_Enemy instance editable and put it in category Tuning"),
 		ElementsAre(AllOf(HasSubstr("\"instance_editable\":true"), HasSubstr("\"category\":\"Tuning\""))));
@@ -386,7 +405,8 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 		const char* Operation;
 	} Cases[] = {
 		{"set the initial life span of BP_Enemy to 5 seconds", "update  $ClassDefaultObject.InitialLifeSpan \"5\""},
-		{"set the max walk speed of the movement component to 600 in BP_Enemy", "update  $ClassDefaultObject.CharacterMovement.MaxWalkSpeed \"600\""},
+		{"set the max walk speed of the movement component to 600 in BP_Enemy",
+			"update  $ClassDefaultObject.CharacterMovement.MaxWalkSpeed \"600\""},
 		{"make the mesh invisible in BP_Enemy", "update  $ClassDefaultObject.Mesh.bVisible \"False\""},
 		{"set the location of the mesh to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
 		{"set the mesh's location to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
@@ -450,10 +470,12 @@ TEST_F(MemberEdit, FunctionsComeWithTheirInputsAndOutputs)
 	EXPECT_THAT(Operations("Add a function Revive to BP_Enemy with an input Amount of type float and an output NewHealth"),
 		ElementsAre("graph_add Revive", "Graph (Revive): add_variable in Amount " + Description("Amount", "real", "", "in"),
 			"Graph (Revive): add_variable out NewHealth " + Description("NewHealth", "real", "", "out")));
-	EXPECT_THAT(Answer, AllOf(HasSubstr("I added the function **Revive** to **BP_Enemy**, with the input **Amount** (number) and the output **NewHealth** (number)."), HasSubstr("**BP_Enemy** compiles without errors")));
+	EXPECT_THAT(Answer,
+		AllOf(HasSubstr("I added the function **Revive** to **BP_Enemy**, with the input **Amount** (number) and the output **NewHealth** (number)."), HasSubstr("**BP_Enemy** compiles without errors")));
 	EXPECT_THAT(Operations("create a function called Hurt in BP_Enemy that takes a float Damage and a boolean bForce and returns an integer Left"),
 		ElementsAre("graph_add Hurt", "Graph (Hurt): add_variable in Damage " + Description("Damage", "real", "", "in"),
-			"Graph (Hurt): add_variable in bForce " + Description("bForce", "bool", "", "in"), "Graph (Hurt): add_variable out Left " + Description("Left", "int", "", "out")));
+			"Graph (Hurt): add_variable in bForce " + Description("bForce", "bool", "", "in"),
+			"Graph (Hurt): add_variable out Left " + Description("Left", "int", "", "out")));
 	EXPECT_THAT(Operations("give BP_Enemy a new function Rest"), ElementsAre("graph_add Rest"));
 	EXPECT_THAT(Operations("add a function Heal to BP_Enemy"), IsEmpty());
 	EXPECT_THAT(Answer, HasSubstr("I could not add the function **Heal**"));
@@ -478,7 +500,8 @@ TEST_F(MemberEdit, ParametersAreAddedToFunctionsAndEvents)
 		{"add an output Done of type bool to Heal in BP_Enemy", "Graph (Heal): add_variable out Done "},
 		{"add a float parameter Scale to the Heal function in BP_Enemy", "Graph (Heal): add_variable in Scale "},
 		{"make Heal return a float Rest in BP_Enemy", "Graph (Heal): add_variable out Rest "},
-		{"add an integer input Count to the custom event OnHit of BP_Enemy", "Node (OnHit_0) in Graph (EventGraph): add_variable out Count "},
+		{"add an integer input Count to the custom event OnHit of BP_Enemy",
+			"Node (OnHit_0) in Graph (EventGraph): add_variable out Count "},
 		{"Add a pin Force of type vector to the event OnHit in BP_Enemy", "Node (OnHit_0) in Graph (EventGraph): add_variable out Force "},
 	};
 	for (const auto& Case : Cases)
@@ -506,9 +529,11 @@ TEST_F(MemberEdit, ItMeansTheMemberOfTheMessageBefore)
 {
 	Operations("Add a float variable Armor to BP_Enemy");
 	EXPECT_THAT(Operations("set it to 5"), ElementsAre("update member Armor \"5\""));
-	EXPECT_THAT(Operations("now rename it to Shield"), ElementsAre("edit_variable member Armor " + Description("Shield", "real", "Default")));
+	EXPECT_THAT(Operations("now rename it to Shield"),
+		ElementsAre("edit_variable member Armor " + Description("Shield", "real", "Default")));
 	EXPECT_THAT(Operations("make this variable editable and put it in the category Stats"),
-		ElementsAre(AllOf(HasSubstr("edit_variable member Shield"), HasSubstr("\"instance_editable\":true"), HasSubstr("\"category\":\"Stats\""))))
+		ElementsAre(AllOf(HasSubstr("edit_variable member Shield"), HasSubstr("\"instance_editable\":true"),
+			HasSubstr("\"category\":\"Stats\""))))
 		<< Answer;
 	EXPECT_THAT(Operations("make it an integer"), ElementsAre(HasSubstr("edit_variable member Shield"))) << Answer;
 	Editor.Ask("Which functions does BP_Enemy have?");

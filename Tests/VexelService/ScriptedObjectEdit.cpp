@@ -13,7 +13,8 @@ namespace
 
 constexpr const char* DefaultObject = "$ClassDefaultObject";
 constexpr const char* KnownTypes[] = {"bool", "byte", "int", "int64", "real", "name", "string", "text", "struct.Vector", "struct.Rotator",
-	"struct.LinearColor", "object.Actor", "object.BP_Enemy", "object.BP_Door", "class.Actor", "class.BP_Enemy", "enum.EDoorState", "struct.Stats", "mcdelegate"};
+	"struct.LinearColor", "object.Actor", "object.BP_Enemy", "object.BP_Door", "class.Actor", "class.BP_Enemy", "enum.EDoorState",
+	"struct.Stats", "mcdelegate"};
 
 bool IsKnownType(const std::string& Type)
 {
@@ -64,7 +65,8 @@ FJson MakeElement(const FJson& Value)
 	FJson Element = {{"id", ""}, {"type", ""}, {"value", Value}, {"category", ""}};
 	if (Value.is_object())
 	{
-		Element["value"] = {{"type", "entry"}, {"properties", {{{"id", "key"}, {"value", Value["key"]}}, {{"id", "value"}, {"value", Value["value"]}}}}};
+		Element["value"] = {{"type", "entry"},
+			{"properties", {{{"id", "key"}, {"value", Value["key"]}}, {{"id", "value"}, {"value", Value["value"]}}}}};
 	}
 	return Element;
 }
@@ -119,7 +121,8 @@ FJson FScriptedObjectEdit::AddGraph(const FJson& Arguments)
 	{
 		return {};
 	}
-	Blueprint["graphs"].push_back({{"graph_type", "function"}, {"id", Name}, {"name", Name}, {"nodes", FJson::array()}, {"variables", FJson::array()}});
+	Blueprint["graphs"].push_back({{"graph_type", "function"}, {"id", Name}, {"name", Name}, {"nodes", FJson::array()},
+		{"variables", FJson::array()}});
 	Operations.push_back("graph_add " + Name);
 	return {{"blueprint", Blueprint}};
 }
@@ -180,7 +183,8 @@ std::string FScriptedObjectEdit::Execute(const FJson& Target, const FJson& Opera
 		{
 			return "Write Error: Failed to add variable '" + Name + "' of type '" + Value["type_id"].get<std::string>() + "'";
 		}
-		Variables->push_back({{"id", Name}, {"type", Value["type_id"]}, {"value", ""}, {"category", Value.value("category", "Default")}, {"scope", Scope}});
+		Variables->push_back({{"id", Name}, {"type", Value["type_id"]}, {"value", ""}, {"category", Value.value("category", "Default")},
+			{"scope", Scope}});
 		return {};
 	}
 	if (Kind == "update" && Scope.empty())
@@ -287,7 +291,8 @@ std::string FScriptedObjectEdit::Update(const FJson& Target, const FJson& Operat
 	{
 		const char* Path;
 		const char* Type;
-	} Known[] = {{".InitialLifeSpan", "real"}, {".bHidden", "bool"}, {".Mesh.bVisible", "bool"}, {".Body.bVisible", "bool"}, {".Body.LightColor", "struct.Color"}, {".Body.RelativeRotation.Yaw", "real"}, {".CharacterMovement.MaxWalkSpeed", "real"},
+	} Known[] = {{".InitialLifeSpan", "real"}, {".bHidden", "bool"}, {".Mesh.bVisible", "bool"}, {".Body.bVisible", "bool"},
+		{".Body.LightColor", "struct.Color"}, {".Body.RelativeRotation.Yaw", "real"}, {".CharacterMovement.MaxWalkSpeed", "real"},
 		{".Mesh.RelativeLocation", "struct.Vector"}};
 	if (StartsWith(Path, std::string(DefaultObject) + ".PointLight."))
 	{

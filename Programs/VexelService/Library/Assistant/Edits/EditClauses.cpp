@@ -286,7 +286,8 @@ FClauses SplitClauses(FEditWordSpan Words, std::initializer_list<EClause> Kinds)
 	{
 		const std::optional<FOpening> Opening = FindOpening(Words.subspan(At), Kinds);
 		// A default may have such words of its own: "with default Apple = 3".
-		const bool bInDefault = Opening && Opening->Kind == EClause::Default && !Clauses.Rest.empty() && Clauses.Rest.back().Kind == EClause::Default;
+		const bool bWasDefault = !Clauses.Rest.empty() && Clauses.Rest.back().Kind == EClause::Default;
+		const bool bInDefault = bWasDefault && Opening && Opening->Kind == EClause::Default;
 		if (!Opening || bInDefault)
 		{
 			Current->push_back(Words[At++]);
@@ -298,7 +299,8 @@ FClauses SplitClauses(FEditWordSpan Words, std::initializer_list<EClause> Kinds)
 		Current = &Clauses.Rest.back().Words;
 		if (Opening->Own)
 		{
-			Current->assign(Words.begin() + static_cast<std::ptrdiff_t>(At), Words.begin() + static_cast<std::ptrdiff_t>(At + *Opening->Own));
+			Current->assign(Words.begin() + static_cast<std::ptrdiff_t>(At),
+				Words.begin() + static_cast<std::ptrdiff_t>(At + *Opening->Own));
 			At += *Opening->Own + Opening->Trailing;
 		}
 	}

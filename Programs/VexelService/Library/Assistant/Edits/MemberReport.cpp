@@ -141,7 +141,8 @@ void TellRefusal(FEditSession& Session, const std::string& What, const std::vect
 	{
 		const auto Meaning = std::find_if(std::begin(Explanations), std::end(Explanations), [&Error](const FExplanation& Row)
 			{ return Error.find(Row.Text) != std::string::npos; });
-		Text += (Meaning == std::end(Explanations) ? std::string() : " " + std::string(Meaning->Meaning)) + " The editor says: " + Code(CoreOfError(Error));
+		Text += Meaning == std::end(Explanations) ? std::string() : " " + std::string(Meaning->Meaning);
+		Text += " The editor says: " + Code(CoreOfError(Error));
 	}
 	Session.Say(Text + "\n");
 }

@@ -115,7 +115,8 @@ private:
 		const std::string Type = Variable.Type;
 		const std::string OldValue = ShownValue(Variable.Value, Type);
 		const std::size_t NumElements = Variable.Parts.size();
-		const FWireValue Wire = ResolveValue(Session, Value, Type, Scope == "in" || Scope == "out" ? EValueForm::Pin : EValueForm::Property);
+		const FWireValue Wire = ResolveValue(Session, Value, Type,
+			Scope == "in" || Scope == "out" ? EValueForm::Pin : EValueForm::Property);
 		if (!Wire.Json)
 		{
 			Session.Say("I did not set " + Bold(Name) + ", which is " + WithArticle(TypeInWords(Type)) + ": " + Wire.Problem + "\n");
@@ -212,7 +213,8 @@ private:
 		return Owners;
 	}
 
-	std::vector<FJson> GuessValues(FEditSession& Session, const std::string& Path, const std::string& GuessedType, std::string& Problem) const
+	std::vector<FJson> GuessValues(FEditSession& Session, const std::string& Path, const std::string& GuessedType,
+		std::string& Problem) const
 	{
 		const FBlueprintProperty* const Known = FindDefault(Session.Editor.Blueprint(), Path);
 		const std::string& Type = Known && !Known->Type.empty() ? Known->Type : GuessedType;
@@ -236,7 +238,8 @@ private:
 	};
 
 	/** Tries one guess; Errors holds what the editor said of the guess that came nearest. */
-	EAttempt Try(FEditSession& Session, const std::string& Owner, const std::string& Name, const FJson& Wire, std::vector<std::string>& Errors) const
+	EAttempt Try(FEditSession& Session, const std::string& Owner, const std::string& Name, const FJson& Wire,
+		std::vector<std::string>& Errors) const
 	{
 		const std::string Path = Owner + "." + Name;
 		const FBlueprintProperty* const Before = FindDefault(Session.Editor.Blueprint(), Path);
@@ -260,7 +263,8 @@ private:
 	}
 
 	/** Tries the properties of one object; whether one of them was set. */
-	bool TryOwner(FEditSession& Session, const std::string& Owner, std::vector<std::string>& Errors, std::string& Problem, std::size_t& NumAttempts) const
+	bool TryOwner(FEditSession& Session, const std::string& Owner, std::vector<std::string>& Errors, std::string& Problem,
+		std::size_t& NumAttempts) const
 	{
 		for (const FPropertyName& Name : GuessPropertyNames(Member.Names.front()))
 		{
