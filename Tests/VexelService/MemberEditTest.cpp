@@ -41,7 +41,9 @@ FJson MakeRichEnemy()
 	FJson OnHit = MakeNode("OnHit_0", "event.custom", {ExecOut()});
 	OnHit["properties"] = {{{"id", "name"}, {"value", "OnHit"}}};
 	OnHit["editable_pins"] = {MakeVariable("Damage", "real", "", "out")};
+	OnHit["pins"].push_back(DataOut("Damage", "real"));
 	Enemy["graphs"][0]["nodes"].push_back(OnHit);
+	Link(Enemy["graphs"][0], "OnHit_0.Damage", "LessEqual_0.B");
 	Enemy["graphs"][0]["nodes"].push_back(MakeNode("GetBody_0", "var.get.Body", {DataOut("Body", "object.SkeletalMeshComponent")}));
 	for (const FJson& Variable : {MakeVariable("bDead", "bool", "False"), MakeVariable("PatrolIndex", "int", "2"),
 			 MakeVariable("State", "enum.EDoorState", "Open"),
@@ -317,6 +319,7 @@ TEST_F(MemberEdit, ARemovalTellsWhatUsedItAndWhatBroke)
 	EXPECT_THAT(Operations("get rid of the function Heal in BP_Enemy"), ElementsAre("graph_remove Heal"));
 	EXPECT_THAT(Operations("remove the input Damage from the event OnHit of BP_Enemy"),
 		ElementsAre("Node (OnHit_0) in Graph (EventGraph): remove_variable out Damage"));
+	EXPECT_THAT(Answer, AllOf(HasSubstr("1 wire leads from or to **Damage**."), HasSubstr("No step uses **OnHit**.")));
 }
 
 TEST_F(MemberEdit, OtherBlueprintsThatUseAMemberAreToldAndCompiled)
@@ -368,6 +371,8 @@ TEST_F(MemberEdit, DefaultsOfVariablesAreSet)
 		{"set Greeting to \"Good morning, all\" in BP_Enemy", "update member Greeting \"Good morning, all\""},
 		{"set Home to (10, 20, 30) in BP_Enemy", "update member Home \"(X=10,Y=20,Z=30)\""},
 		{"set Home to X=1 Y=2 Z=3 in BP_Enemy", "update member Home \"(X=1,Y=2,Z=3)\""},
+		{"set Waypoints to (1, 2, 3) and (4, 5, 6) and 7, 8, 9 in BP_Enemy",
+			"update member Waypoints {\"0\":\"(X=1,Y=2,Z=3)\",\"1\":\"(X=4,Y=5,Z=6)\",\"2\":\"(X=7,Y=8,Z=9)\"}"},
 		{"set State of BP_Enemy to Closed", "update member State \"Closed\""},
 		{"set Target to L_Harbor in BP_Enemy", "update member Target \"ref|/Game/L_Harbor.L_Harbor\""},
 		{"set Target to none in BP_Enemy", "update member Target \"ref|None\""},

@@ -147,6 +147,18 @@ private:
 		return {.Name = Variable.Id, .Type = Variable.Type, .Scope = Variable.Scope, .Category = Variable.Category};
 	}
 
+	/** What a change of the member has an effect on. Returns the paths of other Blueprints that it has an effect on. */
+	static std::vector<std::string> TellUses(FEditSession& Session, const FMemberPlace& Place)
+	{
+		const bool bParameter = Place.Variable && (Place.Variable->Scope == "in" || Place.Variable->Scope == "out");
+		if (!bParameter)
+		{
+			return TellUsesBefore(Session, Place.Name);
+		}
+		TellWiresBefore(Session, Place.Target, Place.Name);
+		return TellUsesBefore(Session, Place.Owner);
+	}
+
 	/** Whether it was done; tells why when it was not. */
 	static bool Succeeded(FEditSession& Session, const FEditOutcome& Outcome, const std::string& What)
 	{
@@ -164,7 +176,7 @@ private:
 		const FEditTarget Target = Place.Target;
 		FVariableToAdd Changed = Place.Variable ? DescriptionOf(*Place.Variable) : FVariableToAdd();
 		const std::string OldName = std::exchange(Changed.Name, Said.Text);
-		const std::vector<std::string> Others = TellUsesBefore(Session, Place.Name);
+		const std::vector<std::string> Others = TellUses(Session, Place);
 		if (Session.IsOver())
 		{
 			return;
@@ -197,7 +209,7 @@ private:
 			Session.Say(UpperFirst(Subject) + " is of type " + TypeInWords(OldType) + " already. I changed nothing.\n");
 			return;
 		}
-		const std::vector<std::string> Others = TellUsesBefore(Session, Changed.Name);
+		const std::vector<std::string> Others = TellUses(Session, Place);
 		FEditOutcome Outcome;
 		for (const std::string& Type : Types)
 		{
@@ -225,7 +237,7 @@ private:
 		const std::string Name = Place.Name;
 		const std::string Scope = Place.Variable ? Place.Variable->Scope : std::string();
 		const bool bEvent = Place.IsEvent();
-		const std::vector<std::string> Others = TellUsesBefore(Session, Name);
+		const std::vector<std::string> Others = TellUses(Session, Place);
 		if (Session.IsOver())
 		{
 			return;

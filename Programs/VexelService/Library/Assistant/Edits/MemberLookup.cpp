@@ -293,6 +293,7 @@ FMemberPlace FindParameter(const FBlueprintModel& Model, const FSaidMember& Said
 		{
 			Place.Variable = Match.Found;
 			Place.Name = Match.Found->Id;
+			Place.Owner = Function.Found ? Function.Found->Title() : Owner;
 			Place.Noun = Scope.Noun;
 			return Place;
 		}
@@ -382,7 +383,7 @@ FWireValue ResolveValue(FEditSession& Session, const FEditWords& Said, const std
 	{
 		return {.Json = Elements};
 	}
-	for (const FEditWords& Element : SplitListWords(Said))
+	for (const FEditWords& Element : SplitListWords(Said, Parts.Element))
 	{
 		const bool bMap = Parts.Container == "map";
 		const FWireValue Value = bMap ? ResolveEntry(Session, Element, Parts) : ResolveTerminalValue(Session, Element, Parts.Element, Form);

@@ -52,6 +52,8 @@ struct FMemberPlace
 	const FBlueprintVariable* Variable = nullptr;
 	/** The name of what was found; empty where nothing was. */
 	std::string Name = {};
+	/** The function or event of an input or an output, by its name. */
+	std::string Owner = {};
 	/** "variable", "local variable", "input", "output", "function", "event". */
 	std::string Noun = {};
 	/** Where nothing was found: what to tell the user. */

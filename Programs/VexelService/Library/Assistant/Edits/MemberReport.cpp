@@ -4,6 +4,7 @@
 #include "Assistant/Edits/FlowReport.h"
 #include "Assistant/Markdown.h"
 #include "Assistant/NameMatch.h"
+#include "Assistant/NodeTitles.h"
 #include "Assistant/UsageSearch.h"
 #include "Assistant/Words.h"
 
@@ -160,6 +161,20 @@ std::vector<std::string> TellUsesBefore(FEditSession& Session, const std::string
 	}
 	Session.Say(Text.empty() ? "No step uses " + Bold(Name) + ".\n\n" : Text);
 	return Others;
+}
+
+void TellWiresBefore(FEditSession& Session, const FEditTarget& Target, const std::string& Name)
+{
+	const FBlueprintGraph* const Graph = Session.Editor.FindGraph(Target.Graph);
+	std::size_t NumWires = 0;
+	for (const FBlueprintNode& Node : Graph ? Graph->Nodes : std::vector<FBlueprintNode>())
+	{
+		const bool bEnd = IsNodeType(Node, "graph.entry") || IsNodeType(Node, "graph.return");
+		const FBlueprintPin* const Pin = (Target.Node.empty() ? bEnd : Node.Id == Target.Node) ? Node.FindPin(Name) : nullptr;
+		NumWires += Pin ? Pin->Links.size() : 0;
+	}
+	Session.Say(NumWires == 0 ? "No wire leads from or to " + Bold(Name) + ".\n\n"
+							  : UpperFirst(CountOf(NumWires, "wire")) + (NumWires == 1 ? " leads" : " lead") + " from or to " + Bold(Name) + ".\n\n");
 }
 
 std::string ShownValue(const std::string& Value, const std::string& TypeId)

@@ -25,6 +25,9 @@ void TellRefusal(FEditSession& Session, const std::string& What, const std::vect
  */
 std::vector<std::string> TellUsesBefore(FEditSession& Session, const std::string& Name);
 
+/** Tells how many wires lead from and to an input or an output of a function or an event, before it changes under them. */
+void TellWiresBefore(FEditSession& Session, const FEditTarget& Target, const std::string& Name);
+
 /** "float, default 100, category Stats". */
 std::string DescribeVariable(const FBlueprintVariable& Variable);
 

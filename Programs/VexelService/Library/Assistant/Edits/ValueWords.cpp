@@ -366,8 +366,9 @@ std::vector<FJson> GuessWireValues(const FEditWords& Said)
 	return Guesses;
 }
 
-std::vector<FEditWords> SplitListWords(const FEditWords& Said)
+std::vector<FEditWords> SplitListWords(const FEditWords& Said, std::string_view ElementType)
 {
+	const bool bRowIsOne = FindNumberStruct(ElementType) != nullptr;
 	std::vector<FEditWords> Elements(1);
 	const auto Begin = [&Elements]
 	{
@@ -385,7 +386,7 @@ std::vector<FEditWords> SplitListWords(const FEditWords& Said)
 		}
 		// Numbers in a row come as one word.
 		std::string_view Rest = Word.Text;
-		for (std::size_t Comma = Rest.find(','); !Word.bQuoted && Comma != std::string_view::npos; Comma = Rest.find(','))
+		for (std::size_t Comma = Rest.find(','); !Word.bQuoted && !bRowIsOne && Comma != std::string_view::npos; Comma = Rest.find(','))
 		{
 			Elements.back().push_back({.Text = std::string(Rest.substr(0, Comma))});
 			Begin();

@@ -48,8 +48,8 @@ FWireValue MakeWireValue(const FEditWords& Said, std::string_view TypeId, EValue
 /** What words may mean for a property of which nothing is known, the likeliest first. */
 std::vector<FJson> GuessWireValues(const FEditWords& Said);
 
-/** The elements of a list: "1, 2 and 3", "Coin, Gem". */
-std::vector<FEditWords> SplitListWords(const FEditWords& Said);
+/** The elements of a list of a type: "1, 2 and 3", "Coin, Gem"; of vectors "(0, 0, 0) and (1, 2, 3)". */
+std::vector<FEditWords> SplitListWords(const FEditWords& Said, std::string_view ElementType);
 
 /** Whether the words say that there is nothing: "none", "nothing", "empty". */
 bool SaysNothing(const FEditWords& Said);
