@@ -22,6 +22,8 @@ struct FMemberChange
 	std::vector<std::string> Place;
 	/** The value there; null where there is to be nothing. */
 	nlohmann::json Expected;
+	/** Whether what uses it does not fit any more. */
+	bool bBreaks = false;
 };
 
 void PrintTo(const FMemberChange& Change, std::ostream* Stream)
@@ -76,13 +78,16 @@ TEST_P(MemberEdit, OneSentenceMakesItAndUndoTakesItBack)
 	{
 		Undone += "/undo\n";
 	}
-	const FProgramResult Taken = RunVexel({"chat", "--project", Project.GetPath()}, Undone + "/save\n");
+	// The class is what the last compile has made of the variables, so that it shows what was undone when it is compiled again.
+	Undone += std::string("Compile ") + Change.Blueprint + "\n/save\n";
+	const FProgramResult Taken = RunVexel({"chat", "--project", Project.GetPath()}, Undone);
 	EXPECT_THAT(Taken.Output + Taken.Errors, HasSubstr("there is nothing to undo"));
-	EXPECT_EQ(Read(Project, Change.Blueprint), Before);
+	EXPECT_TRUE(Read(Project, Change.Blueprint) == Before) << Taken.Output;
 
 	const FProgramResult Made = RunVexel({"chat", "--project", Project.GetPath(), "--save", "--message", Change.Sentence});
 	EXPECT_EQ(Made.Status, 0) << Made.Errors;
-	EXPECT_THAT(Made.Output, HasSubstr("compiles without errors")) << Made.Output;
+	// Another type may well break what uses a variable, which is then told; the change is made all the same.
+	EXPECT_THAT(Made.Output, HasSubstr(std::string("**") + Change.Blueprint + (Change.bBreaks ? "** does not compile" : "** compiles")));
 	EXPECT_EQ(At(Read(Project, Change.Blueprint), Change.Place), Change.Expected) << Made.Output;
 }
 
@@ -99,7 +104,7 @@ INSTANTIATE_TEST_SUITE_P(Families, MemberEdit,
 			"Health"},
 		FMemberChange{"RenameFunction", "BP_Enemy", "Rename the function Die of BP_Enemy to Perish", {"graphs", "Perish", "graph_type"},
 			"function"},
-		FMemberChange{"Retype", "BP_Player", "Make Keys of BP_Player a float", {"variables", "Keys", "type"}, "real"},
+		FMemberChange{"Retype", "BP_Player", "Make Keys of BP_Player a float", {"variables", "Keys", "type"}, "real", true},
 		FMemberChange{"Remove", "BP_Player", "Remove Keys from BP_Player", {"variables", "Keys"}, nullptr},
 		FMemberChange{"Category", "BP_Door", "Put bLocked of BP_Door in the category Lock", {"variables", "bLocked", "category"}, "Lock"},
 		FMemberChange{"Private", "BP_Door", "Make bIsOpen private in BP_Door", {"variables", "bIsOpen", "private"}, true},
@@ -136,5 +141,5 @@ TEST(MemberEditRefusal, WhatTheEditorRefusesLeavesNothing)
 		"Add a variable Pet of type Dragon to BP_Enemy\nAdd a function Feed to BP_Enemy with an input Food of type Dragon\n/save\n");
 	EXPECT_THAT(Result.Output, HasSubstr("could not add the variable **Pet**"));
 	EXPECT_THAT(Result.Output, HasSubstr("so I took the function back"));
-	EXPECT_EQ(Read(Project, "BP_Enemy"), Before);
+	EXPECT_TRUE(Read(Project, "BP_Enemy") == Before) << Result.Output;
 }

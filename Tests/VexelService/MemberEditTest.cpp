@@ -231,6 +231,25 @@ TEST_F(MemberEdit, OtherMessagesAreNotTakenForEdits)
 	}
 }
 
+TEST_F(MemberEdit, LongMessagesAreReadInBoundedTime)
+{
+	const auto Repeat = [](const char* Text, int Count)
+	{
+		std::string All;
+		for (int Index = 0; Index < Count; ++Index)
+		{
+			All += Text;
+		}
+		return All;
+	};
+	for (const std::string& Message : {"add " + Repeat("a and ", 600), "add a function X with inputs " + Repeat("a float A and ", 600),
+			 "set " + Repeat("of x ", 600) + "to 5", "add " + Repeat("reference to ", 600), "rename " + Repeat("to ", 600),
+			 "add a map " + Repeat("from of to ", 600), "remove " + Repeat("value x from ", 600), Repeat("\"a\" ", 600)})
+	{
+		EXPECT_THAT(Operations(Message), IsEmpty()) << Message.substr(0, 40);
+	}
+}
+
 TEST_F(MemberEdit, AVariableThatIsThereIsNotAddedAgain)
 {
 	EXPECT_THAT(Operations("Add a float variable health to BP_Enemy"), IsEmpty());

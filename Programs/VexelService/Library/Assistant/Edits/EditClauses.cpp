@@ -76,11 +76,32 @@ constexpr FPostfixWords PostfixWords[] = {
 constexpr std::string_view Nouns = "variable|variables|var|vars|property|properties|field|fields|attribute|attributes|member";
 constexpr std::string_view Connectors = "and|with|that|which|also|then|a|an|the";
 
+/** A pattern of leading words, split once: it is tried at every word of every message. */
+struct FLeadingPattern
+{
+	EClause Kind;
+	std::vector<std::string_view> Slots;
+};
+
+const std::vector<FLeadingPattern>& GetLeadingPatterns()
+{
+	static const std::vector<FLeadingPattern> Patterns = []
+	{
+		std::vector<FLeadingPattern> All;
+		for (const FLeadingWords& Row : LeadingWords)
+		{
+			All.push_back({Row.Kind, SplitWords(Row.Pattern, MaxSlots)});
+		}
+		return All;
+	}();
+	return Patterns;
+}
+
 // How many of the words a pattern of leading words takes; 0 when it does not stand there.
-std::size_t CountLeading(std::string_view Pattern, FEditWordSpan Words)
+std::size_t CountLeading(const std::vector<std::string_view>& Slots, FEditWordSpan Words)
 {
 	std::size_t At = 0;
-	for (std::string_view Slot : SplitWords(Pattern, MaxSlots))
+	for (std::string_view Slot : Slots)
 	{
 		const bool bOptional = Slot.front() == '[';
 		Slot = bOptional ? Slot.substr(1, Slot.size() - 2) : Slot;
@@ -133,9 +154,9 @@ std::optional<FOpening> FindOpening(FEditWordSpan Words, std::initializer_list<E
 	const auto IsWanted = [Kinds](EClause Kind)
 	{ return std::find(Kinds.begin(), Kinds.end(), Kind) != Kinds.end(); };
 	std::optional<FOpening> Longest;
-	for (const FLeadingWords& Row : LeadingWords)
+	for (const FLeadingPattern& Row : GetLeadingPatterns())
 	{
-		const std::size_t Count = IsWanted(Row.Kind) ? CountLeading(Row.Pattern, Words) : 0;
+		const std::size_t Count = IsWanted(Row.Kind) ? CountLeading(Row.Slots, Words) : 0;
 		if (Count > (Longest ? Longest->Leading : 0))
 		{
 			Longest = FOpening{.Kind = Row.Kind, .Leading = Count};
@@ -326,7 +347,7 @@ FEditWords WithoutPoliteness(const FEditWords& Words)
 		Rest = bFound ? Rest.subspan(1) : Rest;
 		for (const std::string_view Opening : Openings)
 		{
-			const std::size_t Count = Rest.empty() ? 0 : CountLeading(Opening, Rest);
+			const std::size_t Count = Rest.empty() ? 0 : CountLeading(SplitWords(Opening, MaxSlots), Rest);
 			Rest = Rest.subspan(Count);
 			bFound |= Count > 0;
 		}

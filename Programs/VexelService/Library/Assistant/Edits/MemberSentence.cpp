@@ -14,6 +14,8 @@ namespace
 {
 
 constexpr std::size_t MaxNames = 6;
+/** Nobody says more in one sentence; reading lists takes time that grows with the square of their length. */
+constexpr std::size_t MaxRequestWords = 100;
 
 constexpr std::string_view Moments = "when|whenever|if|once|every|each|while|until|upon|unless|after|before|soon";
 constexpr std::string_view Places = "to|in|on|of|from|for|inside|within|into";
@@ -294,6 +296,10 @@ private:
 std::optional<FEditMessage> ReadMemberMessage(const FEditMessage& Message)
 {
 	FEditMessage Read{.Words = WithoutPoliteness(Message.Words), .Blueprint = Message.Blueprint, .Subject = Message.Subject};
+	if (Read.Words.size() > MaxRequestWords)
+	{
+		return std::nullopt;
+	}
 	TakeSubject(Read);
 	TakePlace(Read);
 	return Read.Words.empty() || TellsMoment(Read.Words) ? std::nullopt : std::optional<FEditMessage>(Read);
