@@ -164,9 +164,8 @@ TEST_F(FBlueprintReaderTest, ACollectedBlueprintIsGone)
 	const FString Path = Blueprint->GetPathName();
 	ASSERT_TRUE(Reader.TryLoadBlueprint(Path)) << Log.ToText();
 	const FVexelBlueprintReader Copy = Reader;
-	Blueprint->ClearFlags(RF_Public | RF_Standalone);
 	Blueprint->MarkAsGarbage();
-	Blueprint = nullptr;
+	LetGoOfBlueprint();
 	CollectGarbage(RF_NoFlags);
 	EXPECT_EQ("", ToStd(Reader.GetBlueprintCode()));
 	EXPECT_EQ("Invalid Blueprint", ErrorOf(Copy));
@@ -213,8 +212,7 @@ TEST_F(FBlueprintReaderTest, ARequestKeepsItsBlueprintAsLongAsAnyCopyOfItLives)
 	First.Emplace(*Blueprint, MakeShared<FVexelBlueprintMapping>());
 	TOptional<FVexelBlueprintRequestHelper> Second = First;
 	EXPECT_EQ(&First->GetMapping(), &Second->GetMapping());
-	Blueprint->ClearFlags(RF_Public | RF_Standalone);
-	Blueprint = nullptr;
+	LetGoOfBlueprint();
 	First.Reset();
 	CollectGarbage(RF_NoFlags);
 	EXPECT_EQ(ToStd(Path), ToStd(Second->GetBlueprint().GetPathName()));

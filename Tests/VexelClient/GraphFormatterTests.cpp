@@ -186,6 +186,54 @@ TEST_F(FGraphFormatterTest, ACommentGoesWithTheNodesThatLieOnIt)
 	EXPECT_EQ(500, Elsewhere.NodeWidth);
 }
 
+TEST_F(FGraphFormatterTest, AValueThatTwoReadStandsBeforeBothAndLanesStayStraight)
+{
+	UEdGraphNode& Event = Place<UK2Node_CustomEvent>();
+	UEdGraphNode& Sequence = Place<UK2Node_ExecutionSequence>();
+	UEdGraphNode& Upper = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& Next = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& Lower = Call("KismetSystemLibrary.PrintString");
+	UEdGraphNode& Convert = Call("KismetStringLibrary.Conv_IntToString");
+	Link(Event, TEXT("then"), Sequence, TEXT("execute"));
+	Link(Sequence, TEXT("then_0"), Upper, TEXT("execute"));
+	Link(Upper, TEXT("then"), Next, TEXT("execute"));
+	Link(Sequence, TEXT("then_1"), Lower, TEXT("execute"));
+	Link(Convert, TEXT("ReturnValue"), Next, TEXT("InString"));
+	Link(Convert, TEXT("ReturnValue"), Lower, TEXT("InString"));
+	FormatAll();
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+	EXPECT_EQ(Upper.NodePosY, Next.NodePosY);
+	EXPECT_LT(Convert.NodePosX, Lower.NodePosX);
+	EXPECT_GT(Convert.NodePosY, Upper.NodePosY) << "below the lane that it does not belong to";
+	EXPECT_GT(Lower.NodePosY, Upper.NodePosY);
+}
+
+TEST_F(FGraphFormatterTest, ALargeGraphIsLaidOutWithoutOverlaps)
+{
+	UEdGraphNode* Before = &Place<UK2Node_CustomEvent>();
+	UEdGraphNode* Shared = &Call("KismetStringLibrary.Conv_IntToString");
+	for (int32 Index = 0; Index < 120; ++Index)
+	{
+		UEdGraphNode& Branch = Place<UK2Node_IfThenElse>();
+		UEdGraphNode& Print = Call("KismetSystemLibrary.PrintString");
+		Link(*Before, TEXT("then"), Branch, TEXT("execute"));
+		Link(Branch, TEXT("else"), Print, TEXT("execute"));
+		Link(*Shared, TEXT("ReturnValue"), Print, TEXT("InString"));
+		Shared = Index % 10 == 0 ? &Call("KismetStringLibrary.Conv_IntToString") : Shared;
+		Before = &Branch;
+	}
+	FormatAll();
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+	for (const UEdGraphNode* const Node : EventGraph->Nodes)
+	{
+		const UEdGraphPin* const Then = Node->IsA<UK2Node_IfThenElse>() ? Node->FindPin(TEXT("then")) : nullptr;
+		if (Then && !Then->LinkedTo.IsEmpty())
+		{
+			EXPECT_EQ(Node->NodePosY, Then->LinkedTo[0]->GetOwningNode()->NodePosY);
+		}
+	}
+}
+
 TEST_F(FGraphFormatterTest, TheTextsOfTheRealEditorAreLaidOutWithoutOverlapsAndTwiceTheSame)
 {
 	const std::filesystem::path Folder = std::filesystem::path(VEXEL_SOURCE_DIR) / "../shared/samples/t3d";

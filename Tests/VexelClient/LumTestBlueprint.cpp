@@ -1,5 +1,6 @@
 #include "LumTestBlueprint.h"
 
+#include "AssetRegistry/AssetRegistryModule.h"
 #include "GameFramework/Actor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/KismetEditorUtilities.h"
@@ -24,11 +25,18 @@ void FLumTest::SetUp()
 
 void FLumTest::TearDown()
 {
+	LetGoOfBlueprint();
+	FEditorTest::TearDown();
+}
+
+void FLumTest::LetGoOfBlueprint()
+{
 	if (Blueprint)
 	{
+		FAssetRegistryModule::AssetDeleted(Blueprint);
 		Blueprint->ClearFlags(RF_Public | RF_Standalone);
+		Blueprint = nullptr;
 	}
-	FEditorTest::TearDown();
 }
 
 UEdGraphNode& FLumTest::AddBareNode(const TCHAR* ClassName, const TCHAR* Property, const TCHAR* Text)

@@ -14,8 +14,10 @@ class FLumTest : public FEditorTest
 {
 protected:
 	virtual void SetUp() override;
-	/** What the test made is no asset of the project any more. */
 	virtual void TearDown() override;
+
+	/** The Blueprint is no asset of the project any more, and goes with the next collection. */
+	void LetGoOfBlueprint();
 
 	/** A node of the class without pins; each property is set from its text form. */
 	UEdGraphNode& AddBareNode(const TCHAR* ClassName, const TCHAR* Property = nullptr, const TCHAR* Text = nullptr);

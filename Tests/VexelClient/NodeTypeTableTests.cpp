@@ -266,6 +266,21 @@ TEST_F(FNodeTypeTableTest, EveryKindOfNodeIsDescribed)
 	}
 }
 
+TEST_F(FNodeTypeTableTest, AKindOfNodeThatIsNewAmongItsLikeIsDescribedAsOneOfThem)
+{
+	for (const TCHAR* const Segment : {TEXT("call."), TEXT("event."), TEXT("struct."), TEXT("var."), TEXT("cast."), TEXT("delegate."),
+			 TEXT("async."), TEXT("macro."), TEXT("enum."), TEXT("literal."), TEXT("input."), TEXT("graph."), TEXT("flow."), TEXT("make."),
+			 TEXT("array."), TEXT("foreach."), TEXT("switch."), TEXT("text."), TEXT("math."), TEXT("timeline."), TEXT("convert."),
+			 TEXT("gameplay_tags."), TEXT("state_tree."), TEXT("livelink."), TEXT("sequencer."), TEXT("camera_rig.")})
+	{
+		const std::string Sentence =
+			ToStd(FVexelNodeTypeDescription::MakeSentence(TVexelNodeTypeId(FString(Segment) + TEXT("new_one")), TEXT("Odd")));
+		EXPECT_NE(std::string::npos, Sentence.find("new_one")) << ToStd(Segment) << ": " << Sentence;
+	}
+	EXPECT_EQ("This is a blueprint node called Odd.",
+		ToStd(FVexelNodeTypeDescription::MakeSentence(TVexelNodeTypeId(TEXT("quantum.flip")), TEXT("Odd"))));
+}
+
 struct FNamedCase
 {
 	const TCHAR* Plain;

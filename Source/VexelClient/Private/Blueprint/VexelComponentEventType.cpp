@@ -21,10 +21,15 @@ const FMulticastDelegateProperty* FindDispatcher(const UClass* Class, const FStr
 
 UBlueprintNodeSpawner* VexelComponentEventType::MakeSpawner(const TVexelNodeTypeId& Id, const UBlueprint& Blueprint)
 {
+	// Most ids are others, and are passed over without a copy.
+	if (!Id.ToString().StartsWith(TEXT("event.")))
+	{
+		return nullptr;
+	}
 	TArray<FString> Parts;
 	Id.ToString().ParseIntoArray(Parts, TEXT("."), false);
 	constexpr int32 NumParts = 4;
-	if (Parts.Num() != NumParts || Parts[0] != TEXT("event") || Parts[2].Len() >= NAME_SIZE || Parts[3].Len() >= NAME_SIZE)
+	if (Parts.Num() != NumParts || Parts[2].Len() >= NAME_SIZE || Parts[3].Len() >= NAME_SIZE)
 	{
 		return nullptr;
 	}

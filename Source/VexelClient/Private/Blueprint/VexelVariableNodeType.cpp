@@ -22,6 +22,8 @@ struct FVariableId
 	FName Name;
 };
 
+constexpr FStringView VariablePrefix(TEXT("var."));
+
 bool TakeWord(FString& Text, const TCHAR* Word)
 {
 	return Text.RemoveFromStart(Word, ESearchCase::IgnoreCase);
@@ -29,12 +31,13 @@ bool TakeWord(FString& Text, const TCHAR* Word)
 
 TOptional<FVariableId> Parse(const TVexelNodeTypeId& Id)
 {
-	FVariableId Parsed;
-	FString Rest = Id.ToString();
-	if (!TakeWord(Rest, TEXT("var.")))
+	// Most ids are others, and are passed over without a copy.
+	if (!Id.ToString().StartsWith(VariablePrefix))
 	{
 		return {};
 	}
+	FVariableId Parsed;
+	FString Rest = Id.ToString().RightChop(VariablePrefix.Len());
 	Parsed.bLocal = TakeWord(Rest, TEXT("local."));
 	Parsed.bWrites = TakeWord(Rest, TEXT("set."));
 	if (!Parsed.bWrites && !TakeWord(Rest, TEXT("get.")))
