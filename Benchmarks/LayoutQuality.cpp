@@ -7,16 +7,18 @@
 #include "GeneratedGraph.h"
 #include "GraphFormatter/GraphFormatter.h"
 #include "LayoutMeasure.h"
+#include "Misc/Base64.h"
 #include "Misc/FileHelper.h"
 #include "Misc/PackageName.h"
 #include "Misc/Paths.h"
+#include "VexelTools.h"
 
 #include <chrono>
 #include <cstdio>
 #include <functional>
 
 // Says how good the formatter's layouts are beside where the nodes came in, and beside Graphviz.
-// LayoutQuality [SAMPLES-DIRECTORY] [LARGEST-NUMBER-OF-NODES]
+// LayoutQuality [SAMPLES-DIRECTORY [LARGEST-NUMBER-OF-NODES [DIRECTORY-FOR-PICTURES]]]
 
 namespace
 {
@@ -30,6 +32,9 @@ void RunAtEndOfMain(void (*Function)())
 
 namespace
 {
+/** Where pictures go; empty for none. */
+std::filesystem::path PictureDirectory;
+
 struct FTotal
 {
 	FLayoutMeasure Before;
@@ -94,6 +99,29 @@ void Compare(const std::string& Name, UEdGraph& Graph, FTotal& Total)
 	Total.DotSeconds += DotSeconds;
 }
 
+/** A picture of the graph as the editor's window shows it. */
+void SavePicture(const std::string& Name, const UBlueprint& Blueprint, const UEdGraph& Graph)
+{
+	const TSharedRef<FJsonObject> Input = MakeShared<FJsonObject>();
+	Input->SetStringField(TEXT("mode"), TEXT("editor"));
+	Input->SetStringField(TEXT("blueprint"), Blueprint.GetPathName());
+	Input->SetStringField(TEXT("graph"), Graph.GetName());
+	const TVexelTaskResult<TSharedRef<FJsonObject>> Call = FVexelToolSession().Call(TEXT("get_scene_screenshot"), Input);
+	for (int32 Tick = 0; !Call.IsComplete() && Tick < 100; ++Tick)
+	{
+		FHeadlessEditor::Tick(0.1f);
+	}
+	if (Call.IsComplete() && Call.Value().HasError())
+	{
+		std::fprintf(stderr, "no picture of %s: %s\n", Name.c_str(), TCHAR_TO_UTF8(*Call.Value().GetError().ToShortString()));
+	}
+	TArray<uint8> Png;
+	if (Call.IsComplete() && Call.Value().HasValue() && FBase64::Decode(Call.Value().GetValue()->GetStringField(TEXT("image")), Png))
+	{
+		std::ofstream(PictureDirectory / (Name + ".png"), std::ios::binary).write(reinterpret_cast<const char*>(Png.GetData()), Png.Num());
+	}
+}
+
 void PrintTotal(const char* Name, const FTotal& Total)
 {
 	std::printf("%-34s            ", Name);
@@ -141,7 +169,12 @@ void ComparePackages(const std::filesystem::path& Folder, FTotal& Total)
 		}
 		for (UEdGraph* const Graph : Graphs)
 		{
-			Compare(Entry.path().stem().string() + "." + TCHAR_TO_UTF8(*Graph->GetName()), *Graph, Total);
+			const std::string Name = Entry.path().stem().string() + "." + TCHAR_TO_UTF8(*Graph->GetName());
+			Compare(Name, *Graph, Total);
+			if (!PictureDirectory.empty())
+			{
+				SavePicture(Name, *Blueprint, *Graph);
+			}
 		}
 	}
 	FPackageName::UnRegisterMountPoint(Root, Directory);
@@ -180,6 +213,7 @@ int main(int NumArguments, char** Arguments)
 		std::fprintf(stderr, "the editor does not start\n");
 		return 1;
 	}
+	PictureDirectory = NumArguments > 3 ? Arguments[3] : "";
 	const int32 MostNodes = NumArguments > 2 ? std::atoi(Arguments[2]) : 500;
 	std::printf("%-34s %5s %5s | %-28s | %-46s | %s\n", "", "", "", "as they came", "ours", "dot");
 	std::printf("%-34s %5s %5s", "graph", "nodes", "wires");

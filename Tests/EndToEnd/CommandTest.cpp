@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+#include <sstream>
 
 namespace
 {
@@ -112,6 +113,46 @@ TEST(Command, AGraphIsRewiredCompiledAndSavedByOneToolAfterTheOther)
 	const FProgramResult Text =
 		RunVexel({"graph", "export", "--project", Project.GetPath(), "--blueprint", "/Game/BP_Door", "--graph", "EventGraph"});
 	EXPECT_THAT(Text.Output, HasSubstr("DefaultValue=\"rewired\""));
+}
+
+TEST(Command, ManyToolsAreCalledInOneSessionAndTheirEditsUndone)
+{
+	const FSampleProjectCopy Project;
+	const std::filesystem::path Calls = std::filesystem::path(Project.GetPath()) / "calls.jsonl";
+	const std::string Read = R"({"tool": "read_blueprint", "input": {"blueprint": "/Game/BP_Door"}})"
+							 "\n";
+	WriteFile(Calls, Read + R"({"tool": "node_spawn", "input": {"blueprint": "/Game/BP_Door", "graph": "EventGraph", "nodes": [)"
+							R"({"node_type": "flow.sequence"}, {"node_type": "call.KismetSystemLibrary.PrintString"}]}})"
+							"\n\n"
+							R"({"tool": "node_link", "input": {"blueprint": "/Game/BP_Door", "graph": "EventGraph", "links": [)"
+							R"({"from_node": "Sequence_0", "from_pin": "then_0", "to_node": "PrintString_2", "to_pin": "execute"}]}})"
+							"\n"
+							R"({"tool": "compile", "input": {"blueprint": "/Game/BP_Door"}})"
+							"\n"
+							R"({"tool": "node_remove", "input": {"blueprint": "/Game/BP_Door", "graph": "NoSuchGraph", "nodes": ["a"]}})"
+							"\n"
+							R"({"undo": 9})"
+							"\n"
+							"no JSON\n" +
+			Read);
+	const FProgramResult Result = RunVexel({"tool", "--calls", Calls.string(), "--project", Project.GetPath()});
+	EXPECT_EQ(Result.Status, 1) << "some of the lines fail";
+	std::vector<nlohmann::json> Answers;
+	std::istringstream Lines(Result.Output);
+	for (std::string Line; std::getline(Lines, Line);)
+	{
+		Answers.push_back(nlohmann::json::parse(Line, nullptr, false));
+	}
+	ASSERT_EQ(Answers.size(), 8u) << Result.Output << Result.Errors;
+	EXPECT_EQ(Answers[1]["answer"]["errors"], nlohmann::json::array());
+	EXPECT_EQ(Answers[2]["answer"]["errors"], nlohmann::json::array()) << "the ids of the call before";
+	EXPECT_EQ(Answers[3]["answer"]["success"], true);
+	EXPECT_THAT(Answers[4]["error"].get<std::string>(), HasSubstr("NoSuchGraph"));
+	EXPECT_EQ(Answers[5]["answer"].size(), 4u) << "two spawns, a link and a layout";
+	EXPECT_EQ(Answers[5]["error"], "there is nothing to undo");
+	EXPECT_THAT(Answers[6]["error"].get<std::string>(), HasSubstr("not a JSON object"));
+	EXPECT_EQ(Answers[7], Answers[0]) << "as it was before";
+	ExpectOneClearLine(RunVexel({"tool", "compile", "--calls", "-"}), 2, "--calls names its tools itself");
 }
 
 TEST(Command, InspectShowsThePackagesTables)

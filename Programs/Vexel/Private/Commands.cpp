@@ -41,6 +41,8 @@ constexpr FOptionRow LoginOptions[] = {
 constexpr FOptionRow AccountOptions[] = {ServiceOption, JsonOption, VerboseOption};
 constexpr FOptionRow ToolOptions[] = {
 	{TEXT("--input"), TEXT("JSON|FILE|-"), TEXT("the tool's arguments, an object")},
+	{TEXT("--calls"), TEXT("FILE|-"),
+		TEXT("calls of many tools, a line of JSON each: {\"tool\": NAME, \"input\": {...}}, {\"undo\": N} or {\"redo\": N}")},
 	ProjectOption,
 	SaveOption,
 	JsonOption,
@@ -61,7 +63,7 @@ const FCommandRow Commands[] = {
 	{TEXT("login"), TEXT("--service URL"), TEXT("a login at a service, in the browser"), LoginOptions, 0, RunLoginCommand},
 	{TEXT("logout"), TEXT("--service URL"), TEXT("ends the login at a service and forgets it"), AccountOptions, 0, RunLogoutCommand},
 	{TEXT("whoami"), TEXT("[--service URL]"), TEXT("who is logged in"), AccountOptions, 0, RunWhoamiCommand},
-	{TEXT("tool"), TEXT("NAME --input JSON|FILE|-"), TEXT("calls one tool as the assistant would"), ToolOptions, 1, RunToolCommand},
+	{TEXT("tool"), TEXT("NAME --input JSON|FILE|- | --calls FILE|-"), TEXT("calls one tool as the assistant would, or many"), ToolOptions, 1, RunToolCommand},
 	{TEXT("tools"), TEXT(""), TEXT("the tool table"), ToolsOptions, 0, RunToolsCommand},
 	{TEXT("graph"), TEXT("show|export|import --blueprint PATH [FILE|-]"),
 		TEXT("a graph as a picture in text; its node text out of it, or into it"), GraphOptions, 2,

@@ -4,6 +4,7 @@
 #include "Dom/JsonObject.h"
 #include "Dom/JsonValue.h"
 #include "Session.h"
+#include "ToolCalls.h"
 #include "VexelJson.h"
 #include "VexelTools.h"
 
@@ -31,27 +32,10 @@ TOptional<TSharedRef<FJsonObject>> ReadInput(const FString& Word)
 	}
 	return Object.ToSharedRef();
 }
-}
 
-int32 RunToolCommand(const FArguments& Arguments)
+int32 RunOneCall(const FString& Name, const TSharedRef<FJsonObject>& Input)
 {
-	if (Arguments.GetPositional().IsEmpty())
-	{
-		FConsole::WriteError(TEXT("tool: which tool? (see: vexel tools)"));
-		return ExitStatus::WrongUsage;
-	}
-	const TOptional<TSharedRef<FJsonObject>> Input = ReadInput(Arguments.Get(TEXT("--input")));
-	if (!Input)
-	{
-		return ExitStatus::Failed;
-	}
-	FSession Session;
-	if (const TOptional<FString> Failure = Session.Start(Arguments))
-	{
-		FConsole::WriteError(*Failure);
-		return ExitStatus::Failed;
-	}
-	const TVexelTaskResult<TSharedRef<FJsonObject>> Call = FVexelTools::Call(Arguments.GetPositional()[0], *Input);
+	const TVexelTaskResult<TSharedRef<FJsonObject>> Call = FVexelToolSession().Call(Name, Input);
 	if (!FSession::TickUntil([&]
 			{ return Call.IsComplete(); }))
 	{
@@ -65,7 +49,33 @@ int32 RunToolCommand(const FArguments& Arguments)
 		return ExitStatus::Failed;
 	}
 	WriteJson(Result.GetValue());
-	return Arguments.Has(TEXT("--save")) && !SaveChangedAssetsOrSay() ? ExitStatus::Failed : ExitStatus::Done;
+	return ExitStatus::Done;
+}
+}
+
+int32 RunToolCommand(const FArguments& Arguments)
+{
+	const bool bManyCalls = Arguments.Has(TEXT("--calls"));
+	if (Arguments.GetPositional().IsEmpty() != bManyCalls)
+	{
+		FConsole::WriteError(bManyCalls ? TEXT("tool: --calls names its tools itself") : TEXT("tool: which tool? (see: vexel tools)"));
+		return ExitStatus::WrongUsage;
+	}
+	const TOptional<FString> Calls = bManyCalls ? ReadFileOrInput(Arguments.Get(TEXT("--calls"))) : FString();
+	const TOptional<TSharedRef<FJsonObject>> Input = ReadInput(Arguments.Get(TEXT("--input")));
+	if (!Input || !Calls)
+	{
+		return ExitStatus::Failed;
+	}
+	FSession Session;
+	if (const TOptional<FString> Failure = Session.Start(Arguments))
+	{
+		FConsole::WriteError(*Failure);
+		return ExitStatus::Failed;
+	}
+	const int32 Status = bManyCalls ? RunToolCalls(*Calls) : RunOneCall(Arguments.GetPositional()[0], *Input);
+	const bool bSaves = Arguments.Has(TEXT("--save")) && (bManyCalls || Status == ExitStatus::Done);
+	return bSaves && !SaveChangedAssetsOrSay() ? ExitStatus::Failed : Status;
 }
 
 int32 RunToolsCommand(const FArguments& Arguments)

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "Containers/Set.h"
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
 #include "VexelTaskResult.h"
+
+class FVexelChatConversation;
 
 /** A row of the tool table, for whoever shows it. */
 struct FVexelToolInfo
@@ -21,10 +24,19 @@ class VEXELCLIENT_API FVexelTools
 public:
 	/** The tool table, in its order. */
 	static TArray<FVexelToolInfo> List();
+};
 
-	/**
-	 * Calls a tool as the assistant would, in a conversation of this call alone. The nodes of a Blueprint that the input names have the ids
-	 * there that "read_blueprint" answers for it.
-	 */
-	static TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FString& Name, const TSharedRef<FJsonObject>& Input);
+/** Calls of tools as the assistant makes them, in one conversation: the ids that one call answers hold in the next. Game thread. */
+class VEXELCLIENT_API FVexelToolSession
+{
+public:
+	FVexelToolSession();
+
+	/** The nodes of a Blueprint that the input names first have the ids that "read_blueprint" answers for it. */
+	TVexelTaskResult<TSharedRef<FJsonObject>> Call(const FString& Name, const TSharedRef<FJsonObject>& Input);
+
+private:
+	TSharedRef<FVexelChatConversation> Conversation;
+	/** Blueprints whose nodes have their ids, by what the inputs call them. */
+	TSet<FString> Named;
 };

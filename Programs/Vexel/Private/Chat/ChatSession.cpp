@@ -10,9 +10,6 @@
 #include "Console.h"
 #include "DiffDocument.h"
 #include "EdGraph/EdGraph.h"
-#include "Editor.h"
-#include "Editor/EditorEngine.h"
-#include "Editor/Transactor.h"
 #include "Engine/Blueprint.h"
 #include "GraphPicture.h"
 #include "HAL/PlatformMisc.h"
@@ -20,6 +17,7 @@
 #include "MarkdownLines.h"
 #include "Misc/App.h"
 #include "Misc/Paths.h"
+#include "UndoStep.h"
 
 namespace
 {
@@ -353,16 +351,11 @@ TOptional<FString> FChatSession::Save(const TArray<FString>&)
 
 TOptional<FString> FChatSession::Travel(bool bBack)
 {
-	const bool bCan = GEditor->Trans && (bBack ? GEditor->Trans->CanUndo() : GEditor->Trans->CanRedo());
-	if (!bCan)
-	{
-		return FString(bBack ? TEXT("there is nothing to undo") : TEXT("there is nothing to redo"));
-	}
-	const FString What = (bBack ? GEditor->Trans->GetUndoContext() : GEditor->Trans->GetRedoContext()).Title.ToString();
+	FString What;
 	FBlueprintWatch Watch;
-	if (!(bBack ? GEditor->UndoTransaction() : GEditor->RedoTransaction()))
+	if (const TOptional<FString> Failure = TakeUndoStep(bBack, What))
 	{
-		return FString::Printf(TEXT("'%s' cannot be %s"), *What, bBack ? TEXT("undone") : TEXT("redone"));
+		return Failure;
 	}
 	const TArray<FBlueprintDiff> Changes = Watch.TakeDiffs();
 	const FString Text = (bBack ? TEXT("undone: ") : TEXT("redone: ")) + What;

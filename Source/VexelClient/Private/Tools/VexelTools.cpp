@@ -8,11 +8,10 @@
 namespace
 {
 /** Gives the nodes of the Blueprint their ids by having it read; what cannot be read is the tool's to complain of. */
-void NameNodes(const TSharedRef<FVexelBlueprintMapping>& Mapping, const FJsonObject& Input)
+void NameNodes(const TSharedRef<FVexelBlueprintMapping>& Mapping, const FString& BlueprintId)
 {
-	FString BlueprintId;
 	UBlueprint* Blueprint = nullptr;
-	if (Input.TryGetStringField(TEXT("blueprint"), BlueprintId) && Mapping->ResolveBlueprint(TVexelBlueprintId(BlueprintId), Blueprint))
+	if (Mapping->ResolveBlueprint(TVexelBlueprintId(BlueprintId), Blueprint))
 	{
 		static_cast<void>(FVexelBlueprintRequestHelper(*Blueprint, Mapping).Export());
 	}
@@ -30,7 +29,12 @@ TArray<FVexelToolInfo> FVexelTools::List()
 	return Infos;
 }
 
-TVexelTaskResult<TSharedRef<FJsonObject>> FVexelTools::Call(const FString& Name, const TSharedRef<FJsonObject>& Input)
+FVexelToolSession::FVexelToolSession()
+	: Conversation(MakeShared<FVexelChatConversation>())
+{
+}
+
+TVexelTaskResult<TSharedRef<FJsonObject>> FVexelToolSession::Call(const FString& Name, const TSharedRef<FJsonObject>& Input)
 {
 	const TVexelExpected<TSharedRef<FVexelTool>> Tool = FVexelToolManager::Get().FindTool(FName(*Name.Left(NAME_SIZE - 1)));
 	if (Tool.HasError())
@@ -38,7 +42,12 @@ TVexelTaskResult<TSharedRef<FJsonObject>> FVexelTools::Call(const FString& Name,
 		return Tool.GetError();
 	}
 	FVexelToolContext Context;
-	Context.Conversation = MakeShared<FVexelChatConversation>();
-	NameNodes(Context.Conversation->GetMapping(), *Input);
+	Context.Conversation = Conversation;
+	FString BlueprintId;
+	if (Input->TryGetStringField(TEXT("blueprint"), BlueprintId) && !Named.Contains(BlueprintId))
+	{
+		Named.Add(BlueprintId);
+		NameNodes(Conversation->GetMapping(), BlueprintId);
+	}
 	return Tool.GetValue()->Call(Context, FVexelToolInput(Input));
 }
