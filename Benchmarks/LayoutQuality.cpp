@@ -107,16 +107,17 @@ void SavePicture(const std::string& Name, const UBlueprint& Blueprint, const UEd
 	Input->SetStringField(TEXT("blueprint"), Blueprint.GetPathName());
 	Input->SetStringField(TEXT("graph"), Graph.GetName());
 	const TVexelTaskResult<TSharedRef<FJsonObject>> Call = FVexelToolSession().Call(TEXT("get_scene_screenshot"), Input);
-	for (int32 Tick = 0; !Call.IsComplete() && Tick < 100; ++Tick)
+	while (!Call.IsComplete())
 	{
-		FHeadlessEditor::Tick(0.1f);
+		FHeadlessEditor::WaitAndTick(0.01f);
 	}
-	if (Call.IsComplete() && Call.Value().HasError())
+	if (Call.Value().HasError())
 	{
 		std::fprintf(stderr, "no picture of %s: %s\n", Name.c_str(), TCHAR_TO_UTF8(*Call.Value().GetError().ToShortString()));
+		return;
 	}
 	TArray<uint8> Png;
-	if (Call.IsComplete() && Call.Value().HasValue() && FBase64::Decode(Call.Value().GetValue()->GetStringField(TEXT("image")), Png))
+	if (FBase64::Decode(Call.Value().GetValue()->GetStringField(TEXT("image")), Png))
 	{
 		std::ofstream(PictureDirectory / (Name + ".png"), std::ios::binary).write(reinterpret_cast<const char*>(Png.GetData()), Png.Num());
 	}

@@ -117,9 +117,9 @@ TEST(LaneOrder, UntanglesWhatCanBe)
 {
 	const TArray<FLaneBlock> Blocks = MakeColumns(4, 4, {{0, 3}, {1, 2}, {2, 1}, {3, 0}});
 	FLaneOrder Order(Blocks);
-	EXPECT_EQ(6, Order.CountCrossings());
+	EXPECT_EQ(6, Order.GetCost());
 	Order.Improve();
-	EXPECT_EQ(0, Order.CountCrossings());
+	EXPECT_EQ(0, Order.GetCost());
 }
 
 TEST(LaneOrder, CrossesNoMoreThanItMust)
@@ -128,7 +128,7 @@ TEST(LaneOrder, CrossesNoMoreThanItMust)
 	const TArray<FLaneBlock> Blocks = MakeColumns(2, 3, {{0, 0}, {0, 1}, {0, 2}, {1, 0}, {1, 1}, {1, 2}});
 	FLaneOrder Order(Blocks);
 	Order.Improve();
-	EXPECT_EQ(3, Order.CountCrossings());
+	EXPECT_EQ(3, Order.GetCost());
 }
 
 TEST(LaneHeights, KeepTheOrderAndTheGapsAndLevelWhatTheyCan)

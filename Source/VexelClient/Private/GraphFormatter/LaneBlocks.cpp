@@ -137,9 +137,9 @@ void FLaneBlocks::AddLane(const TArray<FStep>& Lane)
 				if (Left > Columns.Columns[Wire.From])
 				{
 					Block.Cells.Add({WireY - WireRoom, WireY + WireRoom, {}, {}});
-					Block.Cells.Last().Left.Add({Index, WireY, WireY});
+					Block.Cells.Last().Left.Add({Index, WireY, WireY, true});
 				}
-				Block.Cells.Last().Right.Add({Index, WireY, WireY});
+				Block.Cells.Last().Right.Add({Index, WireY, WireY, true});
 			}
 			Y = WireY - Wire.ToY;
 		}
@@ -148,7 +148,7 @@ void FLaneBlocks::AddLane(const TArray<FStep>& Lane)
 		if (Block.Nodes.Num() > 1)
 		{
 			const double WireY = Y + Graph.Wires[Step.Wire].ToY;
-			Block.Cells.Last().Left.Add({Index, WireY, WireY});
+			Block.Cells.Last().Left.Add({Index, WireY, WireY, true});
 		}
 	}
 }
@@ -226,7 +226,7 @@ void FLaneBlocks::AddWiresOfPin(TArrayView<const int32> PinWires)
 		}
 		if (NumPassed == 0)
 		{
-			Link(From.Block, FromColumn, FromY, Places[Wire.To].Block, Places[Wire.To].Y + Wire.ToY);
+			Link(From.Block, FromColumn, FromY, Places[Wire.To].Block, Places[Wire.To].Y + Wire.ToY, Wire.bExec);
 			continue;
 		}
 		FarWires.Add(Index);
@@ -245,18 +245,18 @@ void FLaneBlocks::AddWiresOfPin(TArrayView<const int32> PinWires)
 	}
 	for (int32 Column = FromColumn + 1; Column < LastColumn; ++Column)
 	{
-		Link(Way, Column, 0, Way, 0);
+		Link(Way, Column, 0, Way, 0, FirstWire.bExec);
 	}
-	Link(From.Block, FromColumn, FromY, Way, 0);
+	Link(From.Block, FromColumn, FromY, Way, 0, FirstWire.bExec);
 	for (const int32 Index : FarWires)
 	{
 		const FFormatterWire& Wire = Graph.Wires[Index];
-		Link(Way, Columns.Columns[Wire.To] - 1, 0, Places[Wire.To].Block, Places[Wire.To].Y + Wire.ToY);
+		Link(Way, Columns.Columns[Wire.To] - 1, 0, Places[Wire.To].Block, Places[Wire.To].Y + Wire.ToY, Wire.bExec);
 	}
 }
 
-void FLaneBlocks::Link(int32 From, int32 Column, double FromY, int32 To, double ToY)
+void FLaneBlocks::Link(int32 From, int32 Column, double FromY, int32 To, double ToY, bool bExec)
 {
-	Blocks[From].Cells[Column - Blocks[From].FirstColumn].Right.Add({To, FromY, ToY});
-	Blocks[To].Cells[Column + 1 - Blocks[To].FirstColumn].Left.Add({From, ToY, FromY});
+	Blocks[From].Cells[Column - Blocks[From].FirstColumn].Right.Add({To, FromY, ToY, bExec});
+	Blocks[To].Cells[Column + 1 - Blocks[To].FirstColumn].Left.Add({From, ToY, FromY, bExec});
 }

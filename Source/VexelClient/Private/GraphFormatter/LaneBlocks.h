@@ -13,6 +13,7 @@ struct FLaneLink
 	/** Of the wire's ends below the origins of this block and of the other one. */
 	double OwnY;
 	double OtherY;
+	bool bExec = false;
 };
 
 /** What a block has in one column. */
@@ -80,7 +81,7 @@ private:
 	void AddWires(const TArray<int32>& Starts);
 	/** The wires of one pin: those to the next column, and one way for all that go further. */
 	void AddWiresOfPin(TArrayView<const int32> PinWires);
-	void Link(int32 From, int32 Column, double FromY, int32 To, double ToY);
+	void Link(int32 From, int32 Column, double FromY, int32 To, double ToY, bool bExec);
 	bool IsInLane(int32 Wire) const;
 
 	const FFormatterGraph& Graph;

@@ -28,18 +28,18 @@ TArray<double> FindHeights(const TArray<FLaneBlock>& Blocks)
 	FLaneOrder Order(Blocks);
 	FLaneHeights Heights(Blocks);
 	TArray<double> Best;
-	int64 LeastCrossings = MAX_int64;
+	int64 LeastCost = MAX_int64;
 	double LeastLength = 0;
 	const int32 NumTries = FMath::Clamp(BlocksOfAllTries / Blocks.Num(), MinTries, MaxTries);
 	for (int32 Try = 0; Try < NumTries; ++Try)
 	{
 		Order.Improve();
 		Heights.Place(Order.Get());
-		const int64 NumCrossings = Order.CountCrossings();
+		const int64 Cost = Order.GetCost();
 		const double Length = Heights.GetLength();
-		if (NumCrossings < LeastCrossings || (NumCrossings == LeastCrossings && Length < LeastLength))
+		if (Cost < LeastCost || (Cost == LeastCost && Length < LeastLength))
 		{
-			LeastCrossings = NumCrossings;
+			LeastCost = Cost;
 			LeastLength = Length;
 			Best = Heights.Get();
 		}

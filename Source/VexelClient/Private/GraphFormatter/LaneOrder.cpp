@@ -10,6 +10,13 @@ namespace
 constexpr int32 MaxRounds = 6;
 /** How far a block is moved at once. */
 constexpr int32 MaxSiftDistance = 160;
+/** How much worse it is to cross a wire of execution, along which one reads, than one of values. */
+constexpr int32 ExecWeight = 3;
+
+int32 GetWeight(bool bExecA, bool bExecB)
+{
+	return bExecA || bExecB ? ExecWeight : 1;
+}
 }
 
 FLaneOrder::FLaneOrder(const TArray<FLaneBlock>& InBlocks)
@@ -89,8 +96,9 @@ int32 FLaneOrder::GetCostOfSwap(const FLaneBlock& Upper, const FLaneBlock& Lower
 			for (const FLaneLink& B : LowerLinks)
 			{
 				const double Way = A.Block != B.Block ? Ranks[A.Block] - Ranks[B.Block] : A.OtherY - B.OtherY;
-				Cost += Way < 0 ? 1 : Way > 0 ? -1
-											  : 0;
+				const int32 Weight = GetWeight(A.bExec, B.bExec);
+				Cost += Way < 0 ? Weight : Way > 0 ? -Weight
+												   : 0;
 			}
 		}
 	};
@@ -106,7 +114,7 @@ int32 FLaneOrder::GetCostOfSwap(const FLaneBlock& Upper, const FLaneBlock& Lower
 	return Cost;
 }
 
-int64 FLaneOrder::CountCrossings() const
+int64 FLaneOrder::GetCost() const
 {
 	/** An end of a wire: the place of its block, and where it is there. */
 	struct FEnd
@@ -120,6 +128,7 @@ int64 FLaneOrder::CountCrossings() const
 	{
 		FEnd Left;
 		FEnd Right;
+		bool bExec;
 	};
 	TMap<int32, TArray<FWire>> WiresByColumn;
 	for (int32 Block = 0; Block < Blocks.Num(); ++Block)
@@ -128,11 +137,11 @@ int64 FLaneOrder::CountCrossings() const
 		{
 			for (const FLaneLink& Link : Blocks[Block].Cells[Cell].Right)
 			{
-				WiresByColumn.FindOrAdd(Blocks[Block].FirstColumn + Cell).Add({{Ranks[Block], Link.OwnY}, {Ranks[Link.Block], Link.OtherY}});
+				WiresByColumn.FindOrAdd(Blocks[Block].FirstColumn + Cell).Add({{Ranks[Block], Link.OwnY}, {Ranks[Link.Block], Link.OtherY}, Link.bExec});
 			}
 		}
 	}
-	int64 NumCrossings = 0;
+	int64 Cost = 0;
 	for (auto& [Column, Wires] : WiresByColumn)
 	{
 		for (int32 A = 0; A < Wires.Num(); ++A)
@@ -141,9 +150,10 @@ int64 FLaneOrder::CountCrossings() const
 			{
 				const FWire& First = Wires[A];
 				const FWire& Second = Wires[B];
-				NumCrossings += (First.Left < Second.Left && Second.Right < First.Right) || (Second.Left < First.Left && First.Right < Second.Right);
+				const bool bCross = (First.Left < Second.Left && Second.Right < First.Right) || (Second.Left < First.Left && First.Right < Second.Right);
+				Cost += bCross ? GetWeight(First.bExec, Second.bExec) : 0;
 			}
 		}
 	}
-	return NumCrossings;
+	return Cost;
 }

@@ -13,17 +13,17 @@ public:
 
 	/** Puts the blocks into the order of the heights, which are by block. */
 	void SortBy(const TArray<double>& Heights);
-	/** Moves each block among those around it to where the fewest wires cross, until none is better off elsewhere. */
+	/** Moves each block among those around it to where its wires cross the others least, until none is better off elsewhere. */
 	void Improve();
 
-	/** How many pairs of wires cross. */
-	int64 CountCrossings() const;
+	/** How many pairs of wires cross; those with one of execution count more. */
+	int64 GetCost() const;
 	/** The blocks from top to bottom. */
 	const TArray<int32>& Get() const { return Order; }
 
 private:
 	bool Sift(int32 Block);
-	/** How many more wires cross when the lower one of two neighbours goes above the other. */
+	/** How much more wires cross when the lower one of two neighbours goes above the other. */
 	int32 GetCostOfSwap(const FLaneBlock& Upper, const FLaneBlock& Lower) const;
 	void UpdateRanks(int32 First, int32 Last);
 
