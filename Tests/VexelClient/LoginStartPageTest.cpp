@@ -1,4 +1,5 @@
 #include "LoginFixture.h"
+#include "OtherUser.h"
 #include "RawHttpClient.h"
 #include "VexelHttpServer.h"
 
@@ -9,7 +10,6 @@
 #include <gmock/gmock.h>
 #include <regex>
 #include <sys/stat.h>
-#include <sys/syscall.h>
 #include <thread>
 
 namespace
@@ -173,19 +173,13 @@ TEST_F(LoginStartPage, ManyVisitorsAtOnceAreLedOnceAltogether)
 
 TEST_F(LoginStartPage, AnotherUserOfTheMachineNeitherSeesTheLoginNorUsesThePageUp)
 {
-	if (geteuid() != 0)
+	Launch();
+	std::string Answer;
+	if (!RunAsOtherUser([&]
+			{ Answer = Visit(); }))
 	{
 		GTEST_SKIP() << "only root can be another user for a moment";
 	}
-	Launch();
-	// The system call of this thread alone: the C library's would make the whole process another user.
-	constexpr long Nobody = 65534;
-	std::string Answer;
-	std::thread([&]
-		{
-			ASSERT_EQ(syscall(SYS_setresuid, Nobody, Nobody, Nobody), 0);
-			Answer = Visit(); })
-		.join();
 	EXPECT_THAT(Answer, StartsWith("HTTP/1.1 403"));
 	EXPECT_THAT(Answer, Not(HasSubstr("state=")));
 	EXPECT_THAT(Visit(), StartsWith("HTTP/1.1 302"));

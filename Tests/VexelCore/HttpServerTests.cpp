@@ -2,6 +2,7 @@
 #include "AnsweringAddresses.h"
 #include "Http/LoopbackPeer.h"
 #include "HttpFixture.h"
+#include "OtherUser.h"
 #include "RawHttpClient.h"
 #include "VexelHttpServer.h"
 
@@ -9,7 +10,6 @@
 #include <atomic>
 #include <netinet/in.h>
 #include <sys/socket.h>
-#include <sys/syscall.h>
 #include <thread>
 #include <unistd.h>
 
@@ -219,22 +219,19 @@ TEST_F(FHttpServerTest, APortThatSomebodyElseHasAtTheOtherAddressIsTaken)
 
 TEST_F(FHttpServerTest, ProgramsOfOtherUsersReachNoHandler)
 {
-	if (geteuid() != 0)
-	{
-		GTEST_SKIP() << "only root can be another user for a moment";
-	}
 	std::atomic<int32> NumCalls = 0;
 	Run([&](const FVexelHttpServerRequest&)
 		{ ++NumCalls; return FVexelHttpServerResponse(); });
-	// The system calls of this thread alone: the C library's would make the whole process another user.
-	constexpr long Nobody = 65534;
 	std::string Answers[2];
-	std::thread([&]
-		{
-			ASSERT_EQ(syscall(SYS_setresuid, Nobody, Nobody, Nobody), 0);
-			Answers[0] = FRawClient(Server.GetPort()).Ask(MakeGet("/a"));
-			Answers[1] = HasIpv6() ? FRawClient(Server.GetPort(), in6addr_loopback).Ask(MakeGet("/a")) : Answers[0]; })
-		.join();
+	const auto AskBoth = [&]
+	{
+		Answers[0] = FRawClient(Server.GetPort()).Ask(MakeGet("/a"));
+		Answers[1] = HasIpv6() ? FRawClient(Server.GetPort(), in6addr_loopback).Ask(MakeGet("/a")) : Answers[0];
+	};
+	if (!RunAsOtherUser(AskBoth))
+	{
+		GTEST_SKIP() << "only root can be another user for a moment";
+	}
 	EXPECT_THAT(Answers, testing::Each(testing::StartsWith("HTTP/1.1 403")));
 	EXPECT_EQ(NumCalls, 0);
 	EXPECT_THAT(FRawClient(Server.GetPort()).Ask(MakeGet("/a")), testing::StartsWith("HTTP/1.1 200"));
