@@ -65,7 +65,8 @@ void DescribeGraph(const FGraphDifference& Graph, FLines& Lines)
 		std::string Line = GetSign(Node.Kind) + "node " + ToText(Shown.Title) + (Node.bFollows ? " follows" : "");
 		for (const FAspectDifference& Aspect : Node.bFollows ? TArray<FAspectDifference>() : Node.Aspects)
 		{
-			Line += "; " + ToText(ToWord(Aspect.Aspect)) + " " + ToText(Aspect.Name) + ": " + ToText(Aspect.Before) + " > " + ToText(Aspect.After);
+			Line += "; " + ToText(ToWord(Aspect.Aspect)) + " " + ToText(Aspect.Name);
+			Line += ": " + ToText(Aspect.Before) + " > " + ToText(Aspect.After);
 		}
 		Lines.push_back(Line);
 	}

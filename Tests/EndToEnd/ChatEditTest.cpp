@@ -26,7 +26,8 @@ protected:
 	}
 	static std::string MakeSpawnOfPrint() { return MakeSpawn("print", "call.KismetSystemLibrary.PrintString", R"({"InString":"Creak"})"); }
 
-	static std::string MakeLink(const std::string& Id, const std::string& From, const std::string& FromPin, const std::string& To, const std::string& ToPin)
+	static std::string MakeLink(const std::string& Id, const std::string& From, const std::string& FromPin, const std::string& To,
+		const std::string& ToPin)
 	{
 		return MakeCall("node_link", Id,
 			R"(,"graph":"EventGraph","links":[{"from_node":")" + From + R"(","from_pin":")" + FromPin + R"(","to_node":")" + To + R"(","to_pin":")" +

@@ -26,8 +26,8 @@ protected:
 
 	TArray<FStyledLine> DrawStyled(int32 Width = 80, int32 MaxLines = MAX_int32) const
 	{
-		return DrawDiff(
-			FBlueprintDiff::Compare(Before.ToSharedRef(), MakeShared<FBlueprintSnapshot>(FBlueprintSnapshot::Take(*Blueprint))), Width, MaxLines);
+		const TSharedRef<const FBlueprintSnapshot> After = MakeShared<FBlueprintSnapshot>(FBlueprintSnapshot::Take(*Blueprint));
+		return DrawDiff(FBlueprintDiff::Compare(Before.ToSharedRef(), After), Width, MaxLines);
 	}
 
 	/** What changed since Remember(), without its heading. */
@@ -215,7 +215,8 @@ TEST_F(DiffPicture, CommentsAndReroutesAreTold)
 
 TEST_F(DiffPicture, VariablesAndWhatFollowsTheirNames)
 {
-	FEdGraphPinType Real(UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_Double, nullptr, EPinContainerType::None, false, FEdGraphTerminalType());
+	const FEdGraphPinType Real(
+		UEdGraphSchema_K2::PC_Real, UEdGraphSchema_K2::PC_Double, nullptr, EPinContainerType::None, false, FEdGraphTerminalType());
 	FBlueprintEditorUtils::AddMemberVariable(Blueprint, TEXT("Health"), Real, TEXT("100.0"));
 	FKismetEditorUtilities::CompileBlueprint(Blueprint);
 	Add<UK2Node_VariableGet>([](UK2Node_VariableGet& Node)

@@ -213,7 +213,8 @@ FMemberSnapshot TakeVariable(const FBPVariableDescription& Variable, const UObje
 	AddValue(Taken.Values, TEXT("description"), GetMetaData(TEXT("tooltip")));
 	AddFlag(Taken.Values, TEXT("exposed on spawn"), GetMetaData(TEXT("ExposeOnSpawn")) == TEXT("true"));
 	AddFlag(Taken.Values, TEXT("private"), GetMetaData(TEXT("BlueprintPrivate")) == TEXT("true"));
-	AddFlag(Taken.Values, TEXT("instance editable"), (Variable.PropertyFlags & CPF_Edit) && !(Variable.PropertyFlags & CPF_DisableEditOnInstance));
+	const bool bEditable = (Variable.PropertyFlags & CPF_Edit) && !(Variable.PropertyFlags & CPF_DisableEditOnInstance);
+	AddFlag(Taken.Values, TEXT("instance editable"), bEditable);
 	AddFlag(Taken.Values, TEXT("read only"), (Variable.PropertyFlags & CPF_BlueprintReadOnly) != 0);
 	AddFlag(Taken.Values, TEXT("saved"), (Variable.PropertyFlags & CPF_SaveGame) != 0);
 	AddValue(Taken.Values, TEXT("replicated"), GetReplication(Variable));

@@ -61,7 +61,8 @@ TArray<FBlueprintDiff> FBlueprintWatch::TakeDiffs()
 	{
 		if (const UBlueprint* const Blueprint = Entry.Blueprint.Get())
 		{
-			FBlueprintDiff Diff = FBlueprintDiff::Compare(Entry.Before, MakeShared<FBlueprintSnapshot>(FBlueprintSnapshot::Take(*Blueprint)));
+			const TSharedRef<const FBlueprintSnapshot> After = MakeShared<FBlueprintSnapshot>(FBlueprintSnapshot::Take(*Blueprint));
+			FBlueprintDiff Diff = FBlueprintDiff::Compare(Entry.Before, After);
 			if (!Diff.IsEmpty())
 			{
 				Diffs.Add(MoveTemp(Diff));

@@ -19,11 +19,9 @@ void FDiffLines::AddChange(EDifference Difference, const FStyledLine& Text, cons
 		Count();
 		return;
 	}
-	const TCHAR* const Sign = Difference == EDifference::Added ? TEXT("+ ") : Difference == EDifference::Removed ? TEXT("- ")
-																												 : TEXT("~ ");
 	const FTextStyle RailStyle = Difference == EDifference::Changed ? TextStyle::Faint : DiffText::GetStyle(Difference);
-	FStyledLine First(Sign, DiffText::GetStyle(Difference));
-	FStyledLine Next(Sign, DiffText::GetStyle(Difference));
+	FStyledLine First(DiffText::GetSign(Difference) + FString(TEXT(" ")), DiffText::GetStyle(Difference));
+	FStyledLine Next = First;
 	Add(Text, First.Add(Rail, RailStyle), Next.Add(NextRail, RailStyle));
 }
 
@@ -51,8 +49,22 @@ TArray<FStyledLine> FDiffLines::Finish()
 
 FTextStyle DiffText::GetStyle(EDifference Difference)
 {
-	return Difference == EDifference::Added ? TextStyle::Good : Difference == EDifference::Removed ? TextStyle::Bad
-																								   : TextStyle::Accent;
+	constexpr FTextStyle Styles[] = {TextStyle::Good, TextStyle::Bad, TextStyle::Accent};
+	return Styles[int32(Difference)];
+}
+
+const TCHAR* DiffText::GetSign(EDifference Difference)
+{
+	constexpr const TCHAR* Signs[] = {TEXT("+"), TEXT("-"), TEXT("~")};
+	return Signs[int32(Difference)];
+}
+
+FTextStyle DiffText::GetNameStyle(EDifference Difference, bool bRenamed)
+{
+	FTextStyle Style = Difference == EDifference::Changed ? TextStyle::Plain : GetStyle(Difference);
+	Style = bRenamed ? TextStyle::Good : Style;
+	Style.bBold = true;
+	return Style;
 }
 
 void DiffText::AddValue(FStyledLine& Text, const FString& Name, const FString& Before, const FString& After)

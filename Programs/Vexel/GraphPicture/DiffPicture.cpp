@@ -32,10 +32,7 @@ void DrawMember(const FMemberDifference& Member, FDiffLines& Lines)
 	{
 		Text.Add(Member.OldName, TextStyle::Bad).Add(TEXT(" → "), TextStyle::Faint);
 	}
-	FTextStyle NameStyle = Member.Kind != EDifference::Changed ? DiffText::GetStyle(Member.Kind) : Member.OldName.IsEmpty() ? TextStyle::Plain
-																															: TextStyle::Good;
-	NameStyle.bBold = true;
-	Text.Add(Member.Name, NameStyle);
+	Text.Add(Member.Name, DiffText::GetNameStyle(Member.Kind, !Member.OldName.IsEmpty()));
 	for (const FValueDifference& Value : Member.Values)
 	{
 		if (Member.Kind == EDifference::Changed)
@@ -117,11 +114,7 @@ private:
 		{
 			Text.Add(Difference.Before->Name, TextStyle::Bad).Add(TEXT(" → "), TextStyle::Faint);
 		}
-		const bool bSame = Difference.Kind == EDifference::Changed;
-		FTextStyle NameStyle = bSame && !Difference.IsRenamed() ? TextStyle::Plain : bSame ? TextStyle::Good
-																						   : DiffText::GetStyle(Difference.Kind);
-		NameStyle.bBold = true;
-		Text.Add(Graph.Name, NameStyle);
+		Text.Add(Graph.Name, DiffText::GetNameStyle(Difference.Kind, Difference.IsRenamed()));
 		if (Graph.Kind != TEXT("event graph"))
 		{
 			Text.Add(TEXT("  ") + Graph.Kind, TextStyle::Faint);
@@ -142,9 +135,8 @@ private:
 			const int32 Num = CountKind(Kind);
 			if (Num > 0)
 			{
-				const TCHAR* const Sign = Kind == EDifference::Added ? TEXT("+") : Kind == EDifference::Removed ? TEXT("-")
-																												: TEXT("~");
-				Text.Add(Total == 0 ? TEXT("  ") : TEXT(" ")).Add(FString::Printf(TEXT("%s%d"), Sign, Num), DiffText::GetStyle(Kind));
+				Text.Add(Total == 0 ? TEXT("  ") : TEXT(" "));
+				Text.Add(FString::Printf(TEXT("%s%d"), DiffText::GetSign(Kind), Num), DiffText::GetStyle(Kind));
 				Total += Num;
 			}
 		}
@@ -328,9 +320,9 @@ private:
 		}
 		for (const FAspectDifference& Aspect : Own ? (*Own)->Aspects : NoAspects)
 		{
-			const bool bInInputs = Aspect.Aspect == ENodeAspect::PinValue && Inputs && Inputs->ContainsByPredicate([&](const FInputChange& Change)
-																						   { return Change.Label.Equals(Aspect.Name); });
-			if (!bInInputs)
+			const auto IsOfAspect = [&](const FInputChange& Change)
+			{ return Change.Label.Equals(Aspect.Name); };
+			if (Aspect.Aspect != ENodeAspect::PinValue || !Inputs || !Inputs->ContainsByPredicate(IsOfAspect))
 			{
 				AddAspect(Text, Aspect);
 			}
@@ -389,7 +381,7 @@ private:
 		}
 		for (const auto& [Index, Inputs] : InputChanges)
 		{
-			if (Merged.Get(Index).bPure && !Changed.Contains(Index) && !ShownAfter.Named.Contains(Index) && !ShownAfter.Unnamed.Contains(Index))
+			if (Merged.Get(Index).bPure && !Changed.Contains(Index) && !ShownAfter.Contains(Index))
 			{
 				DrawLooseNode(EDifference::Changed, Index);
 			}
@@ -455,7 +447,8 @@ private:
 		if (Num > 0)
 		{
 			bDrewNode = true;
-			Lines.AddChange(Kind, FStyledLine(FString::Printf(TEXT("%d reroute %s"), Num, Num == 1 ? TEXT("node") : TEXT("nodes")), DiffText::GetStyle(Kind)));
+			const FString Text = FString::Printf(TEXT("%d reroute %s"), Num, Num == 1 ? TEXT("node") : TEXT("nodes"));
+			Lines.AddChange(Kind, FStyledLine(Text, DiffText::GetStyle(Kind)));
 		}
 	}
 
@@ -491,10 +484,7 @@ TArray<FStyledLine> DrawDiff(const FBlueprintDiff& Diff, int32 Width, int32 MaxL
 	FDiffLines Lines(FMath::Max(Width, MinWidth), MaxLines);
 	if (!Diff.Settings.IsEmpty() || !Diff.ClassDefaults.IsEmpty() || !Diff.Members.IsEmpty())
 	{
-		const EDifference Kind = Diff.GetKind();
-		FTextStyle Style = Kind == EDifference::Changed ? TextStyle::Plain : DiffText::GetStyle(Kind);
-		Style.bBold = true;
-		Lines.AddChange(Kind, FStyledLine(Diff.GetShown().Name, Style));
+		Lines.AddChange(Diff.GetKind(), FStyledLine(Diff.GetShown().Name, DiffText::GetNameStyle(Diff.GetKind())));
 	}
 	for (const FValueDifference& Value : Diff.Settings)
 	{

@@ -31,7 +31,7 @@ public:
 		DrawTitles(TEXT("Nothing uses: "), FindPure([&](int32 Node)
 											   { return !UsedValues.Contains(Node); }));
 		DrawTitles(TEXT("Left out above: "), FindPure([&](int32 Node)
-												 { return UsedValues.Contains(Node) && !Shown.Named.Contains(Node) && !Shown.Unnamed.Contains(Node); }));
+												 { return UsedValues.Contains(Node) && !Shown.Contains(Node); }));
 		DrawTitles(TEXT("Without effect: "), Flow.GetGhosts());
 		return MoveTemp(Lines);
 	}
@@ -63,8 +63,9 @@ private:
 				Lines.AddDefaulted();
 				if (Line.Node != INDEX_NONE)
 				{
-					DrawComment(Graph.Nodes[Line.Node]);
-					AddText(WriteLine(Line, TextStyle::Title).Add(WriteRootOutputs(Graph.Nodes[Line.Node]), TextStyle::Faint), Rail, Line.NextRail);
+					const FNodeSnapshot& Root = Graph.Nodes[Line.Node];
+					DrawComment(Root);
+					AddText(WriteLine(Line, TextStyle::Title).Add(WriteRootOutputs(Root), TextStyle::Faint), Rail, Line.NextRail);
 				}
 				break;
 			case EFlowLine::Node:
@@ -113,7 +114,8 @@ private:
 		}
 		if (Innermost && !Innermost->Comment.IsEmpty())
 		{
-			AddText(FStyledLine(Innermost->Comment, {.bDim = true, .bItalic = true}), FStyledLine(TEXT("# "), TextStyle::Faint), TEXT("  "));
+			const FStyledLine Text(Innermost->Comment, {.bDim = true, .bItalic = true});
+			AddText(Text, FStyledLine(TEXT("# "), TextStyle::Faint), TEXT("  "));
 		}
 	}
 
@@ -143,7 +145,10 @@ private:
 		AddText(Titles, FStyledLine(Label, TextStyle::Accent), FStyledLine());
 	}
 
-	void AddText(const FStyledLine& Text, const FStyledLine& First, const FStyledLine& Next) { AddFlowText(Lines, Text, Width, First, Next); }
+	void AddText(const FStyledLine& Text, const FStyledLine& First, const FStyledLine& Next)
+	{
+		AddFlowText(Lines, Text, Width, First, Next);
+	}
 
 	const FGraphSnapshot& Graph;
 	const int32 Width;

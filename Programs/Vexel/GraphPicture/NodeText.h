@@ -30,6 +30,7 @@ struct FShownNodes
 	/** The text has their values alone: conversions. */
 	TSet<int32> Unnamed;
 
+	bool Contains(int32 Node) const { return Named.Contains(Node) || Unnamed.Contains(Node); }
 	/** Adds those of an expression, unless it is cut: nobody knows what is left of it then. */
 	void Add(const FPinExpression& Expression)
 	{

@@ -181,7 +181,8 @@ int32 RunDiffCommand(const FArguments& Arguments)
 		if (!Sides->GitPath.IsEmpty())
 		{
 			// Git gives up the whole listing when a program fails on one file of it.
-			FConsole::WriteLine(FString::Printf(TEXT("vexel diff %s\nThe files differ, and are no Blueprints that can be compared"), *Sides->GitPath));
+			FConsole::WriteLine(TEXT("vexel diff ") + Sides->GitPath);
+			FConsole::WriteLine(TEXT("The files differ, and are no Blueprints that can be compared"));
 			return ExitStatus::Done;
 		}
 		FConsole::WriteError(*Failure);
