@@ -263,6 +263,23 @@ TEST_F(BlueprintDiff, VariablesComeGoAndChange)
 		ElementsAre("- variable Health"));
 }
 
+TEST_F(BlueprintDiff, ADefaultIsToldBeforeAndAfterTheCompile)
+{
+	const FEdGraphPinType Vector(UEdGraphSchema_K2::PC_Struct, NAME_None, FindObject<UScriptStruct>(nullptr, TEXT("/Script/CoreUObject.Vector")), EPinContainerType::None, false,
+		FEdGraphTerminalType());
+	AddVariable(TEXT("Health"));
+	FBlueprintEditorUtils::AddMemberVariable(Blueprint, TEXT("Place"), Vector);
+	EXPECT_THAT(After([&]
+					{ FKismetEditorUtilities::CompileBlueprint(Blueprint); }),
+		IsEmpty())
+		<< "nobody wrote a default";
+	AddVariable(TEXT("Speed"));
+	const int32 Speed = FBlueprintEditorUtils::FindNewVariableIndex(Blueprint, TEXT("Speed"));
+	EXPECT_THAT(After([&]
+					{ Blueprint->NewVariables[Speed].DefaultValue = TEXT("5.0"); }),
+		ElementsAre("~ variable Speed; default:  > 5"));
+}
+
 TEST_F(BlueprintDiff, NodesOfARenamedVariableFollowIt)
 {
 	AddVariable(TEXT("Health"));

@@ -92,6 +92,22 @@ TEST_F(ChatEdit, APipeShowsWhatEachEditDid)
 		"  - └ Print String  In String: Open Angle\n");
 }
 
+TEST_F(ChatEdit, WhatFollowsFromAnEditOfMembersIsShownToo)
+{
+	SetChat(MakeEdits({MakeCall("object_edit", "edit", R"(,"requests":[{"target":{"target_type":"blueprint"},"operations":[
+		{"operation":"add_variable","scope":"member","name":"OpenCount","value":{"type_id":"int","category":"Door"}},
+		{"operation":"edit_variable","scope":"member","name":"OpenAngle","value":{"prop_id":"Angle"}},
+		{"operation":"remove_variable","scope":"member","name":"Handle"}]}])")}));
+	EXPECT_THAT(RunInPipe("Do it\n").Output,
+		HasSubstr("[Object edits applied]\n"
+				  "  ! Failed to execute operation on target 'Blueprint': Write Error: Variable 'Handle' with scope 'member' not found\n"
+				  "  ~ BP_Door\n"
+				  "  ~ variable OpenAngle → Angle\n"
+				  "  + variable OpenCount  type: Integer  category: Door\n"
+				  "  ~ BP_Door · OpenDoor  function\n"
+				  "    1 node goes by the new name\n"));
+}
+
 TEST_F(ChatEdit, UndoAndRedoShowWhatTheyDid)
 {
 	SetChat(MakeEdits({MakeSpawnOfPrint(), MakeCall("graph_add", "add", R"(,"graph":"Creak")")}));

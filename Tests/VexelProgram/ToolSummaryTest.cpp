@@ -38,7 +38,7 @@ std::vector<std::string> Find(const FString& Answer)
 
 TEST(ToolSummary, ErrorsOfItemsAndOfTheCompilerAreProblems)
 {
-	EXPECT_THAT(Find(TEXT(R"({"blueprint":{},"errors":["first","second"]})")), ElementsAre("first", "second"));
+	EXPECT_THAT(Find(TEXT(R"({"blueprint":{},"warnings":["third"],"errors":["first","second"]})")), ElementsAre("first", "second", "warning: third"));
 	EXPECT_THAT(Find(TEXT(R"({"success":false,"compiler_messages":[{"severity":"error","message":"no such pin"},
 		{"severity":"info","message":"took 3 ms"},{"severity":"warning","message":"unused"}]})")),
 		ElementsAre("error: no such pin", "warning: unused"));

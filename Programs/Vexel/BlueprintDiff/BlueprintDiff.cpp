@@ -4,11 +4,7 @@
 
 namespace
 {
-const TCHAR* const DefaultValue = TEXT("default");
-
-/** @param bDefaultsOfAllTypes Whether a default that one side leaves to the type is no difference. */
-TArray<FValueDifference> CompareValues(
-	const TArray<FValueSnapshot>& Before, const TArray<FValueSnapshot>& After, bool bDefaultsOfTypes = false)
+TArray<FValueDifference> CompareValues(const TArray<FValueSnapshot>& Before, const TArray<FValueSnapshot>& After)
 {
 	TArray<FValueDifference> Differences;
 	TMap<FString, const FString*> BeforeValues;
@@ -20,8 +16,7 @@ TArray<FValueDifference> CompareValues(
 	{
 		const FString* BeforeValue = nullptr;
 		BeforeValues.RemoveAndCopyValue(Value.Name, BeforeValue);
-		// Until it is compiled a variable has no more than what was written for it, which may be nothing.
-		const bool bSame = BeforeValue ? BeforeValue->Equals(Value.Value) : bDefaultsOfTypes && Value.Name == DefaultValue;
+		const bool bSame = BeforeValue ? BeforeValue->Equals(Value.Value) : Value.bOfType;
 		if (!bSame)
 		{
 			Differences.Add({Value.Name, BeforeValue ? *BeforeValue : FString(), Value.Value});
@@ -29,7 +24,7 @@ TArray<FValueDifference> CompareValues(
 	}
 	for (const FValueSnapshot& Value : Before)
 	{
-		if (BeforeValues.Contains(Value.Name) && !(bDefaultsOfTypes && Value.Name == DefaultValue))
+		if (BeforeValues.Contains(Value.Name) && !Value.bOfType)
 		{
 			Differences.Add({Value.Name, Value.Value, FString()});
 		}
@@ -53,7 +48,7 @@ TArray<FMemberDifference> CompareMembers(const TArray<FMemberSnapshot>& Before, 
 			continue;
 		}
 		const FMemberSnapshot& Then = Before[Matched.BeforeOf[Index]];
-		FMemberDifference Difference{EDifference::Changed, Now.Kind, Now.Name, FString(), CompareValues(Then.Values, Now.Values, true)};
+		FMemberDifference Difference{EDifference::Changed, Now.Kind, Now.Name, FString(), CompareValues(Then.Values, Now.Values)};
 		Difference.OldName = Then.Name.Equals(Now.Name) ? FString() : Then.Name;
 		if (!Difference.OldName.IsEmpty() || !Difference.Values.IsEmpty())
 		{

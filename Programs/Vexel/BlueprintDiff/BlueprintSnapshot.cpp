@@ -76,7 +76,7 @@ void AddValue(TArray<FValueSnapshot>& Values, const TCHAR* Name, const FString& 
 {
 	if (!Value.IsEmpty())
 	{
-		Values.Add({Name, Value});
+		Values.Add({Name, Value, false});
 	}
 }
 
@@ -180,8 +180,8 @@ FString GetReplication(const FBPVariableDescription& Variable)
 	return Variable.RepNotifyFunc.IsNone() ? FString(Yes) : TEXT("calls ") + Variable.RepNotifyFunc.ToString();
 }
 
-/** The value that the class gives a variable; until the variable is compiled, the one that was written for it. */
-FString GetDefault(const FBPVariableDescription& Variable, const UObject* Defaults)
+/** The value that the class gives a variable; until the variable is compiled, the one that was written for it, which may be none. */
+void AddDefault(TArray<FValueSnapshot>& Values, const FBPVariableDescription& Variable, const UObject* Defaults)
 {
 	const UClass* const Class = Defaults ? Defaults->GetClass() : nullptr;
 	// One that was renamed has its earlier name in the class until the next compile.
@@ -189,13 +189,18 @@ FString GetDefault(const FBPVariableDescription& Variable, const UObject* Defaul
 	const FName Name = CompiledName.IsNone() ? Variable.VarName : CompiledName;
 	const FProperty* const Property = Class ? FindFProperty<FProperty>(Class, Name) : nullptr;
 	FString Value = Variable.DefaultValue;
+	bool bOfType = false;
 	if (Property && Property->GetOwnerClass() == Class)
 	{
 		Value.Reset();
 		Property->ExportTextItem_InContainer(Value, Defaults, nullptr, nullptr, PPF_None);
+		bOfType = Property->Identical(Property->ContainerPtrToValuePtr<void>(Defaults), nullptr);
 	}
-	// "100.0", as somebody wrote it, and "100.000000", as the class has it, are one value.
-	return ShortenNumber(Value);
+	if (!Value.IsEmpty())
+	{
+		// "100.0", as somebody wrote it, and "100.000000", as the class has it, are one value.
+		Values.Add({TEXT("default"), ShortenNumber(Value), bOfType});
+	}
 }
 
 /** @param Defaults The class's default object, which knows the value once the variable is compiled; may be null. */
@@ -206,7 +211,7 @@ FMemberSnapshot TakeVariable(const FBPVariableDescription& Variable, const UObje
 	Taken.Name = Variable.VarName.ToString();
 	Taken.Kind = Variable.VarType.PinCategory == UEdGraphSchema_K2::PC_MCDelegate ? TEXT("dispatcher") : TEXT("variable");
 	AddValue(Taken.Values, TEXT("type"), UEdGraphSchema_K2::TypeToText(Variable.VarType).ToString());
-	AddValue(Taken.Values, TEXT("default"), GetDefault(Variable, Defaults));
+	AddDefault(Taken.Values, Variable, Defaults);
 	AddValue(Taken.Values, TEXT("category"), Variable.Category.ToString());
 	const auto GetMetaData = [&](const TCHAR* Key)
 	{ return Variable.HasMetaData(Key) ? Variable.GetMetaData(Key) : FString(); };
@@ -238,7 +243,7 @@ void TakeValues(const UObject& Object, const UObject& Archetype, const UClass& C
 		{
 			FString Value;
 			Property->ExportTextItem_InContainer(Value, &Object, nullptr, nullptr, PPF_None);
-			Values.Add({Property->GetName(), Value});
+			Values.Add({Property->GetName(), Value, false});
 		}
 	}
 }

@@ -11,6 +11,8 @@ struct FValueSnapshot
 {
 	FString Name;
 	FString Value;
+	/** It is what the type is without anybody's doing: a missing value says the same. */
+	bool bOfType = false;
 };
 
 /** The other end of a wire, by indices into the same graph snapshot. */

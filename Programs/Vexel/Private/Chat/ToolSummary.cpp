@@ -36,6 +36,23 @@ TArray<TSharedPtr<FJsonObject>> GetObjects(const FJsonObject& Object, const TCHA
 	return Objects;
 }
 
+/** The texts of an array; anything else in it is passed over. */
+void AddTexts(const FJsonObject& Answer, const TCHAR* Key, const TCHAR* Prefix, TArray<FString>& Problems)
+{
+	const TArray<TSharedPtr<FJsonValue>>* Texts = nullptr;
+	if (Answer.TryGetArrayField(Key, Texts))
+	{
+		for (const TSharedPtr<FJsonValue>& Value : *Texts)
+		{
+			FString Text;
+			if (Value && Value->TryGetString(Text))
+			{
+				Problems.Add(Prefix + FVexelStringUtil::ToPrintableLine(Text, MaxProblemLength));
+			}
+		}
+	}
+}
+
 /** What a compiler says, where it is more than a note. */
 void AddCompilerMessages(const FJsonObject& Answer, TArray<FString>& Problems)
 {
@@ -56,18 +73,8 @@ constexpr const TCHAR* SubjectKeys[] = {TEXT("blueprint"), TEXT("asset"), TEXT("
 TArray<FString> FindProblems(const FJsonObject& Answer)
 {
 	TArray<FString> Problems;
-	const TArray<TSharedPtr<FJsonValue>>* Errors = nullptr;
-	if (Answer.TryGetArrayField(TEXT("errors"), Errors))
-	{
-		for (const TSharedPtr<FJsonValue>& Error : *Errors)
-		{
-			FString Text;
-			if (Error && Error->TryGetString(Text))
-			{
-				Problems.Add(FVexelStringUtil::ToPrintableLine(Text, MaxProblemLength));
-			}
-		}
-	}
+	AddTexts(Answer, TEXT("errors"), TEXT(""), Problems);
+	AddTexts(Answer, TEXT("warnings"), TEXT("warning: "), Problems);
 	AddCompilerMessages(Answer, Problems);
 	if (Problems.Num() > MaxProblems)
 	{
