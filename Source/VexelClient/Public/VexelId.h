@@ -25,7 +25,11 @@ public:
 	const TCHAR* operator*() const { return *Text; }
 
 	/** Letter case does not matter. */
-	bool operator==(const TVexelId& Other) const { return Text == Other.Text; }
+	bool operator==(const TVexelId& Other) const
+	{
+		// Ids are mostly given as they were made, and so compared faster.
+		return Text.Equals(Other.Text, ESearchCase::CaseSensitive) || Text.Equals(Other.Text, ESearchCase::IgnoreCase);
+	}
 
 	friend uint32 GetTypeHash(const TVexelId& Id) { return GetTypeHash(Id.Text); }
 

@@ -19,6 +19,9 @@ FVexelBlueprintNodeTypePin::FVexelBlueprintNodeTypePin(const UEdGraphPin& Pin, F
 
 void FVexelBlueprintNodeTypePin::ToJson(const TSharedRef<FJsonObject>& Object) const
 {
+	// A graph has tens of thousands of pins: their objects do not grow field by field.
+	constexpr int32 NumUsualFields = 8;
+	Object->Values.Reserve(NumUsualFields);
 	Object->SetStringField(TEXT("id"), Id);
 	Object->SetStringField(TEXT("dir"), VexelBlueprintWords::GetWord(Direction));
 	Object->SetStringField(TEXT("guid"), Guid.ToString(EGuidFormats::Digits));
@@ -75,6 +78,8 @@ FVexelBlueprintNodePinConnection::FVexelBlueprintNodePinConnection(const UEdGrap
 
 void FVexelBlueprintNodePinConnection::ToJson(const TSharedRef<FJsonObject>& Object) const
 {
+	constexpr int32 NumFields = 3;
+	Object->Values.Reserve(NumFields);
 	Object->SetStringField(TEXT("node"), Node);
 	Object->SetStringField(TEXT("pin"), Pin);
 	Object->SetStringField(TEXT("guid"), Guid);
