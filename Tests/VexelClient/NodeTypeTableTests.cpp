@@ -1,10 +1,14 @@
+#include "AssetRegistry/AssetRegistryModule.h"
 #include "Blueprint/Builders/VexelNodeTypeDescription.h"
 #include "Blueprint/Builders/VexelNodeTypeRules.h"
 #include "BlueprintNodeSpawner.h"
 #include "EdGraphSchema_K2.h"
 #include "GameFramework/Actor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/KismetEditorUtilities.h"
 #include "LumTestBlueprint.h"
+#include "UObject/Interface.h"
+#include "UObject/Package.h"
 
 #include <algorithm>
 #include <set>
@@ -366,6 +370,43 @@ TEST_F(FNodeTypeTableTest, AParentCallIsOfTheFunctionThatTheGraphOverrides)
 	ASSERT_TRUE(Mapping.ResolveNodeTypeForGraph(TVexelNodeTypeId(TEXT("call.super")), *Construction, Spawner));
 	EXPECT_FALSE(Mapping.ResolveNodeTypeForGraph(TVexelNodeTypeId(TEXT("call.super")), *Heal, Spawner));
 	EXPECT_FALSE(Mapping.ResolveNodeTypeForBlueprint(TVexelNodeTypeId(TEXT("call.super")), *Blueprint, Spawner));
+}
+
+TEST_F(FNodeTypeTableTest, AClassThatIsNotCompiledAgainstIsReadByTheNamesOfItsMembers)
+{
+	EXPECT_EQ("convert.asset", IdOf(AddBareNode(TEXT("K2Node_ConvertAssetOfClass"))));
+	EXPECT_EQ("convert.asset.Actor", IdOf(AddBareNode(TEXT("K2Node_ConvertAssetOfClass"), TEXT("TargetClass"), ActorClass)));
+}
+
+TEST_F(FNodeTypeTableTest, AsynchronousTasksAreNamedByWhatStartsThem)
+{
+	EXPECT_EQ("async.AsyncActionHandleSaveGame.AsyncSaveGameToSlot", SpawnedId(TEXT("async.AsyncActionHandleSaveGame.AsyncSaveGameToSlot")));
+	const TCHAR* const SaveGame = TEXT("/Script/CoreUObject.Class'/Script/Engine.AsyncActionHandleSaveGame'");
+	const UEdGraphNode& Half = AddBareNode(TEXT("K2Node_AsyncAction"), TEXT("ProxyFactoryClass"), SaveGame);
+	EXPECT_EQ("", IdOf(Half)) << "without the function it is no task";
+}
+
+TEST_F(FNodeTypeTableTest, MacrosOfTheEngineAndOfTheBlueprintAreFoundByTheirNames)
+{
+	EXPECT_EQ("macro.ForEachLoop", SpawnedId(TEXT("macro.foreachloop")));
+	UEdGraph* const Twice =
+		FBlueprintEditorUtils::CreateNewGraph(Blueprint, TEXT("Twice"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	FBlueprintEditorUtils::AddMacroGraph(Blueprint, Twice, true, nullptr);
+	EXPECT_EQ("macro.Twice", SpawnedId(TEXT("macro.Twice")));
+}
+
+TEST_F(FNodeTypeTableTest, MessagesOfAnInterfaceAreFoundByItsName)
+{
+	UPackage* const Package = CreatePackage(TEXT("/Game/BPI_Usable"));
+	UBlueprint* const Interface =
+		FKismetEditorUtilities::CreateBlueprint(UInterface::StaticClass(), Package, TEXT("BPI_Usable"), BPTYPE_Interface);
+	ASSERT_NE(nullptr, Interface);
+	UEdGraph* const Use = FBlueprintEditorUtils::CreateNewGraph(Interface, TEXT("Use"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Interface, Use, true, nullptr);
+	FKismetEditorUtilities::CompileBlueprint(Interface);
+	EXPECT_EQ("call.interface.BPI_Usable.Use", SpawnedId(TEXT("call.interface.BPI_Usable.Use")));
+	FAssetRegistryModule::AssetDeleted(Interface);
+	Interface->ClearFlags(RF_Public | RF_Standalone);
 }
 
 TEST_F(FNodeTypeTableTest, TimelinesOfOneNameGetNamesOfTheirOwn)

@@ -1,6 +1,11 @@
+#include "AssetRegistry/AssetRegistryModule.h"
 #include "Blueprint/VexelBlueprintMapping.h"
 #include "Containers/StringConv.h"
 #include "Dom/JsonValue.h"
+#include "Engine/Blueprint.h"
+#include "GameFramework/Actor.h"
+#include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/KismetEditorUtilities.h"
 #include "Lum/Compound/LumUnrealObjectCompound.h"
 #include "Lum/LumContext.h"
 #include "LumTestTypes.h"
@@ -93,6 +98,22 @@ protected:
 	}
 };
 
+/** One with a variable that has every flag. */
+UBlueprint* MakeBlueprintWithFlags()
+{
+	UBlueprint* const Blueprint = FKismetEditorUtilities::CreateBlueprint(
+		AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Flags")), TEXT("BP_Flags"), BPTYPE_Normal);
+	FEdGraphPinType Type;
+	Type.PinCategory = TEXT("int");
+	FBlueprintEditorUtils::AddMemberVariable(Blueprint, TEXT("Everything"), Type);
+	FBPVariableDescription& Variable = Blueprint->NewVariables[0];
+	Variable.PropertyFlags |= CPF_BlueprintReadOnly | CPF_SaveGame | CPF_Transient | CPF_Net;
+	Variable.PropertyFlags &= ~CPF_DisableEditOnInstance;
+	Variable.SetMetaData(TEXT("BlueprintPrivate"), TEXT("true"));
+	Variable.SetMetaData(TEXT("ExposeOnSpawn"), TEXT("true"));
+	return Blueprint;
+}
+
 std::string Print(const TSharedRef<FJsonObject>& Object)
 {
 	FString Text;
@@ -111,12 +132,17 @@ TEST_F(FBlueprintDocumentTest, EveryKeyIsDescribedAndEveryDescribedKeyOccurs)
 		}
 	};
 	ForEachExported(Collect);
-	// No object of the sample project has a part of its own.
+	// No object of the sample project has a part of its own, and none of its variables every flag.
 	ULumThing* const Thing = NewObject<ULumThing>(GetTransientPackage());
 	Thing->Part = NewObject<ULumPart>(Thing);
 	const auto Whole = MakeShared<FLumUnrealObjectCompound>(*Thing)->JsonExportObject(FLumContext(MakeShared<FVexelBlueprintMapping>()));
 	ASSERT_TRUE(Whole.HasValue());
 	ForEachObject(MakeShared<FJsonValueObject>(Whole.GetValue()), Collect);
+	UBlueprint* const Blueprint = MakeBlueprintWithFlags();
+	const TSharedRef<FJsonObject> Export = Answer("read_blueprint", R"({"blueprint": "/Game/BP_Flags.BP_Flags"})");
+	ForEachObject(MakeShared<FJsonValueObject>(Export), Collect);
+	Blueprint->ClearFlags(RF_Public | RF_Standalone);
+	FAssetRegistryModule::AssetDeleted(Blueprint);
 	EXPECT_EQ(Exported, ReadPage().Keys);
 }
 
