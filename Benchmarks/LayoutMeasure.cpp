@@ -65,6 +65,20 @@ bool Passes(const FSegment& Segment, FBox2D Box)
 	return Clip(Segment.A.X, Direction.X, Box.Min.X, Box.Max.X) && Clip(Segment.A.Y, Direction.Y, Box.Min.Y, Box.Max.Y);
 }
 
+template <typename ElementType, typename FunctionType>
+int64 CountPairs(const std::vector<ElementType>& Elements, FunctionType AreCounted)
+{
+	int64 NumPairs = 0;
+	for (size_t A = 0; A < Elements.size(); ++A)
+	{
+		for (size_t B = A + 1; B < Elements.size(); ++B)
+		{
+			NumPairs += AreCounted(Elements[A], Elements[B]);
+		}
+	}
+	return NumPairs;
+}
+
 /** A cell for each pin at its height, so that wires end there. */
 std::string MakeColumn(const char* Side, const std::set<double>& PinYs, double Height)
 {
@@ -117,37 +131,25 @@ FLayoutMeasure FLayoutSubject::Measure(const std::vector<FVector2D>& Places) con
 	{
 		Boxes.emplace_back(Places[Index], Places[Index] + Sizes[Index]);
 	}
-	for (size_t A = 0; A < Boxes.size(); ++A)
-	{
-		for (size_t B = A + 1; B < Boxes.size(); ++B)
-		{
-			Result.NumOverlaps += Boxes[A].Min.X < Boxes[B].Max.X && Boxes[B].Min.X < Boxes[A].Max.X && Boxes[A].Min.Y < Boxes[B].Max.Y &&
-				Boxes[B].Min.Y < Boxes[A].Max.Y;
-		}
-	}
+	Result.NumOverlaps = CountPairs(Boxes, [](const FBox2D& A, const FBox2D& B)
+		{ return A.Min.X < B.Max.X && B.Min.X < A.Max.X && A.Min.Y < B.Max.Y && B.Min.Y < A.Max.Y; });
 	std::vector<FSegment> Segments;
 	for (const FWire& Wire : Wires)
 	{
-		const FSegment Segment{
-			FVector2D(Boxes[Wire.From].Max.X, Places[Wire.From].Y + Wire.FromY), FVector2D(Places[Wire.To].X, Places[Wire.To].Y + Wire.ToY)};
+		const FSegment Segment{FVector2D(Boxes[Wire.From].Max.X, Places[Wire.From].Y + Wire.FromY),
+			FVector2D(Places[Wire.To].X, Places[Wire.To].Y + Wire.ToY)};
 		Segments.push_back(Segment);
 		Result.Length += (Segment.B - Segment.A).Size();
 		Result.NumExec += Wire.bExec;
 		Result.NumLevel += Wire.bExec && std::abs(Segment.B.Y - Segment.A.Y) < LevelTolerance;
-	}
-	for (size_t A = 0; A < Segments.size(); ++A)
-	{
-		for (size_t B = A + 1; B < Segments.size(); ++B)
-		{
-			Result.NumCrossings += DoCross(Segments[A], Segments[B]);
-		}
 		bool bCovered = false;
 		for (int32 Node = 0; Node < int32(Boxes.size()) && !bCovered; ++Node)
 		{
-			bCovered = Node != Wires[A].From && Node != Wires[A].To && Passes(Segments[A], Boxes[Node]);
+			bCovered = Node != Wire.From && Node != Wire.To && Passes(Segment, Boxes[Node]);
 		}
 		Result.NumCovered += bCovered;
 	}
+	Result.NumCrossings = CountPairs(Segments, DoCross);
 	return Result;
 }
 
@@ -161,14 +163,15 @@ std::string FLayoutSubject::ToDot() const
 		Inputs[Wire.To].insert(Wire.ToY);
 	}
 	std::ostringstream Text;
-	Text << "digraph G {\nrankdir=LR; splines=line; ranksep=" << GapBetweenColumns / UnitsPerInch << "; nodesep=" << GapBetweenNodes / UnitsPerInch
+	Text << "digraph G {\nrankdir=LR; splines=line; ranksep=" << GapBetweenColumns / UnitsPerInch
+		 << "; nodesep=" << GapBetweenNodes / UnitsPerInch
 		 << ";\nnode [shape=plain];\n";
 	for (size_t Node = 0; Node < Sizes.size(); ++Node)
 	{
 		const double Height = Sizes[Node].Y;
 		Text << "n" << Node << " [label=<<TABLE BORDER=\"0\" CELLBORDER=\"0\" CELLSPACING=\"0\" CELLPADDING=\"0\"><TR><TD>"
-			 << MakeColumn("i", Inputs[Node], Height) << "</TD><TD FIXEDSIZE=\"TRUE\" WIDTH=\"" << int(Sizes[Node].X - 8) << "\" HEIGHT=\"" << int(Height)
-			 << "\"></TD><TD>" << MakeColumn("o", Outputs[Node], Height) << "</TD></TR></TABLE>>];\n";
+			 << MakeColumn("i", Inputs[Node], Height) << "</TD><TD FIXEDSIZE=\"TRUE\" WIDTH=\"" << int(Sizes[Node].X - 8) << "\" HEIGHT=\""
+			 << int(Height) << "\"></TD><TD>" << MakeColumn("o", Outputs[Node], Height) << "</TD></TR></TABLE>>];\n";
 	}
 	for (const FWire& Wire : Wires)
 	{

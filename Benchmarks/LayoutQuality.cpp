@@ -54,6 +54,12 @@ void Add(FLayoutMeasure& Sum, const FLayoutMeasure& Each)
 	Sum.NumExec += Each.NumExec;
 }
 
+/** What is told of layouts alone: how many wires of execution are level, and what the layout took. */
+void PrintLayout(const FLayoutMeasure& Measure, double Seconds)
+{
+	std::printf(" %4lld/%-4lld %8.1f", static_cast<long long>(Measure.NumLevel), static_cast<long long>(Measure.NumExec), Seconds * 1e3);
+}
+
 void Print(const FLayoutMeasure& Measure)
 {
 	std::printf(" | %4lld %6lld %6lld %9.0f", static_cast<long long>(Measure.NumOverlaps), static_cast<long long>(Measure.NumCrossings),
@@ -88,9 +94,10 @@ void Compare(const std::string& Name, UEdGraph& Graph, FTotal& Total)
 	std::printf("%-34s %5d %5d", Name.c_str(), Subject.NumNodes(), Subject.NumWires());
 	Print(Before);
 	Print(Ours);
-	std::printf(" %4lld/%-4lld %7.1f", static_cast<long long>(Ours.NumLevel), static_cast<long long>(Ours.NumExec), Seconds * 1e3);
+	PrintLayout(Ours, Seconds);
 	Print(Dot);
-	std::printf(" %4lld/%-4lld %8.1f\n", static_cast<long long>(Dot.NumLevel), static_cast<long long>(Dot.NumExec), DotSeconds * 1e3);
+	PrintLayout(Dot, DotSeconds);
+	std::printf("\n");
 	std::fflush(stdout);
 	Add(Total.Before, Before);
 	Add(Total.Ours, Ours);
@@ -128,9 +135,10 @@ void PrintTotal(const char* Name, const FTotal& Total)
 	std::printf("%-34s            ", Name);
 	Print(Total.Before);
 	Print(Total.Ours);
-	std::printf(" %4lld/%-4lld %7.1f", static_cast<long long>(Total.Ours.NumLevel), static_cast<long long>(Total.Ours.NumExec), Total.OurSeconds * 1e3);
+	PrintLayout(Total.Ours, Total.OurSeconds);
 	Print(Total.Dot);
-	std::printf(" %4lld/%-4lld %8.1f\n\n", static_cast<long long>(Total.Dot.NumLevel), static_cast<long long>(Total.Dot.NumExec), Total.DotSeconds * 1e3);
+	PrintLayout(Total.Dot, Total.DotSeconds);
+	std::printf("\n\n");
 }
 
 void CompareTexts(const std::filesystem::path& Folder, FTotal& Total)
@@ -191,7 +199,8 @@ void CompareGenerated(int32 NumNodes)
 		{
 			FGeneratedGraph Made;
 			Made.Fill(Shape, NumNodes, Seed);
-			Compare(std::string(FGeneratedGraph::GetName(Shape)) + " " + std::to_string(NumNodes) + " seed " + std::to_string(Seed), *Made.Graph, Total);
+			const std::string Name = FGeneratedGraph::GetName(Shape) + (" " + std::to_string(NumNodes)) + " seed " + std::to_string(Seed);
+			Compare(Name, *Made.Graph, Total);
 		}
 	}
 	PrintTotal("all of this size", Total);

@@ -22,6 +22,8 @@ using FBlueprintSessionTest = FBlueprintToolTest;
 const char* const TwoNodes =
 	"{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': ["
 	"{'node_type': 'call.KismetSystemLibrary.PrintString'}, {'node_type': 'flow.if'}]}";
+const char* const AnEvent = "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'event.custom'}]}";
+const char* const ABranch = "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'flow.if'}]}";
 const char* const Link =
 	"{'blueprint': 'BP', 'graph': 'EventGraph', 'links': ["
 	"{'from_node': 'Branch_0', 'from_pin': 'then', 'to_node': 'PrintString_0', 'to_pin': 'execute'}]}";
@@ -33,7 +35,8 @@ protected:
 	virtual void SetUp() override
 	{
 		FBlueprintToolTest::SetUp();
-		Folder = FPaths::ConvertRelativePathToFull(FString(UTF8_TO_TCHAR(VEXEL_SOURCE_DIR)) / TEXT("../shared/samples/packages/AirSim/Blueprints"));
+		Folder = FPaths::ConvertRelativePathToFull(
+			FString(UTF8_TO_TCHAR(VEXEL_SOURCE_DIR)) / TEXT("../shared/samples/packages/AirSim/Blueprints"));
 		if (!FPaths::DirectoryExists(Folder))
 		{
 			GTEST_SKIP() << "the sample packages are not here";
@@ -64,7 +67,7 @@ TEST_P(FSampleSessionTest, IsReadEditedCompiledAndUndoneToTheLetter)
 	const std::string Before = ToStd(ExportText());
 	const int32 NumNodes = EventGraph->Nodes.Num();
 	EXPECT_THAT(ItemErrorsOf(TEXT("node_spawn"), TwoNodes), IsEmpty());
-	EXPECT_THAT(ItemErrorsOf(TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'event.custom'}]}"), IsEmpty());
+	EXPECT_THAT(ItemErrorsOf(TEXT("node_spawn"), AnEvent), IsEmpty());
 	EXPECT_THAT(ItemErrorsOf(TEXT("node_link"), Link), IsEmpty());
 	EXPECT_EQ(NumNodes + 3, EventGraph->Nodes.Num());
 	const bool bCompiled = Compiles();
@@ -83,7 +86,7 @@ TEST_F(FBlueprintSessionTest, IdsOfWhatIsGoneAreRefused)
 	ASSERT_THAT(ItemErrorsOf(TEXT("node_spawn"), TwoNodes), IsEmpty());
 	ASSERT_THAT(ItemErrorsOf(TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': ['Branch_0']}"), IsEmpty());
 	EXPECT_THAT(ItemErrorsOf(TEXT("node_link"), Link), ElementsAre(HasSubstr("Node 'Branch_0' not found in the graph 'EventGraph'")));
-	EXPECT_THAT(ItemErrorsOf(TEXT("node_spawn"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'flow.if'}]}"), IsEmpty());
+	EXPECT_THAT(ItemErrorsOf(TEXT("node_spawn"), ABranch), IsEmpty());
 	EXPECT_EQ(nullptr, FindNode(TEXT("Branch_0"))) << "a name that was given is not given again";
 	EXPECT_NE(nullptr, FindNode(TEXT("Branch_1")));
 

@@ -234,7 +234,8 @@ TEST_F(FNodeTypeTableTest, EachKindOfNodeHasItsIdAndTheIdMakesOneAgain)
 		EXPECT_EQ(Case.Spawned ? Case.Spawned : Case.Id, SpawnedId(FString(UTF8_TO_TCHAR(Case.Id))));
 		UBlueprintNodeSpawner* Spawner = nullptr;
 		const TVexelNodeTypeId Capitals(FString(UTF8_TO_TCHAR(Case.Id)).ToUpper());
-		EXPECT_EQ(Case.Spawned != Nothing, Mapping.ResolveNodeTypeForGraph(Capitals, *ChooseGraph(Capitals.ToString()), Spawner)) << "in capitals";
+		UEdGraph* const Graph = ChooseGraph(Capitals.ToString());
+		EXPECT_EQ(Case.Spawned != Nothing, Mapping.ResolveNodeTypeForGraph(Capitals, *Graph, Spawner)) << "in capitals";
 	}
 }
 
@@ -401,7 +402,8 @@ TEST_F(FNodeTypeTableTest, MessagesOfAnInterfaceAreFoundByItsName)
 	UBlueprint* const Interface =
 		FKismetEditorUtilities::CreateBlueprint(UInterface::StaticClass(), Package, TEXT("BPI_Usable"), BPTYPE_Interface);
 	ASSERT_NE(nullptr, Interface);
-	UEdGraph* const Use = FBlueprintEditorUtils::CreateNewGraph(Interface, TEXT("Use"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	UEdGraph* const Use =
+		FBlueprintEditorUtils::CreateNewGraph(Interface, TEXT("Use"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
 	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Interface, Use, true, nullptr);
 	FKismetEditorUtilities::CompileBlueprint(Interface);
 	EXPECT_EQ("call.interface.BPI_Usable.Use", SpawnedId(TEXT("call.interface.BPI_Usable.Use")));

@@ -19,7 +19,7 @@ namespace
 constexpr double LayoutSpacing = 200.0;
 /** Type ids that an unknown one is answered with. */
 constexpr int32 MaxNearestTypes = 5;
-/** Unknown types of one call that are answered so. To look for what is like an id takes milliseconds, and who errs that often errs in the whole. */
+/** Unknown types of one call that are answered so: to look for what is like an id takes milliseconds. */
 constexpr int32 MaxListings = 20;
 
 FVexelError_BlueprintManipulationFailed MakeError(const FVexelErrorPlace& Place, FString Detail)
@@ -110,7 +110,9 @@ TVexelExpected<TTuple<TVexelNodeId, TVexelNodeId>> FVexelBlueprintManipulator::E
 	const FPinConnectionResponse Response = Schema.CanCreateConnection(Source, Target);
 	if (bConnect && !Response.CanSafeConnect() && Response.Response == CONNECT_RESPONSE_DISALLOW)
 	{
-		return MakeError(VEXEL_HERE, FString::Printf(TEXT("Connection not allowed from '%s'.'%s' to '%s'.'%s': %s"), *FromNode, *FromPin, *ToNode, *ToPin, *Response.Message.ToString()));
+		return MakeError(VEXEL_HERE,
+			FString::Printf(TEXT("Connection not allowed from '%s'.'%s' to '%s'.'%s': %s"), *FromNode, *FromPin, *ToNode, *ToPin,
+				*Response.Message.ToString()));
 	}
 	if (!bConnect && !Source->LinkedTo.Contains(Target))
 	{
@@ -136,7 +138,8 @@ TVexelExpected<TTuple<TVexelNodeId, TVexelNodeId>> FVexelBlueprintManipulator::E
 	return TTuple<TVexelNodeId, TVexelNodeId>(Mapping.MakeNodeReference(*From, true), Mapping.MakeNodeReference(*To, true));
 }
 
-TVexelExpected<void> FVexelBlueprintManipulator::FormatSelectedNodes(const TVexelGraphId& GraphId, const TArray<TVexelNodeId>& NodeIds) const
+TVexelExpected<void> FVexelBlueprintManipulator::FormatSelectedNodes(
+	const TVexelGraphId& GraphId, const TArray<TVexelNodeId>& NodeIds) const
 {
 	VEXEL_TRY(UEdGraph* const Graph, FindGraph(VEXEL_HERE, GraphId));
 	TArray<UEdGraphNode*> Nodes;
@@ -153,7 +156,8 @@ TVexelExpected<void> FVexelBlueprintManipulator::FormatSelectedNodes(const TVexe
 
 TVexelTaskResult<TSharedRef<FCompilerResultsLog>> FVexelBlueprintManipulator::CompileBlueprint() const
 {
-	return TVexelTaskResult<void>(TVexelExpected<void>()).ThenOn(EVexelTaskThread::GameThread, [Compiled = Blueprint]() -> TVexelExpected<TSharedRef<FCompilerResultsLog>>
+	using FLog = TSharedRef<FCompilerResultsLog>;
+	return TVexelTaskResult<void>(TVexelExpected<void>()).ThenOn(EVexelTaskThread::GameThread, [Compiled = Blueprint]() -> TVexelExpected<FLog>
 		{
 			UBlueprint* const Target = Compiled.Get();
 			if (!Target)
@@ -197,7 +201,9 @@ TVexelExpected<UEdGraphPin*> FVexelBlueprintManipulator::FindPin(
 	UEdGraphPin* Pin = nullptr;
 	if (!Mapping.ResolvePinInNode(PinId, Node, Pin))
 	{
-		return MakeError(Place, FString::Printf(TEXT("Pin '%s' not found in node '%s'. Its pins: %s"), *PinId, *Mapping.MakeNodeReference(Node, false), *ListPins(Node, Mapping)));
+		const TVexelNodeId NodeId = Mapping.MakeNodeReference(Node, false);
+		return MakeError(
+			Place, FString::Printf(TEXT("Pin '%s' not found in node '%s'. Its pins: %s"), *PinId, *NodeId, *ListPins(Node, Mapping)));
 	}
 	return Pin;
 }

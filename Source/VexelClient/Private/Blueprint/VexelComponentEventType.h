@@ -6,7 +6,7 @@
 class UBlueprint;
 class UBlueprintNodeSpawner;
 
-/** Node types of events that components send. An action of such an event is nothing without the component that a graph's menu binds it to. */
+/** Node types of events that components send. Their actions are nothing without the component that a graph's menu binds them to. */
 namespace VexelComponentEventType
 {
 /**

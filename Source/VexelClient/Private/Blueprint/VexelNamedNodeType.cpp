@@ -117,7 +117,8 @@ UBlueprintNodeSpawner* MakeOfRule(const FVexelOptionalObjectRule& Rule, const FS
 		const UObject* const Object = FindForPin(*Pin, Name);
 		return Object ? MakeWithPin(Plain->NodeClass, Pin->PinName, *Object) : nullptr;
 	}
-	const auto* const Member = Rule.Property ? CastField<FObjectPropertyBase>(Template->GetClass()->FindPropertyByName(Rule.Property)) : nullptr;
+	const FProperty* const Property = Rule.Property ? Template->GetClass()->FindPropertyByName(Rule.Property) : nullptr;
+	const auto* const Member = CastField<FObjectPropertyBase>(Property);
 	UObject* const Object = Member ? VexelNamedObjects::Find(*Member->PropertyClass, Name) : nullptr;
 	return Object ? MakeWithMember(Plain->NodeClass, *Member, *Object) : nullptr;
 }

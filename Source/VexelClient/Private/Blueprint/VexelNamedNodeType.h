@@ -14,9 +14,9 @@ class UEdGraph;
 namespace VexelNamedNodeType
 {
 /**
- * What makes the node of "call.spawn_actor.BP_Enemy", "timeline.Slide", "struct.make.Vector", "call.super". What the id names is loaded where
- * it is an asset. Where nothing but links can tell a node what the id names, the plain node is made. Null where the id names nothing; Graph
- * may be null.
+ * What makes the node of "call.spawn_actor.BP_Enemy", "timeline.Slide", "struct.make.Vector", "call.super". What the id names is loaded
+ * where it is an asset. Where nothing but links can tell a node what the id names, the plain node is made. Null where the id names
+ * nothing; Graph may be null.
  */
 UBlueprintNodeSpawner* MakeSpawner(const TVexelNodeTypeId& Id, const UBlueprint& Blueprint, const UEdGraph* Graph);
 }

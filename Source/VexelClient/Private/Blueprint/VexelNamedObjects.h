@@ -12,8 +12,8 @@ bool IsKindOfType(const UClass& Class);
 TArray<FAssetData> ListTypeAssets(const UClass& KindOfType);
 
 /**
- * The object of the name, in any letter case: of a kind of type the one in memory, native ones first, or what an asset of the name makes; of
- * every other class the asset. "BP_Door" and "BP_Door_C" both name the class of a Blueprint. Null for none.
+ * The object of the name, in any letter case: of a kind of type the one in memory, native ones first, or what an asset of the name makes;
+ * of every other class the asset. "BP_Door" and "BP_Door_C" both name the class of a Blueprint. Null for none.
  */
 UObject* Find(const UClass& Class, const FString& Name);
 /** Loads the assets of the name that make types. False where there is none that was not loaded. */

@@ -112,7 +112,8 @@ UBlueprintNodeSpawner* MakeFunctionSpawner(const FVariableId& Id, const UBluepri
 		return UBlueprintVariableNodeSpawner::CreateFromLocal(GetNodeClass(Id), FunctionGraph, *Local, Property);
 	}
 	// What a function gives back is set by its return node alone.
-	const bool bIsInput = Property && Property->HasAnyPropertyFlags(CPF_Parm) && (!Property->HasAnyPropertyFlags(CPF_OutParm) || Property->HasAnyPropertyFlags(CPF_ReferenceParm));
+	const bool bIsInput = Property && Property->HasAnyPropertyFlags(CPF_Parm) &&
+		(!Property->HasAnyPropertyFlags(CPF_OutParm) || Property->HasAnyPropertyFlags(CPF_ReferenceParm));
 	return bIsInput ? UBlueprintVariableNodeSpawner::CreateFromMemberOrParam(GetNodeClass(Id), Property, FunctionGraph) : nullptr;
 }
 }

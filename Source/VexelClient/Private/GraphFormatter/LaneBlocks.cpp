@@ -31,7 +31,11 @@ FLaneBlocks::FLaneBlocks(const FFormatterGraph& InGraph, const FColumnAssignment
 		WalkOrder.Add(Block);
 	}
 	AddWires(Starts);
-	// The ways of wires come behind what they begin at.
+	PutInWalkOrder();
+}
+
+void FLaneBlocks::PutInWalkOrder()
+{
 	TArray<int32> Order;
 	for (int32 Block = 0; Block < Blocks.Num(); ++Block)
 	{
@@ -47,7 +51,8 @@ FLaneBlocks::FLaneBlocks(const FFormatterGraph& InGraph, const FColumnAssignment
 		NewIndices[Block] = Sorted.Num();
 		Sorted.Add(MoveTemp(Blocks[Block]));
 	}
-	for (FLaneBlock& Block : Sorted)
+	Blocks = MoveTemp(Sorted);
+	for (FLaneBlock& Block : Blocks)
 	{
 		for (FLaneCell& Cell : Block.Cells)
 		{
@@ -60,7 +65,6 @@ FLaneBlocks::FLaneBlocks(const FFormatterGraph& InGraph, const FColumnAssignment
 			}
 		}
 	}
-	Blocks = MoveTemp(Sorted);
 }
 
 void FLaneBlocks::AddLanesFrom(int32 Start)
@@ -183,11 +187,6 @@ void FLaneBlocks::AddValuesOf(int32 Reader)
 	}
 }
 
-bool FLaneBlocks::IsInLane(int32 Wire) const
-{
-	return LaneWires.Contains(Wire);
-}
-
 void FLaneBlocks::AddWires(const TArray<int32>& Starts)
 {
 	TSet<int32> Seen;
@@ -220,7 +219,7 @@ void FLaneBlocks::AddWiresOfPin(TArrayView<const int32> PinWires)
 	{
 		const FFormatterWire& Wire = Graph.Wires[Index];
 		const int32 NumPassed = Columns.Columns[Wire.To] - FromColumn - 1;
-		if (IsInLane(Index) || NumPassed < 0 || NumPassed > MaxWayColumns)
+		if (LaneWires.Contains(Index) || NumPassed < 0 || NumPassed > MaxWayColumns)
 		{
 			continue;
 		}

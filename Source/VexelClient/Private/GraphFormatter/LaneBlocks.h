@@ -72,6 +72,8 @@ private:
 	};
 
 	void AddLanesFrom(int32 Start);
+	/** Puts the ways of wires behind what they begin at. */
+	void PutInWalkOrder();
 	TArray<FStep> FollowLane(const FStep& First);
 	/** The wire along which a lane goes on behind the node; INDEX_NONE at its end. */
 	int32 FindNextWire(int32 Node) const;
@@ -82,14 +84,13 @@ private:
 	/** The wires of one pin: those to the next column, and one way for all that go further. */
 	void AddWiresOfPin(TArrayView<const int32> PinWires);
 	void Link(int32 From, int32 Column, double FromY, int32 To, double ToY, bool bExec);
-	bool IsInLane(int32 Wire) const;
 
 	const FFormatterGraph& Graph;
 	const FColumnAssignment& Columns;
 	double Gap;
 	/** By node. */
 	TMap<int32, FPlace> Places;
-	/** By wire that goes on in a lane. */
+	/** The wires along which lanes go on. */
 	TSet<int32> LaneWires;
 	/** By block, its place in the walk; the way of a wire comes behind the block that it begins at. */
 	TArray<double> WalkOrder;

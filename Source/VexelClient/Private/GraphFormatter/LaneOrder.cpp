@@ -137,7 +137,8 @@ int64 FLaneOrder::GetCost() const
 		{
 			for (const FLaneLink& Link : Blocks[Block].Cells[Cell].Right)
 			{
-				WiresByColumn.FindOrAdd(Blocks[Block].FirstColumn + Cell).Add({{Ranks[Block], Link.OwnY}, {Ranks[Link.Block], Link.OtherY}, Link.bExec});
+				TArray<FWire>& Wires = WiresByColumn.FindOrAdd(Blocks[Block].FirstColumn + Cell);
+				Wires.Add({{Ranks[Block], Link.OwnY}, {Ranks[Link.Block], Link.OtherY}, Link.bExec});
 			}
 		}
 	}
@@ -150,7 +151,8 @@ int64 FLaneOrder::GetCost() const
 			{
 				const FWire& First = Wires[A];
 				const FWire& Second = Wires[B];
-				const bool bCross = (First.Left < Second.Left && Second.Right < First.Right) || (Second.Left < First.Left && First.Right < Second.Right);
+				const bool bCross = (First.Left < Second.Left && Second.Right < First.Right) ||
+					(Second.Left < First.Left && First.Right < Second.Right);
 				Cost += bCross ? GetWeight(First.bExec, Second.bExec) : 0;
 			}
 		}
