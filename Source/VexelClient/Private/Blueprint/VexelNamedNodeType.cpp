@@ -308,26 +308,17 @@ UBlueprintNodeSpawner* MakeWithObject(const FString& Id)
 /** The action of an asset that was not loaded, or that the id names without what the engine adds to the names of its classes. */
 UBlueprintNodeSpawner* FindActionOfAsset(const TVexelNodeTypeId& Id)
 {
-	FVexelNodeTypeIndex& Index = FVexelNodeTypeIndex::Get();
-	const TVexelNodeTypeId OfClass(Id.ToString() + TEXT("_C"));
-	if (UBlueprintNodeSpawner* const Found = Index.Find(OfClass))
-	{
-		return Found;
-	}
 	TArray<FString> Segments;
 	Id.ToString().ParseIntoArray(Segments, TEXT("."), true);
 	constexpr int32 MaxSegments = 5;
-	bool bLoaded = false;
 	for (int32 Segment = 1; Segment < FMath::Min(Segments.Num(), MaxSegments); ++Segment)
 	{
-		bLoaded |= VexelNamedObjects::LoadTypes(Segments[Segment]);
+		VexelNamedObjects::LoadTypes(Segments[Segment]);
 	}
-	if (!bLoaded)
-	{
-		return nullptr;
-	}
+	// Whatever has been loaded on the way here has brought its actions along.
+	FVexelNodeTypeIndex& Index = FVexelNodeTypeIndex::Get();
 	UBlueprintNodeSpawner* const Found = Index.Find(Id);
-	return Found ? Found : Index.Find(OfClass);
+	return Found ? Found : Index.Find(TVexelNodeTypeId(Id.ToString() + TEXT("_C")));
 }
 }
 

@@ -106,16 +106,18 @@ UObject* VexelNamedObjects::Find(const UClass& Class, const FString& Name)
 	return nullptr;
 }
 
-bool VexelNamedObjects::LoadTypes(const FString& Name)
+void VexelNamedObjects::LoadTypes(const FString& Name)
 {
 	FString AssetName = Name;
 	AssetName.RemoveFromEnd(GeneratedClassSuffix, ESearchCase::IgnoreCase);
-	bool bLoaded = false;
 	for (const FAssetData& Asset : AssetName.Len() < NAME_SIZE ? FindAssets(AssetName) : TArray<FAssetData>())
 	{
-		const bool bMakesType = Asset.IsInstanceOf(UBlueprint::StaticClass()) || Asset.IsInstanceOf(UUserDefinedStruct::StaticClass()) ||
-			Asset.IsInstanceOf(UUserDefinedEnum::StaticClass());
-		bLoaded |= bMakesType && !Asset.IsAssetLoaded() && Asset.GetAsset();
+		for (const UClass* const Kind : {UClass::StaticClass(), UScriptStruct::StaticClass(), UEnum::StaticClass()})
+		{
+			if (Asset.IsInstanceOf(FindAssetClass(*Kind)))
+			{
+				Asset.GetAsset();
+			}
+		}
 	}
-	return bLoaded;
 }

@@ -16,6 +16,6 @@ TArray<FAssetData> ListTypeAssets(const UClass& KindOfType);
  * of every other class the asset. "BP_Door" and "BP_Door_C" both name the class of a Blueprint. Null for none.
  */
 UObject* Find(const UClass& Class, const FString& Name);
-/** Loads the assets of the name that make types. False where there is none that was not loaded. */
-bool LoadTypes(const FString& Name);
+/** Loads the assets of the name that make types. */
+void LoadTypes(const FString& Name);
 }
