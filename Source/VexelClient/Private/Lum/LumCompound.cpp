@@ -69,8 +69,14 @@ TVexelExpected<void> ILumCompound::IterateProperties(ILumPropertyCollector& Coll
 
 TVexelExpected<TSharedPtr<ILumProperty>> ILumCompound::FindProperty(const TVexelPropId& PropId) const
 {
+	VEXEL_TRY(TSharedPtr<ILumProperty> Property, Find(PropId), "while iterating properties");
+	return Property;
+}
+
+TVexelExpected<TSharedPtr<ILumProperty>> ILumCompound::Find(const TVexelPropId& PropId) const
+{
 	FFindingCollector Collector(PropId);
-	VEXEL_TRY_VOID(IterateProperties(Collector));
+	VEXEL_TRY_VOID(Iterate(Collector));
 	return Collector.FoundProperty;
 }
 
@@ -124,19 +130,4 @@ TVexelExpected<void> ILumCompound::JsonImportObject(const FLumContext& Context, 
 		VEXEL_TRY_VOID(Property->JsonImportValue(Context, Value.ToSharedRef()), "while importing property '%s'", *Key);
 	}
 	return {};
-}
-
-TVexelExpected<void> ILumCollectionCompound::InsertAt(const FLumContext&, int32, const TSharedRef<FJsonValue>&)
-{
-	return VEXEL_ERROR(FLumError_Import, "Elements of the collection cannot be changed");
-}
-
-TVexelExpected<void> ILumCollectionCompound::RemoveAt(int32)
-{
-	return VEXEL_ERROR(FLumError_Import, "Elements of the collection cannot be changed");
-}
-
-TVexelExpected<void> ILumCollectionCompound::Resize(int32)
-{
-	return VEXEL_ERROR(FLumError_Import, "Elements of the collection cannot be changed");
 }

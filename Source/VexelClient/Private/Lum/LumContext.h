@@ -6,8 +6,8 @@
 class UObject;
 
 /**
- * What one export needs from the call that it is for: the mapping that names things, and how deep the export has gone.
- * Made by the caller; outlives the export.
+ * What one export or import needs from the call that it is for: the mapping that names things, and how deep it has gone.
+ * Made by the caller; outlives it.
  */
 class FLumContext
 {
@@ -22,6 +22,26 @@ public:
 	/** Objects of which one lies in the other, and structs likewise, are exported with their properties to this depth. */
 	static constexpr int32 MaxObjectDepth = 2;
 	static constexpr int32 MaxStructDepth = 1;
+
+	/** Objects of JSON that lie in each other are imported to this depth. */
+	static constexpr int32 MaxImportDepth = 256;
+
+	/** Held while a compound's object is imported. */
+	class FImportScope
+	{
+	public:
+		explicit FImportScope(const FLumContext& InContext)
+			: Context(InContext)
+		{
+			++Context.ImportDepth;
+		}
+		~FImportScope() { --Context.ImportDepth; }
+		FImportScope(const FImportScope&) = delete;
+		FImportScope& operator=(const FImportScope&) = delete;
+
+	private:
+		const FLumContext& Context;
+	};
 
 	/** Held while an object's properties are exported. */
 	class FObjectScope
@@ -61,9 +81,12 @@ public:
 	bool CanOpen(const UObject* Object) const { return OpenObjects.Num() < MaxObjectDepth && !OpenObjects.Contains(Object); }
 	/** Whether a struct may be exported field by field; otherwise its text stands for it. */
 	bool CanOpenStruct() const { return StructDepth < MaxStructDepth; }
+	/** Whether a compound inside those that are being imported may be imported. */
+	bool CanImport() const { return ImportDepth < MaxImportDepth; }
 
 private:
 	TSharedRef<FVexelBlueprintMapping> Mapping;
 	mutable TArray<const UObject*> OpenObjects;
 	mutable int32 StructDepth = 0;
+	mutable int32 ImportDepth = 0;
 };

@@ -5,9 +5,10 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumProperty.h"
 #include "Lum/LumPropertyCollector.h"
+#include "Lum/Value/LumTemporaryValue.h"
+#include "Lum/Value/LumValueText.h"
 
 #include "EdGraphSchema_K2.h"
-#include "Misc/OutputDevice.h"
 #include "UObject/EnumProperty.h"
 #include "UObject/UnrealType.h"
 
@@ -84,6 +85,15 @@ TVexelExpected<TVexelPropTypeId> GetTerminalTypeId(const FProperty& Property)
 	return FVexelBlueprintPropTypeBuilder::MakeId(PinType);
 }
 
+/** Whether GetTerminalTypeId answers an id of one value, without making it. */
+bool HasTerminalTypeId(const FProperty& Property)
+{
+	FEdGraphPinType PinType;
+	const bool bIsContainer = Property.IsA<FArrayProperty>() || Property.IsA<FSetProperty>() || Property.IsA<FMapProperty>();
+	return !bIsContainer &&
+		(FindIntegerTypeId(Property) || GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(&Property, PinType));
+}
+
 TVexelExpected<TVexelPropTypeId> GetMapTypeId(const FMapProperty& Map)
 {
 	if (Map.ValueProp->IsA<FWeakObjectProperty>())
@@ -97,22 +107,6 @@ TVexelExpected<TVexelPropTypeId> GetMapTypeId(const FMapProperty& Map)
 		return VEXEL_ERROR_CAUSED(FLumError_Read, Value.GetError(), "Failed to get map value property category info!");
 	}
 	return FLumHelper::CreateContainerType(EPinContainerType::Map, Key, Value.GetValue());
-}
-
-/** Digits alone, of a number that an index can be. */
-bool ParseIndex(const FString& Text, int32& OutIndex)
-{
-	int64 Number = 0;
-	for (const TCHAR Character : Text)
-	{
-		if (!FChar::IsDigit(Character) || Number > MAX_int32)
-		{
-			return false;
-		}
-		Number = Number * 10 + (Character - TEXT('0'));
-	}
-	OutIndex = static_cast<int32>(Number);
-	return !Text.IsEmpty() && Number <= MAX_int32;
 }
 
 TVexelExpected<void> CheckTerminalType(const TVexelPropTypeId& TypeId)
@@ -178,11 +172,9 @@ TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(
 
 TVexelExpected<void> FLumHelper::ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text)
 {
-	FStringOutputDevice Errors;
-	if (!Property.ImportText_Direct(*Text, Data, nullptr, PPF_None, &Errors))
-	{
-		return VEXEL_ERROR(FLumError_Import, "Failed to import text to property '%s': %s", *Property.GetName(), *Errors);
-	}
+	const FLumTemporaryValue Value(Property, Data);
+	VEXEL_TRY_VOID(LumValueText::Read(Property, Value.Get(), Text, nullptr));
+	Property.CopyCompleteValue(Data, Value.Get());
 	return {};
 }
 
@@ -195,6 +187,22 @@ FString FLumHelper::ListEnumerators(const UEnum& Enum)
 		Names.Add(Enum.GetNameStringByIndex(Index));
 	}
 	return TEXT("Valid names: ") + FString::Join(Names, TEXT(", "));
+}
+
+bool FLumHelper::ParseIndex(FStringView Text, int32& OutIndex)
+{
+	int64 Number = 0;
+	for (const TCHAR Character : Text)
+	{
+		if (!FChar::IsDigit(Character) || Number > MAX_int32)
+		{
+			return false;
+		}
+		Number = Number * 10 + (Character - TEXT('0'));
+	}
+	OutIndex = static_cast<int32>(Number);
+	const bool bHasLeadingZero = Text.Len() > 1 && Text[0] == TEXT('0');
+	return !Text.IsEmpty() && !bHasLeadingZero && Number <= MAX_int32;
 }
 
 TVexelExpected<TArray<int32>> FLumHelper::GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object)
@@ -254,6 +262,23 @@ TVexelExpected<EEdGraphPinDirection> FLumHelper::CreatePinDirectionFromScopeId(c
 		return EGPD_Output;
 	}
 	return VEXEL_ERROR(FLumError_Read, "Scope '%s' has no pin direction", *ScopeId);
+}
+
+bool FLumHelper::HasPropertyTypeId(const FProperty& Property)
+{
+	if (const FArrayProperty* const Array = CastField<FArrayProperty>(&Property))
+	{
+		return HasTerminalTypeId(*Array->Inner);
+	}
+	if (const FSetProperty* const Set = CastField<FSetProperty>(&Property))
+	{
+		return HasTerminalTypeId(*Set->ElementProp);
+	}
+	if (const FMapProperty* const Map = CastField<FMapProperty>(&Property))
+	{
+		return !Map->ValueProp->IsA<FWeakObjectProperty>() && HasTerminalTypeId(*Map->KeyProp) && HasTerminalTypeId(*Map->ValueProp);
+	}
+	return HasTerminalTypeId(Property);
 }
 
 TVexelExpected<TVexelPropTypeId> FLumHelper::GetPropertyTypeId(const FProperty& Property)

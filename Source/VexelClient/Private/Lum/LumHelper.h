@@ -68,13 +68,16 @@ public:
 	 */
 	static TVexelExpected<UObject*> ResolveReference(const FString& Path, const UClass* Class, const UObject* Referrer);
 
-	/** Sets the value from the engine's text form. Data is the value's memory. */
+	/** Sets the value from the engine's text form. Data is the value's memory, which a text that is refused leaves as it was. */
 	static TVexelExpected<void> ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text);
 
 	/** "Valid names: A, B, C", of the names that a value of the enumeration may have. */
 	static FString ListEnumerators(const UEnum& Enum);
 
-	/** The object's keys as indices, ascending. A key is decimal digits without sign. */
+	/** Whether the text is an index as elements have it for an id: decimal digits, without sign or leading zeros. */
+	static bool ParseIndex(FStringView Text, int32& OutIndex);
+
+	/** The object's keys as indices, ascending. */
 	static TVexelExpected<TArray<int32>> GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object);
 
 	/** Hands the properties to the collector in their order. */
@@ -85,6 +88,8 @@ public:
 		EPinContainerType Container, const TVexelPropTypeId& ElementOrKeyTypeId, const TVexelPropTypeId& ValueTypeId);
 	static TVexelExpected<EEdGraphPinDirection> CreatePinDirectionFromScopeId(const TVexelVarScopeId& ScopeId);
 
+	/** Whether GetPropertyTypeId answers. */
+	static bool HasPropertyTypeId(const FProperty& Property);
 	/** The type id of a property's values. */
 	static TVexelExpected<TVexelPropTypeId> GetPropertyTypeId(const FProperty& Property);
 

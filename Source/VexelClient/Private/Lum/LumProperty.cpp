@@ -1,6 +1,7 @@
 #include "Lum/LumProperty.h"
 
 #include "Lum/LumCompound.h"
+#include "Lum/LumContext.h"
 #include "Lum/LumErrors.h"
 
 TVexelExpected<TSharedRef<FJsonObject>> ILumProperty::JsonExportPropertyObject(const FLumContext& Context) const
@@ -81,6 +82,11 @@ TVexelExpected<void> ILumCompoundProperty::JsonImportValue(const FLumContext& Co
 	{
 		return VEXEL_ERROR(FLumError_Import, "Compound property is null");
 	}
+	if (!Context.CanImport())
+	{
+		return VEXEL_ERROR(FLumError_Import, "Exceeded maximum depth (%d)", FLumContext::MaxImportDepth);
+	}
+	const FLumContext::FImportScope Scope(Context);
 	return Compound->JsonImportObject(Context, Object->ToSharedRef());
 }
 

@@ -58,6 +58,9 @@ protected:
 	/** What IterateProperties does, without its context line. */
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const = 0;
 
+	/** What FindProperty does, without its context line. Kinds that know a property by its id override it; by itself it iterates. */
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(const TVexelPropId& PropId) const;
+
 	/** The part of the properties that an export shows: all of them, where a kind has no reason to leave some out. */
 	virtual TVexelExpected<void> IterateForExport(ILumPropertyCollector& Collector) const { return IterateProperties(Collector); }
 
@@ -72,10 +75,10 @@ public:
 	virtual TVexelExpected<int32> GetNum() const = 0;
 
 	/** The index is where the element stands afterwards, at most the number of elements. A value that is refused adds nothing. */
-	virtual TVexelExpected<void> InsertAt(const FLumContext& Context, int32 Index, const TSharedRef<FJsonValue>& Value);
-	virtual TVexelExpected<void> RemoveAt(int32 Index);
+	virtual TVexelExpected<void> InsertAt(const FLumContext& Context, int32 Index, const TSharedRef<FJsonValue>& Value) = 0;
+	virtual TVexelExpected<void> RemoveAt(int32 Index) = 0;
 	/** Cuts elements off at the end, or adds default ones there. */
-	virtual TVexelExpected<void> Resize(int32 Count);
+	virtual TVexelExpected<void> Resize(int32 Count) = 0;
 
 	virtual ILumCollectionCompound* AsCollectionCompound() override { return this; }
 };

@@ -5,13 +5,11 @@
 #include "Lum/Property/LumForwardingProperty.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 
-#include "UObject/UnrealType.h"
-
 namespace
 {
-TVexelExpected<void> CollectRole(ILumPropertyCollector& Collector, const TCHAR* Role, const FProperty& Property, void* Data)
+TVexelExpected<void> CollectRole(ILumPropertyCollector& Collector, const TCHAR* Role, const FLumValuePlaceRef& Place)
 {
-	const TSharedPtr<ILumProperty> Inner = FLumUnrealPropertyFactory::CreateSubProperty(Property, Data);
+	const TSharedPtr<ILumProperty> Inner = FLumUnrealPropertyFactory::CreateSubProperty(Place);
 	if (!Inner)
 	{
 		return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
@@ -22,7 +20,7 @@ TVexelExpected<void> CollectRole(ILumPropertyCollector& Collector, const TCHAR* 
 
 TVexelExpected<void> FLumMapEntryCompound::Iterate(ILumPropertyCollector& Collector) const
 {
-	VEXEL_TRY_VOID(CollectRole(Collector, TEXT("key"), *Map.KeyProp, Key), "while processing map entry key");
-	VEXEL_TRY_VOID(CollectRole(Collector, TEXT("value"), *Map.ValueProp, Value), "while processing map entry value");
+	VEXEL_TRY_VOID(CollectRole(Collector, KeyId, Key), "while processing map entry key");
+	VEXEL_TRY_VOID(CollectRole(Collector, ValueId, Value), "while processing map entry value");
 	return {};
 }

@@ -1,19 +1,21 @@
 #pragma once
 
 #include "Lum/LumCompound.h"
+#include "Lum/Value/LumValuePlace.h"
 
-class FMapProperty;
-
-/** One entry of a map: the properties "key" and "value". The map must outlive it. */
+/** One entry of a map: the properties "key" and "value". */
 class FLumMapEntryCompound : public ILumCompound
 {
 public:
-	FLumMapEntryCompound(const FMapProperty& InMap, void* InKey, void* InValue)
-		: Map(InMap)
-		, Key(InKey)
+	FLumMapEntryCompound(const FLumValuePlaceRef& InKey, const FLumValuePlaceRef& InValue)
+		: Key(InKey)
 		, Value(InValue)
 	{
 	}
+
+	/** Ids of the two properties. */
+	static constexpr const TCHAR* KeyId = TEXT("key");
+	static constexpr const TCHAR* ValueId = TEXT("value");
 
 	static TVexelPropTypeId MakeType() { return TVexelPropTypeId(TEXT("map_entry")); }
 
@@ -23,7 +25,6 @@ protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
 
 private:
-	const FMapProperty& Map;
-	void* Key;
-	void* Value;
+	FLumValuePlaceRef Key;
+	FLumValuePlaceRef Value;
 };

@@ -2,94 +2,77 @@
 
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
-#include "Lum/Property/LumForwardingProperty.h"
-#include "Lum/Property/LumMapEntryProperty.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 
 #include "UObject/UnrealType.h"
 
-namespace
+TVexelExpected<TVexelPropTypeId> FLumUnrealContainerCompound::GetCompoundType() const
 {
-using FItems = TArray<TSharedRef<ILumProperty>>;
-
-int32 CountItems(const FArrayProperty& Property, void* Data)
-{
-	return FScriptArrayHelper(&Property, Data).Num();
+	return FLumHelper::GetPropertyTypeId(Place->GetProperty());
 }
 
-int32 CountItems(const FSetProperty& Property, void* Data)
+TVexelExpected<void*> FLumUnrealContainerCompound::GetData() const
 {
-	return FScriptSetHelper(&Property, Data).Num();
-}
-
-int32 CountItems(const FMapProperty& Property, void* Data)
-{
-	return FScriptMapHelper(&Property, Data).Num();
-}
-
-TVexelExpected<void> AddElement(FItems& Items, int32 Index, const FProperty& ElementProperty, void* ElementData)
-{
-	const TSharedPtr<ILumProperty> Element = FLumUnrealPropertyFactory::CreateSubProperty(ElementProperty, ElementData);
-	if (!Element)
+	void* const Data = Place->Resolve();
+	if (!Data)
 	{
-		return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
+		return VEXEL_ERROR(FLumError_Read, "Property is not valid!");
 	}
-	Items.Add(MakeShared<FLumIndexedForwardingProperty>(Index, Element.ToSharedRef()));
-	return {};
+	return Data;
 }
 
-TVexelExpected<void> AddItems(FItems& Items, const FArrayProperty& Property, void* Data)
+TVexelExpected<void> FLumUnrealContainerCompound::Iterate(ILumPropertyCollector& Collector) const
 {
-	const FScriptArrayHelper Array(&Property, Data);
-	for (int32 Index = 0; Index < Array.Num(); ++Index)
+	VEXEL_TRY(void* const Data, GetData());
+	TArray<TSharedRef<ILumProperty>> Items;
+	const TArray<int32> InternalIndices = GetInternalIndices(Data);
+	for (int32 Index = 0; Index < InternalIndices.Num(); ++Index)
 	{
-		VEXEL_TRY_VOID(AddElement(Items, Index, *Property.Inner, Array.GetRawPtr(Index)));
+		const TSharedPtr<ILumProperty> Item = MakeItem(Index, InternalIndices[Index]);
+		if (!Item)
+		{
+			return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
+		}
+		Items.Add(Item.ToSharedRef());
 	}
-	return {};
-}
-
-TVexelExpected<void> AddItems(FItems& Items, const FSetProperty& Property, void* Data)
-{
-	const FScriptSetHelper Set(&Property, Data);
-	for (FScriptSetHelper::FIterator It = Set.CreateIterator(); It; ++It)
-	{
-		VEXEL_TRY_VOID(AddElement(Items, It.GetLogicalIndex(), *Property.ElementProp, Set.GetElementPtr(It.GetInternalIndex())));
-	}
-	return {};
-}
-
-TVexelExpected<void> AddItems(FItems& Items, const FMapProperty& Property, void* Data)
-{
-	const FScriptMapHelper Map(&Property, Data);
-	for (FScriptMapHelper::FIterator It = Map.CreateIterator(); It; ++It)
-	{
-		const int32 Index = It.GetInternalIndex();
-		Items.Add(MakeShared<FLumMapEntryProperty>(It.GetLogicalIndex(), Property, Map.GetKeyPtr(Index), Map.GetValuePtr(Index)));
-	}
-	return {};
-}
-}
-
-template <typename ContainerPropertyType>
-TVexelExpected<TVexelPropTypeId> TLumUnrealContainerCompound<ContainerPropertyType>::GetCompoundType() const
-{
-	return FLumHelper::GetPropertyTypeId(Property);
-}
-
-template <typename ContainerPropertyType>
-TVexelExpected<int32> TLumUnrealContainerCompound<ContainerPropertyType>::GetNum() const
-{
-	return CountItems(Property, Data);
-}
-
-template <typename ContainerPropertyType>
-TVexelExpected<void> TLumUnrealContainerCompound<ContainerPropertyType>::Iterate(ILumPropertyCollector& Collector) const
-{
-	FItems Items;
-	VEXEL_TRY_VOID(AddItems(Items, Property, Data));
 	return FLumHelper::CollectIndexedItems(Collector, Items);
 }
 
-template class TLumUnrealContainerCompound<FArrayProperty>;
-template class TLumUnrealContainerCompound<FSetProperty>;
-template class TLumUnrealContainerCompound<FMapProperty>;
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealContainerCompound::Find(const TVexelPropId& PropId) const
+{
+	VEXEL_TRY(void* const Data, GetData());
+	int32 Index = INDEX_NONE;
+	const bool bIsIndex = FLumHelper::ParseIndex(PropId.ToString(), Index) && Index < CountItems(Data);
+	return bIsIndex ? MakeItem(Index, FindInternalIndex(Data, Index)) : nullptr;
+}
+
+TVexelExpected<void> FLumUnrealContainerCompound::CheckCanResize() const
+{
+	if (Place->GetProperty().HasAnyPropertyFlags(CPF_EditFixedSize))
+	{
+		return VEXEL_ERROR(FLumError_Import, "The number of elements of '%s' is fixed", *Place->GetProperty().GetName());
+	}
+	return {};
+}
+
+TVexelExpected<void> FLumUnrealContainerCompound::Change(EPropertyChangeType::Type Type, FWork Work) const
+{
+	return Place->GetOwner()->Change(*Place, Type, Work);
+}
+
+FLumValuePlaceRef FLumUnrealContainerCompound::MakeNewValue(const FProperty& ElementProperty) const
+{
+	const TSharedRef<FLumLooseOwner> Owner = MakeShared<FLumLooseOwner>(ElementProperty, Place->GetOwner()->GetObject());
+	return MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Whole, ElementProperty);
+}
+
+TVexelExpected<void> FLumUnrealContainerCompound::ImportAt(
+	const FLumValuePlaceRef& ValuePlace, const FLumContext& Context, const TSharedRef<FJsonValue>& Value)
+{
+	const TSharedPtr<ILumProperty> Property = FLumUnrealPropertyFactory::CreateSubProperty(ValuePlace);
+	if (!Property)
+	{
+		return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
+	}
+	return Property->JsonImportValue(Context, Value);
+}

@@ -3,15 +3,20 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumContext.h"
 #include "Lum/LumErrors.h"
-#include "Lum/LumHelper.h"
 #include "Lum/LumPropertyCollector.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
+#include "Lum/Value/LumObjectOwner.h"
 
 #include "UObject/Object.h"
 #include "UObject/UnrealType.h"
 
 namespace
 {
+bool IsShown(const FProperty& Property)
+{
+	return Property.HasAnyPropertyFlags(CPF_Edit | CPF_BlueprintVisible);
+}
+
 /** Whether the value is not what the object would have if nobody had set it. */
 bool DiffersFromArchetype(const FProperty& Property, const UObject& Object)
 {
@@ -22,14 +27,19 @@ bool DiffersFromArchetype(const FProperty& Property, const UObject& Object)
 }
 }
 
-FLumUnrealObjectCompound::FLumUnrealObjectCompound(UObject& Object)
-	: WeakObject(&Object)
+FLumUnrealObjectCompound::FLumUnrealObjectCompound(UObject& Object, const TSharedPtr<const FLumValuePlace>& Within)
+	: Owner(MakeShared<FLumObjectOwner>(Object, Within))
 {
 }
 
 TVexelExpected<UObject*> FLumUnrealObjectCompound::GetObject() const
 {
-	return FLumHelper::GetValid(WeakObject, TEXT("Invalid object"));
+	UObject* const Object = Owner->GetObject();
+	if (!Object)
+	{
+		return VEXEL_ERROR(FLumError_Read, "Invalid object");
+	}
+	return Object;
 }
 
 TVexelExpected<TVexelPropTypeId> FLumUnrealObjectCompound::GetCompoundType() const
@@ -40,7 +50,7 @@ TVexelExpected<TVexelPropTypeId> FLumUnrealObjectCompound::GetCompoundType() con
 
 TVexelExpected<TSharedRef<FJsonObject>> FLumUnrealObjectCompound::JsonExportObject(const FLumContext& Context) const
 {
-	const FLumContext::FObjectScope Scope(Context, WeakObject.Get());
+	const FLumContext::FObjectScope Scope(Context, Owner->GetObject());
 	return ILumCompound::JsonExportObject(Context);
 }
 
@@ -61,15 +71,23 @@ TVexelExpected<void> FLumUnrealObjectCompound::IterateWhere(
 	VEXEL_TRY(UObject* const Object, GetObject());
 	for (TFieldIterator<FProperty> It(Object->GetClass()); It; ++It)
 	{
-		if (!It->HasAnyPropertyFlags(CPF_Edit | CPF_BlueprintVisible) || !Condition(**It, *Object))
-		{
-			continue;
-		}
-		const TSharedPtr<ILumProperty> Property = FLumUnrealPropertyFactory::CreateSubProperty(**It, It->ContainerPtrToValuePtr<void>(Object));
+		const TSharedPtr<ILumProperty> Property = IsShown(**It) && Condition(**It, *Object) ? MakeMember(**It) : nullptr;
 		if (Property)
 		{
 			VEXEL_TRY_VOID(Collector.Property(Property.ToSharedRef()), "while processing property '%s'", *It->GetName());
 		}
 	}
 	return {};
+}
+
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealObjectCompound::Find(const TVexelPropId& PropId) const
+{
+	VEXEL_TRY(const UObject* const Object, GetObject());
+	const FProperty* const Property = Object->GetClass()->FindPropertyByName(FName(*PropId, FNAME_Find));
+	return Property && IsShown(*Property) ? MakeMember(*Property) : nullptr;
+}
+
+TSharedPtr<ILumProperty> FLumUnrealObjectCompound::MakeMember(const FProperty& Member) const
+{
+	return FLumUnrealPropertyFactory::CreateSubProperty(MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Member, Member));
 }

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "Lum/LumCompound.h"
-#include "UObject/WeakObjectPtr.h"
+#include "Lum/Value/LumValuePlace.h"
 
 class FProperty;
 class UObject;
@@ -13,7 +13,8 @@ class UObject;
 class FLumUnrealObjectCompound : public ILumCompound
 {
 public:
-	explicit FLumUnrealObjectCompound(UObject& Object);
+	/** Within is the place of the reference through which the object was reached from the one that it is a part of. */
+	explicit FLumUnrealObjectCompound(UObject& Object, const TSharedPtr<const FLumValuePlace>& Within = nullptr);
 
 	virtual TVexelExpected<TVexelPropTypeId> GetCompoundType() const override;
 	virtual TVexelExpected<TSharedRef<FJsonObject>> JsonExportObject(const FLumContext& Context) const override;
@@ -21,11 +22,14 @@ public:
 protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
 	virtual TVexelExpected<void> IterateForExport(ILumPropertyCollector& Collector) const override;
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(const TVexelPropId& PropId) const override;
 
 private:
 	TVexelExpected<UObject*> GetObject() const;
 	TVexelExpected<void> IterateWhere(
 		ILumPropertyCollector& Collector, TFunctionRef<bool(const FProperty& Property, const UObject& Object)> Condition) const;
 
-	TWeakObjectPtr<UObject> WeakObject;
+	TSharedPtr<ILumProperty> MakeMember(const FProperty& Member) const;
+
+	TSharedRef<ILumValueOwner> Owner;
 };

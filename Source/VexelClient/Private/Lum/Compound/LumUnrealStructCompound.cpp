@@ -13,7 +13,7 @@ TVexelExpected<void> FLumUnrealStructCompound::CheckStruct() const
 	{
 		return VEXEL_ERROR(FLumError_Read, "Struct type is not valid");
 	}
-	if (!Data)
+	if (!Place->Resolve())
 	{
 		return VEXEL_ERROR(FLumError_Read, "Struct data is not valid");
 	}
@@ -31,11 +31,22 @@ TVexelExpected<void> FLumUnrealStructCompound::Iterate(ILumPropertyCollector& Co
 	VEXEL_TRY_VOID(CheckStruct());
 	for (TFieldIterator<FProperty> It(Struct); It; ++It)
 	{
-		const TSharedPtr<ILumProperty> Property = FLumUnrealPropertyFactory::CreateSubProperty(**It, It->ContainerPtrToValuePtr<void>(Data));
-		if (Property)
+		if (const TSharedPtr<ILumProperty> Property = MakeField(**It))
 		{
 			VEXEL_TRY_VOID(Collector.Property(Property.ToSharedRef()), "while processing property '%s'", *It->GetName());
 		}
 	}
 	return {};
+}
+
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealStructCompound::Find(const TVexelPropId& PropId) const
+{
+	VEXEL_TRY_VOID(CheckStruct());
+	const FProperty* const Field = Struct->FindPropertyByName(FName(*PropId, FNAME_Find));
+	return Field ? MakeField(*Field) : nullptr;
+}
+
+TSharedPtr<ILumProperty> FLumUnrealStructCompound::MakeField(const FProperty& Field) const
+{
+	return FLumUnrealPropertyFactory::CreateSubProperty(MakeShared<FLumValuePlace>(Place, FLumValuePlace::EPart::Member, Field));
 }

@@ -1,16 +1,17 @@
 #pragma once
 
 #include "Lum/LumCompound.h"
+#include "Lum/Value/LumValuePlace.h"
 
 class UScriptStruct;
 
-/** The fields of a struct value. The value must outlive it. */
+/** The fields of a struct value. */
 class FLumUnrealStructCompound : public ILumCompound
 {
 public:
-	FLumUnrealStructCompound(const UScriptStruct* InStruct, void* InData)
+	FLumUnrealStructCompound(const UScriptStruct* InStruct, const FLumValuePlaceRef& InPlace)
 		: Struct(InStruct)
-		, Data(InData)
+		, Place(InPlace)
 	{
 	}
 
@@ -18,10 +19,12 @@ public:
 
 protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(const TVexelPropId& PropId) const override;
 
 private:
 	TVexelExpected<void> CheckStruct() const;
+	TSharedPtr<ILumProperty> MakeField(const FProperty& Field) const;
 
 	const UScriptStruct* Struct;
-	void* Data;
+	FLumValuePlaceRef Place;
 };

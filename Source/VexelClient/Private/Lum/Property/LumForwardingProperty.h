@@ -20,6 +20,10 @@ public:
 	{
 		return Inner->JsonExportValue(Context);
 	}
+	virtual TVexelExpected<void> JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) override
+	{
+		return Inner->JsonImportValue(Context, Value);
+	}
 	virtual const ILumCompoundProperty* AsCompoundProperty() const override { return Inner->AsCompoundProperty(); }
 
 protected:

@@ -3,11 +3,9 @@
 #include "Lum/Compound/LumMapEntryCompound.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 
-#include "UObject/UnrealType.h"
-
 TVexelExpected<TVexelPropTypeId> FLumMapEntryProperty::GetOwnerTypeId() const
 {
-	return FLumUnrealBaseProperty(&Map, Key).ReadOwnerTypeId();
+	return FLumUnrealBaseProperty::ReadOwnerTypeIdOf(Key->GetProperty());
 }
 
 TVexelExpected<TVexelPropTypeId> FLumMapEntryProperty::GetValueTypeId() const
@@ -17,5 +15,5 @@ TVexelExpected<TVexelPropTypeId> FLumMapEntryProperty::GetValueTypeId() const
 
 TVexelExpected<TSharedPtr<ILumCompound>> FLumMapEntryProperty::GetCompound() const
 {
-	return MakeShared<FLumMapEntryCompound>(Map, Key, Value);
+	return MakeShared<FLumMapEntryCompound>(Key, Value);
 }

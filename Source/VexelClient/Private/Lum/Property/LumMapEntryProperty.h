@@ -1,16 +1,14 @@
 #pragma once
 
 #include "Lum/LumProperty.h"
+#include "Lum/Value/LumValuePlace.h"
 
-class FMapProperty;
-
-/** One entry of a map, under its index; its compound has the key and the value. The map must outlive it. */
+/** One entry of a map, under its index; its compound has the key and the value. */
 class FLumMapEntryProperty : public ILumCompoundProperty
 {
 public:
-	FLumMapEntryProperty(int32 InIndex, const FMapProperty& InMap, void* InKey, void* InValue)
+	FLumMapEntryProperty(int32 InIndex, const FLumValuePlaceRef& InKey, const FLumValuePlaceRef& InValue)
 		: Index(InIndex)
-		, Map(InMap)
 		, Key(InKey)
 		, Value(InValue)
 	{
@@ -25,7 +23,6 @@ public:
 
 private:
 	int32 Index;
-	const FMapProperty& Map;
-	void* Key;
-	void* Value;
+	FLumValuePlaceRef Key;
+	FLumValuePlaceRef Value;
 };

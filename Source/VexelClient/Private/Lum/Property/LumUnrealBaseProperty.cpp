@@ -7,6 +7,9 @@
 #include "Lum/Property/LumUnrealLeafProperty.h"
 #include "Lum/Property/LumUnrealObjectProperty.h"
 #include "Lum/Property/LumUnrealStructProperty.h"
+#include "Lum/Value/LumObjectOwner.h"
+#include "Lum/Value/LumTemporaryValue.h"
+#include "Lum/Value/LumValueText.h"
 
 #include "UObject/EnumProperty.h"
 #include "UObject/UnrealType.h"
@@ -36,7 +39,7 @@ bool IsReference(const FProperty& Property)
 
 TVexelExpected<void> FLumUnrealBaseProperty::CheckProperty() const
 {
-	if (!Property || !Data)
+	if (!GetData())
 	{
 		return VEXEL_ERROR(FLumError_Read, "Property is not valid!");
 	}
@@ -49,10 +52,9 @@ TVexelExpected<TVexelPropId> FLumUnrealBaseProperty::ReadPropId() const
 	return TVexelPropId(Property->GetName());
 }
 
-TVexelExpected<TVexelPropTypeId> FLumUnrealBaseProperty::ReadOwnerTypeId() const
+TVexelExpected<TVexelPropTypeId> FLumUnrealBaseProperty::ReadOwnerTypeIdOf(const FProperty& Property)
 {
-	VEXEL_TRY_VOID(CheckProperty(), "while getting owner type id");
-	VEXEL_TRY(TVexelPropTypeId Id, MakeOwnerTypeId(*Property), "while getting owner type id");
+	VEXEL_TRY(TVexelPropTypeId Id, MakeOwnerTypeId(Property), "while getting owner type id");
 	return Id;
 }
 
@@ -78,48 +80,70 @@ TVexelExpected<FString> FLumUnrealBaseProperty::ReadCategory() const
 bool FLumUnrealBaseProperty::ExportText(FString& OutText) const
 {
 	// The value as its own default: no member counts as unchanged and is left out.
+	const void* const Data = GetData();
 	return Property->ExportText_Direct(OutText, Data, Data, nullptr, PPF_None);
+}
+
+TVexelExpected<void> FLumUnrealBaseProperty::ImportText(const FString& Text) const
+{
+	VEXEL_TRY_VOID(CheckProperty());
+	const FLumTemporaryValue Value(*Property, GetData());
+	VEXEL_TRY_VOID(LumValueText::Read(*Property, Value.Get(), Text, Place->GetOwner()->GetObject()));
+	return Place->Assign(Value.Get());
 }
 
 bool FLumUnrealPropertyFactory::CanCreate(const FProperty& Property)
 {
-	return Property.ArrayDim == 1 && FLumHelper::GetPropertyTypeId(Property).HasValue() && !Property.IsA<FDelegateProperty>() &&
-		!Property.IsA<FMulticastDelegateProperty>();
+	return Property.ArrayDim == 1 && !Property.IsA<FDelegateProperty>() && !Property.IsA<FMulticastDelegateProperty>() &&
+		FLumHelper::HasPropertyTypeId(Property);
 }
 
-TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FProperty& Property, void* Data)
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealPropertyFactory::CreateMember(UObject& Object, const FProperty& Property)
 {
+	const UClass* const Owner = Property.GetOwnerClass();
+	if (!Owner || !Object.IsA(Owner))
+	{
+		return VEXEL_ERROR(FLumError_Read, "Property '%s' does not belong to object of type '%s'", *Property.GetName(),
+			*Object.GetClass()->GetName());
+	}
+	return CreateSubProperty(
+		MakeShared<FLumValuePlace>(MakeShared<FLumObjectOwner>(Object), FLumValuePlace::EPart::Member, Property));
+}
+
+TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FLumValuePlaceRef& Place)
+{
+	const FProperty& Property = Place->GetProperty();
 	if (!CanCreate(Property))
 	{
 		return nullptr;
 	}
 	if (Property.IsA<FArrayProperty>())
 	{
-		return MakeShared<FLumUnrealArrayProperty>(&Property, Data);
+		return MakeShared<FLumUnrealArrayProperty>(Place);
 	}
 	if (Property.IsA<FSetProperty>())
 	{
-		return MakeShared<FLumUnrealSetProperty>(&Property, Data);
+		return MakeShared<FLumUnrealSetProperty>(Place);
 	}
 	if (Property.IsA<FMapProperty>())
 	{
-		return MakeShared<FLumUnrealMapProperty>(&Property, Data);
+		return MakeShared<FLumUnrealMapProperty>(Place);
 	}
 	if (Property.IsA<FStructProperty>())
 	{
-		return MakeShared<FLumUnrealStructProperty>(&Property, Data);
+		return MakeShared<FLumUnrealStructProperty>(Place);
 	}
 	if (Property.IsA<FObjectProperty>() && IsInstanced(Property))
 	{
-		return MakeShared<FLumUnrealObjectInstanceProperty>(&Property, Data);
+		return MakeShared<FLumUnrealObjectInstanceProperty>(Place);
 	}
 	if (IsReference(Property))
 	{
-		return MakeShared<FLumUnrealObjectReferenceProperty>(&Property, Data);
+		return MakeShared<FLumUnrealObjectReferenceProperty>(Place);
 	}
 	if (Property.IsA<FEnumProperty>())
 	{
-		return MakeShared<FLumUnrealEnumProperty>(&Property, Data);
+		return MakeShared<FLumUnrealEnumProperty>(Place);
 	}
-	return MakeShared<FLumUnrealLeafProperty>(&Property, Data);
+	return MakeShared<FLumUnrealLeafProperty>(Place);
 }

@@ -1,36 +1,44 @@
 #pragma once
 
 #include "Lum/LumProperty.h"
+#include "Lum/Value/LumValueOwner.h"
+#include "Lum/Value/LumValuePlace.h"
 
 class FProperty;
+class UObject;
 
-/** An engine property with the memory of one value of it. What all kinds of such properties answer alike. */
+/** An engine property with the place of one value of it. What all kinds of such properties answer alike. */
 class FLumUnrealBaseProperty
 {
 public:
-	/** Data is the value's address; whoever owns it must outlive this. */
-	FLumUnrealBaseProperty(const FProperty* InProperty, void* InData)
-		: Property(InProperty)
-		, Data(InData)
+	explicit FLumUnrealBaseProperty(const FLumValuePlaceRef& InPlace)
+		: Property(&InPlace->GetProperty())
+		, Place(InPlace)
 	{
 	}
 
 	TVexelExpected<TVexelPropId> ReadPropId() const;
-	TVexelExpected<TVexelPropTypeId> ReadOwnerTypeId() const;
+	TVexelExpected<TVexelPropTypeId> ReadOwnerTypeId() const { return ReadOwnerTypeIdOf(*Property); }
 	TVexelExpected<TVexelPropTypeId> ReadValueTypeId() const;
 	TVexelExpected<EPropertyFlags> ReadFlags() const;
 	TVexelExpected<FString> ReadCategory() const;
 
+	static TVexelExpected<TVexelPropTypeId> ReadOwnerTypeIdOf(const FProperty& Property);
+
 protected:
 	TVexelExpected<void> CheckProperty() const;
+	/** The value's memory as of now; null when it is gone. */
+	void* GetData() const { return Place->Resolve(); }
 	/** The whole value in the engine's text form. False where the engine has none. */
 	bool ExportText(FString& OutText) const;
+	/** Writes the value that the text, which must be the engine's form of one, stands for. What the text leaves out stays. */
+	TVexelExpected<void> ImportText(const FString& Text) const;
 
 	const FProperty* Property;
-	void* Data;
+	FLumValuePlaceRef Place;
 };
 
-/** The getters of the base, as those of one of the property interfaces. */
+/** The base as one of the property interfaces. */
 template <typename InterfaceType>
 class TLumUnrealProperty : public InterfaceType, protected FLumUnrealBaseProperty
 {
@@ -42,6 +50,15 @@ public:
 	virtual TVexelExpected<TVexelPropTypeId> GetValueTypeId() const override { return ReadValueTypeId(); }
 	virtual TVexelExpected<EPropertyFlags> GetFlags() const override { return ReadFlags(); }
 	virtual TVexelExpected<FString> GetCategory() const override { return ReadCategory(); }
+	virtual TVexelExpected<void> JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) override
+	{
+		return Place->GetOwner()->Change(*Place, EPropertyChangeType::ValueSet, [this, &Context, &Value]()
+			{ return ImportValue(Context, Value); });
+	}
+
+protected:
+	/** What JsonImportValue does, as one change of the value. */
+	virtual TVexelExpected<void> ImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) = 0;
 };
 
 /** Makes the kind of Lum property that fits an engine property. */
@@ -51,5 +68,7 @@ public:
 	/** False for a property whose values no Blueprint type covers (a delegate, a fixed-size array). */
 	static bool CanCreate(const FProperty& Property);
 	/** Null where that is false. */
-	static TSharedPtr<ILumProperty> CreateSubProperty(const FProperty& Property, void* Data);
+	static TSharedPtr<ILumProperty> CreateSubProperty(const FLumValuePlaceRef& Place);
+	/** As CreateSubProperty, for a property of the object. */
+	static TVexelExpected<TSharedPtr<ILumProperty>> CreateMember(UObject& Object, const FProperty& Property);
 };

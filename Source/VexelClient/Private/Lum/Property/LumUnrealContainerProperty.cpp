@@ -2,20 +2,20 @@
 
 #include "Lum/Compound/LumUnrealContainerCompound.h"
 
-template <typename PropertyType, typename CompoundType>
-TVexelExpected<int32> TLumUnrealContainerProperty<PropertyType, CompoundType>::GetNum() const
+template <typename CompoundType>
+TVexelExpected<int32> TLumUnrealContainerProperty<CompoundType>::GetNum() const
 {
 	VEXEL_TRY(const TSharedPtr<ILumCollectionCompound> Compound, GetCollectionCompound());
 	return Compound->GetNum();
 }
 
-template <typename PropertyType, typename CompoundType>
-TVexelExpected<TSharedPtr<ILumCollectionCompound>> TLumUnrealContainerProperty<PropertyType, CompoundType>::GetCollectionCompound() const
+template <typename CompoundType>
+TVexelExpected<TSharedPtr<ILumCollectionCompound>> TLumUnrealContainerProperty<CompoundType>::GetCollectionCompound() const
 {
 	VEXEL_TRY_VOID(CheckProperty());
-	return MakeShared<CompoundType>(*CastFieldChecked<PropertyType>(Property), Data);
+	return MakeShared<CompoundType>(Place);
 }
 
-template class TLumUnrealContainerProperty<FArrayProperty, FLumUnrealArrayCompound>;
-template class TLumUnrealContainerProperty<FSetProperty, FLumUnrealSetCompound>;
-template class TLumUnrealContainerProperty<FMapProperty, FLumUnrealMapCompound>;
+template class TLumUnrealContainerProperty<FLumUnrealArrayCompound>;
+template class TLumUnrealContainerProperty<FLumUnrealSetCompound>;
+template class TLumUnrealContainerProperty<FLumUnrealMapCompound>;

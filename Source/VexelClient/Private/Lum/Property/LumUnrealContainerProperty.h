@@ -1,14 +1,10 @@
 #pragma once
 
 #include "Lum/Compound/LumUnrealContainerCompound.h"
-#include "Lum/LumCompound.h"
-#include "Lum/LumErrors.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 
-#include "UObject/UnrealType.h"
-
 /** A property that is a container, whose contents are a compound of their own. */
-template <typename PropertyType, typename CompoundType>
+template <typename CompoundType>
 class TLumUnrealContainerProperty : public TLumUnrealProperty<ILumCollectionProperty>
 {
 public:
@@ -16,12 +12,18 @@ public:
 
 	virtual TVexelExpected<int32> GetNum() const override;
 	virtual TVexelExpected<TSharedPtr<ILumCollectionCompound>> GetCollectionCompound() const override;
+
+protected:
+	virtual TVexelExpected<void> ImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) override
+	{
+		return ILumCompoundProperty::JsonImportValue(Context, Value);
+	}
 };
 
-using FLumUnrealArrayProperty = TLumUnrealContainerProperty<FArrayProperty, FLumUnrealArrayCompound>;
-using FLumUnrealSetProperty = TLumUnrealContainerProperty<FSetProperty, FLumUnrealSetCompound>;
-using FLumUnrealMapProperty = TLumUnrealContainerProperty<FMapProperty, FLumUnrealMapCompound>;
+using FLumUnrealArrayProperty = TLumUnrealContainerProperty<FLumUnrealArrayCompound>;
+using FLumUnrealSetProperty = TLumUnrealContainerProperty<FLumUnrealSetCompound>;
+using FLumUnrealMapProperty = TLumUnrealContainerProperty<FLumUnrealMapCompound>;
 
-extern template class TLumUnrealContainerProperty<FArrayProperty, FLumUnrealArrayCompound>;
-extern template class TLumUnrealContainerProperty<FSetProperty, FLumUnrealSetCompound>;
-extern template class TLumUnrealContainerProperty<FMapProperty, FLumUnrealMapCompound>;
+extern template class TLumUnrealContainerProperty<FLumUnrealArrayCompound>;
+extern template class TLumUnrealContainerProperty<FLumUnrealSetCompound>;
+extern template class TLumUnrealContainerProperty<FLumUnrealMapCompound>;

@@ -23,6 +23,15 @@ TVexelExpected<FString> FLumUnrealLeafProperty::ExportString() const
 	return Text;
 }
 
+TVexelExpected<void> FLumUnrealLeafProperty::ImportValue(const FLumContext&, const TSharedRef<FJsonValue>& Value)
+{
+	if (Value->Type != EJson::String)
+	{
+		return VEXEL_ERROR(FLumError_Import, "Expected string value for property '%s'", *Property->GetName());
+	}
+	return ImportText(Value->AsString());
+}
+
 TVexelExpected<TVexelPropTypeId> FLumUnrealEnumProperty::GetValueTypeId() const
 {
 	VEXEL_TRY_VOID(CheckProperty(), "while getting value type id");

@@ -10,6 +10,9 @@ public:
 
 	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override;
 
+protected:
+	virtual TVexelExpected<void> ImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) override;
+
 private:
 	TVexelExpected<FString> ExportString() const;
 };

@@ -9,15 +9,15 @@
 TVexelExpected<TSharedPtr<ILumCompound>> FLumUnrealStructProperty::GetCompound() const
 {
 	const FStructProperty* const StructProperty = CastField<FStructProperty>(Property);
-	if (!StructProperty)
+	if (!StructProperty || !StructProperty->Struct)
 	{
 		return VEXEL_ERROR(FLumError_Read, "Struct property is not valid!");
 	}
-	if (!Data)
+	if (!GetData())
 	{
 		return VEXEL_ERROR(FLumError_Read, "Struct data is not valid!");
 	}
-	return MakeShared<FLumUnrealStructCompound>(StructProperty->Struct, Data);
+	return MakeShared<FLumUnrealStructCompound>(StructProperty->Struct, Place);
 }
 
 TVexelExpected<TSharedRef<FJsonValue>> FLumUnrealStructProperty::JsonExportValue(const FLumContext& Context) const
@@ -34,4 +34,9 @@ TVexelExpected<TSharedRef<FJsonValue>> FLumUnrealStructProperty::JsonExportValue
 		return VEXEL_ERROR(FLumError_Export, "Failed to export struct as text");
 	}
 	return MakeShared<FJsonValueString>(Text);
+}
+
+TVexelExpected<void> FLumUnrealStructProperty::ImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value)
+{
+	return Value->Type == EJson::String ? ImportText(Value->AsString()) : ILumCompoundProperty::JsonImportValue(Context, Value);
 }

@@ -10,4 +10,8 @@ public:
 
 	virtual TVexelExpected<TSharedPtr<ILumCompound>> GetCompound() const override;
 	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override;
+
+protected:
+	/** Takes the engine's text form in a string, or an object of fields. */
+	virtual TVexelExpected<void> ImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value) override;
 };

@@ -8,18 +8,19 @@
 
 TVexelExpected<FLumUnrealVirtualProperty::FValue> FLumUnrealVirtualProperty::MakeValue(const FProperty& Property, const FString& Text)
 {
-	const TSharedRef<uint8> Data = MakeShareable(static_cast<uint8*>(Property.AllocateAndInitializeValue()), [&Property](uint8* Memory)
-		{ Property.DestroyAndFreeValue(Memory); });
-	const TSharedPtr<ILumProperty> Inner = FLumUnrealPropertyFactory::CreateSubProperty(Property, &*Data);
+	// What declares the property, such as a class of a Blueprint, lies in the package that the value will be saved in.
+	const TSharedRef<ILumValueOwner> Owner = MakeShared<FLumLooseOwner>(Property, Property.GetOwnerUObject());
+	const TSharedPtr<ILumProperty> Inner =
+		FLumUnrealPropertyFactory::CreateSubProperty(MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Whole, Property));
 	if (!Inner)
 	{
 		return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
 	}
 	if (!Text.IsEmpty())
 	{
-		VEXEL_TRY_VOID(FLumHelper::ImportStringToProperty(Property, &*Data, Text));
+		VEXEL_TRY_VOID(FLumHelper::ImportStringToProperty(Property, Owner->GetMemory(), Text));
 	}
-	return FValue{&Property, Data, Inner.ToSharedRef()};
+	return FValue{&Property, Owner, Inner.ToSharedRef()};
 }
 
 FLumUnrealVirtualProperty::FLumUnrealVirtualProperty(const FValue& InValue)
@@ -38,6 +39,7 @@ TVexelExpected<void> FLumUnrealVirtualProperty::JsonImportValue(const FLumContex
 FString FLumUnrealVirtualProperty::ExportText() const
 {
 	FString Text;
-	Value.Property->ExportText_Direct(Text, &*Value.Data, &*Value.Data, nullptr, PPF_None);
+	const void* const Data = Value.Owner->GetMemory();
+	Value.Property->ExportText_Direct(Text, Data, Data, nullptr, PPF_None);
 	return Text;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Lum/Property/LumForwardingProperty.h"
+#include "Lum/Value/LumValueOwner.h"
 
 class FProperty;
 
@@ -19,11 +20,11 @@ public:
 		return StaticCastSharedRef<ILumProperty>(MakeShared<VirtualType>(Value, Forward<ArgTypes>(Args)...));
 	}
 
-	/** The memory of a value, with the property that reads and writes it. */
+	/** A value, with the property that reads and writes it. */
 	struct FValue
 	{
 		const FProperty* Property;
-		TSharedRef<uint8> Data;
+		TSharedRef<ILumValueOwner> Owner;
 		TSharedRef<ILumProperty> Inner;
 	};
 

@@ -45,8 +45,12 @@ TSharedPtr<ILumProperty> FLumBlueprintMemberVariable::FindCompiledValue(
 	FEdGraphPinType Type;
 	const bool bIsAsDescribed = Property && GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(Property, Type) &&
 		FVexelBlueprintPropTypeBuilder::MakeId(Type) == FVexelBlueprintPropTypeBuilder::MakeId(Description.VarType);
-	return bIsAsDescribed ? FLumUnrealPropertyFactory::CreateSubProperty(*Property, Property->ContainerPtrToValuePtr<void>(DefaultObject))
-						  : nullptr;
+	if (!bIsAsDescribed)
+	{
+		return nullptr;
+	}
+	TVexelExpected<TSharedPtr<ILumProperty>> Member = FLumUnrealPropertyFactory::CreateMember(*DefaultObject, *Property);
+	return Member.HasValue() ? Member.GetValue() : nullptr;
 }
 
 TVexelExpected<TSharedPtr<ILumProperty>> FLumBlueprintMemberVariable::CreateLumValueWrapper() const
