@@ -76,9 +76,14 @@ bool IsNumberStart(const TCHAR* Buffer)
 	return FChar::IsDigit(*Buffer) || *Buffer == TEXT('-') || *Buffer == TEXT('+') || *Buffer == TEXT('.');
 }
 
+bool IsHexNumber(const TCHAR* Text)
+{
+	return Text[0] == TEXT('0') && (Text[1] == TEXT('x') || Text[1] == TEXT('X'));
+}
+
 const TCHAR* SkipInteger(const TCHAR* Buffer)
 {
-	if (Buffer[0] == TEXT('0') && (Buffer[1] == TEXT('x') || Buffer[1] == TEXT('X')))
+	if (IsHexNumber(Buffer))
 	{
 		Buffer += 2;
 		while (FChar::IsHexDigit(*Buffer))
@@ -105,6 +110,49 @@ const TCHAR* SkipInteger(const TCHAR* Buffer)
 		}
 	}
 	return Buffer;
+}
+
+/** The number without its sign, as far as its digits go; false where it has more than any integer holds. */
+bool ReadMagnitude(const TCHAR* Digits, bool bHex, uint64& OutMagnitude)
+{
+	const uint64 Base = bHex ? 16 : 10;
+	OutMagnitude = 0;
+	for (; bHex ? FChar::IsHexDigit(*Digits) : FChar::IsDigit(*Digits); ++Digits)
+	{
+		const uint64 Digit = FParse::HexDigit(*Digits);
+		if (OutMagnitude > (MAX_uint64 - Digit) / Base)
+		{
+			return false;
+		}
+		OutMagnitude = OutMagnitude * Base + Digit;
+	}
+	return true;
+}
+
+/** Whether the property can hold the integer that the text is. A hexadecimal one is the bits of the value. */
+bool CanHoldText(const FNumericProperty& Property, const TCHAR* Text)
+{
+	const bool bHex = IsHexNumber(Text);
+	const bool bNegative = *Text == TEXT('-');
+	const TCHAR* const Digits = Text + (bHex ? 2 : bNegative || *Text == TEXT('+') ? 1
+																				   : 0);
+	uint64 Magnitude = 0;
+	if (!ReadMagnitude(Digits, bHex, Magnitude))
+	{
+		return false;
+	}
+	constexpr uint64 LowestMagnitude = static_cast<uint64>(MAX_int64) + 1;
+	const int32 NumBits = Property.GetElementSize() * 8;
+	if (bHex)
+	{
+		return NumBits == 64 || Magnitude >> NumBits == 0;
+	}
+	if (bNegative)
+	{
+		return Magnitude <= LowestMagnitude && Property.CanHoldValue(static_cast<int64>(0 - Magnitude));
+	}
+	const bool bHoldsAll = NumBits == 64 && !Property.CanHoldValue(-1);
+	return bHoldsAll || (Magnitude <= static_cast<uint64>(MAX_int64) && Property.CanHoldValue(static_cast<int64>(Magnitude)));
 }
 
 const TCHAR* SkipFloat(const TCHAR* Buffer)
@@ -267,6 +315,10 @@ const TCHAR* FNumericProperty::ImportText_Internal(
 	{
 		return FPropertyHelpers::RefuseText(ErrorText, this, TEXT("is not a number"), Start);
 	}
+	if (IsInteger() && !CanHoldText(*this, Start))
+	{
+		return FPropertyHelpers::RefuseText(ErrorText, this, TEXT("is out of range"), Start);
+	}
 	SetNumericPropertyValueFromString(PropertyValue, *FString(static_cast<int32>(End - Start), Start));
 	return End;
 }
@@ -305,7 +357,7 @@ void TProperty_Numeric<T>::SetNumericPropertyValueFromString(void* Data, const T
 	}
 	else
 	{
-		const bool bHex = Value[0] == TEXT('0') && (Value[1] == TEXT('x') || Value[1] == TEXT('X'));
+		const bool bHex = IsHexNumber(Value);
 		const int32 Base = bHex ? 16 : 10;
 		this->SetPropertyValue(Data,
 			std::is_signed_v<T> && !bHex ? static_cast<T>(FCString::Strtoi64(Value, nullptr, Base))

@@ -1,9 +1,13 @@
 #pragma once
 
 #include "Templates/SubclassOf.h"
+#include "UObject/Interface.h"
+#include "UObject/LazyObjectPtr.h"
 #include "UObject/ObjectInitializer.h"
+#include "UObject/ScriptInterface.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
 
 #include "LumTestTypes.generated.h"
 
@@ -33,6 +37,31 @@ struct FLumInner
 	FString Label = TEXT("say \"x\"");
 };
 
+/** Compares and hashes by its id alone. */
+USTRUCT()
+struct FLumKey
+{
+	GENERATED_BODY()
+
+	UPROPERTY(EditAnywhere)
+	int32 Id = 0;
+
+	UPROPERTY(EditAnywhere)
+	FString Note;
+
+	bool operator==(const FLumKey& Other) const { return Id == Other.Id; }
+	friend uint32 GetTypeHash(const FLumKey& Key) { return GetTypeHash(Key.Id); }
+};
+
+template <>
+struct TStructOpsTypeTraits<FLumKey> : public TStructOpsTypeTraitsBase2<FLumKey>
+{
+	enum
+	{
+		WithIdenticalViaEquality = true
+	};
+};
+
 USTRUCT()
 struct FLumOuter
 {
@@ -60,6 +89,74 @@ public:
 
 	UPROPERTY(EditAnywhere, Instanced)
 	TObjectPtr<ULumPart> Next = nullptr;
+};
+
+UINTERFACE()
+class ULumTalker : public UInterface
+{
+	GENERATED_BODY()
+};
+
+class ILumTalker
+{
+	GENERATED_BODY()
+};
+
+UCLASS()
+class ULumTalkingThing : public UObject, public ILumTalker
+{
+	GENERATED_BODY()
+};
+
+/** Keeps what it is told of edits, and refuses those of one property. */
+UCLASS()
+class ULumWatch : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY(EditAnywhere)
+	int32 Number = 1;
+
+	UPROPERTY(EditAnywhere)
+	int32 Locked = 1;
+
+	UPROPERTY(EditAnywhere)
+	FLumOuter Struct;
+
+	UPROPERTY(EditAnywhere)
+	TArray<FLumInner> List;
+
+	UPROPERTY(EditAnywhere, EditFixedSize)
+	TArray<int32> FixedSize = {1, 2};
+
+	UPROPERTY(EditDefaultsOnly)
+	int32 DefaultsOnly = 1;
+
+	UPROPERTY(EditInstanceOnly)
+	int32 InstanceOnly = 1;
+
+	UPROPERTY(EditAnywhere, Instanced)
+	TObjectPtr<ULumPart> Part = nullptr;
+
+	/** "Pre Number", "Post Struct.Inner.Depth of Struct" and so on. */
+	TArray<FString> Told;
+
+	virtual bool CanEditChange(const FProperty* Property) const override
+	{
+		return Super::CanEditChange(Property) && (!Property || Property->GetName() != TEXT("Locked"));
+	}
+	using UObject::PreEditChange;
+	virtual void PreEditChange(FEditPropertyChain& Chain) override
+	{
+		Super::PreEditChange(Chain);
+		Told.Add(TEXT("Pre ") + Chain.GetActiveMemberNode()->GetValue()->GetName());
+	}
+	virtual void PostEditChangeChainProperty(FPropertyChangedChainEvent& Event) override
+	{
+		Super::PostEditChangeChainProperty(Event);
+		Told.Add(FString::Printf(TEXT("Post %s of %s"), *Event.GetPropertyName().ToString(), *Event.GetMemberPropertyName().ToString()));
+	}
 };
 
 DECLARE_DYNAMIC_DELEGATE(FLumDone);
@@ -161,6 +258,54 @@ public:
 
 	UPROPERTY(EditAnywhere)
 	TArray<TObjectPtr<UObject>> Objects;
+
+	UPROPERTY(EditAnywhere)
+	FText Text;
+
+	UPROPERTY(EditAnywhere)
+	TLazyObjectPtr<UObject> Lazy;
+
+	UPROPERTY(EditAnywhere)
+	TScriptInterface<ILumTalker> Talker;
+
+	UPROPERTY(EditAnywhere)
+	TSubclassOf<ULumPart> PartClass;
+
+	UPROPERTY(EditAnywhere)
+	TObjectPtr<ULumPart> PartReference = nullptr;
+
+	UPROPERTY(EditAnywhere)
+	FGuid Guid;
+
+	UPROPERTY(EditAnywhere)
+	FTransform Transform;
+
+	UPROPERTY(EditAnywhere)
+	FLinearColor Color = FLinearColor(1, 0, 0, 1);
+
+	UPROPERTY(EditAnywhere)
+	FSoftObjectPath SoftPath;
+
+	UPROPERTY(EditAnywhere)
+	TArray<FLumInner> Inners;
+
+	UPROPERTY(EditAnywhere)
+	TArray<FString> Strings;
+
+	UPROPERTY(EditAnywhere)
+	TSet<FLumKey> Keys;
+
+	UPROPERTY(EditAnywhere)
+	TMap<FName, int32> Counts;
+
+	UPROPERTY(EditAnywhere)
+	TMap<FLumKey, FLumInner> ByKey;
+
+	UPROPERTY(EditAnywhere)
+	TMap<ELumMood, TSubclassOf<UObject>> ByMood;
+
+	UPROPERTY(EditAnywhere, Instanced)
+	TArray<TObjectPtr<ULumPart>> Parts;
 
 	UPROPERTY(EditAnywhere)
 	int32 Fixed[3] = {};

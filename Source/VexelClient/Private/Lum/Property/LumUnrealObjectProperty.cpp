@@ -175,6 +175,10 @@ TVexelExpected<void> FLumUnrealObjectInstanceProperty::ImportValue(const FLumCon
 	{
 		return {};
 	}
+	if (FindComponentTemplate(*Property, Place->GetOwner()->GetObject()))
+	{
+		return VEXEL_ERROR(FLumError_Import, "'%s' is a component of the blueprint", *Property->GetName());
+	}
 	if (Object)
 	{
 		VEXEL_TRY_VOID(CheckCanBePart(*Object));
