@@ -51,6 +51,8 @@ constexpr FOptionRow ToolOptions[] = {
 constexpr FOptionRow ToolsOptions[] = {JsonOption};
 constexpr FOptionRow GraphOptions[] = {BlueprintOption, GraphOption, ProjectOption, SaveOption, JsonOption, VerboseOption};
 constexpr FOptionRow DiffOptions[] = {ProjectOption, JsonOption, VerboseOption};
+constexpr FOptionRow GetOptions[] = {ProjectOption, JsonOption, VerboseOption};
+constexpr FOptionRow SetOptions[] = {ProjectOption, SaveOption, JsonOption, VerboseOption};
 constexpr FOptionRow InspectOptions[] = {JsonOption};
 constexpr FOptionRow ServiceOptions[] = {
 	{TEXT("--port"), TEXT("N"), TEXT("the port; a free one without it")},
@@ -72,6 +74,9 @@ const FCommandRow Commands[] = {
 	{TEXT("diff"), TEXT("BEFORE AFTER"),
 		TEXT("what differs between two Blueprints, each a file or one of the project; git can call it (Docs/Diff.md)"),
 		DiffOptions, 7, RunDiffCommand},
+	{TEXT("get"), TEXT("BLUEPRINT[:ADDRESS]"), TEXT("a value in a Blueprint, or the Blueprint, as the assistant reads it"), GetOptions, 1,
+		RunGetCommand},
+	{TEXT("set"), TEXT("BLUEPRINT:ADDRESS VALUE"), TEXT("gives a value in a Blueprint another one"), SetOptions, 2, RunSetCommand},
 	{TEXT("inspect"), TEXT("FILE.uasset"), TEXT("the tables of a package file as JSON"), InspectOptions, 1, RunInspectCommand},
 	{TEXT("service"), TEXT("[--port N] [--data DIR]"), TEXT("runs the local service"), ServiceOptions, 0, RunServiceCommand},
 };

@@ -25,11 +25,13 @@ TConstArrayView<FCommandRow> GetCommands();
 
 int32 RunChatCommand(const FArguments& Arguments);
 int32 RunDiffCommand(const FArguments& Arguments);
+int32 RunGetCommand(const FArguments& Arguments);
 int32 RunGraphCommand(const FArguments& Arguments);
 int32 RunInspectCommand(const FArguments& Arguments);
 int32 RunLoginCommand(const FArguments& Arguments);
 int32 RunLogoutCommand(const FArguments& Arguments);
 int32 RunServiceCommand(const FArguments& Arguments);
+int32 RunSetCommand(const FArguments& Arguments);
 int32 RunToolCommand(const FArguments& Arguments);
 int32 RunToolsCommand(const FArguments& Arguments);
 int32 RunWhoamiCommand(const FArguments& Arguments);
