@@ -1,6 +1,7 @@
 #include "EdGraphSchema_K2.h"
 #include "Editor.h"
 #include "K2Node_CallFunction.h"
+#include "K2Node_CreateDelegate.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_FunctionEntry.h"
 #include "K2Node_FunctionResult.h"
@@ -328,6 +329,47 @@ TEST_F(FObjectEditTest, WhatALossyEditCostsIsTold)
 	EXPECT_FALSE(Edit(OnHeal, "{'operation': 'edit_variable', 'scope': 'local', 'name': 'Left', 'value': {'prop_id': 'Rest'}}")
 					 .GetValue()
 					 ->HasField(TEXT("warnings")));
+}
+
+TEST_F(FObjectEditTest, ALinkThatCanBeConvertedIsKept)
+{
+	const FAnswer Retyped = Edit(OnBlueprint, "{'operation': 'edit_variable', 'scope': 'member', 'name': 'Health', 'value': {'type_id': 'real'}}");
+	EXPECT_FALSE(Retyped.GetValue()->HasField(TEXT("errors")));
+	const UK2Node_VariableSet* const Set = FindNodeOfClass<UK2Node_VariableSet>(EventGraph);
+	ASSERT_EQ(1, Set->FindPinChecked(TEXT("Health"))->LinkedTo.Num());
+	const UK2Node_CallFunction* const Conversion =
+		Cast<UK2Node_CallFunction>(Set->FindPinChecked(TEXT("Health"))->LinkedTo[0]->GetOwningNode());
+	ASSERT_NE(nullptr, Conversion);
+	EXPECT_EQ("Conv_IntToDouble", ToStd(Conversion->FunctionReference.GetMemberName().ToString()));
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	EXPECT_NE(BS_Error, Blueprint->Status);
+
+	ASSERT_THAT(EditErrors(OnEvent, "{'operation': 'edit_pin', 'scope': 'out', 'name': 'Damage', 'value': {'type_id': 'bool'}}"), IsEmpty());
+	const UK2Node_CustomEvent* const Event = FindNodeOfClass<UK2Node_CustomEvent>(EventGraph);
+	EXPECT_EQ(1, Event->FindPinChecked(TEXT("Damage"))->LinkedTo.Num());
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	EXPECT_NE(BS_Error, Blueprint->Status);
+}
+
+TEST_F(FObjectEditTest, ARenamedEventIsFollowedByCallsOverridesAndDelegates)
+{
+	const std::string Name = ToStd(Blueprint->GetName());
+	const std::string Spawns = "{'blueprint': '" + ToStd(Child->GetPathName()) + "', 'graph': 'EventGraph', 'nodes': [{'node_type': 'event." + Name +
+		".Hurt'}, {'node_type': 'delegate.create.None'}]}";
+	ASSERT_THAT(ItemErrorsOf(TEXT("node_spawn"), Spawns.c_str()), IsEmpty());
+	UEdGraph* const ChildGraph = FBlueprintEditorUtils::FindEventGraph(Child);
+	UK2Node_CreateDelegate* const Delegate = FindNodeOfClass<UK2Node_CreateDelegate>(ChildGraph);
+	ASSERT_NE(nullptr, Delegate);
+	Delegate->SetFunction(TEXT("Hurt"));
+	ASSERT_THAT(EditErrors(OnEvent, "{'operation': 'update', 'prop_path': 'name', 'value': 'Ouch'}"), IsEmpty());
+	TArray<UK2Node_Event*> Overrides;
+	ChildGraph->GetNodesOfClass(Overrides);
+	EXPECT_TRUE(Overrides.ContainsByPredicate([](const UK2Node_Event* Event)
+		{ return Event->GetFunctionName() == TEXT("Ouch"); }));
+	EXPECT_EQ("Ouch", ToStd(Delegate->GetFunctionName().ToString()));
+	TArray<UK2Node_CallFunction*> Calls;
+	FBlueprintEditorUtils::FindEventGraph(User)->GetNodesOfClass(Calls);
+	EXPECT_EQ("Ouch", ToStd(Calls[1]->FunctionReference.GetMemberName().ToString()));
 }
 
 TEST_F(FObjectEditTest, FlagsOfAVariableAreSetReadAndCleared)

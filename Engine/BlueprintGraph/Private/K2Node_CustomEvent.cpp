@@ -3,6 +3,7 @@
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
 #include "K2Node_CallFunction.h"
+#include "K2Node_CreateDelegate.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectHash.h"
 
@@ -53,31 +54,57 @@ private:
 	const UClass* Parent = nullptr;
 };
 
-/** Calls of the event in all loaded Blueprints know it by its name. */
-void RenameCalls(const UK2Node_CustomEvent& Event, FName NewName)
+template <class NodeType>
+void ForEachNode(TFunctionRef<void(NodeType&)> Visit)
 {
-	TArray<UObject*> Calls;
-	GetObjectsOfClass(UK2Node_CallFunction::StaticClass(), Calls, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
-	for (UObject* const Object : Calls)
+	TArray<UObject*> Nodes;
+	GetObjectsOfClass(NodeType::StaticClass(), Nodes, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
+	for (UObject* const Node : Nodes)
 	{
-		UK2Node_CallFunction* const Call = CastChecked<UK2Node_CallFunction>(Object);
-		FMemberReference& Reference = Call->FunctionReference;
-		if (Reference.GetMemberName() != Event.CustomFunctionName)
+		Visit(*CastChecked<NodeType>(Node));
+	}
+}
+
+bool IsClassOf(const UClass* Class, const UBlueprint* Blueprint)
+{
+	for (; Class; Class = Class->GetSuperClass())
+	{
+		if (Class->ClassGeneratedBy == Blueprint)
 		{
-			continue;
-		}
-		const UClass* const Scope = Reference.GetScope(Call->GetBlueprintClassFromNode());
-		bool bIsOfBlueprint = false;
-		for (const UClass* Class = Scope; Class && !bIsOfBlueprint; Class = Class->GetSuperClass())
-		{
-			bIsOfBlueprint = Class->ClassGeneratedBy == Event.GetBlueprint();
-		}
-		if (bIsOfBlueprint)
-		{
-			Call->Modify();
-			Reference.SetDirect(NewName, Reference.GetMemberGuid(), Reference.GetMemberParentClass(), Reference.IsSelfContext());
+			return true;
 		}
 	}
+	return false;
+}
+
+/** Calls and overrides of the event, and delegates made of it, know it by its name, in all loaded Blueprints. */
+void RenameUses(const UK2Node_CustomEvent& Event, FName NewName)
+{
+	const FName OldName = Event.CustomFunctionName;
+	const UBlueprint* const Blueprint = Event.GetBlueprint();
+	const auto Rename = [&](UK2Node& User, FMemberReference& Reference)
+	{
+		if (Reference.GetMemberName() == OldName && IsClassOf(Reference.GetScope(User.GetBlueprintClassFromNode()), Blueprint))
+		{
+			User.Modify();
+			Reference.SetDirect(NewName, Reference.GetMemberGuid(), Reference.GetMemberParentClass(), Reference.IsSelfContext());
+		}
+	};
+	ForEachNode<UK2Node_CallFunction>([&](UK2Node_CallFunction& Call)
+		{ Rename(Call, Call.FunctionReference); });
+	ForEachNode<UK2Node_Event>([&](UK2Node_Event& Override)
+		{
+			if (Override.bOverrideFunction)
+			{
+				Rename(Override, Override.EventReference);
+			} });
+	ForEachNode<UK2Node_CreateDelegate>([&](UK2Node_CreateDelegate& Delegate)
+		{
+			if (Delegate.GetFunctionName() == OldName && IsClassOf(Delegate.GetScopeClass(), Blueprint))
+			{
+				Delegate.Modify();
+				Delegate.SetFunction(NewName);
+			} });
 }
 }
 
@@ -143,7 +170,7 @@ void UK2Node_CustomEvent::OnRenameNode(const FString& NewName)
 	const FName Name(*NewName);
 	if (!NewName.IsEmpty() && !FTakenNames(*this).Contains(Name))
 	{
-		RenameCalls(*this, Name);
+		RenameUses(*this, Name);
 		Modify();
 		CustomFunctionName = Name;
 		UpdateDelegatePin();

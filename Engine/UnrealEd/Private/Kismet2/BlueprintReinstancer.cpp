@@ -273,6 +273,7 @@ void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt
 	if (Rebuilt.OldDefaultObject)
 	{
 		TransferValues(*Rebuilt.OldDefaultObject, *NewDefaultObject, GetOldPropertyGuids(Rebuilt));
+		ApplyDefaultsOfRetyped(Rebuilt);
 	}
 	const bool bIsWhatUsersEdit = Rebuilt.Blueprint->GeneratedClass.Get() == Rebuilt.Class;
 	if (Rebuilt.OldDefaultObject && bIsWhatUsersEdit)
@@ -307,6 +308,22 @@ void FBlueprintCompileReinstancer::ApplyVariableDefaults(const FRebuiltClass& Re
 		{
 			OutErrors.Add(FString::Printf(
 				TEXT("The default value of %s could not be read: %s"), *Variable.VarName.ToString(), *Variable.DefaultValue.Left(128)));
+		}
+	}
+}
+
+void FBlueprintCompileReinstancer::ApplyDefaultsOfRetyped(const FRebuiltClass& Rebuilt)
+{
+	const TMap<FName, FGuid> OldGuids = GetOldPropertyGuids(Rebuilt);
+	UObject* const Defaults = Rebuilt.Class->GetDefaultObject();
+	for (const FBPVariableDescription& Variable : Rebuilt.Blueprint->NewVariables)
+	{
+		const FProperty* const Property = Variable.DefaultValue.IsEmpty() ? nullptr
+																		  : FindFProperty<FProperty>(Rebuilt.Class, Variable.VarName);
+		const FProperty* const Old = Property ? FindOldProperty(*Rebuilt.OldClass, OldGuids, *Property) : nullptr;
+		if (Old && !Old->SameType(Property))
+		{
+			Property->ImportText_Direct(*Variable.DefaultValue, Property->ContainerPtrToValuePtr<void>(Defaults), Defaults, PPF_None);
 		}
 	}
 }

@@ -43,6 +43,8 @@ private:
 	/** Ids of the old properties of the class and of the ancestors that are rebuilt with it, by their old names. */
 	TMap<FName, FGuid> GetOldPropertyGuids(const FRebuiltClass& Rebuilt) const;
 	static void ApplyVariableDefaults(const FRebuiltClass& Rebuilt, TArray<FString>& OutErrors);
+	/** A default that was given to a variable behind a change of its type is newer than the value of the old type. */
+	void ApplyDefaultsOfRetyped(const FRebuiltClass& Rebuilt);
 	/** The default objects of such classes are reached through their classes alone. */
 	bool AreSkeletonsWithoutInstances() const;
 	void ReplaceObjects();

@@ -1,5 +1,8 @@
 #include "Lum/LumParameterPins.h"
 
+#include "Lum/LumLinkMending.h"
+#include "Lum/LumNodeUses.h"
+
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
 #include "K2Node_ActorBoundEvent.h"
@@ -37,17 +40,7 @@ struct FDeclaration
 		}
 	}
 
-	bool IsOwn(const UClass* Class) const
-	{
-		for (; Class; Class = Class->GetSuperClass())
-		{
-			if (Class->ClassGeneratedBy == Blueprint)
-			{
-				return true;
-			}
-		}
-		return false;
-	}
+	bool IsOwn(const UClass* Class) const { return Blueprint && LumNodeUses::IsClassOf(Class, *Blueprint); }
 
 	bool IsReferredTo(const UK2Node& Node, const FMemberReference& Reference, FName Name) const
 	{
@@ -99,12 +92,6 @@ EEdGraphPinDirection GetOpposite(EEdGraphPinDirection Direction)
 	return Direction == EGPD_Input ? EGPD_Output : EGPD_Input;
 }
 
-bool StandsInGraph(UK2Node& Node)
-{
-	const UEdGraph* const Graph = Node.GetGraph();
-	return Graph && FBlueprintEditorUtils::FindBlueprintForNode(&Node) && Graph->Nodes.Contains(&Node);
-}
-
 /** The parts of a split pin have its name in front of theirs. */
 void RenamePin(UEdGraphPin& Pin, FName NewName)
 {
@@ -137,7 +124,7 @@ FLumParameterPins::FLumParameterPins(const UK2Node_EditablePinBase& Declaring, F
 	const FDeclaration Declaration(Declaring);
 	for (TObjectIterator<UK2Node> It; It; ++It)
 	{
-		if (*It != &Declaring && Declaration.IsUsedBy(**It) && StandsInGraph(**It))
+		if (*It != &Declaring && Declaration.IsUsedBy(**It) && LumNodeUses::StandsInBlueprint(**It))
 		{
 			Users.Add(*It);
 		}
@@ -187,10 +174,13 @@ void FLumParameterPins::Rename(FName NewName)
 	Name = NewName;
 }
 
-void FLumParameterPins::ReconstructGetters() const
+void FLumParameterPins::FollowType() const
 {
+	TArray<UK2Node*> Nodes = Users;
 	for (UK2Node_Variable* const Getter : Getters)
 	{
 		Getter->ReconstructNode();
+		Nodes.Add(Getter);
 	}
+	LumLinkMending::Mend(Nodes);
 }

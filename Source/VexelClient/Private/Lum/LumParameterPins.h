@@ -5,6 +5,7 @@
 
 class UK2Node;
 class UK2Node_EditablePinBase;
+class UK2Node_Variable;
 
 /**
  * The nodes of all loaded Blueprints that show a parameter which an end of a function or macro, or an event, declares: calls, overrides,
@@ -18,8 +19,8 @@ public:
 
 	/** Has the pins bear the new name, which keeps their links when the nodes make their pins again. */
 	void Rename(FName NewName);
-	/** Makes the pins again of the nodes that get the parameter: nothing else does when its type changes. */
-	void ReconstructGetters() const;
+	/** When the type has changed: makes the pins again of the nodes that get the parameter, which nothing else does, and mends the links of all. */
+	void FollowType() const;
 
 private:
 	void FindGetters(const UK2Node_EditablePinBase& Declaring);
@@ -28,5 +29,5 @@ private:
 	/** On the nodes outside: what goes in there comes out of the declaring node. */
 	EEdGraphPinDirection OuterDirection;
 	TArray<UK2Node*> Users;
-	TArray<class UK2Node_Variable*> Getters;
+	TArray<UK2Node_Variable*> Getters;
 };

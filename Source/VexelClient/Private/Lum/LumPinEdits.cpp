@@ -1,6 +1,7 @@
 #include "Lum/LumHelper.h"
 
 #include "Lum/LumErrors.h"
+#include "Lum/LumLinkMending.h"
 #include "Lum/LumParameterPins.h"
 #include "Lum/LumStructureEdit.h"
 #include "Lum/LumVariable.h"
@@ -330,7 +331,8 @@ TVexelExpected<void> FLumHelper::ChangeUserDefinedPin(
 	if (Change.Type)
 	{
 		Edit.Mark();
-		Users.ReconstructGetters();
+		Users.FollowType();
+		LumLinkMending::Mend(TArray<UK2Node*>(Nodes));
 	}
 	return {};
 }

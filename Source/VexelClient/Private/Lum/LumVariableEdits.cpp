@@ -2,6 +2,8 @@
 
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
+#include "Lum/LumLinkMending.h"
+#include "Lum/LumNodeUses.h"
 #include "Lum/LumStructureEdit.h"
 #include "Lum/LumVariable.h"
 #include "Lum/LumVariableFlags.h"
@@ -298,6 +300,7 @@ TVexelExpected<void> LumVariableEdits::ChangeMember(UBlueprint& Blueprint, FName
 		Edit.LetEngineMark();
 		FBlueprintEditorUtils::ChangeMemberVariableType(&Blueprint, Change.Name, *Change.Type);
 		KeepDefault(Blueprint.NewVariables[Index], Blueprint.SkeletonGeneratedClass, OldDefault);
+		LumLinkMending::Mend(LumNodeUses::FindOfVariable(Blueprint, Change.Name));
 	}
 	return {};
 }
@@ -377,6 +380,7 @@ TVexelExpected<void> LumVariableEdits::ChangeLocal(UEdGraph& Graph, FName Name, 
 		Edit.LetEngineMark();
 		FBlueprintEditorUtils::ChangeLocalVariableType(Local.Blueprint, Local.Function, Change.Name, *Change.Type);
 		KeepDefault(*Local.Variable, FindFunction(Graph), OldDefault);
+		LumLinkMending::Mend(LumNodeUses::FindOfVariable(*Local.Blueprint, Change.Name, Local.Entry->GetGraph()->GetName()));
 	}
 	return {};
 }

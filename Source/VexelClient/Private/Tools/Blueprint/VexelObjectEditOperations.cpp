@@ -8,8 +8,6 @@
 
 namespace
 {
-FString NumberOf(EVexelEditOperation Type) { return FString::FromInt(static_cast<int32>(Type)); }
-
 /** The descriptor that the value is; an empty one where there is none. */
 FLumVarDesc ReadDescriptor(const TSharedPtr<FJsonValue>& Value)
 {
@@ -81,7 +79,7 @@ TVexelExpected<void> FEditRequestOperationOnProp::Dispatch(ILumProperty& Propert
 		case EVexelEditOperation::Remove:
 			return ExecuteRemove(Property);
 		default:
-			return VEXEL_ERROR(FLumError_Write, "Unsupported operation type '%s' for property operation", *NumberOf(Type));
+			return VEXEL_ERROR(FLumError_Write, "Unsupported operation type '%s' for property operation", VexelEditWords::GetWord(Type));
 	}
 }
 
@@ -162,7 +160,7 @@ TVexelExpected<void> FEditRequestOperationOnVar::Execute(const TSharedRef<ILumCo
 		case EVexelEditOperation::EditPin:
 			return ExecuteEditVariable(*Target);
 		default:
-			return VEXEL_ERROR(FLumError_Write, "Unsupported operation type '%s' for variable operation", *NumberOf(Type));
+			return VEXEL_ERROR(FLumError_Write, "Unsupported operation type '%s' for variable operation", VexelEditWords::GetWord(Type));
 	}
 }
 

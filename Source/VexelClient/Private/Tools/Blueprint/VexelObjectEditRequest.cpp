@@ -40,6 +40,9 @@ const TEditWord<EVexelEditTarget> TargetWords[] = {
 	{TEXT("node"), EVexelEditTarget::Node},
 };
 
+/** What is no word of a table. */
+const TCHAR* const UnknownWord = TEXT("unknown");
+
 FString ReadText(const FJsonObject& Object, const TCHAR* Key)
 {
 	FString Text;
@@ -59,6 +62,19 @@ EnumType ReadWord(const FJsonObject& Object, const TCHAR* Key, const TEditWord<E
 		}
 	}
 	return EnumType::Unknown;
+}
+
+template <typename EnumType, size_t NumWords>
+const TCHAR* FindWord(EnumType Value, const TEditWord<EnumType> (&Words)[NumWords])
+{
+	for (const TEditWord<EnumType>& Word : Words)
+	{
+		if (Word.Value == Value)
+		{
+			return Word.Word;
+		}
+	}
+	return UnknownWord;
 }
 
 TSharedPtr<FJsonValue> ReadValue(const FJsonObject& Object)
@@ -147,7 +163,7 @@ TVexelExpected<TSharedRef<ILumCompound>> Resolve(const FVexelBlueprintRequestHel
 	}
 	if (Target.Type == EVexelEditTarget::Unknown)
 	{
-		return VEXEL_ERROR(FLumError_Traverse, "Invalid target type '%s' for edit request", TEXT("unknown"));
+		return VEXEL_ERROR(FLumError_Traverse, "Invalid target type '%s' for edit request", UnknownWord);
 	}
 	VEXEL_TRY(UEdGraph* const Graph, ResolveGraph(Blueprint, Target.GraphId), "while resolving graph '%s' in blueprint '%s'", *Target.GraphId,
 		*Blueprint.GetBlueprint().GetPathName());
@@ -160,6 +176,8 @@ TVexelExpected<TSharedRef<ILumCompound>> Resolve(const FVexelBlueprintRequestHel
 	return StaticCastSharedRef<ILumCompound>(FLumNodeCompound::Create(*Node));
 }
 }
+
+const TCHAR* VexelEditWords::GetWord(EVexelEditOperation Operation) { return FindWord(Operation, OperationWords); }
 
 FString FEditRequest::FTargetInfo::Describe() const
 {

@@ -34,6 +34,12 @@ enum class EVexelEditTarget : uint8
 	Node = 3
 };
 
+namespace VexelEditWords
+{
+/** As it stands in the input. */
+const TCHAR* GetWord(EVexelEditOperation Operation);
+}
+
 /** A change of a value. Its errors are the property model's. */
 struct FEditRequestOperationOnProp
 {
