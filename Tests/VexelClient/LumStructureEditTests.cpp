@@ -33,11 +33,11 @@ FLumVarDesc MakeDesc(const TCHAR* Scope, const TCHAR* Name, const TCHAR* Type)
 }
 
 /** The property model's own edits, below the tool, which asks for less. */
-class FLumEditTest : public FObjectEditTest
+class FLumStructureEditTest : public FObjectEditTest
 {
 };
 
-TEST_F(FLumEditTest, ABlueprintTakesMembersAlone)
+TEST_F(FLumStructureEditTest, ABlueprintTakesMembersAlone)
 {
 	const TSharedRef<ILumCompound> Compound = ILumCompound::Create(*Blueprint);
 	EXPECT_EQ("Write Error: Only 'member' scope is supported by blueprint compound",
@@ -51,7 +51,7 @@ TEST_F(FLumEditTest, ABlueprintTakesMembersAlone)
 	EXPECT_EQ(0, NumUndos());
 }
 
-TEST_F(FLumEditTest, AGraphTakesParametersAndLocalVariables)
+TEST_F(FLumStructureEditTest, AGraphTakesParametersAndLocalVariables)
 {
 	FLumGraphCompound Heal(*FindGraph(TEXT("Heal")));
 	EXPECT_EQ("Write Error: Variable scope is invalid. Valid scopes are: in, out, local",
@@ -80,7 +80,7 @@ TEST_F(FLumEditTest, AGraphTakesParametersAndLocalVariables)
 	EXPECT_EQ(0, NumUndos());
 }
 
-TEST_F(FLumEditTest, PinsAreCheckedOnAllOfTheNodes)
+TEST_F(FLumStructureEditTest, PinsAreCheckedOnAllOfTheNodes)
 {
 	UK2Node_CustomEvent* const Event = FindNodeOfClass<UK2Node_CustomEvent>(EventGraph);
 	const TArray<UK2Node_EditablePinBase*> Nodes = {Event};
@@ -99,7 +99,7 @@ TEST_F(FLumEditTest, PinsAreCheckedOnAllOfTheNodes)
 	EXPECT_EQ(0, NumUndos());
 }
 
-TEST_F(FLumEditTest, OnlyWhatHasANameOfItsOwnIsRenamed)
+TEST_F(FLumStructureEditTest, OnlyWhatHasANameOfItsOwnIsRenamed)
 {
 	EXPECT_EQ("Write Error: Editable name is only supported for function/macro graphs", ErrorTextOf(FLumHelper::RenameGraph(*EventGraph, TEXT("A"))));
 	UEdGraphNode* const Entry = FindNodeOfClass<UK2Node_FunctionEntry>(FindGraph(TEXT("Heal")));
@@ -109,7 +109,7 @@ TEST_F(FLumEditTest, OnlyWhatHasANameOfItsOwnIsRenamed)
 	EXPECT_FALSE(FLumGraphCompound(*EventGraph).FindProperty(TVexelPropId(TEXT("name"))).GetValue());
 }
 
-TEST_F(FLumEditTest, AnOperationOfTheOtherKindIsRefused)
+TEST_F(FLumStructureEditTest, AnOperationOfTheOtherKindIsRefused)
 {
 	const TSharedRef<ILumCompound> Compound = ILumCompound::Create(*Blueprint);
 	const FLumContext Context(Conversation->GetMapping());
@@ -122,7 +122,7 @@ TEST_F(FLumEditTest, AnOperationOfTheOtherKindIsRefused)
 	EXPECT_EQ("Write Error: Unsupported operation type 'update' for variable operation", ErrorTextOf(OnVar.Execute(Compound)));
 }
 
-TEST_F(FLumEditTest, ADescriptorIsWrittenAndReadBackWithItsFlags)
+TEST_F(FLumStructureEditTest, ADescriptorIsWrittenAndReadBackWithItsFlags)
 {
 	FLumVarDesc Desc = MakeDesc(TEXT("member"), TEXT("A"), TEXT("int"));
 	Desc.Flags.Add(ELumVarFlag::Private, false);
@@ -134,7 +134,7 @@ TEST_F(FLumEditTest, ADescriptorIsWrittenAndReadBackWithItsFlags)
 	EXPECT_EQ(3, MakeDesc(TEXT("member"), TEXT("A"), TEXT("int")).ToJson()->Values.Num());
 }
 
-TEST_F(FLumEditTest, AFailedEditLeavesThePackageAsItWas)
+TEST_F(FLumStructureEditTest, AFailedEditLeavesThePackageAsItWas)
 {
 	UPackage* const Package = Blueprint->GetPackage();
 	Package->SetDirtyFlag(false);
@@ -150,7 +150,7 @@ TEST_F(FLumEditTest, AFailedEditLeavesThePackageAsItWas)
 	EXPECT_EQ(0, NumUndos());
 }
 
-TEST_F(FLumEditTest, UsesOfTheModelOutsideACallAreMarkedAtOnce)
+TEST_F(FLumStructureEditTest, UsesOfTheModelOutsideACallAreMarkedAtOnce)
 {
 	const TSharedRef<ILumCompound> Compound = ILumCompound::Create(*Blueprint);
 	ASSERT_EQ("no error", ErrorTextOf(Compound->AddVariable(MakeDesc(TEXT("member"), TEXT("Fresh"), TEXT("int")))));

@@ -1,6 +1,6 @@
 #include "LumTestBlueprint.h"
 
-#include "AssetRegistry/AssetRegistryModule.h"
+#include "AssetRegistry/IAssetRegistry.h"
 #include "GameFramework/Actor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/KismetEditorUtilities.h"
@@ -33,10 +33,15 @@ void FLumTest::LetGoOfBlueprint()
 {
 	if (Blueprint)
 	{
-		FAssetRegistryModule::AssetDeleted(Blueprint);
-		Blueprint->ClearFlags(RF_Public | RF_Standalone);
+		Forget(*Blueprint);
 		Blueprint = nullptr;
 	}
+}
+
+void FLumTest::Forget(UObject& Asset)
+{
+	IAssetRegistry::GetChecked().AssetDeleted(&Asset);
+	Asset.ClearFlags(RF_Public | RF_Standalone);
 }
 
 UEdGraphNode& FLumTest::AddBareNode(const TCHAR* ClassName, const TCHAR* Property, const TCHAR* Text)

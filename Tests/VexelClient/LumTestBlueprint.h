@@ -18,6 +18,8 @@ protected:
 
 	/** The Blueprint is no asset of the project any more, and goes with the next collection. */
 	void LetGoOfBlueprint();
+	/** The asset is none any more, for this test's successors and for who listens to the registry. */
+	static void Forget(UObject& Asset);
 
 	/** A node of the class without pins; each property is set from its text form. */
 	UEdGraphNode& AddBareNode(const TCHAR* ClassName, const TCHAR* Property = nullptr, const TCHAR* Text = nullptr);

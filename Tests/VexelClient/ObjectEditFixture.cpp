@@ -50,7 +50,7 @@ void FObjectEditTest::TearDown()
 	{
 		if (Made)
 		{
-			Made->ClearFlags(RF_Public | RF_Standalone);
+			Forget(*Made);
 		}
 	}
 	FBlueprintToolTest::TearDown();

@@ -1,3 +1,4 @@
+#include "Editor.h"
 #include "BlueprintText.h"
 #include "BlueprintToolFixture.h"
 #include "Kismet2/BlueprintEditorUtils.h"
@@ -7,6 +8,7 @@
 #include "Serialization/JsonSerializer.h"
 #include "Serialization/JsonWriter.h"
 #include "UObject/Package.h"
+#include "UObject/UObjectIterator.h"
 
 #include <gmock/gmock.h>
 
@@ -41,12 +43,29 @@ protected:
 		GEditor->ResetTransaction(INVTEXT("Test"));
 		if (!Root.IsEmpty())
 		{
-			Sample->GetPackage()->SetDirtyFlag(false);
-			Sample->ClearFlags(RF_Public | RF_Standalone);
+			LeaveNoAsset();
 			FPackageName::UnRegisterMountPoint(Root, Folder);
 		}
 		FBlueprintToolTest::TearDown();
 		CollectGarbage(RF_Standalone);
+	}
+
+	/** Of the sample, and of what it has loaded. */
+	void LeaveNoAsset() const
+	{
+		TArray<UObject*> Assets;
+		for (TObjectIterator<UObject> It; It; ++It)
+		{
+			if (It->IsAsset() && It->GetOutermost()->GetName().StartsWith(Root))
+			{
+				It->GetOutermost()->SetDirtyFlag(false);
+				Assets.Add(*It);
+			}
+		}
+		for (UObject* const Asset : Assets)
+		{
+			Forget(*Asset);
+		}
 	}
 
 	FString Read()

@@ -1,3 +1,4 @@
+#include "Editor.h"
 #include "EdGraphSchema_K2.h"
 #include "Editor.h"
 #include "K2Node_CallFunction.h"
