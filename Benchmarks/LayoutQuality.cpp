@@ -239,7 +239,7 @@ int main(int NumArguments, char** Arguments)
 	{
 		CompareSamples(Arguments[1]);
 	}
-	for (const int32 NumNodes : {20, 100, 500, 2000})
+	for (const int32 NumNodes : {20, 100, 500, 2000, 10000})
 	{
 		if (NumNodes <= MostNodes)
 		{
