@@ -14,14 +14,33 @@
 
 namespace
 {
+TVexelExpected<TSharedRef<ILumProperty>> FindSegment(const ILumCompound& Compound, const TVexelPropId& Segment)
+{
+	VEXEL_TRY(const TSharedPtr<ILumProperty> Property, Compound.FindProperty(Segment));
+	if (!Property)
+	{
+		return VEXEL_ERROR(FLumError_Traverse, "Property '%s' not found in compound", *Segment);
+	}
+	return Property.ToSharedRef();
+}
+
+/** Takes what stands before the first point off the text; the point goes, too. */
+FStringView TakeSegment(FStringView& Rest)
+{
+	int32 Point = INDEX_NONE;
+	const bool bHasPoint = Rest.FindChar(TEXT('.'), Point);
+	const FStringView Segment = bHasPoint ? Rest.Left(Point) : Rest;
+	Rest = bHasPoint ? Rest.RightChop(Point + 1) : FStringView();
+	return Segment;
+}
+
 TVexelExpected<TSharedRef<ILumProperty>> ResolvePath(TSharedRef<ILumCompound> Compound, const FString& Path)
 {
-	FString Rest = Path;
-	FString Segment;
+	FStringView Rest = Path;
 	for (int32 NumSegments = 0; NumSegments < FLumHelper::MaxPathSegments; ++NumSegments)
 	{
-		VEXEL_TRY(const TSharedRef<ILumProperty> Property, FLumHelper::CompoundPathResolveSegment(Compound, Rest, Segment),
-			"while resolving segment '%s'", *Segment);
+		const TVexelPropId Segment{FString(TakeSegment(Rest))};
+		VEXEL_TRY(const TSharedRef<ILumProperty> Property, FindSegment(*Compound, Segment), "while resolving segment '%s'", *Segment);
 		if (Rest.IsEmpty())
 		{
 			return Property;
@@ -156,18 +175,10 @@ TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolve(const T
 TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(
 	const TSharedRef<ILumCompound>& Compound, FString& Rest, FString& Segment)
 {
-	FString Remaining;
-	if (!Rest.Split(TEXT("."), &Segment, &Remaining))
-	{
-		Segment = Rest;
-	}
-	Rest = MoveTemp(Remaining);
-	VEXEL_TRY(const TSharedPtr<ILumProperty> Property, Compound->FindProperty(TVexelPropId(Segment)));
-	if (!Property)
-	{
-		return VEXEL_ERROR(FLumError_Traverse, "Property '%s' not found in compound", *Segment);
-	}
-	return Property.ToSharedRef();
+	FStringView Remaining = Rest;
+	Segment = FString(TakeSegment(Remaining));
+	Rest = FString(Remaining);
+	return FindSegment(*Compound, TVexelPropId(Segment));
 }
 
 TVexelExpected<void> FLumHelper::ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text)

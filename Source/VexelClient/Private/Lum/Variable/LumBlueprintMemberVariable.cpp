@@ -72,13 +72,3 @@ TVexelExpected<TSharedPtr<ILumProperty>> FLumBlueprintMemberVariable::CreateLumV
 		FLumUnrealVirtualProperty::Create<FLumMemberVariableVirtualProperty>(*Property, Description->DefaultValue, *Blueprint, Name));
 	return Value;
 }
-
-void FLumBlueprintMemberVariable::ModifyValueOwner() const
-{
-	const TVexelExpected<UBlueprint*> Blueprint = GetBlueprint();
-	const UClass* const Class = Blueprint.HasValue() ? Blueprint.GetValue()->GeneratedClass.Get() : nullptr;
-	if (UObject* const DefaultObject = Class ? Class->GetDefaultObject(false) : nullptr)
-	{
-		DefaultObject->Modify();
-	}
-}

@@ -15,7 +15,6 @@ public:
 
 protected:
 	virtual TVexelExpected<const FBPVariableDescription*> GetBpVariableDescription() const override;
-	virtual void ModifyValueOwner() const override;
 
 private:
 	/** The default object's own value; null until a compile has given the class the variable as it is described now. */

@@ -91,7 +91,6 @@ TVexelExpected<void> FLumDescriptionBasedVariable::JsonImportValue(const FLumCon
 	{
 		return VEXEL_ERROR(FLumError_Import, "Property '%s' cannot be changed", *Name.ToString());
 	}
-	ModifyValueOwner();
 	return Property->JsonImportValue(Context, Value);
 }
 
@@ -104,10 +103,5 @@ TVexelExpected<void> FLumDescriptionBasedVariable::OnImport()
 const ILumCompoundProperty* FLumDescriptionBasedVariable::AsCompoundProperty() const
 {
 	const TVexelExpected<TSharedPtr<ILumProperty>> Property = GetValue();
-	if (Property.HasError() || !Property.GetValue())
-	{
-		return nullptr;
-	}
-	ModifyValueOwner();
-	return Property.GetValue()->AsCompoundProperty();
+	return Property.HasValue() && Property.GetValue() ? Property.GetValue()->AsCompoundProperty() : nullptr;
 }

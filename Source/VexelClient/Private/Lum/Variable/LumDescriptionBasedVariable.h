@@ -30,8 +30,6 @@ protected:
 	/** Valid until the Blueprint changes. */
 	virtual TVexelExpected<const FBPVariableDescription*> GetBpVariableDescription() const = 0;
 	TVexelExpected<UBlueprint*> GetBlueprint() const;
-	/** Called before the value is written, with a transaction open. */
-	virtual void ModifyValueOwner() const {}
 	/** The description of this variable's name among those; an error when it is not there. */
 	TVexelExpected<const FBPVariableDescription*> FindDescription(const TArray<FBPVariableDescription>& Descriptions) const;
 
