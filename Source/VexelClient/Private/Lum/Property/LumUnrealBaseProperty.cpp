@@ -94,8 +94,11 @@ TVexelExpected<void> FLumUnrealBaseProperty::ImportText(const FString& Text) con
 
 bool FLumUnrealPropertyFactory::CanCreate(const FProperty& Property)
 {
-	return Property.ArrayDim == 1 && !Property.IsA<FDelegateProperty>() && !Property.IsA<FMulticastDelegateProperty>() &&
-		FLumHelper::HasPropertyTypeId(Property);
+	if (Property.ArrayDim != 1 || Property.IsA<FNumericProperty>())
+	{
+		return Property.ArrayDim == 1;
+	}
+	return !Property.IsA<FDelegateProperty>() && !Property.IsA<FMulticastDelegateProperty>() && FLumHelper::HasPropertyTypeId(Property);
 }
 
 TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealPropertyFactory::CreateMember(UObject& Object, const FProperty& Property)
@@ -116,6 +119,11 @@ TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FLum
 	if (!CanCreate(Property))
 	{
 		return nullptr;
+	}
+	// Most values are numbers, and each question costs.
+	if (Property.IsA<FNumericProperty>())
+	{
+		return MakeShared<FLumUnrealLeafProperty>(Place);
 	}
 	if (Property.IsA<FArrayProperty>())
 	{

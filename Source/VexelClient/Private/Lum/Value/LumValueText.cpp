@@ -37,9 +37,13 @@ bool HasNumber(const UEnum& Enum, int64 Number)
 TVexelExpected<void> CheckLeaf(const FProperty& Property, const void* Value, const UObject* Referrer)
 {
 	const FNumericProperty* const Number = CastField<FNumericProperty>(&Property);
-	if (Number && Number->IsFloatingPoint() && !FMath::IsFinite(Number->GetFloatingPointPropertyValue(Value)))
+	if (Number && Number->IsFloatingPoint())
 	{
-		return VEXEL_ERROR(FLumError_Import, "'%s' must be a finite number", *Property.GetName());
+		if (!FMath::IsFinite(Number->GetFloatingPointPropertyValue(Value)))
+		{
+			return VEXEL_ERROR(FLumError_Import, "'%s' must be a finite number", *Property.GetName());
+		}
+		return {};
 	}
 	const UEnum* const Enum = GetEnum(Property);
 	if (Enum && !HasNumber(*Enum, GetEnumValue(Property, Value)))
@@ -71,6 +75,10 @@ public:
 		if (Old && Property.Identical(New, Old, PPF_None))
 		{
 			return {};
+		}
+		if (Property.IsA<FNumericProperty>())
+		{
+			return CheckLeaf(Property, New, Referrer);
 		}
 		if (const FStructProperty* const Struct = CastField<FStructProperty>(&Property))
 		{
