@@ -9,7 +9,11 @@
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
 #include "LogCapture.h"
+#include "Lum/Compound/LumGraphCompound.h"
+#include "Lum/LumHelper.h"
+#include "Lum/LumVariable.h"
 #include "ObjectEditFixture.h"
+#include "UObject/Interface.h"
 
 #include <gmock/gmock.h>
 
@@ -441,6 +445,65 @@ TEST_F(FObjectEditTest, WhatAnotherDeclaresIsNotEditable)
 	// The override follows what is declared above it.
 	ASSERT_THAT(EditErrors(OnHeal, "{'operation': 'edit_variable', 'scope': 'in', 'name': 'Amount', 'value': {'prop_id': 'Points'}}"), IsEmpty());
 	EXPECT_NE(nullptr, FindNodeOfClass<UK2Node_FunctionEntry>(Override)->FindPin(TEXT("Points")));
+}
+
+TEST_F(FObjectEditTest, AnInterfacesFunctionIsEditedWhereItIsDeclared)
+{
+	const FString Name = Blueprint->GetName() + TEXT("_Interface");
+	UBlueprint* const Interface = FKismetEditorUtilities::CreateBlueprint(
+		UInterface::StaticClass(), CreatePackage(*(TEXT("/Game/") + Name)), FName(*Name), BPTYPE_Interface);
+	UEdGraph* const Declared =
+		FBlueprintEditorUtils::CreateNewGraph(Interface, TEXT("Use"), UEdGraph::StaticClass(), UEdGraphSchema_K2::StaticClass());
+	FBlueprintEditorUtils::AddFunctionGraph<UClass>(Interface, Declared, true, nullptr);
+	const auto EditInterface = [&](const char* Target, const char* Operation)
+	{
+		const std::string Input =
+			"{'blueprint': '" + ToStd(Interface->GetPathName()) + "', 'requests': [{'target': " + Target + ", 'operations': [" + Operation + "]}]}";
+		return TextsOf(*Call(TEXT("object_edit"), Input.c_str()).GetValue(), TEXT("errors"));
+	};
+	const char* const OnUse = "{'target_type': 'graph', 'graph': 'Use'}";
+	ASSERT_THAT(EditInterface(OnUse,
+					"{'operation': 'add_variable', 'scope': 'in', 'name': 'Who', 'value': {'type_id': 'object.Actor'}},"
+					"{'operation': 'add_variable', 'scope': 'out', 'name': 'bDone', 'value': {'type_id': 'bool'}}"),
+		IsEmpty());
+	FKismetEditorUtilities::CompileBlueprint(Interface);
+	ASSERT_TRUE(FBlueprintEditorUtils::ImplementNewInterface(Blueprint, Interface->GeneratedClass->GetClassPathName()));
+	UEdGraph* const Implementation = FindGraph(TEXT("Use"));
+	ASSERT_NE(nullptr, Implementation);
+
+	ASSERT_THAT(EditInterface(OnUse, "{'operation': 'edit_variable', 'scope': 'in', 'name': 'Who', 'value': {'prop_id': 'User'}}"), IsEmpty());
+	EXPECT_NE(nullptr, FindNodeOfClass<UK2Node_FunctionEntry>(Implementation)->FindPin(TEXT("User"))) << "what implements it follows";
+	FLumGraphCompound Compound(*Implementation);
+	FLumVarDesc Desc;
+	Desc.ScopeId = LumScope::In();
+	Desc.PropId = TVexelPropId(TEXT("New"));
+	Desc.TypeId = TVexelPropTypeId(TEXT("int"));
+	EXPECT_TRUE(Compound.AddVariable(Desc).HasError());
+	EXPECT_EQ(nullptr, Compound.FindVariable(LumScope::In(), TVexelPropId(TEXT("User"))).GetValue()->AsEditableVariable());
+	EXPECT_THAT(ToStd(FLumHelper::RenameGraph(*Implementation, TEXT("Other")).GetError().ToChainString()), HasSubstr("gives it its name"));
+	EXPECT_THAT(EditInterface(OnBlueprint, "{'operation': 'add_variable', 'scope': 'member', 'name': 'A', 'value': {'type_id': 'int'}}"),
+		ElementsAre(HasSubstr("Failed to add variable 'A' of type 'int': blueprints of this kind declare no variables")));
+	Forget(*Interface);
+}
+
+TEST_F(FObjectEditTest, ManyUnknownTypesAreRefusedWithoutMuchAdo)
+{
+	std::string Operations;
+	constexpr int32 NumOperations = 200;
+	for (int32 Index = 0; Index < NumOperations; ++Index)
+	{
+		Operations += std::string(Index ? "," : "") + "{'operation': 'add_variable', 'scope': 'member', 'name': 'New', 'value': {'type_id': 'object.Actr'}}";
+	}
+	const std::vector<std::string> Errors = EditErrors(OnBlueprint, Operations);
+	ASSERT_THAT(Errors, SizeIs(NumOperations));
+	EXPECT_THAT(Errors.front(), HasSubstr("Nearest: 'object.Actor'"));
+	EXPECT_THAT(Errors.back(), testing::EndsWith("for pin type 'object.Actr'!"));
+	const std::string Long(100'000, 'x');
+	EXPECT_THAT(EditError(OnBlueprint,
+					"{'operation': 'add_variable', 'scope': 'member', 'name': '" + Long + "', 'value': {'type_id': 'object." + Long + "'}}"),
+		HasSubstr("Failed to add variable"));
+	EXPECT_THAT(EditError(OnHeal, "{'operation': 'add_variable', 'scope': 'in', 'name': '" + Long + "', 'value': {'type_id': 'int'}}"),
+		HasSubstr("fewer than"));
 }
 
 TEST_F(FObjectEditTest, ABlueprintThatDoesNotCompileIsEditedAllTheSame)

@@ -49,6 +49,13 @@ void FLumEditBatch::BringUpToDateForName(UBlueprint& Blueprint, FName Name)
 	}
 }
 
+bool FLumEditBatch::TakeSuggestion()
+{
+	constexpr int32 MaxSuggestions = 20;
+	FLumEditBatch* const Batch = GetOpenBatch();
+	return !Batch || ++Batch->NumSuggestions <= MaxSuggestions;
+}
+
 void FLumEditBatch::Update()
 {
 	bOutOfDate = false;

@@ -23,6 +23,9 @@ public:
 	/** The same where the skeleton class may still have a member of that name that is gone. */
 	static void BringUpToDateForName(UBlueprint& Blueprint, FName Name);
 
+	/** Whether an error may still look for what would be right, which takes long: not when many of a batch are wrong. */
+	static bool TakeSuggestion();
+
 private:
 	friend class FLumStructureEdit;
 
@@ -31,6 +34,7 @@ private:
 
 	TWeakObjectPtr<UBlueprint> Blueprint;
 	bool bOutOfDate = false;
+	int32 NumSuggestions = 0;
 	/** Names that were given up since the skeleton class was made. */
 	TSet<FName> FreedNames;
 };

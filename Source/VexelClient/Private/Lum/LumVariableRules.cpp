@@ -61,6 +61,11 @@ FString ListNearestTypes(const TVexelPropTypeId& TypeId)
 	};
 	constexpr double LeastAlike = 60;
 	const FString Wanted = GetElementText(TypeId);
+	// Nothing is like a text that is longer than any name.
+	if (Wanted.Len() > FKismetNameValidator::GetMaximumNameLength() || !FLumEditBatch::TakeSuggestion())
+	{
+		return FString();
+	}
 	const FVexelFuzzySearch::FScorer Score = FVexelFuzzySearch::ScorerPartialRatio(Wanted);
 	TArray<FRated> Rated;
 	for (const FString& Id : ListTypeIds())
