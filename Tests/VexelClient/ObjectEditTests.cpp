@@ -447,6 +447,37 @@ TEST_F(FObjectEditTest, WhatAnotherDeclaresIsNotEditable)
 	EXPECT_NE(nullptr, FindNodeOfClass<UK2Node_FunctionEntry>(Override)->FindPin(TEXT("Points")));
 }
 
+TEST_F(FObjectEditTest, AVariableHasItsDefaultBeforeTheBlueprintIsCompiled)
+{
+	ASSERT_THAT(EditErrors(OnBlueprint,
+					"{'operation': 'add_variable', 'scope': 'member', 'name': 'Speed', 'value': {'type_id': 'real'}},"
+					"{'operation': 'update', 'scope': 'member', 'prop_path': 'Speed', 'value': '12.5'},"
+					"{'operation': 'add_variable', 'scope': 'member', 'name': 'Stops', 'value': {'type_id': 'array|int'}},"
+					"{'operation': 'insert', 'scope': 'member', 'prop_path': 'Stops', 'index': 0, 'value': '7'},"
+					"{'operation': 'insert', 'scope': 'member', 'prop_path': 'Stops', 'index': 0, 'value': '5'},"
+					"{'operation': 'remove', 'scope': 'member', 'prop_path': 'Stops', 'index': 1},"
+					"{'operation': 'update', 'scope': 'member', 'prop_path': 'Health', 'value': '75'},"
+					"{'operation': 'edit_variable', 'scope': 'member', 'name': 'Health', 'value': {'type_id': 'string'}},"
+					"{'operation': 'update', 'scope': 'member', 'prop_path': 'Health', 'value': 'plenty'}"),
+		IsEmpty());
+	EXPECT_EQ(9, NumUndos());
+	EXPECT_THAT(EditError(OnBlueprint, "{'operation': 'update', 'scope': 'member', 'prop_path': 'Speed', 'value': 'fast'}"),
+		HasSubstr("Failed to set value for property 'Speed'"));
+	ASSERT_THAT(EditErrors(OnHeal, "{'operation': 'update', 'scope': 'local', 'prop_path': 'Left', 'value': '3'}"), IsEmpty());
+	EXPECT_EQ("3", ToStd(FindNodeOfClass<UK2Node_FunctionEntry>(FindGraph(TEXT("Heal")))->LocalVariables[0].DefaultValue));
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	const auto GetDefaultText = [this](const TCHAR* Name)
+	{
+		FString Text;
+		Blueprint->GeneratedClass->FindPropertyByName(Name)->ExportTextItem_InContainer(
+			Text, Blueprint->GeneratedClass->GetDefaultObject(), nullptr, nullptr, PPF_None);
+		return ToStd(Text);
+	};
+	EXPECT_EQ("12.500000", GetDefaultText(TEXT("Speed")));
+	EXPECT_EQ("(5)", GetDefaultText(TEXT("Stops")));
+	EXPECT_EQ("plenty", GetDefaultText(TEXT("Health")));
+}
+
 TEST_F(FObjectEditTest, AnInterfacesFunctionIsEditedWhereItIsDeclared)
 {
 	const FString Name = Blueprint->GetName() + TEXT("_Interface");

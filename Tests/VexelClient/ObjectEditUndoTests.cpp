@@ -87,6 +87,10 @@ const FUndoCase UndoCases[] = {
 		"{'operation': 'update', 'prop_path': 'name', 'value': 'Thrice'}"},
 	{"RenameEvent", "(Vexel) Edit Property", "{'target_type': 'node', 'graph': 'EventGraph', 'node': 'Hurt_0'}",
 		"{'operation': 'update', 'prop_path': 'name', 'value': 'Ouch'}"},
+	{"SetMemberDefault", "(Vexel) Edit Property", "{'target_type': 'blueprint'}",
+		"{'operation': 'update', 'scope': 'member', 'prop_path': 'Health', 'value': '75'}"},
+	{"SetLocalDefault", "(Vexel) Edit Property", "{'target_type': 'graph', 'graph': 'Heal'}",
+		"{'operation': 'update', 'scope': 'local', 'prop_path': 'Left', 'value': '3'}"},
 	{"SetInputDefault", "(Vexel) Edit Property", "{'target_type': 'graph', 'graph': 'Heal'}",
 		"{'operation': 'update', 'scope': 'in', 'prop_path': 'Amount', 'value': '3'}"},
 };
