@@ -5,6 +5,7 @@
 #include "Lum/LumParameterPins.h"
 #include "Lum/LumStructureEdit.h"
 #include "Lum/LumVariable.h"
+#include "Lum/LumVariableFlags.h"
 #include "Lum/LumVariableRules.h"
 
 #include "EdGraph/EdGraph.h"
@@ -102,6 +103,7 @@ TVexelExpected<FNewPin> CheckNewPin(const UBlueprint& Blueprint, const FNodes& N
 	{
 		return VEXEL_ERROR(FLumError_Write, "Pin direction invalid");
 	}
+	VEXEL_TRY_VOID(LumVariableFlags::CheckNone(Desc));
 	VEXEL_TRY(const FEdGraphPinType Type, CheckType(Nodes, Name, Direction.GetValue(), Desc));
 	const TVexelExpected<void> Named = LumVariableRules::CheckPinName(Blueprint, Name.ToString());
 	if (Named.HasError())
@@ -163,6 +165,7 @@ struct FPinChange
 TVexelExpected<FPinChange> CheckChange(const UBlueprint& Blueprint, const FNodes& Nodes, const FName& Name, const FLumVarDesc& Desc)
 {
 	const FUserPinInfo& Info = *FindUserPin(*Nodes[0], Name);
+	VEXEL_TRY_VOID(LumVariableFlags::CheckNone(Desc));
 	FPinChange Change;
 	if (!Desc.ScopeId.IsEmpty())
 	{

@@ -242,5 +242,9 @@ TVexelExpected<void> FEditRequestOperationOnVar::ExecuteEditVariable(ILumCompoun
 	{
 		return VEXEL_ERROR(FLumError_Write, "Variable '%s' with scope '%s' is not editable", *Name, *Scope);
 	}
+	if (!Value || Value->Type != EJson::Object)
+	{
+		return VEXEL_ERROR(FLumError_Write, "EditVariable requires an object as 'value', with what is to change");
+	}
 	return Editable->SetVariableDescriptor(ReadDescriptor(Value));
 }
