@@ -284,6 +284,44 @@ TEST_P(FPropertyKind, TextThatIsNoValueIsRefusedWithAReasonAndLeavesAValue)
 	EXPECT_TRUE(Value.Import(GetParam().OtherText, PPF_Delimited));
 }
 
+TEST(Property, IntegerTakesWhatItCanHoldAlone)
+{
+	const struct
+	{
+		FPropertyDescription Description;
+		/** The least and the greatest. */
+		const TCHAR* Good[2];
+		/** One less and one more, and the bits of more than the type has. */
+		const TCHAR* Bad[3];
+	} Cases[] = {
+		{OfKind<EPropertyGenKind::Int8>(), {TEXT("-128"), TEXT("127")}, {TEXT("-129"), TEXT("128"), TEXT("0x100")}},
+		{OfKind<EPropertyGenKind::Int>(), {TEXT("-2147483648"), TEXT("2147483647")},
+			{TEXT("-2147483649"), TEXT("2147483648"), TEXT("0x100000000")}},
+		{OfKind<EPropertyGenKind::UInt16>(), {TEXT("0"), TEXT("65535")}, {TEXT("-1"), TEXT("65536"), TEXT("0x10000")}},
+		{OfKind<EPropertyGenKind::Int64>(), {TEXT("-9223372036854775808"), TEXT("9223372036854775807")},
+			{TEXT("-9223372036854775809"), TEXT("9223372036854775808"), TEXT("0x10000000000000000")}},
+		{OfKind<EPropertyGenKind::UInt64>(), {TEXT("0"), TEXT("18446744073709551615")},
+			{TEXT("-1"), TEXT("18446744073709551616"), TEXT("99999999999999999999999")}},
+	};
+	for (const auto& Case : Cases)
+	{
+		FTestValue Value(Case.Description);
+		for (const TCHAR* const Good : Case.Good)
+		{
+			EXPECT_TRUE(Value.Import(Good)) << ToStd(Good);
+			EXPECT_EQ(ToStd(Good), ToStd(Value.Export()));
+			for (const TCHAR* const Bad : Case.Bad)
+			{
+				EXPECT_FALSE(Value.Import(Bad)) << ToStd(Bad);
+				EXPECT_EQ(ToStd(Good), ToStd(Value.Export())) << ToStd(Bad);
+			}
+		}
+	}
+	FTestValue Bits(OfKind<EPropertyGenKind::Int8>());
+	EXPECT_TRUE(Bits.Import(TEXT("0xFF")));
+	EXPECT_EQ("-1", ToStd(Bits.Export()));
+}
+
 TEST_P(FPropertyKind, TextCutOffAnywhereIsReadOrRefused)
 {
 	const FString Text = GetParam().Text;

@@ -334,7 +334,8 @@ TEST_F(FLumDefaultsTest, TemplateOfAComponentReachesTheComponentsMadeFromIt)
 	EXPECT_TRUE(Component->bHiddenInGame);
 	EXPECT_EQ("'Arm' is a component of the blueprint", Import(TEXT("$ClassDefaultObject.Arm"), TEXT("ref|None")));
 	EXPECT_EQ("ok", Import(TEXT("$ClassDefaultObject.Arm"), *FLumHelper::MakeReferenceString(Template)));
-	EXPECT_EQ(0u, Import(TEXT("$ClassDefaultObject.Arm.AttachParent"), *FLumHelper::MakeReferenceString(Template)).find("Property 'AttachParent' not found in compound"));
+	const std::string Attached = Import(TEXT("$ClassDefaultObject.Arm.AttachParent"), *FLumHelper::MakeReferenceString(Template));
+	EXPECT_EQ(0u, Attached.find("Property 'AttachParent' not found in compound")) << Attached;
 	EXPECT_EQ(nullptr, Template->GetAttachParent());
 }
 }

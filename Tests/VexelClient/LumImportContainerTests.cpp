@@ -239,7 +239,8 @@ TEST_F(FLumImportContainerTest, PlaceInAMapWithHolesIsTheEntryThatWasFound)
 	EXPECT_TRUE(Thing->ByKey.Contains({70, TEXT("")}));
 	EXPECT_EQ("ok", Remove(TEXT("ByKey"), 2));
 	EXPECT_FALSE(Thing->ByKey.Contains({5, TEXT("")}));
-	EXPECT_EQ("Property '4' not found in compound\nwhile resolving segment '4'\nwhile resolving path 'ByKey.4'", Import(TEXT("ByKey.4"), "{}"));
+	EXPECT_EQ(
+		"Property '4' not found in compound\nwhile resolving segment '4'\nwhile resolving path 'ByKey.4'", Import(TEXT("ByKey.4"), "{}"));
 }
 
 TEST_F(FLumImportContainerTest, CompoundTakesWhatItKnowsUntilTheFirstFailure)

@@ -69,7 +69,8 @@ void NameNodes(const UBlueprint& Blueprint, FVexelBlueprintMapping& Mapping)
 	}
 }
 
-TVexelExpected<UEdGraphNode*> FindNode(const UBlueprint& Blueprint, const UEdGraph& Graph, const FString& Name, FVexelBlueprintMapping& Mapping)
+TVexelExpected<UEdGraphNode*> FindNode(
+	const UBlueprint& Blueprint, const UEdGraph& Graph, const FString& Name, FVexelBlueprintMapping& Mapping)
 {
 	NameNodes(Blueprint, Mapping);
 	UEdGraphNode* Node = nullptr;
@@ -86,7 +87,8 @@ TVexelExpected<UEdGraphNode*> FindNode(const UBlueprint& Blueprint, const UEdGra
 	return Named->Get();
 }
 
-TVexelExpected<TSharedRef<ILumCompound>> FindCompound(UBlueprint& Blueprint, const FAddressParts& Parts, FVexelBlueprintMapping& Mapping)
+TVexelExpected<TSharedRef<ILumCompound>> FindCompound(
+	UBlueprint& Blueprint, const FAddressParts& Parts, FVexelBlueprintMapping& Mapping)
 {
 	if (!Parts.bHasGraph)
 	{

@@ -65,12 +65,6 @@ TSharedPtr<ILumProperty> FLumUnrealArrayCompound::MakeItem(int32 Index, int32 In
 	return Element ? TSharedPtr<ILumProperty>(MakeShared<FLumIndexedForwardingProperty>(Index, Element.ToSharedRef())) : nullptr;
 }
 
-TVexelExpected<int32> FLumUnrealArrayCompound::GetNum() const
-{
-	VEXEL_TRY(void* const Data, GetData());
-	return CountItems(Data);
-}
-
 TVexelExpected<void> FLumUnrealArrayCompound::JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object)
 {
 	VEXEL_TRY_VOID(CheckKeys(*Object));

@@ -11,6 +11,12 @@ TVexelExpected<TVexelPropTypeId> FLumUnrealContainerCompound::GetCompoundType() 
 	return FLumHelper::GetPropertyTypeId(Place->GetProperty());
 }
 
+TVexelExpected<int32> FLumUnrealContainerCompound::GetNum() const
+{
+	VEXEL_TRY(void* const Data, GetData());
+	return CountItems(Data);
+}
+
 TVexelExpected<void*> FLumUnrealContainerCompound::GetData() const
 {
 	void* const Data = Place->Resolve();

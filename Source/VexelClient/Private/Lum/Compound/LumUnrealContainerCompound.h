@@ -18,6 +18,7 @@ public:
 	}
 
 	virtual TVexelExpected<TVexelPropTypeId> GetCompoundType() const override;
+	virtual TVexelExpected<int32> GetNum() const override;
 
 protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
@@ -30,6 +31,18 @@ protected:
 	/** The numbers of all elements in order. */
 	virtual TArray<int32> GetInternalIndices(void* Data) const = 0;
 	virtual int32 CountItems(void* Data) const = 0;
+
+	/** The numbers of all elements of a container that may have holes. */
+	template <typename HelperType>
+	static TArray<int32> CollectIndices(const HelperType& Helper)
+	{
+		TArray<int32> Indices;
+		for (typename HelperType::FIterator It = Helper.CreateIterator(); It; ++It)
+		{
+			Indices.Add(It.GetInternalIndex());
+		}
+		return Indices;
+	}
 
 	/** The container's memory, or an error when it is gone. */
 	TVexelExpected<void*> GetData() const;
@@ -57,7 +70,6 @@ public:
 
 	explicit FLumUnrealArrayCompound(const FLumValuePlaceRef& InPlace);
 
-	virtual TVexelExpected<int32> GetNum() const override;
 	/** Keys are indices; the array grows to hold them. */
 	virtual TVexelExpected<void> JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object) override;
 	virtual TVexelExpected<void> InsertAt(const FLumContext& Context, int32 Index, const TSharedRef<FJsonValue>& Value) override;
@@ -83,7 +95,6 @@ class FLumUnrealSetCompound final : public FLumUnrealContainerCompound
 public:
 	explicit FLumUnrealSetCompound(const FLumValuePlaceRef& InPlace);
 
-	virtual TVexelExpected<int32> GetNum() const override;
 	/** Keys are indices, of elements that there are or of the one behind the last. */
 	virtual TVexelExpected<void> JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object) override;
 	virtual TVexelExpected<void> InsertAt(const FLumContext& Context, int32 Index, const TSharedRef<FJsonValue>& Value) override;
@@ -109,7 +120,6 @@ class FLumUnrealMapCompound final : public FLumUnrealContainerCompound
 public:
 	explicit FLumUnrealMapCompound(const FLumValuePlaceRef& InPlace);
 
-	virtual TVexelExpected<int32> GetNum() const override;
 	/** Keys are indices, of entries that there are or of the one behind the last; each value is an object with "key" and "value". */
 	virtual TVexelExpected<void> JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object) override;
 	virtual TVexelExpected<void> InsertAt(const FLumContext& Context, int32 Index, const TSharedRef<FJsonValue>& Value) override;

@@ -76,13 +76,7 @@ int32 FLumUnrealMapCompound::FindInternalIndex(void* Data, int32 Index) const
 
 TArray<int32> FLumUnrealMapCompound::GetInternalIndices(void* Data) const
 {
-	TArray<int32> Indices;
-	const FScriptMapHelper Map(&Property, Data);
-	for (FScriptMapHelper::FIterator It = Map.CreateIterator(); It; ++It)
-	{
-		Indices.Add(It.GetInternalIndex());
-	}
-	return Indices;
+	return CollectIndices(FScriptMapHelper(&Property, Data));
 }
 
 FLumUnrealMapCompound::FPairPlaces FLumUnrealMapCompound::GetPair(int32 InternalIndex) const
@@ -100,12 +94,6 @@ TSharedPtr<ILumProperty> FLumUnrealMapCompound::MakeItem(int32 Index, int32 Inte
 {
 	const FPairPlaces Pair = GetPair(InternalIndex);
 	return MakeShared<FLumMapEntryProperty>(Index, Pair.Key, Pair.Value);
-}
-
-TVexelExpected<int32> FLumUnrealMapCompound::GetNum() const
-{
-	VEXEL_TRY(void* const Data, GetData());
-	return CountItems(Data);
 }
 
 TVexelExpected<void> FLumUnrealMapCompound::JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object)

@@ -47,13 +47,7 @@ int32 FLumUnrealSetCompound::FindInternalIndex(void* Data, int32 Index) const
 
 TArray<int32> FLumUnrealSetCompound::GetInternalIndices(void* Data) const
 {
-	TArray<int32> Indices;
-	const FScriptSetHelper Set(&Property, Data);
-	for (FScriptSetHelper::FIterator It = Set.CreateIterator(); It; ++It)
-	{
-		Indices.Add(It.GetInternalIndex());
-	}
-	return Indices;
+	return CollectIndices(FScriptSetHelper(&Property, Data));
 }
 
 FLumValuePlaceRef FLumUnrealSetCompound::GetElement(int32 InternalIndex) const
@@ -65,12 +59,6 @@ TSharedPtr<ILumProperty> FLumUnrealSetCompound::MakeItem(int32 Index, int32 Inte
 {
 	const TSharedPtr<ILumProperty> Element = FLumUnrealPropertyFactory::CreateSubProperty(GetElement(InternalIndex));
 	return Element ? TSharedPtr<ILumProperty>(MakeShared<FLumIndexedForwardingProperty>(Index, Element.ToSharedRef())) : nullptr;
-}
-
-TVexelExpected<int32> FLumUnrealSetCompound::GetNum() const
-{
-	VEXEL_TRY(void* const Data, GetData());
-	return CountItems(Data);
 }
 
 TVexelExpected<void> FLumUnrealSetCompound::JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object)
