@@ -116,6 +116,22 @@ INSTANTIATE_TEST_SUITE_P(Families, MemberEdit,
 	[](const testing::TestParamInfo<FMemberChange>& Info)
 	{ return std::string(Info.param.Name); });
 
+INSTANTIATE_TEST_SUITE_P(Values, MemberEdit,
+	testing::Values(
+		FMemberChange{"AddWithDefault", "BP_Enemy", "Add a float variable Armor with default 100 to BP_Enemy",
+			{"variables", "Armor", "value"}, "100.000000"},
+		FMemberChange{"SetDefault", "BP_Door", "Set OpenAngle of BP_Door to 120", {"variables", "OpenAngle", "value"}, "120.000000"},
+		FMemberChange{"SetElement", "BP_Enemy", "Set the second element of Loot to Gem in BP_Enemy",
+			{"variables", "Loot", "value", "properties", "1", "value"}, "Gem"},
+		FMemberChange{"AddElement", "BP_Enemy", "Add Gem to the array Loot of BP_Enemy",
+			{"variables", "Loot", "value", "properties", "2", "value"}, "Gem"},
+		FMemberChange{"RemoveElement", "BP_Enemy", "Remove the first element of Loot in BP_Enemy",
+			{"variables", "Loot", "value", "properties", "0", "value"}, "Key"},
+		FMemberChange{"SetProperty", "BP_Door", "Set the initial life span of BP_Door to 5 seconds",
+			{"properties", "$ClassDefaultObject", "value", "properties", "InitialLifeSpan", "value"}, "5.000000"}),
+	[](const testing::TestParamInfo<FMemberChange>& Info)
+	{ return std::string(Info.param.Name); });
+
 TEST(MemberEditEvent, AnEventGetsAnInputAndAnotherName)
 {
 	const FSampleProjectCopy Project;
