@@ -4,6 +4,7 @@
 
 namespace
 {
+using testing::AllOf;
 using testing::HasSubstr;
 
 const std::string Door = "/Game/BP_Door.BP_Door";
@@ -126,6 +127,19 @@ TEST_F(ChatEdit, UndoAndRedoShowWhatTheyDid)
 				  "  + └ Print String  In String: \"Creak\"\n"
 				  "undone: (Vexel) Spawn Node\n"));
 	EXPECT_THAT(Result.Errors, HasSubstr("there is nothing to undo"));
+}
+
+TEST_F(ChatEdit, AllEditsOfAnAnswerAreUndoneAndRedoneAtOnce)
+{
+	SetChat(MakeEdits({MakeSpawnOfPrint(), MakeCall("graph_add", "add", R"(,"graph":"Creak")")}));
+	const FProgramResult Result = RunInPipe("Do it\n/undo all\n/redo all\n/undo\n/undo all\n/undo all\n/undo most\n");
+	const std::string Gone = "  - BP_Door · Creak  function  -1 node\n"
+							 "  - ● Creak\n";
+	EXPECT_THAT(Result.Output, AllOf(HasSubstr("undone: 2 edits\n"), HasSubstr("redone: 2 edits\n"), HasSubstr("undone: (Vexel) Add Function Graph\n" + Gone), testing::EndsWith("undone: (Vexel) Spawn Node\n"
+																																												 "  ~ BP_Door · EventGraph  -1 node\n"
+																																												 "    Never runs: nothing leads here\n"
+																																												 "  - └ Print String  In String: \"Creak\"\n")));
+	EXPECT_THAT(Result.Errors, AllOf(HasSubstr("of the last answer there is nothing to undo"), HasSubstr("how much? Say '/undo'")));
 }
 
 TEST_F(ChatEdit, EventsHaveTheChangesForPrograms)

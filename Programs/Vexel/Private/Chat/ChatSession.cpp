@@ -10,6 +10,8 @@
 #include "Console.h"
 #include "DiffDocument.h"
 #include "EdGraph/EdGraph.h"
+#include "Editor.h"
+#include "Editor/Transactor.h"
 #include "Engine/Blueprint.h"
 #include "GraphPicture.h"
 #include "HAL/PlatformMisc.h"
@@ -44,6 +46,13 @@ int32 ReadNumber(const FString& Word, int32 Limit)
 	const int32 Number = Word.IsNumeric() && Word.Len() < 9 ? FCString::Atoi(*Word) : 0;
 	return Number >= 1 && Number <= Limit ? Number : 0;
 }
+
+const TCHAR* const AllWord = TEXT("all");
+
+bool IsAll(const TArray<FString>& Words) { return Words.Num() == 1 && Words[0] == AllWord; }
+
+/** The edits that were made and not undone. */
+int32 CountEdits() { return GEditor->Trans->GetQueueLength() - GEditor->Trans->GetUndoCount(); }
 }
 
 FChatSession::FChatSession(
@@ -64,8 +73,8 @@ TConstArrayView<FChatSession::FCommand> FChatSession::GetCommands()
 		{TEXT("/open"), TEXT("NUMBER"), TEXT("goes on with a conversation of the list"), &FChatSession::OpenConversation},
 		{TEXT("/mode"), TEXT("[MODE]"), TEXT("the chat modes, or another one for what follows"), &FChatSession::ChangeMode},
 		{TEXT("/revert"), TEXT("[NUMBER]"), TEXT("the answers so far, or back to how things stood after one of them"), &FChatSession::Revert},
-		{TEXT("/undo"), TEXT(""), TEXT("takes back the last edit of the project"), &FChatSession::Undo},
-		{TEXT("/redo"), TEXT(""), TEXT("makes the edit again that was taken back last"), &FChatSession::Redo},
+		{TEXT("/undo"), TEXT("[all]"), TEXT("takes back the last edit of the project, or all of the last answer"), &FChatSession::Undo},
+		{TEXT("/redo"), TEXT("[all]"), TEXT("makes the edit again that was taken back last, or all that were"), &FChatSession::Redo},
 		{TEXT("/save"), TEXT(""), TEXT("saves what was changed"), &FChatSession::Save},
 		{TEXT("/blueprint"), TEXT("PATH [GRAPH]"), TEXT("draws a graph of a Blueprint, the event graph without a name"),
 			&FChatSession::ShowBlueprint},
@@ -123,6 +132,7 @@ void FChatSession::RunLine(const FString& Line)
 	const bool bCommand = Line.StartsWith(TEXT("/")) && !Words[0].RightChop(1).Contains(TEXT("/"));
 	if (!bCommand)
 	{
+		NumEditsBeforeAnswer = CountEdits();
 		bLastSucceeded = !Turns.RunTurn(Conversation->GetChatId(), Line);
 		ConversationList::NameAfterFirstQuestion(Subsystem, *Conversation);
 		return;
@@ -179,6 +189,11 @@ FCompletions FChatSession::Complete(const FString& Line) const
 	{
 		AddAll(UVexelChatSubsystem::GetAllChatModes(), [](const FVexelChatModeInfo& Mode)
 			{ return Mode.ChatMode; });
+	}
+	else if (Words.Num() == 1 && (Words[0] == TEXT("/undo") || Words[0] == TEXT("/redo")))
+	{
+		AddAll(TArray<FString>{AllWord}, [](const FString& Text)
+			{ return Text; });
 	}
 	else if (Words.Num() == 2 && Words[0] == TEXT("/blueprint"))
 	{
@@ -324,14 +339,27 @@ TOptional<FString> FChatSession::Revert(const TArray<FString>& Words)
 	return NullOpt;
 }
 
-TOptional<FString> FChatSession::Undo(const TArray<FString>&)
+TOptional<FString> FChatSession::Undo(const TArray<FString>& Words)
 {
-	return Travel(true);
+	if (Words.IsEmpty())
+	{
+		return Travel(true, 1);
+	}
+	const int32 NumOfAnswer = CountEdits() - NumEditsBeforeAnswer;
+	if (!IsAll(Words))
+	{
+		return FString(TEXT("how much? Say '/undo', or '/undo all' for all edits of the last answer"));
+	}
+	return NumOfAnswer > 0 ? Travel(true, NumOfAnswer) : FString(TEXT("of the last answer there is nothing to undo"));
 }
 
-TOptional<FString> FChatSession::Redo(const TArray<FString>&)
+TOptional<FString> FChatSession::Redo(const TArray<FString>& Words)
 {
-	return Travel(false);
+	if (!Words.IsEmpty() && !IsAll(Words))
+	{
+		return FString(TEXT("how much? Say '/redo', or '/redo all' for all edits that were undone"));
+	}
+	return Travel(false, Words.IsEmpty() ? 1 : FMath::Max(1, GEditor->Trans->GetUndoCount()));
 }
 
 TOptional<FString> FChatSession::Save(const TArray<FString>&)
@@ -349,14 +377,18 @@ TOptional<FString> FChatSession::Save(const TArray<FString>&)
 	return NullOpt;
 }
 
-TOptional<FString> FChatSession::Travel(bool bBack)
+TOptional<FString> FChatSession::Travel(bool bBack, int32 NumSteps)
 {
 	FString What;
 	FBlueprintWatch Watch;
-	if (const TOptional<FString> Failure = TakeUndoStep(bBack, What))
+	for (int32 Step = 0; Step < NumSteps; ++Step)
 	{
-		return Failure;
+		if (const TOptional<FString> Failure = TakeUndoStep(bBack, What))
+		{
+			return Failure;
+		}
 	}
+	What = NumSteps == 1 ? What : FString::Printf(TEXT("%d edits"), NumSteps);
 	const TArray<FBlueprintDiff> Changes = Watch.TakeDiffs();
 	const FString Text = (bBack ? TEXT("undone: ") : TEXT("redone: ")) + What;
 	TArray<FStyledLine> Lines = {FStyledLine(Text, TextStyle::Faint)};

@@ -47,8 +47,8 @@ private:
 	TOptional<FString> ShowBlueprint(const TArray<FString>& Words);
 	TOptional<FString> Quit(const TArray<FString>& Words);
 
-	/** Undoes or redoes, and tells of what. */
-	TOptional<FString> Travel(bool bBack);
+	/** Undoes or redoes as many edits, and tells of what. */
+	TOptional<FString> Travel(bool bBack, int32 NumSteps);
 	/** One line of text as the answer of the command that runs. */
 	void Tell(const FString& Text);
 
@@ -57,6 +57,8 @@ private:
 	FChatTurnView Turns;
 	TSharedRef<FVexelChatConversation> Conversation;
 	FString RunningCommand;
+	/** How many edits were made and not undone when the last question was asked. */
+	int32 NumEditsBeforeAnswer = 0;
 	bool bLastSucceeded = true;
 	bool bLeaving = false;
 };
