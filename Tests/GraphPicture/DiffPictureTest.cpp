@@ -15,6 +15,7 @@
 
 namespace
 {
+using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -230,6 +231,9 @@ TEST_F(DiffPicture, VariablesAndWhatFollowsTheirNames)
 	EXPECT_THAT(Lines[1], testing::StartsWith("+ variable Speed  type: Float"));
 	EXPECT_THAT(Lines[2], testing::StartsWith("~ BP_Picture · Drawn"));
 	EXPECT_EQ(Lines[3], "  1 node goes by the new name");
+	Remember();
+	FBlueprintEditorUtils::SetBlueprintPropertyReadOnlyFlag(Blueprint, TEXT("Speed"), true);
+	EXPECT_THAT(Draw(), Contains("~ variable Speed  read only: no → yes"));
 }
 
 TEST_F(DiffPicture, NothingToTellIsNoPicture)

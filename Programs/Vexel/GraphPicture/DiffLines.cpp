@@ -10,6 +10,13 @@ FString Shorten(const FString& Value)
 {
 	return Value.Len() > MaxValueLength ? Value.Left(MaxValueLength - 1) + TEXT("…") : Value;
 }
+
+/** A value beside the one that it was or became: a mark is "yes" or nothing. */
+FString ShowBeside(const FString& Value, const FString& Other)
+{
+	const FString Nothing = Other == TEXT("yes") ? TEXT("no") : TEXT("none");
+	return Value.IsEmpty() ? Nothing : Shorten(Value);
+}
 }
 
 void FDiffLines::AddChange(EDifference Difference, const FStyledLine& Text, const FString& Rail, const FString& NextRail)
@@ -70,7 +77,7 @@ FTextStyle DiffText::GetNameStyle(EDifference Difference, bool bRenamed)
 void DiffText::AddValue(FStyledLine& Text, const FString& Name, const FString& Before, const FString& After)
 {
 	Text.Add(TEXT("  ") + Name + TEXT(": "), TextStyle::Faint);
-	Text.Add(Before.IsEmpty() ? FString(TEXT("none")) : Shorten(Before), TextStyle::Bad);
+	Text.Add(ShowBeside(Before, After), TextStyle::Bad);
 	Text.Add(TEXT(" → "), TextStyle::Faint);
-	Text.Add(After.IsEmpty() ? FString(TEXT("none")) : Shorten(After), TextStyle::Good);
+	Text.Add(ShowBeside(After, Before), TextStyle::Good);
 }
