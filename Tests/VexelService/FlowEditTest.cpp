@@ -278,6 +278,16 @@ TEST_F(FlowEdit, CompilingTellsErrorsWithWhatToDo)
 	EXPECT_THAT(Editor.Ask("why does it not compile?"), AllOf(HasSubstr("does not compile. 1 error"), HasSubstr("whose type is known")));
 }
 
+TEST_F(FlowEdit, WhyNothingWasCompiledIsToldAlikeBehindEveryEdit)
+{
+	Editor.SetTool("compile", [](const FJson&)
+		{ return FJson(); });
+	const std::string Told = "**BP_Gate** could not be compiled. The editor says:\n\n- no such thing\n";
+	EXPECT_THAT(Editor.Ask("compile /Game/BP_Gate"), HasSubstr(Told));
+	EXPECT_THAT(Ask("remove the node Print String"), AllOf(HasSubstr("Removed the node"), HasSubstr(Told)));
+	EXPECT_THAT(Ask("add a float variable Armor"), AllOf(HasSubstr("I added the variable **Armor**"), HasSubstr(Told)));
+}
+
 TEST_F(FlowEdit, NodesAreConnectedDisconnectedAndRemovedByTitleOrId)
 {
 	Ask("on overlap open the gate");

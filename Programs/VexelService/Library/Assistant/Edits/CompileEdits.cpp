@@ -1,6 +1,6 @@
 #include "Assistant/Edits/CompileEdits.h"
 
-#include "Assistant/Edits/FlowReport.h"
+#include "Assistant/Edits/MemberReport.h"
 
 #include <algorithm>
 
@@ -37,13 +37,7 @@ class FCompileEdit final : public IEdit
 public:
 	void Run(FEditSession& Session) const override
 	{
-		const FCompileOutcome Outcome = Session.Editor.Compile();
-		if (Session.IsOver())
-		{
-			return;
-		}
-		Session.Say(Outcome.bDone ? DescribeCompile(Outcome, Session.Editor.Blueprint().Name)
-								  : "I could not compile it. The editor says:\n\n" + BulletList(Outcome.Errors));
+		TellCompile(Session);
 	}
 };
 

@@ -4,6 +4,7 @@
 #include "Assistant/Words.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 
 namespace VexelService
@@ -101,6 +102,12 @@ std::string BulletList(const std::vector<std::string>& Items)
 
 std::string DescribeCompile(const FCompileOutcome& Outcome, const std::string& Blueprint)
 {
+	if (!Outcome.bDone)
+	{
+		std::vector<std::string> Reasons;
+		std::transform(Outcome.Errors.begin(), Outcome.Errors.end(), std::back_inserter(Reasons), PlainError);
+		return "**" + Blueprint + "** could not be compiled" + (Reasons.empty() ? ".\n" : ". The editor says:\n\n" + BulletList(Reasons));
+	}
 	const std::vector<std::string> Errors = MessagesOf(Outcome, true);
 	const std::vector<std::string> Warnings = MessagesOf(Outcome, false);
 	std::string Text = "**" + Blueprint + "** ";

@@ -15,7 +15,7 @@ std::string PlainError(const std::string& Error);
 /** A list in Markdown; empty for none. */
 std::string BulletList(const std::vector<std::string>& Items);
 
-/** What the compiler says, in words and with what to do about it. */
+/** What the compiler says, in words and with what to do about it; or why the editor did not compile. */
 std::string DescribeCompile(const FCompileOutcome& Outcome, const std::string& Blueprint);
 
 /** Why an edit was not done, and what is left of it. */

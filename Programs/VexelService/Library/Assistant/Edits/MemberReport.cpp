@@ -56,14 +56,6 @@ std::string CoreOfError(const std::string& Error)
 	return Error.substr(Begin, Error.find(", while ", Begin) - Begin);
 }
 
-std::string CompileInWords(FProjectEditor& Editor)
-{
-	const FCompileOutcome Outcome = Editor.Compile();
-	const std::string Name = ShortName(Editor.GetPath());
-	return Outcome.bDone ? DescribeCompile(Outcome, Name)
-						 : Bold(Name) + " could not be compiled. The editor says: " + Code(Outcome.Errors.empty() ? "" : Outcome.Errors.front()) + "\n";
-}
-
 std::string TellUses(const FBlueprintModel& Model, const std::string& Name, const std::vector<std::string>& Uses)
 {
 	std::string Text = Bold(Name) + " is used in " + CountOf(Uses.size(), "place") + " of " + Bold(Model.Name) + ":\n\n";
@@ -117,17 +109,22 @@ void TellWarnings(FEditSession& Session, const FEditOutcome& Outcome)
 
 void TellCompile(FEditSession& Session, const std::vector<std::string>& Others)
 {
-	if (!Session.IsOver())
+	const auto Tell = [&Session](FProjectEditor& Editor, const char* Before)
 	{
-		Session.Say(CompileInWords(Session.Editor));
-	}
-	for (const std::string& Path : Others)
-	{
-		FProjectEditor Other(Session.Editor.GetReader(), Path);
+		const FCompileOutcome Outcome = Editor.Compile();
 		if (!Session.IsOver())
 		{
-			Session.Say("\n" + CompileInWords(Other));
+			Session.Say(Before + DescribeCompile(Outcome, ShortName(Editor.GetPath())));
 		}
+	};
+	if (!Session.IsOver())
+	{
+		Tell(Session.Editor, "");
+	}
+	for (std::size_t Index = 0; Index < Others.size() && !Session.IsOver(); ++Index)
+	{
+		FProjectEditor Other(Session.Editor.GetReader(), Others[Index]);
+		Tell(Other, "\n");
 	}
 }
 

@@ -126,8 +126,7 @@ private:
 		if (!Session.IsOver())
 		{
 			const std::string Name = Session.Editor.Blueprint().Name;
-			Session.Say("Done in **" + Name + "**:\n\n" + BulletList(Done) + "\n" +
-				(Compiled.bDone ? DescribeCompile(Compiled, Name) : "It could not be compiled.\n"));
+			Session.Say("Done in **" + Name + "**:\n\n" + BulletList(Done) + "\n" + DescribeCompile(Compiled, Name));
 		}
 	}
 
