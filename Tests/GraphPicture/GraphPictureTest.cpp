@@ -77,6 +77,14 @@ TEST_F(GraphPicture, WiresThroughReroutesLeadOn)
 	EXPECT_THAT(Draw(), ElementsAre("● Go", "└ Print String  In String: \"behind\""));
 }
 
+TEST_F(GraphPicture, ATimerShowsTheEventThatItRuns)
+{
+	UEdGraphNode* const Timer = AddCall(TEXT("KismetSystemLibrary"), TEXT("K2_SetTimerDelegate"));
+	Link(AddEvent(TEXT("Go"), 0), Timer);
+	Link(AddEvent(TEXT("SpawnEnemy"), 100), UK2Node_Event::DelegateOutputName, Timer, TEXT("Delegate"));
+	EXPECT_THAT(Draw(), ElementsAre("● Go", "└ Set Timer by Event  Event: SpawnEnemy", "● SpawnEnemy"));
+}
+
 TEST_F(GraphPicture, WhatNeverRunsIsInThePictureToo)
 {
 	AddEvent(TEXT("Go"));

@@ -46,6 +46,22 @@ TEST(Describer, ABranchIsToldWithItsConditionAndBothWays)
 	EXPECT_THAT(Text, HasSubstr("- **Health**: number, 100 by default\n"));
 }
 
+TEST(Describer, WhatATimerRunsIsToldByItsName)
+{
+	const FJson Timer = MakeNode("Timer_0", "call.KismetSystemLibrary.K2_SetTimerDelegate",
+		{ExecIn(), DataIn("Delegate", "delegate"), DataIn("Time", "real", "5.0"), DataIn("bLooping", "bool", "true"), ExecOut()});
+	FJson Event = MakeNode("CustomEvent_0", "event.custom", {DataOut("OutputDelegate", "delegate"), ExecOut()});
+	Event["properties"] = {{{"id", "name"}, {"value", "SpawnEnemy"}}};
+	FJson Graph = MakeGraph("EventGraph", "ubergraph", {BeginPlay(), Timer, Event});
+	Link(Graph, "EventBeginPlay_0.then", "Timer_0.execute");
+	FJson OfFunction = Graph;
+	Link(Graph, "CustomEvent_0.OutputDelegate", "Timer_0.Delegate");
+	EXPECT_THAT(OverviewOf(Graph), HasSubstr("- Starts a timer that runs the event SpawnEnemy every 5 seconds\n"));
+	OfFunction["nodes"].push_back(MakeNode("CreateEvent_0", "delegate.create.SpawnAll", {DataOut("OutputDelegate", "delegate")}));
+	Link(OfFunction, "CreateEvent_0.OutputDelegate", "Timer_0.Delegate");
+	EXPECT_THAT(OverviewOf(OfFunction), HasSubstr("- Starts a timer that runs the function SpawnAll every 5 seconds\n"));
+}
+
 TEST(Describer, AChangedGraphChangesTheAnswer)
 {
 	FJson Door = MakeDoor();

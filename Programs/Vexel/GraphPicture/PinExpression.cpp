@@ -72,6 +72,11 @@ private:
 			Expression.Named.Add(Link.Node);
 			return TEXT("self");
 		}
+		if (Output.Category == UEdGraphSchema_K2::PC_Delegate && !Node.bPure)
+		{
+			// An event: its pin has the same label on each of them.
+			return Node.Title;
+		}
 		if (!Node.bPure)
 		{
 			// The result of a call says nothing by its own name.

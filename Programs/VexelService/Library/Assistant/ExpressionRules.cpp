@@ -38,6 +38,7 @@ struct FOutputTable
 			{"call.get_subsystem", &W::LiteralOutput},
 			{"call", &W::CallOutput},
 			{"cast", &W::CastOutput},
+			{"delegate.create", &W::FunctionOutput},
 			{"event", &W::EventOutput},
 			{"input", &W::EventOutput},
 			{"macro", &W::MacroOutput},
@@ -110,6 +111,11 @@ FExpression FExpressionWriter::CastOutput(const FBlueprintNode& Node, const FBlu
 FExpression FExpressionWriter::ParameterOutput(const FBlueprintNode&, const FBlueprintPin& Pin)
 {
 	return {Pin.Id};
+}
+
+FExpression FExpressionWriter::FunctionOutput(const FBlueprintNode& Node, const FBlueprintPin&)
+{
+	return {"the function " + std::string(LastSegment(Node.Type, '.'))};
 }
 
 FExpression FExpressionWriter::EventOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin)

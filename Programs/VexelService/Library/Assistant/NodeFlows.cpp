@@ -465,15 +465,8 @@ void FGraphWalker::TellDelegate(const FPlace& Place, FFlow& Flow)
 		TellUnknown(Place, Flow);
 		return;
 	}
-	std::string Bound = "an event";
 	const FBlueprintPin* const Delegate = Node.FindInput("Delegate");
-	const FBlueprintNode* const Source = Delegate && !Delegate->Links.empty() ? Graph.FindNode(Delegate->Links.front().Node) : nullptr;
-	if (Source)
-	{
-		const bool bNamesFunction = IsNodeType(*Source, "delegate.create");
-		const std::string EventName = Source->Name.empty() ? NodeTitle(*Source) : Source->Name;
-		Bound = bNamesFunction ? "the function " + std::string(LastSegment(Source->Type, '.')) : "the event " + EventName;
-	}
+	const std::string Bound = Delegate && !Delegate->Links.empty() ? Expressions.Value(Node, *Delegate) : "an event";
 	const std::string Owner = Expressions.HasOtherTarget(Node) ? Expressions.Possessive(Node) + " " : "";
 	Flow.Text = Row->Text;
 	const std::array<std::pair<char, std::string>, 2> Slots = {{{'%', Owner + std::string(LastSegment(Node.Type, '.'))}, {'@', Bound}}};

@@ -76,6 +76,7 @@ private:
 	FExpression OperatorOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin);
 	FExpression CastOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin);
 	FExpression ParameterOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin);
+	FExpression FunctionOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin);
 	FExpression EventOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin);
 	FExpression MacroOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin);
 	FExpression TimelineOutput(const FBlueprintNode& Node, const FBlueprintPin& Pin);
