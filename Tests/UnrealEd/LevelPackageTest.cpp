@@ -200,6 +200,22 @@ TEST_F(FLevelPackageTest, PlacedActorKeepsItsPlaceAndItsComponentsWhenItsBluepri
 	World->DestroyWorld(false);
 }
 
+TEST_F(FLevelPackageTest, ToCompileTheBlueprintOfAPlacedActorIsNoEditOfItsLevel)
+{
+	UBlueprint* const Buoy = FKismetEditorUtilities::CreateBlueprint(
+		AActor::StaticClass(), CreatePackage(TEXT("/Game/BP_Buoy")), TEXT("BP_Buoy"), BPTYPE_Normal);
+	UWorld* const World = UWorld::CreateWorld(EWorldType::Editor, false, TEXT("L_Buoy"), CreatePackage(TEXT("/Game/L_Buoy")));
+	AActor* const Placed = World->SpawnActor<AActor>(Buoy->GeneratedClass, FVector(7.0, 8.0, 9.0), FRotator::ZeroRotator);
+	for (const bool bEdited : {false, true})
+	{
+		World->GetPackage()->SetDirtyFlag(bEdited);
+		FKismetEditorUtilities::CompileBlueprint(Buoy);
+		EXPECT_EQ(World->GetPackage()->IsDirty(), bEdited);
+	}
+	EXPECT_NE(World->PersistentLevel->Actors[1], Placed);
+	World->DestroyWorld(false);
+}
+
 TEST_F(FLevelPackageTest, AProjectWithoutAMapOpensAnEmptyWorld)
 {
 	const UWorld* const World = GEditor->GetEditorWorldContext().World();

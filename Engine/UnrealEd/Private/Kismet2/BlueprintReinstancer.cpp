@@ -8,6 +8,7 @@
 #include "GameFramework/Actor.h"
 #include "Misc/ITransaction.h"
 #include "UObject/LayoutTransfer.h"
+#include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
@@ -334,8 +335,27 @@ bool FBlueprintCompileReinstancer::AreSkeletonsWithoutInstances() const
 		{ return Rebuilt.Blueprint->SkeletonGeneratedClass.Get() != Rebuilt.Class || !Rebuilt.OldInstances.IsEmpty(); });
 }
 
+TSet<UPackage*> FBlueprintCompileReinstancer::FindUneditedPackages() const
+{
+	TSet<UPackage*> Packages;
+	for (const FRebuiltClass& Rebuilt : Classes)
+	{
+		for (const UObject* const Instance : Rebuilt.OldInstances)
+		{
+			UPackage* const Package = Instance->GetPackage();
+			if (Package && !Package->IsDirty())
+			{
+				Packages.Add(Package);
+			}
+		}
+	}
+	return Packages;
+}
+
 void FBlueprintCompileReinstancer::ReplaceObjects()
 {
+	// An actor that is made again is as it was; nobody has edited its level.
+	const TSet<UPackage*> Unedited = FindUneditedPackages();
 	UObject* const Transient = GetTransientPackageAsObject();
 	for (FRebuiltClass& Rebuilt : Classes)
 	{
@@ -368,5 +388,9 @@ void FBlueprintCompileReinstancer::ReplaceObjects()
 	{
 		Pair.Key->ClearFlags(RF_Standalone | RF_Public | RF_ClassDefaultObject);
 		Pair.Key->MarkAsGarbage();
+	}
+	for (UPackage* const Package : Unedited)
+	{
+		Package->SetDirtyFlag(false);
 	}
 }

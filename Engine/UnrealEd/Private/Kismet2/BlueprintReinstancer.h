@@ -47,6 +47,8 @@ private:
 	void ApplyDefaultsOfRetyped(const FRebuiltClass& Rebuilt);
 	/** The default objects of such classes are reached through their classes alone. */
 	bool AreSkeletonsWithoutInstances() const;
+	/** Packages that hold instances and have no change that is not saved. */
+	TSet<UPackage*> FindUneditedPackages() const;
 	void ReplaceObjects();
 
 	/** Parents first. */
