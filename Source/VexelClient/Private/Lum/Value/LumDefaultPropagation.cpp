@@ -3,6 +3,7 @@
 #include "Lum/Value/LumEditNotice.h"
 
 #include "UObject/Class.h"
+#include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UnrealType.h"
 
@@ -142,12 +143,19 @@ void LumDefaultPropagation::Propagate(
 			{ bTakesAny = true; });
 		if (bTakesAny)
 		{
+			UPackage* const Package = Instance->GetPackage();
+			const bool bWasDirty = Package->IsDirty();
 			TArray<FProperty*> Members;
 			Place.AppendMembers(Members);
 			LumEditNotice::TellBefore(*Instance, Members);
 			FDifference::Visit(Property, Values, [Instance](const FProperty& Part, const FValues& PartValues)
 				{ TakeNew(*Instance, Part, PartValues); });
 			LumEditNotice::TellAfter(*Instance, Members, Type);
+			// A file holds no value that is its archetype's; where only a part of it was taken, there is something to save.
+			if (!bWasDirty && Members[0]->Identical_InContainer(Instance, &Archetype))
+			{
+				Package->SetDirtyFlag(false);
+			}
 		}
 	}
 }
