@@ -1,4 +1,7 @@
+#include "Components/SceneComponent.h"
 #include "EdGraphSchema_K2.h"
+#include "Engine/SCS_Node.h"
+#include "Engine/SimpleConstructionScript.h"
 #include "K2Node_CallFunction.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_FunctionEntry.h"
@@ -160,7 +163,9 @@ TEST_F(FLumExportTest, DefaultObjectShowsOnlyWhatDiffersFromItsParent)
 	{
 		return Find(Export(), TEXT("properties"), TEXT("$ClassDefaultObject"))->GetObjectField(TEXT("value"));
 	};
-	EXPECT_FALSE(GetDefaultObject()->HasField(TEXT("properties"))) << ToStd(ToText(GetDefaultObject().ToSharedRef()));
+	// The component that every new Actor Blueprint adds.
+	ASSERT_EQ(1, GetDefaultObject()->GetArrayField(TEXT("properties")).Num()) << ToStd(ToText(GetDefaultObject().ToSharedRef()));
+	EXPECT_TRUE(Find(GetDefaultObject(), TEXT("properties"), TEXT("DefaultSceneRoot")).IsValid());
 
 	UObject* const DefaultObject = Blueprint->GeneratedClass->GetDefaultObject();
 	const FFloatProperty* const Lifespan = CastField<FFloatProperty>(DefaultObject->GetClass()->FindPropertyByName(TEXT("InitialLifeSpan")));
@@ -170,6 +175,35 @@ TEST_F(FLumExportTest, DefaultObjectShowsOnlyWhatDiffersFromItsParent)
 	ASSERT_TRUE(Exported.IsValid());
 	EXPECT_EQ("12.000000", ToStd(Exported->GetStringField(TEXT("value"))));
 	EXPECT_EQ("object.Actor", ToStd(Exported->GetStringField(TEXT("declared_in"))));
+}
+
+TEST_F(FLumExportTest, DefaultObjectShowsTheComponentsThatTheBlueprintAdds)
+{
+	USimpleConstructionScript& Script = *Blueprint->SimpleConstructionScript;
+	USCS_Node* const Arm = Script.CreateNode(USceneComponent::StaticClass(), TEXT("Arm"));
+	USCS_Node* const Base = Script.CreateNode(USceneComponent::StaticClass(), TEXT("Base"));
+	Script.AddNode(Base);
+	Base->AddChildNode(Arm);
+	FBlueprintEditorUtils::AddMemberVariable(
+		Blueprint, TEXT("Held"), MakeType(UEdGraphSchema_K2::PC_Object, NAME_None, USceneComponent::StaticClass()));
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	CastChecked<USceneComponent>(Arm->ComponentTemplate)->SetRelativeLocation(FVector(1, 2, 3));
+
+	const TSharedPtr<FJsonObject> Defaults =
+		Find(Export(), TEXT("properties"), TEXT("$ClassDefaultObject"))->GetObjectField(TEXT("value"));
+	const TSharedPtr<FJsonObject> ArmObject = Find(Defaults, TEXT("properties"), TEXT("Arm"));
+	ASSERT_TRUE(ArmObject.IsValid()) << ToStd(ToText(Defaults.ToSharedRef()));
+	EXPECT_EQ("object.SceneComponent", ToStd(ArmObject->GetStringField(TEXT("type"))));
+	EXPECT_EQ("object." + ToStd(Blueprint->GetName()), ToStd(ArmObject->GetStringField(TEXT("declared_in"))));
+	EXPECT_TRUE(ArmObject->GetBoolField(TEXT("instanced")));
+	const TSharedPtr<FJsonObject> ArmValue = ArmObject->GetObjectField(TEXT("value"));
+	ASSERT_EQ(1, ArmValue->GetArrayField(TEXT("properties")).Num()) << ToStd(ToText(ArmValue.ToSharedRef()));
+	const TSharedPtr<FJsonObject> Location = Find(ArmValue, TEXT("properties"), TEXT("RelativeLocation"))->GetObjectField(TEXT("value"));
+	EXPECT_EQ("2.000000", ToStd(Find(Location, TEXT("properties"), TEXT("Y"))->GetStringField(TEXT("value"))));
+	EXPECT_EQ("{\"type\":\"object.SceneComponent\"}",
+		ToStd(ToText(Find(Defaults, TEXT("properties"), TEXT("Base"))->GetObjectField(TEXT("value")).ToSharedRef())));
+	// A variable that can hold a component is none.
+	EXPECT_FALSE(Find(Defaults, TEXT("properties"), TEXT("Held")).IsValid());
 }
 
 TEST_F(FLumExportTest, FunctionHasItsInputsAndLocalVariables)

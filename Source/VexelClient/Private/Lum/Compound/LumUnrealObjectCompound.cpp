@@ -5,6 +5,7 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumPropertyCollector.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
+#include "Lum/Property/LumUnrealObjectProperty.h"
 #include "Lum/Value/LumObjectOwner.h"
 
 #include "UObject/Object.h"
@@ -24,6 +25,12 @@ bool DiffersFromArchetype(const FProperty& Property, const UObject& Object)
 	const bool bHasCounterpart = Archetype && Archetype->GetClass()->IsChildOf(Property.GetOwnerClass());
 	const void* const Default = bHasCounterpart ? Property.ContainerPtrToValuePtr<void>(Archetype) : nullptr;
 	return !Property.Identical(Property.ContainerPtrToValuePtr<void>(&Object), Default, PPF_None);
+}
+
+/** What an export shows. No archetype has the components that a Blueprint adds, whatever their values are. */
+bool IsExported(const FProperty& Property, const UObject& Object)
+{
+	return DiffersFromArchetype(Property, Object) || FLumUnrealObjectInstanceProperty::FindComponentTemplate(Property, &Object);
 }
 }
 
@@ -62,7 +69,7 @@ TVexelExpected<void> FLumUnrealObjectCompound::Iterate(ILumPropertyCollector& Co
 
 TVexelExpected<void> FLumUnrealObjectCompound::IterateForExport(ILumPropertyCollector& Collector) const
 {
-	return IterateWhere(Collector, &DiffersFromArchetype);
+	return IterateWhere(Collector, &IsExported);
 }
 
 TVexelExpected<void> FLumUnrealObjectCompound::IterateWhere(

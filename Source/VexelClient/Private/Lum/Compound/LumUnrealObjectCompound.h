@@ -8,7 +8,7 @@ class UObject;
 
 /**
  * The properties of an object that a user can edit or a Blueprint can see. An export shows those that differ from the object's
- * archetype.
+ * archetype, and of a Blueprint's default object also the components that the Blueprint adds.
  */
 class FLumUnrealObjectCompound : public ILumCompound
 {

@@ -38,16 +38,6 @@ TVexelExpected<void> CheckMetaClass(const FProperty& Property, const UObject* Ob
 	}
 	return {};
 }
-
-/** What actors' components of the property are made from, where the object is the default of a Blueprint that adds the component. */
-UObject* FindComponentTemplate(const FProperty& Property, const UObject* Object)
-{
-	const bool bIsDefault = Object && Object->HasAnyFlags(RF_ClassDefaultObject) && Object->GetClass() == Property.GetOwnerClass();
-	const UBlueprintGeneratedClass* const Class = bIsDefault ? Cast<UBlueprintGeneratedClass>(Object->GetClass()) : nullptr;
-	const USimpleConstructionScript* const Script = Class ? Class->SimpleConstructionScript.Get() : nullptr;
-	const USCS_Node* const Node = Script ? Script->FindSCSNode(Property.GetFName()) : nullptr;
-	return Node ? Node->ComponentTemplate.Get() : nullptr;
-}
 }
 
 TVexelExpected<TSharedRef<FJsonValue>> FLumUnrealObjectReferenceProperty::JsonExportValue(const FLumContext&) const
@@ -136,6 +126,16 @@ TVexelExpected<void> FLumUnrealObjectReferenceProperty::SetSoftReference(void* M
 	VEXEL_TRY_VOID(CheckMetaClass(*Property, Loaded));
 	Soft->SetPropertyValue(Memory, FSoftObjectPtr(SoftPath));
 	return {};
+}
+
+UObject* FLumUnrealObjectInstanceProperty::FindComponentTemplate(const FProperty& Property, const UObject* Object)
+{
+	const bool bMayBeComponent = Object && Property.HasAnyPropertyFlags(CPF_InstancedReference);
+	const bool bIsDefault = bMayBeComponent && Object->HasAnyFlags(RF_ClassDefaultObject) && Object->GetClass() == Property.GetOwnerClass();
+	const UBlueprintGeneratedClass* const Class = bIsDefault ? Cast<UBlueprintGeneratedClass>(Object->GetClass()) : nullptr;
+	const USimpleConstructionScript* const Script = Class ? Class->SimpleConstructionScript.Get() : nullptr;
+	const USCS_Node* const Node = Script ? Script->FindSCSNode(Property.GetFName()) : nullptr;
+	return Node ? Node->ComponentTemplate.Get() : nullptr;
 }
 
 TVexelExpected<UObject*> FLumUnrealObjectInstanceProperty::GetObject() const
