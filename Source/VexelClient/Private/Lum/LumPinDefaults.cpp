@@ -250,7 +250,12 @@ bool SetUserDefinedDefault(const UEdGraphPin& Pin, const FString& Text)
 		Node ? Node->UserDefinedPins.FindByPredicate([&Pin](const TSharedPtr<FUserPinInfo>& Candidate)
 				   { return Candidate->PinName == Pin.PinName && Candidate->DesiredPinDirection == Pin.Direction; })
 			 : nullptr;
-	return Info && Node->ModifyUserDefinedPinDefaultValue(*Info, Text);
+	if (!Info)
+	{
+		return false;
+	}
+	Node->Modify();
+	return Node->ModifyUserDefinedPinDefaultValue(*Info, Text);
 }
 
 TVexelExpected<void> ImportDefault(UEdGraphPin& Pin, const FJsonValue& Value)
@@ -273,6 +278,7 @@ TVexelExpected<void> ImportDefault(UEdGraphPin& Pin, const FJsonValue& Value)
 	VEXEL_TRY_VOID(CheckDefault(*Schema, Pin, Text));
 	if (Pin.Direction == EGPD_Input && !Pin.bDefaultValueIsIgnored)
 	{
+		Pin.GetOwningNode()->Modify();
 		Schema->TrySetDefaultValue(Pin, Text);
 		return {};
 	}

@@ -31,8 +31,13 @@ FLumUnrealVirtualProperty::FLumUnrealVirtualProperty(const FValue& InValue)
 
 TVexelExpected<void> FLumUnrealVirtualProperty::JsonImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& NewValue)
 {
+	const FString Before = ExportText();
 	TVexelExpected<void> Imported = Value.Inner->JsonImportValue(Context, NewValue);
-	VEXEL_TRY_VOID(OnImport());
+	// The text that the value was made from may be another for the same value: a refusal must not rewrite it.
+	if (Imported.HasValue() || !ExportText().Equals(Before, ESearchCase::CaseSensitive))
+	{
+		VEXEL_TRY_VOID(OnImport());
+	}
 	return Imported;
 }
 

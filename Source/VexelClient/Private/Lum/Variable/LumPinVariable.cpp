@@ -114,9 +114,7 @@ TVexelExpected<TSharedRef<FJsonValue>> FLumPinVariable::JsonExportValue(const FL
 TVexelExpected<void> FLumPinVariable::JsonImportValue(const FLumContext&, const TSharedRef<FJsonValue>& Value)
 {
 	VEXEL_TRY(const UEdGraphPin* const Pin, GetPin());
-	UEdGraphNode* const Node = Pin->GetOwningNode();
-	Node->Modify();
-	return FLumHelper::SetPinDefaultValueFromJsonValue(*Node->FindPinById(PinId), Value);
+	return FLumHelper::SetPinDefaultValueFromJsonValue(*Pin->GetOwningNode()->FindPinById(PinId), Value);
 }
 
 ILumEditableVariable* FLumPinVariable::AsEditableVariable()
