@@ -205,6 +205,34 @@ TEST_F(FScriptHeaders, AMistakeInAContinuationsInitialValueNamesItsFile)
 	EXPECT_TRUE(Report.Errors[0].Contains(TEXT(":7:"))) << TCHAR_TO_UTF8(*Report.Errors[0]);
 }
 
+TEST_F(FScriptHeaders, AReferenceToAPartIsInstancedWhereverThePartIsDeclared)
+{
+	const FScriptHeaderReport Report = LoadTexts({R"(// Package: /Script/HeaderTestParts
+USTRUCT()
+struct FScriptHolder { GENERATED_BODY() UPROPERTY() TObjectPtr<UScriptArm> Held; };
+UCLASS()
+class UScriptOwner : public UObject
+{
+	GENERATED_BODY()
+	UPROPERTY() TObjectPtr<UScriptArm> Arm;
+	UPROPERTY() TArray<TObjectPtr<UScriptArm>> Arms;
+	UPROPERTY() TObjectPtr<UScriptOwner> Other;
+};
+UCLASS()
+class UScriptArm : public UScriptLimb { GENERATED_BODY() };
+)",
+		"// Package: /Script/HeaderTestParts\nUCLASS()\nclass UScriptLimb : public UReflectedPart\n{\n\tGENERATED_BODY()\n};\n"});
+	EXPECT_EQ(Report.Errors, TArray<FString>());
+	const UClass* const Owner = FindObject<UClass>(nullptr, TEXT("/Script/HeaderTestParts.ScriptOwner"));
+	const UScriptStruct* const Holder = FindObject<UScriptStruct>(nullptr, TEXT("/Script/HeaderTestParts.ScriptHolder"));
+	ASSERT_TRUE(Owner && Holder);
+	EXPECT_TRUE(Owner->FindPropertyByName(TEXT("Arm"))->HasAllPropertyFlags(CPF_InstancedReference | CPF_ExportObject));
+	EXPECT_TRUE(Owner->FindPropertyByName(TEXT("Arms"))->HasAnyPropertyFlags(CPF_ContainsInstancedReference));
+	EXPECT_FALSE(Owner->FindPropertyByName(TEXT("Other"))->HasAnyPropertyFlags(CPF_InstancedReference));
+	EXPECT_TRUE(Owner->HasAnyClassFlags(CLASS_HasInstancedReference));
+	EXPECT_TRUE(Holder->FindPropertyByName(TEXT("Held"))->HasAnyPropertyFlags(CPF_InstancedReference));
+}
+
 TEST_F(FScriptHeaders, ContinuationWithoutItsClassIsAnError)
 {
 	const FScriptHeaderReport Report = LoadText("// Package: /Script/HeaderTestD\n"

@@ -87,6 +87,10 @@ void FScriptHeaderTypes::MakeAll()
 			NameDelegate(Delegate, Source);
 		}
 	}
+	for (const std::string& Name : ClassOrder)
+	{
+		SetClassFlags(Classes.at(Name));
+	}
 	for (const std::string& Name : StructOrder)
 	{
 		CompleteStruct(Structs.at(Name));
@@ -276,6 +280,25 @@ void FScriptHeaderTypes::CompleteStruct(FStructInProgress& Struct)
 	SetDefaults(Struct.Struct, MoveTemp(Defaults));
 }
 
+void FScriptHeaderTypes::SetClassFlags(FClassInProgress& Class)
+{
+	if (Class.bHasFlags || !Class.Class || Class.bExtends)
+	{
+		return;
+	}
+	Class.bHasFlags = true;
+	const FClassDeclaration& Declaration = *Class.Declaration;
+	if (const auto SuperInProgress = Classes.find(Declaration.Super); SuperInProgress != Classes.end())
+	{
+		SetClassFlags(SuperInProgress->second);
+	}
+	Class.Class->ClassFlags = static_cast<EClassFlags>(Declaration.Flags) | CLASS_Native | CLASS_Constructed | CLASS_MatchedSerializers;
+	if (const UClass* const Super = Declaration.Super.empty() ? nullptr : FindClass(Declaration.Super))
+	{
+		Class.Class->ClassFlags |= Super->ClassFlags & CLASS_Inherit;
+	}
+}
+
 void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
 {
 	if (Class.bDone || !Class.Class)
@@ -300,7 +323,6 @@ void FScriptHeaderTypes::CompleteClass(FClassInProgress& Class)
 		AddError(
 			*Class.Source, Declaration.Position, FString::Printf(TEXT("there is no class %s to derive from"), *ToText(Declaration.Super)));
 	}
-	Class.Class->ClassFlags = static_cast<EClassFlags>(Declaration.Flags) | CLASS_Native | CLASS_Constructed | CLASS_MatchedSerializers;
 	Class.Class->ClassConfigName = Declaration.ConfigName.empty() ? FName() : ToName(Declaration.ConfigName);
 	Class.Class->ClassWithin = Declaration.Within.empty() ? nullptr : FindClass(Declaration.Within);
 	Class.Class->SetSuperStruct(Super && !Super->IsChildOf(Class.Class) ? Super : UObject::StaticClass());

@@ -39,6 +39,7 @@ private:
 		/** Declarations of more members of the class, in other headers. */
 		std::vector<TDeclared<HeaderParser::FClassDeclaration>> Continuations;
 		bool bExtends = false;
+		bool bHasFlags = false;
 		bool bDone = false;
 	};
 	struct FStructInProgress : TDeclared<HeaderParser::FStructDeclaration>
@@ -53,6 +54,8 @@ private:
 	void NameContinuation(const HeaderParser::FClassDeclaration& Declaration, const FSource& Source);
 	void NameDelegate(const HeaderParser::FDelegateDeclaration& Declaration, const FSource& Source);
 	void CompleteStruct(FStructInProgress& Struct);
+	/** Gives the class its flags, before any member is made: they tell whether a reference to the class is one to a part. */
+	void SetClassFlags(FClassInProgress& Class);
 	void CompleteClass(FClassInProgress& Class);
 	void ExtendClass(FClassInProgress& Class);
 	void AddInterfaces(FClassInProgress& Class);
