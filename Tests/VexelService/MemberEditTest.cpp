@@ -455,6 +455,33 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 	EXPECT_THAT(Answer, AllOf(HasSubstr("could not set \"wing span\""), HasSubstr("There is no property of that name.")));
 }
 
+TEST_F(MemberEdit, ComponentsAreFoundByTheirClassThoughNoGraphUsesThem)
+{
+	const auto MakeComponent = [](const char* Id, const char* Class)
+	{
+		return FJson{{"id", Id}, {"type", Class}, {"value", {{"type", Class}}}, {"category", ""}, {"instanced", true}};
+	};
+	FJson Components = {MakeComponent("Lamp", "object.PointLightComponent"), MakeComponent("Door", "object.StaticMeshComponent")};
+	const auto Defaults = [](const FJson& Properties)
+	{
+		return FJson{{"id", "$ClassDefaultObject"}, {"type", "object.BP_Enemy"},
+			{"value", {{"type", "object.BP_Enemy"}, {"properties", Properties}}}, {"category", ""}};
+	};
+	FJson Enemy = MakeRichEnemy();
+	Enemy["properties"] = FJson::array({Defaults(Components)});
+	Blueprint = FScriptedObjectEdit(Enemy);
+	EXPECT_THAT(Operations("set the intensity of the PointLight to 5000 in BP_Enemy"),
+		testing::Contains("update  $ClassDefaultObject.Lamp.Intensity \"5000\""))
+		<< Answer;
+
+	Components.push_back(MakeComponent("Torch", "object.PointLightComponent"));
+	Enemy["properties"] = FJson::array({Defaults(Components)});
+	Blueprint = FScriptedObjectEdit(Enemy);
+	EXPECT_THAT(Operations("set the intensity of the PointLight to 5000 in BP_Enemy"),
+		testing::Not(testing::Contains("update  $ClassDefaultObject.Lamp.Intensity \"5000\"")))
+		<< Answer;
+}
+
 TEST_F(MemberEdit, ElementsAreSetAddedAndRemoved)
 {
 	const struct

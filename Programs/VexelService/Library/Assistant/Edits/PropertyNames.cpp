@@ -57,19 +57,29 @@ struct FNamedComponent
 	std::string Class;
 };
 
-// The components of which graphs speak: an export has no list of them.
+// The components that the Blueprint adds, and those of its parents of which graphs speak.
 std::vector<FNamedComponent> FindComponents(const FBlueprintModel& Model)
 {
 	std::vector<FNamedComponent> Components;
+	const auto AddIfComponent = [&Components](const std::string& Name, std::string_view Type)
+	{
+		if (StartsWith(Type, "object.") && Type.find("Component") != std::string_view::npos)
+		{
+			Components.push_back({Name, std::string(LastSegment(Type, '.'))});
+		}
+	};
+	for (const FBlueprintProperty& Property : Model.Defaults.Parts)
+	{
+		AddIfComponent(Property.Id, Property.Type);
+	}
 	for (const FBlueprintGraph& Graph : Model.Graphs)
 	{
 		for (const FBlueprintNode& Node : Graph.Nodes)
 		{
 			const FBlueprintPin* const Output = IsNodeType(Node, "var.get") ? Node.FindOutput(LastSegment(Node.Type, '.')) : nullptr;
-			const std::string_view Type = Output ? std::string_view(Output->Type) : std::string_view();
-			if (StartsWith(Type, "object.") && Type.find("Component") != std::string_view::npos)
+			if (Output)
 			{
-				Components.push_back({Output->Id, std::string(LastSegment(Type, '.'))});
+				AddIfComponent(Output->Id, Output->Type);
 			}
 		}
 	}

@@ -314,7 +314,7 @@ private:
 
 	void TellSet(FEditSession& Session, const std::string& Path, const std::string& OldValue) const
 	{
-		// The export leaves out what the parent class has too, and the components' own properties.
+		// The export leaves out what the parent class, or a component's own class, has too.
 		const FBlueprintProperty* const Now = FindDefault(Session.Editor.Blueprint(), Path);
 		const std::string NewValue = Now ? ShownValue(Now->Value, Now->Type) : JoinWords(Value);
 		const std::string Property = Path.substr(std::string_view(DefaultObject).size() + 1);
