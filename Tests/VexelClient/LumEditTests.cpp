@@ -289,6 +289,25 @@ TEST_F(FLumDefaultsTest, ElementReachesTheSameElementAndContainersTheSameContain
 	EXPECT_EQ("(5,30)", Read(*Actor, TEXT("Stops")));
 }
 
+TEST_F(FLumDefaultsTest, OnlyWhatTookAPartOfADefaultHasSomethingToSave)
+{
+	UPackage* const Package = Child->GetPackage();
+	Package->SetDirtyFlag(false);
+	EXPECT_EQ("ok", Import(TEXT("$ClassDefaultObject.Health"), TEXT("50")));
+	EXPECT_EQ("50", OfChild(TEXT("Health")));
+	EXPECT_FALSE(Package->IsDirty());
+	EXPECT_TRUE(Blueprint->GetPackage()->IsDirty());
+
+	UObject* const Defaults = Child->GeneratedClass->GetDefaultObject();
+	const FProperty* const Stops = Defaults->GetClass()->FindPropertyByName(TEXT("Stops"));
+	ASSERT_NE(nullptr, Stops->ImportText_InContainer(TEXT("(5,2)"), Defaults, Defaults, PPF_None));
+	EXPECT_EQ("ok", Import(TEXT("$ClassDefaultObject.Stops.1"), TEXT("20")));
+	EXPECT_EQ("(5,20)", OfChild(TEXT("Stops")));
+	EXPECT_TRUE(Package->IsDirty());
+	EXPECT_EQ("ok", Import(TEXT("$ClassDefaultObject.Health"), TEXT("60")));
+	EXPECT_TRUE(Package->IsDirty()) << "what was to be saved still is";
+}
+
 TEST_F(FLumDefaultsTest, UndoTakesTheDefaultBackEverywhere)
 {
 	{
