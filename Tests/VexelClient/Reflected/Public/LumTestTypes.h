@@ -91,6 +91,23 @@ public:
 	TObjectPtr<ULumPart> Next = nullptr;
 };
 
+/** Makes a part of its own when it is made, as an actor of native code makes its components. */
+UCLASS()
+class ULumWhole : public UObject
+{
+	GENERATED_BODY()
+
+public:
+	ULumWhole(const FObjectInitializer& ObjectInitializer = FObjectInitializer::Get())
+		: Super(ObjectInitializer)
+	{
+		OwnPart = ObjectInitializer.CreateDefaultSubobject<ULumPart>(this, TEXT("OwnPart0"));
+	}
+
+	UPROPERTY(VisibleAnywhere)
+	TObjectPtr<ULumPart> OwnPart;
+};
+
 UINTERFACE()
 class ULumTalker : public UInterface
 {
