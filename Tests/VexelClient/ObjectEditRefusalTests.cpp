@@ -27,7 +27,7 @@ const FRefusedValue RefusedValues[] = {
 	{"StructOfAComponent", "$ClassDefaultObject.Arm.RelativeLocation", "(X=far)", "(X=7)"},
 	{"Component", "$ClassDefaultObject.Arm", "ref|None", nullptr},
 	{"Container", "$ClassDefaultObject.Stops", "(7)", nullptr},
-	{"Element", "$ClassDefaultObject.Stops.0", "far", nullptr},
+	{"Element", "$ClassDefaultObject.Stops.0", "far", "7"},
 	{"NameOfAGraph", "Heal/.name", "", "Cure"},
 	{"NameOfAnEvent", "EventGraph/Hurt_0.name", "a.b", "Harm"},
 	{"LocalVariable", "Heal/.local@Left", "some", "7"},

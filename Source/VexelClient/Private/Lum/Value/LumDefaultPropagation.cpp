@@ -121,6 +121,12 @@ void TakeNew(UObject& Instance, const FProperty& Property, const FValues& Values
 		NewObject<UObject>(&Instance, Part->GetClass(), bNameIsFree ? Part->GetFName() : FName(),
 			Instance.GetMaskedFlags(RF_PropagateToSubObjects), Part));
 }
+
+/** Until it is collected, the default object of a class as it was before a compile has the archetype too, but not its layout. */
+bool IsCurrent(const UObject& Instance)
+{
+	return IsValid(&Instance) && !Instance.GetClass()->HasAnyClassFlags(CLASS_NewerVersionExists);
+}
 }
 
 void LumDefaultPropagation::Propagate(
@@ -132,7 +138,7 @@ void LumDefaultPropagation::Propagate(
 	const void* const NewValue = Place.Resolve();
 	for (UObject* const Instance : Instances)
 	{
-		void* const InstanceValue = Place.ResolveIn(Instance);
+		void* const InstanceValue = IsCurrent(*Instance) ? Place.ResolveIn(Instance) : nullptr;
 		if (!NewValue || !InstanceValue)
 		{
 			continue;
