@@ -47,6 +47,9 @@ TEST_F(Value, OfAPinIsReadSetAndSaved)
 {
 	const nlohmann::json Graph = nlohmann::json::parse(Run({"get", "BP_Door:EventGraph/"}), nullptr, false);
 	ASSERT_TRUE(Graph.is_object());
+	const nlohmann::json Whole =
+		nlohmann::json::parse(Run({"tool", "read_blueprint", "--input", R"({"blueprint": "/Game/BP_Door.BP_Door"})"}), nullptr, false);
+	EXPECT_THAT(Whole["graphs"], testing::Contains(Graph)) << "a node has one id, whatever is read";
 	std::string Node;
 	for (const nlohmann::json& Candidate : Graph["nodes"])
 	{

@@ -52,27 +52,8 @@ TVexelExpected<UEdGraph*> FindGraph(UBlueprint& Blueprint, const FString& Name)
 	return *Graph;
 }
 
-/** Gives all nodes of the Blueprint the ids that an export of it gives them. */
-void NameNodes(const UBlueprint& Blueprint, FVexelBlueprintMapping& Mapping)
+TVexelExpected<UEdGraphNode*> FindNode(const UEdGraph& Graph, const FString& Name, FVexelBlueprintMapping& Mapping)
 {
-	TArray<UEdGraph*> Graphs;
-	Blueprint.GetAllGraphs(Graphs);
-	for (const UEdGraph* const Graph : Graphs)
-	{
-		for (int32 Index = 0; Graph && Index < Graph->Nodes.Num(); ++Index)
-		{
-			if (Graph->Nodes[Index])
-			{
-				Mapping.MakeNodeReference(*Graph->Nodes[Index], true);
-			}
-		}
-	}
-}
-
-TVexelExpected<UEdGraphNode*> FindNode(
-	const UBlueprint& Blueprint, const UEdGraph& Graph, const FString& Name, FVexelBlueprintMapping& Mapping)
-{
-	NameNodes(Blueprint, Mapping);
 	UEdGraphNode* Node = nullptr;
 	if (Mapping.ResolveNodeInGraph(TVexelNodeId(Name), Graph, Node))
 	{
@@ -87,19 +68,25 @@ TVexelExpected<UEdGraphNode*> FindNode(
 	return Named->Get();
 }
 
-TVexelExpected<TSharedRef<ILumCompound>> FindCompound(
-	UBlueprint& Blueprint, const FAddressParts& Parts, FVexelBlueprintMapping& Mapping)
+/** Gives the nodes of the Blueprint their ids by having it exported, which names them in an order of its own. */
+void NameNodes(UBlueprint& Blueprint, const FLumContext& Context)
+{
+	static_cast<void>(ILumCompound::Create(Blueprint)->JsonExportObject(Context));
+}
+
+TVexelExpected<TSharedRef<ILumCompound>> FindCompound(UBlueprint& Blueprint, const FAddressParts& Parts, const FLumContext& Context)
 {
 	if (!Parts.bHasGraph)
 	{
 		return ILumCompound::Create(Blueprint);
 	}
 	VEXEL_TRY(UEdGraph* const Graph, FindGraph(Blueprint, Parts.Graph));
+	NameNodes(Blueprint, Context);
 	if (Parts.Node.IsEmpty())
 	{
 		return StaticCastSharedRef<ILumCompound>(MakeShared<FLumGraphCompound>(*Graph));
 	}
-	VEXEL_TRY(UEdGraphNode* const Node, FindNode(Blueprint, *Graph, Parts.Node, Mapping));
+	VEXEL_TRY(UEdGraphNode* const Node, FindNode(*Graph, Parts.Node, Context.GetMapping()));
 	return StaticCastSharedRef<ILumCompound>(FLumNodeCompound::Create(*Node));
 }
 
@@ -123,7 +110,7 @@ TVexelExpected<FLumAddress> FLumAddress::Find(UBlueprint& Blueprint, const FStri
 {
 	const FAddressParts Parts(Text);
 	FLumAddress Address(MakeShared<FLumContext>(MakeShared<FVexelBlueprintMapping>()));
-	VEXEL_TRY(const TSharedRef<ILumCompound> Compound, FindCompound(Blueprint, Parts, Address.Context->GetMapping()));
+	VEXEL_TRY(const TSharedRef<ILumCompound> Compound, FindCompound(Blueprint, Parts, *Address.Context));
 	Address.Compound = Compound;
 	FString Scope;
 	FString Name;
