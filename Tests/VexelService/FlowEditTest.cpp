@@ -174,6 +174,7 @@ TEST_F(FlowEdit, AFunctionIsMadeWithItsSteps)
 	EXPECT_THAT(Gate.ListLinks("Lock"), ElementsAre("Lock.then > bLocked.execute", "bLocked.then > PrintString.execute"));
 	EXPECT_THAT(Answer, HasSubstr("The function **Lock** is new."));
 	EXPECT_THAT(Ask("add a function Lock that prints \"Again\""), HasSubstr("has a function or event called **Lock** already"));
+	EXPECT_THAT(Editor.Ask("Add a function Unlock to /Game/BP_Gate that sets bLocked to false"), HasSubstr("The function **Unlock** is new."));
 }
 
 TEST_F(FlowEdit, WhatIsNotKnownIsAskedAndNothingIsChanged)

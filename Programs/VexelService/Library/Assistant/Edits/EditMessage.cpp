@@ -99,7 +99,8 @@ private:
 		const bool bOfThing = Before > 0 &&
 			IsAt(Before - 1, "instance|actor|copy|class|kind|type|array|list|set|map|reference|subclass|object|objects");
 		const bool bOf = IsAt(Before, "of") && !bOfThing;
-		const bool bToward = bEnds && IsAt(Before, "to|from|on|for|by") && IsBlueprintName(Mention.Name) && !FollowsCast(Before);
+		const bool bEndsClause = bEnds || IsAt(Mention.End, "that|which");
+		const bool bToward = bEndsClause && IsAt(Before, "to|from|on|for|by") && IsBlueprintName(Mention.Name) && !FollowsCast(Before);
 		if (!bOpens && !bWithin && !bOf && !bToward)
 		{
 			return std::nullopt;
