@@ -33,7 +33,15 @@ void FToolTest::SetUp()
 {
 	FEditorTest::SetUp();
 	ASSERT_TRUE(bModuleWanted);
-	fs::copy(GetSampleFolder(), GetProjectFolder(), fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+	for (const fs::directory_entry& Entry : fs::directory_iterator(GetSampleFolder()))
+	{
+		// Programs that use the sample itself may be writing what they save.
+		if (Entry.path().filename() != "Saved")
+		{
+			fs::copy(Entry.path(), GetProjectFolder() / Entry.path().filename(),
+				fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+		}
+	}
 	OpenProject("Lighthouse.uproject");
 }
 
