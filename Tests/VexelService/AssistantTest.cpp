@@ -92,6 +92,17 @@ TEST_F(Assistant, UsesOfAnAssetAreFoundThroughItsReferencers)
 	EXPECT_THAT(Editor.GetCalls(), Not(Contains(HasSubstr("BP_Enemy")))) << "what cannot refer to it is not read";
 }
 
+TEST_F(Assistant, UsesAreFoundInAProjectWhoseBlueprintsAreMoreThanOneListHolds)
+{
+	Editor.SetTool("search_assets", [](const FJson& Arguments) -> FJson
+		{
+			const FJson Door = {{"path", "/Game/Doors/BP_Door.BP_Door"}, {"name", "BP_Door"}, {"class", "Blueprint"}};
+			const FJson Player = {{"path", "/Game/BP_Player.BP_Player"}, {"name", "BP_Player"}, {"class", "Blueprint"}};
+			const bool bByName = Arguments.value("query", "") == "BP_Player";
+			return {{"total", bByName ? 1 : 5000}, {"offset", 0}, {"assets", FJson::array({bByName ? Player : Door})}}; });
+	EXPECT_THAT(Editor.Ask("What uses /Game/Doors/BP_Door?"), AllOf(HasSubstr("  - In EventGraph, the step \"calls Open\"\n"), HasSubstr("- **L_Harbor** (`/Game/L_Harbor`) refers to it\n")));
+}
+
 TEST_F(Assistant, TheProjectIsToldWithWhatItHas)
 {
 	EXPECT_THAT(Editor.Ask("What does this project contain?"),

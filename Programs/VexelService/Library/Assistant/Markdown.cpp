@@ -1,5 +1,7 @@
 #include "Assistant/Markdown.h"
 
+#include "Assistant/Words.h"
+
 #include <algorithm>
 
 namespace VexelService
@@ -28,6 +30,16 @@ std::string CodeBlock(std::string_view Text, std::string_view Language)
 	const std::string Fence(Longest + 1, '`');
 	std::string Block = Fence + std::string(Language) + "\n" + std::string(Text);
 	return Block + (Text.empty() || Text.back() != '\n' ? "\n" : "") + Fence + "\n";
+}
+
+std::string BulletList(const std::vector<std::string>& Items, std::size_t Most)
+{
+	std::string Text;
+	for (std::size_t Index = 0; Index < std::min(Items.size(), Most); ++Index)
+	{
+		Text += "- " + Items[Index] + "\n";
+	}
+	return Items.size() > Most ? Text + "- and " + CountOf(Items.size() - Most, "other") + "\n" : Text;
 }
 
 }

@@ -1,7 +1,9 @@
 #include "Assistant/ProjectReader.h"
 
+#include "Assistant/AssetFinder.h"
 #include "Assistant/Words.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace VexelService
@@ -12,9 +14,20 @@ namespace
 
 constexpr std::size_t MaxShownErrorBytes = 1000;
 
+constexpr const char* BlueprintClass = "Blueprint";
+/** As many as the editor lists at once. */
+constexpr std::size_t MaxListedAssets = 200;
+
 FAssetRow ReadRow(const FJson& Object)
 {
 	return {TextMember(Object, "path"), TextMember(Object, "name"), TextMember(Object, "class"), TextMember(Object, "parent_class")};
+}
+
+const FAssetRow* FindRow(const FAssetList& List, const std::string& Package)
+{
+	const auto Found = std::find_if(List.Rows.begin(), List.Rows.end(), [&Package](const FAssetRow& Row)
+		{ return PackageOf(Row.Path) == Package; });
+	return Found == List.Rows.end() ? nullptr : &*Found;
 }
 
 }
@@ -111,6 +124,34 @@ std::optional<FAssetList> FProjectReader::SearchAssets(const FAssetQuery& Query)
 	const FJson* const Total = FindMember(*Reply, "total");
 	List.Total = Total && Total->is_number_unsigned() ? Total->get<std::size_t>() : List.Rows.size();
 	return List;
+}
+
+std::optional<std::vector<FAssetRow>> FProjectReader::FindBlueprints(const std::vector<std::string>& Packages, std::size_t Most)
+{
+	const std::optional<FAssetList> All = SearchAssets({.Words = {}, .Class = BlueprintClass, .Limit = MaxListedAssets});
+	if (!All)
+	{
+		return std::nullopt;
+	}
+	// A large project has more than one answer lists; those are looked for by their names.
+	std::size_t NumSearches = All->Total > All->Rows.size() ? Most : 0;
+	std::vector<FAssetRow> Found;
+	for (std::size_t Index = 0; Index < Packages.size() && Found.size() < Most; ++Index)
+	{
+		std::optional<FAssetList> Named;
+		const FAssetRow* Row = FindRow(*All, Packages[Index]);
+		if (!Row && NumSearches > 0)
+		{
+			--NumSearches;
+			Named = SearchAssets({.Words = ShortName(Packages[Index]), .Class = BlueprintClass});
+			Row = Named ? FindRow(*Named, Packages[Index]) : nullptr;
+		}
+		if (Row)
+		{
+			Found.push_back(*Row);
+		}
+	}
+	return Found;
 }
 
 std::optional<FJson> FProjectReader::ReadAssetInfo(const std::string& Path)

@@ -6,7 +6,6 @@
 #include "Assistant/Words.h"
 
 #include <algorithm>
-#include <set>
 
 namespace VexelService
 {
@@ -16,25 +15,7 @@ namespace
 
 /** A project may have thousands of Blueprints; nobody waits for an answer that reads them all. */
 constexpr std::size_t MaxReadBlueprints = 40;
-constexpr std::size_t MaxListedBlueprints = 200;
 constexpr std::size_t MaxUsesOfBlueprint = 20;
-
-std::vector<std::string> FindReferencers(const FJson& Info)
-{
-	std::vector<std::string> Packages;
-	const FJson* const Member = FindMember(Info, "referencers");
-	for (const char* const Strength : {"hard", "soft"})
-	{
-		for (const FJson& Item : Member ? ArrayMember(*Member, Strength) : FJson::array())
-		{
-			if (Item.is_string() && std::find(Packages.begin(), Packages.end(), Item.get<std::string>()) == Packages.end())
-			{
-				Packages.push_back(Item.get<std::string>());
-			}
-		}
-	}
-	return Packages;
-}
 
 std::string TellUses(const std::string& Heading, const std::vector<std::string>& Uses)
 {
@@ -105,7 +86,7 @@ void FUsageAnswer::TellUsesOfAsset(const std::string& Said)
 		Channel.Say("Nothing in the project refers to " + Bold(Asset->Name) + ".\n");
 		return;
 	}
-	const std::optional<std::vector<FAssetRow>> Blueprints = FindBlueprints(Referencers);
+	const std::optional<std::vector<FAssetRow>> Blueprints = Reader.FindBlueprints(Referencers, MaxReadBlueprints);
 	if (!Blueprints)
 	{
 		Assets.SayFailure("search the project");
@@ -183,25 +164,6 @@ void FUsageAnswer::TellUsesOfMember(const std::string& Said)
 	Channel.Say(Unread > 0 ? Text + "\nI read " + CountOf(Models.size(), "Blueprint") + " and left out " + CountOf(Unread, "other") +
 				"; name one to ask about it.\n"
 						   : Text);
-}
-
-std::optional<std::vector<FAssetRow>> FUsageAnswer::FindBlueprints(const std::vector<std::string>& Packages)
-{
-	const std::optional<FAssetList> List = Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxListedBlueprints});
-	if (!List)
-	{
-		return std::nullopt;
-	}
-	const std::set<std::string> Wanted(Packages.begin(), Packages.end());
-	std::vector<FAssetRow> Found;
-	for (const FAssetRow& Row : List->Rows)
-	{
-		if (Wanted.count(PackageOf(Row.Path)) > 0 && Found.size() < MaxReadBlueprints)
-		{
-			Found.push_back(Row);
-		}
-	}
-	return Found;
 }
 
 }

@@ -94,6 +94,23 @@ std::vector<std::string> MemberNames(const FBlueprintModel& Model)
 	return Names;
 }
 
+std::vector<std::string> FindReferencers(const FJson& Info)
+{
+	std::vector<std::string> Packages;
+	const FJson* const Member = FindMember(Info, "referencers");
+	for (const char* const Strength : {"hard", "soft"})
+	{
+		for (const FJson& Item : Member ? ArrayMember(*Member, Strength) : FJson::array())
+		{
+			if (Item.is_string() && std::find(Packages.begin(), Packages.end(), Item.get<std::string>()) == Packages.end())
+			{
+				Packages.push_back(Item.get<std::string>());
+			}
+		}
+	}
+	return Packages;
+}
+
 std::vector<std::string> FindMentions(const FBlueprintModel& Model, std::string_view Name)
 {
 	std::vector<std::string> Mentions;

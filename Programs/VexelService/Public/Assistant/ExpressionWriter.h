@@ -55,7 +55,6 @@ public:
 	std::string FunctionTitle(const FBlueprintNode& Node) const;
 
 	const FBlueprintGraph& GetGraph() const { return Graph; }
-	const FBlueprintModel& GetModel() const { return Model; }
 
 	using FOutputRule = FExpression (FExpressionWriter::*)(const FBlueprintNode&, const FBlueprintPin&);
 

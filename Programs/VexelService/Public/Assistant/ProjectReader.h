@@ -55,6 +55,9 @@ public:
 
 	std::optional<FAssetList> SearchAssets(const FAssetQuery& Query);
 
+	/** Those of some packages that are Blueprints, in the packages' order, and no more than the most. */
+	std::optional<std::vector<FAssetRow>> FindBlueprints(const std::vector<std::string>& Packages, std::size_t Most);
+
 	/** What the tool answers about one asset, by path. */
 	std::optional<FJson> ReadAssetInfo(const std::string& Path);
 

@@ -25,9 +25,6 @@ public:
 	void TellUsesOfMember(const std::string& Said);
 
 private:
-	/** Those of some packages that are Blueprints, as many as are read for one answer. */
-	std::optional<std::vector<FAssetRow>> FindBlueprints(const std::vector<std::string>& Packages);
-
 	IAssistantChannel& Channel;
 	FProjectReader& Reader;
 	FAssetFinder& Assets;

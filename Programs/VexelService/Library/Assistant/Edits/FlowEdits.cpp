@@ -6,6 +6,7 @@
 #include "Assistant/Edits/FlowPlanner.h"
 #include "Assistant/Edits/FlowRequest.h"
 #include "Assistant/Edits/Recipes.h"
+#include "Assistant/Markdown.h"
 #include "Assistant/NodeTitles.h"
 #include "Assistant/Words.h"
 

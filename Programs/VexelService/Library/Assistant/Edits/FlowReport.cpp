@@ -1,6 +1,7 @@
 #include "Assistant/Edits/FlowReport.h"
 
 #include "Assistant/AssetFinder.h"
+#include "Assistant/Markdown.h"
 #include "Assistant/Words.h"
 
 #include <algorithm>
@@ -13,7 +14,6 @@ namespace VexelService
 namespace
 {
 
-constexpr std::size_t MaxShown = 20;
 constexpr std::size_t MaxMessageBytes = 400;
 
 /** What a compiler's message is about, by its telling words, and what to do about it. */
@@ -88,16 +88,6 @@ std::string PlainError(const std::string& Error)
 		Plain.erase(At, Repeated.size());
 	}
 	return OneLine(std::move(Plain));
-}
-
-std::string BulletList(const std::vector<std::string>& Items)
-{
-	std::string Text;
-	for (std::size_t Index = 0; Index < std::min(Items.size(), MaxShown); ++Index)
-	{
-		Text += "- " + Items[Index] + "\n";
-	}
-	return Items.size() > MaxShown ? Text + "- and " + std::to_string(Items.size() - MaxShown) + " more\n" : Text;
 }
 
 std::string DescribeCompile(const FCompileOutcome& Outcome, const std::string& Blueprint)

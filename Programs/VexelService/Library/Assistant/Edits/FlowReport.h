@@ -12,9 +12,6 @@ namespace VexelService
 /** An editor's error in its own words, without what they repeat. */
 std::string PlainError(const std::string& Error);
 
-/** A list in Markdown; empty for none. */
-std::string BulletList(const std::vector<std::string>& Items);
-
 /** What the compiler says, in words and with what to do about it; or why the editor did not compile. */
 std::string DescribeCompile(const FCompileOutcome& Outcome, const std::string& Blueprint);
 

@@ -22,7 +22,6 @@ constexpr std::size_t MaxShownMessages = 10;
 constexpr std::size_t MaxShownUses = 10;
 constexpr std::size_t MaxShownValue = 200;
 constexpr std::size_t MaxOtherUsers = 20;
-constexpr std::size_t MaxListedBlueprints = 200;
 
 struct FExplanation
 {
@@ -56,14 +55,10 @@ std::string CoreOfError(const std::string& Error)
 	return Error.substr(Begin, Error.find(", while ", Begin) - Begin);
 }
 
-std::string TellUses(const FBlueprintModel& Model, const std::string& Name, const std::vector<std::string>& Uses)
+std::string TellUses(const FBlueprintModel& Model, const std::string& Name, std::vector<std::string> Uses)
 {
-	std::string Text = Bold(Name) + " is used in " + CountOf(Uses.size(), "place") + " of " + Bold(Model.Name) + ":\n\n";
-	for (std::size_t Index = 0; Index < std::min(Uses.size(), MaxShownUses); ++Index)
-	{
-		Text += "- " + UpperFirst(Uses[Index]) + "\n";
-	}
-	return Uses.size() > MaxShownUses ? Text + "- and " + CountOf(Uses.size() - MaxShownUses, "other") + "\n" : Text;
+	std::transform(Uses.begin(), Uses.end(), Uses.begin(), &UpperFirst);
+	return Bold(Name) + " is used in " + CountOf(Uses.size(), "place") + " of " + Bold(Model.Name) + ":\n\n" + BulletList(Uses, MaxShownUses);
 }
 
 /** Blueprints that refer to this one, and use a member of that name which is none of their own. */
@@ -71,15 +66,12 @@ std::vector<const FBlueprintModel*> FindOtherUsers(FEditSession& Session, const 
 {
 	FProjectReader& Reader = Session.Editor.GetReader();
 	const std::optional<FJson> Info = Reader.ReadAssetInfo(PackageOf(Session.Editor.GetPath()));
-	const FJson* const Referencers = Info ? FindMember(*Info, "referencers") : nullptr;
-	const FJson Packages = Referencers ? ArrayMember(*Referencers, "hard") : FJson::array();
-	const std::optional<FAssetList> List =
-		Packages.empty() ? std::nullopt : Reader.SearchAssets({.Words = {}, .Class = "Blueprint", .Limit = MaxListedBlueprints});
+	const std::vector<std::string> Packages = Info ? FindReferencers(*Info) : std::vector<std::string>();
+	const std::optional<std::vector<FAssetRow>> Rows = Packages.empty() ? std::nullopt : Reader.FindBlueprints(Packages, MaxOtherUsers);
 	std::vector<const FBlueprintModel*> Users;
-	for (const FAssetRow& Row : List ? List->Rows : std::vector<FAssetRow>())
+	for (const FAssetRow& Row : Rows.value_or(std::vector<FAssetRow>()))
 	{
-		const bool bRefers = std::find(Packages.begin(), Packages.end(), PackageOf(Row.Path)) != Packages.end();
-		const FBlueprintModel* const Model = bRefers && Users.size() < MaxOtherUsers ? Reader.ReadBlueprint(Row.Path) : nullptr;
+		const FBlueprintModel* const Model = Reader.ReadBlueprint(Row.Path);
 		const std::vector<std::string> Own = Model ? MemberNames(*Model) : std::vector<std::string>();
 		const bool bOwn = std::any_of(Own.begin(), Own.end(), [&Name](const std::string& Member)
 			{ return SameName(Member, Name); });
@@ -95,15 +87,9 @@ std::vector<const FBlueprintModel*> FindOtherUsers(FEditSession& Session, const 
 
 void TellWarnings(FEditSession& Session, const FEditOutcome& Outcome)
 {
-	std::string Text;
-	for (std::size_t Index = 0; Index < std::min(Outcome.Warnings.size(), MaxShownMessages); ++Index)
+	if (!Outcome.Warnings.empty())
 	{
-		Text += "- " + Outcome.Warnings[Index] + "\n";
-	}
-	if (!Text.empty())
-	{
-		const std::size_t Rest = Outcome.Warnings.size() - std::min(Outcome.Warnings.size(), MaxShownMessages);
-		Session.Say("It has an effect on wires:\n\n" + Text + (Rest > 0 ? "- and " + CountOf(Rest, "other") + "\n" : "") + "\n");
+		Session.Say("It has an effect on wires:\n\n" + BulletList(Outcome.Warnings, MaxShownMessages) + "\n");
 	}
 }
 
@@ -189,24 +175,6 @@ std::string DescribeVariable(const FBlueprintVariable& Variable)
 	const bool bHasValue = Variable.Type != "mcdelegate";
 	const std::string Text = TypeInWords(Variable.Type) + (bHasValue ? ", default " + ShownValue(Variable.Value, Variable.Type) : "");
 	return Variable.Category.empty() || Variable.Category == "Default" ? Text : Text + ", category " + Variable.Category;
-}
-
-std::shared_ptr<const IEdit> MakeEdit(std::function<void(FEditSession&)> Run)
-{
-	class FFunctionEdit final : public IEdit
-	{
-	public:
-		explicit FFunctionEdit(std::function<void(FEditSession&)> InRun)
-			: Function(std::move(InRun))
-		{
-		}
-
-		void Run(FEditSession& Session) const override { Function(Session); }
-
-	private:
-		const std::function<void(FEditSession&)> Function;
-	};
-	return std::make_shared<FFunctionEdit>(std::move(Run));
 }
 
 }

@@ -2,8 +2,6 @@
 
 #include "Assistant/Edits/EditRequest.h"
 
-#include <functional>
-#include <memory>
 #include <string>
 #include <vector>
 
@@ -33,8 +31,5 @@ std::string DescribeVariable(const FBlueprintVariable& Variable);
 
 /** "no elements", "Coin and Key", "100": a value as a sentence has it. */
 std::string ShownValue(const std::string& Value, const std::string& TypeId);
-
-/** An edit that is one function. */
-std::shared_ptr<const IEdit> MakeEdit(std::function<void(FEditSession&)> Run);
 
 }
