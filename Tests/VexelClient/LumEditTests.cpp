@@ -271,6 +271,22 @@ TEST_F(FLumDefaultsTest, DefaultReachesWhatStillHadTheOldOne)
 	EXPECT_EQ("7", Read(*Actor, TEXT("Health")));
 }
 
+TEST_F(FLumDefaultsTest, DefaultReachesNoObjectOfAClassAsItWasBeforeACompile)
+{
+	FKismetEditorUtilities::CompileBlueprint(Child);
+	TArray<UObject*> Instances;
+	Blueprint->GeneratedClass->GetDefaultObject()->GetArchetypeInstances(Instances);
+	const TArray<UObject*> Former = Instances.FilterByPredicate([](const UObject* Instance)
+		{ return Instance->GetClass()->HasAnyClassFlags(CLASS_NewerVersionExists); });
+	ASSERT_FALSE(Former.IsEmpty()) << "they are there until they are collected";
+	EXPECT_EQ("ok", Import(TEXT("$ClassDefaultObject.Health"), TEXT("7")));
+	EXPECT_EQ("7", OfChild(TEXT("Health")));
+	for (const UObject* const Object : Former)
+	{
+		EXPECT_EQ("100", Read(*Object, TEXT("Health"))) << "its memory may be of another layout";
+	}
+}
+
 TEST_F(FLumDefaultsTest, ElementReachesTheSameElementAndContainersTheSameContainer)
 {
 	EXPECT_EQ("ok", Import(TEXT("$ClassDefaultObject.Stops.1"), TEXT("20")));
