@@ -343,6 +343,7 @@ TEST_F(FObjectEditTest, ALinkThatCanBeConvertedIsKept)
 {
 	const FAnswer Retyped = Edit(OnBlueprint, "{'operation': 'edit_variable', 'scope': 'member', 'name': 'Health', 'value': {'type_id': 'real'}}");
 	EXPECT_FALSE(Retyped.GetValue()->HasField(TEXT("errors")));
+	EXPECT_FALSE(Retyped.GetValue()->HasField(TEXT("warnings"))) << "it goes on by way of a conversion";
 	const UK2Node_VariableSet* const Set = FindNodeOfClass<UK2Node_VariableSet>(EventGraph);
 	ASSERT_EQ(1, Set->FindPinChecked(TEXT("Health"))->LinkedTo.Num());
 	const UK2Node_CallFunction* const Conversion =

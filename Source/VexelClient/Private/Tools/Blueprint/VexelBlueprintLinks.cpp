@@ -21,6 +21,14 @@ bool Fits(const UEdGraphPin& Output, const UEdGraphPin& Input)
 	const UClass* const Class = Blueprint && Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass.Get() : nullptr;
 	return !Schema || Schema->ArePinsCompatible(&Output, &Input, Class);
 }
+
+/** Whether the values get there by way of one node, as an edit puts it into a link that needs a conversion. */
+bool IsConverted(const UEdGraphPin& Output, const UEdGraphPin& Input)
+{
+	return Output.LinkedTo.ContainsByPredicate([&Input](const UEdGraphPin* Next)
+		{ return Input.LinkedTo.ContainsByPredicate([Next](const UEdGraphPin* Last)
+			  { return Last->GetOwningNode() == Next->GetOwningNode(); }); });
+}
 }
 
 FVexelBlueprintLinks::FVexelBlueprintLinks(UBlueprint& Blueprint, FVexelBlueprintMapping& Mapping)
@@ -110,9 +118,13 @@ const TCHAR* FVexelBlueprintLinks::FindFault(const FLink& Link, const TSet<const
 {
 	const UEdGraphPin* const From = FindPin(Link.From, StandingNodes);
 	const UEdGraphPin* const To = FindPin(Link.To, StandingNodes);
-	if (!From || !To || !From->LinkedTo.Contains(To))
+	if (!From || !To)
 	{
 		return TEXT("is lost");
+	}
+	if (!From->LinkedTo.Contains(To))
+	{
+		return IsConverted(*From, *To) ? TEXT("") : TEXT("is lost");
 	}
 	return Link.bFits && !Fits(*From, *To) ? TEXT("does not fit any more") : TEXT("");
 }
