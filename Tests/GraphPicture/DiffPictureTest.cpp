@@ -111,6 +111,17 @@ TEST_F(DiffPicture, AValueThatChangedIsShownWithWhatItWas)
 	EXPECT_THAT(Draw(), ElementsAre("  ● Go", "~ └ Print String  In String: \"old\" → \"new\"  #: none → why"));
 }
 
+TEST_F(DiffPicture, LongValuesAreShownFromWhereTheyDiffer)
+{
+	UEdGraphNode* const Print = AddPrint(TEXT("x"));
+	const FString Long = FString::ChrN(300, TEXT('x'));
+	Print->FindPinChecked(TEXT("InString"))->DefaultValue = Long + TEXT("old");
+	Remember();
+	Print->FindPinChecked(TEXT("InString"))->DefaultValue = Long + TEXT("new");
+	const std::vector<std::string> Lines = Draw();
+	EXPECT_THAT(Lines, Contains(testing::HasSubstr("…xxxxxxxxxxxxxxxxxxxxold → …xxxxxxxxxxxxxxxxxxxxnew")));
+}
+
 TEST_F(DiffPicture, AChangeDeepInAnExpressionIsShownWhereTheValueGoes)
 {
 	UEdGraphNode* const Event = AddEvent(TEXT("Go"));

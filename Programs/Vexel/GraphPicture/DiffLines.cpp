@@ -11,6 +11,22 @@ FString Shorten(const FString& Value)
 	return Value.Len() > MaxValueLength ? Value.Left(MaxValueLength - 1) + TEXT("…") : Value;
 }
 
+/** Two long values without what they begin with alike, which would leave no room for where they differ. */
+void CutCommonBeginning(FString& Before, FString& After)
+{
+	constexpr int32 MaxKept = 20;
+	int32 NumAlike = 0;
+	while (NumAlike < FMath::Min(Before.Len(), After.Len()) && Before[NumAlike] == After[NumAlike])
+	{
+		++NumAlike;
+	}
+	if (FMath::Max(Before.Len(), After.Len()) > MaxValueLength && NumAlike > MaxKept)
+	{
+		Before = TEXT("…") + Before.RightChop(NumAlike - MaxKept);
+		After = TEXT("…") + After.RightChop(NumAlike - MaxKept);
+	}
+}
+
 /** A value beside the one that it was or became: a mark is "yes" or nothing. */
 FString ShowBeside(const FString& Value, const FString& Other)
 {
@@ -74,8 +90,9 @@ FTextStyle DiffText::GetNameStyle(EDifference Difference, bool bRenamed)
 	return Style;
 }
 
-void DiffText::AddValue(FStyledLine& Text, const FString& Name, const FString& Before, const FString& After)
+void DiffText::AddValue(FStyledLine& Text, const FString& Name, FString Before, FString After)
 {
+	CutCommonBeginning(Before, After);
 	Text.Add(TEXT("  ") + Name + TEXT(": "), TextStyle::Faint);
 	Text.Add(ShowBeside(Before, After), TextStyle::Bad);
 	Text.Add(TEXT(" → "), TextStyle::Faint);

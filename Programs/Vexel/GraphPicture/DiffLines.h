@@ -43,5 +43,5 @@ const TCHAR* GetSign(EDifference Difference);
 /** The style of a name: in the colour of what came or went, or has this name only now; always bold. */
 FTextStyle GetNameStyle(EDifference Difference, bool bRenamed = false);
 /** "  Name: before → after"; the one that there is where there is only one. */
-void AddValue(FStyledLine& Text, const FString& Name, const FString& Before, const FString& After);
+void AddValue(FStyledLine& Text, const FString& Name, FString Before, FString After);
 }
