@@ -461,8 +461,12 @@ private:
 	{
 		const bool bAny = Said.empty() || IsBackReference(Said) || SameName(Said, "graph") || SameName(Said, "event");
 		const FBlueprintModel* const Model = bAny ? nullptr : Reader.ReadBlueprint(Path);
+		if (!Model)
+		{
+			return;
+		}
 		std::vector<std::string> Names;
-		for (const FBlueprintGraph& Graph : Model ? Model->Graphs : std::vector<FBlueprintGraph>())
+		for (const FBlueprintGraph& Graph : Model->Graphs)
 		{
 			Names.push_back(Graph.Title());
 		}

@@ -98,8 +98,7 @@ std::vector<std::vector<FPlanLink>> SplitLinks(const FEditPlan& Plan)
 FEditRun::FEditRun(FProjectEditor& InEditor)
 	: Editor(InEditor)
 {
-	const FBlueprintModel* const Model = Editor.Model();
-	for (const FBlueprintGraph& Graph : Model ? Model->Graphs : std::vector<FBlueprintGraph>())
+	for (const FBlueprintGraph& Graph : Editor.Blueprint().Graphs)
 	{
 		std::set<std::string>& Ids = NodesBefore[Graph.Id];
 		for (const FBlueprintNode& Node : Graph.Nodes)
@@ -107,7 +106,7 @@ FEditRun::FEditRun(FProjectEditor& InEditor)
 			Ids.insert(Node.Id);
 		}
 	}
-	for (const FBlueprintVariable& Variable : Model ? Model->Variables : std::vector<FBlueprintVariable>())
+	for (const FBlueprintVariable& Variable : Editor.Blueprint().Variables)
 	{
 		VariablesBefore.insert(LowerCase(Variable.Id));
 	}
@@ -412,9 +411,8 @@ bool FEditRun::Compile(FRunOutcome& Outcome)
 bool FEditRun::TakeBack(const FEditPlan& Plan)
 {
 	bool bAll = true;
-	const FBlueprintModel* const Model = Editor.Model();
 	std::map<std::string, std::vector<std::string>> Made;
-	for (const FBlueprintGraph& Graph : Model ? Model->Graphs : std::vector<FBlueprintGraph>())
+	for (const FBlueprintGraph& Graph : Editor.Blueprint().Graphs)
 	{
 		const auto Before = NodesBefore.find(Graph.Id);
 		for (const FBlueprintNode& Node : Graph.Nodes)
@@ -438,7 +436,7 @@ bool FEditRun::TakeBack(const FEditPlan& Plan)
 		bAll = (NodesBefore.contains(Name) || !Editor.FindGraph(Name) || Editor.RemoveFunction(Name).IsComplete()) && bAll;
 	}
 	std::vector<std::string> NewVariables;
-	for (const FBlueprintVariable& Variable : Editor.Model() ? Editor.Model()->Variables : std::vector<FBlueprintVariable>())
+	for (const FBlueprintVariable& Variable : Editor.Blueprint().Variables)
 	{
 		if (!VariablesBefore.contains(LowerCase(Variable.Id)))
 		{
@@ -449,7 +447,7 @@ bool FEditRun::TakeBack(const FEditPlan& Plan)
 	{
 		bAll = Editor.RemoveVariable(Name, "member").IsComplete() && bAll;
 	}
-	return bAll && Model;
+	return bAll && Editor.Model();
 }
 
 }

@@ -149,9 +149,11 @@ std::vector<std::string> TellUsesBefore(FEditSession& Session, const std::string
 void TellWiresBefore(FEditSession& Session, const FEditTarget& Target, const std::string& Name)
 {
 	const FBlueprintGraph* const Graph = Session.Editor.FindGraph(Target.Graph);
+	const std::size_t NumNodes = Graph ? Graph->Nodes.size() : 0;
 	std::size_t NumWires = 0;
-	for (const FBlueprintNode& Node : Graph ? Graph->Nodes : std::vector<FBlueprintNode>())
+	for (std::size_t Index = 0; Index < NumNodes; ++Index)
 	{
+		const FBlueprintNode& Node = Graph->Nodes[Index];
 		const bool bEnd = IsNodeType(Node, "graph.entry") || IsNodeType(Node, "graph.return");
 		const FBlueprintPin* const Pin = (Target.Node.empty() ? bEnd : Node.Id == Target.Node) ? Node.FindPin(Name) : nullptr;
 		NumWires += Pin ? Pin->Links.size() : 0;

@@ -18,9 +18,12 @@ constexpr std::size_t MaxMessages = 500;
 std::set<std::string> NodeIds(const FBlueprintGraph* Graph)
 {
 	std::set<std::string> Ids;
-	for (const FBlueprintNode& Node : Graph ? Graph->Nodes : std::vector<FBlueprintNode>())
+	if (Graph)
 	{
-		Ids.insert(Node.Id);
+		for (const FBlueprintNode& Node : Graph->Nodes)
+		{
+			Ids.insert(Node.Id);
+		}
 	}
 	return Ids;
 }
