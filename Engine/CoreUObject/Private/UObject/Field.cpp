@@ -35,14 +35,17 @@ TMap<FName, FFieldClass*> MakeNameToFieldClassMap()
 const FString EmptyMetaDataValue;
 }
 
-FFieldClass::FFieldClass(const TCHAR* CppName, FFieldClass* InSuperClass, FConstructFunction InConstruct)
+FFieldClass::FFieldClass(
+	const TCHAR* CppName, uint64 InId, uint64 InCastFlags, FFieldClass* InSuperClass, FConstructFunction InConstruct)
 	: Name(CppName + 1)
+	, Id(InId)
+	, CastFlags(InCastFlags)
 	, SuperClass(InSuperClass)
 	, ConstructFunction(InConstruct)
 {
 }
 
-bool FFieldClass::IsChildOf(const FFieldClass* Other) const
+bool FFieldClass::IsChildOfByWalk(const FFieldClass* Other) const
 {
 	for (const FFieldClass* Class = this; Class; Class = Class->SuperClass)
 	{
@@ -154,7 +157,7 @@ UPackage* FFieldVariant::GetOutermost() const
 
 FFieldClass* FField::StaticClass()
 {
-	static FFieldClass FieldClass(TEXT("FField"), nullptr, nullptr);
+	static FFieldClass FieldClass(TEXT("FField"), StaticClassCastFlagsPrivate(), StaticClassCastFlags(), nullptr, nullptr);
 	return &FieldClass;
 }
 

@@ -10,7 +10,7 @@ class UScriptStruct;
 /** A value of a USTRUCT, native or made at run time. */
 class COREUOBJECT_API FStructProperty : public FProperty
 {
-	DECLARE_FIELD(FStructProperty, FProperty)
+	DECLARE_FIELD(FStructProperty, FProperty, CASTCLASS_FStructProperty)
 
 	UScriptStruct* Struct = nullptr;
 
@@ -47,7 +47,7 @@ protected:
 class COREUOBJECT_API FArrayProperty : public TProperty<FScriptArray, FProperty>
 {
 	using FBase = TProperty<FScriptArray, FProperty>;
-	DECLARE_FIELD(FArrayProperty, FBase)
+	DECLARE_FIELD(FArrayProperty, FBase, CASTCLASS_FArrayProperty)
 
 	/** Null only until AddCppProperty. */
 	FProperty* Inner = nullptr;
@@ -88,7 +88,7 @@ protected:
 class COREUOBJECT_API FSetProperty : public TProperty<FScriptSet, FProperty>
 {
 	using FBase = TProperty<FScriptSet, FProperty>;
-	DECLARE_FIELD(FSetProperty, FBase)
+	DECLARE_FIELD(FSetProperty, FBase, CASTCLASS_FSetProperty)
 
 	/** Owned. Null only until AddCppProperty. */
 	FProperty* ElementProp = nullptr;
@@ -130,7 +130,7 @@ protected:
 class COREUOBJECT_API FMapProperty : public TProperty<FScriptMap, FProperty>
 {
 	using FBase = TProperty<FScriptMap, FProperty>;
-	DECLARE_FIELD(FMapProperty, FBase)
+	DECLARE_FIELD(FMapProperty, FBase, CASTCLASS_FMapProperty)
 
 	/** Owned. Null only until AddCppProperty. */
 	FProperty* KeyProp = nullptr;

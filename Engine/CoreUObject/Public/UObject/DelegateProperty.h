@@ -8,7 +8,7 @@ class UFunction;
 class COREUOBJECT_API FDelegateProperty : public TProperty<FScriptDelegate, FProperty>
 {
 	using FBase = TProperty<FScriptDelegate, FProperty>;
-	DECLARE_FIELD(FDelegateProperty, FBase)
+	DECLARE_FIELD(FDelegateProperty, FBase, CASTCLASS_FDelegateProperty)
 
 	UFunction* SignatureFunction = nullptr;
 
@@ -32,7 +32,7 @@ protected:
 class COREUOBJECT_API FMulticastDelegateProperty : public TProperty<FMulticastScriptDelegate, FProperty>
 {
 	using FBase = TProperty<FMulticastScriptDelegate, FProperty>;
-	DECLARE_ABSTRACT_FIELD(FMulticastDelegateProperty, FBase)
+	DECLARE_ABSTRACT_FIELD(FMulticastDelegateProperty, FBase, CASTCLASS_FMulticastDelegateProperty)
 
 	UFunction* SignatureFunction = nullptr;
 
@@ -67,11 +67,11 @@ private:
 
 class COREUOBJECT_API FMulticastInlineDelegateProperty : public FMulticastDelegateProperty
 {
-	DECLARE_FIELD(FMulticastInlineDelegateProperty, FMulticastDelegateProperty)
+	DECLARE_FIELD(FMulticastInlineDelegateProperty, FMulticastDelegateProperty, CASTCLASS_FMulticastInlineDelegateProperty)
 };
 
 /** A delegate that native code stores sparsely; here its value is held inline, which scripts cannot tell apart. */
 class COREUOBJECT_API FMulticastSparseDelegateProperty : public FMulticastDelegateProperty
 {
-	DECLARE_FIELD(FMulticastSparseDelegateProperty, FMulticastDelegateProperty)
+	DECLARE_FIELD(FMulticastSparseDelegateProperty, FMulticastDelegateProperty, CASTCLASS_FMulticastSparseDelegateProperty)
 };

@@ -5,7 +5,7 @@
 /** An `enum class` value over an underlying number. Its text is the enumerator's short name. */
 class COREUOBJECT_API FEnumProperty : public FProperty
 {
-	DECLARE_FIELD(FEnumProperty, FProperty)
+	DECLARE_FIELD(FEnumProperty, FProperty, CASTCLASS_FEnumProperty)
 
 	~FEnumProperty() override;
 

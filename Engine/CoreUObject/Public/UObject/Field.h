@@ -18,13 +18,24 @@ class COREUOBJECT_API FFieldClass
 public:
 	using FConstructFunction = FField* (*)(const FFieldVariant& Owner, const FName& Name, EObjectFlags Flags);
 
-	/** CppName has the F prefix. Construct is null for an abstract class. */
-	FFieldClass(const TCHAR* CppName, FFieldClass* InSuperClass, FConstructFunction InConstruct);
+	/**
+	 * CppName has the F prefix. Id is the class's own cast flag, or 0; CastFlags are that flag and those of its supers. Construct is
+	 * null for an abstract class.
+	 */
+	FFieldClass(const TCHAR* CppName, uint64 InId, uint64 InCastFlags, FFieldClass* InSuperClass, FConstructFunction InConstruct);
 
 	FString GetName() const { return Name.ToString(); }
 	FName GetFName() const { return Name; }
 	FFieldClass* GetSuperClass() const { return SuperClass; }
-	bool IsChildOf(const FFieldClass* Other) const;
+	/** The class's own flag of EClassCastFlags; 0 for a class that has none. */
+	uint64 GetId() const { return Id; }
+	uint64 GetCastFlags() const { return CastFlags; }
+	bool HasAnyCastFlags(const uint64 InCastFlags) const { return (CastFlags & InCastFlags) != 0; }
+	bool HasAllCastFlags(const uint64 InCastFlags) const { return (CastFlags & InCastFlags) == InCastFlags; }
+	bool IsChildOf(const FFieldClass* Other) const
+	{
+		return Other && Other->Id ? HasAnyCastFlags(Other->Id) : IsChildOfByWalk(Other);
+	}
 	FText GetDisplayNameText() const;
 	FString GetDescription() const { return GetName(); }
 
@@ -35,7 +46,11 @@ public:
 	static const TMap<FName, FFieldClass*>& GetNameToFieldClassMap();
 
 private:
+	bool IsChildOfByWalk(const FFieldClass* Other) const;
+
 	FName Name;
+	uint64 Id;
+	uint64 CastFlags;
 	FFieldClass* SuperClass;
 	FConstructFunction ConstructFunction;
 };
@@ -88,26 +103,43 @@ private:
 	UObject* Object = nullptr;
 };
 
-#define DECLARE_FIELD_COMMON(TClass, TSuperClass) \
+/** TStaticFlags is the class's own flag of EClassCastFlags: CASTCLASS_None for a class that has none, which casts cost a walk then. */
+#define DECLARE_FIELD_COMMON(TClass, TSuperClass, TStaticFlags) \
 public: \
 	using Super = TSuperClass; \
 	using ThisClass = TClass; \
 	static FFieldClass* StaticClass(); \
-	FFieldClass* GetClass() const override { return StaticClass(); }
+	static constexpr uint64 StaticClassCastFlagsPrivate() \
+	{ \
+		return uint64(TStaticFlags); \
+	} \
+	static constexpr uint64 StaticClassCastFlags() \
+	{ \
+		return uint64(TStaticFlags) | Super::StaticClassCastFlags(); \
+	} \
+	FFieldClass* GetClass() const override \
+	{ \
+		return StaticClass(); \
+	} \
+	uint64 GetCastFlags() const override \
+	{ \
+		return StaticClassCastFlags(); \
+	}
 
-#define DECLARE_FIELD(TClass, TSuperClass) \
-	DECLARE_FIELD_COMMON(TClass, TSuperClass) \
+#define DECLARE_FIELD(TClass, TSuperClass, TStaticFlags) \
+	DECLARE_FIELD_COMMON(TClass, TSuperClass, TStaticFlags) \
 	using Super::Super; \
 	static FField* Construct(const FFieldVariant& InOwner, const FName& InName, EObjectFlags InFlags);
 
-#define DECLARE_ABSTRACT_FIELD(TClass, TSuperClass) \
-	DECLARE_FIELD_COMMON(TClass, TSuperClass) \
+#define DECLARE_ABSTRACT_FIELD(TClass, TSuperClass, TStaticFlags) \
+	DECLARE_FIELD_COMMON(TClass, TSuperClass, TStaticFlags) \
 	using Super::Super;
 
 #define IMPLEMENT_FIELD_CLASS(TClass, ConstructFunction) \
 	FFieldClass* TClass::StaticClass() \
 	{ \
-		static FFieldClass FieldClass(TEXT(#TClass), Super::StaticClass(), ConstructFunction); \
+		static FFieldClass FieldClass( \
+			TEXT(#TClass), StaticClassCastFlagsPrivate(), StaticClassCastFlags(), Super::StaticClass(), ConstructFunction); \
 		return &FieldClass; \
 	}
 
@@ -129,6 +161,8 @@ class COREUOBJECT_API FField
 public:
 	using ThisClass = FField;
 	static FFieldClass* StaticClass();
+	static constexpr uint64 StaticClassCastFlagsPrivate() { return uint64(CASTCLASS_None); }
+	static constexpr uint64 StaticClassCastFlags() { return uint64(CASTCLASS_None); }
 
 	FFieldVariant Owner;
 	/** Next in the owner's chain, which the owner frees. */
@@ -142,6 +176,10 @@ public:
 	FField& operator=(const FField&) = delete;
 
 	virtual FFieldClass* GetClass() const;
+	/** Those of the class, told without it: what makes casts cheap. */
+	virtual uint64 GetCastFlags() const { return StaticClassCastFlags(); }
+	bool HasAnyCastFlags(const uint64 InCastFlags) const { return (GetCastFlags() & InCastFlags) != 0; }
+	bool HasAllCastFlags(const uint64 InCastFlags) const { return (GetCastFlags() & InCastFlags) == InCastFlags; }
 	/** The form in which a class definition stands in a package. */
 	virtual void Serialize(FArchive& Ar);
 	virtual void PostLoad() {}
@@ -174,7 +212,14 @@ public:
 	template <typename T>
 	bool IsA() const
 	{
-		return IsA(T::StaticClass());
+		if constexpr (T::StaticClassCastFlagsPrivate() != 0)
+		{
+			return HasAnyCastFlags(T::StaticClassCastFlagsPrivate());
+		}
+		else
+		{
+			return IsA(T::StaticClass());
+		}
 	}
 	FName GetID() const { return GetClass()->GetFName(); }
 	bool IsNative() const { return Owner.IsNative(); }
@@ -254,13 +299,13 @@ private:
 template <typename FieldType>
 FieldType* CastField(FField* Src)
 {
-	return Src && Src->IsA(FieldType::StaticClass()) ? static_cast<FieldType*>(Src) : nullptr;
+	return Src && Src->template IsA<FieldType>() ? static_cast<FieldType*>(Src) : nullptr;
 }
 
 template <typename FieldType>
 const FieldType* CastField(const FField* Src)
 {
-	return Src && Src->IsA(FieldType::StaticClass()) ? static_cast<const FieldType*>(Src) : nullptr;
+	return Src && Src->template IsA<FieldType>() ? static_cast<const FieldType*>(Src) : nullptr;
 }
 
 template <typename FieldType>

@@ -7,7 +7,7 @@
 class COREUOBJECT_API FFieldPathProperty : public TProperty_WithEqualityAndSerializer<FFieldPath, FProperty>
 {
 	using FBase = TProperty_WithEqualityAndSerializer<FFieldPath, FProperty>;
-	DECLARE_FIELD(FFieldPathProperty, FBase)
+	DECLARE_FIELD(FFieldPathProperty, FBase, CASTCLASS_FFieldPathProperty)
 
 	/** Class of the fields that values may point at. */
 	FFieldClass* PropertyClass = FField::StaticClass();

@@ -7,7 +7,7 @@ class UEnum;
 /** A number of any kind, or a byte with an enum. */
 class COREUOBJECT_API FNumericProperty : public FProperty
 {
-	DECLARE_ABSTRACT_FIELD(FNumericProperty, FProperty)
+	DECLARE_ABSTRACT_FIELD(FNumericProperty, FProperty, CASTCLASS_FNumericProperty)
 
 	bool IsEnum() const { return GetIntPropertyEnum() != nullptr; }
 	virtual bool IsFloatingPoint() const = 0;
@@ -65,53 +65,53 @@ protected:
 
 class COREUOBJECT_API FInt8Property : public TProperty_Numeric<int8>
 {
-	DECLARE_FIELD(FInt8Property, TProperty_Numeric<int8>)
+	DECLARE_FIELD(FInt8Property, TProperty_Numeric<int8>, CASTCLASS_FInt8Property)
 };
 
 class COREUOBJECT_API FInt16Property : public TProperty_Numeric<int16>
 {
-	DECLARE_FIELD(FInt16Property, TProperty_Numeric<int16>)
+	DECLARE_FIELD(FInt16Property, TProperty_Numeric<int16>, CASTCLASS_FInt16Property)
 };
 
 class COREUOBJECT_API FIntProperty : public TProperty_Numeric<int32>
 {
-	DECLARE_FIELD(FIntProperty, TProperty_Numeric<int32>)
+	DECLARE_FIELD(FIntProperty, TProperty_Numeric<int32>, CASTCLASS_FIntProperty)
 };
 
 class COREUOBJECT_API FInt64Property : public TProperty_Numeric<int64>
 {
-	DECLARE_FIELD(FInt64Property, TProperty_Numeric<int64>)
+	DECLARE_FIELD(FInt64Property, TProperty_Numeric<int64>, CASTCLASS_FInt64Property)
 };
 
 class COREUOBJECT_API FUInt16Property : public TProperty_Numeric<uint16>
 {
-	DECLARE_FIELD(FUInt16Property, TProperty_Numeric<uint16>)
+	DECLARE_FIELD(FUInt16Property, TProperty_Numeric<uint16>, CASTCLASS_FUInt16Property)
 };
 
 class COREUOBJECT_API FUInt32Property : public TProperty_Numeric<uint32>
 {
-	DECLARE_FIELD(FUInt32Property, TProperty_Numeric<uint32>)
+	DECLARE_FIELD(FUInt32Property, TProperty_Numeric<uint32>, CASTCLASS_FUInt32Property)
 };
 
 class COREUOBJECT_API FUInt64Property : public TProperty_Numeric<uint64>
 {
-	DECLARE_FIELD(FUInt64Property, TProperty_Numeric<uint64>)
+	DECLARE_FIELD(FUInt64Property, TProperty_Numeric<uint64>, CASTCLASS_FUInt64Property)
 };
 
 class COREUOBJECT_API FFloatProperty : public TProperty_Numeric<float>
 {
-	DECLARE_FIELD(FFloatProperty, TProperty_Numeric<float>)
+	DECLARE_FIELD(FFloatProperty, TProperty_Numeric<float>, CASTCLASS_FFloatProperty)
 };
 
 class COREUOBJECT_API FDoubleProperty : public TProperty_Numeric<double>
 {
-	DECLARE_FIELD(FDoubleProperty, TProperty_Numeric<double>)
+	DECLARE_FIELD(FDoubleProperty, TProperty_Numeric<double>, CASTCLASS_FDoubleProperty)
 };
 
 /** A byte, or a TEnumAsByte when Enum is set: then its text and its tagged form are the enumerator's name. */
 class COREUOBJECT_API FByteProperty : public TProperty_Numeric<uint8>
 {
-	DECLARE_FIELD(FByteProperty, TProperty_Numeric<uint8>)
+	DECLARE_FIELD(FByteProperty, TProperty_Numeric<uint8>, CASTCLASS_FByteProperty)
 
 	UEnum* Enum = nullptr;
 
@@ -135,7 +135,7 @@ protected:
 /** A native `bool`, or one bit of a byte. */
 class COREUOBJECT_API FBoolProperty : public FProperty
 {
-	DECLARE_FIELD(FBoolProperty, FProperty)
+	DECLARE_FIELD(FBoolProperty, FProperty, CASTCLASS_FBoolProperty)
 
 	/** BitMask is the bit's mask within its storage unit of InSize bytes; 0 with a native bool. */
 	void SetBoolSize(uint32 InSize, bool bIsNativeBool = false, uint32 InBitMask = 0);

@@ -11,7 +11,7 @@ class UClass;
 /** A reference to an object, strong or not. */
 class COREUOBJECT_API FObjectPropertyBase : public FProperty
 {
-	DECLARE_ABSTRACT_FIELD(FObjectPropertyBase, FProperty)
+	DECLARE_ABSTRACT_FIELD(FObjectPropertyBase, FProperty, CASTCLASS_FObjectPropertyBase)
 
 	/** The class that values must be of. */
 	UClass* PropertyClass = nullptr;
@@ -111,7 +111,7 @@ public:
 
 class COREUOBJECT_API FObjectProperty : public TFObjectPropertyBase<UObject*>
 {
-	DECLARE_FIELD(FObjectProperty, TFObjectPropertyBase<UObject*>)
+	DECLARE_FIELD(FObjectProperty, TFObjectPropertyBase<UObject*>, CASTCLASS_FObjectProperty)
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	void CollectReferences(void* Value, FReferenceCollector& Collector, const UObject* ReferencingObject) const override;
@@ -121,7 +121,7 @@ class COREUOBJECT_API FObjectProperty : public TFObjectPropertyBase<UObject*>
 
 class COREUOBJECT_API FClassProperty : public FObjectProperty
 {
-	DECLARE_FIELD(FClassProperty, FObjectProperty)
+	DECLARE_FIELD(FClassProperty, FObjectProperty, CASTCLASS_FClassProperty)
 
 	/** Values are classes below this one. */
 	UClass* MetaClass = nullptr;
@@ -141,14 +141,14 @@ protected:
 
 class COREUOBJECT_API FWeakObjectProperty : public TFObjectPropertyBase<FWeakObjectPtr>
 {
-	DECLARE_FIELD(FWeakObjectProperty, TFObjectPropertyBase<FWeakObjectPtr>)
+	DECLARE_FIELD(FWeakObjectProperty, TFObjectPropertyBase<FWeakObjectPtr>, CASTCLASS_FWeakObjectProperty)
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 };
 
 class COREUOBJECT_API FLazyObjectProperty : public TFObjectPropertyBase<FLazyObjectPtr>
 {
-	DECLARE_FIELD(FLazyObjectProperty, TFObjectPropertyBase<FLazyObjectPtr>)
+	DECLARE_FIELD(FLazyObjectProperty, TFObjectPropertyBase<FLazyObjectPtr>, CASTCLASS_FLazyObjectProperty)
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool Identical(const void* A, const void* B, uint32 PortFlags = 0) const override;
@@ -156,7 +156,7 @@ class COREUOBJECT_API FLazyObjectProperty : public TFObjectPropertyBase<FLazyObj
 
 class COREUOBJECT_API FSoftObjectProperty : public TFObjectPropertyBase<FSoftObjectPtr>
 {
-	DECLARE_FIELD(FSoftObjectProperty, TFObjectPropertyBase<FSoftObjectPtr>)
+	DECLARE_FIELD(FSoftObjectProperty, TFObjectPropertyBase<FSoftObjectPtr>, CASTCLASS_FSoftObjectProperty)
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	UObject* LoadObjectPropertyValue(const void* PropertyValueAddress) const override;
@@ -173,7 +173,7 @@ protected:
 
 class COREUOBJECT_API FSoftClassProperty : public FSoftObjectProperty
 {
-	DECLARE_FIELD(FSoftClassProperty, FSoftObjectProperty)
+	DECLARE_FIELD(FSoftClassProperty, FSoftObjectProperty, CASTCLASS_FSoftClassProperty)
 
 	UClass* MetaClass = nullptr;
 
@@ -193,7 +193,7 @@ protected:
 class COREUOBJECT_API FInterfaceProperty : public TProperty<FScriptInterface, FProperty>
 {
 	using FBase = TProperty<FScriptInterface, FProperty>;
-	DECLARE_FIELD(FInterfaceProperty, FBase)
+	DECLARE_FIELD(FInterfaceProperty, FBase, CASTCLASS_FInterfaceProperty)
 
 	UClass* InterfaceClass = nullptr;
 

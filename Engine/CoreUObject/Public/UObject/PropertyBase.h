@@ -56,7 +56,7 @@ FORCEINLINE T ReadPropertyMemory(const void* Address)
  */
 class COREUOBJECT_API FProperty : public FField
 {
-	DECLARE_ABSTRACT_FIELD(FProperty, FField)
+	DECLARE_ABSTRACT_FIELD(FProperty, FField, CASTCLASS_FProperty)
 
 	int32 ArrayDim = 1;
 	EPropertyFlags PropertyFlags = CPF_None;

@@ -5,7 +5,7 @@
 /** A TOptional: the value's memory, then the byte that tells whether it is set. */
 class COREUOBJECT_API FOptionalProperty : public FProperty
 {
-	DECLARE_FIELD(FOptionalProperty, FProperty)
+	DECLARE_FIELD(FOptionalProperty, FProperty, CASTCLASS_FOptionalProperty)
 
 	~FOptionalProperty() override;
 	FProperty* GetValueProperty() const { return ValueProperty; }

@@ -6,7 +6,7 @@
 class COREUOBJECT_API FNameProperty : public TProperty_WithEqualityAndSerializer<FName, FProperty>
 {
 	using FBase = TProperty_WithEqualityAndSerializer<FName, FProperty>;
-	DECLARE_FIELD(FNameProperty, FBase)
+	DECLARE_FIELD(FNameProperty, FBase, CASTCLASS_FNameProperty)
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	EConvertFromTypeResult ConvertFromType(
@@ -23,7 +23,7 @@ protected:
 class COREUOBJECT_API FStrProperty : public TProperty_WithEqualityAndSerializer<FString, FProperty>
 {
 	using FBase = TProperty_WithEqualityAndSerializer<FString, FProperty>;
-	DECLARE_FIELD(FStrProperty, FBase)
+	DECLARE_FIELD(FStrProperty, FBase, CASTCLASS_FStrProperty)
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool PassCPPArgsByRef() const override { return true; }
@@ -43,7 +43,7 @@ protected:
 class COREUOBJECT_API FTextProperty : public TProperty<FText, FProperty>
 {
 	using FBase = TProperty<FText, FProperty>;
-	DECLARE_FIELD(FTextProperty, FBase)
+	DECLARE_FIELD(FTextProperty, FBase, CASTCLASS_FTextProperty)
 
 	FString GetCPPType(FString* ExtendedTypeText = nullptr, uint32 CPPExportFlags = 0) const override;
 	bool PassCPPArgsByRef() const override { return true; }
