@@ -10,7 +10,10 @@
 #include "UObject/SavePackage.h"
 #include "UObject/UObjectHash.h"
 
+#include <cstdlib>
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <string>
 
 namespace
 {
@@ -26,8 +29,8 @@ protected:
 	FHostilePackages()
 	{
 		const char* const TestName = testing::UnitTest::GetInstance()->current_test_info()->name();
-		Folder = FPaths::ConvertRelativePathToFull(FString(UTF8_TO_TCHAR(testing::TempDir().c_str())) / TEXT("VexelHostilePackages") / UTF8_TO_TCHAR(TestName));
-		IFileManager::Get().MakeDirectory(*Folder, true);
+		std::string Pattern = (std::filesystem::temp_directory_path() / "vexel-hostile-XXXXXX").string();
+		Folder = UTF8_TO_TCHAR(mkdtemp(Pattern.data()));
 		Root = FString::Printf(TEXT("/Hostile%s/"), UTF8_TO_TCHAR(TestName));
 		FPackageName::RegisterMountPoint(Root, Folder);
 		Types = MakeTestPackage(TEXT("/Script/PropertyTests"));

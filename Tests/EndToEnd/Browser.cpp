@@ -91,7 +91,9 @@ FBrowser::FBrowser()
 
 FBrowser::~FBrowser()
 {
-	Program.reset();
+	// Killed alone, it would leave its children writing into the profile. They have its streams, which end with the last of them.
+	Call("Browser.close", nlohmann::json::object(), false);
+	Program->Finish();
 	close(ToBrowser);
 	close(FromBrowser);
 	std::error_code Ignored;

@@ -9,7 +9,7 @@
 
 /**
  * A real browser without a window, which follows its own rules for pages, cookies and redirects. It is driven over a pair of pipes
- * with its debugging protocol. It dies with this object.
+ * with its debugging protocol. It ends with this object, and leaves nothing on the disk.
  */
 class FBrowser
 {
