@@ -73,7 +73,7 @@ TEST_F(Token, ATokenThatWasTamperedWithIsRefused)
 		Base64UrlEncode(R"({"alg":"none","typ":"JWT"})") + Good.substr(Good.find('.'), Good.rfind('.') - Good.find('.')) + ".";
 	std::string Changed = Good;
 	Changed[Good.find('.') + 10] ^= 1;
-	const FAccessClaims Claims{.Subject = "user", .Audience = GetClientId(), .Family = "f", .IssuedAt = 0, .ExpiresAt = 1LL << 40};
+	const FAccessClaims Claims{.Subject = "user", .Audience = GetClientId(), .Family = "f", .Grant = "g", .IssuedAt = 0, .ExpiresAt = 1LL << 40};
 	for (const std::string& Bad : {Unsigned, Changed, std::string("x"), std::string(".."), SignAccessToken(Claims, "another key"), Good + "A"})
 	{
 		AccessToken = Bad;
@@ -95,17 +95,118 @@ TEST_F(Token, AnAccessTokenEndsAtItsExpiry)
 	EXPECT_EQ(DetailOf(Result), "The access token has expired.");
 }
 
-TEST_F(Token, UsingARefreshTokenTwiceRevokesItsWholeFamily)
+/** Refresh tokens in the course of a session, whose answers may have got lost on the way. */
+class RefreshReuse : public FServiceTest
 {
+protected:
+	virtual void SetUp() override
+	{
+		StartService();
+		First = *Server->MintRefreshToken();
+	}
+
+	FJson Refresh(const std::string& Token) const
+	{
+		const httplib::Result Result = RefreshWith(Token);
+		EXPECT_EQ(Result->status, 200) << Result->body;
+		return FJson::parse(Result->body, nullptr, false);
+	}
+
+	int UseAccessTokenOf(const FJson& Tokens)
+	{
+		AccessToken = Tokens["access_token"];
+		return MakeClient().Get("/api/user", Bearer())->status;
+	}
+
+	/** Shows a token that has no second chance, and expects the session of the other tokens to be over with that. */
+	void ExpectToEndTheSession(const std::string& Token, const FJson& Other)
+	{
+		const httplib::Result Reuse = RefreshWith(Token);
+		EXPECT_EQ(Reuse->status, 400);
+		EXPECT_EQ(FJson::parse(Reuse->body)["error"], "invalid_grant");
+		EXPECT_EQ(RefreshWith(Other["refresh_token"])->status, 400);
+		AccessToken = Other["access_token"];
+		EXPECT_EQ(DetailOf(MakeClient().Get("/api/user", Bearer())), "The access token has been revoked.");
+	}
+
+	std::string First;
+};
+
+TEST_F(RefreshReuse, RevokesTheWholeFamilyOnceTheSuccessorWasUsed)
+{
+	const FJson Second = Refresh(First);
+	const FJson Third = Refresh(Second["refresh_token"]);
+	ExpectToEndTheSession(First, Third);
+}
+
+TEST_F(RefreshReuse, RevokesTheWholeFamilyOnceTheSuccessorsAccessTokenWasUsed)
+{
+	const FJson Second = Refresh(First);
+	EXPECT_EQ(UseAccessTokenOf(Second), 200);
+	ExpectToEndTheSession(First, Second);
+}
+
+TEST_F(RefreshReuse, IsASecondChanceWhileNothingOfTheFirstAnswerWasUsed)
+{
+	Refresh(First);
+	*Now += Options.Config.RefreshTokenGrace.count() - 1;
+	const FJson Again = Refresh(First);
+	EXPECT_EQ(UseAccessTokenOf(Again), 200);
+	Refresh(Again["refresh_token"]);
+}
+
+TEST_F(RefreshReuse, HasNoSecondChanceAfterTheGrace)
+{
+	const FJson Second = Refresh(First);
+	*Now += Options.Config.RefreshTokenGrace.count();
+	ExpectToEndTheSession(First, Second);
+}
+
+TEST_F(RefreshReuse, HasNoThirdChance)
+{
+	Refresh(First);
+	const FJson Again = Refresh(First);
+	ExpectToEndTheSession(First, Again);
+}
+
+TEST_F(RefreshReuse, TheAnswerThatASecondChanceReplacesIsVoidAndEndsTheSession)
+{
+	const FJson Lost = Refresh(First);
+	const FJson Again = Refresh(First);
+	EXPECT_EQ(UseAccessTokenOf(Lost), 401);
+	EXPECT_EQ(UseAccessTokenOf(Again), 200) << "an access token alone is no sign of a thief: it may have been on its way";
+	ExpectToEndTheSession(Lost["refresh_token"], Again);
+}
+
+TEST_F(RefreshReuse, EveryRotationHasItsOwnSecondChance)
+{
+	const FJson Second = Refresh(First);
+	Refresh(Second["refresh_token"]);
+	const FJson Third = Refresh(Second["refresh_token"]);
+	EXPECT_EQ(UseAccessTokenOf(Third), 200);
+	ExpectToEndTheSession(Second["refresh_token"], Third);
+}
+
+TEST_F(RefreshReuse, TheSecondChanceOutlivesTheServiceAndIsNotGivenTwice)
+{
+	Options.DataFolder = std::filesystem::temp_directory_path() / ("vexel-service-test-" + RandomId());
 	StartService();
-	const std::string First = *Server->MintRefreshToken();
-	const FJson Tokens = FJson::parse(RefreshWith(First)->body);
-	AccessToken = Tokens["access_token"];
-	const httplib::Result Reuse = RefreshWith(First);
-	EXPECT_EQ(Reuse->status, 400);
-	EXPECT_EQ(FJson::parse(Reuse->body)["error"], "invalid_grant");
-	EXPECT_EQ(RefreshWith(Tokens["refresh_token"])->status, 400);
-	EXPECT_EQ(DetailOf(MakeClient().Get("/api/user", Bearer())), "The access token has been revoked.");
+	First = *Server->MintRefreshToken();
+	const FJson Lost = Refresh(First);
+	StartService();
+	const FJson Again = Refresh(First);
+	StartService();
+	EXPECT_EQ(UseAccessTokenOf(Lost), 401);
+	ExpectToEndTheSession(First, Again);
+	std::filesystem::remove_all(Options.DataFolder);
+}
+
+TEST_F(RefreshReuse, CanBeRefusedFromTheFirstTimeByConfiguration)
+{
+	Options.Config.RefreshTokenGrace = std::chrono::seconds(0);
+	StartService();
+	First = *Server->MintRefreshToken();
+	ExpectToEndTheSession(First, Refresh(First));
 }
 
 TEST_F(Token, ARefreshTokenExpires)

@@ -22,6 +22,7 @@ std::string SignAccessToken(const FAccessClaims& Claims, std::string_view Key)
 		{"sub", Claims.Subject},
 		{"aud", Claims.Audience},
 		{"sid", Claims.Family},
+		{"jti", Claims.Grant},
 		{"iat", Claims.IssuedAt},
 		{"exp", Claims.ExpiresAt},
 	};
@@ -59,6 +60,7 @@ std::optional<FAccessClaims> ReadAccessToken(std::string_view Token, std::string
 		.Subject = TextMember(*Payload, "sub"),
 		.Audience = TextMember(*Payload, "aud"),
 		.Family = TextMember(*Payload, "sid"),
+		.Grant = TextMember(*Payload, "jti"),
 		.IssuedAt = IssuedAt->get<std::int64_t>(),
 		.ExpiresAt = ExpiresAt->get<std::int64_t>(),
 	};

@@ -63,6 +63,7 @@ FClock SystemClock()
 FTokenService::FTokenService(const FServiceConfig& Config, FStateFile InState, FClock InClock)
 	: AccessLifetime(Config.AccessTokenLifetime.count())
 	, RefreshLifetime(Config.RefreshTokenLifetime.count())
+	, RefreshGrace(Config.RefreshTokenGrace.count())
 	, State(std::move(InState))
 	, Clock(std::move(InClock))
 {
@@ -115,32 +116,57 @@ TOrRefusal<FTokenSet> FTokenService::Refresh(std::string_view RefreshToken, std:
 	}
 	std::vector<FRefreshRecord> Earlier = Records;
 	const std::string Family = Record->Family;
-	if (Record->bSpent)
+	const std::string Hash = Record->Hash;
+	if (!Record->bSpent)
 	{
-		const TOrRefusal<bool> Revoked = EndFamily(Family);
-		return Revoked ? BadGrant() : Revoked.Error();
+		Record->bSpent = true;
+		Record->SecondChanceEndsAt = Clock() + RefreshGrace;
+		return Issue(Family, Hash, std::move(Earlier));
 	}
+	if (FRefreshRecord* const Unused = FindUnusedSuccessor(*Record))
+	{
+		// It stays, as one that is used up for good: whoever shows it ends the session.
+		Unused->bSpent = true;
+		Unused->bVoid = true;
+		Record->SecondChanceEndsAt = 0;
+		return Issue(Family, Hash, std::move(Earlier));
+	}
+	const TOrRefusal<bool> Revoked = EndFamily(Family);
+	return Revoked ? BadGrant() : Revoked.Error();
+}
 
-	Record->bSpent = true;
-	return Issue(Family, std::move(Earlier));
+FTokenService::FRefreshRecord* FTokenService::FindUnusedSuccessor(const FRefreshRecord& Used)
+{
+	FRefreshRecord* const Successor = Clock() < Used.SecondChanceEndsAt ? FindHash(Used.Successor) : nullptr;
+	return Successor && !Successor->bSpent && !Successor->bAccessUsed ? Successor : nullptr;
 }
 
 TOrRefusal<FTokenSet> FTokenService::StartSession()
 {
 	const std::lock_guard Lock(Mutex);
-	return Issue(RandomId(), Records);
+	return Issue(RandomId(), std::string(), Records);
 }
 
-TOrRefusal<FTokenSet> FTokenService::Issue(const std::string& Family, std::vector<FRefreshRecord> Earlier)
+TOrRefusal<FTokenSet> FTokenService::Issue(const std::string& Family, const std::string& ShownHash, std::vector<FRefreshRecord> Earlier)
 {
 	std::string RefreshToken = AddRecord(Family);
+	const std::string Grant = Records.back().Hash;
+	if (FRefreshRecord* const Shown = FindHash(ShownHash))
+	{
+		Shown->Successor = Grant;
+	}
 	// The client must never hold a token that a restarted service would not know.
 	if (!SaveOrRestore(std::move(Earlier)))
 	{
 		return StateNotSaved();
 	}
 	const std::int64_t Now = Clock();
-	const FAccessClaims Claims{.Subject = UserId, .Audience = ClientId, .Family = Family, .IssuedAt = Now, .ExpiresAt = Now + AccessLifetime};
+	const FAccessClaims Claims{.Subject = UserId,
+		.Audience = ClientId,
+		.Family = Family,
+		.Grant = Grant,
+		.IssuedAt = Now,
+		.ExpiresAt = Now + AccessLifetime};
 	return FTokenSet{SignAccessToken(Claims, SigningKey), std::move(RefreshToken), AccessLifetime, Family};
 }
 
@@ -201,12 +227,13 @@ TOrRefusal<std::string> FTokenService::Authorize(std::string_view AuthorizationH
 		return NotAuthorized("The access token has expired.");
 	}
 	const std::lock_guard Lock(Mutex);
-	const bool bFamilyLives = std::any_of(Records.begin(), Records.end(), [&](const FRefreshRecord& Record)
-		{ return Record.Family == Claims->Family; });
-	if (!bFamilyLives)
+	const auto Issued = std::find_if(Records.begin(), Records.end(), [&](const FRefreshRecord& Record)
+		{ return Record.Family == Claims->Family && Record.Hash == Claims->Grant; });
+	if (Issued == Records.end() || Issued->bVoid)
 	{
 		return NotAuthorized("The access token has been revoked.");
 	}
+	Issued->bAccessUsed = true;
 	return Claims->Subject;
 }
 
@@ -219,10 +246,20 @@ bool FTokenService::TakeUp(const FJson& Document)
 	{
 		const FJson* const ExpiresAt = FindMember(Item, "expires_at");
 		const FJson* const Spent = FindMember(Item, "spent");
-		if (ExpiresAt && ExpiresAt->is_number_integer() && Spent && Spent->is_boolean())
+		if (!ExpiresAt || !ExpiresAt->is_number_integer() || !Spent || !Spent->is_boolean())
 		{
-			Records.push_back({TextMember(Item, "hash"), TextMember(Item, "family"), ExpiresAt->get<std::int64_t>(), Spent->get<bool>()});
+			continue;
 		}
+		FRefreshRecord& Record = Records.emplace_back();
+		Record.Hash = TextMember(Item, "hash");
+		Record.Family = TextMember(Item, "family");
+		Record.ExpiresAt = ExpiresAt->get<std::int64_t>();
+		Record.bSpent = Spent->get<bool>();
+		Record.Successor = TextMember(Item, "successor");
+		const FJson* const SecondChance = FindMember(Item, "second_chance_ends_at");
+		Record.SecondChanceEndsAt = SecondChance && SecondChance->is_number_integer() ? SecondChance->get<std::int64_t>() : 0;
+		const FJson* const Void = FindMember(Item, "void");
+		Record.bVoid = Void && Void->is_boolean() && Void->get<bool>();
 	}
 	return SigningKey.size() == SecretBytes && !ClientId.empty() && !UserId.empty();
 }
@@ -232,7 +269,8 @@ FJson FTokenService::Describe() const
 	FJson Tokens = FJson::array();
 	for (const FRefreshRecord& Record : Records)
 	{
-		Tokens.push_back({{"hash", Record.Hash}, {"family", Record.Family}, {"expires_at", Record.ExpiresAt}, {"spent", Record.bSpent}});
+		Tokens.push_back({{"hash", Record.Hash}, {"family", Record.Family}, {"expires_at", Record.ExpiresAt}, {"spent", Record.bSpent},
+			{"successor", Record.Successor}, {"second_chance_ends_at", Record.SecondChanceEndsAt}, {"void", Record.bVoid}});
 	}
 	return {{"signing_key", Base64UrlEncode(SigningKey)}, {"client_id", ClientId}, {"user_id", UserId}, {"refresh_tokens", std::move(Tokens)}};
 }
@@ -252,7 +290,11 @@ FTokenService::FRefreshRecord* FTokenService::FindRecord(std::string_view Refres
 	const std::int64_t Now = Clock();
 	std::erase_if(Records, [Now](const FRefreshRecord& Record)
 		{ return Record.ExpiresAt <= Now; });
-	const std::string Hash = HashOf(RefreshToken);
+	return FindHash(HashOf(RefreshToken));
+}
+
+FTokenService::FRefreshRecord* FTokenService::FindHash(std::string_view Hash)
+{
 	const auto Found = std::find_if(Records.begin(), Records.end(), [&](const FRefreshRecord& Record)
 		{ return SecretsEqual(Record.Hash, Hash); });
 	return Found == Records.end() ? nullptr : &*Found;
@@ -261,7 +303,10 @@ FTokenService::FRefreshRecord* FTokenService::FindRecord(std::string_view Refres
 std::string FTokenService::AddRecord(const std::string& Family)
 {
 	std::string Token = Base64UrlEncode(RandomBytes(SecretBytes));
-	Records.push_back({HashOf(Token), Family, Clock() + RefreshLifetime, false});
+	FRefreshRecord& Record = Records.emplace_back();
+	Record.Hash = HashOf(Token);
+	Record.Family = Family;
+	Record.ExpiresAt = Clock() + RefreshLifetime;
 	return Token;
 }
 

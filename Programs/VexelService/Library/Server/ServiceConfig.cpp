@@ -153,6 +153,7 @@ TOrRefusal<FServiceConfig> LoadServiceConfig(const std::filesystem::path& File)
 	const FReaders Readers = {
 		{"access_token_seconds", Number(1, SecondsPerYear, StoreTime(Config.AccessTokenLifetime, 1))},
 		{"refresh_token_seconds", Number(1, SecondsPerYear, StoreTime(Config.RefreshTokenLifetime, 1))},
+		{"refresh_grace_seconds", Number(0, 3600, StoreTime(Config.RefreshTokenGrace, 1))},
 		{"tool_timeout_seconds", Number(0.001, 3600, StoreTime(Config.ToolTimeout, 1000))},
 		{"piece_delay_milliseconds", Number(0, 1000, StoreTime(Config.PieceDelay, 1))},
 		{"user", User(Config.User)},

@@ -17,6 +17,8 @@ struct FAccessClaims
 	std::string Audience;
 	/** The refresh-token family that the token came from; a revoked family takes its access tokens with it. */
 	std::string Family;
+	/** The hash of the refresh token that was issued along with it. */
+	std::string Grant;
 	std::int64_t IssuedAt = 0;
 	std::int64_t ExpiresAt = 0;
 };

@@ -48,6 +48,8 @@ struct FServiceConfig
 {
 	std::chrono::seconds AccessTokenLifetime{3600};
 	std::chrono::seconds RefreshTokenLifetime{30 * 24 * 3600};
+	/** How long a used refresh token may work once more: as long as an editor that died takes to be there again. */
+	std::chrono::seconds RefreshTokenGrace{120};
 	/** How long a turn waits for the result of one tool call. */
 	std::chrono::milliseconds ToolTimeout{120'000};
 	/** The pause after each streamed piece of text. */
@@ -57,8 +59,8 @@ struct FServiceConfig
 };
 
 /**
- * Reads the configuration: a JSON object with any of "access_token_seconds", "refresh_token_seconds", "tool_timeout_seconds",
- * "piece_delay_milliseconds", "user" (with "name", "email", "credits", "max_credits", "features") and "login" (with
+ * Reads the configuration: a JSON object with any of "access_token_seconds", "refresh_token_seconds",
+ * "refresh_grace_seconds", "tool_timeout_seconds", "piece_delay_milliseconds", "user" (with "name", "email", "credits", "max_credits", "features") and "login" (with
  * "request_seconds", "code_seconds", "delay_milliseconds", "decision": "ask", "approve" or "deny", and "failing_paths"). What the
  * file leaves out keeps its default; an unknown key or a value of the wrong type or range is refused by name.
  */
