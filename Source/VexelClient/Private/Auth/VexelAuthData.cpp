@@ -1,5 +1,6 @@
 #include "Auth/VexelAuthData.h"
 
+#include "Auth/VexelAuthErrors.h"
 #include "Auth/VexelAuthLoginState.h"
 #include "Dom/JsonObject.h"
 #include "VexelErrorKinds.h"
@@ -54,7 +55,5 @@ VexelAuthReport::FScope::FScope(const TCHAR* Request, const TCHAR* Initiator)
 
 void VexelAuthReport::Error(const FVexelError& Cause, const TCHAR* While)
 {
-	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_Auth, Cause, "%s", *Cause.ToShortString());
-	Error.AppendContext(While);
-	FVexelSentry::CaptureError(MoveTemp(Error), VEXEL_HERE);
+	FVexelSentry::CaptureError(VexelAuthErrors::Wrap<FVexelError_Auth>(VEXEL_HERE, Cause, While), VEXEL_HERE);
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "Auth/VexelAuthErrors.h"
 #include "Misc/Guid.h"
 #include "VexelCrypto.h"
 #include "VexelErrorKinds.h"
@@ -30,9 +31,7 @@ TVexelExpected<FString> FindOrMake(const TCHAR* Key, const TCHAR* While, TFuncti
 	const TVexelExpected<void> Stored = FVexelSecureStorage::StoreValueString(Key, Id);
 	if (Stored.HasError())
 	{
-		FVexelError Error = VEXEL_ERROR_CAUSED(ErrorKind, Stored.GetError(), "%s", *Stored.GetError().ToShortString());
-		Error.AppendContext(While);
-		return Error;
+		return VexelAuthErrors::Wrap<ErrorKind>(VEXEL_HERE, Stored.GetError(), While);
 	}
 	return Id;
 }

@@ -1,5 +1,6 @@
 #include "Auth/VexelAuthLoginState.h"
 
+#include "Auth/VexelAuthErrors.h"
 #include "Misc/ScopeLock.h"
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
@@ -52,12 +53,6 @@ TVexelExpected<int32> FVexelAuthLoginState::StartAuthServer()
 	{
 		return VEXEL_ERROR(FVexelError_Auth_HttpServer, "The login is over");
 	}
-	const auto Wrap = [](const TVexelExpected<void>& Step, const TCHAR* While)
-	{
-		FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_Auth_HttpServer, Step.GetError(), "%s", *Step.GetError().ToShortString());
-		Error.AppendContext(While);
-		return Error;
-	};
 	const TVexelExpected<void> Added = Starting->AddRoute(EVexelHttpVerb::Get, CallbackPath,
 		[Weak = TWeakPtr<const FVexelAuthLoginState>(AsShared())](const FVexelHttpServerRequest& Request)
 		{
@@ -65,12 +60,14 @@ TVexelExpected<int32> FVexelAuthLoginState::StartAuthServer()
 			return This ? This->HandleCallback(Request) : FVexelHttpServerResponse(200, TEXT("OK")); });
 	if (Added.HasError())
 	{
-		return Wrap(Added, TEXT("while adding OAuth callback route to local HTTP server"));
+		return VexelAuthErrors::Wrap<FVexelError_Auth_HttpServer>(
+			VEXEL_HERE, Added.GetError(), TEXT("while adding OAuth callback route to local HTTP server"));
 	}
 	const TVexelExpected<void> Started = Starting->Start();
 	if (Started.HasError())
 	{
-		return Wrap(Started, TEXT("while starting local OAuth HTTP server"));
+		return VexelAuthErrors::Wrap<FVexelError_Auth_HttpServer>(
+			VEXEL_HERE, Started.GetError(), TEXT("while starting local OAuth HTTP server"));
 	}
 	const int32 Port = Starting->GetPort();
 	FScopeLock Guard(&Lock);

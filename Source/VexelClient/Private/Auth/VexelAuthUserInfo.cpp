@@ -1,5 +1,6 @@
 #include "Auth/VexelAuthUserInfo.h"
 
+#include "Auth/VexelAuthErrors.h"
 #include "Auth/VexelAuthIds.h"
 #include "Data/VexelChatModeInfo.h"
 #include "Misc/ScopeLock.h"
@@ -49,13 +50,6 @@ TVexelExpected<FVexelAuthUserInfo> ReadUserInfo(const TSharedRef<FVexelHttpRespo
 	return Info;
 }
 
-FVexelError WrapFailure(const FVexelError& Cause, const TCHAR* While)
-{
-	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_UserInfoFetch, Cause, "%s", *Cause.ToShortString());
-	Error.AppendContext(While);
-	return Error;
-}
-
 /** A field that is absent or null is nothing; false for one of another type. */
 bool ReadInteger(const FJsonObject& Object, const TCHAR* Field, int32& Out)
 {
@@ -98,9 +92,9 @@ TVexelTaskResult<FVexelAuthUserInfo> FVexelAuthUserInfo::ForceRefresh()
 		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
 			{ return ReadUserInfo(Response); })
 		.Catch<FVexelError_HttpUnauthorized>([](const FVexelError& Error) -> TVexelExpected<FVexelAuthUserInfo>
-			{ return WrapFailure(Error, TEXT("unauthorized access while fetching user info")); })
+			{ return VexelAuthErrors::Wrap<FVexelError_UserInfoFetch>(VEXEL_HERE, Error, TEXT("unauthorized access while fetching user info")); })
 		.Catch<FVexelError>([](const FVexelError& Error) -> TVexelExpected<FVexelAuthUserInfo>
-			{ return WrapFailure(Error, TEXT("while fetching user info")); })
+			{ return VexelAuthErrors::Wrap<FVexelError_UserInfoFetch>(VEXEL_HERE, Error, TEXT("while fetching user info")); })
 		.ThenOn(EVexelTaskThread::GameThread, [NumCleared = GetNumCleared()](const FVexelAuthUserInfo& Info) -> TVexelExpected<FVexelAuthUserInfo>
 			{
 				if (GetNumCleared() != NumCleared)
