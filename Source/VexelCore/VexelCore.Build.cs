@@ -14,7 +14,7 @@ public class VexelCore : ModuleRules
 		PublicDependencyModuleNames.AddRange(new string[] { "Core", "Json" });
 		PrivateDependencyModuleNames.AddRange(new string[] { "Slate", "SlateCore" });
 
-		PublicSystemLibraries.AddRange(new string[] { "curl", "crypto", "z", "cpp-httplib" });
+		PublicSystemLibraries.AddRange(new string[] { "curl", "ssl", "crypto", "z", "cpp-httplib" });
 		PublicSystemLibraries.AddRange(new string[] { "secret-1", "gio-2.0", "gobject-2.0", "glib-2.0" });
 		// Debian names its folders of libraries without the vendor that the engine's name has.
 		string Architecture = Target.Architecture.LinuxName.Replace("-unknown", "");

@@ -1,19 +1,10 @@
 #include "FreedMemoryWatch.h"
 
+#include "Sanitized.h"
+
 #include <atomic>
 #include <cstring>
 #include <malloc.h>
-
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-#define SEES_FREED_BLOCKS 0
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer) || __has_feature(thread_sanitizer)
-#define SEES_FREED_BLOCKS 0
-#endif
-#endif
-#ifndef SEES_FREED_BLOCKS
-#define SEES_FREED_BLOCKS 1
-#endif
 
 namespace
 {
@@ -27,7 +18,7 @@ std::atomic<int32> NumFreed = 0;
 std::atomic<int32> NumFound = 0;
 }
 
-#if SEES_FREED_BLOCKS
+#if !VEXEL_SANITIZED
 extern "C" void __libc_free(void* Block);
 
 /** Takes the place of the C library's in the whole process. */
@@ -61,7 +52,7 @@ FFreedMemoryWatch::~FFreedMemoryWatch()
 
 bool FFreedMemoryWatch::IsAble()
 {
-	return SEES_FREED_BLOCKS;
+	return !VEXEL_SANITIZED;
 }
 
 int32 FFreedMemoryWatch::GetNumFreed() const

@@ -1,6 +1,6 @@
 #include "ForeignService.h"
 
-#include "Containers/StringConv.h"
+#include "VexelCrypto.h"
 #include "VexelSecureStorage.h"
 #include "VexelUrlUtils.h"
 
@@ -57,6 +57,20 @@ bool ReadFirstLine(int32 Descriptor, TArray<ANSICHAR>& Line)
 	return false;
 }
 
+/** Straight from the bytes, so that no other copy of them is left. */
+FString ToTrimmedText(TConstArrayView<ANSICHAR> Utf8)
+{
+	while (!Utf8.IsEmpty() && FCharAnsi::IsWhitespace(Utf8[0]))
+	{
+		Utf8 = Utf8.RightChop(1);
+	}
+	while (!Utf8.IsEmpty() && FCharAnsi::IsWhitespace(Utf8.Last()))
+	{
+		Utf8 = Utf8.LeftChop(1);
+	}
+	return FString::ConstructFromPtrSize(reinterpret_cast<const UTF8CHAR*>(Utf8.GetData()), Utf8.Num());
+}
+
 TOptional<FString> StoreToken(const FString& TokenDescriptor)
 {
 	const int32 Descriptor = ParseDescriptor(TokenDescriptor);
@@ -67,14 +81,14 @@ TOptional<FString> StoreToken(const FString& TokenDescriptor)
 	TArray<ANSICHAR> Line;
 	const bool bRead = ReadFirstLine(Descriptor, Line);
 	close(Descriptor);
-	Line.Add('\0');
-	const FString Token = FString(UTF8_TO_TCHAR(Line.GetData())).TrimStartAndEnd();
+	FString Token = ToTrimmedText(Line);
 	explicit_bzero(Line.GetData(), size_t(Line.Num()));
 	if (!bRead || Token.IsEmpty())
 	{
 		return FString::Printf(TEXT("--token-fd %s: no token could be read from it"), *TokenDescriptor);
 	}
 	const TVexelExpected<void> Stored = FVexelSecureStorage::StoreValueString(TEXT("rt"), Token);
+	FVexelCrypto::Wipe(Token);
 	return Stored.HasError() ? TOptional<FString>(Stored.GetError().ToChainString()) : NullOpt;
 }
 }

@@ -1,7 +1,8 @@
 #include "LocalService.h"
 
 #include "Containers/StringConv.h"
-#include "VexelJson.h"
+#include "VexelCrypto.h"
+#include "VexelSecretFields.h"
 
 #include <cerrno>
 #include <csignal>
@@ -20,9 +21,11 @@ constexpr int32 StartTimeoutMilliseconds = 20'000;
 constexpr int32 MaxGreetingBytes = 16 * 1024;
 
 /** Reads one line, or as much as came before the time was over or the other side closed. */
-TArray<ANSICHAR> ReadLine(int32 Descriptor)
+TArray<uint8> ReadLine(int32 Descriptor)
 {
-	TArray<ANSICHAR> Line;
+	TArray<uint8> Line;
+	// At once: a token is in it, which growth would leave behind.
+	Line.Reserve(MaxGreetingBytes);
 	pollfd Poll{Descriptor, POLLIN, 0};
 	while (Line.Num() < MaxGreetingBytes)
 	{
@@ -31,20 +34,20 @@ TArray<ANSICHAR> ReadLine(int32 Descriptor)
 		{
 			continue;
 		}
-		ANSICHAR Character = 0;
+		uint8 Character = 0;
 		if (Ready <= 0 || read(Descriptor, &Character, 1) != 1 || Character == '\n')
 		{
 			break;
 		}
 		Line.Add(Character);
 	}
-	Line.Add('\0');
 	return Line;
 }
 }
 
 FLocalService::~FLocalService()
 {
+	FVexelCrypto::Wipe(RefreshToken);
 	if (InputDescriptor >= 0)
 	{
 		close(InputDescriptor);
@@ -88,11 +91,11 @@ TOptional<FString> FLocalService::Start(const FString& ProgramPath)
 		return FString::Printf(TEXT("the local service '%s' cannot be started: %s"), *ProgramPath, ANSI_TO_TCHAR(strerror(Failure)));
 	}
 
-	const TArray<ANSICHAR> Greeting = ReadLine(Output[0]);
+	TArray<uint8> Greeting = ReadLine(Output[0]);
 	close(Output[0]);
-	TSharedPtr<FJsonObject> Object;
-	const bool bRead = FVexelJsonConversions::StringToJson(FString(UTF8_TO_TCHAR(Greeting.GetData())), Object);
-	if (!bRead || !Object->TryGetStringField(TEXT("url"), Url) || !Object->TryGetStringField(TEXT("refresh_token"), RefreshToken))
+	const TOptional<FVexelSecretFields> Fields = FVexelSecretFields::FromJson(Greeting);
+	FVexelCrypto::Wipe(Greeting);
+	if (!Fields || !Fields->TryGetString(TEXT("url"), Url) || !Fields->TryGetString(TEXT("refresh_token"), RefreshToken))
 	{
 		return FString(TEXT("the local service started but did not say where it listens"));
 	}

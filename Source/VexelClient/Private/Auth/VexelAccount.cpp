@@ -6,6 +6,15 @@
 #include "VexelSecureStorage.h"
 #include "VexelTry.h"
 
+namespace
+{
+TVexelExpected<FVexelAuthSecret> LoadStoredLogin()
+{
+	VEXEL_TRY(FString Token, FVexelSecureStorage::LoadValueString(FVexelAuth::GetRefreshTokenKey()));
+	return FVexelAuthSecret(MoveTemp(Token));
+}
+}
+
 TVexelExpected<void> FVexelAccount::LogIn(FVexelLoginWay Way)
 {
 	FVexelAuth::SetOpenAddress(MoveTemp(Way.Open));
@@ -29,7 +38,7 @@ TVexelTaskResult<void> FVexelAccount::LogOut()
 		FVexelAuth::Logout();
 		return FVexelAuth::GetRevocation();
 	}
-	const TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(FVexelAuth::GetRefreshTokenKey());
+	const TVexelExpected<FVexelAuthSecret> Stored = LoadStoredLogin();
 	if (Stored.HasError())
 	{
 		return Stored.GetError();
@@ -39,7 +48,7 @@ TVexelTaskResult<void> FVexelAccount::LogOut()
 
 bool FVexelAccount::IsLoginStored()
 {
-	return FVexelSecureStorage::LoadValueString(FVexelAuth::GetRefreshTokenKey()).HasValue();
+	return LoadStoredLogin().HasValue();
 }
 
 TVexelTaskResult<FVexelAccountUser> FVexelAccount::FetchUser()

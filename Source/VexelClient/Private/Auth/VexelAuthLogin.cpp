@@ -48,8 +48,8 @@ TVexelTaskResult<FPollAnswer> RequestCode(const FLogin& Login)
 	Login->SetPollRequest(Request);
 	return Try(Request->Await()).Then([State](const TSharedRef<FVexelHttpResponse>& Response) -> TVexelExpected<FPollAnswer>
 		{
-			VEXEL_TRY(FString Code, VexelAuthRequests::ReadPollCode(Response->GetContentString()));
-			return FPollAnswer(FVexelAuth::FAuthCodeInfo{FVexelAuthSecret(MoveTemp(Code)), State, FVexelAuth::ECodeRoute::Polling}); });
+			VEXEL_TRY(const FVexelAuthSecret Code, VexelAuthRequests::ReadPollCode(*Response));
+			return FPollAnswer(FVexelAuth::FAuthCodeInfo{Code, State, FVexelAuth::ECodeRoute::Polling}); });
 }
 
 TVexelTaskResult<FPollAnswer> PollOnce(const FLogin& Login)
@@ -64,7 +64,7 @@ TVexelTaskResult<FPollAnswer> PollOnce(const FLogin& Login)
 	Login->SetPollRequest(Request);
 	return Try(Request->Await())
 		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
-			{ return VexelAuthRequests::ReadPollStatus(Response->GetContentString()); })
+			{ return VexelAuthRequests::ReadPollStatus(*Response); })
 		.Then([Login](VexelAuthRequests::EPollStatus Status)
 			{ return Status == VexelAuthRequests::EPollStatus::Approved ? RequestCode(Login) : TVexelTaskResult<FPollAnswer>(FPollAnswer()); })
 		.Catch<FVexelError_HttpCancelled>([](const FVexelError_HttpCancelled& Error) -> TVexelExpected<FPollAnswer>

@@ -1,12 +1,13 @@
 #include "Auth/VexelAuthProvider.h"
 
 #include "Auth/VexelAuth.h"
+#include "VexelCrypto.h"
 #include "VexelErrorKinds.h"
 #include "VexelSentry.h"
 
 FVexelHttp::IAuthProvider::EAuthResult FVexelAuthProvider::GetAuthState(FString& OutToken)
 {
-	OutToken.Empty();
+	FVexelCrypto::Wipe(OutToken);
 	const FVexelAuth::EState State = FVexelAuth::GetState();
 	if (State == FVexelAuth::EState::Offline)
 	{

@@ -28,11 +28,19 @@ struct FTurn
 	TSharedPtr<FVexelFileLock> Lock;
 };
 
-/** Empty where none is stored. */
-FVexelAuthSecret LoadRefreshToken()
+TVexelExpected<FVexelAuthSecret> LoadRefreshToken()
 {
 	TVexelExpected<FString> Stored = FVexelSecureStorage::LoadValueString(FVexelAuth::GetRefreshTokenKey());
-	return FVexelAuthSecret(Stored.HasValue() ? MoveTemp(Stored).GetValue() : FString());
+	if (Stored.HasError())
+	{
+		return VEXEL_ERROR_CAUSED(FVexelError_SecureStorage, Stored.GetError(), "No stored refresh token found");
+	}
+	FVexelAuthSecret Token(MoveTemp(Stored).GetValue());
+	if (Token.IsEmpty())
+	{
+		return VEXEL_ERROR(FVexelError_SecureStorage, "No stored refresh token found");
+	}
+	return Token;
 }
 
 bool IsCurrent(int32 Number)
@@ -59,7 +67,7 @@ TVexelTaskResult<FTurn> WaitForTurn(const FVexelAuthSecret& Held, int32 Number)
 				   .Flush())
 		.Then([Held, Number](const FTurn& Turn) -> TVexelExpected<FTurn>
 			{
-				const FVexelAuthSecret Stored = LoadRefreshToken();
+				const TVexelExpected<FVexelAuthSecret> Stored = LoadRefreshToken();
 				// After the look into the store, which is another service's once a login there has taken this one's place.
 				if (!IsCurrent(Number))
 				{
@@ -69,7 +77,7 @@ TVexelTaskResult<FTurn> WaitForTurn(const FVexelAuthSecret& Held, int32 Number)
 				{
 					return VEXEL_ERROR(FVexelError_Auth_TokenRefresh, "Another process is still refreshing the login");
 				}
-				return FTurn{Stored.IsEmpty() ? Held : Stored, Turn.Lock}; });
+				return FTurn{Stored.HasValue() ? Stored.GetValue() : Held, Turn.Lock}; });
 }
 }
 
@@ -77,21 +85,22 @@ void FVexelAuth::StartAutoLogin()
 {
 	VexelAuthReport::FScope Scope(TEXT("login"), TEXT("auto"));
 	FVexelAuthData& Data = FVexelAuthData::Get();
-	const FVexelAuthSecret Stored = LoadRefreshToken();
-	const bool bUsable = !Stored.IsEmpty();
+	TVexelExpected<FVexelAuthSecret> Stored = FVexelAuthSecret();
 	FVexelAuthNews News;
 	TVexelTaskResult<void> Refresh;
 	FLoginNumber Number = 0;
 	{
+		// Over the look into the store too: no login begins between the two.
 		FScopeLock StoreGuard(&Data.StoreLock);
-		FScopeLock Guard(&Data.Lock);
-		if (Data.State != EState::Offline)
+		if (GetState() != EState::Offline)
 		{
 			VEXEL_LOG(Warning, "Attempted to start auto-login while not offline.");
 			return;
 		}
+		Stored = LoadRefreshToken();
+		FScopeLock Guard(&Data.Lock);
 		Data.LoginFailure.Reset();
-		if (bUsable)
+		if (Stored.HasValue())
 		{
 			Data.BeginNumber();
 			Number = Data.Number;
@@ -101,13 +110,14 @@ void FVexelAuth::StartAutoLogin()
 			News = Data.ChangeState(EState::LoggingIn);
 		}
 	}
-	if (!bUsable)
+	if (Stored.HasError())
 	{
 		VEXEL_LOG(Log, "No valid stored refresh token found for auto-login.");
+		VEXEL_LOG(Verbose, "%s", *Stored.GetError().ToChainString());
 		return;
 	}
 	News.Tell();
-	InternalRefreshAccessToken(Stored, true, Number).OnComplete([Refresh, Number](const TVexelExpected<void>& Result)
+	InternalRefreshAccessToken(Stored.GetValue(), true, Number).OnComplete([Refresh, Number](const TVexelExpected<void>& Result)
 		{
 			if (Result.HasError())
 			{

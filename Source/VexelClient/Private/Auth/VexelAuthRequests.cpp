@@ -1,12 +1,13 @@
 #include "Auth/VexelAuthRequests.h"
 
+#include "Auth/VexelAuthErrors.h"
 #include "Dom/JsonObject.h"
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
 #include "VexelHttp.h"
 #include "VexelInternalConfig.h"
-#include "VexelJson.h"
 #include "VexelLog.h"
+#include "VexelSecretFields.h"
 #include "VexelTry.h"
 
 namespace
@@ -35,20 +36,19 @@ TSharedRef<FVexelHttpRequest> SendSecret(const VexelAuthRequests::FClient& Clien
 	return MakeRequest(*Client.Api, EVexelHttpVerb::Post, Path).WithSecrecy().WithPayload(Payload).Send();
 }
 
-TSharedPtr<FJsonObject> ParseBody(const FString& Body)
+/** An answer's text as a message may quote it. */
+FString Quote(const FVexelHttpResponse& Response)
 {
-	TSharedPtr<FJsonObject> Object;
-	FVexelJsonConversions::StringToJson(Body, Object);
-	return Object;
+	return Response.GetContentString().Left(MaxQuotedLength);
 }
 
-TSharedRef<FJsonObject> MakePollBody(const VexelAuthRequests::FClient& Client, const FString& State)
+FVexelSecretFields MakePollBody(const VexelAuthRequests::FClient& Client, const FString& State)
 {
-	const TSharedRef<FJsonObject> Body = MakeShared<FJsonObject>();
-	Body->SetStringField(TEXT("grant_type"), TEXT("device_id"));
-	Body->SetStringField(TEXT("device_id"), Client.DeviceId);
-	Body->SetStringField(TEXT("client_id"), Client.ClientId);
-	Body->SetStringField(TEXT("state"), State);
+	FVexelSecretFields Body;
+	Body.AddText(TEXT("grant_type"), TEXT("device_id"))
+		.AddText(TEXT("device_id"), Client.DeviceId)
+		.AddText(TEXT("client_id"), Client.ClientId)
+		.AddText(TEXT("state"), State);
 	return Body;
 }
 
@@ -71,7 +71,7 @@ TVexelExpected<FString> ReadClientId(const TSharedRef<FVexelHttpResponse>& Respo
 template <typename ErrorKind>
 TVexelExpected<FTokenResponse> ReadTokens(const TSharedRef<FVexelHttpResponse>& Response, const TCHAR* Malformed)
 {
-	const TSharedPtr<FJsonObject> Body = Response->GetContentJson();
+	const TOptional<FVexelSecretFields> Body = FVexelSecretFields::FromJson(Response->GetContent());
 	if (!Body)
 	{
 		return VEXEL_ERROR(ErrorKind, "%s", Malformed);
@@ -103,7 +103,7 @@ TVexelTaskResult<FString> VexelAuthRequests::FetchClientId(FVexelHttp& Api)
 		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
 			{ return ReadClientId(Response); })
 		.Catch<FVexelError_Http>([](const FVexelError_Http& Error) -> TVexelExpected<FString>
-			{ return VEXEL_ERROR_CAUSED(FVexelError_Auth_ClientId, Error, "while fetching plugin client ID from server"); });
+			{ return VexelAuthErrors::Wrap<FVexelError_Auth_ClientId>(VEXEL_HERE, Error, TEXT("while fetching plugin client ID from server")); });
 }
 
 VexelAuthRequests::FAuthorizeAddress VexelAuthRequests::MakeAuthorizeAddress(
@@ -130,17 +130,17 @@ TSharedRef<FVexelHttpRequest> VexelAuthRequests::SendPoll(const FClient& Client,
 	return SendSecret(Client, PollPath, MakePollBody(Client, State));
 }
 
-TVexelExpected<VexelAuthRequests::EPollStatus> VexelAuthRequests::ReadPollStatus(const FString& Body)
+TVexelExpected<VexelAuthRequests::EPollStatus> VexelAuthRequests::ReadPollStatus(const FVexelHttpResponse& Response)
 {
-	const TSharedPtr<FJsonObject> Object = ParseBody(Body);
-	if (!Object)
+	const TOptional<FVexelSecretFields> Body = FVexelSecretFields::FromJson(Response.GetContent());
+	if (!Body)
 	{
-		return VEXEL_ERROR(FVexelError_Auth_Polling, "Malformed OAuth polling response: %s", *Body.Left(MaxQuotedLength));
+		return VEXEL_ERROR(FVexelError_Auth_Polling, "Malformed OAuth polling response: %s", *Quote(Response));
 	}
 	FString Status;
-	if (!Object->TryGetStringField(TEXT("status"), Status))
+	if (!Body->TryGetString(TEXT("status"), Status))
 	{
-		return VEXEL_ERROR(FVexelError_Auth_Polling, "No status field in OAuth polling response: %s", *Body.Left(MaxQuotedLength));
+		return VEXEL_ERROR(FVexelError_Auth_Polling, "No status field in OAuth polling response: %s", *Quote(Response));
 	}
 	if (Status == TEXT("error"))
 	{
@@ -159,25 +159,24 @@ TVexelExpected<VexelAuthRequests::EPollStatus> VexelAuthRequests::ReadPollStatus
 
 TSharedRef<FVexelHttpRequest> VexelAuthRequests::SendCodePoll(const FClient& Client, const FString& State, const FString& CodeVerifier)
 {
-	const TSharedRef<FJsonObject> Body = MakePollBody(Client, State);
-	Body->SetBoolField(TEXT("return_code"), true);
-	Body->SetStringField(TEXT("code_verifier"), CodeVerifier);
+	FVexelSecretFields Body = MakePollBody(Client, State);
+	Body.AddBoolean(TEXT("return_code"), true).AddText(TEXT("code_verifier"), CodeVerifier);
 	return SendSecret(Client, PollPath, Body);
 }
 
-TVexelExpected<FString> VexelAuthRequests::ReadPollCode(const FString& Body)
+TVexelExpected<FVexelAuthSecret> VexelAuthRequests::ReadPollCode(const FVexelHttpResponse& Response)
 {
-	const TSharedPtr<FJsonObject> Object = ParseBody(Body);
-	if (!Object)
+	const TOptional<FVexelSecretFields> Body = FVexelSecretFields::FromJson(Response.GetContent());
+	if (!Body)
 	{
-		return VEXEL_ERROR(FVexelError_Auth_Polling, "Malformed OAuth code response: %s", *Body.Left(MaxQuotedLength));
+		return VEXEL_ERROR(FVexelError_Auth_Polling, "Malformed OAuth code response: %s", *Quote(Response));
 	}
 	FString Code;
-	if (!Object->TryGetStringField(TEXT("code"), Code) || Code.IsEmpty())
+	if (!Body->TryGetString(TEXT("code"), Code) || Code.IsEmpty())
 	{
-		return VEXEL_ERROR(FVexelError_Auth_Polling, "No code field in OAuth code response: %s", *Body.Left(MaxQuotedLength));
+		return VEXEL_ERROR(FVexelError_Auth_Polling, "No code field in OAuth code response: %s", *Quote(Response));
 	}
-	return Code;
+	return FVexelAuthSecret(MoveTemp(Code));
 }
 
 TVexelTaskResult<FTokenResponse> VexelAuthRequests::ExchangeCode(const FClient& Client, const FCodeGrant& Grant)

@@ -6,6 +6,7 @@
 
 class FVexelHttp;
 class FVexelHttpRequest;
+class FVexelHttpResponse;
 
 /** What the login says to the service, and how its answers read. Any thread. */
 namespace VexelAuthRequests
@@ -49,11 +50,11 @@ enum class EPollStatus : uint8
 	Undecided,
 	Approved
 };
-TVexelExpected<EPollStatus> ReadPollStatus(const FString& Body);
+TVexelExpected<EPollStatus> ReadPollStatus(const FVexelHttpResponse& Response);
 
 /** Asks for the code of an approved login; ReadPollCode() reads the answer. */
 TSharedRef<FVexelHttpRequest> SendCodePoll(const FClient& Client, const FString& State, const FString& CodeVerifier);
-TVexelExpected<FString> ReadPollCode(const FString& Body);
+TVexelExpected<FVexelAuthSecret> ReadPollCode(const FVexelHttpResponse& Response);
 
 TVexelTaskResult<FTokenResponse> ExchangeCode(const FClient& Client, const FCodeGrant& Grant);
 TVexelTaskResult<FTokenResponse> Refresh(const FClient& Client, const FVexelAuthSecret& RefreshToken);

@@ -3,6 +3,7 @@
 #include "Containers/StringConv.h"
 #include "Dom/JsonObject.h"
 #include "VexelJson.h"
+#include "VexelSecretFields.h"
 
 namespace
 {
@@ -12,10 +13,10 @@ constexpr double MarginShare = 0.1;
 constexpr double ShortestLifeSeconds = 1.0;
 constexpr double LongestLifeSeconds = 365.0 * 24.0 * 3600.0;
 
-FVexelAuthSecret ReadToken(const FJsonObject& Object, const TCHAR* Field)
+FVexelAuthSecret ReadToken(const FVexelSecretFields& Fields, const TCHAR* Key)
 {
 	FString Text;
-	Object.TryGetStringField(Field, Text);
+	Fields.TryGetString(Key, Text);
 	FVexelAuthSecret Token(MoveTemp(Text));
 	for (const TCHAR Character : Token.Get())
 	{
@@ -28,13 +29,13 @@ FVexelAuthSecret ReadToken(const FJsonObject& Object, const TCHAR* Field)
 }
 }
 
-FTokenResponse FTokenResponse::Parse(const FJsonObject& Object)
+FTokenResponse FTokenResponse::Parse(const FVexelSecretFields& Fields)
 {
 	FTokenResponse Response;
 	double ExpiresIn = 0.0;
-	Response.AccessToken = ReadToken(Object, TEXT("access_token"));
-	Response.RefreshToken = ReadToken(Object, TEXT("refresh_token"));
-	if (Object.TryGetNumberField(TEXT("expires_in"), ExpiresIn))
+	Response.AccessToken = ReadToken(Fields, TEXT("access_token"));
+	Response.RefreshToken = ReadToken(Fields, TEXT("refresh_token"));
+	if (Fields.TryGetNumber(TEXT("expires_in"), ExpiresIn))
 	{
 		Response.ExpiresInSeconds = ExpiresIn;
 	}
@@ -43,12 +44,17 @@ FTokenResponse FTokenResponse::Parse(const FJsonObject& Object)
 
 FString VexelAuthTokens::ReadUserId(const FString& AccessToken)
 {
-	TArray<FString> Parts;
 	TArray<uint8> PayloadBytes;
 	TSharedPtr<FJsonObject> Payload;
 	FString UserId;
-	AccessToken.ParseIntoArray(Parts, TEXT("."), false);
-	if (Parts.Num() != 3 || !FVexelCrypto::Base64UrlDecode(Parts[1], PayloadBytes))
+	// The middle one of three parts alone is copied: without the signature behind it, it opens nothing.
+	FStringView Rest(AccessToken);
+	int32 FirstDot = INDEX_NONE;
+	int32 SecondDot = INDEX_NONE;
+	int32 ThirdDot = INDEX_NONE;
+	const bool bThreeParts = Rest.FindChar(TEXT('.'), FirstDot) && Rest.RightChop(FirstDot + 1).FindChar(TEXT('.'), SecondDot) &&
+		!Rest.RightChop(FirstDot + SecondDot + 2).FindChar(TEXT('.'), ThirdDot);
+	if (!bThreeParts || !FVexelCrypto::Base64UrlDecode(FString(Rest.Mid(FirstDot + 1, SecondDot)), PayloadBytes))
 	{
 		return UserId;
 	}

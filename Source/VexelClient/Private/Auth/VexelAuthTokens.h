@@ -3,13 +3,13 @@
 #include "Auth/VexelAuthSecret.h"
 #include "Misc/Optional.h"
 
-class FJsonObject;
+class FVexelSecretFields;
 
 /** What a token endpoint answers. Complete only with both tokens and a life time. */
 struct FTokenResponse
 {
 	/** A token that could not stand in a header counts as none. */
-	static FTokenResponse Parse(const FJsonObject& Object);
+	static FTokenResponse Parse(const FVexelSecretFields& Fields);
 
 	bool IsComplete() const { return !AccessToken.IsEmpty() && !RefreshToken.IsEmpty() && ExpiresInSeconds.IsSet(); }
 

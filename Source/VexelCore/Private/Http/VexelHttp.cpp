@@ -407,7 +407,9 @@ void FVexelHttpRequest::OnTokenRefreshed(
 	}
 	FString NewToken;
 	const bool bOnline = FVexelHttpManager::GetAuthState(NewToken) == FVexelHttp::IAuthProvider::EAuthResult::Authenticated;
-	if (Refreshed.HasError() || !bOnline || NewToken.Equals(UsedToken))
+	const bool bSameToken = FVexelCrypto::SecretsEqual(NewToken, UsedToken);
+	FVexelCrypto::Wipe(NewToken);
+	if (Refreshed.HasError() || !bOnline || bSameToken)
 	{
 		Complete(FirstAnswer);
 		return;

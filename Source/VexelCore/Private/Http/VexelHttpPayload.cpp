@@ -1,9 +1,9 @@
 #include "VexelHttpPayload.h"
 
-#include "Containers/StringConv.h"
 #include "Dom/JsonObject.h"
 #include "HAL/FileManager.h"
 #include "Misc/Guid.h"
+#include "Storage/SecretBytes.h"
 #include "VexelCrypto.h"
 #include "VexelJson.h"
 
@@ -14,7 +14,7 @@ constexpr int32 LongestEscape = 9;
 
 void AppendUtf8(TArray<uint8>& Bytes, const FString& Text)
 {
-	const FTCHARToUTF8 Utf8(*Text, Text.Len());
+	const FWipedUtf8 Utf8(*Text, Text.Len());
 	Bytes.Append(reinterpret_cast<const uint8*>(Utf8.Get()), Utf8.Length());
 }
 
@@ -27,7 +27,7 @@ bool IsUnreserved(uint8 Byte)
 
 void AppendUrlEncoded(FString& Out, const FString& Text)
 {
-	const FTCHARToUTF8 Utf8(*Text, Text.Len());
+	const FWipedUtf8 Utf8(*Text, Text.Len());
 	for (int32 Index = 0; Index < Utf8.Length(); ++Index)
 	{
 		const uint8 Byte = uint8(Utf8.Get()[Index]);

@@ -1,6 +1,7 @@
 #include "Http/VexelHttpThread.h"
 
 #include "HAL/RunnableThread.h"
+#include "Http/CurlLibrary.h"
 #include "Misc/ScopeLock.h"
 
 namespace
@@ -14,8 +15,7 @@ constexpr long MaxConnections = 128;
 
 FVexelHttpThread::FVexelHttpThread()
 {
-	static const CURLcode GlobalInit = curl_global_init(CURL_GLOBAL_DEFAULT);
-	checkf(GlobalInit == CURLE_OK, TEXT("libcurl cannot be initialised: %s"), *FString(curl_easy_strerror(GlobalInit)));
+	CurlLibrary::Start();
 	Multi = curl_multi_init();
 	check(Multi);
 	curl_multi_setopt(Multi, CURLMOPT_MAXCONNECTS, MaxIdleConnections);

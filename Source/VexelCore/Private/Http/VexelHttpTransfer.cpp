@@ -2,7 +2,9 @@
 
 #include "Containers/StringConv.h"
 #include "HAL/PlatformTime.h"
+#include "Http/CurlLibrary.h"
 #include "Misc/ScopeLock.h"
+#include "Storage/SecretBytes.h"
 #include "VexelCrypto.h"
 #include "VexelErrorKinds.h"
 #include "VexelInternalConfig.h"
@@ -58,6 +60,19 @@ std::string GetHostsWithoutProxy()
 	return Hosts == "*" ? Hosts : Hosts + (Hosts.empty() ? "" : ",") + "localhost,127.0.0.1,::1";
 }
 
+/** Makes room for more, and leaves nothing in the memory that is given up for that. */
+void MakeRoom(TArray<uint8>& Secret, int32 NumMore)
+{
+	if (Secret.Num() + NumMore > Secret.Max())
+	{
+		TArray<uint8> Larger;
+		Larger.Reserve(int32(FMath::Min(int64(MAX_int32), 2 * (int64(Secret.Num()) + NumMore))));
+		Larger.Append(Secret);
+		FVexelCrypto::Wipe(Secret);
+		Secret = MoveTemp(Larger);
+	}
+}
+
 FString ToText(TConstArrayView<uint8> Bytes)
 {
 	const FUTF8ToTCHAR Converted(reinterpret_cast<const ANSICHAR*>(Bytes.GetData()), Bytes.Num());
@@ -89,6 +104,10 @@ FVexelHttpTransfer::~FVexelHttpTransfer()
 {
 	curl_easy_cleanup(Handle);
 	curl_slist_free_all(HeaderList);
+	if (Setup.bSecret)
+	{
+		FVexelCrypto::Wipe(Body);
+	}
 }
 
 TSharedPtr<FVexelHttpResponse> FVexelHttpTransfer::GetResponse() const
@@ -107,7 +126,9 @@ bool FVexelHttpTransfer::Prepare()
 	}
 	for (const TTuple<FString, FString>& Header : Setup.Headers)
 	{
-		HeaderList = curl_slist_append(HeaderList, TCHAR_TO_UTF8(*(Header.Get<0>() + TEXT(": ") + Header.Get<1>())));
+		FString Line = Header.Get<0>() + TEXT(": ") + Header.Get<1>();
+		HeaderList = curl_slist_append(HeaderList, FWipedUtf8(*Line).Get());
+		FVexelCrypto::Wipe(Line);
 	}
 	// libcurl would wait for a "100 Continue" that few services send.
 	HeaderList = curl_slist_append(HeaderList, "Expect:");
@@ -140,6 +161,7 @@ void FVexelHttpTransfer::SetOptions()
 	curl_easy_setopt(Handle, CURLOPT_PIPEWAIT, bProtected ? 1L : 0L);
 	curl_easy_setopt(Handle, CURLOPT_ACCEPT_ENCODING, "");
 	curl_easy_setopt(Handle, CURLOPT_SSLVERSION, long(CURL_SSLVERSION_TLSv1_2));
+	curl_easy_setopt(Handle, CURLOPT_SSL_CTX_FUNCTION, &CurlLibrary::PrepareTls);
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYPEER, 1L);
 	curl_easy_setopt(Handle, CURLOPT_SSL_VERIFYHOST, 2L);
 	const FString CaBundle = CaBundleSetting.Get();
@@ -320,6 +342,10 @@ size_t FVexelHttpTransfer::AppendBody(TConstArrayView<uint8> Bytes)
 		curl_off_t Announced = 0;
 		curl_easy_getinfo(Handle, CURLINFO_CONTENT_LENGTH_DOWNLOAD_T, &Announced);
 		Body.Reserve(int32(FMath::Clamp(Announced, curl_off_t(Bytes.Num()), FMath::Max(MaxReservedBytes, curl_off_t(Bytes.Num())))));
+	}
+	if (Setup.bSecret)
+	{
+		MakeRoom(Body, Bytes.Num());
 	}
 	Body.Append(Bytes.GetData(), Bytes.Num());
 	long Status = 0;

@@ -1,6 +1,7 @@
 #include "VexelUrlUtils.h"
 
 #include "Containers/StringConv.h"
+#include "Http/CurlLibrary.h"
 #include "Misc/Paths.h"
 #include "VexelErrorKinds.h"
 #include "VexelHttpPayload.h"
@@ -17,6 +18,7 @@ using FUrl = std::unique_ptr<CURLU, decltype(&curl_url_cleanup)>;
 /** Null for a text that is no address of http or https. */
 FUrl Parse(const FString& Text)
 {
+	CurlLibrary::Start();
 	FUrl Url(curl_url(), &curl_url_cleanup);
 	if (Url && curl_url_set(Url.get(), CURLUPART_URL, TCHAR_TO_UTF8(*Text), CURLU_PATH_AS_IS) != CURLUE_OK)
 	{

@@ -1,6 +1,6 @@
 #include "Storage/KeyringSecretStore.h"
 
-#include "Containers/StringConv.h"
+#include "Storage/SecretBytes.h"
 #include "VexelErrorKinds.h"
 
 #include <libsecret/secret.h>
@@ -87,9 +87,10 @@ TVexelExpected<void> FKeyringSecretStore::Store(const FString& Key, const FStrin
 	}
 	const FAttributes Attributes(Scope, Key);
 	const FString Label = TEXT("Vexel: ") + Key + (Scope.IsEmpty() ? FString() : TEXT(" of ") + Scope);
+	const FWipedUtf8 Utf8(*Value);
 	GError* Failure = nullptr;
 	const gboolean bStored = secret_password_storev_sync(
-		&GetSchema(), Attributes.Get(), SECRET_COLLECTION_DEFAULT, TCHAR_TO_UTF8(*Label), TCHAR_TO_UTF8(*Value), nullptr, &Failure);
+		&GetSchema(), Attributes.Get(), SECRET_COLLECTION_DEFAULT, TCHAR_TO_UTF8(*Label), Utf8.Get(), nullptr, &Failure);
 	return bStored ? TVexelExpected<void>() : MakeError(TEXT("Cannot write to"), Failure);
 }
 
@@ -105,7 +106,8 @@ TVexelExpected<TOptional<FString>> FKeyringSecretStore::Load(const FString& Key)
 	TOptional<FString> Value;
 	if (Raw)
 	{
-		Value = FString(UTF8_TO_TCHAR(Raw));
+		const FWipedTChar Text(Raw);
+		Value = FString::ConstructFromPtrSize(Text.Get(), Text.Length());
 		secret_password_free(Raw);
 	}
 	return Value;

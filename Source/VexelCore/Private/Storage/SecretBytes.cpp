@@ -1,9 +1,5 @@
 #include "Storage/SecretBytes.h"
 
-#include "Containers/StringConv.h"
-
-#include <openssl/crypto.h>
-
 FSecretBytes::FSecretBytes(int32 Num)
 {
 	Bytes.SetNumZeroed(Num);
@@ -16,9 +12,8 @@ FSecretBytes::FSecretBytes(TConstArrayView<uint8> From)
 
 FSecretBytes::FSecretBytes(const FString& Text)
 {
-	FTCHARToUTF8 Utf8(*Text, Text.Len());
+	const FWipedUtf8 Utf8(*Text, Text.Len());
 	Bytes.Append(reinterpret_cast<const uint8*>(Utf8.Get()), Utf8.Length());
-	OPENSSL_cleanse(const_cast<ANSICHAR*>(Utf8.Get()), size_t(Utf8.Length()));
 }
 
 FSecretBytes::~FSecretBytes()
@@ -43,10 +38,8 @@ FSecretBytes& FSecretBytes::operator=(FSecretBytes&& Other)
 
 FString FSecretBytes::ToText() const
 {
-	FUTF8ToTCHAR Text(reinterpret_cast<const ANSICHAR*>(Bytes.GetData()), Bytes.Num());
-	const FString Answer = FString::ConstructFromPtrSize(Text.Get(), Text.Length());
-	OPENSSL_cleanse(const_cast<TCHAR*>(Text.Get()), sizeof(TCHAR) * size_t(Text.Length()));
-	return Answer;
+	const FWipedTChar Text(reinterpret_cast<const ANSICHAR*>(Bytes.GetData()), Bytes.Num());
+	return FString::ConstructFromPtrSize(Text.Get(), Text.Length());
 }
 
 bool FSecretBytes::operator==(const FSecretBytes& Other) const

@@ -1,6 +1,24 @@
 #pragma once
 
+#include "Containers/StringConv.h"
 #include "CoreMinimal.h"
+
+#include <openssl/crypto.h>
+
+/** A secret text in another encoding, overwritten when it goes. */
+template <typename ConversionType>
+class TWipedConversion : public ConversionType
+{
+public:
+	using ConversionType::ConversionType;
+	~TWipedConversion()
+	{
+		OPENSSL_cleanse(const_cast<void*>(static_cast<const void*>(this->Get())), sizeof(*this->Get()) * size_t(this->Length()));
+	}
+	UE_NONCOPYABLE(TWipedConversion)
+};
+using FWipedUtf8 = TWipedConversion<FTCHARToUTF8>;
+using FWipedTChar = TWipedConversion<FUTF8ToTCHAR>;
 
 /** Bytes of a secret, overwritten when they go. Their number is fixed when they are made, so that no copy is left behind by growth. */
 class FSecretBytes
