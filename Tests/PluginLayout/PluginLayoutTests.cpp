@@ -40,6 +40,7 @@ const FNames HostOnlyHeaders = {"HeadlessEditor.h", "Misc/AtomicFile.h", "NodeTe
 const std::map<std::string, FNames> SystemLibraries = {
 	{"CURL::libcurl", {"curl"}},
 	{"OpenSSL::Crypto", {"crypto"}},
+	{"OpenSSL::SSL", {"ssl"}},
 	{"PkgConfig::CPPHTTPLIB", {"cpp-httplib"}},
 	{"PkgConfig::LIBSECRET", {"secret-1", "gio-2.0", "gobject-2.0", "glib-2.0"}},
 	{"SQLite::SQLite3", {"sqlite3"}},
@@ -52,12 +53,13 @@ const std::vector<std::pair<std::string, FNames>> ThirdPartyHeaders = {
 	{"httplib.h", {"VexelCore"}},
 	{"libsecret/", {"VexelCore"}},
 	{"openssl/", {"VexelCore"}},
+	{"rapidjson/", {"VexelCore"}},
 	{"sqlite3.h", {"VexelDatabase"}},
 	{"zlib.h", {"VexelCore"}},
 };
 
 /** The system's own, for what no engine API does. */
-const FNames SystemHeaders = {"arpa/inet.h", "fcntl.h", "netinet/in.h", "pwd.h", "sys/file.h", "sys/socket.h", "sys/stat.h", "unistd.h"};
+const FNames SystemHeaders = {"arpa/inet.h", "fcntl.h", "malloc.h", "netinet/in.h", "pwd.h", "sys/file.h", "sys/socket.h", "sys/stat.h", "unistd.h"};
 
 /** The compilers' own, for what the language cannot say. */
 const FNames CompilerHeaders = {"emmintrin.h"};

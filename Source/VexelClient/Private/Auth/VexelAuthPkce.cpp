@@ -1,6 +1,5 @@
 #include "Auth/VexelAuthPkce.h"
 
-#include "Containers/StringConv.h"
 #include "VexelErrorKinds.h"
 
 namespace
@@ -24,6 +23,20 @@ TVexelExpected<FVexelAuthSecret> MakeRandomText(int32 NumBytes, const TCHAR* NoB
 	}
 	return Text;
 }
+
+FString MakeChallenge(const FString& Verifier)
+{
+	// Characters of base64url, which are their own UTF-8.
+	TArray<uint8> Utf8;
+	Utf8.Reserve(Verifier.Len());
+	for (const TCHAR Character : Verifier)
+	{
+		Utf8.Add(uint8(Character));
+	}
+	FString Challenge = FVexelCrypto::Base64UrlEncode(FVexelCrypto::Sha256(Utf8));
+	FVexelCrypto::Wipe(Utf8);
+	return Challenge;
+}
 }
 
 TVexelExpected<FVexelAuthPkce> FVexelAuthPkce::Make()
@@ -35,8 +48,6 @@ TVexelExpected<FVexelAuthPkce> FVexelAuthPkce::Make()
 	VEXEL_TRY(Pkce.State,
 		MakeRandomText(StateBytes, TEXT("Failed to generate secure random bytes for OAuth state"),
 			TEXT("Failed to base64-encode OAuth state")));
-	const FTCHARToUTF8 Verifier(*Pkce.CodeVerifier.Get());
-	Pkce.CodeChallenge = FVexelCrypto::Base64UrlEncode(
-		FVexelCrypto::Sha256(TConstArrayView<uint8>(reinterpret_cast<const uint8*>(Verifier.Get()), Verifier.Length())));
+	Pkce.CodeChallenge = MakeChallenge(Pkce.CodeVerifier.Get());
 	return Pkce;
 }

@@ -496,12 +496,7 @@ FString FVexelHttpResponse::GetContentString() const
 TSharedPtr<FJsonObject> FVexelHttpResponse::GetContentJson() const
 {
 	TSharedPtr<FJsonObject> Object;
-	FString Text = GetContentString();
-	FVexelJsonConversions::StringToJson(Text, Object);
-	if (bSecret)
-	{
-		FVexelCrypto::Wipe(Text);
-	}
+	FVexelJsonConversions::StringToJson(GetContentString(), Object);
 	return Object;
 }
 
