@@ -1,6 +1,7 @@
 #include "BenchmarkEditor.h"
 #include "EdGraphSchema_K2.h"
 #include "Editor.h"
+#include "Editor/Transactor.h"
 #include "Engine/Blueprint.h"
 #include "GameFramework/Actor.h"
 #include "Kismet2/BlueprintEditorUtils.h"
@@ -118,6 +119,7 @@ void Edit(benchmark::State& State, void (FMemberEdits::*Make)())
 		State.ResumeTiming();
 		((*Edits).*Make)();
 		State.PauseTiming();
+		State.counters["undo_bytes"] = static_cast<double>(GEditor->Trans->GetUndoSize());
 		if (!Edits->IsMade())
 		{
 			State.SkipWithError("the edits were not made");

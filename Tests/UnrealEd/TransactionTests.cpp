@@ -5,6 +5,8 @@
 #include "Misc/Change.h"
 #include "UObject/UnrealType.h"
 
+#include <random>
+
 namespace
 {
 class FTransactionTest : public FBlueprintEditTest
@@ -25,9 +27,37 @@ protected:
 		Node->NodePosX = PositionX;
 	}
 
+	static void Comment(UTransBuffer& Buffer, UEdGraphNode* Node, const FString& Text)
+	{
+		Buffer.Begin(TEXT(""), Title(TEXT("Comment")));
+		Node->Modify();
+		Node->NodeComment = Text;
+		Buffer.End();
+	}
+
 	UEdGraphNode* First = nullptr;
 	UEdGraphNode* Second = nullptr;
 };
+
+/** A text that has nothing in common with one made before. */
+FString MakeNoise(std::mt19937& Random, int32 Length)
+{
+	FString Noise;
+	while (Noise.Len() < Length)
+	{
+		Noise.AppendChar(static_cast<TCHAR>(TEXT('!') + Random() % 90));
+	}
+	return Noise;
+}
+
+/** Inserts or replaces at any place. */
+FString EditText(std::mt19937& Random, const FString& Text)
+{
+	const int32 Place = static_cast<int32>(Random() % (Text.Len() + 1));
+	const int32 NumRemoved = Random() % 2 ? static_cast<int32>(Random() % 40) : 0;
+	const int32 NumAdded = static_cast<int32>(Random() % 40) + 1;
+	return Text.Left(Place) + MakeNoise(Random, NumAdded) + Text.RightChop(Place + NumRemoved);
+}
 
 TEST_F(FTransactionTest, UndoGoesBackStepByStepAndRedoForth)
 {
@@ -153,28 +183,107 @@ TEST_F(FTransactionTest, TheOldestEntriesGoWhenTheBufferIsFull)
 {
 	UTransBuffer* const Buffer = NewObject<UTransBuffer>();
 	Buffer->Initialize(0);
+	std::mt19937 Random(1);
+	TArray<FString> Texts;
+	const auto CommentAnew = [&]()
+	{
+		Texts.Add(First->NodeComment);
+		Comment(*Buffer, First, MakeNoise(Random, 100'000));
+	};
 	for (int32 Number = 1; Number <= 3; ++Number)
 	{
-		Buffer->Begin(TEXT(""), Title(TEXT("Move")));
-		First->Modify();
-		First->NodePosX = Number;
-		Buffer->End();
+		CommentAnew();
 	}
 	EXPECT_EQ(Buffer->GetQueueLength(), 1);
 	const SIZE_T SizeOfOne = Buffer->GetUndoSize();
-	EXPECT_GT(SizeOfOne, 100u);
+	EXPECT_GT(SizeOfOne, 100'000u);
 	Buffer->Initialize(3 * SizeOfOne + SizeOfOne / 2);
 	for (int32 Number = 4; Number <= 9; ++Number)
 	{
-		Buffer->Begin(TEXT(""), Title(TEXT("Move")));
-		First->Modify();
-		First->NodePosX = Number;
-		Buffer->End();
+		CommentAnew();
 	}
 	EXPECT_EQ(Buffer->GetQueueLength(), 3);
 	EXPECT_TRUE(Buffer->Undo() && Buffer->Undo() && Buffer->Undo());
-	EXPECT_EQ(First->NodePosX, 6);
+	EXPECT_EQ(First->NodeComment, Texts[6]);
 	EXPECT_FALSE(Buffer->Undo());
+}
+
+TEST_F(FTransactionTest, SmallEditsOfALargeObjectTakeLittleMemory)
+{
+	UTransBuffer* const Buffer = NewObject<UTransBuffer>();
+	constexpr SIZE_T Enough = 64 * 1024 * 1024;
+	constexpr int32 NumEdits = 200;
+	Buffer->Initialize(Enough);
+	std::mt19937 Random(2);
+	const FString Text = MakeNoise(Random, 50'000);
+	First->NodeComment = Text;
+	for (int32 Number = 0; Number < NumEdits; ++Number)
+	{
+		Comment(*Buffer, First, EditText(Random, First->NodeComment));
+	}
+	EXPECT_EQ(Buffer->GetQueueLength(), NumEdits);
+	EXPECT_LT(Buffer->GetUndoSize(), 500'000u);
+	while (Buffer->Undo())
+	{
+		EXPECT_LT(Buffer->GetUndoSize(), 500'000u);
+	}
+	EXPECT_TRUE(First->NodeComment.Equals(Text, ESearchCase::CaseSensitive));
+	Buffer->Reset(Title(TEXT("Forget")));
+	EXPECT_EQ(Buffer->GetUndoSize(), 0u);
+}
+
+TEST_F(FTransactionTest, LongStatesComeBackExactlyWhateverHappensBetween)
+{
+	UTransBuffer* const Buffer = NewObject<UTransBuffer>();
+	constexpr SIZE_T Enough = 64 * 1024 * 1024;
+	Buffer->Initialize(Enough);
+	std::mt19937 Random(3);
+	First->NodeComment = MakeNoise(Random, 3'000);
+	/** What each entry puts back, and how many entries are not undone. */
+	TArray<FString> Entries;
+	int32 Position = 0;
+	FString Expected = First->NodeComment;
+	for (int32 Step = 0; Step < 2'000; ++Step)
+	{
+		switch (Random() % 8)
+		{
+			case 0: // nobody is told
+				Expected = EditText(Random, Expected);
+				First->NodeComment = Expected;
+				break;
+			case 1: // what is cancelled stays changed
+				Buffer->Begin(TEXT(""), Title(TEXT("Cancelled")));
+				First->Modify();
+				Expected = EditText(Random, Expected);
+				First->NodeComment = Expected;
+				Buffer->Cancel();
+				break;
+			case 2:
+			case 3:
+				EXPECT_EQ(Buffer->Redo(), Position < Entries.Num());
+				if (Position < Entries.Num())
+				{
+					Swap(Expected, Entries[Position++]);
+				}
+				break;
+			case 4:
+			case 5:
+				EXPECT_EQ(Buffer->Undo(), Position > 0);
+				if (Position > 0)
+				{
+					Swap(Expected, Entries[--Position]);
+				}
+				break;
+			default:
+				Entries.SetNum(Position);
+				Entries.Add(Expected);
+				++Position;
+				Expected = EditText(Random, Expected);
+				Comment(*Buffer, First, Expected);
+				break;
+		}
+		ASSERT_TRUE(First->NodeComment.Equals(Expected, ESearchCase::CaseSensitive)) << "step " << Step;
+	}
 }
 
 TEST_F(FTransactionTest, ABarrierStopsUndoUntilItIsRemoved)

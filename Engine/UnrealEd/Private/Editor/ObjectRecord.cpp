@@ -1,5 +1,7 @@
 #include "ObjectRecord.h"
 
+#include "StateBytes.h"
+
 #include "Engine/BlueprintGeneratedClass.h"
 #include "Serialization/ArchiveUObject.h"
 #include "Serialization/CustomVersion.h"
@@ -126,32 +128,89 @@ TArray<uint8>& WriteToScratch(UObject& Object, FTransactionObjectTable& Table, b
 }
 }
 
+int32 FObjectStateStore::Find(const UObject* Object) const
+{
+	const int32* const Index = Indices.Find(const_cast<UObject*>(Object));
+	return Index && Entries[*Index].Object == Object ? *Index : INDEX_NONE;
+}
+
+int32 FObjectStateStore::FindOrAdd(UObject* Object)
+{
+	int32& Index = Indices.FindOrAdd(Object, INDEX_NONE);
+	// The object of an entry may have been replaced since, and its address taken by another one.
+	if (Index == INDEX_NONE || Entries[Index].Object != Object)
+	{
+		Index = FreeEntries.IsEmpty() ? Entries.AddDefaulted() : FreeEntries.Pop();
+		Entries[Index].Object = Object;
+		Entries[Index].Key = Object;
+	}
+	return Index;
+}
+
+void FObjectStateStore::RemoveUser(int32 Index)
+{
+	FEntry& Entry = Entries[Index];
+	if (--Entry.NumUsers > 0)
+	{
+		return;
+	}
+	const int32* const Named = Indices.Find(Entry.Key);
+	if (Named && *Named == Index)
+	{
+		Indices.Remove(Entry.Key);
+	}
+	Entry = FEntry();
+	FreeEntries.Add(Index);
+}
+
+void FObjectStateStore::AddReference(int32 Index, FReferenceCollector& Collector) { Collector.AddStableReference(&Entries[Index].Object); }
+
+TSharedRef<FStateBytes> FObjectStateStore::Hold(int32 Index, const TArray<uint8>& Bytes)
+{
+	const TSharedPtr<FStateBytes> Latest = Entries[Index].Latest.Pin();
+	return Latest && Latest->GetWhole() == Bytes ? Latest.ToSharedRef() : MakeShared<FStateBytes>(Bytes, NumBytes);
+}
+
+void FObjectStateStore::SetLatest(int32 Index, const TSharedRef<FStateBytes>& Bytes)
+{
+	Bytes->GetWhole();
+	const TSharedPtr<FStateBytes> Former = Entries[Index].Latest.Pin();
+	if (Former && Former != Bytes)
+	{
+		Former->RestOn(Bytes);
+	}
+	Entries[Index].Latest = Bytes;
+}
+
+FTransactionObjectTable::~FTransactionObjectTable()
+{
+	for (const int32 Index : Used)
+	{
+		Store->RemoveUser(Index);
+	}
+}
+
 int32 FTransactionObjectTable::Add(UObject* Object)
 {
 	if (!Object)
 	{
 		return INDEX_NONE;
 	}
-	int32& Index = Indices.FindOrAdd(Object, INDEX_NONE);
-	// The object of an entry may have been replaced since, and its address taken by another one.
-	if (Index == INDEX_NONE || Objects[Index] != Object)
+	const int32 Index = Store->FindOrAdd(Object);
+	bool bIsUsed = false;
+	Used.Add(Index, &bIsUsed);
+	if (!bIsUsed)
 	{
-		Index = Objects.Add(Object);
+		Store->AddUser(Index);
 	}
 	return Index;
 }
 
-int32 FTransactionObjectTable::Find(const UObject* Object) const
-{
-	const int32* const Index = Indices.Find(const_cast<UObject*>(Object));
-	return Index && *Index != INDEX_NONE && Objects[*Index] == Object ? *Index : INDEX_NONE;
-}
-
 void FTransactionObjectTable::AddReferencedObjects(FReferenceCollector& Collector)
 {
-	for (TObjectPtr<UObject>& Object : Objects)
+	for (const int32 Index : Used)
 	{
-		Collector.AddStableReference(&Object);
+		Store->AddReference(Index, Collector);
 	}
 }
 
@@ -165,7 +224,7 @@ FObjectState FObjectState::Capture(UObject& Object, FTransactionObjectTable& Tab
 	if (!State.bIsGarbage)
 	{
 		State.bIsTagged = Object.GetClass()->IsA<UBlueprintGeneratedClass>();
-		State.Data = WriteToScratch(Object, Table, State.bIsTagged);
+		State.Bytes = Table.GetStore().Hold(Table.Add(&Object), WriteToScratch(Object, Table, State.bIsTagged));
 	}
 	return State;
 }
@@ -177,7 +236,7 @@ bool FObjectState::IsCurrent(UObject& Object, FTransactionObjectTable& Table) co
 	{
 		return bIsGarbage == bIsGarbageNow;
 	}
-	return Flags == Object.GetMaskedFlags(RestoredFlags) && Data == WriteToScratch(Object, Table, bIsTagged);
+	return Flags == Object.GetMaskedFlags(RestoredFlags) && Bytes->GetWhole() == WriteToScratch(Object, Table, bIsTagged);
 }
 
 FTransactionObjectDeltaChange FObjectState::Compare(const FObjectState& Other) const
@@ -186,7 +245,8 @@ FTransactionObjectDeltaChange FObjectState::Compare(const FObjectState& Other) c
 	Delta.bHasNameChange = !Name.IsEqual(Other.Name, ENameCase::CaseSensitive);
 	Delta.bHasOuterChange = OuterIndex != Other.OuterIndex;
 	Delta.bHasPendingKillChange = bIsGarbage != Other.bIsGarbage;
-	Delta.bHasNonPropertyChanges = Flags != Other.Flags || Data != Other.Data;
+	const bool bHasOtherBytes = Bytes != Other.Bytes && (!Bytes || !Other.Bytes || Bytes->GetWhole() != Other.Bytes->GetWhole());
+	Delta.bHasNonPropertyChanges = Flags != Other.Flags || bHasOtherBytes;
 	return Delta;
 }
 
@@ -197,12 +257,22 @@ void FObjectState::Restore(UObject& Object, FTransactionObjectTable& Table) cons
 		Object.MarkAsGarbage();
 		return;
 	}
-	FStateReader Reader(Data, Table, bIsTagged);
+	FStateReader Reader(Bytes->GetWhole(), Table, bIsTagged);
 	Object.Serialize(Reader);
 	checkf(!Reader.IsError(), TEXT("%s reads another state than it wrote"), *Object.GetFullName());
 	Object.ClearFlags(RestoredFlags);
 	Object.SetFlags(Flags);
 }
+
+void FObjectRecord::MakeLatest(FTransactionObjectTable& Table)
+{
+	if (State.Bytes)
+	{
+		Table.GetStore().SetLatest(Table.Add(Object), State.Bytes.ToSharedRef());
+	}
+}
+
+SIZE_T FObjectRecord::GetStateSize() const { return State.Bytes ? State.Bytes->GetAllocatedSize() : 0; }
 
 void MoveGarbageAway(UObject& Object)
 {

@@ -2,40 +2,94 @@
 
 #include "CoreMinimal.h"
 #include "Misc/TransactionObjectEvent.h"
+#include "Templates/SharedPointer.h"
 #include "UObject/ObjectPtr.h"
 #include "UObject/UObjectGlobals.h"
 
 class FReferenceCollector;
+class FStateBytes;
 
 /**
- * The objects that the states of one transaction refer to, each once. A state names them by index, so that one replaced is replaced in
- * all.
+ * What the transactions of one undo buffer share: a number for each object that a state refers to, and of each object the state last
+ * seen, of which the others are held as differences.
+ */
+class FObjectStateStore
+{
+public:
+	/** INDEX_NONE for an object that nobody uses. */
+	int32 Find(const UObject* Object) const;
+	/** Null for INDEX_NONE. */
+	UObject* Get(int32 Index) const { return Entries.IsValidIndex(Index) ? Entries[Index].Object.Get() : nullptr; }
+	/** The object's index. It is the object's while somebody uses it. */
+	int32 FindOrAdd(UObject* Object);
+	void AddUser(int32 Index) { ++Entries[Index].NumUsers; }
+	void RemoveUser(int32 Index);
+	void AddReference(int32 Index, FReferenceCollector& Collector);
+
+	/** Holds the bytes; those of the object's last state are not held twice. */
+	TSharedRef<FStateBytes> Hold(int32 Index, const TArray<uint8>& Bytes);
+	/** The object's last state from here on; the one before is held as what differs from it. */
+	void SetLatest(int32 Index, const TSharedRef<FStateBytes>& Bytes);
+
+	/** Bytes that the states and the entries take, with what Count was told of. */
+	SIZE_T GetSize() const { return NumBytes + Entries.GetAllocatedSize() + Indices.GetAllocatedSize(); }
+	/** Memory of others that belongs to the buffer: what it was before, and what it is. */
+	void Count(SIZE_T Before, SIZE_T Now) { NumBytes += Now - Before; }
+
+private:
+	struct FEntry
+	{
+		TObjectPtr<UObject> Object;
+		/** What the entry is found by: the object may have been replaced since. */
+		UObject* Key = nullptr;
+		int32 NumUsers = 0;
+		/** Held whole. */
+		TWeakPtr<FStateBytes> Latest;
+	};
+
+	TArray<FEntry> Entries;
+	TArray<int32> FreeEntries;
+	TMap<UObject*, int32> Indices;
+	SIZE_T NumBytes = 0;
+};
+
+/**
+ * The objects that the states of one transaction refer to. A state names them by index, so that one replaced is replaced in all, and so
+ * that two states are alike whatever transactions they are of.
  */
 class FTransactionObjectTable
 {
 public:
+	explicit FTransactionObjectTable(const TSharedRef<FObjectStateStore>& InStore)
+		: Store(InStore)
+	{
+	}
+	~FTransactionObjectTable();
+	UE_NONCOPYABLE(FTransactionObjectTable)
+
 	int32 Add(UObject* Object);
 	/** INDEX_NONE for an object that no state refers to. */
-	int32 Find(const UObject* Object) const;
+	int32 Find(const UObject* Object) const { return Store->Find(Object); }
 	/** Null for INDEX_NONE. */
-	UObject* Get(int32 Index) const { return Objects.IsValidIndex(Index) ? Objects[Index].Get() : nullptr; }
+	UObject* Get(int32 Index) const { return Store->Get(Index); }
 	void AddReferencedObjects(FReferenceCollector& Collector);
-	SIZE_T GetAllocatedSize() const { return Objects.GetAllocatedSize() + Indices.GetAllocatedSize(); }
+	FObjectStateStore& GetStore() const { return *Store; }
+	SIZE_T GetAllocatedSize() const { return Used.GetAllocatedSize(); }
 
 private:
-	TArray<TObjectPtr<UObject>> Objects;
-	TMap<UObject*, int32> Indices;
+	const TSharedRef<FObjectStateStore> Store;
+	TSet<int32> Used;
 };
 
 /** An object as it was at one time. */
 struct FObjectState
 {
-	/** What the object's serializer writes; objects in it are indices into the transaction's table. */
-	TArray<uint8> Data;
+	/** What the object's serializer writes; objects in it are indices into the transaction's table. Null for garbage. */
+	TSharedPtr<FStateBytes> Bytes;
 	FName Name;
 	int32 OuterIndex = INDEX_NONE;
 	EObjectFlags Flags = RF_NoFlags;
-	/** The object was not there: it had not been made, or had been given up. Data is empty then. */
+	/** The object was not there: it had not been made, or had been given up. */
 	bool bIsGarbage = false;
 	/** By member name rather than by place, because the class may be compiled again before the state is restored. */
 	bool bIsTagged = false;
@@ -53,6 +107,11 @@ struct FObjectRecord
 {
 	TObjectPtr<UObject> Object;
 	FObjectState State;
+
+	/** Holds the object's other states as differences from this one. */
+	void MakeLatest(FTransactionObjectTable& Table);
+	/** Bytes that the state takes; what others share is counted for each. */
+	SIZE_T GetStateSize() const;
 };
 
 /** Gives the names of objects that are garbage back to their outers, for others to use. Restoring brings name and outer back. */

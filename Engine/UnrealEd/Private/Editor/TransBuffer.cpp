@@ -1,5 +1,7 @@
 #include "Editor/TransBuffer.h"
 
+#include "ObjectRecord.h"
+
 #include "Templates/Casts.h"
 #include "UObject/ReferenceCollector.h"
 
@@ -41,7 +43,8 @@ int32 UTransBuffer::Begin(const TCHAR* SessionContext, const FText& Description)
 		}
 		UndoBuffer.RemoveAt(GetPosition(), UndoCount);
 		UndoCount = 0;
-		UndoBuffer.Add(MakeShared<FTransaction>(SessionContext, Description));
+		Store = Store ? Store : MakeShared<FObjectStateStore>().ToSharedPtr();
+		UndoBuffer.Add(MakeShared<FTransaction>(SessionContext, Description, Store.ToSharedRef()));
 		GetOpen().BeginOperation();
 	}
 	ActiveRecordCounts.Add(GetOpen().GetRecordCount());
@@ -104,17 +107,15 @@ void UTransBuffer::DiscardOpen()
 
 void UTransBuffer::DropOldest()
 {
-	SIZE_T Size = GetUndoSize();
 	int32 Count = 0;
-	while (Size > MaxMemory && Count + 1 < UndoBuffer.Num())
+	for (; GetUndoSize() > MaxMemory && UndoBuffer.Num() > 1; ++Count)
 	{
-		Size -= UndoBuffer[Count++]->DataSize();
+		UndoBuffer.RemoveAt(0);
 	}
 	if (Count == 0)
 	{
 		return;
 	}
-	UndoBuffer.RemoveAt(0, Count);
 	for (int32& Barrier : UndoBarriers)
 	{
 		Barrier = FMath::Max(0, Barrier - Count);
@@ -130,6 +131,7 @@ void UTransBuffer::Reset(const FText& Reason)
 	UndoBuffer.Empty();
 	UndoBarriers.Empty();
 	UndoCount = 0;
+	Store.Reset();
 	UE_LOG(LogEditorTransaction, Log, TEXT("The undo history is cleared: %s"), *Reason.ToString());
 	if (bHadEntries)
 	{
@@ -188,15 +190,7 @@ FTransactionContext UTransBuffer::GetRedoContext()
 	return UndoBuffer[GetPosition()]->GetContext();
 }
 
-SIZE_T UTransBuffer::GetUndoSize() const
-{
-	SIZE_T Size = 0;
-	for (const TSharedRef<FTransaction>& Transaction : UndoBuffer)
-	{
-		Size += Transaction->DataSize();
-	}
-	return Size;
-}
+SIZE_T UTransBuffer::GetUndoSize() const { return Store ? Store->GetSize() : 0; }
 
 void UTransBuffer::SetUndoBarrier() { UndoBarriers.Add(GetPosition()); }
 

@@ -1,11 +1,19 @@
 #include "EdGraph/EdGraphPin.h"
 #include "Editor/Transactor.h"
 #include "ObjectRecord.h"
+#include "StateBytes.h"
 #include "UObject/CoreUObjectDelegates.h"
 #include "UObject/ReferenceCollector.h"
 
 struct FTransaction::FImplementation
 {
+	explicit FImplementation(const TSharedRef<FObjectStateStore>& Store)
+		: Table(Store)
+	{
+	}
+	~FImplementation() { Table.GetStore().Count(CountedSize, 0); }
+	UE_NONCOPYABLE(FImplementation)
+
 	struct FHeldChange
 	{
 		TObjectPtr<UObject> Object;
@@ -19,7 +27,8 @@ struct FTransaction::FImplementation
 	TArray<FHeldChange> Changes;
 	TArray<TPair<UObject*, FTransactionObjectEvent>> AppliedChanges;
 	TObjectPtr<UObject> PrimaryObject;
-	SIZE_T DataSize = 0;
+	/** What the store was told of. */
+	SIZE_T CountedSize = 0;
 	bool bIsUndone = false;
 
 	/**
@@ -35,15 +44,18 @@ struct FTransaction::FImplementation
 	}
 	void ExecuteChanges();
 	void NoteApplied(const FGuid& TransactionId, const TArray<FObjectState>& Left);
-	void UpdateDataSize();
+	void Exchange(TArray<FObjectState>& Left);
+	/** What is held beside the states. */
+	SIZE_T GetSize() const { return Table.GetAllocatedSize() + Records.GetAllocatedSize() + RecordIndices.GetAllocatedSize(); }
+	void CountSize();
 };
 
-FTransaction::FTransaction(const TCHAR* InContext, const FText& InTitle)
+FTransaction::FTransaction(const TCHAR* InContext, const FText& InTitle, const TSharedRef<FObjectStateStore>& Store)
 	: Id(FGuid::NewGuid())
 	, OperationId(FGuid::NewGuid())
 	, Title(InTitle)
 	, Context(InContext)
-	, Implementation(MakeUnique<FImplementation>())
+	, Implementation(MakeUnique<FImplementation>(Store))
 {
 }
 
@@ -145,15 +157,21 @@ bool FTransaction::HasChanges() const
 		{ return !Record.State.IsCurrent(*Record.Object, Held.Table); });
 }
 
-SIZE_T FTransaction::DataSize() const { return Implementation->DataSize; }
-
-void FTransaction::FImplementation::UpdateDataSize()
+SIZE_T FTransaction::DataSize() const
 {
-	DataSize = Table.GetAllocatedSize() + Records.GetAllocatedSize();
-	for (const FObjectRecord& Record : Records)
+	SIZE_T Size = Implementation->GetSize();
+	for (const FObjectRecord& Record : Implementation->Records)
 	{
-		DataSize += Record.State.Data.GetAllocatedSize();
+		Size += Record.GetStateSize();
 	}
+	return Size;
+}
+
+void FTransaction::FImplementation::CountSize()
+{
+	const SIZE_T Size = GetSize();
+	Table.GetStore().Count(CountedSize, Size);
+	CountedSize = Size;
 }
 
 void FTransaction::FImplementation::ExecuteChanges()
@@ -195,6 +213,23 @@ void FTransaction::FImplementation::NoteApplied(const FGuid& TransactionId, cons
 	}
 }
 
+/** What was put back is what the objects have now; what they had before is what a redo puts back. */
+void FTransaction::FImplementation::Exchange(TArray<FObjectState>& Left)
+{
+	for (int32 Index = 0; Index < Left.Num(); ++Index)
+	{
+		FObjectRecord& Record = Records[Index];
+		Record.MakeLatest(Table);
+		const TSharedPtr<FStateBytes> Present = Record.State.Bytes;
+		Record.State = MoveTemp(Left[Index]);
+		const TSharedPtr<FStateBytes>& Past = Record.State.Bytes;
+		if (Past && Present && Past != Present && Past->IsWhole())
+		{
+			Past->RestOn(Present.ToSharedRef());
+		}
+	}
+}
+
 void FTransaction::Apply()
 {
 	check(!GUndo && !GIsTransacting);
@@ -224,10 +259,7 @@ void FTransaction::Apply()
 	UEdGraphPin::ResolveAllPinReferences();
 	Held.ExecuteChanges();
 	Held.NoteApplied(Id, Left);
-	for (int32 Index = 0; Index < Left.Num(); ++Index)
-	{
-		Held.Records[Index].State = MoveTemp(Left[Index]);
-	}
+	Held.Exchange(Left);
 	Held.VisitInOrder([&Held](int32 Index)
 		{ Held.Records[Index].Object->PostEditUndo(); });
 	for (const TPair<UObject*, FTransactionObjectEvent>& Change : Held.AppliedChanges)
@@ -236,13 +268,17 @@ void FTransaction::Apply()
 		FCoreUObjectDelegates::OnObjectTransacted.Broadcast(Change.Key, Change.Value);
 	}
 	Held.bIsUndone = !Held.bIsUndone;
-	Held.UpdateDataSize();
+	Held.CountSize();
 }
 
 void FTransaction::Finalize()
 {
 	FImplementation& Held = *Implementation;
-	Held.UpdateDataSize();
+	Held.CountSize();
+	for (FObjectRecord& Record : Held.Records)
+	{
+		Record.MakeLatest(Held.Table);
+	}
 	if (!FCoreUObjectDelegates::OnObjectTransacted.IsBound())
 	{
 		return;

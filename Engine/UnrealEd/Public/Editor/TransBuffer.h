@@ -64,6 +64,8 @@ private:
 	void DropOldest();
 	void UpdateOpenTransaction();
 
+	/** What the transactions hold together; null until there is one. */
+	TSharedPtr<FObjectStateStore> Store;
 	TArray<TSharedRef<FTransaction>> UndoBuffer;
 	/** Undone entries that the open transaction displaced; they come back if it leaves no entry. */
 	TArray<TSharedRef<FTransaction>> Displaced;

@@ -8,6 +8,7 @@
 
 #include "Transactor.generated.h"
 
+class FObjectStateStore;
 class FReferenceCollector;
 
 /**
@@ -17,7 +18,8 @@ class FReferenceCollector;
 class UNREALED_API FTransaction final : public ITransaction
 {
 public:
-	FTransaction(const TCHAR* InContext, const FText& InTitle);
+	/** The transactions of one buffer have the store together. */
+	FTransaction(const TCHAR* InContext, const FText& InTitle, const TSharedRef<FObjectStateStore>& Store);
 	virtual ~FTransaction() override;
 	FTransaction(const FTransaction&) = delete;
 	FTransaction& operator=(const FTransaction&) = delete;
@@ -46,7 +48,7 @@ public:
 	void RemoveRecords(int32 Count);
 	/** Whether anything is other than it was when it was remembered. Stops at the first such thing. */
 	bool HasChanges() const;
-	/** Bytes that the records hold. */
+	/** Bytes that the records hold. What they hold together with other transactions is counted for each. */
 	SIZE_T DataSize() const;
 	void AddReferencedObjects(FReferenceCollector& Collector);
 
