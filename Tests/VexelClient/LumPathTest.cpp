@@ -1,9 +1,11 @@
 #include "EditorFixture.h"
+#include "Lum/Compound/LumUnrealObjectCompound.h"
 #include "Lum/LumCompound.h"
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
 #include "Lum/LumProperty.h"
 #include "Lum/LumPropertyCollector.h"
+#include "LumTestTypes.h"
 
 namespace
 {
@@ -87,6 +89,34 @@ TEST_F(FLumPathTest, FailureSaysWhichSegment)
 	EXPECT_EQ("Property 'leaf' is not a compound property\nwhile resolving path 'in.leaf.in'", Resolve(TEXT("in.leaf.in")));
 	EXPECT_EQ("Property 'out' not found in compound\nwhile resolving segment 'out'\nwhile resolving path 'in.out'", Resolve(TEXT("in.out")));
 	EXPECT_EQ("Property '' not found in compound\nwhile resolving segment ''\nwhile resolving path 'in..in'", Resolve(TEXT("in..in")));
+}
+
+TEST_F(FLumPathTest, WayLeadsThroughValuesOfEachKind)
+{
+	ULumThing* const Thing = NewObject<ULumThing>();
+	Thing->Part = NewObject<ULumPart>(Thing);
+	Thing->Structs.Add(TEXT("a"), FLumOuter());
+	Thing->Inners.SetNum(2);
+	const auto ResolveIn = [Thing](const FString& Path) -> std::string
+	{
+		const TVexelExpected<TSharedRef<ILumProperty>> Result =
+			FLumHelper::CompoundPathResolve(MakeShared<FLumUnrealObjectCompound>(*Thing), Path);
+		const FString Text = Result.HasError() ? Result.GetError().GetMessage() : Result.GetValue()->GetPropId().GetValue().ToString();
+		return TCHAR_TO_UTF8(*Text.Replace(TEXT("\n"), TEXT(", ")));
+	};
+	EXPECT_EQ("Depth", ResolveIn(TEXT("Structs.0.value.Inner.Depth")));
+	EXPECT_EQ("Label", ResolveIn(TEXT("inners.1.label")));
+	EXPECT_EQ("Strength", ResolveIn(TEXT("Part.Strength")));
+	EXPECT_EQ("Property 'Next' does not contain a valid compound, while resolving path 'Part.Next.Strength'",
+		ResolveIn(TEXT("Part.Next.Strength")));
+	EXPECT_EQ("Property 'Depth' is not a compound property, while resolving path 'Struct.Inner.Depth.Depth'",
+		ResolveIn(TEXT("Struct.Inner.Depth.Depth")));
+	EXPECT_EQ("Property '2' not found in compound, while resolving segment '2', while resolving path 'Inners.2.Depth'",
+		ResolveIn(TEXT("Inners.2.Depth")));
+	// No engine name is as long.
+	const FString Long = FString::ChrN(3000, TEXT('x'));
+	EXPECT_EQ(0u, ResolveIn(Long + TEXT(".Depth")).find("Property 'xxx"));
+	EXPECT_EQ(0u, ResolveIn(TEXT("Struct.") + Long).find("Property 'xxx"));
 }
 
 TEST_F(FLumPathTest, ReferenceStringCarriesAPath)

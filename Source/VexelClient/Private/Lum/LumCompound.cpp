@@ -4,6 +4,7 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumJsonPropertyCollector.h"
 #include "Lum/LumProperty.h"
+#include "Lum/LumPropertyRoom.h"
 #include "Lum/LumVariable.h"
 
 namespace
@@ -12,7 +13,7 @@ namespace
 class FFindingCollector : public ILumPropertyCollector
 {
 public:
-	explicit FFindingCollector(const TVexelPropId& InPropId, const TVexelVarScopeId* InScopeId = nullptr)
+	explicit FFindingCollector(FStringView InPropId, const TVexelVarScopeId* InScopeId = nullptr)
 		: PropId(InPropId)
 		, ScopeId(InScopeId)
 	{
@@ -25,7 +26,7 @@ public:
 			return {};
 		}
 		VEXEL_TRY(const TVexelPropId Id, Property->GetPropId());
-		if (Id == PropId)
+		if (PropId.Equals(Id.ToString(), ESearchCase::IgnoreCase))
 		{
 			FoundProperty = Property;
 		}
@@ -40,7 +41,7 @@ public:
 		}
 		VEXEL_TRY(const TVexelPropId Id, Variable->GetPropId());
 		VEXEL_TRY(const TVexelVarScopeId VariableScopeId, Variable->GetVarScopeId());
-		if (Id == PropId && VariableScopeId == *ScopeId)
+		if (PropId.Equals(Id.ToString(), ESearchCase::IgnoreCase) && VariableScopeId == *ScopeId)
 		{
 			FoundVariable = Variable;
 		}
@@ -51,7 +52,7 @@ public:
 	TSharedPtr<ILumVariable> FoundVariable;
 
 private:
-	const TVexelPropId& PropId;
+	FStringView PropId;
 	const TVexelVarScopeId* ScopeId;
 };
 }
@@ -69,20 +70,33 @@ TVexelExpected<void> ILumCompound::IterateProperties(ILumPropertyCollector& Coll
 
 TVexelExpected<TSharedPtr<ILumProperty>> ILumCompound::FindProperty(const TVexelPropId& PropId) const
 {
-	VEXEL_TRY(TSharedPtr<ILumProperty> Property, Find(PropId), "while iterating properties");
+	VEXEL_TRY(TSharedPtr<ILumProperty> Property, Find(PropId.ToString()), "while iterating properties");
 	return Property;
 }
 
-TVexelExpected<TSharedPtr<ILumProperty>> ILumCompound::Find(const TVexelPropId& PropId) const
+TVexelExpected<void> ILumCompound::FindProperty(FStringView PropId, FLumPropertyRoom& OutProperty) const
+{
+	VEXEL_TRY_VOID(FindInPlace(PropId, OutProperty), "while iterating properties");
+	return {};
+}
+
+TVexelExpected<TSharedPtr<ILumProperty>> ILumCompound::Find(FStringView PropId) const
 {
 	FFindingCollector Collector(PropId);
 	VEXEL_TRY_VOID(Iterate(Collector));
 	return Collector.FoundProperty;
 }
 
+TVexelExpected<void> ILumCompound::FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const
+{
+	VEXEL_TRY(TSharedPtr<ILumProperty> Property, Find(PropId));
+	OutProperty.Set(MoveTemp(Property));
+	return {};
+}
+
 TVexelExpected<TSharedPtr<ILumVariable>> ILumCompound::FindVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId) const
 {
-	FFindingCollector Collector(PropId, &ScopeId);
+	FFindingCollector Collector(PropId.ToString(), &ScopeId);
 	VEXEL_TRY_VOID(IterateProperties(Collector));
 	return Collector.FoundVariable;
 }
@@ -118,8 +132,9 @@ TVexelExpected<void> ILumCompound::JsonImportObject(const FLumContext& Context, 
 {
 	for (const auto& [Key, Value] : Object->Values)
 	{
-		VEXEL_TRY(const TSharedPtr<ILumProperty> Property, FindProperty(TVexelPropId(Key)), "while finding property '%s'", *Key);
-		if (!Property)
+		FLumPropertyRoom Property;
+		VEXEL_TRY_VOID(FindProperty(Key, Property), "while finding property '%s'", *Key);
+		if (!Property.Get())
 		{
 			return VEXEL_ERROR(FLumError_Import, "Property '%s' not found", *Key);
 		}
@@ -127,7 +142,7 @@ TVexelExpected<void> ILumCompound::JsonImportObject(const FLumContext& Context, 
 		{
 			return VEXEL_ERROR(FLumError_Import, "Invalid JSON value for key '%s'", *Key);
 		}
-		VEXEL_TRY_VOID(Property->JsonImportValue(Context, Value.ToSharedRef()), "while importing property '%s'", *Key);
+		VEXEL_TRY_VOID(Property.Get()->JsonImportValue(Context, Value.ToSharedRef()), "while importing property '%s'", *Key);
 	}
 	return {};
 }

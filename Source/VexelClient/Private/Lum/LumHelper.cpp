@@ -5,23 +5,42 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumProperty.h"
 #include "Lum/LumPropertyCollector.h"
+#include "Lum/LumPropertyRoom.h"
 #include "Lum/Value/LumTemporaryValue.h"
 #include "Lum/Value/LumValueText.h"
 
 #include "EdGraphSchema_K2.h"
+#include "Misc/StringBuilder.h"
 #include "UObject/EnumProperty.h"
 #include "UObject/UnrealType.h"
 
 namespace
 {
-TVexelExpected<TSharedRef<ILumProperty>> FindSegment(const ILumCompound& Compound, const TVexelPropId& Segment)
+FVexelError MakeNotFound(const FString& Segment)
 {
-	VEXEL_TRY(const TSharedPtr<ILumProperty> Property, Compound.FindProperty(Segment));
+	return VEXEL_ERROR(FLumError_Traverse, "Property '%s' not found in compound", *Segment);
+}
+
+TVexelExpected<TSharedRef<ILumProperty>> FindLastSegment(const ILumCompound& Compound, FStringView Segment)
+{
+	const TVexelPropId Id{FString(Segment)};
+	VEXEL_TRY(const TSharedPtr<ILumProperty> Property, Compound.FindProperty(Id));
 	if (!Property)
 	{
-		return VEXEL_ERROR(FLumError_Traverse, "Property '%s' not found in compound", *Segment);
+		return MakeNotFound(Id.ToString());
 	}
 	return Property.ToSharedRef();
+}
+
+/** A segment on the way, whose property nobody keeps. */
+TVexelExpected<void> FindSegment(const ILumCompound& Compound, FStringView Segment, FLumPropertyRoom& OutProperty)
+{
+	VEXEL_TRY_VOID(Compound.FindProperty(Segment, OutProperty));
+	if (!OutProperty.Get())
+	{
+		return MakeNotFound(FString(Segment));
+	}
+	return {};
 }
 
 /** Takes what stands before the first point off the text; the point goes, too. */
@@ -34,28 +53,29 @@ FStringView TakeSegment(FStringView& Rest)
 	return Segment;
 }
 
-TVexelExpected<TSharedRef<ILumProperty>> ResolvePath(TSharedRef<ILumCompound> Compound, const FString& Path)
+TVexelExpected<TSharedRef<ILumProperty>> ResolvePath(TSharedPtr<ILumCompound> Compound, const FString& Path)
 {
 	FStringView Rest = Path;
 	for (int32 NumSegments = 0; NumSegments < FLumHelper::MaxPathSegments; ++NumSegments)
 	{
-		const TVexelPropId Segment{FString(TakeSegment(Rest))};
-		VEXEL_TRY(const TSharedRef<ILumProperty> Property, FindSegment(*Compound, Segment), "while resolving segment '%s'", *Segment);
+		const FStringView Segment = TakeSegment(Rest);
 		if (Rest.IsEmpty())
 		{
-			return Property;
+			VEXEL_TRY(const TSharedRef<ILumProperty> Last, FindLastSegment(*Compound, Segment), "while resolving segment '%s'", *FString(Segment));
+			return Last;
 		}
-		const ILumCompoundProperty* const CompoundProperty = Property->AsCompoundProperty();
+		FLumPropertyRoom Property;
+		VEXEL_TRY_VOID(FindSegment(*Compound, Segment, Property), "while resolving segment '%s'", *FString(Segment));
+		const ILumCompoundProperty* const CompoundProperty = Property.Get()->AsCompoundProperty();
 		if (!CompoundProperty)
 		{
-			return VEXEL_ERROR(FLumError_Traverse, "Property '%s' is not a compound property", *Segment);
+			return VEXEL_ERROR(FLumError_Traverse, "Property '%s' is not a compound property", *FString(Segment));
 		}
-		VEXEL_TRY(const TSharedPtr<ILumCompound> Next, CompoundProperty->GetCompound(), "while getting compound for property '%s'", *Segment);
-		if (!Next)
+		VEXEL_TRY(Compound, CompoundProperty->GetCompound(), "while getting compound for property '%s'", *FString(Segment));
+		if (!Compound)
 		{
-			return VEXEL_ERROR(FLumError_Traverse, "Property '%s' does not contain a valid compound", *Segment);
+			return VEXEL_ERROR(FLumError_Traverse, "Property '%s' does not contain a valid compound", *FString(Segment));
 		}
-		Compound = Next.ToSharedRef();
 	}
 	return VEXEL_ERROR(FLumError_Traverse, "Exceeded maximum segments (%d) while resolving path '%s'", FLumHelper::MaxPathSegments, *Path);
 }
@@ -107,10 +127,17 @@ TVexelExpected<TVexelPropTypeId> GetTerminalTypeId(const FProperty& Property)
 /** Whether GetTerminalTypeId answers an id of one value, without making it. */
 bool HasTerminalTypeId(const FProperty& Property)
 {
+	constexpr uint64 Containers = CASTCLASS_FArrayProperty | CASTCLASS_FSetProperty | CASTCLASS_FMapProperty;
+	// Most values are of these kinds, and to make a pin's type only to forget it costs much.
+	constexpr uint64 Usual = CASTCLASS_FNumericProperty | CASTCLASS_FBoolProperty | CASTCLASS_FNameProperty | CASTCLASS_FStrProperty |
+		CASTCLASS_FTextProperty | CASTCLASS_FStructProperty | CASTCLASS_FEnumProperty | CASTCLASS_FObjectPropertyBase;
+	const uint64 Kind = Property.GetClass()->GetCastFlags();
+	if ((Kind & (Containers | Usual)) != 0)
+	{
+		return (Kind & Containers) == 0;
+	}
 	FEdGraphPinType PinType;
-	const bool bIsContainer = Property.IsA<FArrayProperty>() || Property.IsA<FSetProperty>() || Property.IsA<FMapProperty>();
-	return !bIsContainer &&
-		(FindIntegerTypeId(Property) || GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(&Property, PinType));
+	return GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(&Property, PinType);
 }
 
 TVexelExpected<TVexelPropTypeId> GetMapTypeId(const FMapProperty& Map)
@@ -178,7 +205,7 @@ TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(
 	FStringView Remaining = Rest;
 	Segment = FString(TakeSegment(Remaining));
 	Rest = FString(Remaining);
-	return FindSegment(*Compound, TVexelPropId(Segment));
+	return FindLastSegment(*Compound, Segment);
 }
 
 TVexelExpected<void> FLumHelper::ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text)
@@ -219,6 +246,7 @@ bool FLumHelper::ParseIndex(FStringView Text, int32& OutIndex)
 TVexelExpected<TArray<int32>> FLumHelper::GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object)
 {
 	TArray<int32> Keys;
+	Keys.Reserve(Object->Values.Num());
 	for (const auto& [Key, Value] : Object->Values)
 	{
 		int32 Number = 0;
@@ -230,6 +258,13 @@ TVexelExpected<TArray<int32>> FLumHelper::GetSortedNumericKeys(const TSharedRef<
 	}
 	Keys.Sort();
 	return Keys;
+}
+
+TSharedPtr<FJsonValue> FLumHelper::FindByIndex(const FJsonObject& Object, int32 Index)
+{
+	TStringBuilder<16> Key;
+	Key << Index;
+	return Object.TryGetField(Key);
 }
 
 TVexelExpected<void> FLumHelper::CollectIndexedItems(ILumPropertyCollector& Collector, const TArray<TSharedRef<ILumProperty>>& Items)

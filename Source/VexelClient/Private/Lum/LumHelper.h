@@ -80,6 +80,9 @@ public:
 	/** The object's keys as indices, ascending. */
 	static TVexelExpected<TArray<int32>> GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object);
 
+	/** What the object has under the index as a key; null where it has nothing. */
+	static TSharedPtr<FJsonValue> FindByIndex(const FJsonObject& Object, int32 Index);
+
 	/** Hands the properties to the collector in their order. */
 	static TVexelExpected<void> CollectIndexedItems(ILumPropertyCollector& Collector, const TArray<TSharedRef<ILumProperty>>& Items);
 
@@ -118,7 +121,9 @@ public:
 	/** The node, and all that must have the same pins: the other results of a function. */
 	static TVexelExpected<void> GetAllNodesForUserPinEdit(UK2Node_EditablePinBase& Node, TArray<UK2Node_EditablePinBase*>& OutNodes);
 
-	/** A pin's default as a string: object pins as references, the common math structs as their components. */
+	/** A pin's default: of object pins a reference string, of the common math structs their components. */
+	static TVexelExpected<FString> GetPinDefaultValue(const UEdGraphPin& Pin);
+	/** The same as a JSON string. */
 	static TVexelExpected<TSharedRef<FJsonValue>> GetPinDefaultValueAsJsonValue(const UEdGraphPin& Pin);
 	/** Takes what GetPinDefaultValueAsJsonValue answers. Undo restores the old default when the caller has a transaction open. */
 	static TVexelExpected<void> SetPinDefaultValueFromJsonValue(UEdGraphPin& Pin, const TSharedRef<FJsonValue>& Value);

@@ -1,6 +1,5 @@
 #include "Lum/LumHelper.h"
 
-#include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumErrors.h"
 
 #include "Algo/AllOf.h"
@@ -17,7 +16,7 @@ const TCHAR* const SelfDefault = TEXT("self");
 /** A struct whose pins have their default as numbers between commas. */
 struct FComponentStruct
 {
-	const TCHAR* TypeId;
+	FName Name;
 	/** Names by which the engine's own text form may tell the components. */
 	TArray<const TCHAR*> Components;
 	bool bIntegers;
@@ -26,19 +25,21 @@ struct FComponentStruct
 	const TCHAR* NameInError;
 };
 
-const FComponentStruct* FindComponentStruct(const FString& TypeId)
+/** Null for a type that has its default in another form. */
+const FComponentStruct* FindComponentStruct(const FEdGraphPinType& Type)
 {
 	static const FComponentStruct Structs[] = {
-		{TEXT("struct.Vector"), {TEXT("X"), TEXT("Y"), TEXT("Z")}, false, false, TEXT("vector")},
-		{TEXT("struct.Vector2D"), {TEXT("X"), TEXT("Y")}, false, true, TEXT("vector2d")},
-		{TEXT("struct.Vector4"), {TEXT("X"), TEXT("Y"), TEXT("Z"), TEXT("W")}, false, true, TEXT("vector4")},
-		{TEXT("struct.Rotator"), {TEXT("Pitch"), TEXT("Yaw"), TEXT("Roll")}, false, false, TEXT("rotator")},
-		{TEXT("struct.LinearColor"), {TEXT("R"), TEXT("G"), TEXT("B"), TEXT("A")}, false, true, TEXT("linear color")},
-		{TEXT("struct.Color"), {TEXT("R"), TEXT("G"), TEXT("B"), TEXT("A")}, true, true, TEXT("color")},
+		{TEXT("Vector"), {TEXT("X"), TEXT("Y"), TEXT("Z")}, false, false, TEXT("vector")},
+		{TEXT("Vector2D"), {TEXT("X"), TEXT("Y")}, false, true, TEXT("vector2d")},
+		{TEXT("Vector4"), {TEXT("X"), TEXT("Y"), TEXT("Z"), TEXT("W")}, false, true, TEXT("vector4")},
+		{TEXT("Rotator"), {TEXT("Pitch"), TEXT("Yaw"), TEXT("Roll")}, false, false, TEXT("rotator")},
+		{TEXT("LinearColor"), {TEXT("R"), TEXT("G"), TEXT("B"), TEXT("A")}, false, true, TEXT("linear color")},
+		{TEXT("Color"), {TEXT("R"), TEXT("G"), TEXT("B"), TEXT("A")}, true, true, TEXT("color")},
 	};
+	const UObject* const Object = Type.PinCategory == UEdGraphSchema_K2::PC_Struct ? Type.PinSubCategoryObject.Get() : nullptr;
 	for (const FComponentStruct& Struct : Structs)
 	{
-		if (TypeId == Struct.TypeId)
+		if (Object && Object->GetFName() == Struct.Name)
 		{
 			return &Struct;
 		}
@@ -129,14 +130,6 @@ bool IsObjectCategory(FName Category)
 	return MakeArrayView(Categories).Contains(Category);
 }
 
-/** The pin's type id, whether the value comes by reference or not. */
-FString GetValueTypeId(const UEdGraphPin& Pin)
-{
-	FEdGraphPinType Type = Pin.PinType;
-	Type.bIsReference = false;
-	return FVexelBlueprintPropTypeBuilder::MakeId(Type).ToString();
-}
-
 /** The schema by whose rules the pin's default is read or written. */
 template <typename ErrorType>
 TVexelExpected<const UEdGraphSchema*> GetSchemaForDefault(const UEdGraphPin& Pin)
@@ -170,7 +163,7 @@ TVexelExpected<FString> ExportDefault(const UEdGraphPin& Pin)
 	{
 		return Pin.DefaultObject ? FLumHelper::MakeReferenceString(Pin.DefaultObject) : FLumHelper::MakeReferenceString(Pin.DefaultValue);
 	}
-	const FComponentStruct* const Struct = FindComponentStruct(GetValueTypeId(Pin));
+	const FComponentStruct* const Struct = FindComponentStruct(Pin.PinType);
 	if (Struct && !Pin.DefaultValue.IsEmpty())
 	{
 		return ExportComponents(*Struct, Pin.DefaultValue);
@@ -207,7 +200,7 @@ TVexelExpected<FString> ImportText(const UEdGraphPin& Pin, const FString& Text)
 	{
 		return Text.ToLower();
 	}
-	const FComponentStruct* const Struct = FindComponentStruct(GetValueTypeId(Pin));
+	const FComponentStruct* const Struct = FindComponentStruct(Pin.PinType);
 	if (Struct && !Text.IsEmpty())
 	{
 		return ImportComponents(*Struct, Text);
@@ -290,10 +283,16 @@ TVexelExpected<void> ImportDefault(UEdGraphPin& Pin, const FJsonValue& Value)
 }
 }
 
+TVexelExpected<FString> FLumHelper::GetPinDefaultValue(const UEdGraphPin& Pin)
+{
+	VEXEL_TRY(FString Text, ExportDefault(Pin), "while exporting pin '%s'", *Pin.PinName.ToString());
+	return Text;
+}
+
 TVexelExpected<TSharedRef<FJsonValue>> FLumHelper::GetPinDefaultValueAsJsonValue(const UEdGraphPin& Pin)
 {
-	VEXEL_TRY(const FString Text, ExportDefault(Pin), "while exporting pin '%s'", *Pin.PinName.ToString());
-	return MakeShared<FJsonValueString>(Text);
+	VEXEL_TRY(FString Text, GetPinDefaultValue(Pin));
+	return MakeShared<FJsonValueString>(MoveTemp(Text));
 }
 
 TVexelExpected<void> FLumHelper::SetPinDefaultValueFromJsonValue(UEdGraphPin& Pin, const TSharedRef<FJsonValue>& Value)

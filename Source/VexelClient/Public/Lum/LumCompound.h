@@ -7,6 +7,7 @@
 
 class FLumContext;
 class FLumJsonPropertyCollector;
+class FLumPropertyRoom;
 class ILumCollectionCompound;
 class ILumProperty;
 class ILumPropertyCollector;
@@ -33,6 +34,8 @@ public:
 
 	/** Null where none has the id. */
 	TVexelExpected<TSharedPtr<ILumProperty>> FindProperty(const TVexelPropId& PropId) const;
+	/** The same by the text of the id, for one that is not kept. */
+	TVexelExpected<void> FindProperty(FStringView PropId, FLumPropertyRoom& OutProperty) const;
 	TVexelExpected<TSharedPtr<ILumVariable>> FindVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId) const;
 
 	/** The scopes of which the compound may hold variables; empty where it holds none. */
@@ -59,7 +62,8 @@ protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const = 0;
 
 	/** What FindProperty does, without its context line. Kinds that know a property by its id override it; by itself it iterates. */
-	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(const TVexelPropId& PropId) const;
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(FStringView PropId) const;
+	virtual TVexelExpected<void> FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const;
 
 	/** The part of the properties that an export shows: all of them, where a kind has no reason to leave some out. */
 	virtual TVexelExpected<void> IterateForExport(ILumPropertyCollector& Collector) const { return IterateProperties(Collector); }

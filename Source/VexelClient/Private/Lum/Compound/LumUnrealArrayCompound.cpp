@@ -74,7 +74,7 @@ TVexelExpected<void> FLumUnrealArrayCompound::JsonImportObject(const FLumContext
 		{
 			for (const int32 Index : Indices)
 			{
-				VEXEL_TRY_VOID(ImportElement(Context, Index, Object->TryGetField(FString::FromInt(Index))),
+				VEXEL_TRY_VOID(ImportElement(Context, Index, FLumHelper::FindByIndex(*Object, Index)),
 					"while importing array element at index %d", Index);
 			}
 			return {};

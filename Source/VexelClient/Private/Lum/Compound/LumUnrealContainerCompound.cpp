@@ -2,6 +2,7 @@
 
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
+#include "Lum/LumPropertyRoom.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 
 #include "UObject/UnrealType.h"
@@ -44,11 +45,11 @@ TVexelExpected<void> FLumUnrealContainerCompound::Iterate(ILumPropertyCollector&
 	return FLumHelper::CollectIndexedItems(Collector, Items);
 }
 
-TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealContainerCompound::Find(const TVexelPropId& PropId) const
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealContainerCompound::Find(FStringView PropId) const
 {
 	VEXEL_TRY(void* const Data, GetData());
 	int32 Index = INDEX_NONE;
-	const bool bIsIndex = FLumHelper::ParseIndex(PropId.ToString(), Index) && Index < CountItems(Data);
+	const bool bIsIndex = FLumHelper::ParseIndex(PropId, Index) && Index < CountItems(Data);
 	return bIsIndex ? MakeItem(Index, FindInternalIndex(Data, Index)) : nullptr;
 }
 
@@ -75,10 +76,11 @@ FLumValuePlaceRef FLumUnrealContainerCompound::MakeNewValue(const FProperty& Ele
 TVexelExpected<void> FLumUnrealContainerCompound::ImportAt(
 	const FLumValuePlaceRef& ValuePlace, const FLumContext& Context, const TSharedRef<FJsonValue>& Value)
 {
-	const TSharedPtr<ILumProperty> Property = FLumUnrealPropertyFactory::CreateSubProperty(ValuePlace);
-	if (!Property)
+	FLumPropertyRoom Property;
+	FLumUnrealPropertyFactory::CreateSubProperty(ValuePlace, Property);
+	if (!Property.Get())
 	{
 		return VEXEL_ERROR(FLumError_Read, "Failed to convert property to pin type!");
 	}
-	return Property->JsonImportValue(Context, Value);
+	return Property.Get()->JsonImportValue(Context, Value);
 }

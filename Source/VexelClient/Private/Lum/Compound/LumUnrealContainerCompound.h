@@ -22,7 +22,7 @@ public:
 
 protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
-	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(const TVexelPropId& PropId) const override;
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(FStringView PropId) const override;
 
 	/** The element, or entry, at a place in the container's own numbering; null where its type has no Lum kind. */
 	virtual TSharedPtr<ILumProperty> MakeItem(int32 Index, int32 InternalIndex) const = 0;

@@ -104,7 +104,7 @@ TVexelExpected<void> FLumUnrealMapCompound::JsonImportObject(const FLumContext& 
 		{
 			for (const int32 Index : Indices)
 			{
-				VEXEL_TRY_VOID(ImportEntry(Context, Index, Object->TryGetField(FString::FromInt(Index))));
+				VEXEL_TRY_VOID(ImportEntry(Context, Index, FLumHelper::FindByIndex(*Object, Index)));
 			}
 			return {};
 		});

@@ -78,7 +78,8 @@ TVexelExpected<void> FLumUnrealObjectCompound::IterateWhere(
 	VEXEL_TRY(UObject* const Object, GetObject());
 	for (TFieldIterator<FProperty> It(Object->GetClass()); It; ++It)
 	{
-		const TSharedPtr<ILumProperty> Property = IsShown(**It) && Condition(**It, *Object) ? MakeMember(**It) : nullptr;
+		const bool bIsWanted = IsShown(**It) && Condition(**It, *Object);
+		const TSharedPtr<ILumProperty> Property = bIsWanted ? FLumUnrealPropertyFactory::CreateSubProperty(GetMember(**It)) : nullptr;
 		if (Property)
 		{
 			VEXEL_TRY_VOID(Collector.Property(Property.ToSharedRef()), "while processing property '%s'", *It->GetName());
@@ -87,14 +88,30 @@ TVexelExpected<void> FLumUnrealObjectCompound::IterateWhere(
 	return {};
 }
 
-TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealObjectCompound::Find(const TVexelPropId& PropId) const
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealObjectCompound::Find(FStringView PropId) const
 {
-	VEXEL_TRY(const UObject* const Object, GetObject());
-	const FProperty* const Property = Object->GetClass()->FindPropertyByName(FName(*PropId, FNAME_Find));
-	return Property && IsShown(*Property) ? MakeMember(*Property) : nullptr;
+	VEXEL_TRY(const FProperty* const Member, FindMember(PropId));
+	return Member ? FLumUnrealPropertyFactory::CreateSubProperty(GetMember(*Member)) : nullptr;
 }
 
-TSharedPtr<ILumProperty> FLumUnrealObjectCompound::MakeMember(const FProperty& Member) const
+TVexelExpected<void> FLumUnrealObjectCompound::FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const
 {
-	return FLumUnrealPropertyFactory::CreateSubProperty(MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Member, Member));
+	VEXEL_TRY(const FProperty* const Member, FindMember(PropId));
+	if (Member)
+	{
+		FLumUnrealPropertyFactory::CreateMember(Owner, *Member, OutProperty);
+	}
+	return {};
+}
+
+TVexelExpected<const FProperty*> FLumUnrealObjectCompound::FindMember(FStringView Name) const
+{
+	VEXEL_TRY(const UObject* const Object, GetObject());
+	const FProperty* const Property = FLumUnrealPropertyFactory::FindMember(*Object->GetClass(), Name);
+	return Property && IsShown(*Property) ? Property : nullptr;
+}
+
+FLumValuePlaceRef FLumUnrealObjectCompound::GetMember(const FProperty& Member) const
+{
+	return MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Member, Member);
 }

@@ -22,14 +22,17 @@ public:
 protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
 	virtual TVexelExpected<void> IterateForExport(ILumPropertyCollector& Collector) const override;
-	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(const TVexelPropId& PropId) const override;
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(FStringView PropId) const override;
+	virtual TVexelExpected<void> FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const override;
 
 private:
 	TVexelExpected<UObject*> GetObject() const;
 	TVexelExpected<void> IterateWhere(
 		ILumPropertyCollector& Collector, TFunctionRef<bool(const FProperty& Property, const UObject& Object)> Condition) const;
 
-	TSharedPtr<ILumProperty> MakeMember(const FProperty& Member) const;
+	/** Null where there is none of the name that is shown. */
+	TVexelExpected<const FProperty*> FindMember(FStringView Name) const;
+	FLumValuePlaceRef GetMember(const FProperty& Member) const;
 
 	TSharedRef<ILumValueOwner> Owner;
 };

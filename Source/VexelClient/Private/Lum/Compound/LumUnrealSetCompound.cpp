@@ -69,7 +69,7 @@ TVexelExpected<void> FLumUnrealSetCompound::JsonImportObject(const FLumContext& 
 		{
 			for (const int32 Index : Indices)
 			{
-				VEXEL_TRY_VOID(ImportElement(Context, Index, Object->TryGetField(FString::FromInt(Index))),
+				VEXEL_TRY_VOID(ImportElement(Context, Index, FLumHelper::FindByIndex(*Object, Index)),
 					"while importing set element at index %d", Index);
 			}
 			return {};

@@ -31,7 +31,7 @@ TVexelExpected<void> FLumUnrealStructCompound::Iterate(ILumPropertyCollector& Co
 	VEXEL_TRY_VOID(CheckStruct());
 	for (TFieldIterator<FProperty> It(Struct); It; ++It)
 	{
-		if (const TSharedPtr<ILumProperty> Property = MakeField(**It))
+		if (const TSharedPtr<ILumProperty> Property = FLumUnrealPropertyFactory::CreateSubProperty(GetField(**It)))
 		{
 			VEXEL_TRY_VOID(Collector.Property(Property.ToSharedRef()), "while processing property '%s'", *It->GetName());
 		}
@@ -39,14 +39,29 @@ TVexelExpected<void> FLumUnrealStructCompound::Iterate(ILumPropertyCollector& Co
 	return {};
 }
 
-TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealStructCompound::Find(const TVexelPropId& PropId) const
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealStructCompound::Find(FStringView PropId) const
 {
-	VEXEL_TRY_VOID(CheckStruct());
-	const FProperty* const Field = Struct->FindPropertyByName(FName(*PropId, FNAME_Find));
-	return Field ? MakeField(*Field) : nullptr;
+	VEXEL_TRY(const FProperty* const Field, FindField(PropId));
+	return Field ? FLumUnrealPropertyFactory::CreateSubProperty(GetField(*Field)) : nullptr;
 }
 
-TSharedPtr<ILumProperty> FLumUnrealStructCompound::MakeField(const FProperty& Field) const
+TVexelExpected<void> FLumUnrealStructCompound::FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const
 {
-	return FLumUnrealPropertyFactory::CreateSubProperty(MakeShared<FLumValuePlace>(Place, FLumValuePlace::EPart::Member, Field));
+	VEXEL_TRY(const FProperty* const Field, FindField(PropId));
+	if (Field)
+	{
+		FLumUnrealPropertyFactory::CreateMember(Place, *Field, OutProperty);
+	}
+	return {};
+}
+
+TVexelExpected<const FProperty*> FLumUnrealStructCompound::FindField(FStringView Name) const
+{
+	VEXEL_TRY_VOID(CheckStruct());
+	return FLumUnrealPropertyFactory::FindMember(*Struct, Name);
+}
+
+FLumValuePlaceRef FLumUnrealStructCompound::GetField(const FProperty& Field) const
+{
+	return MakeShared<FLumValuePlace>(Place, FLumValuePlace::EPart::Member, Field);
 }

@@ -19,11 +19,14 @@ public:
 
 protected:
 	virtual TVexelExpected<void> Iterate(ILumPropertyCollector& Collector) const override;
-	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(const TVexelPropId& PropId) const override;
+	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(FStringView PropId) const override;
+	virtual TVexelExpected<void> FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const override;
 
 private:
 	TVexelExpected<void> CheckStruct() const;
-	TSharedPtr<ILumProperty> MakeField(const FProperty& Field) const;
+	/** Null where there is none of the name. */
+	TVexelExpected<const FProperty*> FindField(FStringView Name) const;
+	FLumValuePlaceRef GetField(const FProperty& Field) const;
 
 	const UScriptStruct* Struct;
 	FLumValuePlaceRef Place;

@@ -3,6 +3,7 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
+#include "Lum/LumPropertyRoom.h"
 #include "Lum/Property/LumUnrealContainerProperty.h"
 #include "Lum/Property/LumUnrealLeafProperty.h"
 #include "Lum/Property/LumUnrealObjectProperty.h"
@@ -31,9 +32,58 @@ bool IsInstanced(const FProperty& Property)
 	return Property.HasAnyPropertyFlags(CPF_InstancedReference) && !Property.IsA<FClassProperty>();
 }
 
-bool IsReference(const FProperty& Property)
+/** What Make answers when it is called for the kind of Lum property that fits; a default result where none does. */
+template <typename ResultType, typename MakeType>
+ResultType Choose(const FProperty& Property, MakeType Make)
 {
-	return Property.IsA<FObjectPropertyBase>() || Property.IsA<FInterfaceProperty>();
+	if (!FLumUnrealPropertyFactory::CanCreate(Property))
+	{
+		return ResultType();
+	}
+	const uint64 Kind = Property.GetClass()->GetCastFlags();
+	// Most values are numbers.
+	if (Kind & CASTCLASS_FNumericProperty)
+	{
+		return Make.template operator()<FLumUnrealLeafProperty>();
+	}
+	if (Kind & CASTCLASS_FArrayProperty)
+	{
+		return Make.template operator()<FLumUnrealArrayProperty>();
+	}
+	if (Kind & CASTCLASS_FSetProperty)
+	{
+		return Make.template operator()<FLumUnrealSetProperty>();
+	}
+	if (Kind & CASTCLASS_FMapProperty)
+	{
+		return Make.template operator()<FLumUnrealMapProperty>();
+	}
+	if (Kind & CASTCLASS_FStructProperty)
+	{
+		return Make.template operator()<FLumUnrealStructProperty>();
+	}
+	if ((Kind & CASTCLASS_FObjectProperty) && IsInstanced(Property))
+	{
+		return Make.template operator()<FLumUnrealObjectInstanceProperty>();
+	}
+	if (Kind & (CASTCLASS_FObjectPropertyBase | CASTCLASS_FInterfaceProperty))
+	{
+		return Make.template operator()<FLumUnrealObjectReferenceProperty>();
+	}
+	if (Kind & CASTCLASS_FEnumProperty)
+	{
+		return Make.template operator()<FLumUnrealEnumProperty>();
+	}
+	return Make.template operator()<FLumUnrealLeafProperty>();
+}
+
+template <typename AboveType>
+void EmplaceMember(const TSharedRef<AboveType>& Above, const FProperty& Member, FLumPropertyRoom& OutProperty)
+{
+	Choose<bool>(Member, [&]<typename PropertyType>()
+		{
+			OutProperty.EmplaceMember<PropertyType>(Above, Member);
+			return true; });
 }
 }
 
@@ -92,13 +142,16 @@ TVexelExpected<void> FLumUnrealBaseProperty::ImportText(const FString& Text) con
 	return Place->Assign(Value.Get());
 }
 
+const FProperty* FLumUnrealPropertyFactory::FindMember(const UStruct& Struct, FStringView Name)
+{
+	// A longer text is no engine name.
+	return Name.Len() < NAME_SIZE ? Struct.FindPropertyByName(FName(Name, FNAME_Find)) : nullptr;
+}
+
 bool FLumUnrealPropertyFactory::CanCreate(const FProperty& Property)
 {
-	if (Property.ArrayDim != 1 || Property.IsA<FNumericProperty>())
-	{
-		return Property.ArrayDim == 1;
-	}
-	return !Property.IsA<FDelegateProperty>() && !Property.IsA<FMulticastDelegateProperty>() && FLumHelper::HasPropertyTypeId(Property);
+	constexpr uint64 Delegates = CASTCLASS_FDelegateProperty | CASTCLASS_FMulticastDelegateProperty;
+	return Property.ArrayDim == 1 && !Property.HasAnyCastFlags(Delegates) && FLumHelper::HasPropertyTypeId(Property);
 }
 
 TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealPropertyFactory::CreateMember(UObject& Object, const FProperty& Property)
@@ -115,43 +168,25 @@ TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealPropertyFactory::CreateMember
 
 TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FLumValuePlaceRef& Place)
 {
-	const FProperty& Property = Place->GetProperty();
-	if (!CanCreate(Property))
-	{
-		return nullptr;
-	}
-	// Most values are numbers, and each question costs.
-	if (Property.IsA<FNumericProperty>())
-	{
-		return MakeShared<FLumUnrealLeafProperty>(Place);
-	}
-	if (Property.IsA<FArrayProperty>())
-	{
-		return MakeShared<FLumUnrealArrayProperty>(Place);
-	}
-	if (Property.IsA<FSetProperty>())
-	{
-		return MakeShared<FLumUnrealSetProperty>(Place);
-	}
-	if (Property.IsA<FMapProperty>())
-	{
-		return MakeShared<FLumUnrealMapProperty>(Place);
-	}
-	if (Property.IsA<FStructProperty>())
-	{
-		return MakeShared<FLumUnrealStructProperty>(Place);
-	}
-	if (Property.IsA<FObjectProperty>() && IsInstanced(Property))
-	{
-		return MakeShared<FLumUnrealObjectInstanceProperty>(Place);
-	}
-	if (IsReference(Property))
-	{
-		return MakeShared<FLumUnrealObjectReferenceProperty>(Place);
-	}
-	if (Property.IsA<FEnumProperty>())
-	{
-		return MakeShared<FLumUnrealEnumProperty>(Place);
-	}
-	return MakeShared<FLumUnrealLeafProperty>(Place);
+	return Choose<TSharedPtr<ILumProperty>>(Place->GetProperty(), [&Place]<typename PropertyType>()
+		{ return TSharedPtr<ILumProperty>(MakeShared<PropertyType>(Place)); });
+}
+
+void FLumUnrealPropertyFactory::CreateSubProperty(const FLumValuePlaceRef& Place, FLumPropertyRoom& OutProperty)
+{
+	Choose<bool>(Place->GetProperty(), [&Place, &OutProperty]<typename PropertyType>()
+		{
+			OutProperty.Emplace<PropertyType>(Place);
+			return true; });
+}
+
+void FLumUnrealPropertyFactory::CreateMember(
+	const TSharedRef<ILumValueOwner>& Owner, const FProperty& Member, FLumPropertyRoom& OutProperty)
+{
+	EmplaceMember(Owner, Member, OutProperty);
+}
+
+void FLumUnrealPropertyFactory::CreateMember(const FLumValuePlaceRef& Above, const FProperty& Member, FLumPropertyRoom& OutProperty)
+{
+	EmplaceMember(Above, Member, OutProperty);
 }

@@ -4,8 +4,10 @@
 #include "Lum/Value/LumValueOwner.h"
 #include "Lum/Value/LumValuePlace.h"
 
+class FLumPropertyRoom;
 class FProperty;
 class UObject;
+class UStruct;
 
 /** An engine property with the place of one value of it. What all kinds of such properties answer alike. */
 class FLumUnrealBaseProperty
@@ -65,10 +67,18 @@ protected:
 class FLumUnrealPropertyFactory
 {
 public:
+	/** The member of that name; null where there is none. */
+	static const FProperty* FindMember(const UStruct& Struct, FStringView Name);
+
 	/** False for a property whose values no Blueprint type covers (a delegate, a fixed-size array). */
 	static bool CanCreate(const FProperty& Property);
 	/** Null where that is false. */
 	static TSharedPtr<ILumProperty> CreateSubProperty(const FLumValuePlaceRef& Place);
+	/** The same for one that is not kept; leaves the room empty where that is false. */
+	static void CreateSubProperty(const FLumValuePlaceRef& Place, FLumPropertyRoom& OutProperty);
+	/** The same for a member of the owner, or of the struct at the place above. */
+	static void CreateMember(const TSharedRef<ILumValueOwner>& Owner, const FProperty& Member, FLumPropertyRoom& OutProperty);
+	static void CreateMember(const FLumValuePlaceRef& Above, const FProperty& Member, FLumPropertyRoom& OutProperty);
 	/** As CreateSubProperty, for a property of the object. */
 	static TVexelExpected<TSharedPtr<ILumProperty>> CreateMember(UObject& Object, const FProperty& Property);
 };
