@@ -60,17 +60,15 @@ const FGuidPattern* FindPattern(EGuidFormats Format)
 FString FormatPattern(const FGuid& Guid, const FGuidPattern& Pattern)
 {
 	const char* const Digits = Pattern.bIsLower ? "0123456789abcdef" : "0123456789ABCDEF";
-	FString Result;
+	FString Result(Pattern.Pattern);
 	int32 Digit = 0;
-	for (const TCHAR* Char = Pattern.Pattern; *Char != 0; ++Char)
+	for (TCHAR& Char : Result)
 	{
-		if (*Char != '#')
+		if (Char == '#')
 		{
-			Result.AppendChar(*Char);
-			continue;
+			Char = static_cast<TCHAR>(Digits[(Guid[Digit / 8] >> (28 - 4 * (Digit % 8))) & 15]);
+			++Digit;
 		}
-		Result.AppendChar(static_cast<TCHAR>(Digits[(Guid[Digit / 8] >> (28 - 4 * (Digit % 8))) & 15]));
-		++Digit;
 	}
 	return Result;
 }

@@ -5,7 +5,71 @@
 
 #include "EdGraph/EdGraphNode.h"
 
+namespace
+{
+/** These take what is to be written from a record that is given up, and copy it of any other one. */
+template <typename RecordType>
+void WriteTypePin(RecordType&& Pin, FJsonObject& Object)
+{
+	// A graph has tens of thousands of pins: their objects do not grow field by field.
+	constexpr int32 NumUsualFields = 8;
+	Object.Values.Reserve(NumUsualFields);
+	Object.SetStringField(TEXT("id"), Forward<RecordType>(Pin).Id);
+	Object.SetStringField(TEXT("dir"), VexelBlueprintWords::GetWord(Pin.Direction));
+	Object.SetStringField(TEXT("guid"), Pin.Guid.ToString(EGuidFormats::Digits));
+	Object.SetStringField(TEXT("name"), Forward<RecordType>(Pin).Name);
+	Object.SetStringField(TEXT("type"), Pin.Type.ToString());
+	if (Pin.bConst)
+	{
+		Object.SetBoolField(TEXT("const"), true);
+	}
+	if (Pin.bRef)
+	{
+		Object.SetBoolField(TEXT("ref"), true);
+	}
+	if (!Pin.DefaultValue.IsEmpty())
+	{
+		Object.SetStringField(TEXT("value"), Forward<RecordType>(Pin).DefaultValue);
+	}
+}
+
+template <typename RecordType>
+void WriteConnection(RecordType&& Connection, FJsonObject& Object)
+{
+	constexpr int32 NumFields = 3;
+	Object.Values.Reserve(NumFields);
+	Object.SetStringField(TEXT("node"), Forward<RecordType>(Connection).Node);
+	Object.SetStringField(TEXT("pin"), Forward<RecordType>(Connection).Pin);
+	Object.SetStringField(TEXT("guid"), Forward<RecordType>(Connection).Guid);
+}
+
+template <typename RecordType>
+void WritePin(RecordType&& Pin, FJsonObject& Object)
+{
+	WriteTypePin(Forward<RecordType>(Pin), Object);
+	if (Pin.Connections.IsEmpty())
+	{
+		return;
+	}
+	TArray<TSharedPtr<FJsonValue>> Values;
+	Values.Reserve(Pin.Connections.Num());
+	for (auto& Connection : Pin.Connections)
+	{
+		const TSharedRef<FJsonObject> ConnectionObject = MakeShared<FJsonObject>();
+		using ConnectionType = std::conditional_t<std::is_lvalue_reference_v<RecordType>, decltype(Connection), FVexelBlueprintNodePinConnection>;
+		WriteConnection(Forward<ConnectionType>(Connection), *ConnectionObject);
+		Values.Add(MakeShared<FJsonValueObject>(ConnectionObject));
+	}
+	Object.SetArrayField(TEXT("connections"), MoveTemp(Values));
+}
+}
+
 FVexelBlueprintNodeTypePin::FVexelBlueprintNodeTypePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping)
+	: FVexelBlueprintNodeTypePin(Pin, Mapping, Pin.GetDefaultAsString())
+{
+}
+
+FVexelBlueprintNodeTypePin::FVexelBlueprintNodeTypePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping, FString InDefaultValue)
 	: Id(Mapping.MakePinReference(Pin).ToString())
 	, Direction(Pin.Direction)
 	, Guid(Pin.PinId)
@@ -13,32 +77,13 @@ FVexelBlueprintNodeTypePin::FVexelBlueprintNodeTypePin(const UEdGraphPin& Pin, F
 	, Type(Mapping.MakePropTypeReference(Pin.PinType, nullptr))
 	, bConst(Pin.PinType.bIsConst)
 	, bRef(Pin.PinType.bIsReference)
-	, DefaultValue(Pin.GetDefaultAsString())
+	, DefaultValue(MoveTemp(InDefaultValue))
 {
 }
 
 void FVexelBlueprintNodeTypePin::ToJson(const TSharedRef<FJsonObject>& Object) const
 {
-	// A graph has tens of thousands of pins: their objects do not grow field by field.
-	constexpr int32 NumUsualFields = 8;
-	Object->Values.Reserve(NumUsualFields);
-	Object->SetStringField(TEXT("id"), Id);
-	Object->SetStringField(TEXT("dir"), VexelBlueprintWords::GetWord(Direction));
-	Object->SetStringField(TEXT("guid"), Guid.ToString(EGuidFormats::Digits));
-	Object->SetStringField(TEXT("name"), Name);
-	Object->SetStringField(TEXT("type"), Type.ToString());
-	if (bConst)
-	{
-		Object->SetBoolField(TEXT("const"), true);
-	}
-	if (bRef)
-	{
-		Object->SetBoolField(TEXT("ref"), true);
-	}
-	if (!DefaultValue.IsEmpty())
-	{
-		Object->SetStringField(TEXT("value"), DefaultValue);
-	}
+	WriteTypePin(*this, *Object);
 }
 
 bool FVexelBlueprintNodeTypePin::FromJson(const TSharedRef<FJsonObject>& Object)
@@ -78,11 +123,7 @@ FVexelBlueprintNodePinConnection::FVexelBlueprintNodePinConnection(const UEdGrap
 
 void FVexelBlueprintNodePinConnection::ToJson(const TSharedRef<FJsonObject>& Object) const
 {
-	constexpr int32 NumFields = 3;
-	Object->Values.Reserve(NumFields);
-	Object->SetStringField(TEXT("node"), Node);
-	Object->SetStringField(TEXT("pin"), Pin);
-	Object->SetStringField(TEXT("guid"), Guid);
+	WriteConnection(*this, *Object);
 }
 
 bool FVexelBlueprintNodePinConnection::FromJson(const TSharedRef<FJsonObject>& Object)
@@ -97,9 +138,10 @@ bool FVexelBlueprintNodePinConnection::FromJson(const TSharedRef<FJsonObject>& O
 	return true;
 }
 
-FVexelBlueprintNodePin::FVexelBlueprintNodePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping)
-	: FVexelBlueprintNodeTypePin(Pin, Mapping)
+FVexelBlueprintNodePin::FVexelBlueprintNodePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping, FString InDefaultValue)
+	: FVexelBlueprintNodeTypePin(Pin, Mapping, MoveTemp(InDefaultValue))
 {
+	Connections.Reserve(Pin.LinkedTo.Num());
 	for (const UEdGraphPin* const LinkedPin : Pin.LinkedTo)
 	{
 		if (LinkedPin && LinkedPin->GetOwningNodeUnchecked())
@@ -111,19 +153,12 @@ FVexelBlueprintNodePin::FVexelBlueprintNodePin(const UEdGraphPin& Pin, FVexelBlu
 
 void FVexelBlueprintNodePin::ToJson(const TSharedRef<FJsonObject>& Object) const
 {
-	FVexelBlueprintNodeTypePin::ToJson(Object);
-	if (Connections.IsEmpty())
-	{
-		return;
-	}
-	TArray<TSharedPtr<FJsonValue>> Values;
-	for (const FVexelBlueprintNodePinConnection& Connection : Connections)
-	{
-		const TSharedRef<FJsonObject> ConnectionObject = MakeShared<FJsonObject>();
-		Connection.ToJson(ConnectionObject);
-		Values.Add(MakeShared<FJsonValueObject>(ConnectionObject));
-	}
-	Object->SetArrayField(TEXT("connections"), MoveTemp(Values));
+	WritePin(*this, *Object);
+}
+
+void FVexelBlueprintNodePin::MoveToJson(const TSharedRef<FJsonObject>& Object)
+{
+	WritePin(MoveTemp(*this), *Object);
 }
 
 bool FVexelBlueprintNodePin::FromJson(const TSharedRef<FJsonObject>& Object)

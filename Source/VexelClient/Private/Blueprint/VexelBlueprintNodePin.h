@@ -13,6 +13,8 @@ class FVexelBlueprintNodeTypePin
 public:
 	FVexelBlueprintNodeTypePin() = default;
 	FVexelBlueprintNodeTypePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping);
+	/** For a caller that has the default value in a form of its own. */
+	FVexelBlueprintNodeTypePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping, FString InDefaultValue);
 	virtual ~FVexelBlueprintNodeTypePin() = default;
 
 	/** Adds this pin's fields to the object. */
@@ -55,9 +57,11 @@ class FVexelBlueprintNodePin : public FVexelBlueprintNodeTypePin
 {
 public:
 	FVexelBlueprintNodePin() = default;
-	FVexelBlueprintNodePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping);
+	FVexelBlueprintNodePin(const UEdGraphPin& Pin, FVexelBlueprintMapping& Mapping, FString InDefaultValue);
 
 	virtual void ToJson(const TSharedRef<FJsonObject>& Object) const override;
+	/** The same of a record that nobody needs afterwards. */
+	void MoveToJson(const TSharedRef<FJsonObject>& Object);
 	virtual bool FromJson(const TSharedRef<FJsonObject>& Object) override;
 
 	TArray<FVexelBlueprintNodePinConnection> Connections;

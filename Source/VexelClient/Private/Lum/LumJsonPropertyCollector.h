@@ -17,6 +17,8 @@ public:
 	virtual TVexelExpected<void> Property(const TSharedRef<ILumProperty>& Property) override;
 	virtual TVexelExpected<void> Variable(const TSharedRef<ILumVariable>& Variable) override;
 
+	/** Makes room for that many properties. */
+	void Reserve(int32 NumProperties) { Properties.Reserve(NumProperties); }
 	/** Moves what was collected into the object's arrays; one that would be empty gets no key. */
 	void MoveTo(const TSharedRef<FJsonObject>& Object, const TCHAR* PropertiesKey, const TCHAR* VariablesKey);
 

@@ -8,6 +8,7 @@
 
 #include "AssetRegistry/AssetData.h"
 #include "EdGraphSchema_K2.h"
+#include "Misc/StringBuilder.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectGlobals.h"
 
@@ -101,10 +102,19 @@ FString MakeBaseText(FName Category, const UObject* Object, const FAssetData* As
 	{
 		return Category.ToString();
 	}
-	FString ObjectName = Object ? Object->GetName() : Asset && Asset->IsValid() ? Asset->AssetName.ToString()
-																				: FString();
-	ObjectName.RemoveFromEnd(TEXT("_C"));
-	if (ObjectName.IsEmpty())
+	TStringBuilder<NAME_SIZE> Text;
+	const bool bEnum = Category == UEdGraphSchema_K2::PC_Byte && Object && Object->IsA<UEnum>();
+	Text << (bEnum ? UEdGraphSchema_K2::PC_Enum : Category) << TEXT('.');
+	const int32 CategoryLen = Text.Len();
+	if (Object || (Asset && Asset->IsValid()))
+	{
+		Text << (Object ? Object->GetFName() : Asset->AssetName);
+	}
+	if (FStringView(Text).RightChop(CategoryLen).EndsWith(TEXT("_C"), ESearchCase::IgnoreCase))
+	{
+		Text.RemoveSuffix(2);
+	}
+	if (Text.Len() == CategoryLen)
 	{
 		if (Category == UEdGraphSchema_K2::PC_Interface)
 		{
@@ -113,9 +123,7 @@ FString MakeBaseText(FName Category, const UObject* Object, const FAssetData* As
 		}
 		return Category.ToString();
 	}
-	const bool bEnum = Category == UEdGraphSchema_K2::PC_Byte && Object && Object->IsA<UEnum>();
-	const FName WrittenCategory = bEnum ? UEdGraphSchema_K2::PC_Enum : Category;
-	return FString::Printf(TEXT("%s.%s"), *WrittenCategory.ToString(), *ObjectName);
+	return FString(Text);
 }
 
 FString MakeContainerText(const FEdGraphPinType& PinType, const FString& Element)

@@ -207,6 +207,7 @@ TVexelExpected<TSharedRef<FJsonObject>> FLumGraphCompound::JsonExportObject(cons
 		}
 	}
 	TArray<TSharedPtr<FJsonValue>> NodeValues;
+	NodeValues.Reserve(Graph->Nodes.Num());
 	for (UEdGraphNode* const Node : Graph->Nodes)
 	{
 		if (Node)

@@ -106,6 +106,8 @@ TVexelExpected<TSharedRef<FJsonObject>> FLumNodeCompound::JsonExportObject(const
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType(), "while getting type id for node '%s'", *Node->GetName());
 
 	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+	constexpr int32 NumUsualFields = 6;
+	Object->Values.Reserve(NumUsualFields);
 	Object->SetStringField(TEXT("type"), Type.ToString());
 	Object->SetStringField(TEXT("id"), Context.GetMapping().MakeNodeReference(*Node, true).ToString());
 	Object->SetStringField(TEXT("node_type"), Context.GetMapping().MakeNodeTypeReference(*Node).ToString());
@@ -115,6 +117,7 @@ TVexelExpected<TSharedRef<FJsonObject>> FLumNodeCompound::JsonExportObject(const
 	VEXEL_TRY_VOID(IterateName(Properties), "while exporting properties and variables to JSON");
 	Properties.MoveTo(Object, TEXT("properties"), TEXT("variables"));
 	FLumJsonPropertyCollector Pins(Context);
+	Pins.Reserve(Node->Pins.Num());
 	VEXEL_TRY_VOID(IteratePins(Pins, true), "while exporting properties and variables to JSON");
 	VEXEL_TRY_VOID(IterateEditablePins(Pins), "while exporting properties and variables to JSON");
 	Pins.MoveTo(Object, TEXT("pins"), TEXT("editable_pins"));

@@ -29,8 +29,7 @@ TVexelExpected<FString> GetDefaultText(const UEdGraphPin& Pin)
 	{
 		return FString();
 	}
-	VEXEL_TRY(const TSharedRef<FJsonValue> Value, FLumHelper::GetPinDefaultValueAsJsonValue(Pin));
-	return Value->AsString();
+	return FLumHelper::GetPinDefaultValue(Pin);
 }
 
 /** What a pin's record says of its value: that of an input while nothing is linked to it. A null reference is no value. */
@@ -138,10 +137,10 @@ TVexelExpected<void> FLumPinVariable::SetVariableDescriptor(const FLumVarDesc& D
 TVexelExpected<TSharedRef<FJsonObject>> FLumPinVariable::JsonExportPropertyObject(const FLumContext& Context) const
 {
 	VEXEL_TRY(const UEdGraphPin* const Pin, GetPin());
-	FVexelBlueprintNodePin Record(*Pin, Context.GetMapping());
-	VEXEL_TRY(Record.DefaultValue, GetRecordValue(*Pin));
+	VEXEL_TRY(FString DefaultValue, GetRecordValue(*Pin));
+	FVexelBlueprintNodePin Record(*Pin, Context.GetMapping(), MoveTemp(DefaultValue));
 	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	Record.ToJson(Object);
+	Record.MoveToJson(Object);
 	if (bEditablePin)
 	{
 		Object->SetBoolField(EditablePinKey, *bEditablePin);
