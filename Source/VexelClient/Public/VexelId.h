@@ -19,7 +19,8 @@ public:
 	{
 	}
 
-	const FString& ToString() const { return Text; }
+	const FString& ToString() const& { return Text; }
+	FString ToString() && { return MoveTemp(Text); }
 	bool IsEmpty() const { return Text.IsEmpty(); }
 	/** For log lines. Valid as long as the id. */
 	const TCHAR* operator*() const { return *Text; }

@@ -18,7 +18,7 @@ void WriteTypePin(RecordType&& Pin, FJsonObject& Object)
 	Object.SetStringField(TEXT("dir"), VexelBlueprintWords::GetWord(Pin.Direction));
 	Object.SetStringField(TEXT("guid"), Pin.Guid.ToString(EGuidFormats::Digits));
 	Object.SetStringField(TEXT("name"), Forward<RecordType>(Pin).Name);
-	Object.SetStringField(TEXT("type"), Pin.Type.ToString());
+	Object.SetStringField(TEXT("type"), Forward<RecordType>(Pin).Type.ToString());
 	if (Pin.bConst)
 	{
 		Object.SetBoolField(TEXT("const"), true);
