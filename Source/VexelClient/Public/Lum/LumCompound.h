@@ -63,6 +63,7 @@ protected:
 
 	/** What FindProperty does, without its context line. Kinds that know a property by its id override it; by itself it iterates. */
 	virtual TVexelExpected<TSharedPtr<ILumProperty>> Find(FStringView PropId) const;
+	/** The same for one that is not kept: kinds that would make it for the caller alone make it in the room. */
 	virtual TVexelExpected<void> FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const;
 
 	/** The part of the properties that an export shows: all of them, where a kind has no reason to leave some out. */

@@ -80,10 +80,8 @@ ResultType Choose(const FProperty& Property, MakeType Make)
 template <typename AboveType>
 void EmplaceMember(const TSharedRef<AboveType>& Above, const FProperty& Member, FLumPropertyRoom& OutProperty)
 {
-	Choose<bool>(Member, [&]<typename PropertyType>()
-		{
-			OutProperty.EmplaceMember<PropertyType>(Above, Member);
-			return true; });
+	Choose<void>(Member, [&]<typename PropertyType>()
+		{ OutProperty.EmplaceMember<PropertyType>(Above, Member); });
 }
 }
 
@@ -174,10 +172,8 @@ TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FLum
 
 void FLumUnrealPropertyFactory::CreateSubProperty(const FLumValuePlaceRef& Place, FLumPropertyRoom& OutProperty)
 {
-	Choose<bool>(Place->GetProperty(), [&Place, &OutProperty]<typename PropertyType>()
-		{
-			OutProperty.Emplace<PropertyType>(Place);
-			return true; });
+	Choose<void>(Place->GetProperty(), [&Place, &OutProperty]<typename PropertyType>()
+		{ OutProperty.Emplace<PropertyType>(Place); });
 }
 
 void FLumUnrealPropertyFactory::CreateMember(
