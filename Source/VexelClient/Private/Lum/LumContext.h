@@ -84,9 +84,13 @@ public:
 	/** Whether a compound inside those that are being imported may be imported. */
 	bool CanImport() const { return ImportDepth < MaxImportDepth; }
 
+	/** Room for the text of one value while it is read: of thousands each would allocate its own. The next use overwrites it. */
+	FString& GetTextBuffer() const { return TextBuffer; }
+
 private:
 	TSharedRef<FVexelBlueprintMapping> Mapping;
 	mutable TArray<const UObject*> OpenObjects;
 	mutable int32 StructDepth = 0;
 	mutable int32 ImportDepth = 0;
+	mutable FString TextBuffer;
 };

@@ -10,7 +10,6 @@
 #include "Lum/Value/LumValueText.h"
 
 #include "EdGraphSchema_K2.h"
-#include "Misc/StringBuilder.h"
 #include "UObject/EnumProperty.h"
 #include "UObject/UnrealType.h"
 
@@ -245,26 +244,33 @@ bool FLumHelper::ParseIndex(FStringView Text, int32& OutIndex)
 
 TVexelExpected<TArray<int32>> FLumHelper::GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object)
 {
+	VEXEL_TRY(const auto Elements, GetSortedElements(*Object));
 	TArray<int32> Keys;
-	Keys.Reserve(Object->Values.Num());
-	for (const auto& [Key, Value] : Object->Values)
+	Keys.Reserve(Elements.Num());
+	for (const auto& [Index, Value] : Elements)
 	{
-		int32 Number = 0;
-		if (!ParseIndex(Key, Number))
-		{
-			return VEXEL_ERROR(FLumError_Read, "Invalid numeric key: '%s'", *Key);
-		}
-		Keys.Add(Number);
+		Keys.Add(Index);
 	}
-	Keys.Sort();
 	return Keys;
 }
 
-TSharedPtr<FJsonValue> FLumHelper::FindByIndex(const FJsonObject& Object, int32 Index)
+TVexelExpected<TArray<TPair<int32, TSharedPtr<FJsonValue>>>> FLumHelper::GetSortedElements(const FJsonObject& Object)
 {
-	TStringBuilder<16> Key;
-	Key << Index;
-	return Object.TryGetField(Key);
+	using FElement = TPair<int32, TSharedPtr<FJsonValue>>;
+	TArray<FElement> Elements;
+	Elements.Reserve(Object.Values.Num());
+	for (const auto& [Key, Value] : Object.Values)
+	{
+		int32 Index = 0;
+		if (!ParseIndex(Key, Index))
+		{
+			return VEXEL_ERROR(FLumError_Read, "Invalid numeric key: '%s'", *Key);
+		}
+		Elements.Emplace(Index, Value);
+	}
+	Elements.Sort([](const FElement& Left, const FElement& Right)
+		{ return Left.Key < Right.Key; });
+	return Elements;
 }
 
 TVexelExpected<void> FLumHelper::CollectIndexedItems(ILumPropertyCollector& Collector, const TArray<TSharedRef<ILumProperty>>& Items)

@@ -80,8 +80,8 @@ public:
 	/** The object's keys as indices, ascending. */
 	static TVexelExpected<TArray<int32>> GetSortedNumericKeys(const TSharedRef<FJsonObject>& Object);
 
-	/** What the object has under the index as a key; null where it has nothing. */
-	static TSharedPtr<FJsonValue> FindByIndex(const FJsonObject& Object, int32 Index);
+	/** The same with what stands there, which may be null. */
+	static TVexelExpected<TArray<TPair<int32, TSharedPtr<FJsonValue>>>> GetSortedElements(const FJsonObject& Object);
 
 	/** Hands the properties to the collector in their order. */
 	static TVexelExpected<void> CollectIndexedItems(ILumPropertyCollector& Collector, const TArray<TSharedRef<ILumProperty>>& Items);

@@ -68,13 +68,13 @@ TSharedPtr<ILumProperty> FLumUnrealArrayCompound::MakeItem(int32 Index, int32 In
 TVexelExpected<void> FLumUnrealArrayCompound::JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object)
 {
 	VEXEL_TRY_VOID(CheckKeys(*Object));
-	VEXEL_TRY(const TArray<int32> Indices, FLumHelper::GetSortedNumericKeys(Object));
+	VEXEL_TRY(const auto Elements, FLumHelper::GetSortedElements(*Object));
 	return Change(EPropertyChangeType::ValueSet,
 		[&]() -> TVexelExpected<void>
 		{
-			for (const int32 Index : Indices)
+			for (const auto& [Index, Value] : Elements)
 			{
-				VEXEL_TRY_VOID(ImportElement(Context, Index, FLumHelper::FindByIndex(*Object, Index)),
+				VEXEL_TRY_VOID(ImportElement(Context, Index, Value),
 					"while importing array element at index %d", Index);
 			}
 			return {};

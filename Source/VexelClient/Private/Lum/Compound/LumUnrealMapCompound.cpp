@@ -98,13 +98,13 @@ TSharedPtr<ILumProperty> FLumUnrealMapCompound::MakeItem(int32 Index, int32 Inte
 
 TVexelExpected<void> FLumUnrealMapCompound::JsonImportObject(const FLumContext& Context, const TSharedRef<FJsonObject>& Object)
 {
-	VEXEL_TRY(const TArray<int32> Indices, FLumHelper::GetSortedNumericKeys(Object));
+	VEXEL_TRY(const auto Elements, FLumHelper::GetSortedElements(*Object));
 	return Change(EPropertyChangeType::ValueSet,
 		[&]() -> TVexelExpected<void>
 		{
-			for (const int32 Index : Indices)
+			for (const auto& [Index, Value] : Elements)
 			{
-				VEXEL_TRY_VOID(ImportEntry(Context, Index, FLumHelper::FindByIndex(*Object, Index)));
+				VEXEL_TRY_VOID(ImportEntry(Context, Index, Value));
 			}
 			return {};
 		});

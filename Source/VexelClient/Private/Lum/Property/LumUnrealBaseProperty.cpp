@@ -134,8 +134,12 @@ bool FLumUnrealBaseProperty::ExportText(FString& OutText) const
 
 TVexelExpected<void> FLumUnrealBaseProperty::ImportText(const FString& Text) const
 {
-	VEXEL_TRY_VOID(CheckProperty());
-	const FLumTemporaryValue Value(*Property, GetData());
+	const void* const Data = GetData();
+	if (!Data)
+	{
+		return CheckProperty();
+	}
+	const FLumTemporaryValue Value(*Property, Data);
 	VEXEL_TRY_VOID(LumValueText::Read(*Property, Value.Get(), Text, Place->GetOwner()->GetObject()));
 	return Place->Assign(Value.Get());
 }

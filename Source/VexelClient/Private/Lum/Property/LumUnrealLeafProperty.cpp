@@ -1,5 +1,6 @@
 #include "Lum/Property/LumUnrealLeafProperty.h"
 
+#include "Lum/LumContext.h"
 #include "Lum/LumErrors.h"
 
 #include "EdGraphSchema_K2.h"
@@ -23,13 +24,14 @@ TVexelExpected<FString> FLumUnrealLeafProperty::ExportString() const
 	return Text;
 }
 
-TVexelExpected<void> FLumUnrealLeafProperty::ImportValue(const FLumContext&, const TSharedRef<FJsonValue>& Value)
+TVexelExpected<void> FLumUnrealLeafProperty::ImportValue(const FLumContext& Context, const TSharedRef<FJsonValue>& Value)
 {
-	if (Value->Type != EJson::String)
+	FString& Text = Context.GetTextBuffer();
+	if (Value->Type != EJson::String || !Value->TryGetString(Text))
 	{
 		return VEXEL_ERROR(FLumError_Import, "Expected string value for property '%s'", *Property->GetName());
 	}
-	return ImportText(Value->AsString());
+	return ImportText(Text);
 }
 
 TVexelExpected<TVexelPropTypeId> FLumUnrealEnumProperty::GetValueTypeId() const

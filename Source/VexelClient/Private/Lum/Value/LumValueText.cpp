@@ -4,6 +4,7 @@
 #include "Lum/LumHelper.h"
 #include "Lum/Value/LumTemporaryValue.h"
 
+#include "Misc/Optional.h"
 #include "Misc/OutputDevice.h"
 #include "UObject/EnumProperty.h"
 #include "UObject/UnrealType.h"
@@ -181,11 +182,17 @@ FString FindFault(const FProperty& Property, void* Value, const FString& Text, U
 
 TVexelExpected<void> LumValueText::Read(const FProperty& Property, void* Value, const FString& Text, UObject* Referrer)
 {
-	const FLumTemporaryValue Old(Property, Value);
+	// A plain number is right or wrong whatever it was before.
+	const bool bIsPlainNumber = Property.IsA<FNumericProperty>() && !GetEnum(Property);
+	TOptional<FLumTemporaryValue> Old;
+	if (!bIsPlainNumber)
+	{
+		Old.Emplace(Property, Value);
+	}
 	FString Fault = FindFault(Property, Value, Text, Referrer);
 	if (Fault.IsEmpty())
 	{
-		const TVexelExpected<void> Check = FValueCheck(Referrer).Check(Property, Value, Old.Get());
+		const TVexelExpected<void> Check = FValueCheck(Referrer).Check(Property, Value, Old ? Old->Get() : nullptr);
 		Fault = Check.HasError() ? Check.GetError().GetMessage() : FString();
 	}
 	if (!Fault.IsEmpty())
