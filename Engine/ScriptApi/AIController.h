@@ -23,6 +23,9 @@ public:
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "AI", meta = (AllowPrivateAccess = "true"))
 	TObjectPtr<UBlackboardComponent> Blackboard;
 
+	UPROPERTY(VisibleDefaultsOnly, Category = "AI")
+	TObjectPtr<UPathFollowingComponent> PathFollowingComponent;
+
 	UPROPERTY(EditAnywhere, Category = "AI")
 	uint8 bStartAILogicOnPossess : 1;
 

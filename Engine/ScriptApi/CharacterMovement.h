@@ -472,6 +472,17 @@ public:
 	float TurningBoost = 8.f;
 };
 
+/** Moves what only looks on. */
+UCLASS()
+class ENGINE_API USpectatorPawnMovement : public UFloatingPawnMovement
+{
+	GENERATED_BODY()
+
+public:
+	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "SpectatorPawnMovement")
+	uint8 bIgnoreTimeDilation : 1;
+};
+
 /** Moves its actor along points. */
 UCLASS(ClassGroup = Movement, meta = (BlueprintSpawnableComponent), HideCategories = Velocity)
 class ENGINE_API UInterpToMovementComponent : public UMovementComponent

@@ -15,6 +15,9 @@ class ENGINE_API AController : public AActor
 	GENERATED_BODY()
 
 public:
+	UPROPERTY()
+	TObjectPtr<USceneComponent> TransformComponent;
+
 	/** Takes a pawn under control. */
 	UFUNCTION(BlueprintCallable, Category = "Pawn")
 	void Possess(APawn* InPawn);

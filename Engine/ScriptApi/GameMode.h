@@ -366,6 +366,9 @@ class ENGINE_API APlayerStart : public ANavigationObjectBase
 public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Object")
 	FName PlayerStartTag;
+
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
 };
 
 /** A place that navigation knows. */
@@ -373,4 +376,14 @@ UCLASS(hidecategories = (Lighting, LightColor, Force), ClassGroup = Navigation, 
 class ENGINE_API ANavigationObjectBase : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "NavigationObjectBase", meta = (AllowPrivateAccess = "true"))
+	TObjectPtr<UCapsuleComponent> CapsuleComponent;
+
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> GoodSprite;
+
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> BadSprite;
 };

@@ -47,10 +47,10 @@ public:
 	UFUNCTION(BlueprintCallable, Category = "Components|Movement")
 	float GetMaxSpeed() const;
 
-	UPROPERTY(BlueprintReadOnly, Category = "MovementComponent")
+	UPROPERTY(BlueprintReadOnly, Transient, DuplicateTransient, Category = "MovementComponent")
 	TObjectPtr<USceneComponent> UpdatedComponent;
 
-	UPROPERTY(BlueprintReadOnly, Category = "MovementComponent")
+	UPROPERTY(BlueprintReadOnly, Transient, DuplicateTransient, Category = "MovementComponent")
 	TObjectPtr<UPrimitiveComponent> UpdatedPrimitive;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "MovementComponent")

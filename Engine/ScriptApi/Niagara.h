@@ -522,6 +522,12 @@ public:
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "NiagaraActor")
 	TObjectPtr<UNiagaraComponent> NiagaraComponent;
 
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> SpriteComponent;
+
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
+
 	/** Sets the destroy on system finish. */
 	UFUNCTION(BlueprintCallable, Category = "NiagaraActor")
 	void SetDestroyOnSystemFinish(bool bShouldDestroyOnSystemFinish);

@@ -12,6 +12,9 @@ class ENGINE_API APlayerCameraManager : public AActor
 	GENERATED_BODY()
 
 public:
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "PlayerCameraManager")
+	TObjectPtr<USceneComponent> TransformComponent;
+
 	/** Place of the camera. */
 	UFUNCTION(BlueprintPure, Category = "Camera")
 	FVector GetCameraLocation() const;
@@ -244,6 +247,9 @@ class ENGINE_API ACameraActor : public AActor
 public:
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "CameraActor")
 	TObjectPtr<UCameraComponent> CameraComponent;
+
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "CameraActor", meta = (AllowPrivateAccess = "true"))
+	TObjectPtr<USceneComponent> SceneComponent;
 
 	UPROPERTY(EditAnywhere, Category = "CameraActor")
 	TEnumAsByte<EAutoReceiveInput::Type> AutoActivateForPlayer;

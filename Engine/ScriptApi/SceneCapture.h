@@ -159,6 +159,10 @@ UCLASS(abstract, hidecategories = (Collision, Attachment, Actor))
 class ENGINE_API ASceneCapture : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "SceneCapture", meta = (AllowPrivateAccess = "true"))
+	TObjectPtr<USceneComponent> SceneComponent;
 };
 
 /** Draws what a camera sees into a texture. */

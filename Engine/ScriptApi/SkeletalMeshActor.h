@@ -42,6 +42,9 @@ public:
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Light")
 	TObjectPtr<USpotLightComponent> SpotLightComponent;
 
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
+
 	/** Sets the inner cone angle. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering|Lighting", meta = (DeprecatedFunction))
 	void SetInnerConeAngle(float NewInnerConeAngle);
@@ -56,6 +59,10 @@ UCLASS(ClassGroup = (Lights, DirectionalLights), Blueprintable)
 class ENGINE_API ADirectionalLight : public ALight
 {
 	GENERATED_BODY()
+
+public:
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
 };
 
 /** A rectangle that shines in the world. */
@@ -74,6 +81,12 @@ class ENGINE_API AEmitter : public AActor
 public:
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Emitter")
 	TObjectPtr<UParticleSystemComponent> ParticleSystemComponent;
+
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> SpriteComponent;
+
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
 };
 
 /** A sound in the world. */
@@ -105,6 +118,10 @@ UCLASS(hidecategories = (Object, Collision, Display, Rendering, Physics, Input, 
 class ENGINE_API ABrush : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Collision", meta = (AllowPrivateAccess = "true"))
+	TObjectPtr<UBrushComponent> BrushComponent;
 };
 
 /** A part of the level. */
@@ -184,6 +201,9 @@ class ENGINE_API ATriggerBase : public AActor
 public:
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "TriggerBase")
 	TObjectPtr<UShapeComponent> CollisionComponent;
+
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> SpriteComponent;
 };
 
 /** A box that sends events. */
@@ -212,6 +232,13 @@ UCLASS()
 class ENGINE_API ATargetPoint : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> SpriteComponent;
+
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
 };
 
 /** A remark in the level. */
@@ -219,6 +246,13 @@ UCLASS()
 class ENGINE_API ANote : public AActor
 {
 	GENERATED_BODY()
+
+public:
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> SpriteComponent;
+
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
 };
 
 /** A mesh that is bent along a curve in the world. */

@@ -296,4 +296,8 @@ UCLASS(showcategories = (Movement, Rendering, Transformation, DataLayers, "Input
 class ENGINE_API ASkyAtmosphere : public AInfo
 {
 	GENERATED_BODY()
+
+public:
+	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Atmosphere", meta = (AllowPrivateAccess = "true"))
+	TObjectPtr<USkyAtmosphereComponent> SkyAtmosphereComponent;
 };

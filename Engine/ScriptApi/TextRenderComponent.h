@@ -128,6 +128,9 @@ class ENGINE_API ATextRenderActor : public AActor
 public:
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "TextRenderActor")
 	TObjectPtr<UTextRenderComponent> TextRender;
+
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> SpriteComponent;
 };
 
 /** A picture that always faces the camera. */
@@ -315,6 +318,12 @@ class ENGINE_API ADecalActor : public AActor
 public:
 	UPROPERTY(VisibleAnywhere, BlueprintReadOnly, Category = "Decal")
 	TObjectPtr<UDecalComponent> Decal;
+
+	UPROPERTY()
+	TObjectPtr<UArrowComponent> ArrowComponent;
+
+	UPROPERTY()
+	TObjectPtr<UBillboardComponent> SpriteComponent;
 
 	/** Sets the decal material. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering|Components|Decal")

@@ -251,9 +251,9 @@ TEST_F(FScriptHeaders, StockLoadsWithNothingToReportButAbsentClasses)
 {
 	const FScriptHeaderReport Report = LoadScriptHeaders(TEXT(VEXEL_SOURCE_DIR "/Engine/ScriptApi"));
 	EXPECT_GT(Report.NumFunctions, 3000);
-	// Classes of the Engine module are not linked here, so what extends them is reported; nothing else is.
+	// Classes of the Engine module are not linked here, so what extends them or needs their members is reported; nothing else is.
 	for (const FString& Error : Report.Errors)
 	{
-		EXPECT_TRUE(Error.Contains(TEXT("there is no"))) << TCHAR_TO_UTF8(*Error);
+		EXPECT_TRUE(Error.Contains(TEXT("there is no")) || Error.Contains(TEXT("DefaultSubobjects.txt"))) << TCHAR_TO_UTF8(*Error);
 	}
 }

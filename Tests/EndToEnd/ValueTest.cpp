@@ -5,6 +5,9 @@
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
 
+#include <map>
+#include <set>
+
 namespace
 {
 using testing::HasSubstr;
@@ -62,6 +65,31 @@ TEST_F(Value, OfAPinIsReadSetAndSaved)
 	EXPECT_EQ("quoted", Run({"set", Address, "\"quoted\""}));
 	EXPECT_THAT(Run({"get", "BP_Door:EventGraph/" + Node}), HasSubstr("\"id\": \"" + Node + "\""));
 	EXPECT_EQ("OpenDoor", Run({"get", "BP_Door:OpenDoor/.name"}));
+}
+
+TEST_F(Value, OfAComponentOfTheNativeParentIsSavedInTheBlueprint)
+{
+	const std::string Location = "BP_Player:$ClassDefaultObject.Mesh.RelativeLocation";
+	EXPECT_EQ("0.000000", Run({"get", Location + ".Z"}));
+	EXPECT_EQ("88.000000", Run({"get", "BP_Player:$ClassDefaultObject.CapsuleComponent.CapsuleHalfHeight"}));
+	EXPECT_EQ("-88.000000", Run({"set", Location + ".Z", "-88", "--save"}));
+	EXPECT_EQ("-88.000000", Run({"get", Location + ".Z"}));
+	const nlohmann::json Package = nlohmann::json::parse(
+		RunVexel({"inspect", (Project.GetPath() / "Content" / "BP_Player.uasset").string(), "--json"}).Output, nullptr, false);
+	ASSERT_TRUE(Package.is_object());
+	std::map<std::string, std::set<std::string>> Saved;
+	for (const nlohmann::json& Export : Package["exports"])
+	{
+		const std::string Path = Export["path"];
+		const size_t Name = Path.find("Default__BP_Player_C:");
+		for (const nlohmann::json& Property : Name == std::string::npos ? nlohmann::json::array() : Export["properties"])
+		{
+			Saved[Path.substr(Path.find(':') + 1)].insert(Property["name"]);
+		}
+	}
+	const std::map<std::string, std::set<std::string>> Expected = {
+		{"Arrow", {"AttachParent"}}, {"CharacterMesh0", {"AttachParent", "RelativeLocation"}}};
+	EXPECT_EQ(Expected, Saved) << "what is the native class's own is not the Blueprint's to save";
 }
 
 TEST_F(Value, IsADocumentForOtherPrograms)

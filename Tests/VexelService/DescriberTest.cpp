@@ -46,6 +46,30 @@ TEST(Describer, ABranchIsToldWithItsConditionAndBothWays)
 	EXPECT_THAT(Text, HasSubstr("- **Health**: number, 100 by default\n"));
 }
 
+TEST(Describer, ComponentsAreListedWithWhatIsChangedOfThem)
+{
+	FJson Export = MakeBlueprint("/Game/BP_Walker.BP_Walker", {}, {});
+	const auto List = [&Export]
+	{
+		const std::optional<FBlueprintModel> Model = ReadBlueprintModel(Export);
+		return Model ? FBlueprintDescriber(*Model).Components() : "(no model)";
+	};
+	EXPECT_EQ(List(), "**BP_Walker** has no components.\n");
+	const FJson Mesh = {{"type", "object.SkeletalMeshComponent"},
+		{"properties", {{{"id", "bOwnerNoSee"}, {"type", "bool"}, {"value", "True"}}, {{"id", "OverlayMaterial"}, {"type", "object.Material"}}}}};
+	Export["properties"] = {{{"id", "$ClassDefaultObject"}, {"type", "object.BP_Walker"},
+		{"value",
+			{{"type", "object.BP_Walker"},
+				{"properties",
+					{{{"id", "Mesh"}, {"type", "object.SkeletalMeshComponent"}, {"value", Mesh}},
+						{{"id", "InitialLifeSpan"}, {"type", "real"}, {"value", "5.0"}},
+						{{"id", "CapsuleComponent"}, {"type", "object.CapsuleComponent"},
+							{"value", {{"type", "object.CapsuleComponent"}}}}}}}}}};
+	EXPECT_EQ(List(),
+		"**BP_Walker** has 2 components:\n\n- **Mesh**: SkeletalMeshComponent, with bOwnerNoSee = true and OverlayMaterial\n"
+		"- **CapsuleComponent**: CapsuleComponent\n");
+}
+
 TEST(Describer, WhatATimerRunsIsToldByItsName)
 {
 	const FJson Timer = MakeNode("Timer_0", "call.KismetSystemLibrary.K2_SetTimerDelegate",

@@ -35,6 +35,8 @@ TEST(Question, TheDocumentedQuestionsAreUnderstood)
 		{"list the functions of BP_Door", E::Functions, "BP_Door", ""},
 		{"what events are there in BP_Door", E::Events, "BP_Door", ""},
 		{"What graphs does BP_Door have?", E::Graphs, "BP_Door", ""},
+		{"What components does BP_Door have?", E::Components, "BP_Door", ""},
+		{"list BP_Door's components", E::Components, "BP_Door", ""},
 		{"How many macros does BP_Door have?", E::Macros, "BP_Door", ""},
 		{"Where is Health used in BP_Door?", E::VariableUse, "BP_Door", "Health"},
 		{"Where is the variable Max Health changed in BP_Door?", E::VariableUse, "BP_Door", "Max Health"},

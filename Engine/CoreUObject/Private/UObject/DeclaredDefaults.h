@@ -1,10 +1,14 @@
 #pragma once
 
 #include "CoreMinimal.h"
+#include "DeclaredSubobjects.h"
 
 class FProperty;
 
-/** Initial values that a declaration without C++ gives its members; each is copied into a new value of the struct or class. */
+/**
+ * What a declaration without C++ has in a constructor's place: initial values of members, each of which is copied into a new value
+ * of the struct or class, and a class's sub-objects.
+ */
 class FDeclaredDefaults
 {
 public:
@@ -19,6 +23,11 @@ public:
 	/** The container's members must be initialized. */
 	void ApplyTo(void* Container) const;
 
+	/** Null where the class makes the same sub-objects as its super, or none. */
+	const FDeclaredSubobjects* GetSubobjects() const { return Subobjects.Get(); }
+	void SetSubobjects(TUniquePtr<FDeclaredSubobjects>&& InSubobjects) { Subobjects = MoveTemp(InSubobjects); }
+
 private:
 	TArray<TPair<const FProperty*, void*>> Values;
+	TUniquePtr<FDeclaredSubobjects> Subobjects;
 };

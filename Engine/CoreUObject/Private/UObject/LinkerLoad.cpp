@@ -1,5 +1,6 @@
 #include "UObject/LinkerLoad.h"
 
+#include "DeclaredSubobjects.h"
 #include "ObjectFingerprint.h"
 #include "PackageBytes.h"
 #include "UObject/Class.h"
@@ -24,6 +25,13 @@ bool IsPartlyDeclared(const UClass* Class)
 		Class = Class->GetSuperClass();
 	}
 	return Class != nullptr;
+}
+
+/** Bytes that an object of the class takes with the parts that it makes for itself. */
+int64 GetSizeOfObject(const UClass* Class)
+{
+	const FDeclaredSubobjects* const Subobjects = FDeclaredSubobjects::Find(Class);
+	return Class->GetPropertiesSize() + (Subobjects ? Subobjects->GetMemorySize() : 0);
 }
 
 /** The objects that are being read, each because of the one before it. */
@@ -306,10 +314,18 @@ UObject* FLinkerLoad::MakeExportObject(int32 ExportIndex, UClass* Class, UObject
 	}
 	Flags = static_cast<EObjectFlags>(Flags & ~RF_ClassDefaultObject);
 	// A part that the outer's constructor made is the one to fill.
-	if (UObject* const Existing = StaticFindObjectFast(nullptr, Outer, Export.ObjectName); Existing && Existing->GetClass() == Class)
+	UObject* const Existing = StaticFindObjectFast(nullptr, Outer, Export.ObjectName);
+	if (Existing && Existing->GetClass() == Class)
 	{
 		Existing->SetFlags(Flags);
 		return Existing;
+	}
+	if (Existing && Existing->HasAnyFlags(RF_DefaultSubObject) && !Existing->HasAnyFlags(RF_WasLoaded))
+	{
+		// A class of the project, which is known by its super alone, makes this part of a class of its own.
+		Existing->Rename(nullptr, GetTransientPackageAsObject(),
+			REN_ForceGlobalUnique | REN_DoNotDirty | REN_NonTransactional | REN_DontCreateRedirectors);
+		Existing->MarkAsGarbage();
 	}
 	FStaticConstructObjectParameters Params(Class);
 	Params.Outer = Outer;
@@ -338,7 +354,7 @@ UObject* FLinkerLoad::CreateExport(int32 ExportIndex)
 	}
 	UObject* const Outer = FindOuterOfExport(ExportIndex);
 	// Making the class or the outer may have made this one.
-	if (!ExportMap[ExportIndex].Object.Get() && Class && Outer && SpendMemory(Class->GetPropertiesSize()))
+	if (!ExportMap[ExportIndex].Object.Get() && Class && Outer && SpendMemory(GetSizeOfObject(Class)))
 	{
 		UObject* const Made = MakeExportObject(ExportIndex, Class, Outer);
 		ExportMap[ExportIndex].Object = Made;

@@ -1,7 +1,8 @@
 #pragma once
 
-#include "UObject/UObjectBase.h"
+#include "UObject/Class.h"
 #include "UObject/UObjectArray.h"
+#include "UObject/UObjectBase.h"
 
 /** The identity of an object whose constructor is about to run, and the doors that only the object system may open. */
 struct FObjectBootstrap
@@ -33,6 +34,8 @@ struct FObjectBootstrap
 	static bool FitsStandIn(const UClass* Class);
 	/** Runs the constructor of its class, which has got another super, over a plain object. Its identity and its place stay. */
 	static void ConstructAnew(UObject* Object, UObject* Template);
+	/** What stands in for the constructor of the class, its supers left aside; null where nothing does. */
+	static FDeclaredDefaults* GetDeclaredDefaults(const UStruct* Struct) { return Struct->DeclaredDefaults; }
 	/** Into the object array and the hash tables. */
 	static void Register(UObjectBase* Object, EInternalObjectFlags InternalFlags);
 };

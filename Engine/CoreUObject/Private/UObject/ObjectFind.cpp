@@ -58,6 +58,26 @@ FName FindName(FStringView Text)
 {
 	return FName(*FString(Text), FNAME_Find);
 }
+
+/** The default object of a native class is there before anybody asks for it; that of a declared class is made when somebody does. */
+UObject* FindDeclaredDefaultObject(UObject* Package, FStringView Name)
+{
+	const FStringView Prefix(DEFAULT_OBJECT_PREFIX);
+	if (!Package || Package->GetClass() != UPackage::StaticClass() || !Name.StartsWith(Prefix))
+	{
+		return nullptr;
+	}
+	const UObject* const Class = StaticFindObjectFast(UClass::StaticClass(), Package, FindName(Name.RightChop(Prefix.Len())));
+	const bool bIsDeclared = Class && static_cast<const UClass*>(Class)->bLaidOutAtRunTime;
+	return bIsDeclared ? static_cast<const UClass*>(Class)->GetDefaultObject() : nullptr;
+}
+
+UObject* FindInOuter(UClass* Class, UObject* Outer, FStringView Name, bool bExactClass)
+{
+	UObject* const Found = StaticFindObjectFast(Class, Outer, FindName(Name), bExactClass);
+	UObject* const Defaults = Found ? nullptr : FindDeclaredDefaultObject(Outer, Name);
+	return Defaults && FMatch{Class, bExactClass}(Defaults) ? Defaults : Found;
+}
 }
 
 UObject* StaticFindObjectFastInternal(const UClass* Class, const UObject* InOuter, FName InName, bool bExactClass,
@@ -96,7 +116,7 @@ UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bo
 	}
 	for (; Separator != INDEX_NONE; Separator = FindSeparator(Rest))
 	{
-		UObject* const Next = StaticFindObjectFast(nullptr, Outer, FindName(Rest.Left(Separator)));
+		UObject* const Next = FindInOuter(nullptr, Outer, Rest.Left(Separator), false);
 		if (!Next)
 		{
 			return nullptr;
@@ -104,7 +124,7 @@ UObject* StaticFindObject(UClass* Class, UObject* InOuter, const TCHAR* Name, bo
 		Outer = Next;
 		Rest = Rest.RightChop(Separator + 1);
 	}
-	if (UObject* const Found = StaticFindObjectFast(Class, Outer, FindName(Rest), ExactClass))
+	if (UObject* const Found = FindInOuter(Class, Outer, Rest, ExactClass))
 	{
 		return Found;
 	}

@@ -1,5 +1,6 @@
 #include "UObject/ObjectInitializer.h"
 
+#include "DeclaredSubobjects.h"
 #include "UObject/Package.h"
 #include "UObject/UnrealType.h"
 
@@ -25,7 +26,8 @@ public:
 		const bool bLoading = Instance->HasAnyFlags(RF_NeedLoad);
 		for (FProperty* Property = Instance->GetClass()->RefLink; Property; Property = Property->NextRef)
 		{
-			bMayMakeParts = !bLoading && Property->ContainsInstancedObjectProperty();
+			bIsInstanced = Property->ContainsInstancedObjectProperty();
+			bMayMakeParts = !bLoading && bIsInstanced;
 			Property->CollectReferences(Property->ContainerPtrToValuePtr<void>(Instance), *this, Instance);
 		}
 	}
@@ -33,11 +35,18 @@ public:
 protected:
 	void HandleObjectReference(UObject*& Object, const UObject* ReferencingObject, const FProperty* ReferencingProperty) override
 	{
+		UObject* const Known = Object ? Graph.GetDestinationObject(Object) : nullptr;
+		// A part's instanced reference may lead out of it, to another part of what is being made.
+		if (Known && bIsInstanced)
+		{
+			Object = Known;
+			return;
+		}
 		if (!Object || !Object->IsIn(Template))
 		{
 			return;
 		}
-		if (UObject* const Known = Graph.GetDestinationObject(Object))
+		if (Known)
 		{
 			Object = Known;
 		}
@@ -54,6 +63,7 @@ private:
 	FObjectInstancingGraph& Graph;
 	UObject* Instance;
 	const UObject* Template;
+	bool bIsInstanced = false;
 	bool bMayMakeParts = false;
 };
 
@@ -78,6 +88,16 @@ void CopyValues(UObject* Instance, const UObject* Source)
 		{
 			Property->CopyCompleteValue_InContainer(Instance, Source);
 		}
+	}
+}
+
+/** Gives a part that is there already the values of its template; what was loaded has its own. */
+void FillPart(FObjectInstancingGraph& Graph, UObject* Part, const UObject* TemplatePart)
+{
+	if (Part->GetClass()->IsChildOf(TemplatePart->GetClass()) && !Part->HasAnyFlags(RF_WasLoaded))
+	{
+		CopyValues(Part, TemplatePart);
+		FPartInstancer(Graph, Part, TemplatePart).Run();
 	}
 }
 }
@@ -136,11 +156,7 @@ UObject* FObjectInstancingGraph::InstancePart(UObject* TemplatePart, UObject* In
 		return Made;
 	}
 	AddNewInstance(Existing, TemplatePart);
-	if (Existing->GetClass()->IsChildOf(TemplatePart->GetClass()) && !Existing->HasAnyFlags(RF_WasLoaded))
-	{
-		CopyValues(Existing, TemplatePart);
-		FPartInstancer(*this, Existing, TemplatePart).Run();
-	}
+	FillPart(*this, Existing, TemplatePart);
 	return Existing;
 }
 
@@ -249,6 +265,8 @@ void FObjectInitializer::PostConstructInit()
 	UClass* const Class = Obj->GetClass();
 	const bool bIsCDO = Obj->HasAnyFlags(RF_ClassDefaultObject);
 	UClass* const Base = bIsCDO && Class->GetSuperClass() ? Class->GetSuperClass() : Class;
+	// The default object of a declared class is what its constructor makes; all others are made from theirs.
+	const bool bIsDeclared = bIsCDO && Class->bLaidOutAtRunTime;
 	UObject* const Defaults = ObjectArchetype ? ObjectArchetype : Base->GetDefaultObject(false);
 	for (const FProperty* Property = Class->PostConstructLink; Property; Property = Property->PostConstructLinkNext)
 	{
@@ -261,9 +279,18 @@ void FObjectInitializer::PostConstructInit()
 	{
 		PropertyInitCallback();
 	}
+	const FDeclaredSubobjects* const Subobjects = FDeclaredSubobjects::Find(Class);
+	if (Subobjects)
+	{
+		Subobjects->Make(*this);
+	}
 	if (bShouldInitializePropsFromArchetype)
 	{
 		InitProperties(Base, Defaults);
+		if (Subobjects && bIsDeclared)
+		{
+			Subobjects->SetMembers(Obj);
+		}
 		// A native object that starts from its class's own defaults has its constructor's values and parts already.
 		if (Defaults && Defaults != Obj && !(IsNativeClass(Class) && Defaults == Class->GetDefaultObject(false)))
 		{
@@ -278,6 +305,10 @@ void FObjectInitializer::PostConstructInit()
 			InheritRunTimeMembers(Obj, Base, Defaults);
 		}
 		Class->ApplyOwnDeclaredDefaults(Obj);
+	}
+	if (Subobjects && bIsDeclared)
+	{
+		Subobjects->SetValues(Obj);
 	}
 	if (bIsCDO && Class->HasAnyClassFlags(CLASS_Config))
 	{
@@ -324,16 +355,23 @@ void FObjectInitializer::InstanceSubobjects() const
 	FObjectInstancingGraph OwnGraph;
 	FObjectInstancingGraph& Graph = InstanceGraph ? *InstanceGraph : OwnGraph;
 	Graph.AddNewInstance(Obj, ObjectArchetype);
-	// Parts that the constructor made but no property holds.
+	// Parts that the constructor made, whether a property holds them or not. All are known before one is filled: it may refer to others.
 	TArray<UObject*> Parts;
 	Obj->GetDefaultSubobjects(Parts);
-	for (const UObject* const Part : Parts)
+	TArray<TPair<UObject*, const UObject*>> Pairs;
+	for (UObject* const Part : Parts)
 	{
-		UObject* const TemplatePart = StaticFindObjectFast(Part->GetClass(), ObjectArchetype, Part->GetFName());
-		if (TemplatePart && Part->HasAnyFlags(RF_DefaultSubObject))
+		// The class of the object may make it of another class than its super does.
+		UObject* const TemplatePart = StaticFindObjectFast(nullptr, ObjectArchetype, Part->GetFName());
+		if (TemplatePart && Part->HasAnyFlags(RF_DefaultSubObject) && !Graph.GetDestinationObject(TemplatePart))
 		{
-			Graph.InstancePart(TemplatePart, Obj, ObjectArchetype);
+			Graph.AddNewInstance(Part, TemplatePart);
+			Pairs.Emplace(Part, TemplatePart);
 		}
+	}
+	for (const TPair<UObject*, const UObject*>& Pair : Pairs)
+	{
+		FillPart(Graph, Pair.Key, Pair.Value);
 	}
 	FPartInstancer(Graph, Obj, ObjectArchetype).Run();
 }

@@ -8,6 +8,7 @@
 #include "HeaderParser/Parser.h"
 #include "Misc/FileHelper.h"
 #include "ScriptHeaderTypes.h"
+#include "ScriptSubobjectTable.h"
 
 #include <atomic>
 #include <string_view>
@@ -104,6 +105,19 @@ FScriptHeaderReport LoadScriptHeaders(const FString& Directory)
 	}
 	FScriptHeaderReport Report = LoadScriptHeaderSources(Sources);
 	Report.Errors.Insert(Unreadable.Errors, 0);
+	FScriptHeaderSource Table;
+	Table.Path = Directory / TEXT("DefaultSubobjects.txt");
+	if (FFileHelper::LoadFileToArray(Table.Text, *Table.Path))
+	{
+		Report.Errors.Append(LoadScriptSubobjects(Table).Errors);
+	}
+	return Report;
+}
+
+FScriptHeaderReport LoadScriptSubobjects(const FScriptHeaderSource& Table)
+{
+	FScriptHeaderReport Report;
+	FScriptSubobjectTable(Table, Report).Read();
 	return Report;
 }
 

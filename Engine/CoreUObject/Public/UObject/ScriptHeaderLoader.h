@@ -31,7 +31,12 @@ struct FScriptHeaderSource
 	TArray<uint8> Text;
 };
 
-/** Reads every header below the directory, in the order of their paths. A type that exists already is extended or left alone. */
+/**
+ * Reads every header below the directory, in the order of their paths, and DefaultSubobjects.txt where it has one. A type that
+ * exists already is extended or left alone.
+ */
 COREUOBJECT_API FScriptHeaderReport LoadScriptHeaders(const FString& Directory);
 COREUOBJECT_API FScriptHeaderReport LoadScriptHeaderSources(const TArray<FScriptHeaderSource>& Sources);
+/** Reads what sub-objects the constructors of declared classes make; ScriptApi/README.md describes the table. A bad row is left out. */
+COREUOBJECT_API FScriptHeaderReport LoadScriptSubobjects(const FScriptHeaderSource& Table);
 }

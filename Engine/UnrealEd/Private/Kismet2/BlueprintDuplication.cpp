@@ -7,6 +7,7 @@
 #include "K2Node.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/KismetEditorUtilities.h"
+#include "UObject/LayoutTransfer.h"
 #include "UObject/UObjectGlobals.h"
 #include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
@@ -83,17 +84,15 @@ void ReplaceOwnClass(UBlueprint& Blueprint, const UClass* Old, UClass* New)
 	}
 }
 
-void CopyDefaults(const UObject& From, UObject& To)
+/** With those of the parts that native constructors make. */
+void CopyDefaults(UObject& From, UObject& To)
 {
-	for (TFieldIterator<FProperty> It(To.GetClass()); It; ++It)
-	{
-		const FProperty* const Source =
-			It->ContainsInstancedObjectProperty() ? nullptr : From.GetClass()->FindPropertyByName(It->GetFName());
-		if (Source && Source->SameType(*It) && Source->ArrayDim == It->ArrayDim)
-		{
-			It->CopyCompleteValue(It->ContainerPtrToValuePtr<void>(&To), Source->ContainerPtrToValuePtr<void>(&From));
-		}
-	}
+	TMap<UObject*, UObject*> Parts;
+	UE::CoreUObject::TransferValues(
+		From, To,
+		[&From](const FProperty& Property)
+		{ return From.GetClass()->FindPropertyByName(Property.GetFName()); },
+		Parts);
 }
 }
 

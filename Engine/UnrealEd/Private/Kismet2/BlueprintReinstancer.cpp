@@ -268,8 +268,14 @@ void ReturnLostDefaults(UObject& New, const UBlueprintGeneratedClass& NewClass)
 void FBlueprintCompileReinstancer::CreateNewDefaultObject(FRebuiltClass& Rebuilt, TArray<FString>& OutErrors)
 {
 	UObject* const NewDefaultObject = Rebuilt.Class->GetDefaultObject();
-	// What a user edits as the class's defaults.
-	NewDefaultObject->SetFlags(RF_Transactional);
+	// What a user edits as the class's defaults, its parts included.
+	TArray<UObject*> Edited;
+	NewDefaultObject->GetDefaultSubobjects(Edited);
+	Edited.Add(NewDefaultObject);
+	for (UObject* const Object : Edited)
+	{
+		Object->SetFlags(RF_Transactional);
+	}
 	ApplyVariableDefaults(Rebuilt, OutErrors);
 	if (Rebuilt.OldDefaultObject)
 	{

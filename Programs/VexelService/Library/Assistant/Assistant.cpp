@@ -313,6 +313,8 @@ private:
 				return Describer.Events();
 			case EQuestionKind::Graphs:
 				return Describer.Graphs();
+			case EQuestionKind::Components:
+				return Describer.Components();
 			case EQuestionKind::VariableUse:
 				return Describer.VariableUse(CorrectMember(Model, Question.Subject));
 			case EQuestionKind::Function:

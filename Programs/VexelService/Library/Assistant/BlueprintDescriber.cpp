@@ -458,6 +458,35 @@ std::string FBlueprintDescriber::Graphs() const
 	return Text;
 }
 
+std::string FBlueprintDescriber::Components() const
+{
+	std::vector<const FBlueprintProperty*> Found;
+	for (const FBlueprintProperty& Property : Model.Defaults.Parts)
+	{
+		if (StartsWith(Property.Type, "object.") && Property.Type.find("Component") != std::string::npos)
+		{
+			Found.push_back(&Property);
+		}
+	}
+	std::string Text = Bold(Model.Name) + " has " + CountOf(Found.size(), "component") + (Found.empty() ? ".\n" : ":\n\n");
+	for (std::size_t Index = 0; Index < std::min(Found.size(), MaxListed); ++Index)
+	{
+		std::vector<std::string> Changes;
+		for (const FBlueprintProperty& Part : Found[Index]->Parts)
+		{
+			const std::string Value = LiteralInWords(Part.Value, Part.Type);
+			Changes.push_back(Part.Id + (Value.empty() ? "" : " = " + Value));
+		}
+		Text += "- " + Bold(Found[Index]->Id) + ": " + std::string(LastSegment(Found[Index]->Type, '.')) +
+			(Changes.empty() ? "" : ", with " + NameList(Changes)) + "\n";
+	}
+	if (Found.size() > MaxListed)
+	{
+		Text += "- and " + CountOf(Found.size() - MaxListed, "other") + "\n";
+	}
+	return Text;
+}
+
 std::string FBlueprintDescriber::VariableUse(std::string_view Variable) const
 {
 	const std::string Name(Variable);

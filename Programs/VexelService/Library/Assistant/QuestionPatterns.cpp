@@ -198,6 +198,7 @@ constexpr FListWord ListWords[] = {
 	{"macros", EQuestionKind::Macros},
 	{"events", EQuestionKind::Events},
 	{"graphs", EQuestionKind::Graphs},
+	{"components", EQuestionKind::Components},
 };
 
 struct FAssetWords
@@ -254,7 +255,7 @@ const char* FindAssetClass(std::string_view Word)
 std::string_view GetQuestionWords()
 {
 	return "what|which|where|when|does|explain|describe|summarize|happens|list|show|used|called|variables|variable|functions|function|"
-		   "events|event|macros|graphs|graph|project|blueprints|levels|assets|contain|picture|screenshot";
+		   "events|event|macros|graphs|graph|components|project|blueprints|levels|assets|contain|picture|screenshot";
 }
 
 }

@@ -35,6 +35,8 @@ public:
 	std::string Macros() const;
 	std::string Events() const;
 	std::string Graphs() const;
+	/** Those that the Blueprint has by itself or by its native parent class, with what it changes of each. */
+	std::string Components() const;
 
 	/** Where one member variable or local variable is read and set. */
 	std::string VariableUse(std::string_view Variable) const;

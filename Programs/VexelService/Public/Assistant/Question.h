@@ -22,6 +22,7 @@ enum class EQuestionKind
 	Macros,
 	Events,
 	Graphs,
+	Components,
 	VariableUse,
 	Function,
 	/** About the project. */

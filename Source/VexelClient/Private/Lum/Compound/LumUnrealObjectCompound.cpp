@@ -27,10 +27,39 @@ bool DiffersFromArchetype(const FProperty& Property, const UObject& Object)
 	return !Property.Identical(Property.ContainerPtrToValuePtr<void>(&Object), Default, PPF_None);
 }
 
+/** The object that the value is where it is made anew for each object; null for other values. */
+const UObject* GetInstanced(const FProperty& Property, const UObject& Object)
+{
+	const FObjectProperty* const Reference = CastField<FObjectProperty>(&Property);
+	return Reference && Reference->HasAnyPropertyFlags(CPF_InstancedReference)
+		? Reference->GetObjectPropertyValue_InContainer(&Object)
+		: nullptr;
+}
+
+/** Whether the value is the counterpart of what the archetype has there, and an export of it would only repeat one. */
+bool IsShownElsewhere(const FProperty& Property, const UObject& Object)
+{
+	const UObject* const Part = GetInstanced(Property, Object);
+	const UObject* const Archetype = Object.GetArchetype();
+	const bool bHasCounterpart = Part && Archetype && Archetype->GetClass()->IsChildOf(Property.GetOwnerClass());
+	if (!bHasCounterpart || Part->GetArchetype() != GetInstanced(Property, *Archetype))
+	{
+		return false;
+	}
+	// The part is one of another object, or of this one and stands at an earlier member too.
+	TFieldIterator<FProperty> First(Object.GetClass());
+	while (*First != &Property && !(IsShown(**First) && GetInstanced(**First, Object) == Part))
+	{
+		++First;
+	}
+	return Part->GetOuter() != &Object || *First != &Property;
+}
+
 /** What an export shows. No archetype has the components that a Blueprint adds, whatever their values are. */
 bool IsExported(const FProperty& Property, const UObject& Object)
 {
-	return DiffersFromArchetype(Property, Object) || FLumUnrealObjectInstanceProperty::FindComponentTemplate(Property, &Object);
+	const bool bIsOwn = DiffersFromArchetype(Property, Object) && !IsShownElsewhere(Property, Object);
+	return bIsOwn || FLumUnrealObjectInstanceProperty::FindComponentTemplate(Property, &Object);
 }
 }
 
