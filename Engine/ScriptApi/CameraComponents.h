@@ -12,7 +12,7 @@ class ENGINE_API UCameraComponent : public USceneComponent
 
 public:
 	UPROPERTY(Interp, EditAnywhere, BlueprintReadWrite, Category = "CameraSettings", meta = (ClampMin = "0.001", ClampMax = "360.0"))
-	float FieldOfView;
+	float FieldOfView = 90.f;
 
 	/** Sets the angle of view in degrees. */
 	UFUNCTION(BlueprintCallable, Category = "Camera")

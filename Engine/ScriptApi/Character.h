@@ -34,7 +34,7 @@ public:
 	uint32 bIsCrouched : 1;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character")
-	int32 JumpMaxCount;
+	int32 JumpMaxCount = 1;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character")
 	float JumpMaxHoldTime;

@@ -20,14 +20,14 @@ class ENGINE_API UCharacterMovementComponent : public UPawnMovementComponent
 
 public:
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Walking", meta = (ClampMin = "0", ForceUnits = "cm/s"))
-	float MaxWalkSpeed;
+	float MaxWalkSpeed = 600.f;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Jumping / Falling",
 		meta = (DisplayName = "Jump Z Velocity", ForceUnits = "cm/s"))
-	float JumpZVelocity;
+	float JumpZVelocity = 420.f;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement (General Settings)")
-	float GravityScale;
+	float GravityScale = 1.f;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement (Rotation Settings)")
 	uint8 bOrientRotationToMovement : 1;
@@ -50,10 +50,10 @@ public:
 	uint8 CustomMovementMode;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Walking")
-	TEnumAsByte<EMovementMode> DefaultLandMovementMode;
+	TEnumAsByte<EMovementMode> DefaultLandMovementMode = MOVE_Walking;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Swimming")
-	TEnumAsByte<EMovementMode> DefaultWaterMovementMode;
+	TEnumAsByte<EMovementMode> DefaultWaterMovementMode = MOVE_Swimming;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement (General Settings)")
 	float MaxAcceleration = 2048.f;
@@ -98,13 +98,13 @@ public:
 	float MinAnalogWalkSpeed = 0.f;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Walking")
-	uint8 bCanWalkOffLedges : 1;
+	uint8 bCanWalkOffLedges : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Walking")
 	uint8 bCanWalkOffLedgesWhenCrouching : 1;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Walking")
-	uint8 bMaintainHorizontalGroundVelocity : 1;
+	uint8 bMaintainHorizontalGroundVelocity : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Walking")
 	uint8 bUseFlatBaseForFloorChecks : 1;
@@ -137,16 +137,16 @@ public:
 	uint8 bNotifyApex : 1;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Jumping / Falling")
-	uint8 bImpartBaseVelocityX : 1;
+	uint8 bImpartBaseVelocityX : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Jumping / Falling")
-	uint8 bImpartBaseVelocityY : 1;
+	uint8 bImpartBaseVelocityY : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Jumping / Falling")
-	uint8 bImpartBaseVelocityZ : 1;
+	uint8 bImpartBaseVelocityZ : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Jumping / Falling")
-	uint8 bApplyGravityWhileJumping : 1;
+	uint8 bApplyGravityWhileJumping : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement: Swimming")
 	float MaxSwimSpeed = 300.f;
@@ -164,7 +164,7 @@ public:
 	float BrakingDecelerationFlying = 0.f;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement (Rotation Settings)")
-	FRotator RotationRate;
+	FRotator RotationRate = FRotator(0.0, 360.0, 0.0);
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Character Movement (Rotation Settings)")
 	uint8 bUseControllerDesiredRotation : 1;

@@ -23,7 +23,7 @@ public:
 	float Intensity;
 
 	UPROPERTY(BlueprintReadOnly, interp, EditAnywhere, Category = "Light", meta = (HideAlphaChannel))
-	FColor LightColor;
+	FColor LightColor = FColor::White;
 
 	/** Switches the shadow. */
 	UFUNCTION(BlueprintCallable, Category = "Rendering|Components|Light")
@@ -34,16 +34,16 @@ public:
 	FLinearColor GetLightColor() const;
 
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Light")
-	uint8 bAffectsWorld : 1;
+	uint8 bAffectsWorld : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Light")
-	uint8 CastShadows : 1;
+	uint8 CastShadows : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Light")
-	uint8 CastStaticShadows : 1;
+	uint8 CastStaticShadows : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Light")
-	uint8 CastDynamicShadows : 1;
+	uint8 CastDynamicShadows : 1 = true;
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "Light")
 	float IndirectLightingIntensity = 1.f;
@@ -213,6 +213,7 @@ public:
 };
 
 /** A light that fades with distance. */
+// Initially: Intensity = 5000.f
 UCLASS(abstract)
 class ENGINE_API ULocalLightComponent : public ULightComponent
 {
@@ -308,6 +309,7 @@ public:
 };
 
 /** A light from far away. */
+// Initially: Intensity = 10.f
 UCLASS(BlueprintType, Blueprintable, meta = (BlueprintSpawnableComponent))
 class ENGINE_API UDirectionalLightComponent : public ULightComponent
 {
@@ -434,6 +436,7 @@ public:
 };
 
 /** Light of the sky from all sides. */
+// Initially: Intensity = 1.f
 UCLASS(Blueprintable, ClassGroup = Lights, meta = (BlueprintSpawnableComponent))
 class ENGINE_API USkyLightComponent : public ULightComponentBase
 {

@@ -45,7 +45,7 @@ public:
 	FVector GetUnscaledBoxExtent() const;
 
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "Shape", meta = (AllowPrivateAccess = "true"))
-	FVector BoxExtent;
+	FVector BoxExtent = FVector(32.0, 32.0, 32.0);
 };
 
 /** Collides as a sphere. */

@@ -186,7 +186,7 @@ class ENGINE_API UArrowComponent : public UPrimitiveComponent
 
 public:
 	UPROPERTY(EditAnywhere, BlueprintReadOnly, Category = "ArrowComponent")
-	FColor ArrowColor;
+	FColor ArrowColor = FColor(255, 0, 0);
 
 	UPROPERTY(EditAnywhere, BlueprintReadWrite, Category = "ArrowComponent")
 	float ArrowSize = 1.f;

@@ -52,6 +52,21 @@ TEST(Chat, AnswersWhatABlueprintReallyDoes)
 	EXPECT_FALSE(History[0]["Mapping"]["node_agent_names"].empty());
 }
 
+TEST(Chat, SetsAndListsComponentsOfTheNativeParent)
+{
+	const FSampleProjectCopy Project;
+	const FProgramResult Set = RunVexel({"chat", "--save", "--project", Project.GetPath(), "--message",
+		"In BP_Player set the mesh's relative location to 0, 0, -90"});
+	EXPECT_EQ(Set.Status, 0) << Set.Errors;
+	EXPECT_THAT(Set.Output, HasSubstr("I set the default of **Mesh.RelativeLocation** to (X = 0, Y = 0, Z = -90)."));
+	const FProgramResult Listed = RunVexel({"chat", "--project", Project.GetPath(), "--message", "What components does BP_Player have?"});
+	EXPECT_EQ(Listed.Status, 0) << Listed.Errors;
+	EXPECT_THAT(Listed.Output,
+		HasSubstr("**BP_Player** has 3 components:\n\n"
+				  "- **Mesh**: SkeletalMeshComponent, with RelativeLocation = (X = 0, Y = 0, Z = -90)\n"
+				  "- **CharacterMovement**: CharacterMovementComponent\n- **CapsuleComponent**: CapsuleComponent\n"));
+}
+
 TEST(Chat, GoesOnWithAStoredConversation)
 {
 	const FSampleProjectCopy Project;

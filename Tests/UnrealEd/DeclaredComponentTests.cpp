@@ -84,6 +84,8 @@ TEST_F(FDeclaredComponentTest, CharacterHasTheComponentsThatItsConstructorMakes)
 	}
 	EXPECT_EQ(GetFloat(Get(Character, TEXT("CapsuleComponent")), TEXT("CapsuleHalfHeight")), 88.0f);
 	EXPECT_EQ(GetFloat(Get(Character, TEXT("CapsuleComponent")), TEXT("CapsuleRadius")), 34.0f);
+	EXPECT_EQ(GetFloat(Get(Character, TEXT("CharacterMovement")), TEXT("MaxWalkSpeed")), 600.0f);
+	EXPECT_EQ(GetFloat(Get(GetClass(TEXT("PointLight"))->GetDefaultObject(), TEXT("LightComponent")), TEXT("Intensity")), 5000.0f);
 }
 
 TEST_F(FDeclaredComponentTest, BlueprintHasItsOwnAndNoOtherRoot)

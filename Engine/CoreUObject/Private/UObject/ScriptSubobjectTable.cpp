@@ -186,7 +186,8 @@ bool FScriptSubobjectTable::Place(const FRow& Row, FDeclaredSubobjects& Subobjec
 	FDeclaredSubobject& Subobject = Subobjects.GetAll()[Known];
 	if (Row.Class ? !Subobject.Class || !Row.Class->IsChildOf(Subobject.Class) : !Subobject.bOptional)
 	{
-		return Refuse(Row.Line, FString::Printf(TEXT("%s of the super cannot be %s"), *Row.Name.ToString(), Row.Class ? *(TEXT("a ") + Row.Class->GetName()) : TEXT("left out")));
+		const FString Wish = Row.Class ? TEXT("a ") + Row.Class->GetName() : FString(TEXT("left out"));
+		return Refuse(Row.Line, FString::Printf(TEXT("%s of the super cannot be %s"), *Row.Name.ToString(), *Wish));
 	}
 	Subobject.Class = Row.Class;
 	return AddMembers(Row, Subobject);
@@ -199,7 +200,9 @@ bool FScriptSubobjectTable::AddMembers(const FRow& Row, FDeclaredSubobject& Subo
 		const FObjectProperty* const Property = FindFProperty<FObjectProperty>(Row.Owner, *Member);
 		if (!Property || !Row.Class || !Row.Class->IsChildOf(Property->PropertyClass))
 		{
-			return Refuse(Row.Line, FString::Printf(TEXT("%s has no member %s that could hold %s"), *Row.Owner->GetName(), *Member, *Row.Name.ToString()));
+			return Refuse(Row.Line,
+				FString::Printf(
+					TEXT("%s has no member %s that could hold %s"), *Row.Owner->GetName(), *Member, *Row.Name.ToString()));
 		}
 		Subobject.Members.Add(Property);
 	}
