@@ -75,6 +75,11 @@ int32 FBlueprintToolTest::NumUndos()
 	return GEditor->Trans->GetQueueLength() - GEditor->Trans->GetUndoCount();
 }
 
+std::string FBlueprintToolTest::TopTitle()
+{
+	return ToStd(GEditor->Trans->GetUndoContext(false).Title.ToString());
+}
+
 void FBlueprintToolTest::UndoAll()
 {
 	while (NumUndos() > 0)

@@ -31,6 +31,8 @@ protected:
 	bool Compiles();
 
 	static int32 NumUndos();
+	/** Of the newest entry of undo. */
+	static std::string TopTitle();
 	static void UndoAll();
 	UEdGraphNode* FindNode(const TCHAR* Id);
 	/** The text of every node of the Blueprint's graphs. */

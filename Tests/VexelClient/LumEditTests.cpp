@@ -9,6 +9,7 @@
 #include "Kismet2/KismetEditorUtilities.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 #include "Lum/Property/LumUnrealVirtualProperty.h"
+#include "Lum/Value/LumObjectOwner.h"
 #include "LumTestBlueprint.h"
 #include "LumValueFixture.h"
 #include "ScopedTransaction.h"
@@ -134,7 +135,7 @@ TEST_F(FLumEditTest, UndoRestoresExactlyAndIsOneEntry)
 TEST_F(FLumEditTest, PropertyOfAnotherClassIsRefused)
 {
 	const FProperty* const Strength = ULumPart::StaticClass()->FindPropertyByName(TEXT("Strength"));
-	const TVexelExpected<TSharedPtr<ILumProperty>> Member = FLumUnrealPropertyFactory::CreateMember(*Watch, *Strength);
+	const TVexelExpected<TSharedPtr<ILumProperty>> Member = FLumUnrealPropertyFactory::CreateMember(MakeShared<FLumObjectOwner>(*Watch), *Strength);
 	ASSERT_TRUE(Member.HasError());
 	EXPECT_EQ("Property 'Strength' does not belong to object of type 'LumWatch'", Utf8(Member.GetError().GetMessage()));
 }
@@ -192,6 +193,17 @@ TEST_F(FLumEditTest, VirtualValueIsWrittenBackWithWhatWasTaken)
 	EXPECT_EQ(R"x(((Label="b")))x", Texts.back());
 	EXPECT_NE("ok", ImportInto(R"({"0":{"Depth":"x"}})"));
 	EXPECT_EQ(R"x(((Label="b")))x", Texts.back());
+}
+
+TEST_F(FLumEditTest, VirtualValueIsMadeFromATextThatIsOlderThanItsStruct)
+{
+	const FProperty* const List = ULumWatch::StaticClass()->FindPropertyByName(TEXT("List"));
+	std::vector<std::string> Texts;
+	const TVexelExpected<TSharedRef<ILumProperty>> Virtual =
+		FLumUnrealVirtualProperty::Create<FKeptProperty>(*List, TEXT("((Depth=7,Gone=(X=1,Y=2)))"), Texts);
+	ASSERT_TRUE(Virtual.HasValue()) << Utf8(Virtual.GetError().GetMessage());
+	EXPECT_EQ("ok", Say(Virtual.GetValue()->JsonImportValue(Context, Parse(R"({"1":{"Depth":"8"}})").ToSharedRef())));
+	EXPECT_THAT(Texts, ElementsAre("((Depth=7),(Depth=8))"));
 }
 
 /** Edits of a Blueprint's defaults, with a child Blueprint and an actor. */

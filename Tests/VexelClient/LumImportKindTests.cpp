@@ -49,6 +49,9 @@ const FKindCase Kinds[] = {
 	{TEXT("Weak"), R"("ref|/Script/LumTestTypes.LumPart")"},
 	{TEXT("Talker"), R"("ref|/Script/LumTestTypes.Default__LumTalkingThing")"},
 	{TEXT("Talker"), R"("ref|None")"},
+	{TEXT("Path"), R"("/Script/LumTestTypes.LumPart:Strength")"},
+	{TEXT("Path"), R"("None")"},
+	{TEXT("Lazy"), R"("ref|None")"},
 	{TEXT("Vector.Y"), R"("8")", "8.000000"},
 	{TEXT("Struct.Inner"), R"x("(Depth=7,Label=\"L\")")x",
 		R"x({"type":"struct.LumInner","properties":[{"id":"Depth","declared_in":"struct.LumInner","type":"int32","value":"7","category":""},{"id":"Label","declared_in":"struct.LumInner","type":"string","value":"L","category":""}]})x"},
@@ -187,6 +190,12 @@ const FRefusal BadTexts[] = {
 	{TEXT("Struct"), R"x("(Inner=(Depth=99999999999))")x", ""},
 	{TEXT("Struct"), R"x("(Inner=(Depth=5),Weight=heavy)")x", ""},
 	{TEXT("Guid"), R"("not a guid")", ""},
+	{TEXT("Vector"), R"x("(X=5,Hight=6)")x", "Unknown property in Vector: Hight"},
+	{TEXT("Struct"), R"x("(Weight=4,Inner=(Depth=5,Gone=1))")x", "Unknown property in LumInner: Gone"},
+	{TEXT("Struct"), R"x("(Weight=4,Weight=5)")x", "redundant data: Weight"},
+	{TEXT("String"), R"("a\u0000b")", "it has a character of the code 0"},
+	{TEXT("Name"), R"("a\u0000b")", "it has a character of the code 0"},
+	{TEXT("Text"), R"("a\u0000b")", "it has a character of the code 0"},
 };
 
 TEST_F(FLumImportKindTest, BadTextIsRefusedWhole)

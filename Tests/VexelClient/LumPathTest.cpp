@@ -49,9 +49,18 @@ public:
 	virtual TVexelExpected<TSharedPtr<ILumCompound>> GetCompound() const override { return MakeShared<FEndlessCompound>(); }
 };
 
+/** Does not know where it leads. */
+class FBrokenProperty : public TNamedProperty<ILumCompoundProperty>
+{
+public:
+	using TNamedProperty::TNamedProperty;
+	virtual TVexelExpected<TSharedPtr<ILumCompound>> GetCompound() const override { return VEXEL_ERROR(FLumError_Read, "broken"); }
+};
+
 TVexelExpected<void> FEndlessCompound::Iterate(ILumPropertyCollector& Collector) const
 {
 	VEXEL_TRY_VOID(Collector.Property(MakeShared<FEndlessProperty>(TEXT("in"))));
+	VEXEL_TRY_VOID(Collector.Property(MakeShared<FBrokenProperty>(TEXT("broken"))));
 	return Collector.Property(MakeShared<TNamedProperty<ILumProperty>>(TEXT("leaf")));
 }
 
@@ -89,6 +98,7 @@ TEST_F(FLumPathTest, FailureSaysWhichSegment)
 	EXPECT_EQ("Property 'leaf' is not a compound property\nwhile resolving path 'in.leaf.in'", Resolve(TEXT("in.leaf.in")));
 	EXPECT_EQ("Property 'out' not found in compound\nwhile resolving segment 'out'\nwhile resolving path 'in.out'", Resolve(TEXT("in.out")));
 	EXPECT_EQ("Property '' not found in compound\nwhile resolving segment ''\nwhile resolving path 'in..in'", Resolve(TEXT("in..in")));
+	EXPECT_EQ("broken\nwhile getting compound for property 'broken'\nwhile resolving path 'in.broken.in'", Resolve(TEXT("in.broken.in")));
 }
 
 TEST_F(FLumPathTest, WayLeadsThroughValuesOfEachKind)

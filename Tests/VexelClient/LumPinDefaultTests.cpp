@@ -169,7 +169,7 @@ TEST_F(FLumPinDefaultTest, ObjectPinsTakeReferences)
 	ExpectRefused(Class, TEXT("/Script/Engine.Info"), "Invalid reference string" + Context + ToStd(Class.PinName.ToString()) + "'");
 	ExpectRefused(Class, TEXT("ref|/Script/Engine.NoSuch"), "There is no object '/Script/Engine.NoSuch'");
 	ExpectRefused(Class, *FLumHelper::MakeReferenceString(Blueprint),
-		"'" + ToStd(Blueprint->GetPathName()) + "' is a Blueprint, not a Class");
+		"'" + ToStd(Blueprint->GetPathName()) + "' is a Blueprint, not a Class; its class is '" + ToStd(Blueprint->GetPathName()) + "_C'");
 	const FString Component(TEXT("ref|/Script/Engine.SceneComponent"));
 	EXPECT_EQ(0u, Set(Class, *Component).find("Invalid pin default value: /Script/Engine.SceneComponent isn't a valid subclass of Actor"));
 	EXPECT_EQ("ok", Set(Class, TEXT("ref|None")));

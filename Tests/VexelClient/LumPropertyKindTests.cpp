@@ -86,6 +86,7 @@ TEST_F(FLumPropertyKindTest, LeafIsItsExactTypeAndTheEnginesText)
 		{TEXT("Name"), R"("type":"name","value":"A name")"},
 		{TEXT("String"), R"("type":"string","value":"two\n\"lines\"")"},
 		{TEXT("Empty"), R"("type":"string","value":"")"},
+		{TEXT("Path"), R"("type":"fieldpath","value":"None")"},
 	};
 	for (const FLeafCase& Case : Cases)
 	{
@@ -102,6 +103,8 @@ TEST_F(FLumPropertyKindTest, ReferenceIsThePathOfItsObjectOrNone)
 		{TEXT("SoftObject"), R"("type":"softobject.Object","value":"ref|None")"},
 		{TEXT("SoftClass"), R"("type":"softclass.Object","value":"ref|None")"},
 		{TEXT("Weak"), R"("type":"object.Object","value":"ref|None")"},
+		{TEXT("Lazy"), R"("type":"object.Object","value":"ref|None")"},
+		{TEXT("Talker"), R"("type":"interface.LumTalker","value":"ref|None")"},
 		{TEXT("Part"), R"("type":"object.LumPart","value":"ref|None")"},
 	};
 	for (const FLeafCase& Case : Empty)
@@ -138,7 +141,7 @@ TEST_F(FLumPropertyKindTest, FlagsBecomeKeysAndAreAbsentOtherwise)
 
 TEST_F(FLumPropertyKindTest, PropertiesWithoutABlueprintTypeAreNotThere)
 {
-	for (const TCHAR* const Name : {TEXT("Fixed"), TEXT("OnDone"), TEXT("OnChanged"), TEXT("Hidden")})
+	for (const TCHAR* const Name : {TEXT("Fixed"), TEXT("OnDone"), TEXT("OnChanged"), TEXT("Hidden"), TEXT("Maybe"), TEXT("WeakByName")})
 	{
 		EXPECT_EQ("Property '" + Utf8(Name) + "' not found in compound\nwhile resolving segment '" + Utf8(Name) +
 				"'\nwhile resolving path '" + Utf8(Name) + "'",

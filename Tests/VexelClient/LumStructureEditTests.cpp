@@ -122,6 +122,53 @@ TEST_F(FLumStructureEditTest, AnOperationOfTheOtherKindIsRefused)
 	EXPECT_EQ("Write Error: Unsupported operation type 'update' for variable operation", ErrorTextOf(OnVar.Execute(Compound)));
 }
 
+TEST_F(FLumStructureEditTest, ABlueprintThatWasLoadedWithoutItsSkeletonClassIsEditedAllTheSame)
+{
+	ASSERT_THAT(EditErrors("{'target_type': 'blueprint'}",
+					"{'operation': 'add_variable', 'scope': 'member', 'name': 'Fresh', 'value': {'type_id': 'int'}}"),
+		testing::IsEmpty());
+	const auto Forget = [this]
+	{
+		Blueprint->SkeletonGeneratedClass->Rename(nullptr, GetTransientPackage(), REN_DontCreateRedirectors);
+		Blueprint->SkeletonGeneratedClass = nullptr;
+		Blueprint->GetPackage()->SetDirtyFlag(false);
+	};
+	Forget();
+	const FLumContext Context(Conversation->GetMapping());
+	const TSharedPtr<ILumVariable> Fresh =
+		ILumCompound::Create(*Blueprint)->FindVariable(LumScope::Member(), TVexelPropId(TEXT("Fresh"))).GetValue();
+	ASSERT_TRUE(Fresh.IsValid());
+	EXPECT_EQ("0", ToStd(Fresh->JsonExportValue(Context).GetValue()->AsString()));
+	EXPECT_FALSE(Blueprint->GetPackage()->IsDirty()) << "reading changes nothing";
+	EXPECT_EQ("no error", ErrorTextOf(Fresh->JsonImportValue(Context, MakeShared<FJsonValueString>(TEXT("4")))));
+	EXPECT_EQ("4", ToStd(Blueprint->NewVariables.Last().DefaultValue));
+	Forget();
+	EXPECT_EQ("no error", ErrorTextOf(FLumGraphCompound(*FindGraph(TEXT("Heal"))).AddVariable(MakeDesc(TEXT("local"), TEXT("A"), TEXT("int")))));
+}
+
+TEST_F(FLumStructureEditTest, ANameEndsAtNoNullCharacter)
+{
+	const FString Name(FString(TEXT("A")) + TCHAR(0) + TEXT("B"));
+	FLumVarDesc Desc = MakeDesc(TEXT("member"), *Name, TEXT("int"));
+	Desc.PropId = TVexelPropId(Name);
+	EXPECT_THAT(ErrorTextOf(ILumCompound::Create(*Blueprint)->AddVariable(Desc)), HasSubstr("Name A cannot contain a character of the code 0."));
+	Desc.ScopeId = LumScope::In();
+	EXPECT_THAT(ErrorTextOf(FLumGraphCompound(*FindGraph(TEXT("Heal"))).AddVariable(Desc)), HasSubstr("Name A cannot contain a character of the code 0."));
+	Desc.ScopeId = LumScope::Local();
+	EXPECT_THAT(ErrorTextOf(FLumGraphCompound(*FindGraph(TEXT("Heal"))).AddVariable(Desc)), HasSubstr("Name A cannot contain a character of the code 0."));
+	EXPECT_THAT(ErrorTextOf(FLumHelper::RenameGraph(*FindGraph(TEXT("Heal")), Name)), HasSubstr("Name A cannot contain a character of the code 0."));
+	EXPECT_EQ(0, NumUndos());
+}
+
+TEST_F(FLumStructureEditTest, ANodeThatIsGoneHasNoScopes)
+{
+	UK2Node_CustomEvent* const Event = NewObject<UK2Node_CustomEvent>(EventGraph);
+	const TSharedRef<FLumNodeCompound> Compound = FLumNodeCompound::Create(*Event);
+	EXPECT_EQ(2, Compound->GetVariableScopes().GetValue().Num());
+	Event->MarkAsGarbage();
+	EXPECT_EQ("Read Error: Node object is not valid", ErrorTextOf(Compound->GetVariableScopes()));
+}
+
 TEST_F(FLumStructureEditTest, ADescriptorIsWrittenAndReadBackWithItsFlags)
 {
 	FLumVarDesc Desc = MakeDesc(TEXT("member"), TEXT("A"), TEXT("int"));

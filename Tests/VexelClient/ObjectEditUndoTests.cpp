@@ -1,6 +1,5 @@
 #include "BlueprintText.h"
 #include "Editor.h"
-#include "Editor/TransBuffer.h"
 #include "ObjectEditFixture.h"
 
 #include <gmock/gmock.h>
@@ -107,7 +106,7 @@ TEST_P(FObjectEditUndoTest, OneEntryRestoresAndRepeatsIt)
 	const FString After = TakeText();
 	EXPECT_NE(ToStd(Before), ToStd(After));
 	ASSERT_EQ(1, NumUndos());
-	EXPECT_EQ(Case.Title, ToStd(GEditor->Trans->GetUndoContext(false).Title.ToString()));
+	EXPECT_EQ(Case.Title, TopTitle());
 	for (int32 Round = 0; Round < 2; ++Round)
 	{
 		ASSERT_TRUE(GEditor->UndoTransaction());

@@ -210,7 +210,7 @@ TVexelExpected<TSharedRef<ILumProperty>> FLumHelper::CompoundPathResolveSegment(
 TVexelExpected<void> FLumHelper::ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text)
 {
 	const FLumTemporaryValue Value(Property, Data);
-	VEXEL_TRY_VOID(LumValueText::Read(Property, Value.Get(), Text, nullptr));
+	VEXEL_TRY_VOID(LumValueText::Read(Property, Value.Get(), Text, nullptr, LumValueText::ESource::Kept));
 	Property.CopyCompleteValue(Data, Value.Get());
 	return {};
 }

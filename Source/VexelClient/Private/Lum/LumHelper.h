@@ -68,7 +68,10 @@ public:
 	 */
 	static TVexelExpected<UObject*> ResolveReference(const FString& Path, const UClass* Class, const UObject* Referrer);
 
-	/** Sets the value from the engine's text form. Data is the value's memory, which a text that is refused leaves as it was. */
+	/**
+	 * Sets the value from the engine's text form, as Blueprints keep it: what it says of members that a struct does not have any more is
+	 * skipped. Data is the value's memory, which a text that is refused leaves as it was.
+	 */
 	static TVexelExpected<void> ImportStringToProperty(const FProperty& Property, void* Data, const FString& Text);
 
 	/** "Valid names: A, B, C", of the names that a value of the enumeration may have. */

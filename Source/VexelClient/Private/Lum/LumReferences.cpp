@@ -1,5 +1,6 @@
 #include "Lum/LumHelper.h"
 
+#include "Engine/Blueprint.h"
 #include "UObject/Class.h"
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
@@ -12,6 +13,14 @@ const TCHAR* const NullPath = TEXT("None");
 bool IsOfClass(const UObject& Object, const UClass& Class)
 {
 	return Object.IsA(&Class) || Object.GetClass()->ImplementsInterface(&Class);
+}
+
+/** Where a class is wanted, people name the Blueprint that has it. */
+FString DescribeClassOf(const UObject& Object, const UClass& Wanted)
+{
+	const UBlueprint* const Blueprint = &Wanted == UClass::StaticClass() ? Cast<UBlueprint>(&Object) : nullptr;
+	const UClass* const Class = Blueprint ? Blueprint->GeneratedClass.Get() : nullptr;
+	return Class ? FString::Printf(TEXT("; its class is '%s'"), *Class->GetPathName()) : FString();
 }
 
 /** An object that is not public is known to its own package alone; a reference from another one could not be saved. */
@@ -56,7 +65,8 @@ TVexelExpected<UObject*> FLumHelper::ResolveReference(const FString& Path, const
 	}
 	if (Class && !IsOfClass(*Object, *Class))
 	{
-		return VEXEL_ERROR(FLumError_Import, "'%s' is a %s, not a %s", *Path, *Object->GetClass()->GetName(), *Class->GetName());
+		return VEXEL_ERROR(FLumError_Import, "'%s' is a %s, not a %s%s", *Path, *Object->GetClass()->GetName(), *Class->GetName(),
+			*DescribeClassOf(*Object, *Class));
 	}
 	if (Referrer && IsPrivateTo(*Object, *Referrer))
 	{

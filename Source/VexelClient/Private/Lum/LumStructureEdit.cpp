@@ -2,6 +2,7 @@
 
 #include "Engine/Blueprint.h"
 #include "Kismet2/BlueprintEditorUtils.h"
+#include "Kismet2/KismetEditorUtilities.h"
 
 namespace
 {
@@ -10,6 +11,15 @@ FLumEditBatch*& GetOpenBatch()
 	static FLumEditBatch* Batch = nullptr;
 	return Batch;
 }
+}
+
+UClass* LumSkeleton::Get(UBlueprint& Blueprint)
+{
+	if (!Blueprint.SkeletonGeneratedClass)
+	{
+		FKismetEditorUtilities::GenerateBlueprintSkeleton(&Blueprint);
+	}
+	return Blueprint.SkeletonGeneratedClass;
 }
 
 FLumEditBatch::FLumEditBatch(UBlueprint& InBlueprint)

@@ -5,6 +5,13 @@
 #include "UObject/WeakObjectPtr.h"
 
 class UBlueprint;
+class UClass;
+
+namespace LumSkeleton
+{
+/** The Blueprint's skeleton class, which is made where the Blueprint was loaded without one. Null where it cannot be made. */
+UClass* Get(UBlueprint& Blueprint);
+}
 
 /**
  * Held over many edits of one Blueprint. Its skeleton class, which says what members there are and takes long to make, is then made again

@@ -198,10 +198,19 @@ TVexelExpected<FChange> CheckLocalChange(const FLocal& Local, const FLumVarDesc&
 
 UFunction* LumVariableEdits::FindFunction(const UEdGraph& Graph)
 {
-	const UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForGraph(&Graph);
-	const UClass* Class = Blueprint ? Blueprint->SkeletonGeneratedClass.Get() : nullptr;
-	Class = Blueprint && !Class ? Blueprint->GeneratedClass.Get() : Class;
-	return Class ? Class->FindFunctionByName(FBlueprintEditorUtils::GetTopLevelGraph(&Graph)->GetFName()) : nullptr;
+	UBlueprint* const Blueprint = FBlueprintEditorUtils::FindBlueprintForGraph(&Graph);
+	if (!Blueprint)
+	{
+		return nullptr;
+	}
+	const FName Name = FBlueprintEditorUtils::GetTopLevelGraph(&Graph)->GetFName();
+	const UClass* const Class = Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass : Blueprint->GeneratedClass;
+	if (UFunction* const Function = Class ? Class->FindFunctionByName(Name) : nullptr)
+	{
+		return Function;
+	}
+	const UClass* const Skeleton = LumSkeleton::Get(*Blueprint);
+	return Skeleton ? Skeleton->FindFunctionByName(Name) : nullptr;
 }
 
 TVexelExpected<void> LumVariableEdits::AddMember(UBlueprint& Blueprint, const FLumVarDesc& Desc)

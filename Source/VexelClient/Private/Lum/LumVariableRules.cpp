@@ -3,91 +3,19 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumErrors.h"
 #include "Lum/LumStructureEdit.h"
+#include "Lum/LumTypeSuggestions.h"
 #include "Lum/LumVariable.h"
-#include "VexelFuzzySearch.h"
 
-#include "Algo/Sort.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "K2Node_FunctionEntry.h"
 #include "Kismet2/Kismet2NameValidators.h"
 #include "UObject/Class.h"
 #include "UObject/UObjectHash.h"
-#include "UObject/UObjectIterator.h"
 
 namespace
 {
-constexpr int32 MaxNearestTypes = 5;
 const TCHAR* const ReferencePrefix = TEXT("ref|");
-
-/** What a name is compared with: the words of types, and the classes, structures and enumerations that are loaded. */
-TArray<FString> ListTypeIds()
-{
-	TArray<FString> Ids = {TEXT("bool"), TEXT("byte"), TEXT("int"), TEXT("int64"), TEXT("real"), TEXT("name"), TEXT("string"), TEXT("text")};
-	for (TObjectIterator<UStruct> It; It; ++It)
-	{
-		const UClass* const Class = Cast<UClass>(*It);
-		const bool bIsOutdated = Class && Class->HasAnyClassFlags(CLASS_NewerVersionExists);
-		if ((Class || It->IsA<UScriptStruct>()) && !bIsOutdated && !It->GetName().StartsWith(TEXT("SKEL_")))
-		{
-			Ids.Add(FVexelBlueprintPropTypeBuilder::MakeStructId(**It).ToString());
-		}
-	}
-	for (TObjectIterator<UEnum> It; It; ++It)
-	{
-		Ids.Add(TEXT("enum.") + It->GetName());
-	}
-	return Ids;
-}
-
-/** The id of the element that the type id is about, without containers. */
-FString GetElementText(const TVexelPropTypeId& TypeId)
-{
-	FString Text = TypeId.ToString();
-	int32 Place = INDEX_NONE;
-	if (Text.FindLastChar(TEXT('|'), Place))
-	{
-		Text.RightChopInline(Place + 1);
-	}
-	return Text;
-}
-
-FString ListNearestTypes(const TVexelPropTypeId& TypeId)
-{
-	struct FRated
-	{
-		double Rating;
-		FString Id;
-	};
-	constexpr double LeastAlike = 60;
-	const FString Wanted = GetElementText(TypeId);
-	// Nothing is like a text that is longer than any name.
-	if (Wanted.Len() > FKismetNameValidator::GetMaximumNameLength() || !FLumEditBatch::TakeSuggestion())
-	{
-		return FString();
-	}
-	const FVexelFuzzySearch::FScorer Score = FVexelFuzzySearch::ScorerPartialRatio(Wanted);
-	TArray<FRated> Rated;
-	for (const FString& Id : ListTypeIds())
-	{
-		const double Rating = Score(Id) * 2 * FMath::Min(Wanted.Len(), Id.Len()) / FMath::Max(1, Wanted.Len() + Id.Len());
-		if (Rating >= LeastAlike)
-		{
-			Rated.Add({Rating, Id});
-		}
-	}
-	Algo::Sort(Rated, [](const FRated& A, const FRated& B)
-		{ return A.Rating != B.Rating ? A.Rating > B.Rating : A.Id.Compare(B.Id) < 0; });
-	TArray<FString> Names;
-	for (const FRated& Near : Rated)
-	{
-		if (Names.Num() < MaxNearestTypes)
-		{
-			Names.AddUnique(FString::Printf(TEXT("'%s'"), *Near.Id));
-		}
-	}
-	return Names.IsEmpty() ? FString() : TEXT(". Nearest: ") + FString::Join(Names, TEXT(", "));
-}
 
 bool CanBeKey(const FName& Category, const UObject* Object)
 {
@@ -142,13 +70,36 @@ FString FindFault(const FEdGraphPinType& Type, LumVariableRules::EUse Use)
 	return Fault;
 }
 
+/** Whether the text can be an engine name at all, of which a null character would be the end. */
+EValidatorResult CheckText(const FString& Name)
+{
+	if (Name.Len() >= NAME_SIZE)
+	{
+		return EValidatorResult::TooLong;
+	}
+	return FCString::Strlen(*Name) < Name.Len() ? EValidatorResult::ContainsInvalidCharacters : EValidatorResult::Ok;
+}
+
+FLumError_Write MakeNameError(const FString& Name, EValidatorResult Result)
+{
+	// What an error tells ends at a null character, too.
+	return CheckText(Name) == EValidatorResult::ContainsInvalidCharacters
+		? VEXEL_ERROR(FLumError_Write, "Name %s cannot contain a character of the code 0.", *Name)
+		: FLumError_Write(VEXEL_HERE, INameValidatorInterface::GetErrorString(Name, Result));
+}
+
+EValidatorResult Validate(INameValidatorInterface& Validator, const FString& Name)
+{
+	const EValidatorResult Result = CheckText(Name);
+	return Result == EValidatorResult::Ok ? Validator.IsValid(Name) : Result;
+}
+
 TVexelExpected<void> CheckName(INameValidatorInterface& Validator, const FString& Name)
 {
-	// No engine name is that long, so the validator could not be asked.
-	const EValidatorResult Result = Name.Len() >= NAME_SIZE ? EValidatorResult::TooLong : Validator.IsValid(Name);
+	const EValidatorResult Result = Validate(Validator, Name);
 	if (Result != EValidatorResult::Ok)
 	{
-		return FLumError_Write(VEXEL_HERE, INameValidatorInterface::GetErrorString(Name, Result));
+		return MakeNameError(Name, Result);
 	}
 	return {};
 }
@@ -188,9 +139,10 @@ TVexelExpected<void> LumVariableRules::CheckComplete(const FLumVarDesc& Desc)
 
 TVexelExpected<FName> LumVariableRules::MakeName(const TVexelPropId& PropId)
 {
-	if (PropId.ToString().Len() >= NAME_SIZE)
+	const EValidatorResult Result = CheckText(PropId.ToString());
+	if (Result != EValidatorResult::Ok)
 	{
-		return FLumError_Write(VEXEL_HERE, INameValidatorInterface::GetErrorString(PropId.ToString(), EValidatorResult::TooLong));
+		return MakeNameError(PropId.ToString(), Result);
 	}
 	return FName(*PropId.ToString());
 }
@@ -202,7 +154,7 @@ TVexelExpected<FEdGraphPinType> LumVariableRules::ParseType(const TVexelPropType
 	TVexelExpected<FEdGraphPinType> Parsed = FVexelBlueprintPropTypeBuilder::ParseId(TVexelPropTypeId(Text));
 	if (Parsed.HasError())
 	{
-		return FLumError_Write(VEXEL_HERE, Parsed.GetError().GetMessage() + ListNearestTypes(TypeId));
+		return FLumError_Write(VEXEL_HERE, Parsed.GetError().GetMessage() + LumTypeSuggestions::Describe(TVexelPropTypeId(Text)));
 	}
 	FEdGraphPinType Type = MoveTemp(Parsed).GetValue();
 	Type.bIsReference = bIsReference && Use == EUse::Pin;
@@ -257,7 +209,8 @@ TVexelExpected<void> LumVariableRules::CheckLocalName(
 TVexelExpected<void> LumVariableRules::CheckPinName(const UBlueprint& Blueprint, const FString& Name)
 {
 	const FName Reserved[] = {UEdGraphSchema_K2::PN_Self, UEdGraphSchema_K2::PN_Execute, UEdGraphSchema_K2::PN_Then};
-	const EValidatorResult Result = Name.Len() >= NAME_SIZE ? EValidatorResult::TooLong : FKismetNameValidator(&Blueprint).IsValid(Name);
+	FKismetNameValidator Validator(&Blueprint);
+	const EValidatorResult Result = Validate(Validator, Name);
 	const bool bIsReserved = Name.Len() < NAME_SIZE && MakeArrayView(Reserved).Contains(FName(*Name));
 	if (bIsReserved)
 	{
@@ -265,7 +218,7 @@ TVexelExpected<void> LumVariableRules::CheckPinName(const UBlueprint& Blueprint,
 	}
 	if (Result != EValidatorResult::Ok && Result != EValidatorResult::AlreadyInUse)
 	{
-		return FLumError_Write(VEXEL_HERE, INameValidatorInterface::GetErrorString(Name, Result));
+		return MakeNameError(Name, Result);
 	}
 	return {};
 }

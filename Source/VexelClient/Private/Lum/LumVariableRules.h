@@ -16,7 +16,7 @@ namespace LumVariableRules
 /** Fails where the descriptor of a new variable has no name or no type. */
 TVexelExpected<void> CheckComplete(const FLumVarDesc& Desc);
 
-/** The engine's name of the id; fails where it is longer than any name is. */
+/** The engine's name of the id; fails where no name is such a text. */
 TVexelExpected<FName> MakeName(const TVexelPropId& PropId);
 
 /** What a type is wanted for. */

@@ -39,7 +39,7 @@ public:
 	TVexelExpected<TSharedPtr<ILumVariable>> FindVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId) const;
 
 	/** The scopes of which the compound may hold variables; empty where it holds none. */
-	virtual TArray<TVexelVarScopeId> GetVariableScopes() const { return {}; }
+	virtual TVexelExpected<TArray<TVexelVarScopeId>> GetVariableScopes() const { return TArray<TVexelVarScopeId>(); }
 
 	/** Each is an undo entry of its own. Compounds without variables refuse. */
 	virtual TVexelExpected<void> AddVariable(const FLumVarDesc& Desc);

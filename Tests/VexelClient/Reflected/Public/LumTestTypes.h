@@ -1,6 +1,8 @@
 #pragma once
 
 #include "Templates/SubclassOf.h"
+#include "Misc/Optional.h"
+#include "UObject/FieldPath.h"
 #include "UObject/Interface.h"
 #include "UObject/LazyObjectPtr.h"
 #include "UObject/ObjectInitializer.h"
@@ -326,6 +328,18 @@ public:
 
 	UPROPERTY(EditAnywhere)
 	int32 Fixed[3] = {};
+
+	UPROPERTY(EditAnywhere)
+	TOptional<int32> Maybe;
+
+	UPROPERTY(EditAnywhere)
+	TMap<FName, TOptional<int32>> MaybeByName;
+
+	UPROPERTY(EditAnywhere)
+	TMap<FName, TWeakObjectPtr<UObject>> WeakByName;
+
+	UPROPERTY(EditAnywhere)
+	TFieldPath<FProperty> Path;
 
 	UPROPERTY(EditAnywhere)
 	FLumDone OnDone;

@@ -54,9 +54,9 @@ TVexelExpected<TVexelPropTypeId> FLumBlueprintCompound::GetCompoundType() const
 	return FVexelBlueprintPropTypeBuilder::MakeStructId(*Blueprint->GetClass());
 }
 
-TArray<TVexelVarScopeId> FLumBlueprintCompound::GetVariableScopes() const
+TVexelExpected<TArray<TVexelVarScopeId>> FLumBlueprintCompound::GetVariableScopes() const
 {
-	return {LumScope::Member()};
+	return TArray<TVexelVarScopeId>{LumScope::Member()};
 }
 
 TVexelExpected<void> FLumBlueprintCompound::Iterate(ILumPropertyCollector& Collector) const

@@ -12,7 +12,7 @@ public:
 	explicit FLumBlueprintCompound(UBlueprint& Blueprint);
 
 	virtual TVexelExpected<TVexelPropTypeId> GetCompoundType() const override;
-	virtual TArray<TVexelVarScopeId> GetVariableScopes() const override;
+	virtual TVexelExpected<TArray<TVexelVarScopeId>> GetVariableScopes() const override;
 	virtual TVexelExpected<void> AddVariable(const FLumVarDesc& Desc) override;
 	virtual TVexelExpected<void> RemoveVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId) override;
 	virtual TVexelExpected<TSharedRef<FJsonObject>> JsonExportObject(const FLumContext& Context) const override;

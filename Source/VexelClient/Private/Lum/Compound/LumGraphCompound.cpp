@@ -110,9 +110,9 @@ TVexelExpected<TVexelPropTypeId> FLumGraphCompound::GetCompoundType() const
 	return FVexelBlueprintPropTypeBuilder::MakeStructId(*Graph->GetClass());
 }
 
-TArray<TVexelVarScopeId> FLumGraphCompound::GetVariableScopes() const
+TVexelExpected<TArray<TVexelVarScopeId>> FLumGraphCompound::GetVariableScopes() const
 {
-	return {LumScope::In(), LumScope::Out(), LumScope::Local()};
+	return TArray<TVexelVarScopeId>{LumScope::In(), LumScope::Out(), LumScope::Local()};
 }
 
 TVexelExpected<void> FLumGraphCompound::Iterate(ILumPropertyCollector& Collector) const
@@ -124,12 +124,17 @@ TVexelExpected<void> FLumGraphCompound::Iterate(ILumPropertyCollector& Collector
 		return {};
 	}
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType());
+	const auto Read = [WeakGraph = WeakGraph]() -> TVexelExpected<FString>
+	{
+		VEXEL_TRY(const UEdGraph* const Named, FLumHelper::GetValid(WeakGraph, TEXT("Graph object is not valid")));
+		return Named->GetName();
+	};
 	const auto Rename = [WeakGraph = WeakGraph](const FString& NewName) -> TVexelExpected<void>
 	{
 		VEXEL_TRY(UEdGraph* const Renamed, FLumHelper::GetValid(WeakGraph, TEXT("Graph object is not valid")));
 		return FLumHelper::RenameGraph(*Renamed, NewName);
 	};
-	VEXEL_TRY_VOID(Collector.Property(MakeShared<FLumNameProperty>(Type, Graph->GetFName(), TEXT("Expected string for graph name"), Rename)),
+	VEXEL_TRY_VOID(Collector.Property(MakeShared<FLumNameProperty>(Type, TEXT("Expected string for graph name"), Read, Rename)),
 		"while registering editable graph name property");
 
 	const FGraphEnds Ends(*Graph);

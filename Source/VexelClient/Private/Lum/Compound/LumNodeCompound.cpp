@@ -64,19 +64,22 @@ TVexelExpected<void> FLumNodeCompound::Iterate(ILumPropertyCollector& Collector)
 TVexelExpected<void> FLumNodeCompound::IterateName(ILumPropertyCollector& Collector) const
 {
 	VEXEL_TRY(const UEdGraphNode* const Node, GetNode());
-	const UK2Node_CustomEvent* const Event = Cast<UK2Node_CustomEvent>(Node);
-	if (!Event)
+	if (!Node->IsA<UK2Node_CustomEvent>())
 	{
 		return {};
 	}
 	VEXEL_TRY(const TVexelPropTypeId Type, GetCompoundType());
+	const auto Read = [WeakNode = WeakNode]() -> TVexelExpected<FString>
+	{
+		VEXEL_TRY(const UEdGraphNode* const Named, FLumHelper::GetValid(WeakNode, TEXT("Node object is not valid")));
+		return CastChecked<UK2Node_CustomEvent>(Named)->CustomFunctionName.ToString();
+	};
 	const auto Rename = [WeakNode = WeakNode](const FString& NewName) -> TVexelExpected<void>
 	{
 		VEXEL_TRY(UEdGraphNode* const Renamed, FLumHelper::GetValid(WeakNode, TEXT("Node object is not valid")));
 		return FLumHelper::RenameNode(*Renamed, NewName);
 	};
-	VEXEL_TRY_VOID(
-		Collector.Property(MakeShared<FLumNameProperty>(Type, Event->CustomFunctionName, TEXT("Expected string for node name"), Rename)),
+	VEXEL_TRY_VOID(Collector.Property(MakeShared<FLumNameProperty>(Type, TEXT("Expected string for node name"), Read, Rename)),
 		"while registering editable node name property");
 	return {};
 }
@@ -124,9 +127,10 @@ TVexelExpected<TSharedRef<FJsonObject>> FLumNodeCompound::JsonExportObject(const
 	return Object;
 }
 
-TArray<TVexelVarScopeId> FLumEditablePinsNodeCompound::GetVariableScopes() const
+TVexelExpected<TArray<TVexelVarScopeId>> FLumEditablePinsNodeCompound::GetVariableScopes() const
 {
-	return {LumScope::In(), LumScope::Out()};
+	VEXEL_TRY_VOID(GetEditableNode());
+	return TArray<TVexelVarScopeId>{LumScope::In(), LumScope::Out()};
 }
 
 TVexelExpected<UK2Node_EditablePinBase*> FLumEditablePinsNodeCompound::GetEditableNode() const

@@ -43,7 +43,7 @@ class FLumEditablePinsNodeCompound : public FLumNodeCompound
 public:
 	using FLumNodeCompound::FLumNodeCompound;
 
-	virtual TArray<TVexelVarScopeId> GetVariableScopes() const override;
+	virtual TVexelExpected<TArray<TVexelVarScopeId>> GetVariableScopes() const override;
 	virtual TVexelExpected<void> AddVariable(const FLumVarDesc& Desc) override;
 	virtual TVexelExpected<void> RemoveVariable(const TVexelVarScopeId& ScopeId, const TVexelPropId& PropId) override;
 

@@ -107,8 +107,11 @@ TVexelExpected<void> FLumUnrealObjectCompound::IterateWhere(
 	VEXEL_TRY(UObject* const Object, GetObject());
 	for (TFieldIterator<FProperty> It(Object->GetClass()); It; ++It)
 	{
-		const bool bIsWanted = IsShown(**It) && Condition(**It, *Object);
-		const TSharedPtr<ILumProperty> Property = bIsWanted ? FLumUnrealPropertyFactory::CreateSubProperty(GetMember(**It)) : nullptr;
+		if (!IsShown(**It) || !Condition(**It, *Object))
+		{
+			continue;
+		}
+		VEXEL_TRY(const TSharedPtr<ILumProperty> Property, CreateSubProperty(**It), "while creating sub-property for '%s'", *It->GetName());
 		if (Property)
 		{
 			VEXEL_TRY_VOID(Collector.Property(Property.ToSharedRef()), "while processing property '%s'", *It->GetName());
@@ -120,7 +123,12 @@ TVexelExpected<void> FLumUnrealObjectCompound::IterateWhere(
 TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealObjectCompound::Find(FStringView PropId) const
 {
 	VEXEL_TRY(const FProperty* const Member, FindMember(PropId));
-	return Member ? FLumUnrealPropertyFactory::CreateSubProperty(GetMember(*Member)) : nullptr;
+	if (!Member)
+	{
+		return TSharedPtr<ILumProperty>();
+	}
+	VEXEL_TRY(TSharedPtr<ILumProperty> Found, CreateSubProperty(*Member), "while creating sub-property for '%s'", *Member->GetName());
+	return Found;
 }
 
 TVexelExpected<void> FLumUnrealObjectCompound::FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const
@@ -140,7 +148,7 @@ TVexelExpected<const FProperty*> FLumUnrealObjectCompound::FindMember(FStringVie
 	return Property && IsShown(*Property) ? Property : nullptr;
 }
 
-FLumValuePlaceRef FLumUnrealObjectCompound::GetMember(const FProperty& Member) const
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealObjectCompound::CreateSubProperty(const FProperty& Member) const
 {
-	return MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Member, Member);
+	return FLumUnrealPropertyFactory::CreateMember(Owner, Member);
 }

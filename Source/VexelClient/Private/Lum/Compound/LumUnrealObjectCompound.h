@@ -32,7 +32,8 @@ private:
 
 	/** Null where there is none of the name that is shown. */
 	TVexelExpected<const FProperty*> FindMember(FStringView Name) const;
-	FLumValuePlaceRef GetMember(const FProperty& Member) const;
+	/** Null for a property whose values no Blueprint type covers. */
+	TVexelExpected<TSharedPtr<ILumProperty>> CreateSubProperty(const FProperty& Member) const;
 
 	TSharedRef<ILumValueOwner> Owner;
 };

@@ -31,7 +31,8 @@ TVexelExpected<void> FLumUnrealStructCompound::Iterate(ILumPropertyCollector& Co
 	VEXEL_TRY_VOID(CheckStruct());
 	for (TFieldIterator<FProperty> It(Struct); It; ++It)
 	{
-		if (const TSharedPtr<ILumProperty> Property = FLumUnrealPropertyFactory::CreateSubProperty(GetField(**It)))
+		VEXEL_TRY(const TSharedPtr<ILumProperty> Property, CreateSubProperty(**It), "while creating sub-property for '%s'", *It->GetName());
+		if (Property)
 		{
 			VEXEL_TRY_VOID(Collector.Property(Property.ToSharedRef()), "while processing property '%s'", *It->GetName());
 		}
@@ -42,7 +43,12 @@ TVexelExpected<void> FLumUnrealStructCompound::Iterate(ILumPropertyCollector& Co
 TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealStructCompound::Find(FStringView PropId) const
 {
 	VEXEL_TRY(const FProperty* const Field, FindField(PropId));
-	return Field ? FLumUnrealPropertyFactory::CreateSubProperty(GetField(*Field)) : nullptr;
+	if (!Field)
+	{
+		return TSharedPtr<ILumProperty>();
+	}
+	VEXEL_TRY(TSharedPtr<ILumProperty> Found, CreateSubProperty(*Field), "while creating sub-property for '%s'", *Field->GetName());
+	return Found;
 }
 
 TVexelExpected<void> FLumUnrealStructCompound::FindInPlace(FStringView PropId, FLumPropertyRoom& OutProperty) const
@@ -61,7 +67,9 @@ TVexelExpected<const FProperty*> FLumUnrealStructCompound::FindField(FStringView
 	return FLumUnrealPropertyFactory::FindMember(*Struct, Name);
 }
 
-FLumValuePlaceRef FLumUnrealStructCompound::GetField(const FProperty& Field) const
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealStructCompound::CreateSubProperty(const FProperty& Field) const
 {
-	return MakeShared<FLumValuePlace>(Place, FLumValuePlace::EPart::Member, Field);
+	// Who takes the fields one by one may do away with the struct meanwhile.
+	VEXEL_TRY_VOID(CheckStruct());
+	return FLumUnrealPropertyFactory::CreateSubProperty(MakeShared<FLumValuePlace>(Place, FLumValuePlace::EPart::Member, Field));
 }

@@ -26,7 +26,8 @@ private:
 	TVexelExpected<void> CheckStruct() const;
 	/** Null where there is none of the name. */
 	TVexelExpected<const FProperty*> FindField(FStringView Name) const;
-	FLumValuePlaceRef GetField(const FProperty& Field) const;
+	/** Null for a field whose values no Blueprint type covers. */
+	TVexelExpected<TSharedPtr<ILumProperty>> CreateSubProperty(const FProperty& Field) const;
 
 	const UScriptStruct* Struct;
 	FLumValuePlaceRef Place;

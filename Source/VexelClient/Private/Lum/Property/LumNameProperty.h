@@ -8,13 +8,14 @@
 class FLumNameProperty : public ILumProperty
 {
 public:
+	using FRead = TFunction<TVexelExpected<FString>()>;
 	using FRename = TFunction<TVexelExpected<void>(const FString& NewName)>;
 
 	/** OwnerTypeId is the type id of what has the name; NotString is said of a value that is no string, a literal. */
-	FLumNameProperty(const TVexelPropTypeId& InOwnerTypeId, FName InName, const TCHAR* InNotString, FRename InRename)
+	FLumNameProperty(const TVexelPropTypeId& InOwnerTypeId, const TCHAR* InNotString, FRead InRead, FRename InRename)
 		: OwnerTypeId(InOwnerTypeId)
-		, Name(InName)
 		, NotString(InNotString)
+		, Read(MoveTemp(InRead))
 		, Rename(MoveTemp(InRename))
 	{
 	}
@@ -26,7 +27,8 @@ public:
 	virtual TVexelExpected<FString> GetCategory() const override { return FString(); }
 	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext&) const override
 	{
-		return MakeShared<FJsonValueString>(Name.ToString());
+		VEXEL_TRY(const FString Name, Read());
+		return MakeShared<FJsonValueString>(Name);
 	}
 	virtual TVexelExpected<void> JsonImportValue(const FLumContext&, const TSharedRef<FJsonValue>& Value) override
 	{
@@ -39,7 +41,7 @@ public:
 
 private:
 	TVexelPropTypeId OwnerTypeId;
-	FName Name;
 	const TCHAR* NotString;
+	FRead Read;
 	FRename Rename;
 };

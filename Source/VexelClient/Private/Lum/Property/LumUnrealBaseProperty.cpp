@@ -8,7 +8,6 @@
 #include "Lum/Property/LumUnrealLeafProperty.h"
 #include "Lum/Property/LumUnrealObjectProperty.h"
 #include "Lum/Property/LumUnrealStructProperty.h"
-#include "Lum/Value/LumObjectOwner.h"
 #include "Lum/Value/LumTemporaryValue.h"
 #include "Lum/Value/LumValueText.h"
 
@@ -140,7 +139,7 @@ TVexelExpected<void> FLumUnrealBaseProperty::ImportText(const FString& Text) con
 		return CheckProperty();
 	}
 	const FLumTemporaryValue Value(*Property, Data);
-	VEXEL_TRY_VOID(LumValueText::Read(*Property, Value.Get(), Text, Place->GetOwner()->GetObject()));
+	VEXEL_TRY_VOID(LumValueText::Read(*Property, Value.Get(), Text, Place->GetOwner()->GetObject(), LumValueText::ESource::Given));
 	return Place->Assign(Value.Get());
 }
 
@@ -156,16 +155,21 @@ bool FLumUnrealPropertyFactory::CanCreate(const FProperty& Property)
 	return Property.ArrayDim == 1 && !Property.HasAnyCastFlags(Delegates) && FLumHelper::HasPropertyTypeId(Property);
 }
 
-TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealPropertyFactory::CreateMember(UObject& Object, const FProperty& Property)
+TVexelExpected<TSharedPtr<ILumProperty>> FLumUnrealPropertyFactory::CreateMember(
+	const TSharedRef<ILumValueOwner>& Owner, const FProperty& Property)
 {
-	const UClass* const Owner = Property.GetOwnerClass();
-	if (!Owner || !Object.IsA(Owner))
+	const UObject* const Object = Owner->GetObject();
+	if (!Object)
+	{
+		return VEXEL_ERROR(FLumError_Read, "Invalid object");
+	}
+	const UClass* const Class = Property.GetOwnerClass();
+	if (!Class || !Object->IsA(Class))
 	{
 		return VEXEL_ERROR(FLumError_Read, "Property '%s' does not belong to object of type '%s'", *Property.GetName(),
-			*Object.GetClass()->GetName());
+			*Object->GetClass()->GetName());
 	}
-	return CreateSubProperty(
-		MakeShared<FLumValuePlace>(MakeShared<FLumObjectOwner>(Object), FLumValuePlace::EPart::Member, Property));
+	return CreateSubProperty(MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Member, Property));
 }
 
 TSharedPtr<ILumProperty> FLumUnrealPropertyFactory::CreateSubProperty(const FLumValuePlaceRef& Place)

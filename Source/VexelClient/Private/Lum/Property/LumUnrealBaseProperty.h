@@ -79,6 +79,6 @@ public:
 	/** The same for a member of the owner, or of the struct at the place above. */
 	static void CreateMember(const TSharedRef<ILumValueOwner>& Owner, const FProperty& Member, FLumPropertyRoom& OutProperty);
 	static void CreateMember(const FLumValuePlaceRef& Above, const FProperty& Member, FLumPropertyRoom& OutProperty);
-	/** As CreateSubProperty, for a property of the object. */
-	static TVexelExpected<TSharedPtr<ILumProperty>> CreateMember(UObject& Object, const FProperty& Property);
+	/** As CreateSubProperty, for a property of the object that the owner is. */
+	static TVexelExpected<TSharedPtr<ILumProperty>> CreateMember(const TSharedRef<ILumValueOwner>& Owner, const FProperty& Property);
 };

@@ -159,7 +159,7 @@ bool LosesFraction(const FProperty& Property, const FString& Text)
 }
 
 /** What is wrong with the text; empty where nothing is. */
-FString FindFault(const FProperty& Property, void* Value, const FString& Text, UObject* Referrer)
+FString FindFault(const FProperty& Property, void* Value, const FString& Text, UObject* Referrer, LumValueText::ESource Source)
 {
 	FStringOutputDevice Errors;
 	const TCHAR* Rest = Property.ImportText_Direct(*Text, Value, Referrer, PPF_None, &Errors);
@@ -167,6 +167,11 @@ FString FindFault(const FProperty& Property, void* Value, const FString& Text, U
 	{
 		const UEnum* const Enum = GetEnum(Property);
 		return Enum ? FString(Errors) + TEXT(". ") + FLumHelper::ListEnumerators(*Enum) : FString(Errors);
+	}
+	// What the engine skips, such as a member that the struct does not have, it only warns of.
+	if (Source == LumValueText::ESource::Given && !Errors.IsEmpty())
+	{
+		return FString(Errors);
 	}
 	while (FChar::IsWhitespace(*Rest))
 	{
@@ -176,11 +181,15 @@ FString FindFault(const FProperty& Property, void* Value, const FString& Text, U
 	{
 		return FString::Printf(TEXT("'%s' stands behind the value"), Rest);
 	}
+	if (Rest < *Text + Text.Len())
+	{
+		return TEXT("it has a character of the code 0");
+	}
 	return LosesFraction(Property, Text) ? FString::Printf(TEXT("'%s' is not a whole number"), *Text) : FString();
 }
 }
 
-TVexelExpected<void> LumValueText::Read(const FProperty& Property, void* Value, const FString& Text, UObject* Referrer)
+TVexelExpected<void> LumValueText::Read(const FProperty& Property, void* Value, const FString& Text, UObject* Referrer, ESource Source)
 {
 	// A plain number is right or wrong whatever it was before.
 	const bool bIsPlainNumber = Property.IsA<FNumericProperty>() && !GetEnum(Property);
@@ -189,7 +198,7 @@ TVexelExpected<void> LumValueText::Read(const FProperty& Property, void* Value, 
 	{
 		Old.Emplace(Property, Value);
 	}
-	FString Fault = FindFault(Property, Value, Text, Referrer);
+	FString Fault = FindFault(Property, Value, Text, Referrer, Source);
 	if (Fault.IsEmpty())
 	{
 		const TVexelExpected<void> Check = FValueCheck(Referrer).Check(Property, Value, Old ? Old->Get() : nullptr);

@@ -8,6 +8,7 @@
 #include "Lum/LumVariableFlags.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
 #include "Lum/Property/LumVariableVirtualProperty.h"
+#include "Lum/Value/LumObjectOwner.h"
 
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
@@ -49,7 +50,7 @@ TSharedPtr<ILumProperty> FLumBlueprintMemberVariable::FindCompiledValue(
 	{
 		return nullptr;
 	}
-	TVexelExpected<TSharedPtr<ILumProperty>> Member = FLumUnrealPropertyFactory::CreateMember(*DefaultObject, *Property);
+	TVexelExpected<TSharedPtr<ILumProperty>> Member = FLumUnrealPropertyFactory::CreateMember(MakeShared<FLumObjectOwner>(*DefaultObject), *Property);
 	return Member.HasValue() ? Member.GetValue() : nullptr;
 }
 
@@ -62,7 +63,7 @@ TVexelExpected<TSharedPtr<ILumProperty>> FLumBlueprintMemberVariable::CreateLumV
 		return Compiled;
 	}
 	FLumEditBatch::BringUpToDate(*Blueprint);
-	const UClass* const Skeleton = Blueprint->SkeletonGeneratedClass;
+	const UClass* const Skeleton = LumSkeleton::Get(*Blueprint);
 	const FProperty* const Property = Skeleton ? Skeleton->FindPropertyByName(Name) : nullptr;
 	if (!Property || !FLumUnrealPropertyFactory::CanCreate(*Property))
 	{

@@ -166,19 +166,13 @@ TVexelExpected<void> FEditRequestOperationOnVar::Execute(const TSharedRef<ILumCo
 
 namespace
 {
-TVexelExpected<TArray<TVexelVarScopeId>> GetScopes(const ILumCompound& Target)
+TVexelExpected<void> CheckScope(const ILumCompound& Target, const TVexelVarScopeId& ScopeId)
 {
-	TArray<TVexelVarScopeId> Scopes = Target.GetVariableScopes();
+	VEXEL_TRY(const TArray<TVexelVarScopeId> Scopes, Target.GetVariableScopes(), "while retrieving supported variable scopes");
 	if (Scopes.IsEmpty())
 	{
 		return VEXEL_ERROR(FLumError_Write, "Target does not support variable management");
 	}
-	return Scopes;
-}
-
-TVexelExpected<void> CheckScope(const ILumCompound& Target, const TVexelVarScopeId& ScopeId)
-{
-	VEXEL_TRY(const TArray<TVexelVarScopeId> Scopes, GetScopes(Target), "while retrieving supported variable scopes");
 	if (!Scopes.Contains(ScopeId))
 	{
 		return VEXEL_ERROR(FLumError_Write, "Scope '%s' is not supported by target", *ScopeId);
