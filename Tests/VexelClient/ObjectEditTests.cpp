@@ -92,7 +92,7 @@ const FRefusal Refusals[] = {
 		"Write Error: Scope 'in' is not supported by target"},
 	{"{'target_type': 'node', 'graph': 'EventGraph', 'node': 'SetHealth_0'}",
 		"{'operation': 'add_pin', 'scope': 'in', 'name': 'New', 'value': {'type_id': 'int'}}",
-		"Write Error: Target does not support variable management, while retrieving supported variable scopes"},
+		"Write Error: Target does not support variable management"},
 	{OnHeal, "{'operation': 'add_variable', 'scope': 'member', 'name': 'New', 'value': {'type_id': 'int'}}",
 		"Write Error: Scope 'member' is not supported by target"},
 	{OnBlueprint, "{'operation': 'add_variable', 'scope': 'member', 'name': 'health', 'value': {'type_id': 'int'}}",
@@ -221,7 +221,7 @@ TEST_F(FObjectEditTest, ATargetThatIsNotThereCostsItsOperationsAlone)
 	const std::string Path = ToStd(Blueprint->GetPathName());
 	EXPECT_THAT(TextsOf(*Answer.GetValue(), TEXT("errors")),
 		ElementsAre("Failed to resolve target 'Unknown Target': Traverse failed: Invalid target type 'unknown' for edit request, while resolving "
-					"target `Unknown Target` for edit request",
+					"target `Unknown Target` for edit request. Target types are 'blueprint', 'graph', 'node'",
 			testing::StartsWith("Failed to resolve target 'Unknown Target'"),
 			"Failed to resolve target 'Graph (Gone)': Traverse failed: Graph 'Gone' not found, while resolving graph 'Gone' in blueprint '" + Path +
 				"', while resolving target `Graph (Gone)` for edit request",

@@ -52,6 +52,20 @@ const TCHAR* FLumVarDesc::GetFlagKey(ELumVarFlag Flag)
 	return TEXT("");
 }
 
+const TArray<FString>& FLumVarDesc::GetKeys()
+{
+	static const TArray<FString> Keys = []
+	{
+		TArray<FString> All = {ScopeKey, PropKey, TypeKey, CategoryKey};
+		for (const FFlagKey& FlagKey : FlagKeys)
+		{
+			All.Add(FlagKey.Key);
+		}
+		return All;
+	}();
+	return Keys;
+}
+
 TSharedRef<FJsonObject> FLumVarDesc::ToJson() const
 {
 	const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();

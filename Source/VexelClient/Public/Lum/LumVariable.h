@@ -30,6 +30,8 @@ struct FLumVarDesc
 	TMap<ELumVarFlag, bool> Flags;
 
 	static const TCHAR* GetFlagKey(ELumVarFlag Flag);
+	/** The keys of its JSON. */
+	static const TArray<FString>& GetKeys();
 
 	/** Empty members have no key. */
 	TSharedRef<FJsonObject> ToJson() const;

@@ -51,9 +51,8 @@ FString ReadText(const FJsonObject& Object, const TCHAR* Key)
 }
 
 template <typename EnumType, size_t NumWords>
-EnumType ReadWord(const FJsonObject& Object, const TCHAR* Key, const TEditWord<EnumType> (&Words)[NumWords])
+EnumType FindByWord(const FString& Text, const TEditWord<EnumType> (&Words)[NumWords])
 {
-	const FString Text = ReadText(Object, Key);
 	for (const TEditWord<EnumType>& Word : Words)
 	{
 		if (Text.Equals(Word.Word, ESearchCase::CaseSensitive))
@@ -75,6 +74,13 @@ const TCHAR* FindWord(EnumType Value, const TEditWord<EnumType> (&Words)[NumWord
 		}
 	}
 	return UnknownWord;
+}
+
+template <typename EnumType, size_t NumWords>
+FString ListWords(const TEditWord<EnumType> (&Words)[NumWords])
+{
+	return FString::JoinBy(Words, TEXT(", "), [](const TEditWord<EnumType>& Word)
+		{ return FString::Printf(TEXT("'%s'"), Word.Word); });
 }
 
 TSharedPtr<FJsonValue> ReadValue(const FJsonObject& Object)
@@ -111,7 +117,7 @@ FEditRequest::FTargetInfo ReadTarget(const FJsonObject& Request)
 	const TSharedPtr<FJsonObject>* Object = nullptr;
 	if (Request.TryGetObjectField(TEXT("target"), Object))
 	{
-		Target.Type = ReadWord(**Object, TEXT("target_type"), TargetWords);
+		Target.Type = FindByWord(ReadText(**Object, TEXT("target_type")), TargetWords);
 		Target.GraphId = ReadText(**Object, TEXT("graph"));
 		Target.NodeId = ReadText(**Object, TEXT("node"));
 	}
@@ -121,7 +127,7 @@ FEditRequest::FTargetInfo ReadTarget(const FJsonObject& Request)
 /** Unset for an operation that is not known. */
 TOptional<FEditRequest::FOperation> ReadOperation(const FJsonObject& Object)
 {
-	const EVexelEditOperation Type = ReadWord(Object, TEXT("operation"), OperationWords);
+	const EVexelEditOperation Type = VexelEditWords::FindOperation(ReadText(Object, TEXT("operation")));
 	if (Type == EVexelEditOperation::Unknown)
 	{
 		return {};
@@ -178,6 +184,12 @@ TVexelExpected<TSharedRef<ILumCompound>> Resolve(const FVexelBlueprintRequestHel
 }
 
 const TCHAR* VexelEditWords::GetWord(EVexelEditOperation Operation) { return FindWord(Operation, OperationWords); }
+
+EVexelEditOperation VexelEditWords::FindOperation(const FString& Word) { return FindByWord(Word, OperationWords); }
+
+FString VexelEditWords::ListOperations() { return ListWords(OperationWords); }
+
+FString VexelEditWords::ListTargets() { return ListWords(TargetWords); }
 
 FString FEditRequest::FTargetInfo::Describe() const
 {

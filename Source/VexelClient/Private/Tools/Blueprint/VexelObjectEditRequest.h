@@ -38,6 +38,11 @@ namespace VexelEditWords
 {
 /** As it stands in the input. */
 const TCHAR* GetWord(EVexelEditOperation Operation);
+/** The operation that the input's word stands for. */
+EVexelEditOperation FindOperation(const FString& Word);
+/** All words, in quotes. */
+FString ListOperations();
+FString ListTargets();
 }
 
 /** A change of a value. Its errors are the property model's. */

@@ -3,6 +3,8 @@
 #include "Lum/LumStructureEdit.h"
 #include "Tools/Blueprint/VexelBlueprintLinks.h"
 #include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
+#include "Tools/Blueprint/VexelObjectEditHints.h"
+#include "Tools/Blueprint/VexelObjectEditIgnored.h"
 #include "Tools/Blueprint/VexelObjectEditRequest.h"
 #include "Tools/VexelTool.h"
 #include "Tools/VexelToolSchema.h"
@@ -50,14 +52,29 @@ TVexelExpected<void> Execute(const FEditRequest::FOperation& Operation, const TS
 	return Operation.Get<FEditRequestOperationOnVar>().Execute(Compound);
 }
 
+FString DescribeHint(const FEditRequest::FOperation& Operation, const TSharedRef<ILumCompound>& Compound)
+{
+	const FEditRequestOperationOnProp* const OnProp = Operation.TryGet<FEditRequestOperationOnProp>();
+	return OnProp ? VexelObjectEditHints::Describe(Compound, *OnProp)
+				  : VexelObjectEditHints::Describe(Compound, Operation.Get<FEditRequestOperationOnVar>());
+}
+
+/** Errors repeat what the input says, of any length. */
+void AddError(FTexts& Errors, const FString& Text)
+{
+	constexpr int32 MaxLength = 8000;
+	Errors.Add(Text.Len() <= MaxLength ? Text : Text.Left(MaxLength) + TEXT("..."));
+}
+
 void Execute(const FEditRequest& Request, const FVexelBlueprintRequestHelper& Target, FTexts& OutErrors)
 {
 	const TVexelExpected<TSharedRef<ILumCompound>> Compound = Request.ResolveTarget(Target);
 	const FString Description = Request.Target.Describe();
 	if (Compound.HasError())
 	{
-		OutErrors.Add(
-			FString::Printf(TEXT("Failed to resolve target '%s': %s"), *Description, *Compound.GetError().ToChainString()));
+		AddError(OutErrors,
+			FString::Printf(TEXT("Failed to resolve target '%s': %s%s"), *Description, *Compound.GetError().ToChainString(),
+				*VexelObjectEditHints::Describe(Target, Request)));
 		return;
 	}
 	const FLumContext Context(Target.GetSharedMapping());
@@ -66,8 +83,9 @@ void Execute(const FEditRequest& Request, const FVexelBlueprintRequestHelper& Ta
 		const TVexelExpected<void> Result = Execute(Operation, Compound.GetValue(), Context);
 		if (Result.HasError())
 		{
-			OutErrors.Add(
-				FString::Printf(TEXT("Failed to execute operation on target '%s': %s"), *Description, *Result.GetError().ToChainString()));
+			AddError(OutErrors,
+				FString::Printf(TEXT("Failed to execute operation on target '%s': %s%s"), *Description, *Result.GetError().ToChainString(),
+					*DescribeHint(Operation, Compound.GetValue())));
 		}
 	}
 }
@@ -107,6 +125,7 @@ TVexelExpected<TSharedRef<FJsonObject>> Edit(const FVexelToolContext& Context, c
 		LinksBefore.Emplace(Target.GetBlueprint(), Target.GetMapping());
 	}
 	FTexts Errors;
+	FTexts Warnings = VexelObjectEditIgnored::Describe(Input.RequestValues);
 	{
 		const FLumEditBatch Batch(Target.GetBlueprint());
 		for (const FEditRequest& Request : Requests)
@@ -118,7 +137,8 @@ TVexelExpected<TSharedRef<FJsonObject>> Edit(const FVexelToolContext& Context, c
 	const TSharedRef<FJsonObject> Answer = MakeShared<FJsonObject>();
 	Answer->SetObjectField(TEXT("blueprint"), Exported);
 	SetTexts(*Answer, TEXT("errors"), Errors);
-	SetTexts(*Answer, TEXT("warnings"), LinksBefore ? LinksBefore->DescribeLost() : FTexts());
+	Warnings.Append(LinksBefore ? LinksBefore->DescribeLost() : FTexts());
+	SetTexts(*Answer, TEXT("warnings"), Warnings);
 	return Answer;
 }
 }
