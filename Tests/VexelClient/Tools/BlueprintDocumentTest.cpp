@@ -22,11 +22,30 @@ namespace
 {
 const char* const Blueprints[] = {"/Game/BP_Door", "/Game/BP_Enemy", "/Game/BP_Player"};
 
-/** The page's tables of keys, and its examples. */
+/** The page's tables of keys, with what their rows give for an example, and its examples of whole objects. */
 struct FPage
 {
 	std::set<std::string> Keys;
+	/** Of a row's first key, as JSON. */
+	std::vector<std::pair<std::string, std::string>> Values;
 	std::vector<std::string> Examples;
+
+	void AddRow(const std::string& Line)
+	{
+		const std::string Cell = Line.substr(0, Line.find(" | "));
+		std::string FirstKey;
+		for (size_t Begin = Cell.find('`'); Begin != std::string::npos; Begin = Cell.find('`', Begin + 1))
+		{
+			const size_t End = Cell.find('`', Begin + 1);
+			const std::string Key = Cell.substr(Begin + 1, End - Begin - 1);
+			FirstKey = FirstKey.empty() ? Key : FirstKey;
+			Keys.insert(Key);
+			Begin = End;
+		}
+		const size_t End = Line.rfind('`');
+		const size_t Begin = Line.rfind('`', End - 1);
+		Values.emplace_back(FirstKey, Line.substr(Begin + 1, End - Begin - 1));
+	}
 };
 
 FPage ReadPage()
@@ -48,16 +67,9 @@ FPage ReadPage()
 			Page.Examples.back() += Line + "\n";
 		}
 		bInTable = Line.starts_with("| key |") || (bInTable && Line.starts_with("|"));
-		if (!bInTable || !Line.starts_with("| `"))
+		if (bInTable && Line.starts_with("| `"))
 		{
-			continue;
-		}
-		const std::string Cell = Line.substr(0, Line.find(" | "));
-		for (size_t Begin = Cell.find('`'); Begin != std::string::npos; Begin = Cell.find('`', Begin + 1))
-		{
-			const size_t End = Cell.find('`', Begin + 1);
-			Page.Keys.insert(Cell.substr(Begin + 1, End - Begin - 1));
-			Begin = End;
+			Page.AddRow(Line);
 		}
 	}
 	return Page;
@@ -144,6 +156,30 @@ TEST_F(FBlueprintDocumentTest, EveryKeyIsDescribedAndEveryDescribedKeyOccurs)
 	Blueprint->ClearFlags(RF_Public | RF_Standalone);
 	FAssetRegistryModule::AssetDeleted(Blueprint);
 	EXPECT_EQ(Exported, ReadPage().Keys);
+}
+
+TEST_F(FBlueprintDocumentTest, EveryRowHasAnExampleOfTheSampleProject)
+{
+	std::set<std::string> Exported;
+	const auto PrintMember = [](const FString& Key, const TSharedPtr<FJsonValue>& Value)
+	{
+		const TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
+		Object->SetField(Key, Value->Type == EJson::Array && Key != TEXT("parent_chain") ? MakeShared<FJsonValueString>(TEXT("[...]")) : Value);
+		return Print(Object);
+	};
+	ForEachExported([&](const TSharedRef<FJsonObject>& Object)
+		{
+			for (const auto& [Key, Value] : Object->Values)
+			{
+				Exported.insert(PrintMember(Key, Value));
+			} });
+	const FPage Page = ReadPage();
+	EXPECT_GT(Page.Values.size(), 30u);
+	for (const auto& [Key, Value] : Page.Values)
+	{
+		const std::string Json = "{\"" + Key + "\": " + (Value == "[...]" ? "\"[...]\"" : Value) + "}";
+		EXPECT_TRUE(Exported.contains(Print(ParseJson(Json)))) << Json;
+	}
 }
 
 TEST_F(FBlueprintDocumentTest, TheExamplesAreWhatTheToolAnswers)
