@@ -39,6 +39,10 @@ const FHint Hints[] = {
 	{"{'target_type': 'graph', 'graph': 'Heel'}", "{'operation': 'update'}", "for edit request. Nearest: 'Heal'"},
 	{"{'target_type': 'node', 'graph': 'Heal', 'node': 'Xyzzy_0'}", "{'operation': 'update'}", "for edit request"},
 	{"{'target_type': 'function', 'graph': 'Heal'}", "{'operation': 'update'}", ". Target types are 'blueprint', 'graph', 'node'"},
+	{OnBlueprint, "{'operation': 'update', 'prop_path': '$ClassDefaultObject.Tags', 'value': ['A']}",
+		"Expected JSON object for compound property. Fields and elements are given by their ids, as {\"X\": \"1\"} and {\"0\": \"Coin\"}"},
+	{OnBlueprint, "{'operation': 'update', 'prop_path': '$ClassDefaultObject.Tags', 'value': {'type': 'array|name', 'properties': []}}",
+		". Fields and elements are given by their ids, as {\"X\": \"1\"} and {\"0\": \"Coin\"}"},
 	// Nothing is near, or there is nothing to look for.
 	{OnBlueprint, "{'operation': 'update', 'prop_path': 'Xyzzy', 'value': '1'}", "while resolving path 'Xyzzy' in target"},
 	{OnBlueprint, "{'operation': 'update', 'prop_path': '$ClassDefaultObject.Health.X', 'value': '1'}",

@@ -118,15 +118,10 @@ FString DescribeVariable(const TSharedRef<ILumCompound>& Target, const FString& 
 	Offer(Nearest, *Target, FString());
 	return Nearest.Describe();
 }
-}
 
-FString VexelObjectEditHints::Describe(const TSharedRef<ILumCompound>& Target, const FEditRequestOperationOnProp& Operation)
+FString DescribePath(const TSharedRef<ILumCompound>& Target, const FString& Path)
 {
-	if (!Operation.Scope.IsEmpty())
-	{
-		return DescribeVariable(Target, Operation.Scope, Operation.PropPath);
-	}
-	const TOptional<FDeadEnd> End = FindDeadEnd(Target, Operation.PropPath);
+	const TOptional<FDeadEnd> End = FindDeadEnd(Target, Path);
 	if (!End || !FLumEditBatch::TakeSuggestion())
 	{
 		return FString();
@@ -143,6 +138,26 @@ FString VexelObjectEditHints::Describe(const TSharedRef<ILumCompound>& Target, c
 		Offer(Nearest, *Target, FString());
 	}
 	return Nearest.Describe();
+}
+
+/** Whether somebody gave a list, or a value in the form in which it is shown. */
+bool IsInOtherForm(const FJsonValue& Value)
+{
+	const TSharedPtr<FJsonObject>* Object = nullptr;
+	return Value.Type == EJson::Array ||
+		(Value.TryGetObject(Object) && (*Object)->HasField(TEXT("type")) && (*Object)->HasField(TEXT("properties")));
+}
+}
+
+FString VexelObjectEditHints::Describe(const TSharedRef<ILumCompound>& Target, const FEditRequestOperationOnProp& Operation)
+{
+	FString Hint = Operation.Scope.IsEmpty() ? DescribePath(Target, Operation.PropPath)
+											 : DescribeVariable(Target, Operation.Scope, Operation.PropPath);
+	if (Hint.IsEmpty() && Operation.Value && IsInOtherForm(*Operation.Value))
+	{
+		return TEXT(". Fields and elements are given by their ids, as {\"X\": \"1\"} and {\"0\": \"Coin\"}");
+	}
+	return Hint;
 }
 
 FString VexelObjectEditHints::Describe(const TSharedRef<ILumCompound>& Target, const FEditRequestOperationOnVar& Operation)

@@ -9,8 +9,9 @@ struct FEditRequestOperationOnProp;
 struct FEditRequestOperationOnVar;
 
 /**
- * What may have been meant where an operation names what there is not, for the end of its error: ". Nearest: 'OpenAngle' of scope 'member'".
- * Empty where nothing is near, where the error is another, and where many of a call are wrong.
+ * What may have been meant where an operation names what there is not, for the end of its error: ". Nearest: 'OpenAngle' of scope 'member'";
+ * or how a value is given, where it was given as it is shown. Empty where nothing is near, where the error is another, and where many of a
+ * call are wrong.
  */
 namespace VexelObjectEditHints
 {
