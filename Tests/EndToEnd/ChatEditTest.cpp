@@ -101,7 +101,8 @@ TEST_F(ChatEdit, WhatFollowsFromAnEditOfMembersIsShownToo)
 		{"operation":"remove_variable","scope":"member","name":"Handle"}]}])")}));
 	EXPECT_THAT(RunInPipe("Do it\n").Output,
 		HasSubstr("[Object edits applied]\n"
-				  "  ! Failed to execute operation on target 'Blueprint': Write Error: Variable 'Handle' with scope 'member' not found\n"
+				  "  ! Failed to execute operation on target 'Blueprint': Write Error: Variable 'Handle' with scope 'member' not found. "
+				  "Nearest: 'Angle' of scope 'member'\n"
 				  "  ~ BP_Door\n"
 				  "  ~ variable OpenAngle → Angle\n"
 				  "  + variable OpenCount  type: Integer  category: Door\n"

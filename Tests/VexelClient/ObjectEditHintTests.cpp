@@ -35,6 +35,8 @@ const FHint Hints[] = {
 	{OnBlueprint, "{'operation': 'remove_variable', 'scope': 'member', 'name': 'Heatlh'}", ". Nearest: 'Health' of scope 'member'"},
 	{OnHeal, "{'operation': 'update', 'prop_path': 'Amount', 'value': '1'}", ". Nearest: 'Amount' of scope 'in'"},
 	{OnHeal, "{'operation': 'remove_variable', 'scope': 'in', 'name': 'Left'}", ". Nearest: 'Left' of scope 'local'"},
+	{OnSet, "{'operation': 'update', 'scope': 'in', 'prop_path': 'Health', 'value': '1'}", ". Nearest: 'Health' without a scope"},
+	{OnSet, "{'operation': 'remove_pin', 'scope': 'in', 'name': 'Health'}", "Variable 'Health' with scope 'in' not found"},
 	{OnSet, "{'operation': 'update', 'prop_path': 'health value', 'value': '1'}", ". Nearest: 'Health'"},
 	{"{'target_type': 'graph', 'graph': 'Heel'}", "{'operation': 'update'}", "for edit request. Nearest: 'Heal'"},
 	{"{'target_type': 'node', 'graph': 'Heal', 'node': 'Xyzzy_0'}", "{'operation': 'update'}", "for edit request"},

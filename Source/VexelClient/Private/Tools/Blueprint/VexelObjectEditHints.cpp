@@ -50,21 +50,35 @@ TOptional<FDeadEnd> FindDeadEnd(const TSharedRef<ILumCompound>& Target, const FS
 	return {};
 }
 
-/** Offers what a compound has: properties by their paths, variables with their scopes. */
+/** How a property is told: by its path, or where a scope was given, with the word that it has none. */
+using FShowProperty = TFunction<FString(const TVexelPropId& Id)>;
+
+FShowProperty ShowBelow(const FString& Way)
+{
+	return [Way](const TVexelPropId& Id)
+	{
+		return FString::Printf(TEXT("'%s%s'"), *Way, *Id);
+	};
+}
+
+/** Offers what a compound has: properties where they are wanted, and variables with their scopes. */
 class FOfferingCollector : public ILumPropertyCollector
 {
 public:
-	FOfferingCollector(FLumNearestNames& InNearest, const FString& InWay)
+	FOfferingCollector(FLumNearestNames& InNearest, const FShowProperty& InShowProperty)
 		: Nearest(InNearest)
-		, Way(InWay)
+		, ShowProperty(InShowProperty)
 	{
 	}
 
 	virtual TVexelExpected<void> Property(const TSharedRef<ILumProperty>& Property) override
 	{
 		VEXEL_TRY(const TVexelPropId Id, Property->GetPropId());
-		Nearest.Offer(Id.ToString(), 1, [&]
-			{ return FString::Printf(TEXT("'%s%s'"), *Way, *Id); });
+		if (ShowProperty)
+		{
+			Nearest.Offer(Id.ToString(), 1, [&]
+				{ return ShowProperty(Id); });
+		}
 		return {};
 	}
 
@@ -79,12 +93,12 @@ public:
 
 private:
 	FLumNearestNames& Nearest;
-	const FString& Way;
+	const FShowProperty& ShowProperty;
 };
 
-void Offer(FLumNearestNames& Nearest, const ILumCompound& Compound, const FString& Way)
+void Offer(FLumNearestNames& Nearest, const ILumCompound& Compound, const FShowProperty& ShowProperty)
 {
-	FOfferingCollector Collector(Nearest, Way);
+	FOfferingCollector Collector(Nearest, ShowProperty);
 	// A hint says what it can.
 	static_cast<void>(Compound.IterateProperties(Collector));
 }
@@ -96,7 +110,7 @@ void OfferDefaults(FLumNearestNames& Nearest, const TSharedRef<ILumCompound>& Ta
 	const TOptional<FDeadEnd> End = FindDeadEnd(Target, Defaults + TEXT("."));
 	if (End && End->Way == Defaults)
 	{
-		Offer(Nearest, *End->Compound, Defaults);
+		Offer(Nearest, *End->Compound, ShowBelow(Defaults));
 	}
 }
 
@@ -107,7 +121,7 @@ FString GetTitle(const FString& NodeId)
 	return NodeId.FindLastChar(TEXT('_'), Place) && NodeId.RightChop(Place + 1).IsNumeric() ? NodeId.Left(Place) : NodeId;
 }
 
-FString DescribeVariable(const TSharedRef<ILumCompound>& Target, const FString& Scope, const FString& Name)
+FString DescribeVariable(const TSharedRef<ILumCompound>& Target, const FString& Scope, const FString& Name, const FShowProperty& ShowProperty)
 {
 	const TVexelExpected<TSharedPtr<ILumVariable>> Found = Target->FindVariable(TVexelVarScopeId(Scope), TVexelPropId(Name));
 	if (Found.HasError() || Found.GetValue() || !FLumEditBatch::TakeSuggestion())
@@ -115,7 +129,7 @@ FString DescribeVariable(const TSharedRef<ILumCompound>& Target, const FString& 
 		return FString();
 	}
 	FLumNearestNames Nearest(Name);
-	Offer(Nearest, *Target, FString());
+	Offer(Nearest, *Target, ShowProperty);
 	return Nearest.Describe();
 }
 
@@ -127,7 +141,7 @@ FString DescribePath(const TSharedRef<ILumCompound>& Target, const FString& Path
 		return FString();
 	}
 	FLumNearestNames Nearest(End->Missing);
-	Offer(Nearest, *End->Compound, End->Way);
+	Offer(Nearest, *End->Compound, ShowBelow(End->Way));
 	if (End->Way.IsEmpty())
 	{
 		OfferDefaults(Nearest, Target);
@@ -135,7 +149,7 @@ FString DescribePath(const TSharedRef<ILumCompound>& Target, const FString& Path
 	else
 	{
 		// A variable is no property of the class before it has been compiled.
-		Offer(Nearest, *Target, FString());
+		Offer(Nearest, *Target, nullptr);
 	}
 	return Nearest.Describe();
 }
@@ -151,8 +165,12 @@ bool IsInOtherForm(const FJsonValue& Value)
 
 FString VexelObjectEditHints::Describe(const TSharedRef<ILumCompound>& Target, const FEditRequestOperationOnProp& Operation)
 {
+	const auto ShowWithoutScope = [](const TVexelPropId& Id)
+	{
+		return FString::Printf(TEXT("'%s' without a scope"), *Id);
+	};
 	FString Hint = Operation.Scope.IsEmpty() ? DescribePath(Target, Operation.PropPath)
-											 : DescribeVariable(Target, Operation.Scope, Operation.PropPath);
+											 : DescribeVariable(Target, Operation.Scope, Operation.PropPath, ShowWithoutScope);
 	if (Hint.IsEmpty() && Operation.Value && IsInOtherForm(*Operation.Value))
 	{
 		return TEXT(". Fields and elements are given by their ids, as {\"X\": \"1\"} and {\"0\": \"Coin\"}");
@@ -163,7 +181,7 @@ FString VexelObjectEditHints::Describe(const TSharedRef<ILumCompound>& Target, c
 FString VexelObjectEditHints::Describe(const TSharedRef<ILumCompound>& Target, const FEditRequestOperationOnVar& Operation)
 {
 	const bool bIsNew = Operation.Type == EVexelEditOperation::AddVariable || Operation.Type == EVexelEditOperation::AddPin;
-	return bIsNew || Operation.Name.IsEmpty() ? FString() : DescribeVariable(Target, Operation.Scope, Operation.Name);
+	return bIsNew || Operation.Name.IsEmpty() ? FString() : DescribeVariable(Target, Operation.Scope, Operation.Name, nullptr);
 }
 
 FString VexelObjectEditHints::Describe(const FVexelBlueprintRequestHelper& Blueprint, const FEditRequest& Request)
