@@ -294,7 +294,7 @@ TEST_F(FLumContextTest, ADescriptorSaysWhichQuestionFailed)
 TEST_F(FLumContextTest, AnOperationSaysWhatItWasDoingWhenItsTargetFailed)
 {
 	using EPart = FBrokenVariable::EPart;
-	const auto Run = [this](EPart Broken, EVexelEditOperation Type)
+	const auto Run = [](EPart Broken, EVexelEditOperation Type)
 	{
 		const FEditRequestOperationOnVar Operation{Type, TEXT("in"), TEXT("P"), Parse(R"({"type_id":"int"})")};
 		return TextOf(Operation.Execute(MakeShared<FBrokenCompound>(Broken)));
