@@ -6,11 +6,13 @@
 #include "EdGraph/EdGraphPin.h"
 #include "EdGraphUtilities.h"
 #include "Engine/Blueprint.h"
+#include "Engine/InheritableComponentHandler.h"
 #include "Engine/SCS_Node.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/TimelineTemplate.h"
 #include "UObject/Interface.h"
 #include "UObject/PropertyPortFlags.h"
+#include "UObject/UnrealType.h"
 
 #include <gtest/gtest.h>
 
@@ -47,10 +49,41 @@ public:
 			Text += FString::Printf(TEXT("Component %s %s below %s from %s\n"), *Node->GetVariableName().ToString(),
 				*Node->VariableGuid.ToString(), *GetNameSafe(Parent), *GetFullNameSafe(Node->ComponentTemplate.Get()));
 		}
+		AddOverrides(Blueprint, Text);
 		return Text;
 	}
 
 private:
+	static void AddOverrides(const UBlueprint& Blueprint, FString& Text)
+	{
+		const UInheritableComponentHandler* const Handler = Blueprint.InheritableComponentHandler;
+		TArray<UActorComponent*> Templates;
+		if (Handler)
+		{
+			Handler->GetAllTemplates(Templates);
+		}
+		// A compile puts those aside whose components are gone; their order means nothing.
+		Templates.RemoveAll([Handler](const UActorComponent* Template)
+			{ return !Handler->FindKey(Template).FindSCSNode(); });
+		Templates.Sort([](const UActorComponent& A, const UActorComponent& B)
+			{ return A.GetFName().LexicalLess(B.GetFName()); });
+		for (const UActorComponent* const Template : Templates)
+		{
+			const FComponentKey Key = Handler->FindKey(Template);
+			const UObject* const Archetype = Template->GetArchetype();
+			Text += FString::Printf(TEXT("Override %s %s by %s of %s\n"), *Key.GetSCSVariableName().ToString(),
+				*Key.GetAssociatedGuid().ToString(), *GetFullNameSafe(Template), *GetFullNameSafe(Archetype));
+			for (TFieldIterator<FProperty> It(Template->GetClass()); It; ++It)
+			{
+				FString Value;
+				if (It->ExportText_InContainer(0, Value, Template, Archetype, nullptr, PPF_None))
+				{
+					Text += FString::Printf(TEXT("  %s=%s\n"), *It->GetName(), *Value);
+				}
+			}
+		}
+	}
+
 	static void AddGraphs(const TCHAR* Kind, const TArray<TObjectPtr<UEdGraph>>& Graphs, FString& Text)
 	{
 		for (const UEdGraph* const Graph : Graphs)

@@ -1,6 +1,10 @@
 #pragma once
 
 #include "BlueprintEditTest.h"
+#include "Components/SceneComponent.h"
+#include "Engine/InheritableComponentHandler.h"
+#include "Engine/SCS_Node.h"
+#include "Engine/SimpleConstructionScript.h"
 #include "K2Node_Event.h"
 #include "K2Node_MacroInstance.h"
 #include "K2Node_VariableGet.h"
@@ -35,6 +39,9 @@ public:
 			{TEXT("child sets default"), &FRandomChild::SetDefault},
 			{TEXT("child adds variable"), &FRandomChild::AddVariable},
 			{TEXT("child deletes"), &FRandomChild::Delete},
+			{TEXT("child overrides component"), &FRandomChild::OverrideComponent},
+			{TEXT("child overrides component"), &FRandomChild::OverrideComponent},
+			{TEXT("child gives up component"), &FRandomChild::GiveUpComponent},
 		};
 		const auto& Kind = Kinds[Pick(std::size(Kinds))];
 		(this->*Kind.Do)();
@@ -167,6 +174,35 @@ private:
 		if (Node->CanUserDeleteNode())
 		{
 			FBlueprintEditorUtils::RemoveNode(&Child, Node);
+		}
+	}
+
+	const USCS_Node* PickComponent()
+	{
+		const TArray<USCS_Node*>& Nodes = Parent.SimpleConstructionScript->GetAllNodes();
+		return Nodes.Num() > 0 ? Nodes[Pick(Nodes.Num())] : nullptr;
+	}
+
+	void OverrideComponent()
+	{
+		const USCS_Node* const Node = PickComponent();
+		UActorComponent* const Template =
+			Node ? Child.GetInheritableComponentHandler(true)->CreateOverridenComponentTemplate(FComponentKey(Node)) : nullptr;
+		if (Template)
+		{
+			Template->Modify();
+			CastChecked<USceneComponent>(Template)->SetRelativeLocation(FVector(1.0 + Pick(9), 0, 0));
+			FBlueprintEditorUtils::MarkBlueprintAsModified(&Child);
+		}
+	}
+
+	void GiveUpComponent()
+	{
+		const USCS_Node* const Node = PickComponent();
+		if (Node && Child.InheritableComponentHandler)
+		{
+			Child.InheritableComponentHandler->RemoveOverridenComponentTemplate(FComponentKey(Node));
+			FBlueprintEditorUtils::MarkBlueprintAsModified(&Child);
 		}
 	}
 

@@ -11,6 +11,7 @@
 #include "UObject/PlaceholderObject.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UnrealType.h"
 
 namespace
 {
@@ -66,6 +67,23 @@ private:
 	int64 OldPosition;
 	int64 OldLimit;
 };
+
+/**
+ * Gives an object that is about to be read the values of its archetype. Where two packages refer to each other it may have been made
+ * before the archetype was there.
+ */
+void InheritValues(UObject& Object, FLinkerLoad& Linker)
+{
+	UObject* const Archetype = Object.GetArchetype();
+	Linker.Preload(Archetype);
+	for (const FProperty* Property = Object.GetClass()->PropertyLink; Property; Property = Property->PropertyLinkNext)
+	{
+		if (!Property->ContainsInstancedObjectProperty())
+		{
+			Property->CopyCompleteValue_InContainer(&Object, Archetype);
+		}
+	}
+}
 }
 
 void FLinkerLoad::Seek(int64 InPos)
@@ -331,8 +349,11 @@ UObject* FLinkerLoad::MakeExportObject(int32 ExportIndex, UClass* Class, UObject
 	Params.Outer = Outer;
 	Params.Name = Export.ObjectName;
 	Params.SetFlags = Flags;
+	Params.Template = UObject::GetArchetypeFromRequiredInfo(Class, Outer, Export.ObjectName, Flags);
+	Preload(Params.Template);
 	// A stand-in's class is abstract, to keep others from making instances; a template lets this one be made.
-	Params.Template = UE::CoreUObject::IsPlaceholder(Class) ? Class->GetDefaultObject() : nullptr;
+	const bool bNeedsTemplate = Params.Template != Class->GetDefaultObject(false) || UE::CoreUObject::IsPlaceholder(Class);
+	Params.Template = bNeedsTemplate ? Params.Template : nullptr;
 	return StaticConstructObject_Internal(Params);
 }
 
@@ -480,6 +501,10 @@ void FLinkerLoad::ReadExport(int32 ExportIndex)
 	if (UObject* const Outer = Object->GetOuter(); Outer && Outer->HasAnyFlags(RF_ClassDefaultObject))
 	{
 		Preload(Outer);
+	}
+	if (Object->HasAnyFlags(RF_InheritableComponentTemplate))
+	{
+		InheritValues(*Object, *this);
 	}
 	const int64 Start = ExportMap[ExportIndex].SerialOffset;
 	const int64 End = Start + ExportMap[ExportIndex].SerialSize;

@@ -2,6 +2,7 @@
 
 #include "EdGraph/EdGraph.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/InheritableComponentHandler.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/TimelineTemplate.h"
 #include "Serialization/Archive.h"
@@ -293,6 +294,17 @@ int32 UBlueprint::FindTimelineIndex(const FName& TimelineName) const
 		{ return Timeline && Timeline->GetVariableName() == TimelineName; });
 }
 
+UInheritableComponentHandler* UBlueprint::GetInheritableComponentHandler(bool bCreateIfNecessary)
+{
+	UBlueprintGeneratedClass* const Class = Cast<UBlueprintGeneratedClass>(GeneratedClass.Get());
+	if (!InheritableComponentHandler && bCreateIfNecessary && Class)
+	{
+		Modify();
+		InheritableComponentHandler = Class->GetInheritableComponentHandler(true);
+	}
+	return InheritableComponentHandler;
+}
+
 FString UBlueprint::GetDesc()
 {
 	return ParentClass ? FString::Printf(TEXT("Extends %s"), *ParentClass->GetName()) : FString();
@@ -324,6 +336,16 @@ void UBlueprint::PostLoad()
 		}
 	}
 	Status = BS_Unknown;
+}
+
+void UBlueprint::PostEditUndo()
+{
+	Super::PostEditUndo();
+	// Classes are not remembered for undo. What else they have of their Blueprints they take at a compile; a template is used at once.
+	if (UBlueprintGeneratedClass* const Class = Cast<UBlueprintGeneratedClass>(GeneratedClass.Get()))
+	{
+		Class->InheritableComponentHandler = InheritableComponentHandler;
+	}
 }
 
 void UBlueprint::PostDuplicate(bool bDuplicateForPIE)

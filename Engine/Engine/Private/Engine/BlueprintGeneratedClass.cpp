@@ -5,6 +5,8 @@
 #include "Engine/SCS_Node.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/TimelineTemplate.h"
+#include "UObject/LinkerLoad.h"
+#include "UObject/Package.h"
 
 UBlueprintGeneratedClass::UBlueprintGeneratedClass(const FObjectInitializer& ObjectInitializer)
 	: Super(ObjectInitializer)
@@ -75,16 +77,47 @@ bool UBlueprintGeneratedClass::GetGeneratedClassesHierarchy(const UClass* InClas
 	return bNoErrors;
 }
 
+namespace
+{
+/** Reads an object whose package is being loaded and has not come to it. */
+void Preload(UObject* Object)
+{
+	FLinkerLoad* const Linker = Object && Object->HasAnyFlags(RF_NeedLoad) ? Object->GetPackage()->GetLinker() : nullptr;
+	if (Linker)
+	{
+		Linker->Preload(Object);
+	}
+}
+
+/** Has the script's nodes read, which have the names of the components. */
+void PreloadNodes(USimpleConstructionScript* Script)
+{
+	if (!Script)
+	{
+		return;
+	}
+	Preload(Script);
+	for (USCS_Node* const Node : Script->GetAllNodes())
+	{
+		Preload(Node);
+	}
+}
+}
+
 UObject* UBlueprintGeneratedClass::FindArchetype(const UClass* ArchetypeClass, const FName ArchetypeName) const
 {
 	// A template bears its variable's name with a suffix, a component of an actor the bare name.
 	FString VariableName = ArchetypeName.ToString();
 	VariableName.RemoveFromEnd(USCS_Node::ComponentTemplateNameSuffix, ESearchCase::CaseSensitive);
+	VariableName.RemoveFromStart(UInheritableComponentHandler::SCSDefaultSceneRootOverrideNamePrefix, ESearchCase::CaseSensitive);
 	for (const UBlueprintGeneratedClass* Owner = this; Owner; Owner = Cast<UBlueprintGeneratedClass>(Owner->GetSuperClass()))
 	{
+		PreloadNodes(Owner->SimpleConstructionScript);
 		const USCS_Node* const Node =
 			Owner->SimpleConstructionScript ? Owner->SimpleConstructionScript->FindSCSNode(FName(*VariableName)) : nullptr;
-		UActorComponent* const Template = Node ? FindActualTemplate(*Node, *Owner) : Owner->FindComponentTemplateByName(ArchetypeName);
+		UActorComponent* const Template = Node
+			? Node->GetActualComponentTemplate(const_cast<UBlueprintGeneratedClass*>(this))
+			: Owner->FindComponentTemplateByName(ArchetypeName);
 		if (Template && Template->IsA(ArchetypeClass))
 		{
 			return Template;
@@ -93,37 +126,13 @@ UObject* UBlueprintGeneratedClass::FindArchetype(const UClass* ArchetypeClass, c
 	return nullptr;
 }
 
-UActorComponent* UBlueprintGeneratedClass::FindActualTemplate(const USCS_Node& Node, const UBlueprintGeneratedClass& Owner) const
+UInheritableComponentHandler* UBlueprintGeneratedClass::GetInheritableComponentHandler(const bool bCreateIfNecessary)
 {
-	FComponentKey Key;
-	Key.OwnerClass = const_cast<UBlueprintGeneratedClass*>(&Owner);
-	Key.SCSVariableName = Node.GetVariableName();
-	Key.AssociatedGuid = Node.VariableGuid;
-	for (const UBlueprintGeneratedClass* Class = this; Class && Class != &Owner;
-		 Class = Cast<UBlueprintGeneratedClass>(Class->GetSuperClass()))
+	if (!InheritableComponentHandler && bCreateIfNecessary)
 	{
-		UActorComponent* const Override =
-			Class->InheritableComponentHandler ? Class->InheritableComponentHandler->GetOverridenComponentTemplate(Key) : nullptr;
-		if (Override)
-		{
-			return Override;
-		}
+		InheritableComponentHandler = NewObject<UInheritableComponentHandler>(this, TEXT("InheritableComponentHandler"), RF_Transactional);
 	}
-	return Node.ComponentTemplate;
-}
-
-bool FComponentKey::Match(const FComponentKey& OtherKey) const
-{
-	const bool bSameGuid = AssociatedGuid.IsValid() && OtherKey.AssociatedGuid.IsValid();
-	return OwnerClass == OtherKey.OwnerClass &&
-		(bSameGuid ? AssociatedGuid == OtherKey.AssociatedGuid : SCSVariableName == OtherKey.SCSVariableName);
-}
-
-UActorComponent* UInheritableComponentHandler::GetOverridenComponentTemplate(const FComponentKey& InKey) const
-{
-	const FComponentOverrideRecord* const Found = Records.FindByPredicate([&InKey](const FComponentOverrideRecord& Record)
-		{ return Record.ComponentKey.Match(InKey); });
-	return Found ? Found->ComponentTemplate.Get() : nullptr;
+	return InheritableComponentHandler;
 }
 
 UClass* UBlueprintGeneratedClass::GetAuthoritativeClass()

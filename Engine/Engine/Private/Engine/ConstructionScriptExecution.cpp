@@ -1,4 +1,5 @@
 #include "Components/SceneComponent.h"
+#include "Engine/BlueprintGeneratedClass.h"
 #include "Engine/SCS_Node.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "GameFramework/Actor.h"
@@ -20,7 +21,8 @@ void SetComponentVariable(AActor& Actor, FName Variable, UActorComponent* Compon
 
 UActorComponent* USCS_Node::ExecuteNodeOnActor(AActor* Actor, USceneComponent* ParentComponent)
 {
-	UActorComponent* const Component = Actor->CreateComponentFromTemplate(ComponentTemplate, InternalVariableName);
+	UActorComponent* const Template = GetActualComponentTemplate(Cast<UBlueprintGeneratedClass>(Actor->GetClass()));
+	UActorComponent* const Component = Actor->CreateComponentFromTemplate(Template, InternalVariableName);
 	if (!Component)
 	{
 		return nullptr;

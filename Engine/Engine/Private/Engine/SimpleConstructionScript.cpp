@@ -2,9 +2,11 @@
 
 #include "Components/SceneComponent.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/InheritableComponentHandler.h"
 #include "Engine/SCS_Node.h"
 #include "GameFramework/Actor.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
 
 FString USCS_Node::ComponentTemplateNameSuffix(TEXT("_GEN_VARIABLE"));
 
@@ -34,7 +36,43 @@ void USCS_Node::SetVariableName(const FName& NewName, bool bRenameTemplate)
 			ComponentTemplate->Rename(*NewTemplateName, nullptr, REN_DontCreateRedirectors);
 		}
 	}
+	const FComponentKey OldKey(this);
 	InternalVariableName = NewName;
+	RenameOverrides(OldKey);
+}
+
+void USCS_Node::RenameOverrides(const FComponentKey& OldKey)
+{
+	TArray<UClass*> Derived;
+	if (OldKey.IsSCSKey())
+	{
+		GetDerivedClasses(OldKey.GetComponentOwner(), Derived, true);
+	}
+	for (UClass* const Class : Derived)
+	{
+		UBlueprintGeneratedClass* const Generated = Cast<UBlueprintGeneratedClass>(Class);
+		UInheritableComponentHandler* const Handler = Generated ? Generated->GetInheritableComponentHandler() : nullptr;
+		if (Handler)
+		{
+			Handler->FollowRename(OldKey, *this);
+		}
+	}
+}
+
+UActorComponent* USCS_Node::GetActualComponentTemplate(UBlueprintGeneratedClass* ActualBPGC) const
+{
+	const FComponentKey Key(this);
+	const USimpleConstructionScript* const Script = GetSCS();
+	for (const UBlueprintGeneratedClass* Class = ActualBPGC; Class && Class->SimpleConstructionScript != Script;
+		 Class = Cast<UBlueprintGeneratedClass>(Class->GetSuperClass()))
+	{
+		const UInheritableComponentHandler* const Handler = Class->InheritableComponentHandler;
+		if (UActorComponent* const Override = Handler ? Handler->GetOverridenComponentTemplate(Key) : nullptr)
+		{
+			return Override;
+		}
+	}
+	return ComponentTemplate;
 }
 
 USimpleConstructionScript* USCS_Node::GetSCS() const

@@ -391,11 +391,14 @@ public:
 	UTimelineTemplate* FindTimelineTemplateByVariableName(const FName& TimelineName);
 	const UTimelineTemplate* FindTimelineTemplateByVariableName(const FName& TimelineName) const;
 	int32 FindTimelineIndex(const FName& TimelineName) const;
+	/** The generated class's. Null where the Blueprint overrides no inherited component and none is to be made. */
+	UInheritableComponentHandler* GetInheritableComponentHandler(bool bCreateIfNecessary);
 	bool ShouldMarkDirtyOnModify() const { return !bBeingCompiled; }
 
 	// UObject
 	virtual FString GetDesc() override;
 	virtual void PostLoad() override;
+	virtual void PostEditUndo() override;
 	using UObject::PostDuplicate;
 	virtual void PostDuplicate(bool bDuplicateForPIE) override;
 	virtual void Serialize(FArchive& Ar) override;

@@ -9,7 +9,6 @@
 
 class UActorComponent;
 class UInheritableComponentHandler;
-class USCS_Node;
 class USimpleConstructionScript;
 class UTimelineTemplate;
 
@@ -49,6 +48,8 @@ public:
 
 	UActorComponent* FindComponentTemplateByName(const FName& TemplateName) const;
 	UTimelineTemplate* FindTimelineTemplateByVariableName(const FName& TimelineName) const;
+	/** Null where the class overrides nothing and none is to be made. Have it made by the Blueprint, which remembers that for undo. */
+	UInheritableComponentHandler* GetInheritableComponentHandler(const bool bCreateIfNecessary = false);
 	/** The nearest parent whose class a Blueprint made, and so on up; answers whether none of them has errors. */
 	static bool GetGeneratedClassesHierarchy(const UClass* InClass, TArray<const UBlueprintGeneratedClass*>& OutBPGClasses);
 
@@ -66,8 +67,4 @@ public:
 	virtual UClass* GetAuthoritativeClass() override;
 	/** What a component that this class or a parent of its adds is made from: the nearest class's own template for it. */
 	virtual UObject* FindArchetype(const UClass* ArchetypeClass, const FName ArchetypeName) const override;
-
-private:
-	/** The template of a component of Owner's that instances of this class are made from. */
-	UActorComponent* FindActualTemplate(const USCS_Node& Node, const UBlueprintGeneratedClass& Owner) const;
 };

@@ -9,8 +9,10 @@
 
 class AActor;
 class UActorComponent;
+class UBlueprintGeneratedClass;
 class USceneComponent;
 class USimpleConstructionScript;
+struct FComponentKey;
 
 /** A component that a Blueprint adds to its actors. */
 UCLASS()
@@ -53,6 +55,9 @@ public:
 	FGuid VariableGuid;
 
 	FName GetVariableName() const { return InternalVariableName; }
+	/** What the components of the class's actors are made from: this node's template, or the nearest override of it. */
+	UActorComponent* GetActualComponentTemplate(UBlueprintGeneratedClass* ActualBPGC) const;
+	/** Overrides of derived Blueprints take the new name too. */
 	void SetVariableName(const FName& NewName, bool bRenameTemplate = true);
 	USimpleConstructionScript* GetSCS() const;
 	const TArray<USCS_Node*>& GetChildNodes() const;
@@ -69,6 +74,8 @@ public:
 	static FString ComponentTemplateNameSuffix;
 
 private:
+	void RenameOverrides(const FComponentKey& OldKey);
+
 	UPROPERTY()
 	FName InternalVariableName;
 };

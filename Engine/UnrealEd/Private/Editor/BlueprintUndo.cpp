@@ -2,12 +2,15 @@
 
 #include "EdGraph/EdGraphNode.h"
 #include "Engine/Blueprint.h"
+#include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/InheritableComponentHandler.h"
 #include "Engine/UserDefinedEnum.h"
 #include "K2Node_EditablePinBase.h"
 #include "K2Node_Event.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "Kismet2/EnumEditorUtils.h"
 #include "Kismet2/KismetEditorUtilities.h"
+#include "UObject/UObjectHash.h"
 
 namespace
 {
@@ -34,6 +37,23 @@ bool DeclaresMembers(const UObject& Object)
 	}
 	// A graph that gained or lost nodes may have gained or lost an event or a result.
 	return !Object.HasAnyFlags(RF_ClassDefaultObject);
+}
+
+/** A compile may have put overrides of components aside that are there again, those of the Blueprint and of Blueprints below it. */
+void ReclaimOverrides(const UBlueprint& Blueprint)
+{
+	TArray<UClass*> Classes;
+	GetDerivedClasses(Blueprint.GeneratedClass.Get(), Classes, true);
+	Classes.Add(Blueprint.GeneratedClass.Get());
+	for (UClass* const Class : Classes)
+	{
+		UBlueprintGeneratedClass* const Generated = Cast<UBlueprintGeneratedClass>(Class);
+		UInheritableComponentHandler* const Handler = Generated ? Generated->GetInheritableComponentHandler() : nullptr;
+		if (Handler)
+		{
+			Handler->ReclaimTemplates();
+		}
+	}
 }
 }
 
@@ -76,5 +96,6 @@ void FBlueprintUndo::Refresh()
 			FKismetEditorUtilities::GenerateBlueprintSkeleton(Blueprint.Key, true);
 		}
 		FBlueprintEditorUtils::MarkBlueprintAsModified(Blueprint.Key);
+		ReclaimOverrides(*Blueprint.Key);
 	}
 }

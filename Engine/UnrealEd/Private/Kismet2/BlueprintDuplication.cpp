@@ -1,6 +1,7 @@
 #include "Components/ActorComponent.h"
 #include "EdGraph/EdGraph.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/InheritableComponentHandler.h"
 #include "Engine/SCS_Node.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "Engine/TimelineTemplate.h"
@@ -40,6 +41,12 @@ void CopyClassParts(UBlueprint& Blueprint, UBlueprintGeneratedClass& Class)
 		Timeline = CopyInto<UTimelineTemplate>(Timeline, &Class);
 	}
 	Class.SimpleConstructionScript = Blueprint.SimpleConstructionScript;
+	Blueprint.InheritableComponentHandler = CopyInto<UInheritableComponentHandler>(Blueprint.InheritableComponentHandler, &Class);
+	Class.InheritableComponentHandler = Blueprint.InheritableComponentHandler;
+	if (Blueprint.InheritableComponentHandler)
+	{
+		Blueprint.InheritableComponentHandler->UpdateOwnerClass(&Class);
+	}
 }
 
 void ReplaceType(TObjectPtr<UObject>& Type, const UClass* Old, UClass* New)

@@ -4,6 +4,7 @@
 #include "BlueprintClassBuilder.h"
 #include "Components/SceneComponent.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/InheritableComponentHandler.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "GameFramework/Actor.h"
 #include "Misc/ITransaction.h"
@@ -163,6 +164,9 @@ void FBlueprintCompileReinstancer::MoveOldLayoutAway(FRebuiltClass& Rebuilt)
 	OldClass->ClassCastFlags = Class.ClassCastFlags;
 	OldClass->ClassWithin = Class.ClassWithin;
 	OldClass->ChildProperties = Class.ChildProperties;
+	// Components of old actors keep the archetypes that tell what was given to them themselves.
+	OldClass->SimpleConstructionScript = Class.SimpleConstructionScript;
+	OldClass->InheritableComponentHandler = Class.InheritableComponentHandler;
 	OldClass->PropertiesSize = Class.PropertiesSize;
 	OldClass->MinAlignment = Class.MinAlignment;
 	Class.ChildProperties = nullptr;
@@ -208,6 +212,10 @@ void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FSt
 	Class.ComponentTemplates = Blueprint.ComponentTemplates;
 	Class.Timelines = Blueprint.Timelines;
 	Class.InheritableComponentHandler = Blueprint.InheritableComponentHandler;
+	if (Class.InheritableComponentHandler && Blueprint.GeneratedClass.Get() == &Class)
+	{
+		Class.InheritableComponentHandler->ValidateTemplates();
+	}
 }
 
 void FBlueprintCompileReinstancer::TransferValues(UObject& From, UObject& To, const TMap<FName, FGuid>& OldGuids)
@@ -374,7 +382,7 @@ void FBlueprintCompileReinstancer::ReplaceObjects()
 			UObject* const Outer = Old->GetOuter();
 			const FName Name = Old->GetFName();
 			const EObjectFlags Flags = Old->GetMaskedFlags(
-				RF_Public | RF_Standalone | RF_Transactional | RF_Transient | RF_ArchetypeObject);
+				RF_Public | RF_Standalone | RF_Transactional | RF_Transient | RF_ArchetypeObject | RF_InheritableComponentTemplate);
 			Old->Rename(*MakeUniqueObjectName(Transient, Rebuilt.OldClass).ToString(), Transient, MoveFlags);
 			UObject* const New = NewObject<UObject>(Outer, Rebuilt.Class, Name, Flags);
 			if (AActor* const OldActor = Cast<AActor>(Old); OldActor && OldActor->GetRootComponent())
