@@ -4,6 +4,7 @@
 #include "Lum/LumHelper.h"
 #include "Lum/LumPropertyRoom.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
+#include "Lum/Value/LumTemporaryValue.h"
 
 #include "UObject/UnrealType.h"
 
@@ -67,9 +68,15 @@ TVexelExpected<void> FLumUnrealContainerCompound::Change(EPropertyChangeType::Ty
 	return Place->GetOwner()->Change(*Place, Type, Work);
 }
 
+void FLumUnrealContainerCompound::CloseGaps(const FProperty& Property, void* Memory)
+{
+	const FLumTemporaryValue Copy(Property, Memory);
+	Property.CopyCompleteValue(Memory, Copy.Get());
+}
+
 FLumValuePlaceRef FLumUnrealContainerCompound::MakeNewValue(const FProperty& ElementProperty) const
 {
-	const TSharedRef<FLumLooseOwner> Owner = MakeShared<FLumLooseOwner>(ElementProperty, Place->GetOwner()->GetObject());
+	const TSharedRef<FLumLooseOwner> Owner = MakeShared<FLumLooseOwner>(ElementProperty, Place->GetOwner()->GetReferrer());
 	return MakeShared<FLumValuePlace>(Owner, FLumValuePlace::EPart::Whole, ElementProperty);
 }
 

@@ -53,6 +53,9 @@ protected:
 	/** Runs the work as one change of the container. */
 	TVexelExpected<void> Change(EPropertyChangeType::Type Type, FWork Work) const;
 
+	/** Numbers the elements anew where some were removed: the container's copy in an object made from this one has the same numbers then. */
+	static void CloseGaps(const FProperty& Property, void* Memory);
+
 	/** The place of a default value that is to become an element, or a key or value of one. */
 	FLumValuePlaceRef MakeNewValue(const FProperty& ElementProperty) const;
 	/** Gives the value at the place, in the container or a new one, what the JSON says. */

@@ -198,7 +198,9 @@ TVexelExpected<void> FLumUnrealMapCompound::RemoveAt(int32 Index)
 		[&]()
 		{
 			return Place->Write([&](void* Memory)
-				{ FScriptMapHelper(&Property, Memory).RemoveAt(InternalIndex); });
+				{
+					FScriptMapHelper(&Property, Memory).RemoveAt(InternalIndex);
+					CloseGaps(Property, Memory); });
 		});
 }
 

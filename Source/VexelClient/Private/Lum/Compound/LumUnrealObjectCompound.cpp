@@ -5,7 +5,7 @@
 #include "Lum/LumErrors.h"
 #include "Lum/LumPropertyCollector.h"
 #include "Lum/Property/LumUnrealBaseProperty.h"
-#include "Lum/Property/LumUnrealObjectProperty.h"
+#include "Lum/Value/LumComponentTemplate.h"
 #include "Lum/Value/LumObjectOwner.h"
 
 #include "UObject/Object.h"
@@ -19,11 +19,10 @@ bool IsShown(const FProperty& Property)
 }
 
 /** Whether the value is not what the object would have if nobody had set it. */
-bool DiffersFromArchetype(const FProperty& Property, const UObject& Object)
+bool DiffersFrom(const UObject* Defaults, const FProperty& Property, const UObject& Object)
 {
-	const UObject* const Archetype = Object.GetArchetype();
-	const bool bHasCounterpart = Archetype && Archetype->GetClass()->IsChildOf(Property.GetOwnerClass());
-	const void* const Default = bHasCounterpart ? Property.ContainerPtrToValuePtr<void>(Archetype) : nullptr;
+	const bool bHasCounterpart = Defaults && Defaults->GetClass()->IsChildOf(Property.GetOwnerClass());
+	const void* const Default = bHasCounterpart ? Property.ContainerPtrToValuePtr<void>(Defaults) : nullptr;
 	return !Property.Identical(Property.ContainerPtrToValuePtr<void>(&Object), Default, PPF_None);
 }
 
@@ -53,13 +52,6 @@ bool IsShownElsewhere(const FProperty& Property, const UObject& Object)
 		++First;
 	}
 	return Part->GetOuter() != &Object || *First != &Property;
-}
-
-/** What an export shows. No archetype has the components that a Blueprint adds, whatever their values are. */
-bool IsExported(const FProperty& Property, const UObject& Object)
-{
-	const bool bIsOwn = DiffersFromArchetype(Property, Object) && !IsShownElsewhere(Property, Object);
-	return bIsOwn || FLumUnrealObjectInstanceProperty::FindComponentTemplate(Property, &Object);
 }
 }
 
@@ -98,7 +90,13 @@ TVexelExpected<void> FLumUnrealObjectCompound::Iterate(ILumPropertyCollector& Co
 
 TVexelExpected<void> FLumUnrealObjectCompound::IterateForExport(ILumPropertyCollector& Collector) const
 {
-	return IterateWhere(Collector, &IsExported);
+	VEXEL_TRY(const UObject* const ForWhich, GetObject());
+	const UObject* const Defaults = LumComponentTemplate::GetDefaults(*ForWhich);
+	// No default object has the components that a Blueprint adds or inherits, whatever their values are.
+	return IterateWhere(Collector, [Defaults](const FProperty& Property, const UObject& Object)
+		{
+			const bool bIsOwn = DiffersFrom(Defaults, Property, Object) && !IsShownElsewhere(Property, Object);
+			return bIsOwn || LumComponentTemplate::FindNode(Property, &Object); });
 }
 
 TVexelExpected<void> FLumUnrealObjectCompound::IterateWhere(

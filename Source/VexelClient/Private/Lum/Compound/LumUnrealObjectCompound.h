@@ -8,7 +8,8 @@ class UObject;
 
 /**
  * The properties of an object that a user can edit or a Blueprint can see. An export shows those that differ from the object's
- * archetype, and of a Blueprint's default object also the components that the Blueprint adds.
+ * archetype, of a component those that differ from its class's defaults, and of a Blueprint's default object also the components that the
+ * Blueprint and its parents add.
  */
 class FLumUnrealObjectCompound : public ILumCompound
 {

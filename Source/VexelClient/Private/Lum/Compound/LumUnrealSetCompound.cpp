@@ -141,7 +141,9 @@ TVexelExpected<void> FLumUnrealSetCompound::RemoveAt(int32 Index)
 		[&]()
 		{
 			return Place->Write([&](void* Memory)
-				{ FScriptSetHelper(&Property, Memory).RemoveAt(InternalIndex); });
+				{
+					FScriptSetHelper(&Property, Memory).RemoveAt(InternalIndex);
+					CloseGaps(Property, Memory); });
 		});
 }
 

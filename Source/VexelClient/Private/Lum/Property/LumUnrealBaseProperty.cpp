@@ -139,7 +139,7 @@ TVexelExpected<void> FLumUnrealBaseProperty::ImportText(const FString& Text) con
 		return CheckProperty();
 	}
 	const FLumTemporaryValue Value(*Property, Data);
-	VEXEL_TRY_VOID(LumValueText::Read(*Property, Value.Get(), Text, Place->GetOwner()->GetObject(), LumValueText::ESource::Given));
+	VEXEL_TRY_VOID(LumValueText::Read(*Property, Value.Get(), Text, Place->GetOwner()->GetReferrer(), LumValueText::ESource::Given));
 	return Place->Assign(Value.Get());
 }
 

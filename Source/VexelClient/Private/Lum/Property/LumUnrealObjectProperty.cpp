@@ -4,12 +4,9 @@
 #include "Lum/LumContext.h"
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
+#include "Lum/Value/LumComponentTemplate.h"
 #include "Lum/Value/LumTemporaryValue.h"
 
-#include "Components/ActorComponent.h"
-#include "Engine/BlueprintGeneratedClass.h"
-#include "Engine/SCS_Node.h"
-#include "Engine/SimpleConstructionScript.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -84,7 +81,7 @@ TVexelExpected<void> FLumUnrealObjectReferenceProperty::ImportValue(const FLumCo
 
 TVexelExpected<void> FLumUnrealObjectReferenceProperty::SetReference(void* Memory, const FString& Path) const
 {
-	UObject* const Referrer = Place->GetOwner()->GetObject();
+	UObject* const Referrer = Place->GetOwner()->GetReferrer();
 	if (Property->IsA<FSoftObjectProperty>())
 	{
 		return SetSoftReference(Memory, Path);
@@ -128,16 +125,6 @@ TVexelExpected<void> FLumUnrealObjectReferenceProperty::SetSoftReference(void* M
 	return {};
 }
 
-UObject* FLumUnrealObjectInstanceProperty::FindComponentTemplate(const FProperty& Property, const UObject* Object)
-{
-	const bool bMayBeComponent = Object && Property.HasAnyPropertyFlags(CPF_InstancedReference);
-	const bool bIsDefault = bMayBeComponent && Object->HasAnyFlags(RF_ClassDefaultObject) && Object->GetClass() == Property.GetOwnerClass();
-	const UBlueprintGeneratedClass* const Class = bIsDefault ? Cast<UBlueprintGeneratedClass>(Object->GetClass()) : nullptr;
-	const USimpleConstructionScript* const Script = Class ? Class->SimpleConstructionScript.Get() : nullptr;
-	const USCS_Node* const Node = Script ? Script->FindSCSNode(Property.GetFName()) : nullptr;
-	return Node ? Node->ComponentTemplate.Get() : nullptr;
-}
-
 TVexelExpected<UObject*> FLumUnrealObjectInstanceProperty::GetObject() const
 {
 	const FObjectPropertyBase* const Object = CastField<FObjectPropertyBase>(Property);
@@ -151,7 +138,7 @@ TVexelExpected<UObject*> FLumUnrealObjectInstanceProperty::GetObject() const
 		return VEXEL_ERROR(FLumError_Read, "Property data is null");
 	}
 	UObject* const Value = Object->GetObjectPropertyValue(Data);
-	return Value ? Value : FindComponentTemplate(*Property, Place->GetOwner()->GetObject());
+	return Value ? Value : LumComponentTemplate::Find(*Property, Place->GetOwner()->GetObject());
 }
 
 TVexelExpected<TSharedPtr<ILumCompound>> FLumUnrealObjectInstanceProperty::GetCompound() const
@@ -169,13 +156,13 @@ TVexelExpected<void> FLumUnrealObjectInstanceProperty::ImportValue(const FLumCon
 	const FObjectPropertyBase* const ObjectProperty = CastFieldChecked<FObjectPropertyBase>(Property);
 	VEXEL_TRY(const FString Path, ReadReference(*Property, *Value));
 	VEXEL_TRY(
-		UObject* const Object, FLumHelper::ResolveReference(Path, ObjectProperty->PropertyClass, Place->GetOwner()->GetObject()));
+		UObject* const Object, FLumHelper::ResolveReference(Path, ObjectProperty->PropertyClass, Place->GetOwner()->GetReferrer()));
 	VEXEL_TRY(const UObject* const Current, GetObject());
 	if (Object == Current)
 	{
 		return {};
 	}
-	if (FindComponentTemplate(*Property, Place->GetOwner()->GetObject()))
+	if (LumComponentTemplate::Find(*Property, Place->GetOwner()->GetObject()))
 	{
 		return VEXEL_ERROR(FLumError_Import, "'%s' is a component of the blueprint", *Property->GetName());
 	}
@@ -190,7 +177,7 @@ TVexelExpected<void> FLumUnrealObjectInstanceProperty::ImportValue(const FLumCon
 
 TVexelExpected<void> FLumUnrealObjectInstanceProperty::CheckCanBePart(const UObject& Object) const
 {
-	const UObject* const Owner = Place->GetOwner()->GetObject();
+	const UObject* const Owner = Place->GetOwner()->GetReferrer();
 	if (!Owner || &Object == Owner || Owner->IsIn(&Object))
 	{
 		return VEXEL_ERROR(FLumError_Import, "'%s' cannot be a part of itself", *Object.GetPathName());

@@ -29,12 +29,6 @@ class FLumUnrealObjectInstanceProperty : public TLumUnrealProperty<ILumCompoundP
 public:
 	using TLumUnrealProperty::TLumUnrealProperty;
 
-	/**
-	 * What actors' components of the property are made from, where the object is the default of a Blueprint that adds the component:
-	 * there the property itself is empty. Null for any other property or object.
-	 */
-	static UObject* FindComponentTemplate(const FProperty& Property, const UObject* Object);
-
 	virtual TVexelExpected<TSharedPtr<ILumCompound>> GetCompound() const override;
 	virtual TVexelExpected<TSharedRef<FJsonValue>> JsonExportValue(const FLumContext& Context) const override;
 

@@ -1,10 +1,14 @@
 #include "Lum/Value/LumObjectOwner.h"
 
 #include "Lum/LumErrors.h"
+#include "Lum/Value/LumComponentTemplate.h"
 #include "Lum/Value/LumDefaultPropagation.h"
 #include "Lum/Value/LumEditNotice.h"
 
+#include "Components/ActorComponent.h"
 #include "Engine/Blueprint.h"
+#include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/SCS_Node.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "UObject/Class.h"
 #include "UObject/Object.h"
@@ -46,9 +50,104 @@ UBlueprint* FindBlueprintOfDefault(const UObject& Object)
 }
 }
 
+FLumObjectOwner::FLumObjectOwner(UObject& Object, const TSharedPtr<const FLumValuePlace>& InWithin)
+	: Within(InWithin)
+{
+	const FLumObjectOwner* const Outer = GetOuterOwner();
+	const UObject* const OuterObject = Outer ? Outer->GetObject() : nullptr;
+	const USCS_Node* const Node = OuterObject ? LumComponentTemplate::FindNode(Within->GetProperty(), OuterObject) : nullptr;
+	if (Node && LumComponentTemplate::IsInherited(*Node, *OuterObject))
+	{
+		WeakNode = Node;
+	}
+	bOfInherited = WeakNode.IsValid() || (Outer && Outer->bOfInherited);
+	if (!bOfInherited)
+	{
+		WeakObject = &Object;
+	}
+}
+
+FLumObjectOwner* FLumObjectOwner::GetOuterOwner() const
+{
+	return Within ? Within->GetOwner()->AsObjectOwner() : nullptr;
+}
+
+UBlueprintGeneratedClass* FLumObjectOwner::GetClassOfComponent() const
+{
+	const UObject* const DefaultObject = GetOuterOwner()->GetObject();
+	return DefaultObject ? Cast<UBlueprintGeneratedClass>(DefaultObject->GetClass()) : nullptr;
+}
+
+UObject* FLumObjectOwner::GetObject() const
+{
+	if (!bOfInherited)
+	{
+		return WeakObject.Get();
+	}
+	if (!GetOuterOwner()->bOfInherited)
+	{
+		const USCS_Node* const Node = WeakNode.Get();
+		UBlueprintGeneratedClass* const Class = GetClassOfComponent();
+		return Node && Class ? Node->GetActualComponentTemplate(Class) : nullptr;
+	}
+	const void* const Reference = Within->Resolve();
+	return Reference ? CastFieldChecked<FObjectPropertyBase>(&Within->GetProperty())->GetObjectPropertyValue(Reference) : nullptr;
+}
+
+UObject* FLumObjectOwner::GetReferrer() const
+{
+	// What will be written is this Blueprint's; what there is may be private to the parent's package.
+	return IsInherited() ? GetOuterOwner()->GetReferrer() : GetObject();
+}
+
+bool FLumObjectOwner::IsInherited() const
+{
+	if (!bOfInherited || GetOuterOwner()->bOfInherited)
+	{
+		return bOfInherited && GetOuterOwner()->IsInherited();
+	}
+	const UObject* const Template = GetObject();
+	const UBlueprintGeneratedClass* const Class = GetClassOfComponent();
+	return Template && Class && !Template->IsIn(Class);
+}
+
+TVexelExpected<void> FLumObjectOwner::TakeOver()
+{
+	if (!IsInherited())
+	{
+		return {};
+	}
+	if (GetOuterOwner()->bOfInherited)
+	{
+		return GetOuterOwner()->TakeOver();
+	}
+	const USCS_Node* const Node = WeakNode.Get();
+	UBlueprintGeneratedClass* const Class = GetClassOfComponent();
+	if (!Node || !Class || !LumComponentTemplate::Override(*Node, *Class))
+	{
+		return VEXEL_ERROR(FLumError_Import, "'%s' cannot be overridden", *Within->GetProperty().GetName());
+	}
+	return {};
+}
+
+void FLumObjectOwner::GiveBackIfSame()
+{
+	if (bOfInherited && GetOuterOwner()->bOfInherited)
+	{
+		GetOuterOwner()->GiveBackIfSame();
+		return;
+	}
+	const USCS_Node* const Node = WeakNode.Get();
+	UBlueprintGeneratedClass* const Class = Node ? GetClassOfComponent() : nullptr;
+	if (Class)
+	{
+		LumComponentTemplate::DropIfSame(*Node, *Class);
+	}
+}
+
 TVexelExpected<void> FLumObjectOwner::CheckWritable(const FLumValuePlace& Place) const
 {
-	const UObject* const Object = WeakObject.Get();
+	const UObject* const Object = GetObject();
 	if (!Object)
 	{
 		return VEXEL_ERROR(FLumError_Import, "Invalid object");
@@ -75,12 +174,11 @@ TVexelExpected<void> FLumObjectOwner::CheckWritable(const FLumValuePlace& Place)
 void FLumObjectOwner::ForEachObject(
 	TArray<FProperty*> Members, TFunctionRef<void(UObject& Object, const TArray<FProperty*>& Members)> Tell) const
 {
-	if (UObject* const Object = WeakObject.Get())
+	if (UObject* const Object = GetObject())
 	{
 		Tell(*Object, Members);
 	}
-	const FLumObjectOwner* const Outer = Within ? Within->GetOwner()->AsObjectOwner() : nullptr;
-	if (Outer)
+	if (const FLumObjectOwner* const Outer = GetOuterOwner())
 	{
 		TArray<FProperty*> OuterMembers;
 		Within->AppendMembers(OuterMembers);
@@ -89,22 +187,24 @@ void FLumObjectOwner::ForEachObject(
 	}
 }
 
-void FLumObjectOwner::OnBegin(const FChange& Change)
+TVexelExpected<void> FLumObjectOwner::OnBegin(const FChange& Change)
 {
+	VEXEL_TRY_VOID(TakeOver());
 	TArray<FProperty*> Members;
 	Change.Place.AppendMembers(Members);
 	ForEachObject(MoveTemp(Members), [](UObject& Object, const TArray<FProperty*>& ObjectMembers)
 		{ LumEditNotice::TellBefore(Object, ObjectMembers); });
 
-	const UObject* const Object = WeakObject.Get();
+	const UObject* const Object = GetObject();
 	const FLumValuePlace& Stable = Change.Place.GetStablePlace();
 	const void* const Value = Object && Object->IsTemplate() ? Stable.Resolve() : nullptr;
 	OldDefault = Value ? MakeUnique<FLumTemporaryValue>(Stable.GetProperty(), Value) : nullptr;
+	return {};
 }
 
 TVexelExpected<void> FLumObjectOwner::OnEnd(const FChange& Change)
 {
-	UObject* const Object = WeakObject.Get();
+	UObject* const Object = GetObject();
 	if (!Object)
 	{
 		return VEXEL_ERROR(FLumError_Import, "Invalid object");
@@ -122,5 +222,6 @@ TVexelExpected<void> FLumObjectOwner::OnEnd(const FChange& Change)
 	{
 		FBlueprintEditorUtils::MarkBlueprintAsModified(Blueprint);
 	}
+	GiveBackIfSame();
 	return {};
 }

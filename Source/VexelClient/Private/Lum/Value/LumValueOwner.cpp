@@ -20,12 +20,13 @@ TVexelExpected<void> ILumValueOwner::Change(
 	return Result.HasError() ? MoveTemp(Result) : MoveTemp(End);
 }
 
-void ILumValueOwner::BeginWrite()
+TVexelExpected<void> ILumValueOwner::BeginWrite()
 {
 	check(OpenChange);
 	if (!OpenChange->bHasBegun)
 	{
+		VEXEL_TRY_VOID(OnBegin(*OpenChange));
 		OpenChange->bHasBegun = true;
-		OnBegin(*OpenChange);
 	}
+	return {};
 }

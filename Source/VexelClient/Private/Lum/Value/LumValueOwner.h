@@ -17,10 +17,14 @@ public:
 
 	/** The memory that places begin from; null when the owner is gone. */
 	virtual void* GetMemory() const = 0;
-	/** The object on whose behalf values refer to others; null where there is none. */
+	/** The object that the values belong to; null where there is none. */
 	virtual UObject* GetObject() const = 0;
+	/** The object on whose behalf values refer to others; null where there is none. */
+	virtual UObject* GetReferrer() const { return GetObject(); }
 	/** This owner where it is an object, else null. */
-	virtual const FLumObjectOwner* AsObjectOwner() const { return nullptr; }
+	virtual FLumObjectOwner* AsObjectOwner() { return nullptr; }
+	/** Whether the values are those of another owner until the first write makes this one's of them. */
+	virtual bool IsInherited() const { return false; }
 	/** Whether the value there may be written, else why not. */
 	virtual TVexelExpected<void> CheckWritable(const FLumValuePlace& Place) const = 0;
 
@@ -30,8 +34,8 @@ public:
 	 */
 	TVexelExpected<void> Change(
 		const FLumValuePlace& Place, EPropertyChangeType::Type Type, TFunctionRef<TVexelExpected<void>()> Work);
-	/** To be called within Change before each write. */
-	void BeginWrite();
+	/** To be called within Change before each write. Nothing may be written where it fails. */
+	TVexelExpected<void> BeginWrite();
 
 protected:
 	/** A change that is under way. */
@@ -42,7 +46,7 @@ protected:
 		bool bHasBegun = false;
 	};
 
-	virtual void OnBegin(const FChange& Change) {}
+	virtual TVexelExpected<void> OnBegin(const FChange& Change) { return {}; }
 	/** Called after the last write, where there was one. */
 	virtual TVexelExpected<void> OnEnd(const FChange& Change) { return {}; }
 

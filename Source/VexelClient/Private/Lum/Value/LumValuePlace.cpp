@@ -79,12 +79,23 @@ TVexelExpected<void> FLumValuePlace::Write(TFunctionRef<void(void* Memory)> Appl
 				*GetNameSafe(Owner->GetObject()));
 		}
 		VEXEL_TRY_VOID(CheckStaysUnique(Apply));
-		Owner->BeginWrite();
+		if (Owner->IsInherited() && !WouldChange(Apply))
+		{
+			return {};
+		}
+		VEXEL_TRY_VOID(Owner->BeginWrite());
 		Apply(Resolve());
 		Rehash();
 		return {};
 	};
 	return Owner->Change(*this, EPropertyChangeType::ValueSet, WriteNow);
+}
+
+bool FLumValuePlace::WouldChange(TFunctionRef<void(void* Memory)> Apply) const
+{
+	const FLumTemporaryValue Copy(Property, Resolve());
+	Apply(Copy.Get());
+	return !Property.Identical(Copy.Get(), Resolve(), PPF_None);
 }
 
 TVexelExpected<void> FLumValuePlace::Assign(const void* NewValue) const

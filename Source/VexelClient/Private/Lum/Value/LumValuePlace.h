@@ -44,7 +44,8 @@ public:
 	void* ResolveIn(void* OwnerMemory) const;
 
 	/**
-	 * Changes the value: Apply is called with its memory, once the owner has agreed. Where an element of a set or a key of a map would
+	 * Changes the value: Apply is called with its memory, once the owner has agreed. A value that is inherited is not written where it would
+	 * stay what it is. Where an element of a set or a key of a map would
 	 * become equal to another one, the change is refused; to find out, Apply is called with copies first.
 	 */
 	TVexelExpected<void> Write(TFunctionRef<void(void* Memory)> Apply) const;
@@ -62,6 +63,7 @@ private:
 	void* ResolvePart(void* AboveMemory) const;
 	/** The memory of this value within that of Ancestor, which is this or a place above. */
 	void* ResolveBelow(const FLumValuePlace& Ancestor, void* AncestorMemory) const;
+	bool WouldChange(TFunctionRef<void(void* Memory)> Apply) const;
 	TVexelExpected<void> CheckStaysUnique(TFunctionRef<void(void* Memory)> Apply) const;
 	/** The internal index of an element or key that equals the value. */
 	int32 FindEqual(const void* Value) const;
