@@ -6,6 +6,7 @@
 #include "Editor.h"
 #include "Editor/EditorEngine.h"
 #include "Engine/BlueprintGeneratedClass.h"
+#include "Engine/InheritableComponentHandler.h"
 #include "Engine/SimpleConstructionScript.h"
 #include "GraphFixture.h"
 #include "K2Node_FunctionEntry.h"
@@ -366,6 +367,26 @@ TEST_F(BlueprintDiff, ComponentsAndClassDefaultsAreToldByTheirValues)
 						AActor* const Defaults = CastChecked<AActor>(Blueprint->GeneratedClass->GetDefaultObject());
 						Defaults->InitialLifeSpan = 3.0f; }),
 		ElementsAre("~ InitialLifeSpan:  > 3.000000"));
+}
+
+TEST_F(BlueprintDiff, AnInheritedComponentIsToldByWhatTheChildMakesOfIt)
+{
+	USimpleConstructionScript* const Script = Blueprint->SimpleConstructionScript;
+	USCS_Node* const Lamp = Script->CreateNode(USceneComponent::StaticClass(), TEXT("Lamp"));
+	Script->AddNode(Lamp);
+	CastChecked<USceneComponent>(Lamp->ComponentTemplate)->SetRelativeLocation(FVector(0.0, 0.0, 50.0));
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	const FString Name = Blueprint->GetName() + TEXT("_Child");
+	UBlueprint* const Parent = Blueprint;
+	Blueprint = FKismetEditorUtilities::CreateBlueprint(
+		Parent->GeneratedClass, CreatePackage(*(TEXT("/Game/") + Name)), FName(*Name), BPTYPE_Normal);
+	EXPECT_THAT(After([&]
+					{
+						UInheritableComponentHandler* const Handler = Blueprint->GetInheritableComponentHandler(true);
+						UActorComponent* const Template = Handler->CreateOverridenComponentTemplate(FComponentKey(Lamp));
+						CastChecked<USceneComponent>(Template)->SetRelativeLocation(FVector(0.0, 0.0, 9.0)); }),
+		ElementsAre("~ component Lamp; RelativeLocation: (X=0.000000,Y=0.000000,Z=50.000000) > (X=0.000000,Y=0.000000,Z=9.000000)"));
+	Blueprint = Parent;
 }
 
 TEST_F(BlueprintDiff, AnEventThatTheEditorOfferedComesWhenItIsLinked)

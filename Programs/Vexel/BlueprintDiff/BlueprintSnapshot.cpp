@@ -248,7 +248,8 @@ void TakeValues(const UObject& Object, const UObject& Archetype, const UClass& C
 	}
 }
 
-FMemberSnapshot TakeComponent(const USCS_Node& Node, const USCS_Node* Parent)
+/** @param Template What actors of the Blueprint have the component made from; may be null. */
+FMemberSnapshot TakeComponent(const USCS_Node& Node, const USCS_Node* Parent, const UActorComponent* Template)
 {
 	FMemberSnapshot Taken;
 	Taken.Id = Node.VariableGuid;
@@ -260,11 +261,35 @@ FMemberSnapshot TakeComponent(const USCS_Node& Node, const USCS_Node* Parent)
 		Parent ? Parent->GetVariableName().ToString() : InheritedParent.IsNone() ? FString()
 																				 : InheritedParent.ToString());
 	AddValue(Taken.Values, TEXT("socket"), Node.AttachToName.IsNone() ? FString() : Node.AttachToName.ToString());
-	if (const UActorComponent* const Template = Node.ComponentTemplate)
+	if (Template)
 	{
 		TakeValues(*Template, *Template->GetClass()->GetDefaultObject(), *Template->GetClass(), Taken.Values);
 	}
 	return Taken;
+}
+
+/** @param Class Whose actors have the components; null for that of the script itself. */
+void TakeComponents(const USimpleConstructionScript& Script, UBlueprintGeneratedClass* Class, TArray<FMemberSnapshot>& Members)
+{
+	for (USCS_Node* const Node : Script.GetAllNodes())
+	{
+		const UActorComponent* const Template = Class ? Node->GetActualComponentTemplate(Class) : Node->ComponentTemplate.Get();
+		Members.Add(TakeComponent(*Node, Script.FindParentNode(Node), Template));
+	}
+}
+
+/** The components of the Blueprint's parents, with the values that the Blueprint gives them. */
+void TakeInheritedComponents(const UBlueprint& Blueprint, TArray<FMemberSnapshot>& Members)
+{
+	TArray<const UBlueprintGeneratedClass*> Parents;
+	UBlueprintGeneratedClass::GetGeneratedClassesHierarchy(Blueprint.ParentClass.Get(), Parents);
+	for (const UBlueprintGeneratedClass* const Parent : Parents)
+	{
+		if (Parent->SimpleConstructionScript)
+		{
+			TakeComponents(*Parent->SimpleConstructionScript, Cast<UBlueprintGeneratedClass>(Blueprint.GeneratedClass.Get()), Members);
+		}
+	}
 }
 
 void TakeMembers(const UBlueprint& Blueprint, TArray<FMemberSnapshot>& Members)
@@ -275,13 +300,11 @@ void TakeMembers(const UBlueprint& Blueprint, TArray<FMemberSnapshot>& Members)
 	{
 		Members.Add(TakeVariable(Variable, Defaults));
 	}
-	if (const USimpleConstructionScript* const Script = Blueprint.SimpleConstructionScript)
+	if (Blueprint.SimpleConstructionScript)
 	{
-		for (USCS_Node* const Node : Script->GetAllNodes())
-		{
-			Members.Add(TakeComponent(*Node, Script->FindParentNode(Node)));
-		}
+		TakeComponents(*Blueprint.SimpleConstructionScript, nullptr, Members);
 	}
+	TakeInheritedComponents(Blueprint, Members);
 	for (const FBPInterfaceDescription& Interface : Blueprint.ImplementedInterfaces)
 	{
 		if (Interface.Interface)
