@@ -2,6 +2,7 @@
 
 #include "BlueprintEditorLibrary.h"
 #include "Engine/World.h"
+#include "UObject/UnrealType.h"
 
 namespace
 {
@@ -169,6 +170,23 @@ TEST_F(FInheritedComponents, AnotherParentEndsTheOverridesOfTheFormerOne)
 	UBlueprintEditorLibrary::ReparentBlueprint(Child, AActor::StaticClass());
 	FKismetEditorUtilities::CompileBlueprint(Child);
 	EXPECT_TRUE(Child->InheritableComponentHandler->IsEmpty());
+}
+
+TEST_F(FInheritedComponents, ARecordThatNamesAnothersTemplateIsNone)
+{
+	UInheritableComponentHandler* const Handler = Child->GetInheritableComponentHandler(true);
+	const FProperty* const Records = FindFProperty<FProperty>(Handler->GetClass(), TEXT("Records"));
+	const FString Text = FString::Printf(
+		TEXT("((ComponentTemplate=\"%s\",ComponentKey=(OwnerClass=\"%s\",SCSVariableName=\"Lamp\",AssociatedGuid=%s)),())"),
+		*Lamp->ComponentTemplate->GetPathName(), *Blueprint->GeneratedClass->GetPathName(), *Lamp->VariableGuid.ToString());
+	ASSERT_NE(Records->ImportText_InContainer(*Text, Handler, Handler, PPF_None), nullptr);
+	ASSERT_EQ(NumOverrides(Child), 2);
+	EXPECT_EQ(Handler->GetOverridenComponentTemplate(FComponentKey(Lamp)), nullptr);
+	FKismetEditorUtilities::CompileBlueprint(Child);
+	EXPECT_EQ(NumOverrides(Child), 0);
+	EXPECT_EQ(Lamp->ComponentTemplate->GetOuter(), Blueprint->GeneratedClass.Get()) << "it stays the parent's";
+	SetLocation(Override(Child, Lamp), FVector(1, 2, 3));
+	EXPECT_EQ(Locate(Blueprint, Lamp), FVector(10, 20, 30));
 }
 
 TEST_F(FInheritedComponents, APlacedActorKeepsAValueOfItsOwnThatIsTheGrandparents)

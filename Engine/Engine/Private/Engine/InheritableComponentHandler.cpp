@@ -15,18 +15,6 @@ const FString UInheritableComponentHandler::SCSDefaultSceneRootOverrideNamePrefi
 
 namespace
 {
-bool IsIdentical(const FProperty& Property, const UObject& Object, const UObject& Other)
-{
-	for (int32 Index = 0; Index < Property.ArrayDim; ++Index)
-	{
-		if (!Property.Identical_InContainer(&Object, &Other, Index, PPF_DeepComparison))
-		{
-			return false;
-		}
-	}
-	return true;
-}
-
 /** Gives an object that was read with the values of its class for defaults those of its archetype instead. */
 void InheritDefaults(UObject& Object)
 {
@@ -34,9 +22,13 @@ void InheritDefaults(UObject& Object)
 	const UObject& ClassDefaults = *Object.GetClass()->GetDefaultObject();
 	for (TFieldIterator<FProperty> It(Object.GetClass()); It; ++It)
 	{
-		if (!It->ContainsInstancedObjectProperty() && IsIdentical(**It, Object, ClassDefaults))
+		for (int32 Index = 0; Index < It->ArrayDim && !It->ContainsInstancedObjectProperty(); ++Index)
 		{
-			It->CopyCompleteValue_InContainer(&Object, &Archetype);
+			if (It->Identical_InContainer(&Object, &ClassDefaults, Index, PPF_DeepComparison))
+			{
+				It->CopySingleValue(
+					It->ContainerPtrToValuePtr<void>(&Object, Index), It->ContainerPtrToValuePtr<void>(&Archetype, Index));
+			}
 		}
 	}
 }
@@ -87,10 +79,15 @@ FComponentOverrideRecord* UInheritableComponentHandler::FindRecord(const FCompon
 		{ return Record.ComponentKey.Match(Key); });
 }
 
+bool UInheritableComponentHandler::HasOwnTemplate(const FComponentOverrideRecord& Record) const
+{
+	return Record.ComponentTemplate && Record.ComponentTemplate->IsIn(GetOuter());
+}
+
 UActorComponent* UInheritableComponentHandler::GetOverridenComponentTemplate(const FComponentKey& InKey) const
 {
 	const FComponentOverrideRecord* const Found = const_cast<UInheritableComponentHandler*>(this)->FindRecord(InKey);
-	return Found ? Found->ComponentTemplate.Get() : nullptr;
+	return Found && HasOwnTemplate(*Found) ? Found->ComponentTemplate.Get() : nullptr;
 }
 
 FName UInheritableComponentHandler::MakeTemplateName(const USCS_Node& Node)
@@ -106,15 +103,15 @@ UActorComponent* UInheritableComponentHandler::CreateOverridenComponentTemplate(
 	{
 		return Existing;
 	}
-	UBlueprintGeneratedClass* const Class = CastChecked<UBlueprintGeneratedClass>(GetOuter());
-	UBlueprintGeneratedClass* const Super = Cast<UBlueprintGeneratedClass>(Class->GetSuperClass());
+	UBlueprintGeneratedClass* const Class = Cast<UBlueprintGeneratedClass>(GetOuter());
+	UBlueprintGeneratedClass* const Super = Class ? Cast<UBlueprintGeneratedClass>(Class->GetSuperClass()) : nullptr;
 	const USCS_Node* const Node = Key.FindSCSNode();
 	UActorComponent* const Archetype = Node && Super && Super->IsChildOf(Key.GetComponentOwner())
 		? Node->GetActualComponentTemplate(Super)
 		: nullptr;
 	if (!Archetype)
 	{
-		UE_LOG(LogInheritableComponents, Warning, TEXT("%s inherits no component %s of %s"), *Class->GetName(),
+		UE_LOG(LogInheritableComponents, Warning, TEXT("%s inherits no component %s of %s"), *GetNameSafe(Class),
 			*Key.GetSCSVariableName().ToString(), *GetNameSafe(Key.GetComponentOwner()));
 		return nullptr;
 	}
@@ -156,9 +153,9 @@ void UInheritableComponentHandler::RemoveOverridenComponentTemplate(const FCompo
 		return;
 	}
 	Remember();
-	if (UActorComponent* const Template = Record->ComponentTemplate)
+	if (HasOwnTemplate(*Record))
 	{
-		MoveAway(*Template);
+		MoveAway(*Record->ComponentTemplate);
 	}
 	Records.RemoveAt(static_cast<int32>(Record - Records.GetData()));
 }
@@ -200,9 +197,14 @@ void UInheritableComponentHandler::UpdateOwnerClass(UBlueprintGeneratedClass* Ow
 
 bool UInheritableComponentHandler::IsRecordValid(const FComponentOverrideRecord& Record) const
 {
+	return HasOwnTemplate(Record) && HasOriginal(Record);
+}
+
+bool UInheritableComponentHandler::HasOriginal(const FComponentOverrideRecord& Record) const
+{
 	const UClass* const Owner = Record.ComponentKey.GetComponentOwner();
-	const UClass* const Class = GetTypedOuter<UClass>();
-	if (!Record.ComponentTemplate || !Record.ComponentKey.IsValid() || Class == Owner || !Class->IsChildOf(Owner))
+	const UClass* const Class = Cast<UClass>(GetOuter());
+	if (!Class || !Record.ComponentKey.IsValid() || Class == Owner || !Class->IsChildOf(Owner))
 	{
 		return false;
 	}
@@ -252,7 +254,7 @@ void UInheritableComponentHandler::ValidateTemplates()
 			*Record.ComponentKey.GetSCSVariableName().ToString(), *GetNameSafe(Record.ComponentKey.GetComponentOwner()));
 		Remember();
 		Records.RemoveAt(Index);
-		if (Record.ComponentTemplate)
+		if (HasOwnTemplate(Record))
 		{
 			MoveAway(*Record.ComponentTemplate);
 			ObsoleteRecords.Add(Record);
@@ -267,7 +269,7 @@ void UInheritableComponentHandler::ReclaimTemplates()
 		const FComponentOverrideRecord Record = ObsoleteRecords[Index];
 		const USCS_Node* const Node = Record.ComponentKey.FindSCSNode();
 		const FName Name = Node ? MakeTemplateName(*Node) : FName();
-		if (Node && IsRecordValid(Record) && !FindRecord(Record.ComponentKey) && !StaticFindObjectFast(nullptr, GetOuter(), Name))
+		if (Node && HasOriginal(Record) && !FindRecord(Record.ComponentKey) && !StaticFindObjectFast(nullptr, GetOuter(), Name))
 		{
 			Record.ComponentTemplate->Rename(*Name.ToString(), GetOuter(), REN_DontCreateRedirectors | REN_NonTransactional);
 			Records.Add(Record);

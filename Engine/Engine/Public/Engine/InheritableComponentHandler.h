@@ -111,6 +111,10 @@ private:
 
 	FComponentOverrideRecord* FindRecord(const FComponentKey& Key);
 	bool IsRecordValid(const FComponentOverrideRecord& Record) const;
+	/** Whether the template is of the handler's class: a damaged file may name another's. */
+	bool HasOwnTemplate(const FComponentOverrideRecord& Record) const;
+	/** Whether a parent has the component that the record's template, which must be there, is for. */
+	bool HasOriginal(const FComponentOverrideRecord& Record) const;
 	static FName MakeTemplateName(const USCS_Node& Node);
 	/** For undo. */
 	void Remember();
