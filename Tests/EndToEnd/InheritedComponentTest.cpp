@@ -66,6 +66,11 @@ TEST_F(InheritedComponent, IsSetForTheChildAndThoseBelowItAlone)
 	const std::string StreetLampFile = ReadFile("BP_StreetLamp");
 	ExpectOneClearLine(Try({"set", std::string("BP_StreetLamp") + Intensity, "bright", "--save"}), 1, "Failed to import text");
 	EXPECT_EQ(ReadFile("BP_StreetLamp"), StreetLampFile);
+
+	// With the parent's value it follows the parent again.
+	Run({"set", std::string("BP_StreetLamp") + Intensity, "900", "--save"});
+	Run({"set", std::string("BP_Lamp") + Intensity, "700", "--save"});
+	EXPECT_EQ(Get("BP_OldStreetLamp"), "700.000000");
 }
 
 TEST_F(InheritedComponent, IsSetByASentenceThatUndoTakesBack)

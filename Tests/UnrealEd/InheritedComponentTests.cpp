@@ -172,6 +172,23 @@ TEST_F(FInheritedComponents, AnotherParentEndsTheOverridesOfTheFormerOne)
 	EXPECT_TRUE(Child->InheritableComponentHandler->IsEmpty());
 }
 
+TEST_F(FInheritedComponents, ARecordThatMakesNoDifferenceOutlivesACompileButNoValidation)
+{
+	UActorComponent* const Template = Override(Child, Lamp);
+	FKismetEditorUtilities::CompileBlueprint(Child);
+	EXPECT_EQ(Lamp->GetActualComponentTemplate(ClassOf(Child)), Template);
+	const USCS_Node* const Arm = AddComponent(Blueprint, TEXT("Arm"));
+	SetLocation(Override(Child, Arm), FVector(1, 2, 3));
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Validate")));
+		Child->InheritableComponentHandler->ValidateTemplates();
+	}
+	EXPECT_EQ(Lamp->GetActualComponentTemplate(ClassOf(Child)), Lamp->ComponentTemplate);
+	EXPECT_EQ(Locate(Child, Arm), FVector(1, 2, 3));
+	EXPECT_TRUE(Undo());
+	EXPECT_EQ(Lamp->GetActualComponentTemplate(ClassOf(Child)), Template);
+}
+
 TEST_F(FInheritedComponents, ARecordThatNamesAnothersTemplateIsNone)
 {
 	UInheritableComponentHandler* const Handler = Child->GetInheritableComponentHandler(true);

@@ -7,6 +7,8 @@
 #include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
+#include "UObject/UnknownProperties.h"
 #include "UObject/UnrealType.h"
 
 DEFINE_LOG_CATEGORY_STATIC(LogInheritableComponents, Log, All);
@@ -116,7 +118,7 @@ UActorComponent* UInheritableComponentHandler::CreateOverridenComponentTemplate(
 		return nullptr;
 	}
 	// A component that is gone may have left an override of this name.
-	ValidateTemplates();
+	FollowParents();
 	const FName Name = MakeTemplateName(*Node);
 	if (const UObject* const InTheWay = StaticFindObjectFast(nullptr, Class, Name))
 	{
@@ -235,7 +237,46 @@ void UInheritableComponentHandler::FollowRename(const FComponentKey& OldKey, con
 	}
 }
 
+bool UInheritableComponentHandler::IsRecordNecessary(const FComponentOverrideRecord& Record)
+{
+	const UActorComponent& Template = *Record.ComponentTemplate;
+	TArray<UObject*> Parts;
+	GetObjectsWithOuter(&Template, Parts);
+	const bool bHasUnknown = FUnknownProperties::HasAny(&Template) ||
+		Parts.ContainsByPredicate([](const UObject* Part)
+			{ return FUnknownProperties::HasAny(Part); });
+	if (bHasUnknown)
+	{
+		return true;
+	}
+	const UObject* const Archetype = Template.GetArchetype();
+	for (TFieldIterator<FProperty> It(Template.GetClass()); It; ++It)
+	{
+		for (int32 Index = 0; Index < It->ArrayDim; ++Index)
+		{
+			if (!It->Identical_InContainer(&Template, Archetype, Index, PPF_DeepComparison))
+			{
+				return true;
+			}
+		}
+	}
+	return false;
+}
+
 void UInheritableComponentHandler::ValidateTemplates()
+{
+	FollowParents();
+	for (const FComponentOverrideRecord& Record : TArray<FComponentOverrideRecord>(Records))
+	{
+		// Another template than that of a node's may have an archetype that is not here.
+		if (Record.ComponentKey.FindSCSNode() && !IsRecordNecessary(Record))
+		{
+			RemoveOverridenComponentTemplate(Record.ComponentKey);
+		}
+	}
+}
+
+void UInheritableComponentHandler::FollowParents()
 {
 	for (int32 Index = Records.Num() - 1; Index >= 0; --Index)
 	{

@@ -95,11 +95,13 @@ public:
 
 	/** Gives the class templates of its own where the records have another's, as those of a copy do. */
 	void UpdateOwnerClass(UBlueprintGeneratedClass* OwnerClass);
+	/** Removes the records that name no component of a parent's, and those that make no difference. */
+	void ValidateTemplates();
 	/**
 	 * Brings the records to what the parents have now: keys and templates take new names, and records of components that are gone are
-	 * put aside. A record that makes no difference stays, since an undo may bring the difference back.
+	 * put aside. For a compile, which is no edit: a record that makes no difference stays, since an undo may bring the difference back.
 	 */
-	void ValidateTemplates();
+	void FollowParents();
 	/** Takes back what was put aside and is an override again, because an undo brought its component back. */
 	void ReclaimTemplates();
 
@@ -111,6 +113,8 @@ private:
 
 	FComponentOverrideRecord* FindRecord(const FComponentKey& Key);
 	bool IsRecordValid(const FComponentOverrideRecord& Record) const;
+	/** Whether something of the template is not its archetype's. */
+	static bool IsRecordNecessary(const FComponentOverrideRecord& Record);
 	/** Whether the template is of the handler's class: a damaged file may name another's. */
 	bool HasOwnTemplate(const FComponentOverrideRecord& Record) const;
 	/** Whether a parent has the component that the record's template, which must be there, is for. */

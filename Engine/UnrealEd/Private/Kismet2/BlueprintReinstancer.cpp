@@ -214,7 +214,7 @@ void FBlueprintCompileReinstancer::BuildClass(FRebuiltClass& Rebuilt, TArray<FSt
 	Class.InheritableComponentHandler = Blueprint.InheritableComponentHandler;
 	if (Class.InheritableComponentHandler && Blueprint.GeneratedClass.Get() == &Class)
 	{
-		Class.InheritableComponentHandler->ValidateTemplates();
+		Class.InheritableComponentHandler->FollowParents();
 	}
 }
 

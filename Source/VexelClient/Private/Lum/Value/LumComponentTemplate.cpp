@@ -8,24 +8,6 @@
 #include "Engine/SimpleConstructionScript.h"
 #include "UObject/UnrealType.h"
 
-namespace
-{
-bool IsSame(const UObject& Object, const UObject& Archetype)
-{
-	for (TFieldIterator<FProperty> It(Object.GetClass()); It; ++It)
-	{
-		for (int32 Index = 0; Index < It->ArrayDim; ++Index)
-		{
-			if (!It->Identical_InContainer(&Object, &Archetype, Index, PPF_DeepComparison))
-			{
-				return false;
-			}
-		}
-	}
-	return true;
-}
-}
-
 const USCS_Node* LumComponentTemplate::FindNode(const FProperty& Property, const UObject* Object)
 {
 	const bool bMayBeComponent = Object && Property.HasAnyPropertyFlags(CPF_InstancedReference) &&
@@ -61,15 +43,12 @@ UObject* LumComponentTemplate::Override(const USCS_Node& Node, UBlueprintGenerat
 	return Handler->CreateOverridenComponentTemplate(FComponentKey(&Node));
 }
 
-void LumComponentTemplate::DropIfSame(const USCS_Node& Node, UBlueprintGeneratedClass& Class)
+void LumComponentTemplate::DropNeedless(UBlueprintGeneratedClass& Class)
 {
-	const FComponentKey Key(&Node);
-	UInheritableComponentHandler* const Handler = Class.GetInheritableComponentHandler();
-	const UActorComponent* const Template = Handler ? Handler->GetOverridenComponentTemplate(Key) : nullptr;
-	if (Template && IsSame(*Template, *Template->GetArchetype()))
+	if (UInheritableComponentHandler* const Handler = Class.GetInheritableComponentHandler())
 	{
 		Handler->Modify();
-		Handler->RemoveOverridenComponentTemplate(Key);
+		Handler->ValidateTemplates();
 	}
 }
 

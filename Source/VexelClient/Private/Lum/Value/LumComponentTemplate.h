@@ -21,8 +21,8 @@ bool IsInherited(const USCS_Node& Node, const UObject& Object);
 
 /** The class's own template of an inherited component, as a copy of the parent's where it has none yet. Null where it cannot have one. */
 UObject* Override(const USCS_Node& Node, UBlueprintGeneratedClass& Class);
-/** Gives the class's own template up where nothing in it differs from the parent's. */
-void DropIfSame(const USCS_Node& Node, UBlueprintGeneratedClass& Class);
+/** Gives up those of the class's own templates of inherited components in which nothing differs from the parent's. */
+void DropNeedless(UBlueprintGeneratedClass& Class);
 
 /** What the object's values count as changed against: its archetype, but for parts of a Blueprint's components none of a Blueprint. */
 const UObject* GetDefaults(const UObject& Object);

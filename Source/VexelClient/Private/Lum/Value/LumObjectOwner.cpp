@@ -137,11 +137,10 @@ void FLumObjectOwner::GiveBackIfSame()
 		GetOuterOwner()->GiveBackIfSame();
 		return;
 	}
-	const USCS_Node* const Node = WeakNode.Get();
-	UBlueprintGeneratedClass* const Class = Node ? GetClassOfComponent() : nullptr;
+	UBlueprintGeneratedClass* const Class = bOfInherited ? GetClassOfComponent() : nullptr;
 	if (Class)
 	{
-		LumComponentTemplate::DropIfSame(*Node, *Class);
+		LumComponentTemplate::DropNeedless(*Class);
 	}
 }
 
