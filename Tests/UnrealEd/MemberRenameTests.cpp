@@ -2,12 +2,17 @@
 #include "EdGraph/EdGraphNode.h"
 #include "EdGraph/EdGraphPin.h"
 #include "K2Node_CallDelegate.h"
+#include "K2Node_ComponentBoundEvent.h"
 #include "K2Node_CreateDelegate.h"
 #include "K2Node_CustomEvent.h"
 #include "K2Node_FunctionEntry.h"
+#include "K2Node_FunctionResult.h"
+#include "K2Node_GetClassDefaults.h"
+#include "K2Node_SpawnActorFromClass.h"
 #include "K2Node_VariableGet.h"
 #include "K2Node_VariableSet.h"
 #include "Kismet2/Kismet2NameValidators.h"
+#include "UObject/Interface.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -88,6 +93,58 @@ TEST_F(FMemberRenameTest, UsesOfAVariableFollowInEveryLoadedBlueprint)
 		EXPECT_EQ(Node->GetVarName(), FName(TEXT("Health")));
 		EXPECT_NE(Node->FindPin(TEXT("Health")), nullptr);
 	}
+}
+
+TEST_F(FMemberRenameTest, PinsAndEventsThatBearAVariablesNameFollow)
+{
+	FBlueprintEditorUtils::AddMemberVariable(Blueprint, TEXT("Health"), MakeType(UEdGraphSchema_K2::PC_Int));
+	FBlueprintEditorUtils::SetBlueprintOnlyEditableFlag(Blueprint, TEXT("Health"), false);
+	FBlueprintEditorUtils::SetBlueprintVariableMetaData(
+		Blueprint, TEXT("Health"), nullptr, FBlueprintMetadata::MD_ExposeOnSpawn, TEXT("true"));
+	AddDispatcher(Blueprint, TEXT("OnHurt"));
+	FKismetEditorUtilities::CompileBlueprint(Blueprint);
+	UBlueprint* const Stranger = MakeBlueprint(TEXT("BP_Stranger"));
+	UEdGraph* const Page = FBlueprintEditorUtils::FindEventGraph(Stranger);
+	const auto NameClass = [this](UEdGraphNode& Node)
+	{ Node.GetSchema()->TrySetDefaultObject(*Node.FindPin(TEXT("Class")), Blueprint->GeneratedClass.Get()); };
+	UK2Node_SpawnActorFromClass* const Spawn = AddNode<UK2Node_SpawnActorFromClass>(Page);
+	NameClass(*Spawn);
+	ASSERT_NE(Spawn->FindPin(TEXT("Health")), nullptr);
+	Spawn->FindPin(TEXT("Health"))->DefaultValue = TEXT("12");
+	UK2Node_GetClassDefaults* const Defaults = AddNode<UK2Node_GetClassDefaults>(Page);
+	NameClass(*Defaults);
+	ASSERT_NE(Defaults->FindPin(TEXT("Health")), nullptr);
+	Defaults->FindPin(TEXT("Health"))->MakeLinkTo(Spawn->FindPin(TEXT("Health")));
+	UK2Node_ComponentBoundEvent* const Bound = AddNode<UK2Node_ComponentBoundEvent>(Page,
+		[this](UK2Node_ComponentBoundEvent& Node)
+		{
+			Node.DelegatePropertyName = TEXT("OnHurt");
+			Node.DelegateOwnerClass = Blueprint->GeneratedClass.Get(); });
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Rename")));
+		FBlueprintEditorUtils::RenameMemberVariable(Blueprint, TEXT("Health"), TEXT("Life"));
+		FBlueprintEditorUtils::RenameMemberVariable(Blueprint, TEXT("OnHurt"), TEXT("OnWounded"));
+	}
+	// Before the Blueprint is compiled and after it.
+	for (const bool bCompiled : {false, true})
+	{
+		if (bCompiled)
+		{
+			FKismetEditorUtilities::CompileBlueprint(Blueprint);
+		}
+		Spawn->ReconstructNode();
+		Defaults->ReconstructNode();
+		ASSERT_NE(Spawn->FindPin(TEXT("Life")), nullptr) << bCompiled;
+		EXPECT_EQ(Spawn->FindPin(TEXT("Life"))->DefaultValue, TEXT("12"));
+		EXPECT_EQ(Spawn->FindPin(TEXT("Life"))->LinkedTo.Num(), 1);
+		EXPECT_EQ(Spawn->FindPin(TEXT("Health")), nullptr);
+		EXPECT_EQ(Defaults->FindPin(TEXT("Health")), nullptr);
+		EXPECT_EQ(Bound->DelegatePropertyName, FName(TEXT("OnWounded")));
+	}
+	Undo();
+	EXPECT_NE(Spawn->FindPin(TEXT("Health")), nullptr);
+	EXPECT_EQ(Defaults->FindPin(TEXT("Health"))->LinkedTo.Num(), 1);
+	EXPECT_EQ(Bound->DelegatePropertyName, FName(TEXT("OnHurt")));
 }
 
 TEST_F(FMemberRenameTest, ATakenNameChangesNothing)
@@ -175,6 +232,38 @@ TEST_F(FMemberRenameTest, UsesOfAFunctionFollow)
 	EXPECT_EQ(Override->GetName(), TEXT("Open"));
 	EXPECT_EQ(Delegate->GetFunctionName(), FName(TEXT("Open")));
 	EXPECT_NE(Own->GetTargetFunction(), nullptr);
+}
+
+TEST_F(FMemberRenameTest, ImplementationsOfAnInterfacesFunctionFollow)
+{
+	UBlueprint* const Interface = MakeBlueprint(TEXT("BPI_Openable"), UInterface::StaticClass(), BPTYPE_Interface);
+	UEdGraph* const Declared = AddFunction(Interface, TEXT("Open"));
+	// With a result it is no event.
+	FBlueprintEditorUtils::FindOrCreateFunctionResultNode(FBlueprintEditorUtils::GetEntryNode(Declared))
+		->CreateUserDefinedPin(TEXT("bOpened"), MakeType(UEdGraphSchema_K2::PC_Boolean), EGPD_Input);
+	FKismetEditorUtilities::CompileBlueprint(Interface);
+	ASSERT_TRUE(FBlueprintEditorUtils::ImplementNewInterface(Blueprint, Interface->GeneratedClass->GetClassPathName()));
+	const auto Graphs = [this]() -> const TArray<TObjectPtr<UEdGraph>>&
+	{ return Blueprint->ImplementedInterfaces[0].Graphs; };
+	ASSERT_EQ(Graphs().Num(), 1);
+	const UEdGraph* const Implementation = Graphs()[0];
+	const int32 NumFunctions = Blueprint->FunctionGraphs.Num();
+	{
+		const FScopedTransaction Transaction(Title(TEXT("Rename")));
+		ASSERT_TRUE(FBlueprintEditorUtils::RenameGraph(Declared, TEXT("Unlock")));
+	}
+	// Whichever of the two is compiled first.
+	for (UBlueprint* const Compiled : {Blueprint, Interface, Blueprint})
+	{
+		FKismetEditorUtilities::CompileBlueprint(Compiled);
+		ASSERT_EQ(Graphs().Num(), 1);
+		EXPECT_EQ(Graphs()[0], Implementation) << "with what stands in it";
+		EXPECT_EQ(Implementation->GetName(), TEXT("Unlock"));
+		EXPECT_EQ(Blueprint->FunctionGraphs.Num(), NumFunctions) << "none is left behind under the old name";
+	}
+	Undo();
+	EXPECT_EQ(Implementation->GetName(), TEXT("Open"));
+	EXPECT_EQ(Graphs()[0], Implementation);
 }
 
 TEST_F(FMemberRenameTest, CallsOfACustomEventFollow)

@@ -5,6 +5,7 @@
 #include "Engine/Blueprint.h"
 #include "Engine/UserDefinedStruct.h"
 #include "UObject/Class.h"
+#include "UObject/Package.h"
 #include "UObject/PlaceholderObject.h"
 #include "UObject/PropertyPortFlags.h"
 #include "UObject/UnrealType.h"
@@ -292,7 +293,7 @@ void UK2Node::RenamePins(const TArray<UEdGraphPin*>& InPins, TFunctionRef<FName(
 		UEdGraphPin* const Pin = InPins[Index];
 		const FString OldName = Pin->PinName.ToString();
 		const FName NewName = GetName(Index);
-		if (NewName == Pin->PinName)
+		if (NewName.IsEqual(Pin->PinName, ENameCase::CaseSensitive))
 		{
 			continue;
 		}
@@ -346,6 +347,15 @@ void UK2Node::NotifyPinConnectionListChanged(UEdGraphPin* Pin)
 	{
 		FollowLinkedType(Shared, TakesLinkedContainer());
 	}
+}
+
+void UK2Node::PostLoad()
+{
+	Super::PostLoad();
+	UPackage* const Package = GetPackage();
+	const bool bWasDirty = Package->IsDirty();
+	FollowRenames();
+	Package->SetDirtyFlag(bWasDirty);
 }
 
 // Reconstruction

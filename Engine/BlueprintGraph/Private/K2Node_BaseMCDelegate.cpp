@@ -42,6 +42,26 @@ void UK2Node_BaseMCDelegate::AllocateDefaultPins()
 			: DelegateReference.GetMemberParentClass(GetBlueprintClassFromNode()));
 }
 
+void UK2Node_BaseMCDelegate::FollowRenames()
+{
+	const FName SavedName = GetPropertyName();
+	const UFunction* const Signature = DelegateReference.GetMemberGuid().IsValid() ? GetDelegateSignature() : nullptr;
+	UEdGraphPin* const Pin = Signature && GetPropertyName() != SavedName ? GetDelegatePin() : nullptr;
+	if (!Pin)
+	{
+		return;
+	}
+	const FSimpleMemberReference Saved = Pin->PinType.PinSubCategoryMemberReference;
+	FSimpleMemberReference Now;
+	FMemberReference::FillSimpleMemberReference<UFunction>(Signature, Now);
+	Pin->PinType.PinSubCategoryMemberReference = Now;
+	for (UEdGraphPin* const Event : Pin->LinkedTo)
+	{
+		FSimpleMemberReference& Reference = Event->PinType.PinSubCategoryMemberReference;
+		Reference = Reference == Saved ? Now : Reference;
+	}
+}
+
 void UK2Node_BaseMCDelegate::CreateDelegatePin()
 {
 	UEdGraphPin* const Pin = CreatePin(EGPD_Input, UEdGraphSchema_K2::PC_Delegate, UEdGraphSchema_K2::PN_Delegate);

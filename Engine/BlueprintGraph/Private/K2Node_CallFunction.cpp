@@ -163,6 +163,14 @@ TSet<FName> UK2Node_CallFunction::GetHiddenParameters(const UFunction* Function,
 	return Hidden;
 }
 
+void UK2Node_CallFunction::FollowRenames()
+{
+	if (FunctionReference.GetMemberGuid().IsValid())
+	{
+		(void)GetTargetFunction();
+	}
+}
+
 void UK2Node_CallFunction::AllocateDefaultPins()
 {
 	const UFunction* const Function = GetTargetFunction();

@@ -1,5 +1,6 @@
 #include "K2Node_CreateDelegate.h"
 
+#include "Engine/Blueprint.h"
 #include "UObject/Class.h"
 
 #define LOCTEXT_NAMESPACE "K2Node"
@@ -12,12 +13,30 @@ void UK2Node_CreateDelegate::AllocateDefaultPins()
 		"CreateDelegate_DelegateOutName", "Event");
 }
 
+void UK2Node_CreateDelegate::SetFunction(FName Name)
+{
+	SelectedFunctionName = Name;
+	SelectedFunctionGuid.Invalidate();
+	UBlueprint::GetFunctionGuidFromClassByFieldName(GetScopeClass(), Name, SelectedFunctionGuid);
+}
+
 void UK2Node_CreateDelegate::ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins)
 {
 	AllocateDefaultPins();
 	if (const UEdGraphPin* const Old = FindOldPin(OldPins, GetDelegateOutPin()->PinName, EGPD_Output))
 	{
 		GetDelegateOutPin()->PinType = Old->PinType;
+	}
+}
+
+void UK2Node_CreateDelegate::FollowRenames()
+{
+	const FName CurrentName = SelectedFunctionGuid.IsValid()
+		? UBlueprint::GetFunctionNameFromClassByGuid(GetScopeClass(), SelectedFunctionGuid)
+		: NAME_None;
+	if (!CurrentName.IsNone())
+	{
+		SelectedFunctionName = CurrentName;
 	}
 }
 

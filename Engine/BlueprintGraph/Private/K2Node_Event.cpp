@@ -97,6 +97,14 @@ void UK2Node_Event::PostPasteNode()
 	}
 }
 
+void UK2Node_Event::FollowRenames()
+{
+	if (EventReference.GetMemberGuid().IsValid())
+	{
+		(void)FindEventSignatureFunction();
+	}
+}
+
 void UK2Node_Event::AllocateDefaultPins()
 {
 	CreatePin(EGPD_Output, UEdGraphSchema_K2::PC_Delegate, DelegateOutputName);

@@ -1,5 +1,6 @@
 #include "K2Node_GetClassDefaults.h"
 
+#include "Engine/MemberReference.h"
 #include "UObject/Class.h"
 #include "UObject/UnrealType.h"
 
@@ -33,9 +34,10 @@ void UK2Node_GetClassDefaults::ReallocatePinsDuringReconstruction(TArray<UEdGrap
 	UClass* const Class = GetClassOfPin(FindOldPin(OldPins, FindClassPin()->PinName, EGPD_Input));
 	if (Class)
 	{
+		UClass* const Declared = FMemberReference::GetNewestClass(Class);
 		FClassDefaultsPins Manager;
-		Manager.RebuildPropertyList(ShowPinForProperties, Class);
-		Manager.CreateVisiblePins(ShowPinForProperties, Class, EGPD_Output, this);
+		Manager.RebuildPropertyList(ShowPinForProperties, Declared);
+		Manager.CreateVisiblePins(ShowPinForProperties, Declared, EGPD_Output, this);
 	}
 }
 

@@ -91,6 +91,25 @@ UEdGraphPin* UK2Node_Variable::CreatePinForVariable(EEdGraphPinDirection Directi
 	return Pin;
 }
 
+void UK2Node_Variable::FollowRenames()
+{
+	const FName SavedName = GetVarName();
+	const bool bMayBeRenamed = VariableReference.GetMemberGuid().IsValid() && !VariableReference.IsLocalScope();
+	if (bMayBeRenamed && (GetPropertyForVariable(), GetVarName() != SavedName))
+	{
+		RenameUserDefinedPin(SavedName, GetVarName());
+	}
+}
+
+UK2Node::ERedirectType UK2Node_Variable::DoPinsMatchForReconstruction(
+	const UEdGraphPin* NewPin, int32 NewPinIndex, const UEdGraphPin* OldPin, int32 OldPinIndex) const
+{
+	const ERedirectType Type = Super::DoPinsMatchForReconstruction(NewPin, NewPinIndex, OldPin, OldPinIndex);
+	const bool bIsValue = NewPin->PinName == GetVarName() && NewPin->Direction == OldPin->Direction &&
+		!UEdGraphSchema_K2::IsExecPin(*OldPin) && OldPin->PinName != UEdGraphSchema_K2::PN_Self && !OldPin->bOrphanedPin;
+	return Type == ERedirectType_None && bIsValue ? ERedirectType_Name : Type;
+}
+
 void UK2Node_Variable::CreatePinForSelf()
 {
 	if (VariableReference.IsLocalScope() || FindPin(UEdGraphSchema_K2::PN_Self))

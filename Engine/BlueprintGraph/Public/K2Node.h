@@ -123,6 +123,7 @@ public:
 	/** Unless a class says otherwise, it offers a node as it is made. */
 	virtual void GetMenuActions(class FBlueprintActionDatabaseRegistrar& ActionRegistrar) const override;
 
+	virtual void PostLoad() override;
 	/** Makes the pins anew; OldPins are those of before, still with their links. */
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins);
 	virtual void PostReconstructNode() {}
@@ -211,6 +212,9 @@ protected:
 	static bool AreAnyInUse(const TArray<UEdGraphPin*>& InPins);
 	/** The class that the pin's link is of, or that its default names; null when neither is known or there is no pin. */
 	static UClass* GetClassOfPin(const UEdGraphPin* Pin);
+
+	/** Takes over the names that members have got since the node was saved, as far as their ids tell. It edits nothing. */
+	virtual void FollowRenames() {}
 
 	void RewireOldPinsToNewPins(TArray<UEdGraphPin*>& InOldPins, TArray<UEdGraphPin*>& InNewPins);
 	virtual void ReconstructSinglePin(UEdGraphPin* NewPin, UEdGraphPin* OldPin, ERedirectType RedirectType);

@@ -27,6 +27,8 @@ public:
 	virtual FText GetMenuCategory() const override;
 
 protected:
+	/** The pin for the event, and the event that is linked to it, name the dispatcher's signature. */
+	virtual void FollowRenames() override;
 	/** The input that takes the event to bind. */
 	void CreateDelegatePin();
 };

@@ -73,6 +73,7 @@ public:
 	virtual FText GetMenuCategory() const override;
 
 protected:
+	virtual void FollowRenames() override;
 	/** Gives the parameter the value that the node is about, and hides its pin. */
 	void SetFixedParameter(FName ParameterName, const FString& Value);
 	virtual void CreateExecPinsForFunctionCall(const UFunction* Function);

@@ -17,6 +17,8 @@ public:
 	UEdGraphPin* GetOuterPin() const { return FindPin(TEXT("Outer"), EGPD_Input); }
 	/** The class that the pin names or that the linked class is below of; null when neither is known. */
 	UClass* GetClassToSpawn() const;
+	/** Whether the pin sets a property of what is spawned. */
+	bool IsSpawnVarPin(UEdGraphPin* Pin) const;
 	virtual bool HasKnownDefinition() const override { return IsKnownClassOrNone(GetClassToSpawn()); }
 	virtual void AllocateDefaultPins() override;
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;

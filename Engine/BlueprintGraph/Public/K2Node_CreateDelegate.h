@@ -18,7 +18,8 @@ public:
 	FGuid SelectedFunctionGuid;
 
 	FName GetFunctionName() const { return SelectedFunctionName; }
-	void SetFunction(FName Name) { SelectedFunctionName = Name; }
+	/** Takes the function's id along, where it has one, so that a rename is followed. */
+	void SetFunction(FName Name);
 	UEdGraphPin* GetDelegateOutPin() const { return FindPin(TEXT("OutputDelegate")); }
 	UEdGraphPin* GetObjectInPin() const { return FindPin(UEdGraphSchema_K2::PN_Self); }
 	/** The class whose functions can be chosen. */
@@ -27,8 +28,12 @@ public:
 	virtual void AllocateDefaultPins() override;
 	virtual bool IsNodePure() const override { return true; }
 	virtual void ReallocatePinsDuringReconstruction(TArray<UEdGraphPin*>& OldPins) override;
+	virtual void PostReconstructNode() override { FollowRenames(); }
 	virtual void NotifyPinConnectionListChanged(UEdGraphPin* Pin) override;
 	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual FText GetNodeTitle(ENodeTitleType::Type TitleType) const override;
 	virtual FText GetMenuCategory() const override;
+
+protected:
+	virtual void FollowRenames() override;
 };

@@ -59,6 +59,7 @@ public:
 	virtual FText GetMenuCategory() const override;
 
 protected:
+	virtual void FollowRenames() override;
 	/** The dispatcher of the class; null while either is not known. */
 	static FMulticastDelegateProperty* FindDispatcher(const UClass* OwnerClass, FName PropertyName);
 	/** The dispatcher's name as a user reads it. */

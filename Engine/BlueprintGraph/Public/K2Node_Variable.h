@@ -48,8 +48,12 @@ public:
 	virtual void ValidateNodeDuringCompilation(class FCompilerResultsLog& MessageLog) const override;
 	virtual bool HasKnownDefinition() const override;
 	virtual FText GetTooltipText() const override;
+	/** The value's pin has the variable's name, and goes on when the variable was found under another by its id. */
+	virtual ERedirectType DoPinsMatchForReconstruction(
+		const UEdGraphPin* NewPin, int32 NewPinIndex, const UEdGraphPin* OldPin, int32 OldPinIndex) const override;
 
 protected:
+	virtual void FollowRenames() override;
 	UEdGraphPin* CreatePinForVariable(EEdGraphPinDirection Direction, FName InPinName = NAME_None);
 	void CreatePinForSelf();
 	/** "Get {0}" of the variable as a user reads it. */

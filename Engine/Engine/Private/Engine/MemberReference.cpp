@@ -5,13 +5,10 @@
 #include "UObject/Package.h"
 #include "UObject/UObjectGlobals.h"
 
-namespace
-{
-UClass* GetNewestClass(UClass* Class)
+UClass* FMemberReference::GetNewestClass(UClass* Class)
 {
 	const UBlueprint* const Blueprint = UBlueprint::GetBlueprintFromClass(Class);
 	return Blueprint && Blueprint->SkeletonGeneratedClass ? Blueprint->SkeletonGeneratedClass.Get() : Class;
-}
 }
 
 UClass* FMemberReference::FindOwnerClass(const UFunction* Function)

@@ -82,6 +82,8 @@ public:
 	bool IsSelfContext() const { return bSelfContext; }
 	bool IsLocalScope() const { return !MemberScope.IsEmpty(); }
 	bool IsSparseClassData(const UClass* OwningClass) const { return false; }
+	/** The class that knows what a Blueprint's class has since it was compiled: the skeleton class, while there is one. */
+	static ENGINE_API UClass* GetNewestClass(UClass* Class);
 	/** Class that the member is looked for in. */
 	ENGINE_API UClass* GetScope(UClass* SelfScope) const;
 	/** The owner's class as it now stands: a Blueprint's skeleton class while there is one. */

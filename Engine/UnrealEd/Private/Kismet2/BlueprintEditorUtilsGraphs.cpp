@@ -10,6 +10,7 @@
 #include "K2Node_Timeline.h"
 #include "K2Node_Variable.h"
 #include "MemberUses.h"
+#include "UObject/Interface.h"
 #include "UObject/UObjectGlobals.h"
 
 namespace
@@ -275,24 +276,34 @@ void RenameNotifications(UBlueprint& Blueprint, FName OldName, FName NewName)
 	}
 }
 
-/** Graphs of derived Blueprints that override the function keep overriding it. */
+void RenameGraphIn(UBlueprint& Owner, const TArray<TObjectPtr<UEdGraph>>& Graphs, FName OldName, const FString& NewName)
+{
+	const TObjectPtr<UEdGraph>* const Found = Graphs.FindByPredicate([OldName](const UEdGraph* Graph)
+		{ return Graph && Graph->GetFName() == OldName; });
+	if (Found)
+	{
+		Found->Get()->Modify();
+		Found->Get()->Rename(*NewName, &Owner, REN_DontCreateRedirectors);
+		FBlueprintEditorUtils::MarkBlueprintAsModified(&Owner);
+	}
+}
+
+/** Graphs of derived Blueprints that override the function, and of those that implement it for an interface, go on doing so. */
 void RenameOverridingGraphs(const UBlueprint& Blueprint, FName OldName, const FString& NewName)
 {
 	TArray<UBlueprint*> Dependents;
 	FBlueprintEditorUtils::GetDependentBlueprints(const_cast<UBlueprint*>(&Blueprint), Dependents);
 	for (UBlueprint* const Dependent : Dependents)
 	{
-		if (!FMemberUses::IsClassOf(Dependent->ParentClass.Get(), Blueprint))
+		if (FMemberUses::IsClassOf(Dependent->ParentClass.Get(), Blueprint))
 		{
-			continue;
+			RenameGraphIn(*Dependent, Dependent->FunctionGraphs, OldName, NewName);
 		}
-		for (UEdGraph* const Graph : TArray<TObjectPtr<UEdGraph>>(Dependent->FunctionGraphs))
+		for (const FBPInterfaceDescription& Interface : Dependent->ImplementedInterfaces)
 		{
-			if (Graph && Graph->GetFName() == OldName)
+			if (FMemberUses::IsClassOf(Interface.Interface.Get(), Blueprint))
 			{
-				Graph->Modify();
-				Graph->Rename(*NewName, Dependent, REN_DontCreateRedirectors);
-				FBlueprintEditorUtils::MarkBlueprintAsModified(Dependent);
+				RenameGraphIn(*Dependent, Interface.Graphs, OldName, NewName);
 			}
 		}
 	}

@@ -1,6 +1,7 @@
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
+#include "Engine/MemberReference.h"
 #include "K2Node_Event.h"
 #include "K2Node_FunctionTerminator.h"
 #include "Kismet2/BlueprintEditorUtils.h"
@@ -23,10 +24,17 @@ bool HasGraphNamed(const TArray<TObjectPtr<UEdGraph>>& Graphs, FName Name)
 		{ return Graph && Graph->GetFName() == Name; });
 }
 
+/** Whether the interface still has the function: since it was compiled, it may have got another name. */
+bool IsDeclared(const UClass& Interface, FName Function)
+{
+	return FMemberReference::GetNewestClass(const_cast<UClass*>(&Interface))->FindFunctionByName(Function) != nullptr;
+}
+
 /** A variable that has the name stands in the way of a graph; a function of the Blueprint's own becomes the graph. */
 bool WantsGraph(const UBlueprint& Blueprint, const FBPInterfaceDescription& Description, const UFunction* Function)
 {
-	return NeedsGraph(Function) && !HasGraphNamed(Description.Graphs, Function->GetFName()) &&
+	return NeedsGraph(Function) && IsDeclared(*Description.Interface.Get(), Function->GetFName()) &&
+		!HasGraphNamed(Description.Graphs, Function->GetFName()) &&
 		FBlueprintEditorUtils::FindNewVariableIndex(&Blueprint, Function->GetFName()) == INDEX_NONE;
 }
 
@@ -52,7 +60,7 @@ TArray<UEdGraph*> FindGraphsWithoutFunction(const FBPInterfaceDescription& Descr
 	TArray<UEdGraph*> Stale;
 	for (UEdGraph* const Graph : Description.Graphs)
 	{
-		if (Graph && !Interface.FindFunctionByName(Graph->GetFName()))
+		if (Graph && !IsDeclared(Interface, Graph->GetFName()))
 		{
 			Stale.Add(Graph);
 		}

@@ -128,9 +128,11 @@ void FBlueprintEditorUtils::RenameMemberVariable(UBlueprint* Blueprint, const FN
 	ModifyDefaults(*Blueprint);
 	FBPVariableDescription& Variable = Blueprint->NewVariables[Index];
 	const TArray<FMemberUse> Uses = FMemberUses::FindOfVariable(*Blueprint, OldName);
+	const TArray<FVariableNameUse> NameUses = FMemberUses::FindNamesOfVariable(*Blueprint, OldName);
 	Variable.VarName = NewName;
 	Variable.FriendlyName = MakeFriendlyName(NewName, Variable.VarType);
 	FMemberUses::Rename(Uses, OldName, NewName);
+	FMemberUses::RenameNames(NameUses, OldName, NewName);
 	UEdGraph* const Signature = IsDispatcher(Variable) ? Blueprint->GetDelegateSignatureGraphByName(OldName) : nullptr;
 	if (Signature)
 	{

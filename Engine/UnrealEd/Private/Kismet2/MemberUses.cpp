@@ -3,32 +3,67 @@
 #include "EdGraph/EdGraph.h"
 #include "Engine/Blueprint.h"
 #include "Engine/MemberReference.h"
+#include "K2Node_ActorBoundEvent.h"
 #include "K2Node_BaseMCDelegate.h"
 #include "K2Node_CallFunction.h"
+#include "K2Node_ComponentBoundEvent.h"
+#include "K2Node_ConstructObjectFromClass.h"
 #include "K2Node_CreateDelegate.h"
 #include "K2Node_Event.h"
 #include "K2Node_FunctionTerminator.h"
+#include "K2Node_GetClassDefaults.h"
 #include "K2Node_Variable.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 #include "UObject/UObjectHash.h"
 
 namespace
 {
+/** The nodes of a class that the predicate takes and that stand in their graphs. */
 template <class NodeType>
-void Collect(
-	FMemberReference NodeType::*Member, TFunctionRef<bool(const UK2Node&, const FMemberReference&)> IsUse, TArray<FMemberUse>& OutUses)
+TArray<NodeType*> FindStanding(TFunctionRef<bool(NodeType&)> IsWanted)
 {
 	FStandingNodes Standing;
 	TArray<UObject*> Nodes;
 	GetObjectsOfClass(NodeType::StaticClass(), Nodes, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
+	TArray<NodeType*> Found;
 	for (UObject* const Object : Nodes)
 	{
 		NodeType* const Node = CastChecked<NodeType>(Object);
-		if (IsUse(*Node, Node->*Member) && Standing.Contains(*Node))
+		if (IsWanted(*Node) && Standing.Contains(*Node))
 		{
-			OutUses.Add({Node, &(Node->*Member)});
+			Found.Add(Node);
 		}
 	}
+	return Found;
+}
+
+template <class NodeType>
+void Collect(
+	FMemberReference NodeType::*Member, TFunctionRef<bool(const UK2Node&, const FMemberReference&)> IsUse, TArray<FMemberUse>& OutUses)
+{
+	const auto IsWanted = [Member, &IsUse](const NodeType& Node)
+	{ return IsUse(Node, Node.*Member); };
+	for (NodeType* const Node : FindStanding<NodeType>(IsWanted))
+	{
+		OutUses.Add({Node, &(Node->*Member)});
+	}
+}
+
+template <class EventType>
+void CollectBoundEvents(const UBlueprint& Owner, FName Dispatcher, TArray<FVariableNameUse>& OutUses)
+{
+	const auto IsOfDispatcher = [&Owner, Dispatcher](const EventType& Event)
+	{ return Event.DelegatePropertyName == Dispatcher && FMemberUses::IsClassOf(Event.DelegateOwnerClass, Owner); };
+	for (EventType* const Event : FindStanding<EventType>(IsOfDispatcher))
+	{
+		OutUses.Add({Event, &Event->DelegatePropertyName});
+	}
+}
+
+FOptionalPinFromProperty* FindShown(UK2Node_GetClassDefaults& Node, FName Name)
+{
+	return Node.ShowPinForProperties.FindByPredicate([Name](const FOptionalPinFromProperty& Record)
+		{ return Record.PropertyName == Name; });
 }
 
 /** Whether the reference names the owner's member, seen from the class that the node's Blueprint makes. */
@@ -131,19 +166,8 @@ TArray<FMemberUse> FMemberUses::FindOfLocalVariable(const UBlueprint& Owner, con
 
 TArray<UK2Node_CreateDelegate*> FMemberUses::FindDelegatesOfFunction(const UBlueprint& Owner, FName Name)
 {
-	TArray<UK2Node_CreateDelegate*> Found;
-	FStandingNodes Standing;
-	TArray<UObject*> Nodes;
-	GetObjectsOfClass(UK2Node_CreateDelegate::StaticClass(), Nodes, true, RF_ClassDefaultObject, EInternalObjectFlags::Garbage);
-	for (UObject* const Object : Nodes)
-	{
-		UK2Node_CreateDelegate* const Node = CastChecked<UK2Node_CreateDelegate>(Object);
-		if (Node->SelectedFunctionName == Name && Standing.Contains(*Node) && IsClassOf(Node->GetScopeClass(), Owner))
-		{
-			Found.Add(Node);
-		}
-	}
-	return Found;
+	return FindStanding<UK2Node_CreateDelegate>([&Owner, Name](const UK2Node_CreateDelegate& Node)
+		{ return Node.SelectedFunctionName == Name && IsClassOf(Node.GetScopeClass(), Owner); });
 }
 
 void FMemberUses::Rename(const TArray<FMemberUse>& Uses, FName OldName, FName NewName)
@@ -161,16 +185,55 @@ void FMemberUses::Rename(const TArray<FMemberUse>& Uses, FName OldName, FName Ne
 			Use.Reference->SetDirect(
 				NewName, Use.Reference->GetMemberGuid(), Use.Reference->GetMemberParentClass(), Use.Reference->IsSelfContext());
 		}
-		UEdGraphPin* const Pin = Use.Node->IsA<UK2Node_Variable>() ? Use.Node->FindPin(OldName) : nullptr;
-		if (Pin)
+		if (Use.Node->IsA<UK2Node_Variable>())
 		{
-			Pin->PinName = NewName;
+			Use.Node->RenameUserDefinedPin(OldName, NewName);
 		}
 		Users.Add(Use.Node->GetBlueprint());
 	}
 	for (UBlueprint* const User : Users)
 	{
 		FBlueprintEditorUtils::MarkBlueprintAsModified(User);
+	}
+}
+
+TArray<FVariableNameUse> FMemberUses::FindNamesOfVariable(const UBlueprint& Owner, FName Name)
+{
+	TArray<FVariableNameUse> Uses;
+	CollectBoundEvents<UK2Node_ComponentBoundEvent>(Owner, Name, Uses);
+	CollectBoundEvents<UK2Node_ActorBoundEvent>(Owner, Name, Uses);
+	const auto Sets = [&Owner, Name](const UK2Node_ConstructObjectFromClass& Node)
+	{
+		UEdGraphPin* const Pin = Node.FindPin(Name, EGPD_Input);
+		return Pin && Node.IsSpawnVarPin(Pin) && IsClassOf(Node.GetClassToSpawn(), Owner);
+	};
+	for (UK2Node_ConstructObjectFromClass* const Node : FindStanding<UK2Node_ConstructObjectFromClass>(Sets))
+	{
+		Uses.Add({Node, nullptr});
+	}
+	const auto Shows = [&Owner, Name](UK2Node_GetClassDefaults& Node)
+	{ return FindShown(Node, Name) && IsClassOf(Node.GetInputClass(), Owner); };
+	for (UK2Node_GetClassDefaults* const Node : FindStanding<UK2Node_GetClassDefaults>(Shows))
+	{
+		Uses.Add({Node, &FindShown(*Node, Name)->PropertyName});
+	}
+	return Uses;
+}
+
+void FMemberUses::RenameNames(const TArray<FVariableNameUse>& Uses, FName OldName, FName NewName)
+{
+	for (const FVariableNameUse& Use : Uses)
+	{
+		Use.Node->Modify();
+		if (Use.Name)
+		{
+			*Use.Name = NewName;
+		}
+		if (!Use.Node->IsA<UK2Node_Event>())
+		{
+			Use.Node->RenameUserDefinedPin(OldName, NewName);
+		}
+		FBlueprintEditorUtils::MarkBlueprintAsModified(Use.Node->GetBlueprint());
 	}
 }
 

@@ -17,6 +17,14 @@ struct FMemberUse
 	FMemberReference* Reference = nullptr;
 };
 
+/** A node that names a variable without a reference by id: an event of a dispatcher, or a node with a pin for each of some variables. */
+struct FVariableNameUse
+{
+	UK2Node* Node = nullptr;
+	/** Where the node has the name beside its pin's; null for none. */
+	FName* Name = nullptr;
+};
+
 /**
  * Which nodes stand in their graph, and not merely in what an undo could bring back. Reads each graph once: for a question about many
  * nodes between which no graph changes.
@@ -49,6 +57,10 @@ public:
 
 	/** Has the nodes refer to the new name, pins of that name included, and their Blueprints know that they were modified. */
 	static void Rename(const TArray<FMemberUse>& Uses, FName OldName, FName NewName);
+	/** What names a variable or a dispatcher otherwise than by a member reference: events of dispatchers, pins of what spawns its class. */
+	static TArray<FVariableNameUse> FindNamesOfVariable(const UBlueprint& Owner, FName Name);
+	static void RenameNames(const TArray<FVariableNameUse>& Uses, FName OldName, FName NewName);
+
 	/** Makes the nodes' pins again. */
 	static void Reconstruct(const TArray<FMemberUse>& Uses);
 
