@@ -23,6 +23,52 @@ bool IsInherited(const UObject& Object, const UObject* Archetype, const FPropert
 	return true;
 }
 
+/** Enumerators are names, not numbers. */
+const FNumericProperty* AsNumber(const FProperty& Property)
+{
+	const FNumericProperty* const Number = CastField<FNumericProperty>(&Property);
+	return Number && !Number->IsEnum() ? Number : nullptr;
+}
+
+/** The number, or the Boolean as one; unset for anything else. */
+TOptional<double> GetNumber(const FProperty& Property, const void* Value)
+{
+	if (const FBoolProperty* const Boolean = CastField<FBoolProperty>(&Property))
+	{
+		return Boolean->GetPropertyValue(Value) ? 1.0 : 0.0;
+	}
+	const FNumericProperty* const Number = AsNumber(Property);
+	return Number && Number->IsFloatingPoint() ? Number->GetFloatingPointPropertyValue(Value) : TOptional<double>();
+}
+
+/** Where a text would break off: a whole number takes what stands before the point. False where there is nothing to convert. */
+bool ConvertNumber(const FProperty& OldProperty, const void* OldValue, const FProperty& NewProperty, void* NewValue)
+{
+	const FNumericProperty* const New = AsNumber(NewProperty);
+	const FNumericProperty* const Old = AsNumber(OldProperty);
+	if (const FBoolProperty* const Boolean = CastField<FBoolProperty>(&NewProperty); Boolean && Old)
+	{
+		const bool bIsZero = Old->IsFloatingPoint() ? Old->GetFloatingPointPropertyValue(OldValue) == 0
+													: Old->GetSignedIntPropertyValue(OldValue) == 0;
+		Boolean->SetPropertyValue(NewValue, !bIsZero);
+		return true;
+	}
+	const bool bIsAsked = New && (New->IsInteger() || OldProperty.IsA<FBoolProperty>());
+	const TOptional<double> Number = bIsAsked ? GetNumber(OldProperty, OldValue) : TOptional<double>();
+	if (Number && New->IsFloatingPoint())
+	{
+		New->SetFloatingPointPropertyValue(NewValue, *Number);
+		return true;
+	}
+	constexpr double Limit = 9.2e18;
+	const bool bFits = Number && FMath::Abs(*Number) < Limit && New->CanHoldValue(static_cast<int64>(*Number));
+	if (bFits)
+	{
+		New->SetIntPropertyValue(NewValue, static_cast<int64>(*Number));
+	}
+	return bFits;
+}
+
 void TransferValue(const UObject& From, const FProperty& OldProperty, UObject& To, const FProperty& NewProperty)
 {
 	if (OldProperty.SameType(&NewProperty) && OldProperty.ArrayDim == NewProperty.ArrayDim)
@@ -34,9 +80,11 @@ void TransferValue(const UObject& From, const FProperty& OldProperty, UObject& T
 	void* const Value = NewProperty.AllocateAndInitializeValue();
 	for (int32 Index = 0; Index < FMath::Min(OldProperty.ArrayDim, NewProperty.ArrayDim); ++Index)
 	{
+		const void* const OldValue = OldProperty.ContainerPtrToValuePtr<void>(&From, Index);
+		const bool bIsConverted = ConvertNumber(OldProperty, OldValue, NewProperty, Value);
 		FString Text;
-		OldProperty.ExportTextItem_Direct(Text, OldProperty.ContainerPtrToValuePtr<void>(&From, Index), nullptr, nullptr, PPF_None);
-		const TCHAR* const End = NewProperty.ImportText_Direct(*Text, Value, &To, PPF_None);
+		OldProperty.ExportTextItem_Direct(Text, OldValue, nullptr, nullptr, PPF_None);
+		const TCHAR* const End = bIsConverted ? TEXT("") : NewProperty.ImportText_Direct(*Text, Value, &To, PPF_None);
 		if (End && !*End)
 		{
 			NewProperty.SetSingleValue_InContainer(&To, Value, Index);
