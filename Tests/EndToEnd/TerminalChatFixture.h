@@ -14,7 +14,9 @@ protected:
 	FProgramSurroundings MakeTerminalSurroundings() const
 	{
 		FProgramSurroundings Surroundings = MakeSurroundings("first\n");
+		// No silence is waited for here: on a busy machine a second passes before the service's side gets its turn.
 		Surroundings.Environment[2] = "VEXEL_CHAT_STALL_TIMEOUT_SECONDS=50";
+		Surroundings.Environment[3] = "VEXEL_AUTH_TIMEOUT_SECONDS=50";
 		Surroundings.Environment.push_back("XDG_STATE_HOME=" + (Project.GetPath() / "state").string());
 		return Surroundings;
 	}

@@ -59,6 +59,26 @@ protected:
 };
 }
 
+TEST_F(Status, ACheckThatEndsAfterMonitoringIsNoNews)
+{
+	for (const char* const Body : {R"({"status":{"indicator":"minor","description":"Slow"}})", "no status"})
+	{
+		FScriptedGate Gate;
+		Server.AnswerWith("/api/v2/status.json", [&Gate, Body](const FScriptedRequest&)
+			{ return FScriptedAnswer().WaitFor(Gate).Chunk(Body); });
+		const size_t NumBefore = Server.GetRequests().size();
+		const TVexelTaskResult<void> Result = FVexelStatusManager::Get().InternalRunStatusCheck();
+		ASSERT_TRUE(Server.WaitForRequests(NumBefore + 1));
+		FVexelStatusInfo::StopMonitoring();
+		Gate.Open();
+		ASSERT_TRUE(PumpUntil([&Result]
+			{ return Result.IsComplete(); }));
+		Pump();
+		EXPECT_TRUE(Seen.empty()) << Body;
+		EXPECT_FALSE(Log.Contains("Failed to check system status")) << Log.ToText();
+	}
+}
+
 TEST_F(Status, EachIndicatorIsItsStatus)
 {
 	struct FCase

@@ -2,6 +2,7 @@
 
 #include "Dom/JsonObject.h"
 #include "Editor.h"
+#include "Misc/ScopeLock.h"
 #include "TimerManager.h"
 #include "VexelClient.h"
 #include "VexelErrorKinds.h"
@@ -30,17 +31,6 @@ TVexelExpected<FVexelStatusInfo> ReadStatus(const TSharedRef<FVexelHttpResponse>
 	return Info;
 }
 
-void ReportFailure(const FVexelError& Cause)
-{
-	// Requests are cancelled when the module ends, which is no failure.
-	if (Cause.IsCausedBy<FVexelError_HttpCancelled>() || Cause.IsCausedBy<FVexelError_TaskNotFinished>())
-	{
-		return;
-	}
-	FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_StatusCheck, Cause, "");
-	Error.AppendContext(TEXT("while checking system status"));
-	FVexelSentry::CaptureErrorSoft(MoveTemp(Error), VEXEL_HERE);
-}
 }
 
 FVexelStatusManager& FVexelStatusManager::Get()
@@ -73,14 +63,37 @@ TVexelTaskResult<void> FVexelStatusManager::InternalRunStatusCheck()
 				   .SendAndAwait())
 		.Then([](const TSharedRef<FVexelHttpResponse>& Response)
 			{ return ReadStatus(Response); })
-		.ThenOn(EVexelTaskThread::GameThread, [this](const FVexelStatusInfo& Info)
+		.ThenOn(EVexelTaskThread::GameThread, [this, NumStopsThen = NumStops](const FVexelStatusInfo& Info)
+			{ Take(Info, NumStopsThen); })
+		.Catch<FVexelError>([this, NumStopsThen = NumStops](const FVexelError& Error) -> TVexelExpected<void>
 			{
-				Current = Info;
-				OnStatusChanged.Broadcast(Info); })
-		.Catch<FVexelError>([](const FVexelError& Error) -> TVexelExpected<void>
-			{
-				ReportFailure(Error);
+				ReportFailure(Error, NumStopsThen);
 				return Error; });
+}
+
+void FVexelStatusManager::Take(const FVexelStatusInfo& Info, int32 NumStopsThen)
+{
+	if (NumStopsThen == NumStops)
+	{
+		Current = Info;
+		OnStatusChanged.Broadcast(Info);
+	}
+}
+
+void FVexelStatusManager::ReportFailure(const FVexelError& Cause, int32 NumStopsThen)
+{
+	// Requests are cancelled when the module ends, which is no failure.
+	if (Cause.IsCausedBy<FVexelError_HttpCancelled>() || Cause.IsCausedBy<FVexelError_TaskNotFinished>())
+	{
+		return;
+	}
+	const FScopeLock Guard(&Lock);
+	if (NumStopsThen == NumStops)
+	{
+		FVexelError Error = VEXEL_ERROR_CAUSED(FVexelError_StatusCheck, Cause, "");
+		Error.AppendContext(TEXT("while checking system status"));
+		FVexelSentry::CaptureErrorSoft(MoveTemp(Error), VEXEL_HERE);
+	}
 }
 
 void FVexelStatusManager::InternalStopStatusCheck()
@@ -89,4 +102,6 @@ void FVexelStatusManager::InternalStopStatusCheck()
 	{
 		GEditor->GetTimerManager()->ClearTimer(Timer);
 	}
+	const FScopeLock Guard(&Lock);
+	++NumStops;
 }
