@@ -115,6 +115,31 @@ TEST(Command, AGraphIsRewiredCompiledAndSavedByOneToolAfterTheOther)
 	EXPECT_THAT(Text.Output, HasSubstr("DefaultValue=\"rewired\""));
 }
 
+TEST(Command, AToolThatDoesOnlyAPartSaysSoAndSavesIt)
+{
+	const FSampleProjectCopy Project;
+	const auto Edit = [&Project](const std::string& Operations)
+	{
+		return RunVexel({"tool", "object_edit", "--project", Project.GetPath(), "--save", "--input",
+			R"({"blueprint":"/Game/BP_Door","requests":[{"target":{"target_type":"blueprint"},"operations":[)" + Operations + "]}]}"});
+	};
+	const std::string Wrong = R"({"operation":"remove_variable","scope":"member","name":"NoSuchVariable"})";
+	const FProgramResult InPart = Edit(R"({"operation":"add_variable","scope":"member","name":"Kept","value":{"type_id":"int"}},)" + Wrong);
+	EXPECT_EQ(InPart.Status, 3);
+	EXPECT_EQ(nlohmann::json::parse(InPart.Output, nullptr, false)["errors"].size(), 1u) << InPart.Output;
+	EXPECT_EQ(RunVexel({"get", "BP_Door:member@Kept", "--project", Project.GetPath()}).Output, "0\n") << "what was done is saved";
+
+	const std::filesystem::path Calls = std::filesystem::path(Project.GetPath()) / "calls.jsonl";
+	const std::string InPartLine =
+		R"({"tool":"object_edit","input":{"blueprint":"/Game/BP_Door","requests":[{"target":{"target_type":"blueprint"},"operations":[)" + Wrong +
+		"]}]}}\n";
+	for (const auto& [Line, Status] : {std::pair(InPartLine, 3), std::pair(InPartLine + "{\"undo\": 1}\n" + InPartLine, 1)})
+	{
+		WriteFile(Calls, Line);
+		EXPECT_EQ(RunVexel({"tool", "--calls", Calls.string(), "--project", Project.GetPath()}).Status, Status) << Line;
+	}
+}
+
 TEST(Command, ManyToolsAreCalledInOneSessionAndTheirEditsUndone)
 {
 	const FSampleProjectCopy Project;

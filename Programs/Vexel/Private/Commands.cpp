@@ -39,12 +39,14 @@ constexpr FOptionRow LoginOptions[] = {
 	VerboseOption,
 };
 constexpr FOptionRow AccountOptions[] = {ServiceOption, JsonOption, VerboseOption};
+constexpr FOptionRow ToolSaveOption = {
+	TEXT("--save"), nullptr, TEXT("saves what was changed, also when items of a call failed (exit status 3)")};
 constexpr FOptionRow ToolOptions[] = {
 	{TEXT("--input"), TEXT("JSON|FILE|-"), TEXT("the tool's arguments, an object")},
 	{TEXT("--calls"), TEXT("FILE|-"),
 		TEXT("calls of many tools, a line of JSON each: {\"tool\": NAME, \"input\": {...}}, {\"undo\": N} or {\"redo\": N}")},
 	ProjectOption,
-	SaveOption,
+	ToolSaveOption,
 	JsonOption,
 	VerboseOption,
 };

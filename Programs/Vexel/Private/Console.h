@@ -10,6 +10,8 @@ namespace ExitStatus
 inline constexpr int32 Done = 0;
 inline constexpr int32 Failed = 1;
 inline constexpr int32 WrongUsage = 2;
+/** Of a tool: some items of the call failed. What the others did stays, and is saved where that was asked for. */
+inline constexpr int32 DoneInPart = 3;
 }
 
 /**

@@ -37,7 +37,7 @@ void WriteHelp()
 	}
 	FConsole::WriteLine(TEXT("\nEvery command also takes the engine's -LogCmds=\"CATEGORY VERBOSITY, ...\" for the log in the project's Saved/Logs,\n"
 							 "and -ini:FILE:[SECTION]:KEY=VALUE for a setting."));
-	FConsole::WriteLine(TEXT("\nExit status: 0 done, 1 the request failed, 2 wrong usage."));
+	FConsole::WriteLine(TEXT("\nExit status: 0 done, 1 the request failed, 2 wrong usage, 3 a tool did only a part."));
 }
 
 /** Takes the engine's own switches out of the words: its modules read them from the engine's command line. */

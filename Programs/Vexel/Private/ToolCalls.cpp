@@ -11,18 +11,25 @@
 
 namespace
 {
-/** The line's answer, but for whether it failed. */
+/** The line's answer, and the exit status of the line alone. */
 struct FLineAnswer
 {
 	TSharedRef<FJsonObject> Object = MakeShared<FJsonObject>();
-	bool bFailed = false;
+	int32 Status = ExitStatus::Done;
 
 	void Fail(const FString& Error)
 	{
 		Object->SetStringField(TEXT("error"), Error);
-		bFailed = true;
+		Status = ExitStatus::Failed;
 	}
 };
+
+/** A line that failed weighs more than one that did a part. */
+int32 GetWorse(int32 Status, int32 Other)
+{
+	const bool bFailed = Status == ExitStatus::Failed || Other == ExitStatus::Failed;
+	return bFailed ? ExitStatus::Failed : FMath::Max(Status, Other);
+}
 
 FLineAnswer CallTool(FVexelToolSession& Tools, const FString& Name, const FJsonObject& Line)
 {
@@ -44,6 +51,7 @@ FLineAnswer CallTool(FVexelToolSession& Tools, const FString& Name, const FJsonO
 		return Answer;
 	}
 	Answer.Object->SetObjectField(TEXT("answer"), Result.GetValue());
+	Answer.Status = GetStatusOf(*Result.GetValue());
 	return Answer;
 }
 
@@ -53,7 +61,7 @@ FLineAnswer Travel(const TCHAR* Direction, bool bBack, double NumSteps)
 	FLineAnswer Answer;
 	Answer.Object->SetNumberField(Direction, NumSteps);
 	TArray<TSharedPtr<FJsonValue>> Edits;
-	for (double Step = 0; Step < NumSteps && !Answer.bFailed; ++Step)
+	for (double Step = 0; Step < NumSteps && Answer.Status == ExitStatus::Done; ++Step)
 	{
 		FString What;
 		if (const TOptional<FString> Failure = TakeUndoStep(bBack, What))
@@ -96,12 +104,18 @@ FLineAnswer RunLine(FVexelToolSession& Tools, const FString& Line)
 }
 }
 
+int32 GetStatusOf(const FJsonObject& Answer)
+{
+	const TArray<TSharedPtr<FJsonValue>>* Errors = nullptr;
+	return Answer.TryGetArrayField(TEXT("errors"), Errors) && !Errors->IsEmpty() ? ExitStatus::DoneInPart : ExitStatus::Done;
+}
+
 int32 RunToolCalls(const FString& Text)
 {
 	FVexelToolSession Tools;
 	TArray<FString> Lines;
 	Text.ParseIntoArrayLines(Lines);
-	bool bAllDone = true;
+	int32 Status = ExitStatus::Done;
 	for (const FString& Line : Lines)
 	{
 		if (Line.TrimStart().IsEmpty())
@@ -110,7 +124,7 @@ int32 RunToolCalls(const FString& Text)
 		}
 		const FLineAnswer Answer = RunLine(Tools, Line);
 		WriteJsonLine(Answer.Object);
-		bAllDone &= !Answer.bFailed;
+		Status = GetWorse(Status, Answer.Status);
 	}
-	return bAllDone ? ExitStatus::Done : ExitStatus::Failed;
+	return Status;
 }

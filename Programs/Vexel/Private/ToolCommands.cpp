@@ -49,7 +49,7 @@ int32 RunOneCall(const FString& Name, const TSharedRef<FJsonObject>& Input)
 		return ExitStatus::Failed;
 	}
 	WriteJson(Result.GetValue());
-	return ExitStatus::Done;
+	return GetStatusOf(*Result.GetValue());
 }
 }
 
@@ -74,7 +74,8 @@ int32 RunToolCommand(const FArguments& Arguments)
 		return ExitStatus::Failed;
 	}
 	const int32 Status = bManyCalls ? RunToolCalls(*Calls) : RunOneCall(Arguments.GetPositional()[0], *Input);
-	const bool bSaves = Arguments.Has(TEXT("--save")) && (bManyCalls || Status == ExitStatus::Done);
+	// What is saved is what the answer shows, with the ids that it gives to what was made.
+	const bool bSaves = Arguments.Has(TEXT("--save")) && (bManyCalls || Status != ExitStatus::Failed);
 	return bSaves && !SaveChangedAssetsOrSay() ? ExitStatus::Failed : Status;
 }
 
