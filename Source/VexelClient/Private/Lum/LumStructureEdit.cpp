@@ -82,6 +82,8 @@ FLumStructureEdit::FLumStructureEdit(const FText& Title, UBlueprint& InBlueprint
 	, Skeleton(InSkeleton)
 	, bWasBeingCompiled(InBlueprint.bBeingCompiled)
 {
+	// What has changed is told from it at the end: a Blueprint that was only loaded has none yet.
+	FKismetEditorUtilities::GenerateBlueprintSkeleton(&Blueprint);
 	Blueprint.Modify();
 	Blueprint.bBeingCompiled = true;
 }

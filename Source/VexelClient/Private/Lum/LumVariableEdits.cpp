@@ -1,18 +1,20 @@
 #include "Lum/LumVariableEdits.h"
 
+#include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumErrors.h"
 #include "Lum/LumHelper.h"
 #include "Lum/LumLinkMending.h"
 #include "Lum/LumNodeUses.h"
+#include "Lum/LumRetypedValue.h"
 #include "Lum/LumStructureEdit.h"
 #include "Lum/LumVariable.h"
 #include "Lum/LumVariableFlags.h"
 #include "Lum/LumVariableRules.h"
-#include "Lum/Property/LumUnrealVirtualProperty.h"
 
 #include "EdGraph/EdGraph.h"
 #include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
+#include "Engine/BlueprintGeneratedClass.h"
 #include "K2Node_FunctionEntry.h"
 #include "Kismet2/BlueprintEditorUtils.h"
 
@@ -123,14 +125,13 @@ TVexelExpected<FChange> CheckMemberChange(UBlueprint& Blueprint, const FBPVariab
 	return Change;
 }
 
-/** The default that the variable had, where the function or class that has it now can read it, and no object has the value. */
+/** The default that the variable had, as far as its new type can hold it. */
 void KeepDefault(FBPVariableDescription& Variable, const UStruct* Owner, const FString& OldDefault)
 {
 	const FProperty* const Property = Owner ? Owner->FindPropertyByName(Variable.VarName) : nullptr;
-	if (Property && !OldDefault.IsEmpty() && FLumUnrealVirtualProperty::Create(*Property, OldDefault).HasValue())
-	{
-		Variable.DefaultValue = OldDefault;
-	}
+	const TOptional<FString> Converted = Property && !OldDefault.IsEmpty() ? LumRetypedValue::Convert(OldDefault, *Property)
+																		   : TOptional<FString>();
+	Variable.DefaultValue = Converted.Get(Variable.DefaultValue);
 }
 
 /** A local variable with where it is declared. */
@@ -194,6 +195,29 @@ TVexelExpected<FChange> CheckLocalChange(const FLocal& Local, const FLumVarDesc&
 	CheckCategoryChange(*Local.Variable, Desc, Change);
 	return Change;
 }
+}
+
+const FProperty* LumVariableEdits::FindCompiled(const UBlueprint& Blueprint, const FBPVariableDescription& Variable)
+{
+	const UBlueprintGeneratedClass* const Class = Cast<UBlueprintGeneratedClass>(Blueprint.GeneratedClass.Get());
+	// Since it was compiled the variable may have got another name.
+	const FName FormerName = Class ? Class->FindPropertyNameFromGuid(Variable.VarGuid) : NAME_None;
+	const FProperty* const Property = Class ? Class->FindPropertyByName(FormerName.IsNone() ? Variable.VarName : FormerName) : nullptr;
+	FEdGraphPinType Type;
+	const bool bIsAsDeclared = Property && GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(Property, Type) &&
+		FVexelBlueprintPropTypeBuilder::MakeId(Type) == FVexelBlueprintPropTypeBuilder::MakeId(Variable.VarType);
+	return bIsAsDeclared && Class->GetDefaultObject(false) ? Property : nullptr;
+}
+
+FString LumVariableEdits::GetDefaultText(const UBlueprint& Blueprint, const FBPVariableDescription& Variable)
+{
+	FString Text = Variable.DefaultValue;
+	if (const FProperty* const Property = FindCompiled(Blueprint, Variable))
+	{
+		Text.Empty();
+		Property->ExportTextItem_InContainer(Text, Blueprint.GeneratedClass->GetDefaultObject(false), nullptr, nullptr, PPF_None);
+	}
+	return Text;
 }
 
 UFunction* LumVariableEdits::FindFunction(const UEdGraph& Graph)
@@ -305,7 +329,7 @@ TVexelExpected<void> LumVariableEdits::ChangeMember(UBlueprint& Blueprint, FName
 	LumVariableFlags::Apply(Blueprint, Change.Name, Desc);
 	if (Change.Type)
 	{
-		const FString OldDefault = Blueprint.NewVariables[Index].DefaultValue;
+		const FString OldDefault = GetDefaultText(Blueprint, Blueprint.NewVariables[Index]);
 		Edit.LetEngineMark();
 		FBlueprintEditorUtils::ChangeMemberVariableType(&Blueprint, Change.Name, *Change.Type);
 		KeepDefault(Blueprint.NewVariables[Index], Blueprint.SkeletonGeneratedClass, OldDefault);

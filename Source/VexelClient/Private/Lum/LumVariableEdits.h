@@ -3,9 +3,11 @@
 #include "CoreMinimal.h"
 #include "VexelExpected.h"
 
+class FProperty;
 class UBlueprint;
 class UEdGraph;
 class UFunction;
+struct FBPVariableDescription;
 struct FLumVarDesc;
 
 /**
@@ -24,6 +26,11 @@ TVexelExpected<void> ChangeMember(UBlueprint& Blueprint, FName Name, const FLumV
 TVexelExpected<void> AddLocal(UEdGraph& Graph, const FLumVarDesc& Desc);
 TVexelExpected<void> RemoveLocal(UEdGraph& Graph, FName Name);
 TVexelExpected<void> ChangeLocal(UEdGraph& Graph, FName Name, const FLumVarDesc& Desc);
+
+/** The member of the compiled class whose default object has the variable's default value; null while it has none of the type. */
+const FProperty* FindCompiled(const UBlueprint& Blueprint, const FBPVariableDescription& Variable);
+/** The text of a member's default value, as the class has it, or as it is declared until there is one. */
+FString GetDefaultText(const UBlueprint& Blueprint, const FBPVariableDescription& Variable);
 
 /** The function that the Blueprint's newest class has of the graph; null where it has none. */
 UFunction* FindFunction(const UEdGraph& Graph);

@@ -1,7 +1,6 @@
 #include "Lum/Variable/LumBlueprintMemberVariable.h"
 
 #include "Lum/LumErrors.h"
-#include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
 #include "Lum/LumHelper.h"
 #include "Lum/LumStructureEdit.h"
 #include "Lum/LumVariableEdits.h"
@@ -10,7 +9,6 @@
 #include "Lum/Property/LumVariableVirtualProperty.h"
 #include "Lum/Value/LumObjectOwner.h"
 
-#include "EdGraphSchema_K2.h"
 #include "Engine/Blueprint.h"
 #include "UObject/UnrealType.h"
 
@@ -40,17 +38,13 @@ TVexelExpected<void> FLumBlueprintMemberVariable::SetVariableDescriptor(const FL
 TSharedPtr<ILumProperty> FLumBlueprintMemberVariable::FindCompiledValue(
 	const UBlueprint& Blueprint, const FBPVariableDescription& Description) const
 {
-	const UClass* const Class = Blueprint.GeneratedClass;
-	UObject* const DefaultObject = Class ? Class->GetDefaultObject(false) : nullptr;
-	const FProperty* const Property = DefaultObject ? Class->FindPropertyByName(Name) : nullptr;
-	FEdGraphPinType Type;
-	const bool bIsAsDescribed = Property && GetDefault<UEdGraphSchema_K2>()->ConvertPropertyToPinType(Property, Type) &&
-		FVexelBlueprintPropTypeBuilder::MakeId(Type) == FVexelBlueprintPropTypeBuilder::MakeId(Description.VarType);
-	if (!bIsAsDescribed)
+	const FProperty* const Property = LumVariableEdits::FindCompiled(Blueprint, Description);
+	if (!Property)
 	{
 		return nullptr;
 	}
-	TVexelExpected<TSharedPtr<ILumProperty>> Member = FLumUnrealPropertyFactory::CreateMember(MakeShared<FLumObjectOwner>(*DefaultObject), *Property);
+	TVexelExpected<TSharedPtr<ILumProperty>> Member =
+		FLumUnrealPropertyFactory::CreateMember(MakeShared<FLumObjectOwner>(*Blueprint.GeneratedClass->GetDefaultObject(false)), *Property);
 	return Member.HasValue() ? Member.GetValue() : nullptr;
 }
 

@@ -56,6 +56,11 @@ TVexelExpected<void> FEditRequestOperationOnProp::Execute(const TSharedRef<ILumC
 	return Result;
 }
 
+bool FEditRequestOperationOnProp::RenamesTarget() const
+{
+	return Scope.IsEmpty() && PropPath == TEXT("name");
+}
+
 TVexelExpected<TSharedRef<ILumProperty>> FEditRequestOperationOnProp::FindProperty(const TSharedRef<ILumCompound>& Target) const
 {
 	if (Scope.IsEmpty())
@@ -162,6 +167,14 @@ TVexelExpected<void> FEditRequestOperationOnVar::Execute(const TSharedRef<ILumCo
 		default:
 			return VEXEL_ERROR(FLumError_Write, "Unsupported operation type '%s' for variable operation", VexelEditWords::GetWord(Type));
 	}
+}
+
+bool FEditRequestOperationOnVar::ReachesUsers() const
+{
+	const FLumVarDesc Desc = ReadDescriptor(Value);
+	const bool bRemoves = Type == EVexelEditOperation::RemoveVariable || Type == EVexelEditOperation::RemovePin;
+	const bool bIsLocal = LumScope::Local() == TVexelVarScopeId(Scope.IsEmpty() ? Desc.ScopeId.ToString() : Scope);
+	return !bIsLocal && (bRemoves || !Desc.PropId.IsEmpty() || !Desc.TypeId.IsEmpty());
 }
 
 namespace

@@ -59,6 +59,9 @@ struct FEditRequestOperationOnProp
 	/** One entry of undo; none when nothing changes. */
 	TVexelExpected<void> Execute(const TSharedRef<ILumCompound>& Target, const FLumContext& Context) const;
 
+	/** Whether it is about the name of a graph or a node, by which others know it. */
+	bool RenamesTarget() const;
+
 private:
 	TVexelExpected<TSharedRef<ILumProperty>> FindProperty(const TSharedRef<ILumCompound>& Target) const;
 	TVexelExpected<void> Dispatch(ILumProperty& Property, const FLumContext& Context) const;
@@ -77,6 +80,9 @@ struct FEditRequestOperationOnVar
 	TSharedPtr<FJsonValue> Value;
 
 	TVexelExpected<void> Execute(const TSharedRef<ILumCompound>& Target) const;
+
+	/** Whether it gives a name or a type, or removes what had them, that other Blueprints may use. */
+	bool ReachesUsers() const;
 
 private:
 	TVexelExpected<void> ExecuteAddVariable(ILumCompound& Target) const;

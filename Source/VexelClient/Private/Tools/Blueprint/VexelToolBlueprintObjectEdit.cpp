@@ -1,8 +1,10 @@
 #include "Lum/LumCompound.h"
 #include "Lum/LumContext.h"
 #include "Lum/LumStructureEdit.h"
-#include "Tools/Blueprint/VexelBlueprintLinks.h"
+#include "Tools/Blueprint/VexelBlueprintDefaults.h"
+#include "Tools/Blueprint/VexelBlueprintPins.h"
 #include "Tools/Blueprint/VexelBlueprintRequestHelper.h"
+#include "Tools/Blueprint/VexelBlueprintUsers.h"
 #include "Tools/Blueprint/VexelObjectEditHints.h"
 #include "Tools/Blueprint/VexelObjectEditIgnored.h"
 #include "Tools/Blueprint/VexelObjectEditRequest.h"
@@ -90,17 +92,48 @@ void Execute(const FEditRequest& Request, const FVexelBlueprintRequestHelper& Ta
 	}
 }
 
-/** Whether something in the requests takes away or changes what links hang on. */
-bool CanLoseLinks(const TArray<FEditRequest>& Requests)
+bool AnyOperation(const TArray<FEditRequest>& Requests, TFunctionRef<bool(const FEditRequest::FOperation&)> Is)
 {
-	const auto IsLossy = [](const FEditRequest::FOperation& Operation)
-	{
-		const FEditRequestOperationOnVar* const OnVar = Operation.TryGet<FEditRequestOperationOnVar>();
-		return OnVar && OnVar->Type != EVexelEditOperation::AddVariable && OnVar->Type != EVexelEditOperation::AddPin;
-	};
-	return Requests.ContainsByPredicate([&IsLossy](const FEditRequest& Request)
-		{ return Request.Operations.ContainsByPredicate(IsLossy); });
+	return Requests.ContainsByPredicate([&Is](const FEditRequest& Request)
+		{ return Request.Operations.ContainsByPredicate(Is); });
 }
+
+/** Whether it takes away or changes what links and values hang on. */
+bool IsLossy(const FEditRequest::FOperation& Operation)
+{
+	const FEditRequestOperationOnVar* const OnVar = Operation.TryGet<FEditRequestOperationOnVar>();
+	return OnVar && OnVar->Type != EVexelEditOperation::AddVariable && OnVar->Type != EVexelEditOperation::AddPin;
+}
+
+/** Whether other Blueprints may have to follow. */
+bool ReachesUsers(const FEditRequest::FOperation& Operation)
+{
+	if (const FEditRequestOperationOnProp* const OnProp = Operation.TryGet<FEditRequestOperationOnProp>())
+	{
+		return OnProp->Type == EVexelEditOperation::Update && OnProp->RenamesTarget();
+	}
+	return IsLossy(Operation) && Operation.Get<FEditRequestOperationOnVar>().ReachesUsers();
+}
+
+/** What the requests may cost, as it is before them. */
+struct FLossWatch
+{
+	FLossWatch(const FVexelBlueprintRequestHelper& Target)
+		: Pins(Target.GetBlueprint(), Target.GetMapping())
+		, Defaults(Target.GetBlueprint())
+	{
+	}
+
+	FTexts DescribeLost() const
+	{
+		FTexts Texts = Pins.DescribeLost();
+		Texts.Append(Defaults.DescribeLost());
+		return Texts;
+	}
+
+	const FVexelBlueprintPins Pins;
+	const FVexelBlueprintDefaults Defaults;
+};
 
 void SetTexts(FJsonObject& Object, const TCHAR* Key, const FTexts& Texts)
 {
@@ -119,13 +152,17 @@ TVexelExpected<TSharedRef<FJsonObject>> Edit(const FVexelToolContext& Context, c
 {
 	VEXEL_TRY(const FVexelBlueprintRequestHelper Target, FVexelBlueprintRequestHelper::Find(Context.GetMapping(), Input.Blueprint));
 	const TArray<FEditRequest> Requests = Input.GetRequests();
-	TOptional<FVexelBlueprintLinks> LinksBefore;
-	if (CanLoseLinks(Requests))
+	FTexts Warnings = VexelObjectEditIgnored::Describe(Input.RequestValues);
+	if (AnyOperation(Requests, ReachesUsers))
 	{
-		LinksBefore.Emplace(Target.GetBlueprint(), Target.GetMapping());
+		Warnings.Append(VexelBlueprintUsers::Load(Target.GetBlueprint()));
+	}
+	TOptional<FLossWatch> Watch;
+	if (AnyOperation(Requests, IsLossy))
+	{
+		Watch.Emplace(Target);
 	}
 	FTexts Errors;
-	FTexts Warnings = VexelObjectEditIgnored::Describe(Input.RequestValues);
 	{
 		const FLumEditBatch Batch(Target.GetBlueprint());
 		for (const FEditRequest& Request : Requests)
@@ -133,11 +170,14 @@ TVexelExpected<TSharedRef<FJsonObject>> Edit(const FVexelToolContext& Context, c
 			Execute(Request, Target, Errors);
 		}
 	}
+	if (Watch)
+	{
+		Warnings.Append(Watch->DescribeLost());
+	}
 	VEXEL_TRY(const TSharedRef<FJsonObject> Exported, Target.Export());
 	const TSharedRef<FJsonObject> Answer = MakeShared<FJsonObject>();
 	Answer->SetObjectField(TEXT("blueprint"), Exported);
 	SetTexts(*Answer, TEXT("errors"), Errors);
-	Warnings.Append(LinksBefore ? LinksBefore->DescribeLost() : FTexts());
 	SetTexts(*Answer, TEXT("warnings"), Warnings);
 	return Answer;
 }
