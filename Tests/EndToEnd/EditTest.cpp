@@ -44,8 +44,27 @@ struct FChatRecord
 {
 	std::vector<std::string> Answers;
 	std::vector<std::string> Pictures;
+	/** What the editor refused of the calls. */
+	std::vector<std::string> Refusals;
 	std::string All;
 };
+
+/** What a call's event says of it that went wrong; warnings, and what the compiler says, are no refusals. */
+void AddRefusals(const nlohmann::json& Event, std::vector<std::string>& Refusals)
+{
+	if (Event.contains("error") && !Event["error"].is_null())
+	{
+		Refusals.push_back(Event["error"].dump());
+	}
+	for (const nlohmann::json& Problem : Event.value("problems", nlohmann::json::array()))
+	{
+		const std::string Text = Problem;
+		if (Text.rfind("warning: ", 0) != 0 && Text.rfind("error: ", 0) != 0)
+		{
+			Refusals.push_back(Text);
+		}
+	}
+}
 
 FChatRecord RunChat(const std::filesystem::path& Project, const std::string& Input)
 {
@@ -65,6 +84,10 @@ FChatRecord RunChat(const std::filesystem::path& Project, const std::string& Inp
 		else if (Kind == "text" && !Record.Answers.empty())
 		{
 			Record.Answers.back() += Event.value("text", "");
+		}
+		else if (Kind == "tool_finished")
+		{
+			AddRefusals(Event, Record.Refusals);
 		}
 		else if (Kind == "command" && Event.value("command", "") == "/blueprint")
 		{
@@ -119,6 +142,7 @@ TEST_P(Edit, OneSentenceBuildsItCompiledAndUndoTakesAllOfItBack)
 	ASSERT_EQ(Record.Answers.size(), 3u) << Record.All;
 	ASSERT_EQ(Record.Pictures.size(), 3u) << Record.All;
 	EXPECT_THAT(Record.Answers[1], HasSubstr("**" + Blueprint + "** compiles without errors."));
+	EXPECT_THAT(Record.Refusals, testing::IsEmpty());
 	std::size_t At = 0;
 	for (const std::string& Step : GetParam().Steps)
 	{
@@ -196,6 +220,7 @@ TEST(EditRefusals, WhatCannotBeDoneLeavesTheBlueprintAsItWas)
 	ASSERT_EQ(Record.Answers.size(), 2u) << Record.All;
 	EXPECT_THAT(Record.Answers[0], HasSubstr("no component and no variable called \"chandelier\""));
 	EXPECT_THAT(Record.Answers[1], HasSubstr("no class of actors called \"BP_Submarine\""));
+	EXPECT_THAT(Record.Refusals, testing::IsEmpty()) << "what is not there is seen without trying";
 	ASSERT_EQ(Record.Pictures.size(), 2u);
 	EXPECT_EQ(Record.Pictures[0], Record.Pictures[1]);
 }

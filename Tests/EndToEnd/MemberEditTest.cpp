@@ -82,6 +82,7 @@ TEST_P(MemberEdit, OneSentenceMakesItAndUndoTakesItBack)
 	Undone += std::string("Compile ") + Change.Blueprint + "\n/save\n";
 	const FProgramResult Taken = RunVexel({"chat", "--project", Project.GetPath()}, Undone);
 	EXPECT_THAT(Taken.Output + Taken.Errors, HasSubstr("there is nothing to undo"));
+	EXPECT_THAT(Taken.Output, testing::AllOf(Not(HasSubstr("  ! Failed")), Not(HasSubstr("[failed")))) << "no call is refused";
 	EXPECT_TRUE(Read(Project, Change.Blueprint) == Before) << Taken.Output;
 
 	const FProgramResult Made = RunVexel({"chat", "--project", Project.GetPath(), "--save", "--message", Change.Sentence});
@@ -128,7 +129,9 @@ INSTANTIATE_TEST_SUITE_P(Values, MemberEdit,
 		FMemberChange{"RemoveElement", "BP_Enemy", "Remove the first element of Loot in BP_Enemy",
 			{"variables", "Loot", "value", "properties", "0", "value"}, "Key"},
 		FMemberChange{"SetProperty", "BP_Door", "Set the initial life span of BP_Door to 5 seconds",
-			{"properties", "$ClassDefaultObject", "value", "properties", "InitialLifeSpan", "value"}, "5.000000"}),
+			{"properties", "$ClassDefaultObject", "value", "properties", "InitialLifeSpan", "value"}, "5.000000"},
+		FMemberChange{"SetOfComponent", "BP_Door", "Make the mesh invisible in BP_Door",
+			{"properties", "$ClassDefaultObject", "value", "properties", "Panel", "value", "properties", "bVisible", "value"}, "False"}),
 	[](const testing::TestParamInfo<FMemberChange>& Info)
 	{ return std::string(Info.param.Name); });
 

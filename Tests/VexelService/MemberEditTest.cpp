@@ -34,6 +34,7 @@ FJson MakeRichEnemy()
 {
 	FJson Enemy = MakeDoor();
 	Enemy["id"] = "/Game/Enemies/BP_Enemy.BP_Enemy";
+	Enemy["parent_chain"] = {"Character", "Pawn", "Actor", "Object"};
 	FJson Heal = MakeGraph("Heal", "function", {MakeNode("Heal_0", "graph.entry", {ExecOut()})});
 	Heal["variables"] = {MakeVariable("Amount", "real", "1.0", "in"), MakeVariable("NewHealth", "real", "", "out"),
 		MakeVariable("Count", "int", "0", "local")};
@@ -434,7 +435,6 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 		{"make the mesh invisible in BP_Enemy", "update  $ClassDefaultObject.Mesh.bVisible \"False\""},
 		{"set the location of the mesh to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
 		{"set the mesh's location to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
-		{"make the skeletal mesh invisible in BP_Enemy", "update  $ClassDefaultObject.Body.bVisible \"False\""},
 		{"make the body red in BP_Enemy", "update  $ClassDefaultObject.Body.LightColor \"(R=255,G=0,B=0,A=255)\""},
 		{"set the yaw of the rotation of the body to 90 in BP_Enemy", "update  $ClassDefaultObject.Body.RelativeRotation.Yaw \"90\""},
 		{"make BP_Enemy hidden", "update  $ClassDefaultObject.bHidden \"True\""},
@@ -455,31 +455,69 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 	EXPECT_THAT(Answer, AllOf(HasSubstr("could not set \"wing span\""), HasSubstr("There is no property of that name.")));
 }
 
-TEST_F(MemberEdit, ComponentsAreFoundByTheirClassThoughNoGraphUsesThem)
+namespace
 {
-	const auto MakeComponent = [](const char* Id, const char* Class)
+/** The enemy with components of its own, as an export shows them: by name and class. */
+FJson MakeEnemyWith(const std::vector<std::pair<std::string, std::string>>& Components)
+{
+	FJson Properties = FJson::array();
+	for (const auto& [Name, Class] : Components)
 	{
-		return FJson{{"id", Id}, {"type", Class}, {"value", {{"type", Class}}}, {"category", ""}, {"instanced", true}};
-	};
-	FJson Components = {MakeComponent("Lamp", "object.PointLightComponent"), MakeComponent("Door", "object.StaticMeshComponent")};
-	const auto Defaults = [](const FJson& Properties)
-	{
-		return FJson{{"id", "$ClassDefaultObject"}, {"type", "object.BP_Enemy"},
-			{"value", {{"type", "object.BP_Enemy"}, {"properties", Properties}}}, {"category", ""}};
-	};
+		Properties.push_back({{"id", Name}, {"type", "object." + Class}, {"value", {{"type", "object." + Class}}}, {"category", ""}, {"instanced", true}});
+	}
 	FJson Enemy = MakeRichEnemy();
-	Enemy["properties"] = FJson::array({Defaults(Components)});
-	Blueprint = FScriptedObjectEdit(Enemy);
-	EXPECT_THAT(Operations("set the intensity of the PointLight to 5000 in BP_Enemy"),
-		testing::Contains("update  $ClassDefaultObject.Lamp.Intensity \"5000\""))
-		<< Answer;
+	Enemy["properties"] = FJson::array({{{"id", "$ClassDefaultObject"}, {"type", "object.BP_Enemy"},
+		{"value", {{"type", "object.BP_Enemy"}, {"properties", Properties}}}, {"category", ""}}});
+	return Enemy;
+}
+}
 
-	Components.push_back(MakeComponent("Torch", "object.PointLightComponent"));
-	Enemy["properties"] = FJson::array({Defaults(Components)});
-	Blueprint = FScriptedObjectEdit(Enemy);
-	EXPECT_THAT(Operations("set the intensity of the PointLight to 5000 in BP_Enemy"),
-		testing::Not(testing::Contains("update  $ClassDefaultObject.Lamp.Intensity \"5000\"")))
-		<< Answer;
+TEST_F(MemberEdit, ComponentsAreLookedUpInTheExportAndNoneIsTried)
+{
+	const struct
+	{
+		const char* Said;
+		const char* Component;
+	} Cases[] = {
+		{"PointLight", "CeilingLamp"},
+		{"light", "CeilingLamp"},
+		{"lamp", "CeilingLamp"},
+		{"ceiling lamp", "CeilingLamp"},
+		{"door mesh", "DoorMesh"},
+		{"static mesh", "DoorMesh"},
+		{"trigger", "Area"},
+		{"box", "Area"},
+		{"mesh", "Mesh"},
+		{"capsule", "CapsuleComponent"},
+		{"movement component", "CharacterMovement"},
+		{"body", "Body"},
+	};
+	for (const auto& Case : Cases)
+	{
+		Blueprint = FScriptedObjectEdit(
+			MakeEnemyWith({{"CeilingLamp", "PointLightComponent"}, {"DoorMesh", "StaticMeshComponent"}, {"Area", "BoxComponent"}}));
+		EXPECT_THAT(Operations(std::string("set the intensity of the ") + Case.Said + " to 500 in BP_Enemy"),
+			testing::ElementsAre(std::string("update  $ClassDefaultObject.") + Case.Component + ".Intensity \"500\""))
+			<< Case.Said << "\n"
+			<< Answer;
+	}
+}
+
+TEST_F(MemberEdit, OfSeveralComponentsTheUserNamesOneAndOfNoneNothingIsTried)
+{
+	Blueprint = FScriptedObjectEdit(MakeEnemyWith({{"Lamp", "PointLightComponent"}, {"Torch", "PointLightComponent"}}));
+	EXPECT_THAT(Operations("set the intensity of the light to 5000 in BP_Enemy"), IsEmpty());
+	EXPECT_THAT(Answer, HasSubstr("**BP_Enemy** has 2 components that fit \"light\": **Lamp** and **Torch**. Name the one that you mean."));
+	EXPECT_THAT(Operations("set the intensity of the torch to 5000 in BP_Enemy"),
+		testing::ElementsAre("update  $ClassDefaultObject.Torch.Intensity \"5000\""));
+	EXPECT_THAT(Operations("make the chandelier invisible in BP_Enemy"), IsEmpty());
+	EXPECT_THAT(Answer, HasSubstr("**BP_Enemy** has no component and no variable called \"chandelier\"."));
+
+	// A parent that the export does not show may have one.
+	FJson Derived = MakeEnemyWith({});
+	Derived["parent_chain"] = {"BP_Creature", "Character", "Pawn", "Actor", "Object"};
+	Blueprint = FScriptedObjectEdit(Derived);
+	EXPECT_THAT(Operations("make the chandelier invisible in BP_Enemy"), testing::Contains("update  $ClassDefaultObject.Chandelier.bVisible \"False\""));
 }
 
 TEST_F(MemberEdit, ElementsAreSetAddedAndRemoved)

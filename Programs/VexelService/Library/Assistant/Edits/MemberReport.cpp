@@ -89,7 +89,7 @@ void TellWarnings(FEditSession& Session, const FEditOutcome& Outcome)
 {
 	if (!Outcome.Warnings.empty())
 	{
-		Session.Say("It has an effect on wires:\n\n" + BulletList(Outcome.Warnings, MaxShownMessages) + "\n");
+		Session.Say("This does not stay as it was:\n\n" + BulletList(Outcome.Warnings, MaxShownMessages) + "\n");
 	}
 }
 

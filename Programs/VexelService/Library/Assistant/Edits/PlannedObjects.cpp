@@ -1,6 +1,7 @@
 #include "Assistant/Edits/ValuePlanner.h"
 
 #include "Assistant/AssetFinder.h"
+#include "Assistant/Edits/Components.h"
 #include "Assistant/Edits/MemberNames.h"
 #include "Assistant/NameMatch.h"
 #include "Assistant/QuestionWords.h"
@@ -78,6 +79,11 @@ FPlanValue FValuePlanner::ReadComponent(const std::string& Said, const FValueSco
 	{
 		return Known->second;
 	}
+	if (const std::vector<FComponent> Fitting = FComponents(Model()).Find(Said); Fitting.size() > 1)
+	{
+		AddProblem(FComponents::DescribeChoice(Model(), Shortened(Said, 100), Fitting));
+		return Components[Key] = {};
+	}
 	FPlanValue Found = ProbeComponent(Said, Scope);
 	Found = Found.IsEmpty() ? WantComponent(Said, Scope) : Found;
 	if (Found.IsEmpty())
@@ -113,10 +119,19 @@ FPlanValue FValuePlanner::WantComponent(const std::string& Said, const FValueSco
 
 FPlanValue FValuePlanner::ProbeComponent(const std::string& Said, const FValueScope& Scope)
 {
-	std::vector<std::string> Names = {ToMemberName(Said)};
-	if (const FComponentWord* const Word = FindComponentWord(Said))
+	const FComponents Known(Model());
+	std::vector<std::string> Names;
+	for (const FComponent& Component : Known.Find(Said))
 	{
-		Names.emplace_back(Word->Class.substr(0, Word->Class.size() - std::string_view("Component").size()));
+		Names.push_back(Component.Name);
+	}
+	if (Names.empty() && !Known.AreAllKnown())
+	{
+		Names.push_back(ToMemberName(Said));
+		if (const FComponentWord* const Word = FindComponentWord(Said))
+		{
+			Names.emplace_back(Word->Class.substr(0, Word->Class.size() - std::string_view("Component").size()));
+		}
 	}
 	std::erase(Names, std::string());
 	for (std::size_t At = 0; At < std::min(Names.size(), MaxProbes); ++At)

@@ -1,13 +1,10 @@
 #include "PropertyNames.h"
 
-#include "Assistant/NameMatch.h"
-#include "Assistant/NodeTitles.h"
 #include "Assistant/QuestionWords.h"
 #include "Assistant/Words.h"
 
 #include <algorithm>
 #include <iterator>
-#include <set>
 
 namespace VexelService
 {
@@ -38,53 +35,6 @@ constexpr FPropertyWords PropertyWords[] = {
 	{"jump velocity|jump height", "JumpZVelocity", "real"},
 	{"gravity", "GravityScale", "real"},
 };
-
-struct FComponentWords
-{
-	std::string_view Words;
-	const char* Name;
-};
-
-constexpr FComponentWords ComponentWords[] = {
-	{"capsule|capsule component", "CapsuleComponent"},
-	{"movement|movement component|character movement|character movement component", "CharacterMovement"},
-	{"root|root component|scene root", "RootComponent"},
-};
-
-struct FNamedComponent
-{
-	std::string Name;
-	std::string Class;
-};
-
-// The components that the Blueprint adds, and those of its parents of which graphs speak.
-std::vector<FNamedComponent> FindComponents(const FBlueprintModel& Model)
-{
-	std::vector<FNamedComponent> Components;
-	const auto AddIfComponent = [&Components](const std::string& Name, std::string_view Type)
-	{
-		if (StartsWith(Type, "object.") && Type.find("Component") != std::string_view::npos)
-		{
-			Components.push_back({Name, std::string(LastSegment(Type, '.'))});
-		}
-	};
-	for (const FBlueprintProperty& Property : Model.Defaults.Parts)
-	{
-		AddIfComponent(Property.Id, Property.Type);
-	}
-	for (const FBlueprintGraph& Graph : Model.Graphs)
-	{
-		for (const FBlueprintNode& Node : Graph.Nodes)
-		{
-			const FBlueprintPin* const Output = IsNodeType(Node, "var.get") ? Node.FindOutput(LastSegment(Node.Type, '.')) : nullptr;
-			if (Output)
-			{
-				AddIfComponent(Output->Id, Output->Type);
-			}
-		}
-	}
-	return Components;
-}
 
 std::string PascalCase(std::string_view Said)
 {
@@ -128,47 +78,16 @@ std::vector<FPropertyName> GuessPropertyNames(std::string_view Said)
 	return Names;
 }
 
-std::vector<std::string> GuessComponentNames(const FBlueprintModel& Model, std::string_view Said)
+std::vector<std::string> GuessComponentNames(std::string_view Said)
 {
-	std::vector<std::string> Names;
-	const auto Add = [&Names](const std::string& Name)
+	if (IsOneOf(Said, "root|root component|scene root"))
 	{
-		if (std::find(Names.begin(), Names.end(), Name) == Names.end())
-		{
-			Names.push_back(Name);
-		}
-	};
-	const std::vector<FNamedComponent> Known = FindComponents(Model);
-	for (const FNamedComponent& Component : Known)
-	{
-		if (SameName(Component.Name, Said))
-		{
-			Add(Component.Name);
-		}
-	}
-	if (const FComponentWords* const Row = FindRow(ComponentWords, Said))
-	{
-		Add(Row->Name);
+		return {"RootComponent"};
 	}
 	constexpr std::string_view Suffix = "Component";
 	const std::string Name = PascalCase(Said);
 	const bool bSuffix = Name.size() > Suffix.size() && std::string_view(Name).substr(Name.size() - Suffix.size()) == Suffix;
-	Add(Name);
-	Add(bSuffix ? Name.substr(0, Name.size() - Suffix.size()) : Name + std::string(Suffix));
-	// "The mesh" is the one that there is; of two neither.
-	std::set<std::string> OfClass;
-	for (const FNamedComponent& Component : Known)
-	{
-		if (CompactName(Component.Class).find(CompactName(Said)) != std::string::npos)
-		{
-			OfClass.insert(Component.Name);
-		}
-	}
-	if (OfClass.size() == 1)
-	{
-		Add(*OfClass.begin());
-	}
-	return Names;
+	return {Name, bSuffix ? Name.substr(0, Name.size() - Suffix.size()) : Name + std::string(Suffix)};
 }
 
 }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "Assistant/BlueprintModel.h"
-
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,10 +18,7 @@ struct FPropertyName
 /** What a user's words may name of a class's properties, the likeliest first: "max walk speed" is MaxWalkSpeed. */
 std::vector<FPropertyName> GuessPropertyNames(std::string_view Said);
 
-/**
- * What a user's words may name of a Blueprint's components: "capsule" is CapsuleComponent, and "the mesh" is the one of such a class
- * that its graphs speak of. The likeliest first.
- */
-std::vector<std::string> GuessComponentNames(const FBlueprintModel& Model, std::string_view Said);
+/** What a component may be called that words name, where nothing tells which there are: "capsule" is Capsule or CapsuleComponent. */
+std::vector<std::string> GuessComponentNames(std::string_view Said);
 
 }

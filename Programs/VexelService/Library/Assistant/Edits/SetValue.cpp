@@ -1,7 +1,8 @@
 #include "MemberFamilies.h"
 
-#include "MemberReport.h"
+#include "Components.h"
 #include "MemberLookup.h"
+#include "MemberReport.h"
 #include "MemberSentence.h"
 #include "PropertyNames.h"
 #include "Assistant/AssetFinder.h"
@@ -184,8 +185,40 @@ private:
 		TellCompile(Session);
 	}
 
+	/** The names that the outermost object may have, to which the property belongs; nothing, and why, where there is none. */
+	std::vector<std::string> FindOutermost(const FBlueprintModel& Model, const std::string& VariableName, std::string& OutProblem) const
+	{
+		if (!VariableName.empty())
+		{
+			return {VariableName};
+		}
+		const FComponents Components(Model);
+		const std::string& Said = Member.Names.back();
+		const std::vector<FComponent> Found = Components.Find(Said);
+		if (Found.size() == 1)
+		{
+			return {Found.front().Name};
+		}
+		const std::vector<std::string> Guesses = GuessComponentNames(Said);
+		const bool bRoot = Guesses.size() == 1;
+		if (Found.empty() && (bRoot || !Components.AreAllKnown() || HasDefault(Model, Guesses)))
+		{
+			return Guesses;
+		}
+		OutProblem = Found.empty() ? Bold(Model.Name) + " has no component and no variable called " + Quoted(Said) + "."
+								   : FComponents::DescribeChoice(Model, Said, Found);
+		return {};
+	}
+
+	/** Whether the class's default object shows a property of one of the names. */
+	static bool HasDefault(const FBlueprintModel& Model, const std::vector<std::string>& Names)
+	{
+		return std::any_of(Names.begin(), Names.end(), [&Model](const std::string& Name)
+			{ return Model.Defaults.FindPart(Name) != nullptr; });
+	}
+
 	/** The objects that the words may mean, by their paths; VariableName is that of a variable whose field is meant, or empty. */
-	std::vector<std::string> GuessOwners(const FBlueprintModel& Model, const std::string& VariableName) const
+	std::vector<std::string> GuessOwners(const FBlueprintModel& Model, const std::string& VariableName, std::string& OutProblem) const
 	{
 		std::vector<std::string> Owners = {DefaultObject};
 		for (std::size_t Index = Member.Names.size(); Index > 1; --Index)
@@ -194,7 +227,7 @@ private:
 			std::vector<std::string> Names;
 			if (bOutermost)
 			{
-				Names = VariableName.empty() ? GuessComponentNames(Model, Member.Names[Index - 1]) : std::vector<std::string>{VariableName};
+				Names = FindOutermost(Model, VariableName, OutProblem);
 			}
 			for (const FPropertyName& Name : bOutermost ? std::vector<FPropertyName>() : GuessPropertyNames(Member.Names[Index - 1]))
 			{
@@ -293,7 +326,7 @@ private:
 		std::vector<std::string> Errors;
 		std::string Problem;
 		std::size_t NumAttempts = 0;
-		for (const std::string& Owner : GuessOwners(Session.Editor.Blueprint(), VariableName))
+		for (const std::string& Owner : GuessOwners(Session.Editor.Blueprint(), VariableName, Problem))
 		{
 			if (TryOwner(Session, Owner, Errors, Problem, NumAttempts))
 			{
