@@ -144,7 +144,9 @@ FString KeepDefault(UK2Node_EditablePinBase& Node, const FUserPinInfo& Info, con
 	TObjectPtr<UObject> Object;
 	FText Text;
 	Schema->GetPinDefaultValuesFromString(Type, &Node, Info.PinDefaultValue, Value, Object, Text);
-	return Schema->DefaultValueSimpleValidation(Type, Info.PinName, Value, Object, Text) ? Info.PinDefaultValue : FString();
+	// A type of references reads nothing from what names no object.
+	const bool bIsRead = Object || !Value.IsEmpty() || !Text.IsEmpty();
+	return bIsRead && Schema->DefaultValueSimpleValidation(Type, Info.PinName, Value, Object, Text) ? Info.PinDefaultValue : FString();
 }
 
 void SetType(UK2Node_EditablePinBase& Node, FUserPinInfo& Info, const FEdGraphPinType& Type)
