@@ -124,6 +124,32 @@ std::optional<std::vector<FJson>> FEditableBlueprint::PinsOf(const std::string& 
 	{
 		return std::vector<FJson>{ExecIn(), ExecOut("then_0"), ExecOut("then_1")};
 	}
+	if (Type == "macro.ForLoop")
+	{
+		return std::vector<FJson>{ExecIn(), DataIn("FirstIndex", "int"), DataIn("LastIndex", "int"), ExecOut("LoopBody"),
+			DataOut("Index", "int"), ExecOut("Completed")};
+	}
+	if (Type == "macro.FlipFlop")
+	{
+		return std::vector<FJson>{ExecIn("None"), ExecOut("A"), ExecOut("B"), DataOut("IsA", "bool")};
+	}
+	if (Type == "macro.DoOnce")
+	{
+		return std::vector<FJson>{ExecIn(), ExecIn("Reset"), ExecOut("Completed")};
+	}
+	if (IsOf("cast."))
+	{
+		return std::vector<FJson>{ExecIn(), ExecOut(), ExecOut("CastFailed"), DataIn("Object", "object"), DataOut("As " + Last, "object." + Last)};
+	}
+	if (Type == "var.self")
+	{
+		return std::vector<FJson>{DataOut("self", "object.Actor")};
+	}
+	if (IsOf("call.KismetMathLibrary.") || IsOf("call.KismetStringLibrary."))
+	{
+		return std::vector<FJson>{DataIn("A", "wildcard"), DataIn("B", "wildcard"), DataIn("Location", "struct.Vector"),
+			DataOut("ReturnValue", "wildcard")};
+	}
 	if (Type == "call.GameplayStatics.GetPlayerPawn" || Type == "call.Actor.GetTransform")
 	{
 		return std::vector<FJson>{DataOut("ReturnValue", "object.Pawn")};
@@ -131,7 +157,9 @@ std::optional<std::vector<FJson>> FEditableBlueprint::PinsOf(const std::string& 
 	return IsOf("call.")
 		? std::optional<std::vector<FJson>>({ExecIn(), ExecOut(), DataIn("self", "object.Actor", "self"), DataIn("Delegate", "delegate"),
 			  DataIn("SpawnTransform", "struct.Transform"), DataIn("RelativeTransform", "struct.Transform"), DataIn("InString", "string"),
-			  DataIn("Duration", "real"), DataOut("ReturnValue", "object.Actor")})
+			  DataIn("Duration", "real"), DataIn("Object", "object"), DataIn("DamagedActor", "object.Actor"), DataIn("NewLocation", "struct.Vector"),
+			  DataIn("LevelName", "name"),
+			  DataOut("ReturnValue", "object.Actor")})
 		: std::nullopt;
 }
 

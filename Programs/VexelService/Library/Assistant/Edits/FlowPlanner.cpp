@@ -264,7 +264,8 @@ FPlanValue FFlowPlanner::ReadSlot(const FFlowStep& Step, const FActionPin& Pin)
 	if (Pin.Slot == "seconds" && Has(Step, "minutes"))
 	{
 		const std::optional<std::string> Minutes = ReadNumber(CapturedText(Step.Captures, "minutes"));
-		return {.Literal = Minutes ? std::to_string(std::atof(Minutes->c_str()) * 60) : std::string(), .Pin = {}, .Type = "real"};
+		const std::string Seconds = Minutes ? TrimmedNumber(std::to_string(std::atof(Minutes->c_str()) * 60)) : std::string();
+		return {.Literal = Seconds, .Pin = {}, .Type = "real"};
 	}
 	return Has(Step, Pin.Slot) ? Values.Read(Words(Step.Captures, Pin.Slot), Pin.Kind, Scope) : FPlanValue();
 }

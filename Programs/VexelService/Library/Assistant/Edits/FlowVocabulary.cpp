@@ -96,6 +96,7 @@ constexpr FAction Actions[] = {
 		.Type = "call.GameplayStatics.ApplyDamage",
 		.Pins = {{{"target", "DamagedActor", Object}, {"value", "BaseDamage", Number}}}},
 	{.Id = "open_level", .Type = "call.GameplayStatics.OpenLevel", .Pins = {{{"level", "LevelName", Name}}}},
+	{.Id = "restart", .Type = "call.KismetSystemLibrary.ExecuteConsoleCommand", .Values = "Command=RestartLevel"},
 	{.Id = "quit", .Type = "call.KismetSystemLibrary.QuitGame"},
 	{.Id = "set", .Kind = SetVariable, .Type = "var.set"},
 	{.Id = "add", .Kind = ChangeVariable, .Type = "call.op.Add"},
@@ -225,7 +226,7 @@ constexpr FActionWording ActionWordings[] = {
 	{"damage {target} by {value}", "apply_damage"},
 	{"open|load level|map {level}", "open_level"},
 	{"go|travel|switch|change to level|map {level}", "open_level"},
-	{"restart|reload level|map|game", "open_level", "level=current level"},
+	{"restart|reload level|map|game", "restart"},
 	{"quit|exit [game]", "quit"},
 	{"end game", "quit"},
 	{"start|set|create [repeating|looping] timer [by] [function|event] [name|named|called|for|that] [calls|runs] {name} every "
