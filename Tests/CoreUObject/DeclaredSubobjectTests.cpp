@@ -367,9 +367,18 @@ TEST_F(FDeclaredSubobjectTest, MistakesInTheTableAreReportedAndTheRestIsMade)
 
 TEST_F(FDeclaredSubobjectTest, TableThatComesAfterADefaultObjectIsRefused)
 {
-	GetDefaults(TEXT("SubHouse"));
+	GetDefaults(TEXT("SubPiece"));
 	const TArray<FString> Errors =
-		LoadScriptSubobjects(MakeSource(TEXT("Table.txt"), "USubHouse | Floor | Floor7 | USubPiece | |\n")).Errors;
+		LoadScriptSubobjects(MakeSource(TEXT("Table.txt"), "USubPiece | Above | Floor7 | USubPiece | |\n")).Errors;
 	ASSERT_EQ(Errors.Num(), 1);
 	EXPECT_TRUE(Errors[0].Contains(TEXT("or a default object already"))) << TCHAR_TO_UTF8(*Errors[0]);
+}
+
+TEST_F(FDeclaredSubobjectTest, TableThatIsReadAgainChangesNothing)
+{
+	UObject* const House = GetDefaults(TEXT("SubHouse"));
+	UObject* const Tower = GetDefaults(TEXT("SubTower"));
+	EXPECT_EQ(LoadScriptSubobjects(MakeSource(TEXT("Table.txt"), Table)).Errors, TArray<FString>());
+	ExpectOwnParts(NewObject<UObject>(Package, House->GetClass()), House);
+	EXPECT_EQ(NumParts(NewObject<UObject>(Package, Tower->GetClass())), 4);
 }

@@ -92,7 +92,14 @@ bool FScriptSubobjectTable::ReadRow(const FString& Line, FRow& OutRow)
 	{
 		return false;
 	}
-	if (!OutRow.Owner->bLaidOutAtRunTime || OutRow.Owner->GetDefaultObject(false))
+	const bool bHasDefaultObject = OutRow.Owner->GetDefaultObject(false) != nullptr;
+	const FDeclaredDefaults* const Known = FObjectBootstrap::GetDeclaredDefaults(OutRow.Owner);
+	if (bHasDefaultObject && Known && Known->GetSubobjects())
+	{
+		// The table is read again: as with a header, what is there already is left alone.
+		return false;
+	}
+	if (!OutRow.Owner->bLaidOutAtRunTime || bHasDefaultObject)
 	{
 		return Refuse(OutRow.Line, FString::Printf(TEXT("%s has a constructor or a default object already"), *Columns[OwnerColumn]));
 	}
