@@ -28,6 +28,9 @@ endif()
 
 # A module registers itself when its library is loaded: one that a target depends on is loaded though no symbol of it is used.
 add_link_options(LINKER:--no-as-needed)
+# The loader looks up a function at its first call otherwise, and saves the registers on the stack for that: with what a copy has
+# left in them, which may be a token. The tables of functions can be read only then, too.
+add_link_options(LINKER:-z,relro,-z,now)
 
 find_program(VEXEL_MOLD mold)
 if(VEXEL_MOLD)

@@ -65,6 +65,9 @@ protected:
 		Words.insert(Words.end(), {"--service", GetUrl(), "--json"});
 		FProgramSurroundings Surroundings = MakeSurroundings({});
 		Surroundings.PassedDescriptors = {Output.GetPassed()};
+		// The system's libraries look up functions at their first call, and the loader saves registers on the stack for that: with
+		// what a copy has left in them.
+		Surroundings.Environment.push_back("LD_BIND_NOW=1");
 		return std::make_unique<FStartedProgram>(Words, Surroundings);
 	}
 
