@@ -297,6 +297,7 @@ TEST_F(FNodeTypeTableTest, AnObjectNamedBehindAPlainKindIsSetOnItsPin)
 {
 	const FNamedCase NamedCases[] = {
 		{TEXT("call.spawn_actor"), TEXT("Actor"), TEXT("Class")},
+		{TEXT("call.add_component_by_class"), TEXT("SceneComponent"), TEXT("Class")},
 		{TEXT("call.create_object"), TEXT("Actor"), TEXT("Class")},
 		{TEXT("call.get_class_defaults"), TEXT("Pawn"), TEXT("Class")},
 		{TEXT("call.create_widget"), TEXT("UserWidget"), TEXT("Class")},

@@ -272,7 +272,6 @@ struct FObjectRule
 
 constexpr FFixedRule FixedRules[] = {
 	{TEXT("K2Node_CallParentFunction"), TEXT("call.super")},
-	{TEXT("K2Node_AddComponentByClass"), TEXT("call.add_component_by_class")},
 	{TEXT("K2Node_Copy"), TEXT("call.copy")},
 	{TEXT("K2Node_CustomEvent"), TEXT("event.custom")},
 	{TEXT("K2Node_Self"), TEXT("var.self")},
@@ -340,6 +339,7 @@ const TArray<const TCHAR*> AssetPins = {TEXT("OutputAssetClass"), TEXT("Asset"),
 const TArray<const TCHAR*> EnumPins = {TEXT("Enum"), TEXT("Enumerator"), TEXT("A")};
 
 const FVexelOptionalObjectRule OptionalObjectRules[] = {
+	{TEXT("K2Node_AddComponentByClass"), TEXT("call.add_component_by_class"), ClassPins},
 	{TEXT("K2Node_CreateWidget"), TEXT("call.create_widget"), ClassPins},
 	{TEXT("K2Node_CreateDragDropOperation"), TEXT("call.create_drag_drop"), ClassPins},
 	{TEXT("K2Node_GenericCreateObject"), TEXT("call.create_object"), ClassPins},
