@@ -23,7 +23,7 @@ FColumnAssignment::FColumnAssignment(const FFormatterGraph& InGraph)
 	AssignExecution();
 	AssignValues();
 	MoveRootsNear();
-	BalanceValues();
+	Balance();
 }
 
 void FColumnAssignment::OrderExecution()
@@ -219,49 +219,44 @@ int32 FColumnAssignment::GetLastColumn(int32 Node) const
 	return Last;
 }
 
-void FColumnAssignment::BalanceValues()
+void FColumnAssignment::Balance()
 {
+	TArray<bool> IsRoot;
+	IsRoot.Init(false, Graph.Nodes.Num());
+	for (const int32 Root : Roots)
+	{
+		IsRoot[Root] = true;
+	}
 	for (const TArray<int32>& Component : Graph.FindComponents())
 	{
 		FColumnBalance Balance;
-		// All execution is one point, which stays: where its nodes are, the wires' least lengths say.
 		TMap<int32, int32> Points;
 		for (const int32 Node : Component)
 		{
-			if (!Graph.Nodes[Node].bExec)
-			{
-				Points.Add(Node, Balance.AddPoint(Columns[Node]));
-			}
+			Points.Add(Node, Balance.AddPoint(Columns[Node]));
 		}
-		if (Points.IsEmpty())
-		{
-			continue;
-		}
-		const int32 Execution = Balance.AddPoint(0);
-		const auto Find = [&](int32 Node)
-		{
-			const int32* const Point = Points.Find(Node);
-			return Point ? *Point : Execution;
-		};
-		const auto FixedColumn = [this](int32 Node)
-		{ return Graph.Nodes[Node].bExec ? Columns[Node] : 0; };
+		// Where execution begins holds to the left edge, as the events of a graph stand in line, unless more than one wire asks otherwise.
+		const int32 Edge = Balance.AddPoint(0);
 		for (const int32 Node : Component)
 		{
+			if (IsRoot[Node])
+			{
+				Balance.AddWire(Edge, Points[Node], 0);
+			}
 			for (const int32 WireIndex : Graph.Nodes[Node].Outputs)
 			{
-				const FFormatterWire& Wire = Graph.Wires[WireIndex];
-				const bool bIsOfValue = !Graph.Nodes[Wire.From].bExec || !Graph.Nodes[Wire.To].bExec;
 				// One that goes back closes a loop, and tells nothing.
-				if (bIsOfValue && Columns[Wire.From] < Columns[Wire.To])
+				const FFormatterWire& Wire = Graph.Wires[WireIndex];
+				if (Columns[Wire.From] < Columns[Wire.To])
 				{
-					Balance.AddWire(Find(Wire.From), Find(Wire.To), 1 + FixedColumn(Wire.From) - FixedColumn(Wire.To));
+					Balance.AddWire(Points[Wire.From], Points[Wire.To], 1);
 				}
 			}
 		}
 		Balance.Run();
 		for (const auto& [Node, Point] : Points)
 		{
-			Columns[Node] = Balance.GetColumn(Point) - Balance.GetColumn(Execution);
+			Columns[Node] = Balance.GetColumn(Point) - Balance.GetColumn(Edge);
 		}
 	}
 }

@@ -28,8 +28,8 @@ private:
 	void AssignValues();
 	void AssignValue(int32 Node);
 	void MoveRootsNear();
-	/** Moves values to where their wires are shortest together, between what they read and what reads them. */
-	void BalanceValues();
+	/** Moves all nodes to where their wires are shortest together, each to the right of what leads to it. */
+	void Balance();
 	/** The column before the first that the node leads to; the greatest number where it leads nowhere. */
 	int32 GetLastColumn(int32 Node) const;
 

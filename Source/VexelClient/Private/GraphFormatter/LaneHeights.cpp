@@ -13,6 +13,9 @@ constexpr double Grid = 16;
 /** After as many rounds hardly anything moves. */
 constexpr int32 NumRounds = 24;
 constexpr int32 NumTightenings = 8;
+constexpr int32 NumFillings = 3;
+/** What is nearer stays in its order. */
+constexpr double LeastJump = 32;
 }
 
 FLaneHeights::FLaneHeights(const TArray<FLaneBlock>& InBlocks)
@@ -30,10 +33,15 @@ FLaneHeights::FLaneHeights(const TArray<FLaneBlock>& InBlocks)
 
 void FLaneHeights::Place(const TArray<int32>& InOrder)
 {
+	Heights.Init(0, Blocks.Num());
+	Settle(InOrder);
+}
+
+void FLaneHeights::Settle(const TArray<int32>& InOrder)
+{
 	Order = InOrder;
 	FindNeighbours();
-	TArray<double> Wanted;
-	Wanted.Init(0, Blocks.Num());
+	TArray<double> Wanted = Heights;
 	Heights = PushDown(Wanted);
 	for (int32 Round = 0; Round < NumRounds; ++Round)
 	{
@@ -52,6 +60,70 @@ void FLaneHeights::Place(const TArray<int32>& InOrder)
 	Tighten(false);
 	SnapLanes();
 	Tighten(true);
+}
+
+void FLaneHeights::FillGaps()
+{
+	TArray<TArray<int32>> BlocksOfColumns;
+	BlocksOfColumns.SetNum(NumColumns);
+	for (int32 Block = 0; Block < Blocks.Num(); ++Block)
+	{
+		for (int32 Cell = 0; Cell < Blocks[Block].Cells.Num(); ++Cell)
+		{
+			BlocksOfColumns[Blocks[Block].FirstColumn + Cell - FirstColumn].Add(Block);
+		}
+	}
+	for (int32 Round = 0; Round < NumFillings; ++Round)
+	{
+		for (const int32 Block : Order)
+		{
+			const double Wanted = GetWanted(Block);
+			const double Distance = FMath::Abs(Wanted - Heights[Block]);
+			const double Free = Distance > LeastJump ? FindFreeHeight(Block, Wanted, Distance, BlocksOfColumns) : Heights[Block];
+			Heights[Block] = FMath::Abs(Wanted - Free) < Distance - LeastJump ? Free : Heights[Block];
+		}
+	}
+}
+
+double FLaneHeights::FindFreeHeight(
+	int32 Block, double Wanted, double Distance, const TArray<TArray<int32>>& BlocksOfColumns) const
+{
+	/** Heights at which the block would cover another one. */
+	struct FTaken
+	{
+		double From;
+		double To;
+	};
+	TArray<FTaken> Taken;
+	const FLaneBlock& Own = Blocks[Block];
+	for (int32 Cell = 0; Cell < Own.Cells.Num(); ++Cell)
+	{
+		const int32 Column = Own.FirstColumn + Cell;
+		for (const int32 Other : BlocksOfColumns[Column - FirstColumn])
+		{
+			const FLaneCell& OtherCell = Blocks[Other].Cells[Column - Blocks[Other].FirstColumn];
+			const FTaken Range{Heights[Other] + OtherCell.Top - Own.Cells[Cell].Bottom, Heights[Other] + OtherCell.Bottom - Own.Cells[Cell].Top};
+			if (Other != Block && Range.To > Wanted - Distance && Range.From < Wanted + Distance)
+			{
+				Taken.Add(Range);
+			}
+		}
+	}
+	double Below = Wanted;
+	Algo::Sort(Taken, [](const FTaken& A, const FTaken& B)
+		{ return A.From < B.From; });
+	for (const FTaken& Range : Taken)
+	{
+		Below = Range.From < Below && Below < Range.To ? Range.To : Below;
+	}
+	double Above = Wanted;
+	Algo::Sort(Taken, [](const FTaken& A, const FTaken& B)
+		{ return A.To > B.To; });
+	for (const FTaken& Range : Taken)
+	{
+		Above = Range.From < Above && Above < Range.To ? Range.From : Above;
+	}
+	return Wanted - Above < Below - Wanted ? Above : Below;
 }
 
 void FLaneHeights::FindNeighbours()

@@ -21,6 +21,11 @@ public:
 	/** Places the blocks in the order, from top to bottom. */
 	void Place(const TArray<int32>& Order);
 
+	/** The same from where the blocks stand; those that come too near to others in the new order move down. */
+	void Settle(const TArray<int32>& Order);
+	/** Lets blocks pass others, to free room nearer to where their wires ask them to be. Their order is then that of their heights. */
+	void FillGaps();
+
 	/** The blocks' origins. */
 	const TArray<double>& Get() const { return Heights; }
 	/** The heights that the blocks come to in some rounds in which nothing keeps them from passing each other. */
@@ -38,6 +43,8 @@ private:
 	double GetWanted(int32 Block) const;
 	double GetLeast(int32 Block) const;
 	double GetMost(int32 Block) const;
+	/** The height nearest to the one wanted at which the block covers none; farther away than the distance, others may be covered. */
+	double FindFreeHeight(int32 Block, double Wanted, double Distance, const TArray<TArray<int32>>& BlocksOfColumns) const;
 	void Tighten(bool bValuesAlone);
 	void SnapLanes();
 

@@ -15,7 +15,13 @@ constexpr double Grid = 16;
 /** How many orders are tried; a large graph is looked at less often, so that a user does not wait. */
 constexpr int32 MaxTries = 8;
 constexpr int32 MinTries = 3;
-constexpr int32 BlocksOfAllTries = 6000;
+constexpr int32 BlocksOfAllTries = 4000;
+/** How often blocks are let pass each other in each try. */
+constexpr int32 NumFillings = 2;
+/** Further from the order before with each try. */
+constexpr int32 RoundsOfTry = 10;
+/** Wire that may be spent to save one crossing of values. */
+constexpr double LengthOfCrossing = 200;
 
 double SnapUp(double Value)
 {
@@ -28,22 +34,25 @@ TArray<double> FindHeights(const TArray<FLaneBlock>& Blocks)
 	FLaneOrder Order(Blocks);
 	FLaneHeights Heights(Blocks);
 	TArray<double> Best;
-	int64 LeastCost = MAX_int64;
-	double LeastLength = 0;
+	double LeastCost = MAX_dbl;
 	const int32 NumTries = FMath::Clamp(BlocksOfAllTries / Blocks.Num(), MinTries, MaxTries);
-	for (int32 Try = 0; Try < NumTries; ++Try)
+	for (int32 Try = 1; Try <= NumTries; ++Try)
 	{
 		Order.Improve();
 		Heights.Place(Order.Get());
-		const int64 Cost = Order.GetCost();
-		const double Length = Heights.GetLength();
-		if (Cost < LeastCost || (Cost == LeastCost && Length < LeastLength))
+		for (int32 Filling = 0; Filling < NumFillings; ++Filling)
+		{
+			Heights.FillGaps();
+			Order.SortBy(Heights.Get());
+			Heights.Settle(Order.Get());
+		}
+		const double Cost = LengthOfCrossing * static_cast<double>(Order.GetCost()) + Heights.GetLength();
+		if (Cost < LeastCost)
 		{
 			LeastCost = Cost;
-			LeastLength = Length;
 			Best = Heights.Get();
 		}
-		Order.SortBy(Heights.GetUnordered(Try + 1));
+		Order.SortBy(Heights.GetUnordered(RoundsOfTry * Try));
 	}
 	return Best;
 }

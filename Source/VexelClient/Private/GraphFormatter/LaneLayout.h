@@ -10,6 +10,8 @@ struct FLayoutGaps
 {
 	double BetweenColumns;
 	double BetweenNodes;
+	/** Above and below components. */
+	double BetweenBlocks = 0;
 };
 
 /** Where the nodes of one component stand: its lanes, values and long wires as blocks, in the order in which the fewest wires cross. */
