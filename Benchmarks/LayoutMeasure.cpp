@@ -111,6 +111,14 @@ FLayoutSubject::FLayoutSubject(const TArray<UEdGraphNode*>& InNodes)
 	{
 		Wires.push_back({Wire.From, Wire.To, Wire.FromY, Wire.ToY, Wire.bExec});
 	}
+	for (const FFormatterTie& Tie : Graph.Ties)
+	{
+		const int32 Other = Graph.FindIndex(*Tie.OtherNode);
+		if (Tie.bIsEvent && Other != INDEX_NONE)
+		{
+			Wires.push_back({Tie.Node, Other, Tie.EventY, Tie.CallerY, false});
+		}
+	}
 }
 
 std::vector<FVector2D> FLayoutSubject::GetPlaces() const

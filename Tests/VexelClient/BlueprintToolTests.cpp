@@ -37,6 +37,63 @@ TEST_F(FBlueprintToolTest, NodesAreSpawnedLinkedAndCompiledAndAllOfItIsUndone)
 	EXPECT_EQ(ToStd(Before), ToStd(ExportText()));
 }
 
+TEST_F(FBlueprintToolTest, WhatSeveralCallsPlacedIsLaidOutAsOneUnlessSomebodyMovesIt)
+{
+	ASSERT_THAT(ItemErrorsOf(TEXT("node_spawn"),
+					"{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'event.custom'},"
+					"{'node_type': 'flow.if'}, {'node_type': 'call.KismetSystemLibrary.Delay'},"
+					"{'node_type': 'call.KismetSystemLibrary.PrintString'}]}"),
+		IsEmpty());
+	const auto Connect = [this](const std::string& From, const std::string& To)
+	{
+		EXPECT_THAT(ItemErrorsOf(TEXT("node_link"),
+						"{'blueprint': 'BP', 'graph': 'EventGraph', 'links': [{'from_node': '" + From + "', 'from_pin': 'then', 'to_node': '" + To +
+							"', 'to_pin': 'execute'}]}"),
+			IsEmpty());
+	};
+	Connect("CustomEvent_0", "Delay_0");
+	Connect("Delay_0", "PrintString_0");
+	// Between two that stand side by side by now.
+	Connect("CustomEvent_0", "Branch_0");
+	Connect("Branch_0", "Delay_0");
+	const UEdGraphNode* const Event = FindNode(TEXT("CustomEvent_0"));
+	const UEdGraphNode* const Branch = FindNode(TEXT("Branch_0"));
+	UEdGraphNode* const Delay = FindNode(TEXT("Delay_0"));
+	const UEdGraphNode* const Print = FindNode(TEXT("PrintString_0"));
+	EXPECT_LT(Event->NodePosX, Branch->NodePosX);
+	EXPECT_LT(Branch->NodePosX, Delay->NodePosX);
+	EXPECT_LT(Delay->NodePosX, Print->NodePosX);
+	EXPECT_EQ(Branch->NodePosY, Delay->NodePosY);
+
+	Delay->NodePosX += 1000;
+	Delay->NodePosY += 1000;
+	const FIntPoint Moved(Delay->NodePosX, Delay->NodePosY);
+	Connect("CustomEvent_0", "Branch_0");
+	ASSERT_THAT(ItemErrorsOf(TEXT("node_link"),
+					"{'blueprint': 'BP', 'graph': 'EventGraph', 'links': [{'from_node': 'CustomEvent_0', 'from_pin': 'then', 'to_node': "
+					"'Branch_0', 'to_pin': 'execute', 'remove': true}]}"),
+		IsEmpty());
+	EXPECT_EQ(Moved, FIntPoint(Delay->NodePosX, Delay->NodePosY)) << "it is the user's from then on";
+}
+
+TEST_F(FBlueprintToolTest, AConversionThatTheEditorPutsInIsLaidOutWithTheRest)
+{
+	ASSERT_THAT(ItemErrorsOf(TEXT("node_spawn"),
+					"{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': [{'node_type': 'call.KismetMathLibrary.RandomInteger'},"
+					"{'node_type': 'call.KismetSystemLibrary.PrintString'}]}"),
+		IsEmpty());
+	ASSERT_THAT(ItemErrorsOf(TEXT("node_link"),
+					"{'blueprint': 'BP', 'graph': 'EventGraph', 'links': [{'from_node': 'RandomInteger_0', 'from_pin': 'ReturnValue', 'to_node': "
+					"'PrintString_0', 'to_pin': 'InString'}]}"),
+		IsEmpty());
+	const UEdGraphNode* const Random = FindNode(TEXT("RandomInteger_0"));
+	const UEdGraphNode* const Print = FindNode(TEXT("PrintString_0"));
+	const UEdGraphNode* const Conversion = Print->FindPinChecked(TEXT("InString"))->LinkedTo[0]->GetOwningNode();
+	ASSERT_NE(Random, Conversion);
+	EXPECT_LT(Random->NodePosX, Conversion->NodePosX);
+	EXPECT_LT(Conversion->NodePosX, Print->NodePosX);
+}
+
 TEST_F(FBlueprintToolTest, AnItemThatFailsSaysWhatWouldBeRightAndLeavesNothing)
 {
 	ASSERT_THAT(ItemErrorsOf(TEXT("node_spawn"),

@@ -186,6 +186,96 @@ TEST_F(FGraphFormatterTest, ACommentGoesWithTheNodesThatLieOnIt)
 	EXPECT_EQ(500, Elsewhere.NodeWidth);
 }
 
+TEST_F(FGraphFormatterTest, AnEventThatIsHandedToANodeStandsNearItWithALaneOfItsOwn)
+{
+	UEdGraphNode& Begin = Place<UK2Node_CustomEvent>();
+	UEdGraphNode* Last = &Begin;
+	for (int32 Index = 0; Index < 6; ++Index)
+	{
+		UEdGraphNode& Print = Call("KismetSystemLibrary.PrintString");
+		Link(*Last, TEXT("then"), Print, TEXT("execute"));
+		Last = &Print;
+	}
+	UEdGraphNode& Timer = Call("KismetSystemLibrary.K2_SetTimerDelegate");
+	Link(*Last, TEXT("then"), Timer, TEXT("execute"));
+	UEdGraphNode& Event = Place<UK2Node_CustomEvent>();
+	UEdGraphNode& Delay = Call("KismetSystemLibrary.Delay");
+	Link(Event, TEXT("then"), Delay, TEXT("execute"));
+	Link(Event, TEXT("OutputDelegate"), Timer, TEXT("Delegate"));
+	Event.NodePosY = 5000;
+	TArray<UEdGraphNode*> All;
+	for (UEdGraphNode* const Node : EventGraph->Nodes)
+	{
+		All.Add(Node);
+	}
+	GraphFormatter::FormatSelectedNodes(*EventGraph, All, 200.0, 200.0, TSet<UEdGraphNode*>{&Event, &Delay});
+
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+	EXPECT_EQ(FIntPoint(0, 0), FIntPoint(Begin.NodePosX, Begin.NodePosY));
+	EXPECT_EQ(Last->NodePosY, Timer.NodePosY) << "the lane is straight to its end";
+	EXPECT_GT(Delay.NodePosX, Event.NodePosX);
+	const FBox2D Bounds = FCommentFrames::GetBounds(Event);
+	EXPECT_LT(Bounds.Max.X, Timer.NodePosX) << "its wire goes on to the right";
+	EXPECT_LT(Timer.NodePosX - Bounds.Max.X, 400);
+	EXPECT_LT(FMath::Abs(Event.NodePosY - Timer.NodePosY), 600);
+}
+
+TEST_F(FGraphFormatterTest, WhatIsNewGoesIntoTheFirstRoomThatIsLargeEnough)
+{
+	const auto PlaceRow = [this](int32 Y)
+	{
+		UEdGraphNode& Event = Place<UK2Node_CustomEvent>();
+		UEdGraphNode& Print = Call("KismetSystemLibrary.PrintString");
+		Link(Event, TEXT("then"), Print, TEXT("execute"));
+		Print.NodePosX = 300;
+		Event.NodePosY = Print.NodePosY = Y;
+		return TArray<UEdGraphNode*>{&Event, &Print};
+	};
+	PlaceRow(0);
+	PlaceRow(250);
+	PlaceRow(1000);
+	const TArray<UEdGraphNode*> New = PlaceRow(1256);
+	const auto FormatNew = [&]
+	{ GraphFormatter::FormatSelectedNodes(*EventGraph, New, 200.0, 200.0, TSet<UEdGraphNode*>(New)); };
+	FormatNew();
+	EXPECT_GT(New[0]->NodePosY, 250);
+	EXPECT_LT(New[0]->NodePosY, 1000);
+	EXPECT_EQ(0, CountOverlaps(*EventGraph));
+	const TArray<FIntPoint> Once = GetPositions();
+	FormatNew();
+	EXPECT_TRUE(Once == GetPositions()) << "its own place is as free as before";
+
+	// Somebody's comment takes the room.
+	UEdGraphNode_Comment& Comment = Place<UEdGraphNode_Comment>();
+	Comment.NodePosX = -50;
+	Comment.NodePosY = 450;
+	Comment.NodeWidth = 800;
+	Comment.NodeHeight = 400;
+	New[0]->NodePosY = New[1]->NodePosY = 1256;
+	FormatNew();
+	EXPECT_GT(New[0]->NodePosY, 1000);
+	EXPECT_EQ(400, Comment.NodeHeight);
+
+	// Nobody is asked about what somebody placed.
+	New[0]->NodePosY = 4000;
+	Format(New);
+	EXPECT_EQ(4000, New[0]->NodePosY);
+}
+
+TEST_F(FGraphFormatterTest, WhatIsNewCoversNoWireOfOthers)
+{
+	UEdGraphNode& Event = Place<UK2Node_CustomEvent>();
+	UEdGraphNode& Below = Call("KismetSystemLibrary.PrintString");
+	Link(Event, TEXT("then"), Below, TEXT("execute"));
+	Below.NodePosX = 250;
+	Below.NodePosY = 900;
+	UEdGraphNode& New = Place<UK2Node_CustomEvent>();
+	UEdGraphNode& NewPrint = Call("KismetSystemLibrary.PrintString");
+	Link(New, TEXT("then"), NewPrint, TEXT("execute"));
+	GraphFormatter::FormatSelectedNodes(*EventGraph, {&New, &NewPrint}, 200.0, 200.0, TSet<UEdGraphNode*>{&New, &NewPrint});
+	EXPECT_GT(New.NodePosY, Below.NodePosY);
+}
+
 TEST_F(FGraphFormatterTest, AValueThatTwoReadStandsBeforeBothAndLanesStayStraight)
 {
 	UEdGraphNode& Event = Place<UK2Node_CustomEvent>();

@@ -149,9 +149,9 @@ TEST_F(FNodeTypeIndexTest, AnotherThreadWaitsForTheGameThread)
 
 TEST_F(FNodeTypeIndexTest, AnUnknownIdHasNeighbours)
 {
-	const TArray<TVexelNodeTypeId> Nearest = FVexelNodeTypeIndex::Get().FindNearest(TVexelNodeTypeId(TEXT("call.KismetSystemLibary.PrintSting")), 3);
+	const TArray<FString> Nearest = FVexelNodeTypeIndex::Get().FindNearest(TVexelNodeTypeId(TEXT("call.KismetSystemLibary.PrintSting")), 3);
 	ASSERT_EQ(3, Nearest.Num());
-	EXPECT_TRUE(Nearest.Contains(TVexelNodeTypeId(TEXT("call.KismetSystemLibrary.PrintString"))));
+	EXPECT_TRUE(Nearest.Contains(TEXT("call.KismetSystemLibrary.PrintString")));
 	EXPECT_TRUE(FVexelNodeTypeIndex::Get().FindNearest(TVexelNodeTypeId(), 3).IsEmpty());
 }
 

@@ -1,6 +1,7 @@
 #include "Blueprint/VexelBlueprintManipulator.h"
 
 #include "Blueprint/VexelBlueprintMapping.h"
+#include "Blueprint/VexelNearestTexts.h"
 #include "Blueprint/VexelNodeTypeIndex.h"
 #include "GraphFormatter/GraphFormatter.h"
 
@@ -12,20 +13,55 @@
 #include "Kismet2/CompilerResultsLog.h"
 #include "Kismet2/KismetEditorUtilities.h"
 #include "ScopedTransaction.h"
+#include "UObject/Package.h"
 
 namespace
 {
 /** Both spacings of a layout, in units of the graph. */
 constexpr double LayoutSpacing = 200.0;
-/** Type ids that an unknown one is answered with. */
-constexpr int32 MaxNearestTypes = 5;
-/** Unknown types of one call that are answered so: to look for what is like an id takes milliseconds. */
-constexpr int32 MaxListings = 20;
+/** Ids that an unknown one is answered with. */
+constexpr int32 MaxNearest = 5;
 
 FVexelError_BlueprintManipulationFailed MakeError(const FVexelErrorPlace& Place, FString Detail)
 {
 	return FVexelError_BlueprintManipulationFailed(Place, MoveTemp(Detail));
 }
+
+/** The transaction of one edit of a graph. */
+class FGraphEdit
+{
+public:
+	FGraphEdit(const FText& Description, UEdGraph& InGraph)
+		: Transaction(Description)
+		, Graph(InGraph)
+		, NumNodesBefore(Graph.Nodes.Num())
+		, bWasDirty(Graph.GetPackage()->IsDirty())
+	{
+		Graph.Modify();
+	}
+
+	/** The nodes that the edit has added so far, those that the editor put between pins too, are the conversation's to place. */
+	void RememberNewNodes(FVexelPlacedNodes& Placed) const
+	{
+		for (int32 Index = NumNodesBefore; Index < Graph.Nodes.Num(); ++Index)
+		{
+			Placed.Remember(*Graph.Nodes[Index]);
+		}
+	}
+
+	/** Leaves neither an entry of undo nor a package to save. What the editor had begun is its own to take back. */
+	void Refuse()
+	{
+		Transaction.Cancel();
+		Graph.GetPackage()->SetDirtyFlag(bWasDirty);
+	}
+
+private:
+	FScopedTransaction Transaction;
+	UEdGraph& Graph;
+	const int32 NumNodesBefore;
+	const bool bWasDirty;
+};
 
 void SetDefault(const UEdGraphSchema& Schema, UEdGraphPin& Pin, const FString& Value)
 {
@@ -36,6 +72,13 @@ void SetDefault(const UEdGraphSchema& Schema, UEdGraphPin& Pin, const FString& V
 	{
 		Pin.DefaultValue = Value;
 	}
+}
+
+FString ListNearest(const TArray<FString>& Ids)
+{
+	const FString List = FString::JoinBy(Ids, TEXT(", "), [](const FString& Id)
+		{ return FString::Printf(TEXT("'%s'"), *Id); });
+	return List.IsEmpty() ? List : TEXT(". Nearest: ") + List;
 }
 
 FString ListPins(const UEdGraphNode& Node, FVexelBlueprintMapping& Mapping)
@@ -68,12 +111,11 @@ TVexelExpected<TVexelNodeId> FVexelBlueprintManipulator::SpawnNode(
 	{
 		return MakeError(VEXEL_HERE, TEXT("Node type is not valid") + ListNearestTypes(TypeId));
 	}
-	FScopedTransaction Transaction(INVTEXT("(Vexel) Spawn Node"));
-	Graph->Modify();
+	FGraphEdit Edit(INVTEXT("(Vexel) Spawn Node"), *Graph);
 	UEdGraphNode* const Node = Spawner->Invoke(Graph, IBlueprintNodeBinder::FBindingSet(), Graph->GetGoodPlaceForNewNode());
 	if (!Node)
 	{
-		Transaction.Cancel();
+		Edit.Refuse();
 		return MakeError(VEXEL_HERE, TEXT("Failed to create node from spawner."));
 	}
 	for (const TTuple<FName, FString>& PinDefault : PinDefaults)
@@ -83,6 +125,7 @@ TVexelExpected<TVexelNodeId> FVexelBlueprintManipulator::SpawnNode(
 			SetDefault(*Graph->GetSchema(), *Pin, PinDefault.Get<1>());
 		}
 	}
+	Edit.RememberNewNodes(Mapping.GetPlacedNodes());
 	FinishEdit();
 	return Mapping.MakeNodeReference(*Node, true);
 }
@@ -91,8 +134,7 @@ TVexelExpected<TVexelNodeId> FVexelBlueprintManipulator::RemoveNode(const TVexel
 {
 	VEXEL_TRY(UEdGraph* const Graph, FindGraph(VEXEL_HERE, GraphId));
 	VEXEL_TRY(UEdGraphNode* const Node, FindNode(VEXEL_HERE, *Graph, NodeId));
-	const FScopedTransaction Transaction(INVTEXT("(Vexel) Remove Node"));
-	Graph->Modify();
+	const FGraphEdit Edit(INVTEXT("(Vexel) Remove Node"), *Graph);
 	FBlueprintEditorUtils::RemoveNode(Blueprint.Get(), Node, true);
 	FinishEdit();
 	return NodeId;
@@ -107,21 +149,20 @@ TVexelExpected<TTuple<TVexelNodeId, TVexelNodeId>> FVexelBlueprintManipulator::E
 	VEXEL_TRY(UEdGraphNode* const To, FindNode(VEXEL_HERE, *Graph, ToNode));
 	VEXEL_TRY(UEdGraphPin* const Target, FindPin(VEXEL_HERE, *To, ToPin));
 	const UEdGraphSchema& Schema = *Graph->GetSchema();
-	const FPinConnectionResponse Response = Schema.CanCreateConnection(Source, Target);
-	if (bConnect && !Response.CanSafeConnect() && Response.Response == CONNECT_RESPONSE_DISALLOW)
-	{
-		return MakeError(VEXEL_HERE,
-			FString::Printf(TEXT("Connection not allowed from '%s'.'%s' to '%s'.'%s': %s"), *FromNode, *FromPin, *ToNode, *ToPin,
-				*Response.Message.ToString()));
-	}
+	const FString Ends = FString::Printf(TEXT("from '%s'.'%s' to '%s'.'%s'"), *FromNode, *FromPin, *ToNode, *ToPin);
 	if (!bConnect && !Source->LinkedTo.Contains(Target))
 	{
-		return MakeError(VEXEL_HERE,
-			FString::Printf(TEXT("No connection found from '%s'.'%s' to '%s'.'%s'"), *FromNode, *FromPin, *ToNode, *ToPin));
+		return MakeError(VEXEL_HERE, TEXT("No connection found ") + Ends);
+	}
+	const FPinConnectionResponse Response = bConnect ? Schema.CanCreateConnection(Source, Target) : FPinConnectionResponse();
+	const FString Refusal =
+		FString::Printf(TEXT("Connection not allowed %s%s%s"), *Ends, Response.Message.IsEmpty() ? TEXT("") : TEXT(": "), *Response.Message.ToString());
+	if (bConnect && Response.Response == CONNECT_RESPONSE_DISALLOW)
+	{
+		return MakeError(VEXEL_HERE, Refusal);
 	}
 
-	FScopedTransaction Transaction(INVTEXT("(Vexel) Edit connection"));
-	Graph->Modify();
+	FGraphEdit Edit(INVTEXT("(Vexel) Edit connection"), *Graph);
 	Source->Modify();
 	Target->Modify();
 	if (!bConnect)
@@ -130,10 +171,10 @@ TVexelExpected<TTuple<TVexelNodeId, TVexelNodeId>> FVexelBlueprintManipulator::E
 	}
 	else if (!Schema.TryCreateConnection(Source, Target))
 	{
-		Transaction.Cancel();
-		return MakeError(VEXEL_HERE,
-			FString::Printf(TEXT("Connection not allowed from '%s'.'%s' to '%s'.'%s'"), *FromNode, *FromPin, *ToNode, *ToPin));
+		Edit.Refuse();
+		return MakeError(VEXEL_HERE, Refusal);
 	}
+	Edit.RememberNewNodes(Mapping.GetPlacedNodes());
 	FinishEdit();
 	return TTuple<TVexelNodeId, TVexelNodeId>(Mapping.MakeNodeReference(*From, true), Mapping.MakeNodeReference(*To, true));
 }
@@ -149,7 +190,21 @@ TVexelExpected<void> FVexelBlueprintManipulator::FormatSelectedNodes(
 		Nodes.Add(Node);
 	}
 	const FScopedTransaction Transaction(INVTEXT("(Vexel) Format nodes"));
-	GraphFormatter::FormatSelectedNodes(*Graph, Nodes, LayoutSpacing, LayoutSpacing);
+	FVexelPlacedNodes& Placed = Mapping.GetPlacedNodes();
+	Nodes = Placed.WithLinked(Nodes);
+	TSet<UEdGraphNode*> NewNodes;
+	for (UEdGraphNode* const Node : Nodes)
+	{
+		if (Placed.Contains(*Node))
+		{
+			NewNodes.Add(Node);
+		}
+	}
+	GraphFormatter::FormatSelectedNodes(*Graph, Nodes, LayoutSpacing, LayoutSpacing, NewNodes);
+	for (const UEdGraphNode* const Node : NewNodes)
+	{
+		Placed.Remember(*Node);
+	}
 	FinishEdit();
 	return {};
 }
@@ -190,7 +245,9 @@ TVexelExpected<UEdGraphNode*> FVexelBlueprintManipulator::FindNode(
 	UEdGraphNode* Node = nullptr;
 	if (!Mapping.ResolveNodeInGraph(NodeId, Graph, Node))
 	{
-		return MakeError(Place, FString::Printf(TEXT("Node '%s' not found in the graph '%s'"), *NodeId, *Mapping.MakeGraphReference(Graph)));
+		return MakeError(Place,
+			FString::Printf(TEXT("Node '%s' not found in the graph '%s'%s"), *NodeId, *Mapping.MakeGraphReference(Graph),
+				*ListNearestNodes(Graph, NodeId)));
 	}
 	return Node;
 }
@@ -210,16 +267,24 @@ TVexelExpected<UEdGraphPin*> FVexelBlueprintManipulator::FindPin(
 
 FString FVexelBlueprintManipulator::ListNearestTypes(const TVexelNodeTypeId& TypeId) const
 {
-	if (NumListed++ >= MaxListings)
+	return MayList() ? ListNearest(FVexelNodeTypeIndex::Get().FindNearest(TypeId, MaxNearest)) : FString();
+}
+
+FString FVexelBlueprintManipulator::ListNearestNodes(const UEdGraph& Graph, const TVexelNodeId& NodeId) const
+{
+	if (!MayList())
 	{
 		return FString();
 	}
-	TArray<FString> Names;
-	for (const TVexelNodeTypeId& Nearest : FVexelNodeTypeIndex::Get().FindNearest(TypeId, MaxNearestTypes))
+	FVexelNearestTexts Nearest(NodeId.ToString());
+	for (const UEdGraphNode* const Node : Graph.Nodes)
 	{
-		Names.Add(FString::Printf(TEXT("'%s'"), *Nearest));
+		if (Node)
+		{
+			Nearest.Offer(Mapping.MakeNodeReference(*Node, false).ToString());
+		}
 	}
-	return Names.IsEmpty() ? FString() : TEXT(". Nearest: ") + FString::Join(Names, TEXT(", "));
+	return ListNearest(Nearest.Get(MaxNearest));
 }
 
 void FVexelBlueprintManipulator::FinishEdit() const

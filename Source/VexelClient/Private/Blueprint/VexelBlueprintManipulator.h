@@ -55,7 +55,10 @@ public:
 	TVexelExpected<TTuple<TVexelNodeId, TVexelNodeId>> EditConnection(const TVexelGraphId& GraphId, const TVexelNodeId& FromNode,
 		const TVexelPinId& FromPin, const TVexelNodeId& ToNode, const TVexelPinId& ToPin, const bool bConnect) const;
 
-	/** Lays the nodes out; the others stay where they are. Moves nothing when one of them is not there. */
+	/**
+	 * Lays the nodes out, and with them those linked to them that the conversation has placed; the others stay where they are. Moves
+	 * nothing when one of them is not there.
+	 */
 	TVexelExpected<void> FormatSelectedNodes(const TVexelGraphId& GraphId, const TArray<TVexelNodeId>& NodeIds) const;
 
 	/** Compiles at the next tick of the game thread. The task fails only when the Blueprint is gone; what the compiler finds is in the log. */
@@ -65,13 +68,17 @@ private:
 	TVexelExpected<UEdGraph*> FindGraph(const FVexelErrorPlace& Place, const TVexelGraphId& GraphId) const;
 	TVexelExpected<UEdGraphNode*> FindNode(const FVexelErrorPlace& Place, const UEdGraph& Graph, const TVexelNodeId& NodeId) const;
 	TVexelExpected<UEdGraphPin*> FindPin(const FVexelErrorPlace& Place, const UEdGraphNode& Node, const TVexelPinId& PinId) const;
+	/** Whether one more unknown id may be answered with those that look like it. */
+	bool MayList() const { return NumListed++ < MaxListings; }
 	FString ListNearestTypes(const TVexelNodeTypeId& TypeId) const;
+	FString ListNearestNodes(const UEdGraph& Graph, const TVexelNodeId& NodeId) const;
 	void FinishEdit() const;
 	void Refresh() const;
 
 	TWeakObjectPtr<UBlueprint> Blueprint;
 	FVexelBlueprintMapping& Mapping;
-	/** How many unknown types have been answered with those that look like them. */
+	/** To look for what is like an id takes milliseconds, and a call may have thousands of items. */
+	static constexpr int32 MaxListings = 20;
 	mutable int32 NumListed = 0;
 	/** A batch is open, and one of its edits has been made. */
 	mutable bool bFinishLater = false;

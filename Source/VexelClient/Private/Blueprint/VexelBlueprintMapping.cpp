@@ -175,9 +175,16 @@ bool FVexelBlueprintMapping::ResolveNodeInGraph(const TVexelNodeId& Id, const UE
 		OutNode = Named ? Named : OutNode;
 		return Named != nullptr;
 	}
+	// A node without a name would be given the first free one of its title, so any other is nobody's.
+	FString Base;
+	if (!Id.ToString().Split(TEXT("_"), &Base, nullptr, ESearchCase::CaseSensitive, ESearchDir::FromEnd) ||
+		NodeNames.MakeFreeName(Base) != Id.ToString())
+	{
+		return false;
+	}
 	for (UEdGraphNode* const Node : Graph.Nodes)
 	{
-		if (Node && MakeNodeReference(*Node, false) == Id)
+		if (Node && !NodeNames.FindName(Node->NodeGuid) && MakeBaseName(*Node) == Base)
 		{
 			OutNode = Node;
 			return true;
@@ -188,24 +195,34 @@ bool FVexelBlueprintMapping::ResolveNodeInGraph(const TVexelNodeId& Id, const UE
 
 UEdGraphNode* FVexelBlueprintMapping::FindNamedNode(const FGuid& NodeGuid, const UEdGraph& Graph)
 {
-	const FFoundNode* const Last = FoundNodes.Find(NodeGuid);
+	FFoundNode* const Last = FoundNodes.Find(NodeGuid);
+	const bool bFirstTime = !Last;
 	UEdGraphNode* const LastNode = Last ? Last->Node.Get() : nullptr;
-	// A node that was removed keeps its graph as its outer, so only the graph's own list tells.
-	const bool bIsThere = LastNode && Graph.Nodes.IsValidIndex(Last->Index) && Graph.Nodes[Last->Index] == LastNode;
-	if (bIsThere && LastNode->NodeGuid == NodeGuid)
+	if (LastNode && LastNode->NodeGuid == NodeGuid)
 	{
-		return LastNode;
+		// A node that was removed keeps its graph as its outer, so only the graph's own list tells.
+		const bool bIsThere = Graph.Nodes.IsValidIndex(Last->Index) && Graph.Nodes[Last->Index] == LastNode;
+		Last->Index = bIsThere ? Last->Index : Graph.Nodes.Find(LastNode);
+		if (Last->Index != INDEX_NONE)
+		{
+			return LastNode;
+		}
 	}
-	// One walk finds the nodes that are asked for next, too; from the end, so that of several with one GUID the first stays.
+	// The first walk finds the nodes that are asked for next, too; from the end, so that of several with one GUID the first stays.
 	UEdGraphNode* Found = nullptr;
 	for (int32 Index = Graph.Nodes.Num() - 1; Index >= 0; --Index)
 	{
 		UEdGraphNode* const Node = Graph.Nodes[Index];
-		if (Node)
+		const bool bIsIt = Node && Node->NodeGuid == NodeGuid;
+		if (bIsIt || (Node && bFirstTime))
 		{
 			FoundNodes.Add(Node->NodeGuid, {Node, Index});
-			Found = Node->NodeGuid == NodeGuid ? Node : Found;
 		}
+		Found = bIsIt ? Node : Found;
+	}
+	if (!Found)
+	{
+		FoundNodes.FindOrAdd(NodeGuid);
 	}
 	return Found;
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Blueprint/VexelNodeNameTable.h"
+#include "Blueprint/VexelPlacedNodes.h"
 #include "CoreMinimal.h"
 #include "Dom/JsonObject.h"
 #include "UObject/WeakObjectPtr.h"
@@ -78,6 +79,9 @@ public:
 	FGuid MakePropGuid(const UObject* OwnerObject, const FBPVariableDescription& Variable);
 	FGuid MakePropGuidDirect(const UObject* OwnerObject, const TVexelPropId& PropId);
 
+	/** The nodes that the conversation has placed since the editor was started. */
+	FVexelPlacedNodes& GetPlacedNodes() { return PlacedNodes; }
+
 private:
 	UEdGraphNode* FindNamedNode(const FGuid& NodeGuid, const UEdGraph& Graph);
 
@@ -89,6 +93,7 @@ private:
 		int32 Index = INDEX_NONE;
 	};
 	TMap<FGuid, FFoundNode> FoundNodes;
+	FVexelPlacedNodes PlacedNodes;
 	/** By "owner path.property name". */
 	TMap<FString, FGuid> PropGuids;
 };

@@ -9,11 +9,18 @@ void FVexelNodeNameTable::Add(const FGuid& NodeGuid, const FString& Name)
 
 FString FVexelNodeNameTable::MakeFreeName(const FString& Base) const
 {
-	int32& Number = FirstFreeNumbers.FindOrAdd(Base);
+	const int32* const Known = FirstFreeNumbers.Find(Base);
+	const int32 First = Known ? *Known : 0;
+	int32 Number = First;
 	FString Name = FString::Printf(TEXT("%s_%d"), *Base, Number);
 	while (HasName(Name))
 	{
 		Name = FString::Printf(TEXT("%s_%d"), *Base, ++Number);
+	}
+	// Of what nobody is called, nothing is kept.
+	if (Number != First)
+	{
+		FirstFreeNumbers.Add(Base, Number);
 	}
 	return Name;
 }

@@ -1,9 +1,8 @@
 #include "Blueprint/VexelNodeTypeIndex.h"
 
 #include "Blueprint/VexelBlueprintMapping.h"
-#include "VexelFuzzySearch.h"
+#include "Blueprint/VexelNearestTexts.h"
 
-#include "Algo/Sort.h"
 #include "BlueprintActionDatabase.h"
 #include "BlueprintBoundEventNodeSpawner.h"
 #include "BlueprintNodeSpawner.h"
@@ -50,37 +49,16 @@ UBlueprintNodeSpawner* FVexelNodeTypeIndex::Find(const TVexelNodeTypeId& Id)
 	return First ? First->Spawner.Get() : nullptr;
 }
 
-TArray<TVexelNodeTypeId> FVexelNodeTypeIndex::FindNearest(const TVexelNodeTypeId& Id, int32 MaxCount)
+TArray<FString> FVexelNodeTypeIndex::FindNearest(const TVexelNodeTypeId& Id, int32 MaxCount)
 {
 	check(IsInGameThread());
 	Refresh();
-	struct FRated
-	{
-		double Rating;
-		const TVexelNodeTypeId* Id;
-	};
-	const FVexelFuzzySearch::FScorer Score = FVexelFuzzySearch::ScorerPartialRatio(Id.ToString());
-	const int32 Length = Id.ToString().Len();
-	constexpr double LeastAlike = 60;
-	TArray<FRated> Rated;
+	FVexelNearestTexts Nearest(Id.ToString());
 	for (const auto& [Known, Candidates] : CandidatesById)
 	{
-		// A short id stands in many long ones: what one has more than the other counts against both.
-		const int32 KnownLength = Known.ToString().Len();
-		const double Rating = Score(Known.ToString()) * 2 * FMath::Min(Length, KnownLength) / (Length + KnownLength);
-		if (Rating >= LeastAlike)
-		{
-			Rated.Add({Rating, &Known});
-		}
+		Nearest.Offer(Known.ToString());
 	}
-	Algo::Sort(Rated, [](const FRated& A, const FRated& B)
-		{ return A.Rating != B.Rating ? A.Rating > B.Rating : A.Id->ToString().Compare(B.Id->ToString()) < 0; });
-	TArray<TVexelNodeTypeId> Nearest;
-	for (int32 Index = 0; Index < FMath::Min(MaxCount, Rated.Num()); ++Index)
-	{
-		Nearest.Add(*Rated[Index].Id);
-	}
-	return Nearest;
+	return Nearest.Get(MaxCount);
 }
 
 void FVexelNodeTypeIndex::Refresh()

@@ -22,7 +22,7 @@ public:
 	UBlueprintNodeSpawner* Find(const TVexelNodeTypeId& Id);
 
 	/** The ids that look most like one that names nothing, the nearest first. */
-	TArray<TVexelNodeTypeId> FindNearest(const TVexelNodeTypeId& Id, int32 MaxCount);
+	TArray<FString> FindNearest(const TVexelNodeTypeId& Id, int32 MaxCount);
 
 	UE_NONCOPYABLE(FVexelNodeTypeIndex)
 

@@ -7,6 +7,7 @@
 #include "EdGraph/EdGraphPin.h"
 #include "EdGraphNode_Comment.h"
 #include "EdGraphSchema_K2.h"
+#include "K2Node_Event.h"
 
 namespace
 {
@@ -14,11 +15,15 @@ bool IsExec(const UEdGraphPin& Pin)
 {
 	return Pin.PinType.PinCategory == UEdGraphSchema_K2::PC_Exec;
 }
+
+bool IsOfEventItself(const UEdGraphPin& Pin)
+{
+	return Pin.PinName == UK2Node_Event::DelegateOutputName && Pin.GetOwningNode()->IsA<UK2Node_Event>();
+}
 }
 
 FFormatterGraph::FFormatterGraph(const TArray<UEdGraphNode*>& Selection)
 {
-	TMap<const UEdGraphNode*, int32> Indices;
 	TArray<FNodeMeasure> Measures;
 	for (UEdGraphNode* const Node : Selection)
 	{
@@ -40,6 +45,11 @@ FFormatterGraph::FFormatterGraph(const TArray<UEdGraphNode*>& Selection)
 			From.bExec |= IsExec(*Pin);
 			for (const UEdGraphPin* const Linked : Pin->LinkedTo)
 			{
+				if (IsOfEventItself(*Pin) || IsOfEventItself(*Linked))
+				{
+					AddTie(Index, Measures[Index], *Pin, *Linked);
+					continue;
+				}
 				const int32* const To = Indices.Find(Linked->GetOwningNode());
 				From.bFixed |= !To;
 				if (To && *To != Index && Pin->Direction == EGPD_Output)
@@ -56,6 +66,20 @@ FFormatterGraph::FFormatterGraph(const TArray<UEdGraphNode*>& Selection)
 		Algo::StableSort(Node.Inputs, [this](int32 A, int32 B)
 			{ return Wires[A].ToY < Wires[B].ToY; });
 	}
+}
+
+void FFormatterGraph::AddTie(int32 Node, const FNodeMeasure& Measure, const UEdGraphPin& Pin, const UEdGraphPin& Linked)
+{
+	const double OwnY = Measure.GetPinY(Pin);
+	const double OtherY = FNodeMeasure(*Linked.GetOwningNode()).GetPinY(Linked);
+	const bool bIsEvent = Pin.Direction == EGPD_Output;
+	Ties.Add({Node, Linked.GetOwningNode(), bIsEvent, bIsEvent ? OwnY : OtherY, bIsEvent ? OtherY : OwnY});
+}
+
+int32 FFormatterGraph::FindIndex(const UEdGraphNode& Node) const
+{
+	const int32* const Index = Indices.Find(&Node);
+	return Index ? *Index : INDEX_NONE;
 }
 
 TArray<TArray<int32>> FFormatterGraph::FindComponents() const

@@ -2,8 +2,10 @@
 
 #include "CoreMinimal.h"
 
+class FNodeMeasure;
 class UEdGraph;
 class UEdGraphNode;
+class UEdGraphPin;
 
 /** A link between two nodes that are laid out. */
 struct FFormatterWire
@@ -15,6 +17,20 @@ struct FFormatterWire
 	double ToY;
 	/** Of execution; the others carry values. */
 	bool bExec;
+};
+
+/** An event that is handed to a node as what to call: it stands near that node, but has a lane of its own. */
+struct FFormatterTie
+{
+	/** The one of the two that is laid out; where both are, the tie is there twice. */
+	int32 Node;
+	/** The other end, which may not be laid out. */
+	UEdGraphNode* OtherNode;
+	/** Whether Node is the event. */
+	bool bIsEvent;
+	/** Of the pins below their nodes' top edges. */
+	double EventY;
+	double CallerY;
 };
 
 struct FFormatterNode
@@ -40,7 +56,15 @@ public:
 
 	TArray<FFormatterNode> Nodes;
 	TArray<FFormatterWire> Wires;
+	TArray<FFormatterTie> Ties;
 
+	/** The node's index; INDEX_NONE for one that is not laid out. */
+	int32 FindIndex(const UEdGraphNode& Node) const;
 	/** The nodes by index, parted into what wires hold together; each part in the order of the nodes. */
 	TArray<TArray<int32>> FindComponents() const;
+
+private:
+	void AddTie(int32 Node, const FNodeMeasure& Measure, const UEdGraphPin& Pin, const UEdGraphPin& Linked);
+
+	TMap<const UEdGraphNode*, int32> Indices;
 };

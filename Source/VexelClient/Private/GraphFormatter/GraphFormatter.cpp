@@ -1,55 +1,19 @@
 #include "GraphFormatter/GraphFormatter.h"
 
+#include "GraphFormatter/BlockPlacement.h"
 #include "GraphFormatter/ColumnAssignment.h"
 #include "GraphFormatter/CommentFrames.h"
 #include "GraphFormatter/FormatterGraph.h"
 #include "GraphFormatter/LaneLayout.h"
-#include "GraphFormatter/Obstacles.h"
 
-#include "Algo/StableSort.h"
+#include "Algo/AllOf.h"
 #include "EdGraph/EdGraph.h"
 #include "EdGraph/EdGraphNode.h"
-#include "EdGraphNode_Comment.h"
 
 namespace
 {
-FBox2D GetBounds(const FFormatterNode& Node)
-{
-	return FBox2D(Node.Position, Node.Position + Node.Size);
-}
-
-/** The graph's other nodes, and those of the layout that keep their places. */
-FObstacles FindObstacles(const UEdGraph& Graph, const FFormatterGraph& Layout)
-{
-	TSet<const UEdGraphNode*> Free;
-	for (const FFormatterNode& Node : Layout.Nodes)
-	{
-		if (!Node.bFixed)
-		{
-			Free.Add(Node.Node);
-		}
-	}
-	FObstacles Obstacles;
-	for (const UEdGraphNode* const Node : Graph.Nodes)
-	{
-		if (Node && !Node->IsA<UEdGraphNode_Comment>() && !Free.Contains(Node))
-		{
-			Obstacles.Add(FCommentFrames::GetBounds(*Node));
-		}
-	}
-	return Obstacles;
-}
-
-/** A component that has been laid out by itself. */
-struct FBlock
-{
-	TArray<int32> Component;
-	/** Where the node that it is laid out around came in, and is. */
-	FVector2D Place;
-};
-
 /** Lays the component out around a node that keeps its place. */
-FBlock MakeBlock(FFormatterGraph& Layout, FLaneLayout& Lanes, TArray<int32>&& Component)
+FLayoutBlock MakeBlock(FFormatterGraph& Layout, FLaneLayout& Lanes, TArray<int32>&& Component)
 {
 	TMap<int32, FVector2D> CameIn;
 	for (const int32 Node : Component)
@@ -67,32 +31,6 @@ FBlock MakeBlock(FFormatterGraph& Layout, FLaneLayout& Lanes, TArray<int32>&& Co
 		Placed.Position = Placed.bFixed ? CameIn[Node] : Placed.Position + Offset;
 	}
 	return {MoveTemp(Component), CameIn[Anchor]};
-}
-
-/** Moves the block down, as one, to where its nodes cover nothing. */
-void Settle(FFormatterGraph& Layout, const FBlock& Block, FObstacles& Obstacles, double Gap)
-{
-	double Down;
-	do
-	{
-		Down = 0;
-		for (const int32 Node : Block.Component)
-		{
-			const double Overlap = Layout.Nodes[Node].bFixed ? 0 : Obstacles.GetOverlap(GetBounds(Layout.Nodes[Node]));
-			Down = FMath::Max(Down, Overlap > 0 ? Overlap + Gap : 0);
-		}
-		for (const int32 Node : Block.Component)
-		{
-			Layout.Nodes[Node].Position.Y += Layout.Nodes[Node].bFixed ? 0 : FMath::CeilToInt32(Down);
-		}
-	} while (Down > 0);
-	for (const int32 Node : Block.Component)
-	{
-		if (!Layout.Nodes[Node].bFixed)
-		{
-			Obstacles.Add(GetBounds(Layout.Nodes[Node]));
-		}
-	}
 }
 
 void Apply(UEdGraph& Graph, const FFormatterGraph& Layout)
@@ -115,25 +53,21 @@ void Apply(UEdGraph& Graph, const FFormatterGraph& Layout)
 }
 }
 
-void GraphFormatter::FormatSelectedNodes(
-	UEdGraph& Graph, const TArray<UEdGraphNode*>& Nodes, double HorizontalSpacing, double VerticalSpacing)
+void GraphFormatter::FormatSelectedNodes(UEdGraph& Graph, const TArray<UEdGraphNode*>& Nodes, double HorizontalSpacing,
+	double VerticalSpacing, const TSet<UEdGraphNode*>& NewNodes)
 {
 	FFormatterGraph Layout(Nodes);
-	const FLayoutGaps Gaps{HorizontalSpacing / 2, VerticalSpacing / 4};
-	FObstacles Obstacles = FindObstacles(Graph, Layout);
+	const FLayoutGaps Gaps{HorizontalSpacing / 2, VerticalSpacing / 4, VerticalSpacing / 2};
+	FBlockPlacement Placement(Graph, Layout, Gaps);
 	const FColumnAssignment Columns(Layout);
 	FLaneLayout Lanes(Layout, Columns, Gaps);
-	TArray<FBlock> Blocks;
+	TArray<FLayoutBlock> Blocks;
 	for (TArray<int32>& Component : Layout.FindComponents())
 	{
-		Blocks.Add(MakeBlock(Layout, Lanes, MoveTemp(Component)));
+		const bool bIsNew = Algo::AllOf(Component, [&](int32 Node)
+			{ return !Layout.Nodes[Node].bFixed && NewNodes.Contains(Layout.Nodes[Node].Node); });
+		Blocks.Add_GetRef(MakeBlock(Layout, Lanes, MoveTemp(Component))).bNew = bIsNew;
 	}
-	// From top to bottom as they came in, so that those above keep their places.
-	Algo::StableSort(Blocks, [](const FBlock& A, const FBlock& B)
-		{ return A.Place.Y != B.Place.Y ? A.Place.Y < B.Place.Y : A.Place.X < B.Place.X; });
-	for (const FBlock& Block : Blocks)
-	{
-		Settle(Layout, Block, Obstacles, Gaps.BetweenNodes);
-	}
+	Placement.Place(Blocks);
 	Apply(Graph, Layout);
 }
