@@ -148,6 +148,32 @@ TEST_F(FLighthouseTest, HasSoundGraphs)
 	}
 }
 
+TEST_F(FLighthouseTest, NoTwoNodesStandInOnePlace)
+{
+	// Nearer than that, two nodes of the smallest kinds would cover each other.
+	constexpr int32 LeastAside = 160;
+	constexpr int32 LeastBelow = 96;
+	for (const TCHAR* const Name : {TEXT("BP_Door"), TEXT("BP_Enemy"), TEXT("BP_Player")})
+	{
+		TArray<UEdGraph*> Graphs;
+		Load(Name)->GetAllGraphs(Graphs);
+		for (const UEdGraph* const Graph : Graphs)
+		{
+			for (int32 A = 0; A < Graph->Nodes.Num(); ++A)
+			{
+				for (int32 B = A + 1; B < Graph->Nodes.Num(); ++B)
+				{
+					const UEdGraphNode* const First = Graph->Nodes[A];
+					const UEdGraphNode* const Second = Graph->Nodes[B];
+					EXPECT_TRUE(FMath::Abs(First->NodePosX - Second->NodePosX) >= LeastAside ||
+						FMath::Abs(First->NodePosY - Second->NodePosY) >= LeastBelow)
+						<< ToText(Graph->GetPathName()) << ": " << ToText(GetTitle(First)) << ", " << ToText(GetTitle(Second));
+				}
+			}
+		}
+	}
+}
+
 TEST_F(FLighthouseTest, CompilesAndStaysSoundWhenEveryNodeIsMadeAnew)
 {
 	for (const TCHAR* const Name : LighthouseBlueprints)

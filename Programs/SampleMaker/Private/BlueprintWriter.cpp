@@ -132,6 +132,30 @@ FGraphWriter FBlueprintWriter::Write(FName GraphName) const
 	return FGraphWriter(Require(Graph, FString::Printf(TEXT("graph %s in %s"), *GraphName.ToString(), *Blueprint.GetName())), Texts);
 }
 
+void FBlueprintWriter::PutSuggestionsBelow() const
+{
+	UEdGraph* const Events = FBlueprintEditorUtils::FindEventGraph(&Blueprint);
+	TArray<UEdGraphNode*> Suggestions;
+	int32 LastPosY = 0;
+	for (UEdGraphNode* const Node : Events ? Events->Nodes : TArray<TObjectPtr<UEdGraphNode>>())
+	{
+		if (Node->IsAutomaticallyPlacedGhostNode())
+		{
+			Suggestions.Add(Node);
+		}
+		else
+		{
+			LastPosY = FMath::Max(LastPosY, Node->NodePosY);
+		}
+	}
+	for (UEdGraphNode* const Node : Suggestions)
+	{
+		LastPosY += FGraphWriter::RowHeight * 2;
+		Node->NodePosX = 0;
+		Node->NodePosY = LastPosY;
+	}
+}
+
 void FBlueprintWriter::Compile() const
 {
 	StableIds::Fix(Blueprint);

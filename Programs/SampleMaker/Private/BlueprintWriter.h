@@ -57,6 +57,8 @@ public:
 	void AddFunction(const FFunctionRow& Row);
 	/** A writer of the function's graph, or of the event graph. */
 	FGraphWriter Write(FName GraphName) const;
+	/** Events that a new Blueprint suggests stand where its nodes go; those that are not used go below what was written. */
+	void PutSuggestionsBelow() const;
 	/** Brings the classes up to date; a Blueprint that does not compile ends the program. */
 	void Compile() const;
 

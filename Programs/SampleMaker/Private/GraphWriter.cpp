@@ -27,9 +27,6 @@
 
 namespace
 {
-constexpr int32 ColumnWidth = 320;
-constexpr int32 RowHeight = 192;
-
 FString FindFreeName(UEdGraph& Graph, const UEdGraphNode& Node)
 {
 	FString Name;

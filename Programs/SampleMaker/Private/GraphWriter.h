@@ -19,6 +19,10 @@ struct FKey;
 class FGraphWriter
 {
 public:
+	/** Of what At counts. */
+	static constexpr int32 ColumnWidth = 320;
+	static constexpr int32 RowHeight = 192;
+
 	/** Both must outlive the writer. */
 	FGraphWriter(UEdGraph& InGraph, const FNodeTexts& InTexts)
 		: Graph(InGraph)

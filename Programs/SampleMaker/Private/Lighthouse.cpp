@@ -24,7 +24,9 @@ FLighthouse FLighthouse::Make(const FNodeTexts& Texts)
 	}
 	for (UBlueprint* const Blueprint : Lighthouse.GetAll())
 	{
-		FBlueprintWriter(*Blueprint, Texts).Compile();
+		const FBlueprintWriter Writer(*Blueprint, Texts);
+		Writer.PutSuggestionsBelow();
+		Writer.Compile();
 	}
 	return Lighthouse;
 }
