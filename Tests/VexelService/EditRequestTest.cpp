@@ -1,4 +1,5 @@
 #include "Assistant/Edits/EditRequest.h"
+#include "Assistant/Edits/FlowPhrases.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -110,6 +111,49 @@ TEST(EditRequest, ManyWaysToSayTheSame)
 	{
 		const std::optional<FEditRequest> Read = ReadEditRequest(Message);
 		EXPECT_TRUE(Read && Read->Edit) << Message << (Read ? ": " + Read->Question : std::string());
+	}
+}
+
+TEST(EditRequest, TurnsOfSpeechMeanPlainWords)
+{
+	const struct
+	{
+		const char* Said;
+		const char* Plain;
+	} Cases[] = {
+		{"wait half a second", "wait 0.5 second"},
+		{"wait one and a half seconds", "wait 1.5 second"},
+		{"wait 2s", "wait 2 s"},
+		{"close it 2 seconds later", "close it after 2 second"},
+		{"close it three minutes afterwards", "close it after 3 minute"},
+		{"close it 2 s after", "close it after 2 second"},
+		{"2 s after that close it", "2 s after that close it"},
+		{"spawn BP_Coin twice a minute", "spawn BP_Coin every 30 second"},
+		{"spawn BP_Coin once per second", "spawn BP_Coin every 1 second"},
+		{"spawn it periodically every 3 s", "spawn it every 3 s"},
+		{"each time Health changes", "when Health changes"},
+		{"as soon as it is hit", "when it is hit"},
+		{"the door should open", "the door open"},
+		{"it must be destroyed", "it is destroyed"},
+		{"overlap -> open", "on overlap, open"},
+		{"when hit -> open", "when hit, open"},
+		{"print \"2s later\"", "print 2s later"},
+	};
+	for (const auto& Case : Cases)
+	{
+		EXPECT_EQ(JoinWords(ToPlainPhrases(*SplitEditWords(Case.Said))), Case.Plain) << Case.Said;
+	}
+	EXPECT_TRUE(ToPlainPhrases({}).empty());
+}
+
+TEST(EditRequest, ABlueprintMayBeTheSubjectOrTheObjectOfTheRequest)
+{
+	for (const char* const Message : {"BP_Door should open on overlap", "Make BP_Door open on overlap", "I want BP_Door to open on overlap",
+			 "let BP_Door print \"Hi\" on BeginPlay", "Recompile BP_Door", "Check that BP_Door compiles"})
+	{
+		const std::optional<FEditRequest> Read = ReadEditRequest(Message);
+		ASSERT_TRUE(Read && Read->Edit) << Message << (Read ? ": " + Read->Question : std::string());
+		EXPECT_EQ(Read->Blueprint, "BP_Door") << Message;
 	}
 }
 

@@ -322,6 +322,81 @@ TEST_F(FlowEdit, HostileSentencesAreSurvived)
 	}
 }
 
+TEST_F(FlowEdit, ABehaviourIsUnderstoodInManyWords)
+{
+	for (const char* const Words : {"on overlap open the gate, wait 2 seconds, then close it", "make it open on overlap and close 2 seconds later",
+			 "it should open when something overlaps it and shut after 2s", "open as soon as something touches it and close two seconds after",
+			 "I want the gate to open when something enters, then close 2 seconds later", "overlap -> open the gate, delay 2, close the gate",
+			 "when something comes near, open the gate; after a delay of 2 s close the gate",
+			 "the moment something overlaps it, open the gate automatically and close it 2 sec later"})
+	{
+		FEditableBlueprint Fresh(Editor, MakeGate());
+		const std::string Answer = Ask(Words);
+		EXPECT_THAT(Fresh.ListLinks("EventGraph"),
+			AllOf(Contains("ReceiveActorBeginOverlap.then > OpenGate.execute"), Contains("OpenGate.then > Delay.execute"),
+				Contains("Delay.then > CloseGate.execute")))
+			<< Words << "\n"
+			<< Answer;
+		EXPECT_THAT(Fresh.ListNodes("EventGraph"), Contains("call.KismetSystemLibrary.Delay(Duration=2)")) << Words;
+	}
+}
+
+TEST_F(FlowEdit, OneSentenceMayTellOfTwoEvents)
+{
+	const std::string Answer = Ask("print \"Hi\" when something overlaps it and print \"Bye\" when something leaves");
+	EXPECT_THAT(Links(),
+		AllOf(Contains("ReceiveActorBeginOverlap.then > PrintString.execute"), Contains("ReceiveActorEndOverlap.then > PrintString.execute")))
+		<< Answer;
+}
+
+TEST_F(FlowEdit, AChangeOfWhatTheRequestItselfSetsIsTold)
+{
+	const std::string Answer = Ask("it should lose health when damaged and be destroyed when its health reaches zero");
+	EXPECT_THAT(Links(), Contains("Health.then > OnHealthChanged.execute")) << Answer;
+	EXPECT_THAT(Answer, Not(HasSubstr("wherever you set it")));
+}
+
+TEST_F(FlowEdit, APronounIsTheVariableThatTheOtherHalfNames)
+{
+	EXPECT_THAT(Ask("print bLocked whenever it changes"), HasSubstr("Prints bLocked"));
+	EXPECT_THAT(Ask("each time bLocked changes print it"), HasSubstr("Prints bLocked"));
+}
+
+TEST_F(FlowEdit, WhatAComponentIsCalledIsReadRatherThanTried)
+{
+	FJson Json = MakeGate();
+	Json["properties"] = FJson::array({{{"id", "$ClassDefaultObject"}, {"type", "object.Actor"},
+		{"value", {{"properties", FJson::array({{{"id", "Panel"}, {"type", "object.StaticMeshComponent"}, {"value", ""}}})}}}}});
+	FEditableBlueprint WithPanel(Editor, Json);
+	int Refusals = 0;
+	WithPanel.Refuse = [&Refusals](const std::string& Tool, const FJson& Item) -> std::optional<std::string>
+	{
+		const bool bTried = Tool == "node_spawn" && Item["node_type"].get<std::string>().starts_with("var.get.");
+		Refusals += bTried ? 1 : 0;
+		return bTried ? std::optional<std::string>("Node type is not valid") : std::nullopt;
+	};
+	EXPECT_THAT(Ask("on overlap hide the gearbox"), HasSubstr("has no component and no variable called \"gearbox\""));
+	EXPECT_EQ(Refusals, 0);
+}
+
+TEST_F(FlowEdit, NodesAreFoundByWhatTheyFollowAndByTheirPins)
+{
+	Ask("on overlap print \"Welcome\"");
+	EXPECT_THAT(Ask("disconnect BeginPlay from Print String"), HasSubstr("Broke the wire from `EventBeginPlay_0`.then to `PrintString_0`.execute"))
+		<< "the other one is not wired to it";
+	EXPECT_THAT(Ask("connect the then pin of Receive Actor Begin Overlap to Print String"), HasSubstr("There are 2 nodes called \"Print String\""));
+	EXPECT_THAT(Ask("remove the print after Receive Actor Begin Overlap"), HasSubstr("Removed the node **Print String**"));
+	EXPECT_THAT(Nodes(), Not(Contains("call.KismetSystemLibrary.PrintString(InString=Welcome)")));
+	EXPECT_THAT(Ask("get rid of the Print String"), HasSubstr("Removed the node **Print String**"));
+	EXPECT_THAT(Ask("remove the flux capacitor"), HasSubstr("I changed nothing."));
+}
+
+TEST_F(FlowEdit, AChangeThatNobodyUnderstandsIsNoQuestion)
+{
+	EXPECT_THAT(Ask("give it fifty golden wishes"), HasSubstr("I did not understand what."));
+	ExpectAsBefore();
+}
+
 }
 
 }

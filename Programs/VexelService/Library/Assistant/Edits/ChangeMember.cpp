@@ -3,6 +3,7 @@
 #include "MemberReport.h"
 #include "MemberLookup.h"
 #include "MemberSentence.h"
+#include "Assistant/Edits/WiringEdits.h"
 #include "Assistant/Markdown.h"
 #include "Assistant/Words.h"
 
@@ -121,7 +122,12 @@ public:
 		const FMemberPlace Place = FindMemberPlace(Session.Editor.Blueprint(), Said.Member);
 		if (Place.Name.empty())
 		{
-			Session.Say(Place.Problem);
+			// "Remove Delay" may mean a node as well.
+			const bool bMayBeNode = Said.Change == EChange::Remove && Said.Member.Noun == EMemberNoun::Any;
+			if (!bMayBeNode || !RemoveNodeCalled(Session, Said.Member.Names.front()))
+			{
+				Session.Say(Place.Problem);
+			}
 			return;
 		}
 		switch (Said.Change)

@@ -29,7 +29,10 @@ constexpr std::string_view CompileWordings[] = {
 	"[show] compile|compiler|compilation error|message|problem [of|in]",
 	"explain compile|compiler|compilation error|message",
 	"are there [any] compile|compiler|compilation error",
-	"compile {name}",
+	"compile|recompile|build|rebuild {name:1}",
+	"check|verify|test|see that|whether|if {name:1} compile",
+	"check|verify|test|see that|whether|if it|this|blueprint compile",
+	"make sure [that] {name:1} compile",
 };
 
 class FCompileEdit final : public IEdit

@@ -21,6 +21,7 @@ const std::vector<FEditFamily>& GetEditFamilies()
 		{ReadAddVariable, "Add a float variable Armor with default 100 to BP_Enemy."},
 		{ReadEditElement, "Set the second element of PatrolPoints of BP_Enemy to 1, 2, 3. Add Gem to the array Loot of BP_Enemy."},
 		{ReadChangeMember, "Rename Health of BP_Enemy to Life. Make PatrolIndex of BP_Enemy a float. Remove bLocked from BP_Door."},
+		{ReadRemoveNode, "Remove the Flip Flop from BP_Door. Remove the Print String after BeginPlay."},
 		{ReadSetValue, "Set OpenAngle of BP_Door to 120."},
 		{ReadPartialFlowRequest, "When the player overlaps the trigger, print \"Welcome\" if bLocked is false, otherwise destroy the actor."},
 	};

@@ -19,6 +19,8 @@ struct FMention
 	std::string Name;
 	/** The higher, the surer it is that this is the Blueprint to edit. */
 	int Rank = 0;
+	/** What stands there instead; empty for nothing. */
+	std::string Replacement = {};
 };
 
 class FMentionFinder
@@ -85,9 +87,19 @@ private:
 		}
 		if (bFirst)
 		{
-			return std::nullopt;
+			// "BP_Door should open ..." is about it; "BP_Coin spawns" may as well name a class.
+			Mention.Rank = 4;
+			return IsAt(Mention.End, "should|must|shall|ought") ? std::optional<FMention>(Mention) : std::nullopt;
 		}
-		return WithPreposition(Mention);
+		if (const std::optional<FMention> Preposition = WithPreposition(Mention))
+		{
+			return Preposition;
+		}
+		// "Make BP_Door open ..." is "make it open ...".
+		const bool bMade = IsAt(Mention.Begin - 1, "make|let|have|want|need|like|cause|get") && !IsMarkAt(Mention.End);
+		Mention.Rank = 2;
+		Mention.Replacement = "it";
+		return bMade && IsBlueprintName(Mention.Name) ? std::optional<FMention>(Mention) : std::nullopt;
 	}
 
 	std::optional<FMention> WithPreposition(FMention Mention) const
@@ -162,6 +174,10 @@ std::optional<FEditMessage> ReadEditMessage(std::string_view Message, const std:
 		Result.Blueprint = Mention->Name;
 		Result.Words.erase(Result.Words.begin() + static_cast<std::ptrdiff_t>(Mention->Begin),
 			Result.Words.begin() + static_cast<std::ptrdiff_t>(Mention->End));
+		if (!Mention->Replacement.empty())
+		{
+			Result.Words.insert(Result.Words.begin() + static_cast<std::ptrdiff_t>(Mention->Begin), {.Text = Mention->Replacement});
+		}
 	}
 	return Result;
 }

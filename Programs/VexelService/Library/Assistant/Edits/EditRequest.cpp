@@ -12,7 +12,20 @@ namespace
 
 // What a message that asks begins with. A request may ask as well: "can you add ...", "would you please ...".
 constexpr std::string_view QuestionOpeners =
-	"what|which|where|who|whose|why|how|does|do|did|is|are|has|have|was|explain|describe|summarize|summarise|show|list";
+	"what|which|where|who|whose|why|how|does|do|did|is|are|has|was|explain|describe|summarize|summarise|show|list";
+
+// What nothing but a request to change something begins with.
+constexpr std::string_view ChangeOpeners =
+	"give|make|let|change|connect|disconnect|wire|remove|delete|rename|insert|put|implement|toggle|bind|spawn|print|destroy|set";
+
+constexpr const char* NotUnderstood =
+	"I see that you want something changed, but I did not understand what. Say it in steps, as in \"when it is hit, subtract 10 from "
+	"Health, then print Health\" or \"add a function Open that calls OpenDoor\"; \"help\" lists what I can do. I changed nothing.\n";
+
+bool AsksForChange(const FEditWords& Words)
+{
+	return Words.size() > 2 && IsWord(Words.front(), ChangeOpeners) && !IsWord(Words[1], "me|us");
+}
 
 bool IsQuestion(const FEditWords& Words)
 {
@@ -48,7 +61,7 @@ std::optional<FEditRequest> ReadEditRequest(std::string_view Message, const std:
 			return Request;
 		}
 	}
-	return std::nullopt;
+	return AsksForChange(Read->Words) ? std::optional<FEditRequest>({.Blueprint = {}, .Edit = nullptr, .Question = NotUnderstood}) : std::nullopt;
 }
 
 }

@@ -207,6 +207,20 @@ FSlot ReadSlot(std::string_view Text)
 	return {.Text = bOneWord ? Text.substr(0, Text.size() - 2) : Text, .bCaptures = true, .bOneWord = bOneWord, .bOptional = bOptional};
 }
 
+// Whether a word is a verb of the alternatives with "ing" behind: "opening", "toggling", "running".
+bool IsGerund(std::string_view Text, std::string_view Alternatives)
+{
+	constexpr std::string_view Ending = "ing";
+	if (Text.size() <= Ending.size() + 2 || Text.substr(Text.size() - Ending.size()) != Ending)
+	{
+		return false;
+	}
+	const std::string Stem(Text.substr(0, Text.size() - Ending.size()));
+	const bool bDoubled = Stem.back() == Stem[Stem.size() - 2];
+	return IsOneOf(Stem, Alternatives) || IsOneOf(Stem + "e", Alternatives) ||
+		(bDoubled && IsOneOf(Stem.substr(0, Stem.size() - 1), Alternatives));
+}
+
 // Whether a word is one of the alternatives, maybe with the "s" of verbs and of several things: "prints", "seconds", "touches".
 bool IsForm(const FEditWord& Word, std::string_view Alternatives)
 {
@@ -215,6 +229,10 @@ bool IsForm(const FEditWord& Word, std::string_view Alternatives)
 		return true;
 	}
 	const std::string_view Text = Word.Text;
+	if (!Word.bQuoted && !Word.bMark && IsGerund(Text, Alternatives))
+	{
+		return true;
+	}
 	const bool bPlain = !Word.bQuoted && !Word.bMark && Text.size() > 3 && Text.back() == 's';
 	return bPlain &&
 		(IsOneOf(Text.substr(0, Text.size() - 1), Alternatives) ||

@@ -1,6 +1,7 @@
 #include "Assistant/Edits/FlowEdits.h"
 
 #include "Assistant/BlueprintDescriber.h"
+#include "Assistant/Edits/FlowPhrases.h"
 #include "Assistant/Edits/FlowReport.h"
 #include "Assistant/Edits/EditRun.h"
 #include "Assistant/Edits/FlowPlanner.h"
@@ -150,7 +151,8 @@ bool AreKnown(const FFlowSteps& Steps) { return !Steps.empty() && UnknownSteps(S
 
 std::optional<FFlowRequest> ReadMessage(const FEditMessage& Message)
 {
-	return ReadFlow(ExpandRecipe(Message.Words).value_or(Message.Words));
+	const FEditWords Plain = WithoutLead(ToPlainPhrases(Message.Words));
+	return ReadFlow(ExpandRecipe(Plain).value_or(Plain));
 }
 
 }
@@ -158,10 +160,7 @@ std::optional<FFlowRequest> ReadMessage(const FEditMessage& Message)
 std::optional<FEditRequest> ReadFlowRequest(const FEditMessage& Message)
 {
 	std::optional<FFlowRequest> Flow = ReadMessage(Message);
-	const bool bWhole = Flow &&
-		std::all_of(Flow->Chains.begin(), Flow->Chains.end(), [](const FFlowChain& Chain)
-			{ return Chain.Event && AreKnown(Chain.Steps); });
-	return bWhole ? MakeRequest(std::move(*Flow)) : std::nullopt;
+	return Flow && IsWhole(*Flow) ? MakeRequest(std::move(*Flow)) : std::nullopt;
 }
 
 std::optional<FEditRequest> ReadPartialFlowRequest(const FEditMessage& Message)

@@ -42,6 +42,15 @@ constexpr FEventOutput EventOutputs[] = {
 	{"event.Actor.ReceiveAnyDamage", "DamageCauser", "object.Actor"},
 };
 
+/** "Spawns BP_Enemy" as "spawn BP_Enemy". */
+FEditWords ToImperative(FEditWords Words)
+{
+	std::string& Verb = Words.front().Text;
+	const bool bThirdPerson = !Words.front().bQuoted && Verb.size() > 3 && Verb.back() == 's' && Verb[Verb.size() - 2] != 's';
+	Verb.resize(Verb.size() - (bThirdPerson ? 1 : 0));
+	return Words;
+}
+
 std::string Name(const FFlowChain& Chain, std::string_view Slot) { return CapturedText(Chain.Captures, Slot); }
 
 /** Where more can be put behind a chain of steps. */
@@ -341,7 +350,7 @@ bool FFlowPlanner::StartTimer(const FFlowChain& Chain)
 	const FPlanIndex Timer = Append("call.KismetSystemLibrary.K2_SetTimerDelegate");
 	Values.Fill(Timer, "Time", Seconds);
 	Values.Fill(Timer, "bLooping", {.Literal = "true", .Pin = {}});
-	std::string EventName = Chain.Steps.empty() ? std::string() : ToMemberName(JoinWords(Chain.Steps.front().Words).substr(0, 30));
+	std::string EventName = Chain.Steps.empty() ? std::string() : ToMemberName(JoinWords(ToImperative(Chain.Steps.front().Words)).substr(0, 30));
 	EventName = UniqueMemberName(Model(), EventName.empty() ? "OnTimer" : EventName);
 	const FPlanIndex Event = Result.AddNode({.Graph = Scope.Graph, .Type = "event.custom", .EventName = EventName});
 	Result.AddLink(Event, "OutputDelegate", Timer, "Delegate");
@@ -459,6 +468,37 @@ bool FFlowPlanner::StartChange(const FFlowChain& Chain)
 	return true;
 }
 
+/** The same of steps that this request makes; answers how many there are. */
+std::size_t FFlowPlanner::CallBehindPlanned(const FBlueprintVariable& Variable, const std::string& Event)
+{
+	std::size_t Count = 0;
+	const std::size_t NumNodes = Result.Nodes.size();
+	for (FPlanIndex Setter = 0; Setter < NumNodes; ++Setter)
+	{
+		const FPlanNode& Node = Result.Nodes[Setter];
+		if (!Node.Existing.empty() || !EqualIgnoringCase(Node.Type, "var.set." + Variable.Id))
+		{
+			continue;
+		}
+		const FPlanIndex Call =
+			Result.AddNode({.Graph = Result.Nodes[Setter].Graph, .Type = "call." + Model().Name + "." + Event, .bAfterOthers = true});
+		for (FPlanLink& Link : Result.Links)
+		{
+			Link.From = Link.From == Setter && Link.FromPin == "then" ? Call : Link.From;
+		}
+		for (FStarted& Start : Started)
+		{
+			for (auto& End : Start.Ends)
+			{
+				End.Node = End.Node == Setter && End.Pin == "then" ? Call : End.Node;
+			}
+		}
+		Result.AddLink(Setter, "then", Call, "execute");
+		++Count;
+	}
+	return Count;
+}
+
 /** A Blueprint tells nobody that a variable changes, so each step that sets it calls the event behind itself. */
 void FFlowPlanner::CallAtEachChange(const FBlueprintVariable& Variable, const std::string& Event)
 {
@@ -484,6 +524,7 @@ void FFlowPlanner::CallAtEachChange(const FBlueprintVariable& Variable, const st
 			++Count;
 		}
 	}
+	Count += CallBehindPlanned(Variable, Event);
 	Result.AddNote(Count == 0
 			? "No step of **" + Model().Name + "** sets **" + Variable.Id + "** yet: call **" + Event + "** wherever you set it."
 			: "A variable tells nobody that it changes, so **" + Event + "** is called behind " + CountOf(Count, "step") + " that " +

@@ -60,6 +60,7 @@ private:
 	void GoOnBehind(const std::string& Graph, const std::string& Node, std::string_view Pin);
 	void FilterOther(const FFlowChain& Chain, std::string_view OtherPin);
 	void CallAtEachChange(const FBlueprintVariable& Variable, const std::string& Event);
+	std::size_t CallBehindPlanned(const FBlueprintVariable& Variable, const std::string& Event);
 	void EnableInput();
 	void NoteOutputs(FPlanIndex Node, std::string_view Type);
 	/** Makes the components that the chains use and the Blueprint lacks, when play begins. */

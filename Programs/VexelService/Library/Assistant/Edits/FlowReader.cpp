@@ -1,5 +1,6 @@
 #include "Assistant/Edits/FlowRequest.h"
 
+#include "Assistant/QuestionWords.h"
 #include "Assistant/Words.h"
 
 #include <algorithm>
@@ -12,7 +13,8 @@ namespace VexelService
 namespace
 {
 
-constexpr std::string_view EventOpeners = "when|whenever|once|on|upon|every|each|if|after|as|pressing|releasing";
+constexpr std::string_view EventOpeners = "when|whenever|once|on|upon|every|each|if|after|pressing|releasing";
+constexpr std::string_view MakeWords = "add|create|make|new|write|build|define|implement";
 // Openers that belong to what they open.
 constexpr std::string_view WholeOpeners = "every|each|pressing|releasing";
 constexpr std::string_view ConditionOpeners = "if|when|once|unless|whenever";
@@ -20,19 +22,24 @@ constexpr std::string_view Separators = "then|and|afterwards|next|finally|but|al
 constexpr std::string_view Otherwise = "otherwise|else";
 // What a request may begin with, and what comes behind it is meant.
 constexpr std::string_view Leads[] = {
-	"can|could|would|will you [please] {rest}",
-	"i want|need you to {rest}",
-	"i want|need it|this to {rest}",
-	"i would|i'd like you|it to {rest}",
-	"i want|need|would|i'd [like] {rest}",
-	"let's {rest}",
-	"make it so that|so|: {rest}",
-	"make sure that {rest}",
-	"make sure {rest}",
-	"have it {rest}",
-	"build|write|create|add|implement logic|behavior|behaviour|code|flow|nodes|graph|something so that {rest}",
-	"build|write|create|add|implement [some] [new] logic|behavior|behaviour|code|nodes|something that|which|: {rest}",
+	"can|could|would|will you [please]",
+	"i want|need you to",
+	"i want|need it|this to",
+	"i would|i'd like you|it to",
+	"i want|need|like {subject} to",
+	"i would|i'd like {subject} to",
+	"i want|need|would|i'd [like]",
+	"let's",
+	"make it so that|so|:",
+	"make sure that",
+	"make sure",
+	"have it",
+	"build|write|create|add|implement logic|behavior|behaviour|code|flow|nodes|graph|something so that",
+	"build|write|create|add|implement [some] [new] logic|behavior|behaviour|code|nodes|something that|which|:",
 };
+// Two chains are looked for in sentences of a length that people speak.
+constexpr std::size_t MaxWordsOfTwoChains = 40;
+constexpr std::size_t MaxWordCost = 1'000'000;
 constexpr std::size_t MaxSteps = 64;
 constexpr std::size_t MaxDepth = 6;
 /** More words than that are no side of a comparison that is an event. */
@@ -55,16 +62,28 @@ struct FReadSteps
 	std::size_t Count = 0;
 };
 
+/** A chain, and how many clauses in it nobody knows. */
+struct FReadChain
+{
+	FFlowChain Chain;
+	std::size_t Unknown = 0;
+
+	bool IsSure() const { return Chain.Event && Unknown == 0 && !Chain.Steps.empty(); }
+};
+
 bool IsBetter(const FReadSteps& A, const FReadSteps& B) { return std::pair(A.Unknown, B.Count) < std::pair(B.Unknown, A.Count); }
 
 FEditWords WordsOf(std::string_view Text) { return SplitEditWords(Text).value_or(FEditWords()); }
 
+/** "slot=words", or several of them with ";" between. */
 void AddImplied(std::string_view Implied, FCaptures& Captures)
 {
-	const std::size_t Equals = Implied.find('=');
-	if (Equals != std::string_view::npos)
+	while (!Implied.empty())
 	{
-		Captures[std::string(Implied.substr(0, Equals))] = WordsOf(Implied.substr(Equals + 1));
+		const std::size_t End = std::min(Implied.find(';'), Implied.size());
+		const std::size_t Equals = Implied.find('=');
+		Captures[std::string(Implied.substr(0, Equals))] = WordsOf(Implied.substr(Equals + 1, End - Equals - 1));
+		Implied.remove_prefix(std::min(End + 1, Implied.size()));
 	}
 }
 
@@ -81,15 +100,21 @@ public:
 		FFlowRequest Request;
 		for (const FSpan Sentence : SplitSentences())
 		{
-			FFlowChain Chain = ReadSentence(Sentence, Request.Chains.empty());
-			const bool bGoesOn = !Chain.Event && !Request.Chains.empty();
-			if (bGoesOn)
+			for (FReadChain& Read : ReadSentence(Sentence, Request.Chains.empty()))
 			{
-				FFlowSteps& Steps = Request.Chains.back().Steps;
-				Steps.insert(Steps.end(), Chain.Steps.begin(), Chain.Steps.end());
-				continue;
+				const bool bGoesOn = !Read.Chain.Event && !Request.Chains.empty();
+				if (bGoesOn)
+				{
+					FFlowSteps& Steps = Request.Chains.back().Steps;
+					Steps.insert(Steps.end(), Read.Chain.Steps.begin(), Read.Chain.Steps.end());
+					continue;
+				}
+				Request.Chains.push_back(std::move(Read.Chain));
 			}
-			Request.Chains.push_back(std::move(Chain));
+		}
+		for (FFlowChain& Chain : Request.Chains)
+		{
+			ResolvePronouns(Chain);
 		}
 		const bool bAny = std::any_of(Request.Chains.begin(), Request.Chains.end(),
 			[](const FFlowChain& Chain)
@@ -146,69 +171,130 @@ private:
 
 	FEditWords Cut(FSpan Span) const { return Span.IsEmpty() ? FEditWords() : PartOf(Words, Span.Begin, Span.End); }
 
-	FFlowChain ReadSentence(FSpan Sentence, bool bFirst)
+	/** Chains that are told in one sentence: "open it when it is touched and close it when it is left" are two. */
+	std::vector<FReadChain> ReadSentence(FSpan Sentence, bool bFirst)
 	{
-		std::optional<FFlowChain> Best;
-		FReadSteps BestSteps;
-		std::size_t BestCost = 0;
-		const auto Offer = [&](FFlowChain Chain, FSpan Rest)
+		const bool bMayBeTwo = Sentence.End - Sentence.Begin <= MaxWordsOfTwoChains && CountOpeners(Sentence) > 1;
+		for (std::size_t At = Sentence.Begin + 2; bMayBeTwo && At + 2 < Sentence.End; ++At)
 		{
-			Rest = Trimmed(Rest);
-			FReadSteps Steps = Chain.Event ? ReadSteps(Rest, 0) : FReadSteps();
-			// In "when it touches it the door opens" the second "it" belongs to the event rather than to the step.
-			const std::size_t Cost = 2 * Steps.Unknown + (IsAt(Rest.Begin, "it|him|her|them|this|that") ? 1 : 0);
-			if (Steps.Count > 0 && (!Best || Cost < BestCost))
+			const FReadChain First = IsSeparator(At) ? ReadChain(Trimmed({Sentence.Begin, At}), bFirst) : FReadChain();
+			FReadChain Second = First.IsSure() ? ReadChain(Trimmed({At, Sentence.End}), false) : FReadChain();
+			if (Second.IsSure())
 			{
-				Best = std::move(Chain);
-				BestSteps = std::move(Steps);
+				return {First, std::move(Second)};
+			}
+		}
+		return {ReadChain(Sentence, bFirst)};
+	}
+
+	std::size_t CountOpeners(FSpan Sentence) const
+	{
+		std::size_t Count = 0;
+		for (std::size_t At = Sentence.Begin; At < Sentence.End; ++At)
+		{
+			Count += IsAt(At, EventOpeners) && !IsAt(At, "if|after|once") ? 1 : 0;
+		}
+		return Count;
+	}
+
+	FReadChain ReadChain(FSpan Sentence, bool bFirst)
+	{
+		FReadChain Best;
+		std::size_t BestCost = MaxWordCost;
+		const auto Offer = [&](FFlowChain Chain, FSpan Before, FSpan Behind)
+		{
+			Before = Trimmed(Before);
+			Behind = Trimmed(Behind);
+			FReadSteps Steps = Chain.Event ? ReadSteps(Before, 0) : FReadSteps();
+			FReadSteps Others = Chain.Event && !Behind.IsEmpty() ? ReadSteps(Behind, 0) : FReadSteps();
+			const std::size_t Unknown = Steps.Unknown + Others.Unknown;
+			// In "when it touches it the door opens" the second "it" belongs to the event rather than to the step.
+			const FSpan First = Before.IsEmpty() ? Behind : Before;
+			const std::size_t Cost = 2 * Unknown + (IsAt(First.Begin, "it|him|her|them|this|that") ? 1 : 0);
+			if (Steps.Count + Others.Count > 0 && Cost < BestCost)
+			{
+				Best = {.Chain = std::move(Chain), .Unknown = Unknown};
+				Best.Chain.Steps = std::move(Steps.Steps);
+				Best.Chain.Steps.insert(Best.Chain.Steps.end(), Others.Steps.begin(), Others.Steps.end());
 				BestCost = Cost;
 			}
 		};
 		// "After 2 seconds ..." and "If ..." go on with what was said before them.
 		const bool bGoesOn = !bFirst && IsAt(Sentence.Begin, "after|if");
-		if (!bGoesOn && (IsAt(Sentence.Begin, EventOpeners) || IsAt(Sentence.Begin, "add|create|make|new")))
+		if (!bGoesOn && (IsAt(Sentence.Begin, EventOpeners) || IsAt(Sentence.Begin, MakeWords)))
 		{
 			for (std::size_t End = Sentence.Begin + 1; End < Sentence.End; ++End)
 			{
-				Offer(ReadOpening({Sentence.Begin, End}), {End, Sentence.End});
+				Offer(ReadOpening({Sentence.Begin, End}), {}, {End, Sentence.End});
 			}
 		}
-		for (std::size_t Begin = Sentence.End; !Best && Begin > Sentence.Begin + 1; --Begin)
+		for (std::size_t Begin = Sentence.End; !Best.Chain.Event && Begin > Sentence.Begin + 1; --Begin)
 		{
-			if (IsAt(Begin - 1, EventOpeners) && !IsAt(Begin - 1, "if|after"))
+			const bool bOpens = IsAt(Begin - 1, EventOpeners) && !IsAt(Begin - 1, "if|after");
+			// The event may end before what else happens: "open it when it is touched and close it after 2 seconds".
+			for (std::size_t End = Begin + 1; bOpens && End <= Sentence.End; ++End)
 			{
-				Offer(ReadOpening({Begin - 1, Sentence.End}), {Sentence.Begin, Begin - 1});
+				if (End == Sentence.End || IsSeparator(End))
+				{
+					Offer(ReadOpening({Begin - 1, End}), {Sentence.Begin, Begin - 1}, {End, Sentence.End});
+				}
 			}
 		}
-		if (!Best)
+		if (!Best.Chain.Event)
 		{
-			Best = FFlowChain();
-			BestSteps = ReadSteps(Sentence, 0);
+			FReadSteps Steps = ReadSteps(Sentence, 0);
+			Best = {.Chain = {.Steps = std::move(Steps.Steps)}, .Unknown = Steps.Unknown};
 		}
-		Best->Steps = std::move(BestSteps.Steps);
-		return std::move(*Best);
+		return Best;
+	}
+
+	/** "Print Health when it changes", "when Health changes print it": one of the two says what the other means. */
+	static void ResolvePronouns(FFlowChain& Chain)
+	{
+		const auto IsPronoun = [](const FCaptures& Captures, std::string_view Slot)
+		{
+			const auto Found = Captures.find(Slot);
+			return Found != Captures.end() && IsOneOf(JoinWords(Found->second), "it|its value|that|this|the value");
+		};
+		if (!Chain.Event || Chain.Event->Kind != EEventKind::VariableChanges)
+		{
+			return;
+		}
+		for (FFlowStep& Step : Chain.Steps)
+		{
+			for (const std::string_view Slot : {"value", "variable"})
+			{
+				const auto Said = Step.Captures.find(Slot);
+				if (Said != Step.Captures.end() && IsPronoun(Chain.Captures, "variable") && !IsPronoun(Step.Captures, Slot))
+				{
+					Chain.Captures["variable"] = Said->second;
+				}
+				else if (Said != Step.Captures.end() && IsPronoun(Step.Captures, Slot))
+				{
+					Said->second = Chain.Captures["variable"];
+				}
+			}
+		}
 	}
 
 	/** "When it is hit" and "add a function Open that"; the words behind are steps. */
 	FFlowChain ReadOpening(FSpan Span) const
 	{
 		const FEditWords Said = Cut(Span);
-		if (IsWord(Said.front(), "add|create|make|new"))
+		if (IsWord(Said.front(), MakeWords))
 		{
 			return ReadNewEntry(Said);
 		}
 		const bool bWhole = IsWord(Said.front(), WholeOpeners);
-		const FSpan Phrase = Trimmed({Span.Begin + (bWhole ? 0 : IsAt(Span.Begin, "as") ? 3
-																						: 1),
-			Span.End});
+		const FSpan Phrase = Trimmed({Span.Begin + (bWhole ? 0 : 1), Span.End});
 		return Phrase.IsEmpty() ? FFlowChain() : ReadEvent(Cut(Phrase));
 	}
 
 	static FFlowChain ReadNewEntry(const FEditWords& Said)
 	{
 		static constexpr std::pair<std::string_view, std::string_view> Wordings[] = {
-			{"add|create|make [new] function [named|called] {name:1} that|which|to|, [should|will]", NewFunctionSlot},
-			{"add|create|make [new] custom event [named|called] {name:1} that|which|to|, [should|will]", "name"},
+			{"add|create|make|write|build|define|implement [new] function [named|called] {name:1} that|which|to|,", NewFunctionSlot},
+			{"add|create|make|write|build|define|implement [new] custom event [named|called] {name:1} that|which|to|,", "name"},
 		};
 		for (const auto& [Pattern, Slot] : Wordings)
 		{
@@ -452,28 +538,46 @@ private:
 	std::map<std::pair<std::size_t, std::size_t>, FReadSteps> Known;
 };
 
+/** What is left of words that the pattern leads, with the subject before it that the pattern may name; nothing where it does not lead. */
+std::optional<FEditWords> WithoutLead(std::string_view Front, const FEditWords& Words)
+{
+	constexpr std::size_t MaxLeadWords = 8;
+	const std::size_t Most = std::min(Words.size(), MaxLeadWords);
+	const bool bHasSubject = Front.find('{') != std::string_view::npos;
+	for (std::size_t Step = 0; Step < Most; ++Step)
+	{
+		// As many words as can lead, but the shortest subject.
+		const std::size_t Count = bHasSubject ? Step + 1 : Most - Step;
+		const FEditWords Begin = PartOf(Words, 0, Count);
+		std::optional<FCaptures> Captures = Begin.back().bMark ? std::nullopt : MatchWords(Front, Begin);
+		if (Captures)
+		{
+			FEditWords Rest = (*Captures)["subject"];
+			Rest.insert(Rest.end(), Words.begin() + static_cast<std::ptrdiff_t>(Count), Words.end());
+			return Rest;
+		}
+	}
+	return std::nullopt;
+}
+
+}
+
 FEditWords WithoutLead(const FEditWords& Words)
 {
 	for (const std::string_view Lead : Leads)
 	{
-		// A slot takes no marks, so the rest is what the words that lead to it leave.
-		const std::string Front(Lead.substr(0, Lead.find(" {rest}")));
-		for (std::size_t Count = std::min<std::size_t>(Words.size(), 8); Count > 0; --Count)
+		if (const std::optional<FEditWords> Rest = WithoutLead(Lead, Words))
 		{
-			const FEditWords Begin = PartOf(Words, 0, Count);
-			if (!Begin.back().bMark && MatchWords(Front, Begin))
-			{
-				return WithoutLead(PartOf(Words, Count, Words.size()));
-			}
+			return WithoutLead(*Rest);
 		}
 	}
 	return Words;
 }
 
-}
-
-FFlowChain ReadEvent(const FEditWords& Words)
+FFlowChain ReadEvent(const FEditWords& Said)
 {
+	// Whose health it is, the Blueprint says.
+	const FEditWords Words = Said.size() > 1 && IsWord(Said.front(), "its|his|her|their") ? PartOf(Said, 1, Said.size()) : Said;
 	for (const FEventWording& Wording : GetEventWordings())
 	{
 		std::optional<FCaptures> Captures = MatchWords(Wording.Pattern, Words);
@@ -494,10 +598,19 @@ FFlowChain ReadEvent(const FEditWords& Words)
 	return {};
 }
 
+bool IsWhole(const FFlowRequest& Request)
+{
+	return std::all_of(Request.Chains.begin(), Request.Chains.end(), [](const FFlowChain& Chain)
+		{ return Chain.Event && !Chain.Steps.empty() && UnknownSteps(Chain.Steps).empty(); });
+}
+
 std::optional<FFlowRequest> ReadFlow(const FEditWords& Words)
 {
 	const FEditWords Plain = WithoutLead(Words);
-	return FFlowReader(Plain).Read();
+	// "Make it print ..." and "it prints ..." are "print ..."; but "make it visible" is a step.
+	const std::optional<FEditWords> Made = WithoutLead("[make|let|have|get|cause] it|actor [to]", Plain);
+	std::optional<FFlowRequest> Inner = Made ? FFlowReader(*Made).Read() : std::nullopt;
+	return Inner && IsWhole(*Inner) ? Inner : FFlowReader(Plain).Read();
 }
 
 std::string DescribeSteps(const FFlowSteps& Steps)

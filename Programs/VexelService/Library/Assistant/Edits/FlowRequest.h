@@ -59,11 +59,17 @@ FComparison ReadComparison(const FEditWords& Words);
 /** The event of words such as "the player overlaps it", without "when"; null members where none fits. */
 FFlowChain ReadEvent(const FEditWords& Words);
 
+/** The words without what a request may begin with: "can you", "I want it to", "make sure that". */
+FEditWords WithoutLead(const FEditWords& Words);
+
 /** Reads what happens when; nothing where no event and no step is told. */
 std::optional<FFlowRequest> ReadFlow(const FEditWords& Words);
 
 /** What a step and those in it are when they are said back to the user. */
 std::string DescribeSteps(const FFlowSteps& Steps);
+
+/** Whether each chain has its event, and every step is known. */
+bool IsWhole(const FFlowRequest& Request);
 
 /** Steps whose words nobody knows, with those in other steps. */
 std::vector<std::string> UnknownSteps(const FFlowSteps& Steps);

@@ -34,6 +34,15 @@ constexpr FClassWord ClassWords[] = {
 	{"actor", "/Script/Engine.Actor"},
 };
 
+/** "Enemies" as "Enemy"; what ends otherwise as it is. */
+std::string Singular(const std::string& Plural)
+{
+	const bool bOfY = Plural.size() > 4 && EqualIgnoringCase(std::string_view(Plural).substr(Plural.size() - 3), "ies");
+	const bool bPlural = Plural.size() > 3 && EqualIgnoringCase(std::string_view(Plural).substr(Plural.size() - 1), "s");
+	return bOfY ? Plural.substr(0, Plural.size() - 3) + "y" : bPlural ? Plural.substr(0, Plural.size() - 1)
+																	  : Plural;
+}
+
 /** The editor names what is spelt like it: a member of the Blueprint whose name has the word in it may be what was meant. */
 void AddNearestMembers(const std::vector<std::string>& Errors, const std::string& Said, std::vector<std::string>& Names)
 {
@@ -54,8 +63,11 @@ void AddNearestMembers(const std::vector<std::string>& Errors, const std::string
 
 }
 
-FPlanValue FValuePlanner::ReadObject(const std::string& Said, const FValueScope& Scope)
+FPlanValue FValuePlanner::ReadObject(const std::string& Words, const FValueScope& Scope)
 {
+	// "The lamp's visibility" is about the lamp.
+	const bool bPossessive = Words.size() > 2 && EqualIgnoringCase(std::string_view(Words).substr(Words.size() - 2), "'s");
+	const std::string Said = bPossessive ? Words.substr(0, Words.size() - 2) : Words;
 	if (FPlanValue Output = ReadNamed(Said, EValueKind::Text, Scope); !Output.IsEmpty())
 	{
 		return Output;
@@ -169,20 +181,23 @@ std::string FValuePlanner::FindClass(const std::string& Said)
 		const std::string Package = PackageOf(Said);
 		return StartsWith(Said, "/Script/") ? Said : Package + "." + ShortName(Package) + "_C";
 	}
-	const std::optional<FAssetList> List = Editor.GetReader().SearchAssets({.Words = ClassName(Said), .Class = "Blueprint"});
-	std::vector<std::string> Names;
-	for (const FAssetRow& Row : List ? List->Rows : std::vector<FAssetRow>())
+	for (const std::string& Wanted : {ClassName(Said), Singular(ClassName(Said))})
 	{
-		Names.push_back(Row.Name);
-	}
-	if (const std::optional<FNameMatch> Match = FindName(ClassName(Said), Names))
-	{
-		const FAssetRow& Row = List->Rows[Match->Index];
-		if (!SameName(Said, Row.Name))
+		const std::optional<FAssetList> List = Editor.GetReader().SearchAssets({.Words = Wanted, .Class = "Blueprint"});
+		std::vector<std::string> Names;
+		for (const FAssetRow& Row : List ? List->Rows : std::vector<FAssetRow>())
 		{
-			Plan.AddNote("I take " + Quoted(Shortened(Said, 100)) + " to mean **" + Row.Name + "**.");
+			Names.push_back(Row.Name);
 		}
-		return Row.Path + "_C";
+		if (const std::optional<FNameMatch> Match = FindName(Wanted, Names))
+		{
+			const FAssetRow& Row = List->Rows[Match->Index];
+			if (!SameName(Said, Row.Name))
+			{
+				Plan.AddNote("I take " + Quoted(Shortened(Said, 100)) + " to mean **" + Row.Name + "**.");
+			}
+			return Row.Path + "_C";
+		}
 	}
 	const auto Engine =
 		std::find_if(std::begin(ClassWords), std::end(ClassWords), [&Said](const FClassWord& Row)

@@ -7,6 +7,7 @@
 #include "Assistant/NodeTitles.h"
 #include "Assistant/Words.h"
 
+#include <algorithm>
 #include <string_view>
 #include <vector>
 
@@ -41,6 +42,12 @@ constexpr FWiringWording WiringWordings[] = {
 	{"remove|delete|erase {from} node|nodes", EWiring::RemoveNode},
 };
 
+/** What may as well be a member of the Blueprint, unless it has none of the name. */
+constexpr std::string_view RemoveWordings[] = {
+	"remove|delete|erase|drop {from}",
+	"get rid of {from}",
+};
+
 /** A node and maybe one of its pins, as they stand in a graph. */
 struct FEndpoint
 {
@@ -63,36 +70,147 @@ public:
 
 	void Run(FEditSession& Session) const override
 	{
-		std::string Problem;
-		const std::optional<FEndpoint> Source = Find(Session.Editor.Blueprint(), From, {}, Problem);
+		const FBlueprintModel& Model = Session.Editor.Blueprint();
 		const bool bTwo = Kind == EWiring::Connect || Kind == EWiring::Disconnect;
-		const std::optional<FEndpoint> Target =
-			Source && bTwo ? Find(Session.Editor.Blueprint(), To, Source->Graph, Problem) : std::nullopt;
-		if (!Source || (bTwo && !Target))
+		const std::vector<FEndpoint> Sources = FindAll(Model, From);
+		const std::vector<FEndpoint> Targets = bTwo ? FindAll(Model, To) : std::vector<FEndpoint>();
+		if (Sources.empty() || (bTwo && Targets.empty()))
 		{
-			Session.Say(Problem + " I changed nothing.\n");
+			Session.Say("**" + Model.Name + "** has no node called " + Quoted(Shortened(Sources.empty() ? From : To, 100)) + ". I changed nothing.\n");
 			return;
 		}
-		if (Kind == EWiring::RemoveNode)
+		if (!bTwo)
 		{
-			Remove(Session, *Source);
+			EditOne(Session, Sources);
 			return;
 		}
-		const std::vector<FLinkToEdit> Links = Kind == EWiring::Connect ? ChoosePins(Session.Editor.Blueprint(), *Source, *Target)
-																		: FindLinks(Session.Editor.Blueprint(), *Source, Target);
-		if (Links.empty())
+		// Of several nodes of a name, those are meant that the wire can be between.
+		std::vector<FPair> Pairs;
+		for (const FEndpoint& Source : Sources)
 		{
-			const std::string Between = Bold(Source->Title) + (Target ? " and " + Bold(Target->Title) : std::string());
-			Session.Say((Kind == EWiring::Connect ? "I find no pins of " + Between +
-									" that fit each other: name them, as in \"connect Delay.Completed to Print String.execute\"."
-												  : "There is no wire " + std::string(Target ? "between " : "at ") + Between + ".") +
-				" I changed nothing.\n");
+			for (const FEndpoint& Target : Targets)
+			{
+				std::vector<FLinkToEdit> Links = Source.Graph != Target.Graph ? std::vector<FLinkToEdit>()
+					: Kind == EWiring::Connect                                ? ChoosePins(Model, Source, Target)
+																			  : FindLinks(Model, Source, Target);
+				if (!Links.empty())
+				{
+					Pairs.push_back({Source, Target, std::move(Links)});
+				}
+			}
+		}
+		if (Pairs.size() == 1)
+		{
+			Tell(Session, Pairs.front().Source.Graph, Pairs.front().Links);
 			return;
 		}
-		Tell(Session, Source->Graph, Links);
+		Session.Say((Pairs.empty() ? TellNone(Sources.front(), &Targets.front()) : TellSeveral(Pairs)) + " I changed nothing.\n");
+	}
+
+	/** The nodes, and their pin behind a point or "'s" or before "of", that words mean; "Print String after BeginPlay" is the one that follows. */
+	static std::vector<FEndpoint> FindAll(const FBlueprintModel& Model, const std::string& Said)
+	{
+		std::vector<FEndpoint> Found = FindNodes(Model, Said);
+		for (const std::string_view Separator : {".", "'s ", " pin "})
+		{
+			const std::size_t At = Said.rfind(Separator);
+			if (Found.empty() && At != std::string::npos)
+			{
+				Found = FindNodes(Model, Said.substr(0, At), WithoutNoun(Said.substr(At + Separator.size())));
+			}
+		}
+		for (const std::string_view Separator : {" pin of ", " output of ", " input of ", " of ", " pin on "})
+		{
+			const std::size_t At = Said.find(Separator);
+			if (Found.empty() && At != std::string::npos)
+			{
+				Found = FindNodes(Model, WithoutArticle(Said.substr(At + Separator.size())), WithoutNoun(Said.substr(0, At)));
+			}
+		}
+		for (const std::string_view Separator : {" after ", " behind ", " following ", " on "})
+		{
+			const std::size_t At = Said.find(Separator);
+			if (Found.empty() && At != std::string::npos)
+			{
+				Found = FindFollowing(Model, Said.substr(0, At), WithoutArticle(Said.substr(At + Separator.size())));
+			}
+		}
+		return Found;
 	}
 
 private:
+	/** Two nodes, and the wires that are meant between them. */
+	struct FPair
+	{
+		FEndpoint Source;
+		FEndpoint Target;
+		std::vector<FLinkToEdit> Links;
+	};
+
+	void EditOne(FEditSession& Session, const std::vector<FEndpoint>& Nodes) const
+	{
+		const std::vector<FLinkToEdit> Links = FindLinks(Session.Editor.Blueprint(), Nodes.front(), std::nullopt);
+		if (Nodes.size() > 1)
+		{
+			Session.Say(TellAmbiguous(From, Nodes) + " I changed nothing.\n");
+		}
+		else if (Kind == EWiring::RemoveNode)
+		{
+			Remove(Session, Nodes.front());
+		}
+		else if (Links.empty())
+		{
+			Session.Say(TellNone(Nodes.front(), nullptr) + " I changed nothing.\n");
+		}
+		else
+		{
+			Tell(Session, Nodes.front().Graph, Links);
+		}
+	}
+
+	std::string TellNone(const FEndpoint& Source, const FEndpoint* Target) const
+	{
+		const std::string Between = Bold(Source.Title) + (Target ? " and " + Bold(Target->Title) : std::string());
+		return Kind == EWiring::Connect ? "I find no pins of " + Between +
+				" that fit each other: name them, as in \"connect Delay.Completed to Print String.execute\"."
+										: "There is no wire " + std::string(Target ? "between " : "at ") + Between + ".";
+	}
+
+	/** Asks about the end of which there are several. */
+	std::string TellSeveral(const std::vector<FPair>& Pairs) const
+	{
+		std::vector<FEndpoint> Sources;
+		std::vector<FEndpoint> Targets;
+		for (const FPair& Pair : Pairs)
+		{
+			AddOnce(Pair.Source, Sources);
+			AddOnce(Pair.Target, Targets);
+		}
+		return Sources.size() > 1 ? TellAmbiguous(From, Sources) : TellAmbiguous(To, Targets);
+	}
+
+	static void AddOnce(const FEndpoint& Node, std::vector<FEndpoint>& Nodes)
+	{
+		const bool bKnown = std::any_of(Nodes.begin(), Nodes.end(), [&Node](const FEndpoint& Other)
+			{ return Other.Graph == Node.Graph && Other.Node == Node.Node; });
+		if (!bKnown)
+		{
+			Nodes.push_back(Node);
+		}
+	}
+
+	static std::string TellAmbiguous(const std::string& Said, const std::vector<FEndpoint>& Nodes)
+	{
+		std::vector<std::string> Ids;
+		Ids.reserve(Nodes.size());
+		for (const FEndpoint& Node : Nodes)
+		{
+			Ids.push_back("`" + Node.Node + "` in " + Node.Graph);
+		}
+		return "There are " + CountOf(Nodes.size(), "node") + " called " + Quoted(Shortened(Said, 100)) + ": say which by its id, " +
+			JoinWithAnd(Ids) + ".";
+	}
+
 	void Tell(FEditSession& Session, const std::string& Graph, const std::vector<FLinkToEdit>& Links) const
 	{
 		const FEditOutcome Outcome = Session.Editor.EditLinks(Graph, Links);
@@ -145,68 +263,65 @@ private:
 		Finish(Session, {"Removed the node **" + Node.Title + "** from **" + Node.Graph + "**."});
 	}
 
-	/** The node, and the pin behind a point or "'s" or "of", that words mean; a question in Problem when they mean none or several. */
-	static std::optional<FEndpoint> Find(
-		const FBlueprintModel& Model, const std::string& Said, const std::string& InGraph, std::string& Problem)
-	{
-		std::vector<FEndpoint> Found = FindNodes(Model, Said, InGraph, {});
-		for (const std::string_view Separator : {".", "'s ", " pin "})
-		{
-			const std::size_t At = Said.rfind(Separator);
-			if (Found.empty() && At != std::string::npos)
-			{
-				Found = FindNodes(Model, Said.substr(0, At), InGraph, Said.substr(At + Separator.size()));
-			}
-		}
-		const std::size_t Of = Said.find(" of ");
-		if (Found.empty() && Of != std::string::npos)
-		{
-			Found = FindNodes(Model, Said.substr(Of + 4), InGraph, Said.substr(0, Of));
-		}
-		if (Found.size() == 1)
-		{
-			return Found.front();
-		}
-		std::vector<std::string> Ids;
-		Ids.reserve(Found.size());
-		for (const FEndpoint& Node : Found)
-		{
-			Ids.push_back("`" + Node.Node + "` in " + Node.Graph);
-		}
-		Problem = Found.empty() ? "**" + Model.Name + "** has no node called " + Quoted(Shortened(Said, 100)) + "."
-								: "There are " + CountOf(Found.size(), "node") + " called " + Quoted(Shortened(Said, 100)) +
-				": say which by its id, " + JoinWithAnd(Ids) + ".";
-		return std::nullopt;
-	}
-
-	static std::vector<FEndpoint> FindNodes(
-		const FBlueprintModel& Model, const std::string& Said, const std::string& InGraph, const std::string& Pin)
+	/** The nodes of a name to which a wire of execution leads from those of another. */
+	static std::vector<FEndpoint> FindFollowing(const FBlueprintModel& Model, const std::string& Said, const std::string& Before)
 	{
 		std::vector<FEndpoint> Found;
+		const std::vector<FEndpoint> Starts = FindNodes(Model, Before);
+		for (const FEndpoint& Node : FindNodes(Model, Said))
+		{
+			for (const FEndpoint& Start : Starts)
+			{
+				const std::vector<FLinkToEdit> Links =
+					Start.Graph == Node.Graph ? FindLinks(Model, Start, Node) : std::vector<FLinkToEdit>();
+				if (!Links.empty() && Links.front().FromNode == Start.Node)
+				{
+					AddOnce(Node, Found);
+				}
+			}
+		}
+		return Found;
+	}
+
+	static std::string WithoutArticle(const std::string& Said) { return StartsWith(LowerCase(Said), "the ") ? Said.substr(4) : Said; }
+
+	static std::string WithoutNoun(const std::string& Said)
+	{
+		for (const std::string_view Noun : {" pin", " output", " input"})
+		{
+			if (Said.size() > Noun.size() && EqualIgnoringCase(std::string_view(Said).substr(Said.size() - Noun.size()), Noun))
+			{
+				return Said.substr(0, Said.size() - Noun.size());
+			}
+		}
+		return Said;
+	}
+
+	static std::vector<FEndpoint> FindNodes(const FBlueprintModel& Model, const std::string& Said, const std::string& Pin = {})
+	{
+		std::vector<FEndpoint> Found;
+		std::vector<FEndpoint> Begun;
 		for (const FBlueprintGraph& Graph : Model.Graphs)
 		{
 			for (const FBlueprintNode& Node : Graph.Nodes)
 			{
 				const std::string Title = NodeTitle(Node);
-				const bool bId = EqualIgnoringCase(Node.Id, Said);
-				const bool bNamed = bId || SameName(Title, Said) || (!Node.Name.empty() && SameName(Node.Name, Said)) ||
-					(StartsWith(Title, "Event ") && SameName(Title.substr(6), Said));
-				if (!bNamed || (!InGraph.empty() && Graph.Id != InGraph))
-				{
-					continue;
-				}
 				const FEndpoint Endpoint{Graph.Id, Node.Id, Title, Pin.empty() ? std::string() : PinOf(Node, Pin)};
-				if (bId)
+				if (EqualIgnoringCase(Node.Id, Said))
 				{
 					return {Endpoint};
 				}
-				if (Pin.empty() || !Endpoint.Pin.empty())
+				const bool bNamed = SameName(Title, Said) || (!Node.Name.empty() && SameName(Node.Name, Said)) ||
+					(StartsWith(Title, "Event ") && SameName(Title.substr(6), Said));
+				// "The print" is a Print String, where no node is called just that.
+				const bool bBegun = Title.size() > Said.size() && Title[Said.size()] == ' ' && SameName(Title.substr(0, Said.size()), Said);
+				if ((bNamed || bBegun) && (Pin.empty() || !Endpoint.Pin.empty()))
 				{
-					Found.push_back(Endpoint);
+					(bNamed ? Found : Begun).push_back(Endpoint);
 				}
 			}
 		}
-		return Found;
+		return Found.empty() ? Begun : Found;
 	}
 
 	static std::string PinOf(const FBlueprintNode& Node, const std::string& Said)
@@ -297,6 +412,29 @@ std::optional<FEditRequest> ReadWiringRequest(const FEditMessage& Message)
 		if (const std::optional<FCaptures> Captures = MatchWords(Wording.Pattern, Message.Words))
 		{
 			return FEditRequest{.Blueprint = {}, .Edit = std::make_shared<FWiringEdit>(Wording.Kind, *Captures), .Question = {}};
+		}
+	}
+	return std::nullopt;
+}
+
+bool RemoveNodeCalled(FEditSession& Session, const std::string& Said)
+{
+	if (FWiringEdit::FindAll(Session.Editor.Blueprint(), Said).empty())
+	{
+		return false;
+	}
+	FWiringEdit(EWiring::RemoveNode, {{"from", {{.Text = Said}}}}).Run(Session);
+	return true;
+}
+
+std::optional<FEditRequest> ReadRemoveNode(const FEditMessage& Message)
+{
+	for (const std::string_view Wording : RemoveWordings)
+	{
+		const std::optional<FCaptures> Captures = MatchWords(Wording, Message.Words);
+		if (Captures && !CapturedText(*Captures, "from").empty())
+		{
+			return FEditRequest{.Blueprint = {}, .Edit = std::make_shared<FWiringEdit>(EWiring::RemoveNode, *Captures), .Question = {}};
 		}
 	}
 	return std::nullopt;
