@@ -65,8 +65,8 @@ TEST_F(FBlueprintToolFailureTest, AnUnknownNodeIsAnsweredWithThoseThatItMayBe)
 		IsEmpty());
 	ExpectRefused(TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': ['PrintSting_0']}",
 		"Node 'PrintSting_0' not found in the graph 'EventGraph'. Nearest: 'PrintString_0'");
-	EXPECT_THAT(ItemErrorsOf(TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': ['Xyz']}"),
-		ElementsAre("Failed to remove node 'Xyz': Blueprint manipulation failed: Node 'Xyz' not found in the graph 'EventGraph'"));
+	EXPECT_THAT(ItemErrorsOf(TEXT("node_remove"), "{'blueprint': 'BP', 'graph': 'EventGraph', 'nodes': ['Flight_0']}"),
+		ElementsAre("Failed to remove node 'Flight_0': Blueprint manipulation failed: Node 'Flight_0' not found in the graph 'EventGraph'"));
 }
 
 struct FSeverityCase

@@ -81,6 +81,15 @@ FString ListNearest(const TArray<FString>& Ids)
 	return List.IsEmpty() ? List : TEXT(". Nearest: ") + List;
 }
 
+/** "PrintString" of "PrintString_7": numbers make no two nodes alike. */
+FString WithoutNumber(const FString& NodeId)
+{
+	FString Title;
+	FString Number;
+	const bool bHasNumber = NodeId.Split(TEXT("_"), &Title, &Number, ESearchCase::CaseSensitive, ESearchDir::FromEnd) && Number.IsNumeric();
+	return bHasNumber ? Title : NodeId;
+}
+
 FString ListPins(const UEdGraphNode& Node, FVexelBlueprintMapping& Mapping)
 {
 	TArray<FString> Names;
@@ -276,12 +285,13 @@ FString FVexelBlueprintManipulator::ListNearestNodes(const UEdGraph& Graph, cons
 	{
 		return FString();
 	}
-	FVexelNearestTexts Nearest(NodeId.ToString());
+	FVexelNearestTexts Nearest(WithoutNumber(NodeId.ToString()));
 	for (const UEdGraphNode* const Node : Graph.Nodes)
 	{
 		if (Node)
 		{
-			Nearest.Offer(Mapping.MakeNodeReference(*Node, false).ToString());
+			const FString Id = Mapping.MakeNodeReference(*Node, false).ToString();
+			Nearest.Offer(Id, WithoutNumber(Id));
 		}
 	}
 	return ListNearest(Nearest.Get(MaxNearest));

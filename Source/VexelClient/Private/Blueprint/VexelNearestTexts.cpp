@@ -13,14 +13,14 @@ FVexelNearestTexts::FVexelNearestTexts(const FString& Wanted)
 {
 }
 
-void FVexelNearestTexts::Offer(const FString& Candidate)
+void FVexelNearestTexts::Offer(const FString& Candidate, const FString& Telling)
 {
-	if (Length == 0 || Candidate.IsEmpty())
+	if (Length == 0 || Telling.IsEmpty())
 	{
 		return;
 	}
 	// A short text stands in many long ones: what one has more than the other counts against both.
-	const double Rating = Score(Candidate) * 2 * FMath::Min(Length, Candidate.Len()) / (Length + Candidate.Len());
+	const double Rating = Score(Telling) * 2 * FMath::Min(Length, Telling.Len()) / (Length + Telling.Len());
 	if (Rating >= LeastAlike)
 	{
 		Rated.Add({Rating, Candidate});

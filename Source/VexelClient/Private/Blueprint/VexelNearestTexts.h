@@ -9,7 +9,9 @@ class FVexelNearestTexts
 public:
 	explicit FVexelNearestTexts(const FString& Wanted);
 
-	void Offer(const FString& Candidate);
+	/** Telling is the part of the candidate that is compared. */
+	void Offer(const FString& Candidate, const FString& Telling);
+	void Offer(const FString& Candidate) { Offer(Candidate, Candidate); }
 	/** The nearest first; those that look like nothing of it are left out. */
 	TArray<FString> Get(int32 MaxCount);
 
