@@ -62,8 +62,9 @@ void FLaneHeights::Settle(const TArray<int32>& InOrder)
 	Tighten(true);
 }
 
-void FLaneHeights::FillGaps()
+bool FLaneHeights::FillGaps()
 {
+	bool bAny = false;
 	TArray<TArray<int32>> BlocksOfColumns;
 	BlocksOfColumns.SetNum(NumColumns);
 	for (int32 Block = 0; Block < Blocks.Num(); ++Block)
@@ -80,9 +81,12 @@ void FLaneHeights::FillGaps()
 			const double Wanted = GetWanted(Block);
 			const double Distance = FMath::Abs(Wanted - Heights[Block]);
 			const double Free = Distance > LeastJump ? FindFreeHeight(Block, Wanted, Distance, BlocksOfColumns) : Heights[Block];
-			Heights[Block] = FMath::Abs(Wanted - Free) < Distance - LeastJump ? Free : Heights[Block];
+			const bool bJumps = FMath::Abs(Wanted - Free) < Distance - LeastJump;
+			Heights[Block] = bJumps ? Free : Heights[Block];
+			bAny |= bJumps;
 		}
 	}
+	return bAny;
 }
 
 double FLaneHeights::FindFreeHeight(

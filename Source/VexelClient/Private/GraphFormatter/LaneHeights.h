@@ -23,8 +23,11 @@ public:
 
 	/** The same from where the blocks stand; those that come too near to others in the new order move down. */
 	void Settle(const TArray<int32>& Order);
-	/** Lets blocks pass others, to free room nearer to where their wires ask them to be. Their order is then that of their heights. */
-	void FillGaps();
+	/**
+	 * Lets blocks pass others, to free room nearer to where their wires ask them to be. Their order is then that of their heights. False
+	 * where none is better off elsewhere.
+	 */
+	bool FillGaps();
 
 	/** The blocks' origins. */
 	const TArray<double>& Get() const { return Heights; }

@@ -40,9 +40,8 @@ TArray<double> FindHeights(const TArray<FLaneBlock>& Blocks)
 	{
 		Order.Improve();
 		Heights.Place(Order.Get());
-		for (int32 Filling = 0; Filling < NumFillings; ++Filling)
+		for (int32 Filling = 0; Filling < NumFillings && Heights.FillGaps(); ++Filling)
 		{
-			Heights.FillGaps();
 			Order.SortBy(Heights.Get());
 			Heights.Settle(Order.Get());
 		}
