@@ -2,6 +2,7 @@
 #include "GraphFormatter/LaneBlocks.h"
 #include "GraphFormatter/LaneHeights.h"
 #include "GraphFormatter/LaneOrder.h"
+#include "GraphFormatter/Obstacles.h"
 #include "Math/RandomStream.h"
 
 #include <gtest/gtest.h>
@@ -159,5 +160,66 @@ TEST(LaneHeights, KeepTheOrderAndTheGapsAndLevelWhatTheyCan)
 	FLaneHeights Heights(Straight);
 	Heights.Place(FLaneOrder(Straight).Get());
 	EXPECT_NEAR(0, Heights.GetLength(), 1e-3);
+}
+
+TEST(LaneHeights, ABlockPassesOthersToFreeRoomAtItsWire)
+{
+	// The order has the second one of the right column below the others, far from what it is wired to.
+	const TArray<FLaneBlock> Blocks = MakeColumns(3, 3, {{0, 2}, {2, 1}});
+	FLaneHeights Heights(Blocks);
+	const TArray<int32> Order = {0, 1, 2, 3, 4, 5};
+	Heights.Place(Order);
+	const double Before = Heights.GetLength();
+	ASSERT_GT(Before, 100);
+	EXPECT_TRUE(Heights.FillGaps());
+	FLaneOrder Filled(Blocks);
+	Filled.SortBy(Heights.Get());
+	Heights.Settle(Filled.Get());
+	EXPECT_LT(Heights.GetLength(), Before / 2);
+	for (const auto& [First, End] : {TPair<int32, int32>(0, 3), TPair<int32, int32>(3, 6)})
+	{
+		for (int32 A = First; A < End; ++A)
+		{
+			for (int32 B = A + 1; B < End; ++B)
+			{
+				EXPECT_GE(FMath::Abs(Heights.Get()[A] - Heights.Get()[B]), 100 - 1e-3) << A << " and " << B;
+			}
+		}
+	}
+	const TArray<FLaneBlock> Straight = MakeColumns(3, 3, {{0, 0}, {1, 1}, {2, 2}});
+	FLaneHeights Settled(Straight);
+	Settled.Place(Order);
+	EXPECT_FALSE(Settled.FillGaps()) << "nobody is better off elsewhere";
+}
+
+TEST(Obstacles, FreeHeightsLieBetweenWhatStandsBetweenTheSides)
+{
+	FObstacles Obstacles;
+	EXPECT_EQ(1, Obstacles.FindFreeHeights(0, 100).Num()) << "where nothing stands, all is free";
+	Obstacles.Add(FBox2D(FVector2D(0, 500), FVector2D(50, 600)));
+	Obstacles.Add(FBox2D(FVector2D(20, 0), FVector2D(80, 100)));
+	Obstacles.Add(FBox2D(FVector2D(40, 50), FVector2D(60, 200)));
+	Obstacles.Add(FBox2D(FVector2D(100, 300), FVector2D(200, 400)));
+	const TArray<FFreeHeights> Free = Obstacles.FindFreeHeights(0, 100);
+	ASSERT_EQ(3, Free.Num()) << "what begins at a side stands beside it";
+	EXPECT_EQ(0, Free[0].Bottom);
+	EXPECT_EQ(200, Free[1].Top);
+	EXPECT_EQ(500, Free[1].Bottom);
+	EXPECT_EQ(600, Free[2].Top);
+	EXPECT_EQ(1, Obstacles.FindFreeHeights(300, 400).Num());
+}
+
+TEST(Obstacles, AWayPassesWhatItNeitherBeginsNorEndsAt)
+{
+	FObstacles Obstacles;
+	Obstacles.Add(FBox2D(FVector2D(0, 0), FVector2D(100, 100)));
+	Obstacles.Add(FBox2D(FVector2D(200, 0), FVector2D(300, 100)));
+	Obstacles.Add(FBox2D(FVector2D(400, 0), FVector2D(500, 100)));
+	EXPECT_EQ(1, Obstacles.CountPassed({FVector2D(100, 50), FVector2D(400, 50)}));
+	EXPECT_EQ(0, Obstacles.CountPassed({FVector2D(100, 50), FVector2D(200, 50)}));
+	EXPECT_EQ(0, Obstacles.CountPassed({FVector2D(100, 100), FVector2D(400, 100)})) << "along an edge";
+	EXPECT_EQ(1, Obstacles.CountPassed({FVector2D(250, -50), FVector2D(250, 150)})) << "upright";
+	EXPECT_EQ(0, Obstacles.CountPassed({FVector2D(150, -50), FVector2D(150, 150)}));
+	EXPECT_EQ(3, Obstacles.CountPassed({FVector2D(-50, 50), FVector2D(600, 60)}));
 }
 }

@@ -1,4 +1,5 @@
 #include "Blueprint/Builders/VexelBlueprintPropTypeBuilder.h"
+#include "Blueprint/VexelBlueprintEnums.h"
 #include "Blueprint/VexelBlueprintNodePin.h"
 #include "Blueprint/VexelBlueprintPropType.h"
 #include "EdGraphSchema_K2.h"
@@ -23,6 +24,7 @@ struct FCategoryCase
 
 TEST_F(FPropertyTypeIdTest, EachCategoryIsWrittenWithItsObject)
 {
+	const FName AllObjectTypes(TEXT("AllObjectTypes"));
 	const FCategoryCase Cases[] = {
 		{UEdGraphSchema_K2::PC_Boolean, "bool", nullptr},
 		{UEdGraphSchema_K2::PC_Int, "int", nullptr},
@@ -38,6 +40,14 @@ TEST_F(FPropertyTypeIdTest, EachCategoryIsWrittenWithItsObject)
 		{UEdGraphSchema_K2::PC_SoftObject, "softobject.Actor", TEXT("Actor")},
 		{UEdGraphSchema_K2::PC_SoftClass, "softclass.Actor", TEXT("Actor")},
 		{UEdGraphSchema_K2::PC_Interface, "interface.Actor", TEXT("Actor")},
+		{UEdGraphSchema_K2::PC_Exec, "exec", nullptr},
+		{UEdGraphSchema_K2::PC_Name, "name", nullptr},
+		{UEdGraphSchema_K2::PC_Text, "text", nullptr},
+		{UEdGraphSchema_K2::PC_Class, "class", nullptr},
+		{UEdGraphSchema_K2::PC_SoftObject, "softobject", nullptr},
+		{UEdGraphSchema_K2::PC_SoftClass, "softclass", nullptr},
+		{AllObjectTypes, "AllObjectTypes", nullptr},
+		{AllObjectTypes, "AllObjectTypes.Actor", TEXT("Actor")},
 		{UEdGraphSchema_K2::PC_Struct, "struct.Vector", TEXT("Vector")},
 		{UEdGraphSchema_K2::PC_Byte, "enum.ECollisionChannel", TEXT("ECollisionChannel")},
 		// An object that the category does not speak of is no part of the type.
@@ -129,6 +139,26 @@ TEST_F(FPropertyTypeIdTest, HugeIdsAreRefused)
 	{
 		EXPECT_FALSE(Mapping.ResolvePropType(TVexelPropTypeId(TEXT("object.") + FString::ChrN(Length, TEXT('b'))), Type));
 	}
+}
+
+TEST_F(FPropertyTypeIdTest, DirectionsAndContainersAreWordsOfATable)
+{
+	for (const auto& [Direction, Word] :
+		{std::pair{EGPD_Input, "input"}, std::pair{EGPD_Output, "output"}, std::pair{EGPD_MAX, "unknown"}})
+	{
+		EXPECT_EQ(Word, ToStd(FString(VexelBlueprintWords::GetWord(Direction))));
+	}
+	for (const auto& [Container, Word] : {std::pair{EPinContainerType::None, "none"}, std::pair{EPinContainerType::Array, "array"},
+			 std::pair{EPinContainerType::Set, "set"}, std::pair{EPinContainerType::Map, "map"}})
+	{
+		EXPECT_EQ(Word, ToStd(FString(VexelBlueprintWords::GetWord(Container))));
+		EPinContainerType Read = EPinContainerType::None;
+		EXPECT_TRUE(VexelBlueprintWords::FindByWord(FString(VexelBlueprintWords::GetWord(Container)), Read));
+		EXPECT_EQ(Container, Read);
+	}
+	EEdGraphPinDirection Untouched = EGPD_Output;
+	EXPECT_FALSE(VexelBlueprintWords::FindByWord(TEXT("unknown"), Untouched));
+	EXPECT_EQ(EGPD_Output, Untouched);
 }
 
 TEST_F(FPropertyTypeIdTest, PinRecordReadsBackFromItsJson)
