@@ -2,6 +2,7 @@
 
 #include "EdGraph/EdGraphNode.h"
 #include "GraphFormatter/FormatterGraph.h"
+#include "GraphFormatter/Obstacles.h"
 
 #include <chrono>
 #include <cmath>
@@ -40,29 +41,6 @@ bool DoCross(const FSegment& S, const FSegment& T)
 		return false;
 	}
 	return Cross(S.A, S.B, T.A) * Cross(S.A, S.B, T.B) < 0 && Cross(T.A, T.B, S.A) * Cross(T.A, T.B, S.B) < 0;
-}
-
-/** Whether the segment has a point well inside the box. */
-bool Passes(const FSegment& Segment, FBox2D Box)
-{
-	constexpr double Margin = 2.0;
-	Box = Box.ExpandBy(-Margin);
-	double Enter = 0.0;
-	double Leave = 1.0;
-	const FVector2D Direction = Segment.B - Segment.A;
-	const auto Clip = [&](double Origin, double Delta, double Least, double Most)
-	{
-		if (std::abs(Delta) < 1e-9)
-		{
-			return Origin > Least && Origin < Most;
-		}
-		const double First = (Least - Origin) / Delta;
-		const double Second = (Most - Origin) / Delta;
-		Enter = std::max(Enter, std::min(First, Second));
-		Leave = std::min(Leave, std::max(First, Second));
-		return Enter < Leave;
-	};
-	return Clip(Segment.A.X, Direction.X, Box.Min.X, Box.Max.X) && Clip(Segment.A.Y, Direction.Y, Box.Min.Y, Box.Max.Y);
 }
 
 template <typename ElementType, typename FunctionType>
@@ -153,7 +131,7 @@ FLayoutMeasure FLayoutSubject::Measure(const std::vector<FVector2D>& Places) con
 		bool bCovered = false;
 		for (int32 Node = 0; Node < int32(Boxes.size()) && !bCovered; ++Node)
 		{
-			bCovered = Node != Wire.From && Node != Wire.To && Passes(Segment, Boxes[Node]);
+			bCovered = Node != Wire.From && Node != Wire.To && FSegment2D{Segment.A, Segment.B}.Passes(Boxes[Node]);
 		}
 		Result.NumCovered += bCovered;
 	}
