@@ -52,6 +52,24 @@ constexpr FPhrase Phrases[] = {
 	{"automatically|immediately|instantly", ""},
 };
 
+// What a request may begin with, and what comes behind it is meant.
+constexpr std::string_view Leads[] = {
+	"can|could|would|will you [please]",
+	"i want|need you to",
+	"i want|need it|this to",
+	"i would|i'd like you|it to",
+	"i want|need|like {subject} to",
+	"i would|i'd like {subject} to",
+	"i want|need|would|i'd [like]",
+	"let's",
+	"make it so that|so|:",
+	"make sure that",
+	"make sure",
+	"have it",
+	"build|write|create|add|implement logic|behavior|behaviour|code|flow|nodes|graph|something so that",
+	"build|write|create|add|implement [some] [new] logic|behavior|behaviour|code|nodes|something that|which|:",
+};
+
 constexpr std::string_view Arrows = "->|=>|-->";
 constexpr std::string_view Openers = "when|whenever|on|upon|every|each|if|after|in";
 
@@ -154,6 +172,39 @@ FEditWords ToPlainPhrases(const FEditWords& Said)
 		At += std::max<std::size_t>(Taken, 1);
 	}
 	return Result;
+}
+
+std::optional<FEditWords> WithoutLead(std::string_view Pattern, const FEditWords& Words)
+{
+	constexpr std::size_t MaxLeadWords = 8;
+	const std::size_t Most = std::min(Words.size(), MaxLeadWords);
+	const bool bHasSubject = Pattern.find('{') != std::string_view::npos;
+	for (std::size_t Step = 0; Step < Most; ++Step)
+	{
+		// As many words as can lead, but the shortest subject.
+		const std::size_t Count = bHasSubject ? Step + 1 : Most - Step;
+		const FEditWords Begin = PartOf(Words, 0, Count);
+		std::optional<FCaptures> Captures = Begin.back().bMark ? std::nullopt : MatchWords(Pattern, Begin);
+		if (Captures)
+		{
+			FEditWords Rest = (*Captures)["subject"];
+			Rest.insert(Rest.end(), Words.begin() + static_cast<std::ptrdiff_t>(Count), Words.end());
+			return Rest;
+		}
+	}
+	return std::nullopt;
+}
+
+FEditWords WithoutLead(const FEditWords& Words)
+{
+	for (const std::string_view Lead : Leads)
+	{
+		if (const std::optional<FEditWords> Rest = WithoutLead(Lead, Words))
+		{
+			return WithoutLead(*Rest);
+		}
+	}
+	return Words;
 }
 
 }

@@ -1,5 +1,6 @@
 #include "Assistant/Edits/FlowRequest.h"
 
+#include "Assistant/Edits/FlowPhrases.h"
 #include "Assistant/QuestionWords.h"
 #include "Assistant/Words.h"
 
@@ -20,23 +21,6 @@ constexpr std::string_view WholeOpeners = "every|each|pressing|releasing";
 constexpr std::string_view ConditionOpeners = "if|when|once|unless|whenever";
 constexpr std::string_view Separators = "then|and|afterwards|next|finally|but|also|that|which|to";
 constexpr std::string_view Otherwise = "otherwise|else";
-// What a request may begin with, and what comes behind it is meant.
-constexpr std::string_view Leads[] = {
-	"can|could|would|will you [please]",
-	"i want|need you to",
-	"i want|need it|this to",
-	"i would|i'd like you|it to",
-	"i want|need|like {subject} to",
-	"i would|i'd like {subject} to",
-	"i want|need|would|i'd [like]",
-	"let's",
-	"make it so that|so|:",
-	"make sure that",
-	"make sure",
-	"have it",
-	"build|write|create|add|implement logic|behavior|behaviour|code|flow|nodes|graph|something so that",
-	"build|write|create|add|implement [some] [new] logic|behavior|behaviour|code|nodes|something that|which|:",
-};
 // Two chains are looked for in sentences of a length that people speak.
 constexpr std::size_t MaxWordsOfTwoChains = 40;
 constexpr std::size_t MaxWordCost = 1'000'000;
@@ -538,40 +522,6 @@ private:
 	std::map<std::pair<std::size_t, std::size_t>, FReadSteps> Known;
 };
 
-/** What is left of words that the pattern leads, with the subject before it that the pattern may name; nothing where it does not lead. */
-std::optional<FEditWords> WithoutLead(std::string_view Front, const FEditWords& Words)
-{
-	constexpr std::size_t MaxLeadWords = 8;
-	const std::size_t Most = std::min(Words.size(), MaxLeadWords);
-	const bool bHasSubject = Front.find('{') != std::string_view::npos;
-	for (std::size_t Step = 0; Step < Most; ++Step)
-	{
-		// As many words as can lead, but the shortest subject.
-		const std::size_t Count = bHasSubject ? Step + 1 : Most - Step;
-		const FEditWords Begin = PartOf(Words, 0, Count);
-		std::optional<FCaptures> Captures = Begin.back().bMark ? std::nullopt : MatchWords(Front, Begin);
-		if (Captures)
-		{
-			FEditWords Rest = (*Captures)["subject"];
-			Rest.insert(Rest.end(), Words.begin() + static_cast<std::ptrdiff_t>(Count), Words.end());
-			return Rest;
-		}
-	}
-	return std::nullopt;
-}
-
-}
-
-FEditWords WithoutLead(const FEditWords& Words)
-{
-	for (const std::string_view Lead : Leads)
-	{
-		if (const std::optional<FEditWords> Rest = WithoutLead(Lead, Words))
-		{
-			return WithoutLead(*Rest);
-		}
-	}
-	return Words;
 }
 
 FFlowChain ReadEvent(const FEditWords& Said)

@@ -59,9 +59,6 @@ FComparison ReadComparison(const FEditWords& Words);
 /** The event of words such as "the player overlaps it", without "when"; null members where none fits. */
 FFlowChain ReadEvent(const FEditWords& Words);
 
-/** The words without what a request may begin with: "can you", "I want it to", "make sure that". */
-FEditWords WithoutLead(const FEditWords& Words);
-
 /** Reads what happens when; nothing where no event and no step is told. */
 std::optional<FFlowRequest> ReadFlow(const FEditWords& Words);
 
