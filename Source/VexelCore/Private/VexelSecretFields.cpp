@@ -14,8 +14,6 @@ namespace
 class FWipingAllocator
 {
 public:
-	static constexpr bool kNeedFree = true;
-
 	void* Malloc(size_t NumBytes)
 	{
 		if (NumBytes == 0)
