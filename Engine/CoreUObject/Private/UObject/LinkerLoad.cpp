@@ -11,6 +11,7 @@
 #include "UObject/PlaceholderObject.h"
 #include "UObject/SoftObjectPtr.h"
 #include "UObject/UObjectGlobals.h"
+#include "UObject/UObjectHash.h"
 #include "UObject/UnrealType.h"
 
 namespace
@@ -67,6 +68,24 @@ private:
 	int64 OldPosition;
 	int64 OldLimit;
 };
+
+/** About what a copy of the object and of its parts takes in memory: their values take a small multiple of their bytes in the file. */
+int64 MeasureCopy(UObject& Object)
+{
+	constexpr int64 MemoryPerValueByte = 4;
+	TArray<UObject*> Objects;
+	GetObjectsWithOuter(&Object, Objects);
+	Objects.Add(&Object);
+	int64 Bytes = 0;
+	for (const UObject* const Copied : Objects)
+	{
+		const FLinkerLoad* const Linker = Copied->GetPackage()->GetLinker();
+		const int32 ExportIndex = Linker ? Linker->FindExportOf(Copied) : INDEX_NONE;
+		const int64 ValueBytes = ExportIndex == INDEX_NONE ? 0 : Linker->ExportMap[ExportIndex].SerialSize;
+		Bytes += Copied->GetClass()->GetPropertiesSize() + ValueBytes * MemoryPerValueByte;
+	}
+	return Bytes;
+}
 
 /**
  * Gives an object that is about to be read the values of its archetype. Where two packages refer to each other it may have been made
@@ -349,11 +368,15 @@ UObject* FLinkerLoad::MakeExportObject(int32 ExportIndex, UClass* Class, UObject
 	Params.Outer = Outer;
 	Params.Name = Export.ObjectName;
 	Params.SetFlags = Flags;
-	Params.Template = UObject::GetArchetypeFromRequiredInfo(Class, Outer, Export.ObjectName, Flags);
-	Preload(Params.Template);
+	UObject* const Archetype = UObject::GetArchetypeFromRequiredInfo(Class, Outer, Export.ObjectName, Flags);
+	const bool bHasOwnArchetype = Archetype != Class->GetDefaultObject(false);
+	Preload(Archetype);
+	// A few bytes could ask for a copy of a large archetype, many times. Where memory runs out the next objects are refused.
+	const bool bMayCopy = bHasOwnArchetype && SpendMemory(MeasureCopy(*Archetype));
 	// A stand-in's class is abstract, to keep others from making instances; a template lets this one be made.
-	const bool bNeedsTemplate = Params.Template != Class->GetDefaultObject(false) || UE::CoreUObject::IsPlaceholder(Class);
-	Params.Template = bNeedsTemplate ? Params.Template : nullptr;
+	const bool bStandsIn = UE::CoreUObject::IsPlaceholder(Class);
+	Params.Template = bStandsIn ? Class->GetDefaultObject() : bMayCopy ? Archetype
+																	   : nullptr;
 	return StaticConstructObject_Internal(Params);
 }
 
