@@ -18,24 +18,6 @@ namespace
 
 constexpr std::string_view Suffix = "component";
 
-struct FNativeComponent
-{
-	std::string_view Owner;
-	std::string_view Name;
-	std::string_view Class;
-};
-
-/** What exports leave out: the components that native classes have by themselves. */
-constexpr FNativeComponent NativeComponents[] = {
-	{"Character", "Mesh", "SkeletalMeshComponent"},
-	{"Character", "CapsuleComponent", "CapsuleComponent"},
-	{"Character", "CharacterMovement", "CharacterMovementComponent"},
-	{"StaticMeshActor", "StaticMeshComponent", "StaticMeshComponent"},
-};
-
-/** Classes that have no other components than those. */
-constexpr std::string_view KnownClasses = "Object|Actor|Pawn|Character|StaticMeshActor|ActorComponent|SceneComponent";
-
 /** "Mesh" of "MeshComponent"; the name itself where nothing would be left. */
 std::string WithoutSuffix(const std::string& CompactedName)
 {
@@ -71,18 +53,7 @@ FComponents::FComponents(const FBlueprintModel& Model)
 			}
 		}
 	}
-	bAllKnown = Model.Defaults.Id.size() > 0 && !Model.ParentChain.empty();
-	for (const std::string& Parent : Model.ParentChain)
-	{
-		bAllKnown = bAllKnown && IsOneOf(Parent, KnownClasses);
-		for (const FNativeComponent& Native : NativeComponents)
-		{
-			if (Native.Owner == Parent)
-			{
-				Add(Native.Name, "object." + std::string(Native.Class));
-			}
-		}
-	}
+	bAllKnown = !Model.Defaults.Id.empty();
 }
 
 void FComponents::Add(std::string_view Name, std::string_view Type)

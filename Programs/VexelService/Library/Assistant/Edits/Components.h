@@ -16,7 +16,7 @@ struct FComponent
 	std::string Class;
 };
 
-/** What a Blueprint's export tells of its components: those that it adds, those of which its graphs speak, and its native parents' own. */
+/** What a Blueprint's export tells of its components: those that it and its parents have, and those of which its graphs speak. */
 class FComponents
 {
 public:
@@ -28,7 +28,7 @@ public:
 	 */
 	std::vector<FComponent> Find(std::string_view Said) const;
 
-	/** False where a parent may have more of them, which the export does not show. */
+	/** False where the export shows no defaults, and so may leave components out. */
 	bool AreAllKnown() const { return bAllKnown; }
 
 	/** "**Door** has two components that fit ..., **Lamp** and **Torch**. Name the one that you mean." */
