@@ -10,6 +10,7 @@
 #include "Misc/OutputDeviceNull.h"
 #include "Misc/Paths.h"
 #include "ScriptedHttpServer.h"
+#include "Subsystem/VexelChatSubsystem.h"
 #include "Subsystem/VexelStatusInfo.h"
 #include "ToolMenus.h"
 #include "UObject/GarbageCollection.h"
@@ -208,6 +209,21 @@ TEST_F(Module, TheClientIdIsFetchedOnceForPreloadAndLogin)
 		NumFetches += Request.GetPath() == "/api/auth/plugin-client-id" ? 1 : 0;
 	}
 	EXPECT_EQ(NumFetches, 1);
+}
+
+TEST_F(Module, ChatModesAreThoseThatTheFeaturesNameOnceTheAccountIsKnown)
+{
+	const auto GetModes = []
+	{
+		return FString::JoinBy(UVexelChatSubsystem::GetAllowedChatModes(), TEXT(" "), [](const FVexelChatModeInfo& Mode)
+			{ return Mode.ChatMode; });
+	};
+	EXPECT_EQ(GetModes(), TEXT("vexel_agent vexel_agent_lite"));
+	SetFeatures({"VEXEL_Agent_Lite", "b"});
+	LogIn();
+	EXPECT_EQ(GetModes(), TEXT("vexel_agent_lite"));
+	FVexelAuthUserInfo::Clear();
+	EXPECT_EQ(GetModes(), TEXT("vexel_agent vexel_agent_lite"));
 }
 
 TEST_F(Module, FeaturesGoWithEveryLaterRequestUntilTheyAreGone)

@@ -71,7 +71,7 @@ TConstArrayView<FChatSession::FCommand> FChatSession::GetCommands()
 		{TEXT("/new"), TEXT(""), TEXT("begins a new conversation"), &FChatSession::BeginNew},
 		{TEXT("/list"), TEXT(""), TEXT("the stored conversations, the newest first"), &FChatSession::ListConversations},
 		{TEXT("/open"), TEXT("NUMBER"), TEXT("goes on with a conversation of the list"), &FChatSession::OpenConversation},
-		{TEXT("/mode"), TEXT("[MODE]"), TEXT("the chat modes, or another one for what follows"), &FChatSession::ChangeMode},
+		{TEXT("/mode"), TEXT("[MODE]"), TEXT("the chat modes that the account has, or another one for what follows"), &FChatSession::ChangeMode},
 		{TEXT("/revert"), TEXT("[NUMBER]"), TEXT("the answers so far, or back to how things stood after one of them"), &FChatSession::Revert},
 		{TEXT("/undo"), TEXT("[all]"), TEXT("takes back the last edit of the project, or all of the last answer"), &FChatSession::Undo},
 		{TEXT("/redo"), TEXT("[all]"), TEXT("makes the edit again that was taken back last, or all that were"), &FChatSession::Redo},
@@ -187,7 +187,7 @@ FCompletions FChatSession::Complete(const FString& Line) const
 	}
 	else if (Words.Num() == 1 && Words[0] == TEXT("/mode"))
 	{
-		AddAll(UVexelChatSubsystem::GetAllChatModes(), [](const FVexelChatModeInfo& Mode)
+		AddAll(UVexelChatSubsystem::GetAllowedChatModes(), [](const FVexelChatModeInfo& Mode)
 			{ return Mode.ChatMode; });
 	}
 	else if (Words.Num() == 1 && (Words[0] == TEXT("/undo") || Words[0] == TEXT("/redo")))
@@ -279,7 +279,7 @@ TOptional<FString> FChatSession::OpenConversation(const TArray<FString>& Words)
 
 TOptional<FString> FChatSession::ChangeMode(const TArray<FString>& Words)
 {
-	const TArray<FVexelChatModeInfo> Modes = UVexelChatSubsystem::GetAllChatModes();
+	const TArray<FVexelChatModeInfo> Modes = UVexelChatSubsystem::GetAllowedChatModes();
 	if (Words.IsEmpty())
 	{
 		TArray<FStyledLine> Lines;
@@ -304,7 +304,7 @@ TOptional<FString> FChatSession::ChangeMode(const TArray<FString>& Words)
 		{ return Row.ChatMode.Equals(Wanted, ESearchCase::IgnoreCase) || Row.DisplayText.Equals(Wanted, ESearchCase::IgnoreCase); });
 	if (!Mode)
 	{
-		return FString::Printf(TEXT("there is no mode '%s'; /mode shows those that there are"), *Wanted);
+		return FString::Printf(TEXT("your account has no mode '%s'; /mode shows those that it has"), *Wanted);
 	}
 	const TVexelExpected<void> Changed = Subsystem.SetChatMode(Conversation->GetChatId(), *Mode);
 	if (Changed.HasError())

@@ -1,6 +1,7 @@
 #include "Subsystem/VexelChatSubsystem.h"
 
 #include "Auth/VexelAuth.h"
+#include "Auth/VexelAuthUserInfo.h"
 #include "Chat/VexelChatHistoryManager.h"
 #include "Chat/VexelChatImageStore.h"
 #include "Chat/VexelChatRequest.h"
@@ -237,6 +238,13 @@ FString UVexelChatSubsystem::FindImage(const FString& ChatId, const FString& Ass
 TArray<FVexelChatModeInfo> UVexelChatSubsystem::GetAllChatModes()
 {
 	return FVexelChatModeInfo::GetOfferedModes();
+}
+
+TArray<FVexelChatModeInfo> UVexelChatSubsystem::GetAllowedChatModes()
+{
+	const FVexelAuthUserInfo User = FVexelAuthUserInfo::GetCurrent();
+	return GetAllChatModes().FilterByPredicate([&User](const FVexelChatModeInfo& Mode)
+		{ return !User.IsValid() || User.CanUseChatMode(Mode); });
 }
 
 FVexelChatModeInfo UVexelChatSubsystem::GetDefaultAgentChatMode()

@@ -103,6 +103,8 @@ public:
 	FString FindImage(const FString& ChatId, const FString& AssetId) const;
 
 	static TArray<FVexelChatModeInfo> GetAllChatModes();
+	/** Those of them that the features of the logged-in account allow; all while the account is not known. */
+	static TArray<FVexelChatModeInfo> GetAllowedChatModes();
 	static FVexelChatModeInfo GetDefaultAgentChatMode();
 	static FVexelChatModeInfo GetDefaultChatMode();
 
