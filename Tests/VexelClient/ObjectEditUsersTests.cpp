@@ -7,8 +7,11 @@
 #include "K2Node_VariableSet.h"
 #include "ObjectEditFixture.h"
 
+#include "AssetRegistry/AssetData.h"
+#include "AssetRegistry/IAssetRegistry.h"
 #include "Misc/FileHelper.h"
 #include "Misc/PackageName.h"
+#include "UObject/SoftObjectPath.h"
 #include "UObject/UnrealType.h"
 
 #include <gmock/gmock.h>
@@ -70,6 +73,8 @@ protected:
 		ASSERT_EQ(nullptr, FindObject<UBlueprint>(nullptr, *UserPath));
 		ASSERT_EQ(nullptr, FindObject<UBlueprint>(nullptr, *ChildPath));
 		UserPathOnDisk = UserPath;
+		// Asked for the first time, the registry looks at the files: here, before a test damages one.
+		ASSERT_TRUE(IAssetRegistry::GetChecked().GetAssetByObjectPath(FSoftObjectPath(UserPath)).IsValid());
 	}
 
 	/** What the edit has loaded. */
