@@ -453,6 +453,8 @@ TEST_F(MemberEdit, PropertiesOfTheClassDefaultsAreFoundByTheirWords)
 		{"make the mesh invisible in BP_Enemy", "update  $ClassDefaultObject.Mesh.bVisible \"False\""},
 		{"set the location of the mesh to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
 		{"set the mesh's location to 1, 2, 3 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeLocation \"(X=1,Y=2,Z=3)\""},
+		{"set the scale of the mesh to 2 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeScale3D \"(X=2,Y=2,Z=2)\""},
+		{"set the mesh's relative scale to 1, 1, 0.5 in BP_Enemy", "update  $ClassDefaultObject.Mesh.RelativeScale3D \"(X=1,Y=1,Z=0.5)\""},
 		{"make the body red in BP_Enemy", "update  $ClassDefaultObject.Body.LightColor \"(R=255,G=0,B=0,A=255)\""},
 		{"set the yaw of the rotation of the body to 90 in BP_Enemy", "update  $ClassDefaultObject.Body.RelativeRotation.Yaw \"90\""},
 		{"make BP_Enemy hidden", "update  $ClassDefaultObject.bHidden \"True\""},

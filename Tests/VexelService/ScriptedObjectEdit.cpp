@@ -293,7 +293,7 @@ std::string FScriptedObjectEdit::Update(const FJson& Target, const FJson& Operat
 		const char* Type;
 	} Known[] = {{".InitialLifeSpan", "real"}, {".bHidden", "bool"}, {".Mesh.bVisible", "bool"}, {".Body.bVisible", "bool"},
 		{".Body.LightColor", "struct.Color"}, {".Body.RelativeRotation.Yaw", "real"}, {".CharacterMovement.MaxWalkSpeed", "real"},
-		{".Mesh.RelativeLocation", "struct.Vector"}};
+		{".Mesh.RelativeLocation", "struct.Vector"}, {".Mesh.RelativeScale3D", "struct.Vector"}};
 	if (StartsWith(Path, std::string(DefaultObject) + ".PointLight."))
 	{
 		return "Property 'PointLight' does not contain a valid compound";

@@ -20,6 +20,7 @@ struct FPropertyWords
 	std::string_view Words;
 	const char* Name;
 	const char* Type;
+	bool bUniform = false;
 };
 
 constexpr FPropertyWords PropertyWords[] = {
@@ -27,7 +28,7 @@ constexpr FPropertyWords PropertyWords[] = {
 	{"hidden|hidden in game", "bHidden", "bool"},
 	{"location|position|relative location", "RelativeLocation", "struct.Vector"},
 	{"rotation|relative rotation", "RelativeRotation", "struct.Rotator"},
-	{"scale|relative scale", "RelativeScale3D", "struct.Vector"},
+	{"scale|relative scale|size", "RelativeScale3D", "struct.Vector", true},
 	{"color|colour|light color|light colour", "LightColor", "struct.Color"},
 	{"life span|lifespan|life time|lifetime", "InitialLifeSpan", "real"},
 	{"attenuation", "AttenuationRadius", "real"},
@@ -61,7 +62,7 @@ std::vector<FPropertyName> GuessPropertyNames(std::string_view Said)
 	std::vector<FPropertyName> Names;
 	if (const FPropertyWords* const Known = FindRow(PropertyWords, Said))
 	{
-		Names.push_back({Known->Name, Known->Type});
+		Names.push_back({Known->Name, Known->Type, Known->bUniform});
 	}
 	const bool bBoolean = Said.size() > 1 && Said[0] == 'b' && Said[1] >= 'A' && Said[1] <= 'Z';
 	if (bBoolean)

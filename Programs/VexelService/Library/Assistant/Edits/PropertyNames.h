@@ -13,6 +13,8 @@ struct FPropertyName
 	std::string Name;
 	/** Empty where the editor alone knows it. */
 	std::string Type = {};
+	/** One number is meant for each of its members: "scale 2" is (2, 2, 2). */
+	bool bUniform = false;
 };
 
 /** What a user's words may name of a class's properties, the likeliest first: "max walk speed" is MaxWalkSpeed. */

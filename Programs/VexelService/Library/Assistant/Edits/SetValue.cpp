@@ -246,16 +246,17 @@ private:
 		return Owners;
 	}
 
-	std::vector<FJson> GuessValues(FEditSession& Session, const std::string& Path, const std::string& GuessedType,
-		std::string& Problem) const
+	std::vector<FJson> GuessValues(FEditSession& Session, const std::string& Owner, const FPropertyName& Name, std::string& Problem) const
 	{
-		const FBlueprintProperty* const Known = FindDefault(Session.Editor.Blueprint(), Path);
-		const std::string& Type = Known && !Known->Type.empty() ? Known->Type : GuessedType;
+		const FBlueprintProperty* const Known = FindDefault(Session.Editor.Blueprint(), Owner + "." + Name.Name);
+		const std::string& Type = Known && !Known->Type.empty() ? Known->Type : Name.Type;
 		if (Type.empty())
 		{
 			return GuessWireValues(Value);
 		}
-		const FWireValue Wire = ResolveValue(Session, Value, Type);
+		const bool bOne = Value.size() == 1 && Value.front().Text.find(',') == std::string::npos;
+		const bool bForEach = Name.bUniform && bOne && Type == "struct.Vector";
+		const FWireValue Wire = ResolveValue(Session, bForEach ? FEditWords(3, Value.front()) : Value, Type);
 		Problem = Wire.Problem.empty() ? Problem : Wire.Problem;
 		return Wire.Json ? std::vector<FJson>{*Wire.Json} : std::vector<FJson>();
 	}
@@ -301,7 +302,7 @@ private:
 	{
 		for (const FPropertyName& Name : GuessPropertyNames(Member.Names.front()))
 		{
-			for (const FJson& Wire : GuessValues(Session, Owner + "." + Name.Name, Name.Type, Problem))
+			for (const FJson& Wire : GuessValues(Session, Owner, Name, Problem))
 			{
 				if (Session.IsOver() || ++NumAttempts > MaxAttempts)
 				{
