@@ -19,6 +19,8 @@ protected:
 		FEditorTest::SetUp();
 		ASSERT_TRUE(bModuleWanted);
 		FVexelStatusInfo::StopMonitoring();
+		// The check with which the module began may have failed already.
+		Log.Clear();
 		OldUrl = FVexelInternalConfig::Find(TEXT("StatusUrl"))->Get();
 		FVexelInternalConfig::Find(TEXT("StatusUrl"))->SetOverride(Server.GetUrl());
 		Handle = FVexelStatusInfo::OnStatusChanged().AddLambda([this](const FVexelStatusInfo& Info)
