@@ -505,7 +505,8 @@ TEST_F(Module, ALoginIsOfferedToTheServiceThatItIsOfAlone)
 	FVexelClient::Get().ShutdownModule();
 	FVexelInternalConfig::Find(TEXT("ApiUrl"))->SetOverride(Server.GetUrl() + TEXT("/"));
 	FVexelClient::Get().StartupModule();
-	EXPECT_EQ(FVexelAuth::GetState(), FVexelAuth::EState::LoggingIn);
+	// Its state may have gone on from "logging in" already.
+	EXPECT_EQ(Log.Count("No valid stored refresh token found for auto-login."), 1) << Log.ToText();
 
 	FVexelClient::Get().ShutdownModule();
 	EXPECT_TRUE(FVexelSecureStorage::DeleteValue(TEXT("rt")).HasValue());
